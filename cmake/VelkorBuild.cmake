@@ -1,0 +1,85 @@
+# What every target of the project has in common, and the few functions that declare targets.
+
+include(GNUInstallDirs)
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+
+add_compile_options(-Wall -Wextra -Wpedantic -Werror -fno-semantic-interposition -fvisibility-inlines-hidden)
+add_link_options(-Wl,--as-needed -Wl,-O1)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  # A unique symbol would keep the library in the process after dlclose.
+  add_compile_options(-fno-gnu-unique)
+endif()
+if(VELKOR_SANITIZE)
+  add_compile_options(-fsanitize=${VELKOR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=${VELKOR_SANITIZE})
+else()
+  # Sanitized libraries leave the runtime's symbols to the program.
+  add_link_options(-Wl,--no-undefined)
+endif()
+if(VELKOR_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
+find_package(Threads REQUIRED)
+
+# velkor_platform_area(NAME SOURCES … DEPENDS area … LIBRARIES target …)
+# One folder of platform/: its headers are seen only by areas that name it in DEPENDS.
+function(velkor_platform_area NAME)
+  cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LIBRARIES" ${ARGN})
+  add_library(velkor_${NAME} OBJECT ${ARG_SOURCES})
+  target_include_directories(velkor_${NAME} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
+                                            PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/src)
+  foreach(area IN LISTS ARG_DEPENDS)
+    target_link_libraries(velkor_${NAME} PUBLIC velkor_${area})
+  endforeach()
+  target_link_libraries(velkor_${NAME} PUBLIC ${ARG_LIBRARIES})
+  set_property(GLOBAL APPEND PROPERTY VELKOR_PLATFORM_AREAS ${NAME})
+  set_property(GLOBAL APPEND PROPERTY VELKOR_PLATFORM_LIBRARIES ${ARG_LIBRARIES})
+  set_property(GLOBAL APPEND PROPERTY VELKOR_PLATFORM_INCLUDES ${CMAKE_CURRENT_SOURCE_DIR}/include)
+endfunction()
+
+# velkor_test(NAME SOURCES … LIBRARIES target … DEFINITIONS …)
+# A GoogleTest program; every test in it is a test of CTest.
+function(velkor_test NAME)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES;DEFINITIONS" ${ARGN})
+  add_executable(${NAME} ${ARG_SOURCES})
+  target_link_libraries(${NAME} PRIVATE ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
+  target_compile_definitions(${NAME} PRIVATE
+    VELKOR_SOURCE_DIR="${PROJECT_SOURCE_DIR}" VELKOR_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}"
+    VELKOR_LIB_DIR="${CMAKE_LIBRARY_OUTPUT_DIRECTORY}" ${ARG_DEFINITIONS})
+  gtest_discover_tests(${NAME} DISCOVERY_MODE PRE_TEST)
+endfunction()
+
+# velkor_fuzz(NAME SOURCES … LIBRARIES target … CORPUS folder)
+# A libFuzzer target. Without libFuzzer the same target replays its corpus as a test.
+function(velkor_fuzz NAME)
+  cmake_parse_arguments(ARG "" "CORPUS" "SOURCES;LIBRARIES" ${ARGN})
+  add_executable(${NAME} ${ARG_SOURCES})
+  target_link_libraries(${NAME} PRIVATE ${ARG_LIBRARIES})
+  if(VELKOR_FUZZ)
+    target_link_options(${NAME} PRIVATE -fsanitize=fuzzer)
+    add_test(NAME ${NAME} COMMAND ${NAME} -runs=2000 -max_total_time=20 ${CMAKE_BINARY_DIR}/corpus/${NAME} ${ARG_CORPUS})
+    file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/corpus/${NAME})
+  else()
+    target_sources(${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests/fuzz/ReplayMain.cpp)
+    add_test(NAME ${NAME} COMMAND ${NAME} ${ARG_CORPUS})
+  endif()
+endfunction()
+
+# velkor_benchmark(NAME SOURCES … LIBRARIES target …)
+function(velkor_benchmark NAME)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+  add_executable(${NAME} ${ARG_SOURCES})
+  target_link_libraries(${NAME} PRIVATE ${ARG_LIBRARIES} benchmark::benchmark_main)
+  target_compile_definitions(${NAME} PRIVATE VELKOR_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+                                             VELKOR_LIB_DIR="${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
+endfunction()

@@ -1,0 +1,278 @@
+/// The immutable data dictionary of one EXPRESS schema (ISO 10303-22, clause 6), as
+/// restored from its two text lists.
+///
+/// Every object lives in its SchemaDefinition and is handed out as a pointer to constant
+/// data that stays valid as long as the schema does. Names are upper case and are views
+/// into the texts that the schema was restored from.
+///
+///     const EntityDefinition* wall = schema.entity("IFCWALL");
+///     for (const AttributeSlot& slot : wall->attributes()) print(slot.attribute->name());
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velkor::sdai {
+
+class Attribute;
+class AggregateType;
+class DefinedType;
+class EntityDefinition;
+class EnumerationType;
+class SchemaDefinition;
+class SelectType;
+class SimpleType;
+
+enum class TypeKind : std::uint8_t {
+    Integer,
+    Real,
+    Boolean,
+    Logical,
+    String,
+    Binary,
+    Defined,
+    Enumeration,
+    Select,
+    List,
+    Set,
+    Array,
+    Entity,
+};
+
+/// What an attribute, an aggregate element or a select item is of.
+class Type {
+public:
+    TypeKind kind() const noexcept { return _kind; }
+    bool isSimple() const noexcept { return _kind <= TypeKind::Binary; }
+    bool isAggregate() const noexcept { return _kind >= TypeKind::List && _kind <= TypeKind::Array; }
+
+    /// The type as its own class; null when the kind is another.
+    const SimpleType* asSimple() const noexcept;
+    const DefinedType* asDefined() const noexcept;
+    const EnumerationType* asEnumeration() const noexcept;
+    const SelectType* asSelect() const noexcept;
+    const AggregateType* asAggregate() const noexcept;
+    const EntityDefinition* asEntity() const noexcept;
+
+    /// This type with defined types followed down to what they stand for.
+    const Type& resolved() const noexcept;
+
+    /// The type in EXPRESS notation, for people: "LIST [1:?] OF UNIQUE IFCLABEL".
+    std::string expressText() const;
+
+protected:
+    explicit Type(TypeKind kind) noexcept : _kind(kind) {}
+
+private:
+    TypeKind _kind;
+};
+
+class SimpleType : public Type {
+public:
+    /// Width of a STRING or BINARY, precision of a REAL; 0 when none is stated.
+    int width() const noexcept { return _width; }
+    bool isFixed() const noexcept { return _fixed; }
+
+private:
+    friend class SchemaBuilder;
+    using Type::Type;
+    bool _fixed = false;
+    int _width = 0;
+};
+
+class DefinedType : public Type {
+public:
+    std::string_view name() const noexcept { return _name; }
+    const Type& underlying() const noexcept { return *_underlying; }
+
+private:
+    friend class SchemaBuilder;
+    DefinedType() noexcept : Type(TypeKind::Defined) {}
+    std::string_view _name;
+    const Type* _underlying = nullptr;
+};
+
+/// The enumeration under a defined type. Positions count from 0 in schema order, texts are
+/// asked for by position + 1 (`text`), as the SDAI runtime counts.
+class EnumerationType : public Type {
+public:
+    std::span<const std::string_view> values() const noexcept { return _values; }
+    /// The defined type that names this enumeration.
+    const DefinedType& definedType() const noexcept { return *_definedType; }
+    const SchemaDefinition& schema() const noexcept { return *_schema; }
+    /// Position of an enumerator, letter case ignored; -1 when there is none of the name.
+    int position(std::string_view name) const noexcept;
+    /// Enumerator by position counted from 1; empty when there is no such position.
+    std::string_view text(int positionFrom1) const noexcept;
+
+private:
+    friend class SchemaBuilder;
+    EnumerationType() noexcept : Type(TypeKind::Enumeration) {}
+    std::span<const std::string_view> _values;
+    const DefinedType* _definedType = nullptr;
+    const SchemaDefinition* _schema = nullptr;
+};
+
+class SelectType : public Type {
+public:
+    /// The items as the schema lists them: defined types and entities.
+    std::span<const Type* const> items() const noexcept { return _items; }
+    /// True when the entity, or a value of the defined type, may stand here; selects among
+    /// the items are looked into at every depth.
+    bool accepts(const EntityDefinition& entity) const noexcept;
+    bool accepts(const DefinedType& type) const noexcept;
+
+private:
+    friend class SchemaBuilder;
+    SelectType() noexcept : Type(TypeKind::Select) {}
+    std::span<const Type* const> _items;
+};
+
+class AggregateType : public Type {
+public:
+    const Type& element() const noexcept { return *_element; }
+    int lowerBound() const noexcept { return _lower; }
+    /// -1 when unbounded. Bounds of an ARRAY given by an expression are 0 and 0.
+    int upperBound() const noexcept { return _upper; }
+    bool hasUniqueElements() const noexcept { return _unique; }
+    bool hasOptionalElements() const noexcept { return _optional; }
+
+private:
+    friend class SchemaBuilder;
+    using Type::Type;
+    bool _unique = false;
+    bool _optional = false;
+    int _lower = 0;
+    int _upper = 0;
+    const Type* _element = nullptr;
+};
+
+/// One attribute, as the entity that declares it states it.
+class Attribute {
+public:
+    std::string_view name() const noexcept { return _name; }
+    const EntityDefinition& owner() const noexcept { return *_owner; }
+    const Type& type() const noexcept { return *_type; }
+    bool isOptional() const noexcept { return _optional; }
+    bool isDerived() const noexcept { return _derived; }
+    /// The inherited attribute that this one redeclares; null for most.
+    const Attribute* redeclared() const noexcept { return _redeclared; }
+
+private:
+    friend class SchemaBuilder;
+    Attribute() = default;
+    std::string_view _name;
+    const EntityDefinition* _owner = nullptr;
+    const Type* _type = nullptr;
+    const Attribute* _redeclared = nullptr;
+    bool _optional = false;
+    bool _derived = false;
+};
+
+/// An explicit attribute at its place in an instance of one entity.
+struct AttributeSlot {
+    /// The declaration that holds for the entity: the latest redeclaration, if there is one.
+    const Attribute* attribute;
+    /// The attribute is redeclared as derived: the instance carries "*" here.
+    bool isDerived;
+};
+
+struct UniquenessRule {
+    std::string_view label;
+    std::span<const Attribute* const> attributes;
+};
+
+class EntityDefinition : public Type {
+public:
+    std::string_view name() const noexcept { return _name; }
+    const SchemaDefinition& schema() const noexcept { return *_schema; }
+    bool isAbstract() const noexcept { return _abstract; }
+    /// Null for a root entity. IFC entities have at most one supertype.
+    const EntityDefinition* supertype() const noexcept { return _supertype; }
+    std::span<const EntityDefinition* const> subtypes() const noexcept { return _subtypes; }
+    /// Position in the schema's base order of entities, counted from 0.
+    std::uint32_t position() const noexcept { return _position; }
+
+    /// True for the entity itself and every subtype at any depth of `ancestor`.
+    bool isKindOf(const EntityDefinition& ancestor) const noexcept {
+        return _first - ancestor._first < ancestor._count;
+    }
+    /// The same by upper-case name; false for a name the schema does not know.
+    bool isKindOf(std::string_view ancestorName) const noexcept;
+
+    /// The explicit attributes of an instance in the order of its parameters, inherited first.
+    std::span<const AttributeSlot> attributes() const noexcept { return _slots; }
+    /// Index into attributes() by upper-case name; -1 when there is none of the name.
+    int attributeIndex(std::string_view name) const noexcept;
+    /// What this entity declares itself: explicit attributes, then derived ones.
+    std::span<const Attribute> ownAttributes() const noexcept { return _own; }
+    /// Attribute by upper-case name, own or inherited, explicit or derived; null when unknown.
+    const Attribute* attribute(std::string_view name) const noexcept;
+    std::span<const UniquenessRule> uniquenessRules() const noexcept { return _rules; }
+
+private:
+    friend class SchemaBuilder;
+    EntityDefinition() noexcept : Type(TypeKind::Entity) {}
+    bool _abstract = false;
+    std::uint32_t _position = 0;
+    // Order number in a preorder walk of the entity tree, and the size of the subtree.
+    std::uint32_t _first = 0;
+    std::uint32_t _count = 1;
+    std::string_view _name;
+    const SchemaDefinition* _schema = nullptr;
+    const EntityDefinition* _supertype = nullptr;
+    std::span<const EntityDefinition* const> _subtypes;
+    std::span<const AttributeSlot> _slots;
+    std::span<const Attribute> _own;
+    std::span<const UniquenessRule> _rules;
+};
+
+/// How many declarations of each kind a schema's list holds.
+struct SchemaCounts {
+    int declarations = 0;
+    int statements = 0;
+    int entities = 0;
+    int definedTypes = 0;
+    int enumerationTypes = 0;
+    int selectTypes = 0;
+    int aggregateTypes = 0;
+    int explicitAttributes = 0;
+    int derivedAttributes = 0;
+    int uniquenessRules = 0;
+    int entitiesStatements = 0;
+};
+
+class SchemaDefinition {
+public:
+    virtual ~SchemaDefinition() = default;
+    SchemaDefinition(const SchemaDefinition&) = delete;
+    SchemaDefinition& operator=(const SchemaDefinition&) = delete;
+
+    std::string_view name() const noexcept { return _name; }
+    const SchemaCounts& counts() const noexcept { return _counts; }
+    /// All entities and defined types in the schema's base order.
+    std::span<const EntityDefinition* const> entities() const noexcept { return _entities; }
+    std::span<const DefinedType* const> definedTypes() const noexcept { return _definedTypes; }
+
+    /// By name, letter case ignored; null when the schema has none of the name.
+    const EntityDefinition* entity(std::string_view name) const noexcept;
+    const DefinedType* definedType(std::string_view name) const noexcept;
+
+    /// Bytes held by this dictionary beside the texts that it points to.
+    std::size_t memoryUse() const noexcept { return _memoryUse; }
+
+protected:
+    friend class SchemaBuilder;
+    SchemaDefinition() = default;
+    std::string_view _name;
+    SchemaCounts _counts;
+    std::span<const EntityDefinition* const> _entities;
+    std::span<const DefinedType* const> _definedTypes;
+    std::size_t _memoryUse = 0;
+};
+
+} // namespace velkor::sdai

@@ -1,0 +1,24 @@
+/// Judges every instance of a model against its dictionary.
+#pragma once
+
+#include "sdai/Model.h"
+#include "sdai/SyntaxCheck.h"
+
+namespace velkor::sdai {
+
+struct PopulationCheckOptions {
+    std::size_t limit = 10'000;
+    /// A neighbouring release whose dictionary carries all derived attributes, for schemas
+    /// whose own does not: "*" is accepted where an entity of the same name derives the
+    /// attribute there. May be null.
+    const SchemaDefinition* derivedAttributes = nullptr;
+    Progress progress;
+};
+
+/// Decodes every instance once: unknown and abstract entities, wrong number or type of
+/// attributes, missing required values, bounds of aggregates, dangling references and
+/// references to the wrong entity, unknown enumerators. Problems in file order.
+std::vector<Problem> checkPopulation(const Model& model, const PopulationCheckOptions& options,
+                                     std::uint64_t* total = nullptr);
+
+} // namespace velkor::sdai
