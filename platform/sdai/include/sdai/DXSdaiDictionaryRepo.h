@@ -33,7 +33,8 @@ public:
     static DXSdaiDictionaryRepo& TheOne();
 
     /// Registers a loader under a schema's name. The answer is a handle above 0 that
-    /// QORDXSdaiSchemaDecl takes over; it is 0 when the name is registered already.
+    /// QORDXSdaiSchemaDecl takes over; it is 0 when the name is registered already, letter case
+    /// ignored, when the name is empty and when there is no loader.
     static std::uint64_t AddPtr(Loader loader, const DXSdaiString& name);
 
     /// Takes the registration back and forgets the schema restored through it. Models that
@@ -51,11 +52,14 @@ public:
     std::string match(std::string_view nameInFile) const;
 
     /// The schema of a registered name (exact, letter case ignored), restored now if it has
-    /// not been. The error says what is wrong with the lists, or which names are known.
+    /// not been. The error says what is wrong with the lists, or which names are known; a
+    /// refusal is remembered, the loader is not called again. Threads that ask at once get one
+    /// schema. What a loader throws passes through, and the next request calls it again.
     tl::expected<SchemaPointer, std::string> schema(std::string_view name);
 
     /// True when the schema has been restored already; restores nothing.
     bool isRestored(std::string_view name) const;
+    /// The lists of a schema that has been restored; empty before.
     Lists lists(std::string_view name) const;
 
 private:
@@ -63,5 +67,6 @@ private:
     DXSdaiDictionaryRepo();
     ~DXSdaiDictionaryRepo();
     struct State;
+    struct Release;
     std::unique_ptr<State> _state;
 };

@@ -1,9 +1,9 @@
 /// The immutable data dictionary of one EXPRESS schema (ISO 10303-22, clause 6), as
 /// restored from its two text lists.
 ///
-/// Every object lives in its SchemaDefinition and is handed out as a pointer to constant
-/// data that stays valid as long as the schema does. Names are upper case and are views
-/// into the texts that the schema was restored from.
+/// A select that its lists declare twice is one type here. Every object lives in its SchemaDefinition and is handed out
+/// as a pointer to constant data that stays valid as long as the schema does. Names are upper case and are views into
+/// the texts that the schema was restored from.
 ///
 ///     const EntityDefinition* wall = schema.entity("IFCWALL");
 ///     for (const AttributeSlot& slot : wall->attributes()) print(slot.attribute->name());
@@ -43,6 +43,10 @@ enum class TypeKind : std::uint8_t {
     Entity,
 };
 
+/// Places of names in a list, for look-up in constant time: a hash table of positions
+/// counted from 1 in the schema's memory, 0 where nothing stands.
+using NameTable = std::span<const std::uint16_t>;
+
 /// What an attribute, an aggregate element or a select item is of.
 class Type {
 public:
@@ -65,6 +69,7 @@ public:
     std::string expressText() const;
 
 protected:
+    friend class SchemaBuilder;
     explicit Type(TypeKind kind) noexcept : _kind(kind) {}
 
 private:
@@ -88,12 +93,20 @@ class DefinedType : public Type {
 public:
     std::string_view name() const noexcept { return _name; }
     const Type& underlying() const noexcept { return *_underlying; }
+    const SchemaDefinition& schema() const noexcept { return *_schema; }
+    /// Position in the schema's base order of defined types, counted from 0.
+    std::uint32_t position() const noexcept { return _position; }
 
 private:
     friend class SchemaBuilder;
     DefinedType() noexcept : Type(TypeKind::Defined) {}
+    std::uint32_t _position = 0;
+    friend class Type;
     std::string_view _name;
     const Type* _underlying = nullptr;
+    // What is left when every defined type below is followed.
+    const Type* _resolved = nullptr;
+    const SchemaDefinition* _schema = nullptr;
 };
 
 /// The enumeration under a defined type. Positions count from 0 in schema order, texts are
@@ -113,6 +126,7 @@ private:
     friend class SchemaBuilder;
     EnumerationType() noexcept : Type(TypeKind::Enumeration) {}
     std::span<const std::string_view> _values;
+    NameTable _positions;
     const DefinedType* _definedType = nullptr;
     const SchemaDefinition* _schema = nullptr;
 };
@@ -121,8 +135,10 @@ class SelectType : public Type {
 public:
     /// The items as the schema lists them: defined types and entities.
     std::span<const Type* const> items() const noexcept { return _items; }
-    /// True when the entity, or a value of the defined type, may stand here; selects among
-    /// the items are looked into at every depth.
+    /// The defined type that names this select.
+    const DefinedType& definedType() const noexcept { return *_definedType; }
+    /// True when the entity (or an entity it is a kind of), or a value of the defined type, may
+    /// stand here; selects among the items are looked into at every depth.
     bool accepts(const EntityDefinition& entity) const noexcept;
     bool accepts(const DefinedType& type) const noexcept;
 
@@ -130,6 +146,9 @@ private:
     friend class SchemaBuilder;
     SelectType() noexcept : Type(TypeKind::Select) {}
     std::span<const Type* const> _items;
+    const DefinedType* _definedType = nullptr;
+    // One bit per entity in preorder, then one per defined type in base order.
+    const std::uint64_t* _accepted = nullptr;
 };
 
 class AggregateType : public Type {
@@ -169,6 +188,7 @@ private:
     const EntityDefinition* _owner = nullptr;
     const Type* _type = nullptr;
     const Attribute* _redeclared = nullptr;
+    std::uint32_t _hash = 0;
     bool _optional = false;
     bool _derived = false;
 };
@@ -197,28 +217,36 @@ public:
     /// Position in the schema's base order of entities, counted from 0.
     std::uint32_t position() const noexcept { return _position; }
 
-    /// True for the entity itself and every subtype at any depth of `ancestor`.
+    /// True for the entity itself and every subtype at any depth of `ancestor`, which must
+    /// belong to the same schema.
     bool isKindOf(const EntityDefinition& ancestor) const noexcept {
         return _first - ancestor._first < ancestor._count;
     }
-    /// The same by upper-case name; false for a name the schema does not know.
+    /// The same by name, letter case ignored; false for a name the schema does not know.
     bool isKindOf(std::string_view ancestorName) const noexcept;
 
     /// The explicit attributes of an instance in the order of its parameters, inherited first.
     std::span<const AttributeSlot> attributes() const noexcept { return _slots; }
-    /// Index into attributes() by upper-case name; -1 when there is none of the name.
+    /// Index into attributes() by name, letter case ignored; -1 when there is none of the name.
     int attributeIndex(std::string_view name) const noexcept;
     /// What this entity declares itself: explicit attributes, then derived ones.
     std::span<const Attribute> ownAttributes() const noexcept { return _own; }
-    /// Attribute by upper-case name, own or inherited, explicit or derived; null when unknown.
+    /// The derived attributes that have no place in an instance, inherited first; the latest
+    /// redeclaration of each.
+    std::span<const Attribute* const> derivedAttributes() const noexcept { return _derived; }
+    /// Attribute by name, letter case ignored: own or inherited, explicit or derived, the latest
+    /// redeclaration; null when unknown.
     const Attribute* attribute(std::string_view name) const noexcept;
     std::span<const UniquenessRule> uniquenessRules() const noexcept { return _rules; }
 
 private:
     friend class SchemaBuilder;
     EntityDefinition() noexcept : Type(TypeKind::Entity) {}
+    // Position of a name in _slots followed by _derived; -1 when unknown.
+    int place(std::string_view name, std::uint32_t hash) const noexcept;
     bool _abstract = false;
     std::uint32_t _position = 0;
+    friend class SelectType;
     // Order number in a preorder walk of the entity tree, and the size of the subtree.
     std::uint32_t _first = 0;
     std::uint32_t _count = 1;
@@ -227,6 +255,8 @@ private:
     const EntityDefinition* _supertype = nullptr;
     std::span<const EntityDefinition* const> _subtypes;
     std::span<const AttributeSlot> _slots;
+    std::span<const Attribute* const> _derived;
+    NameTable _names;
     std::span<const Attribute> _own;
     std::span<const UniquenessRule> _rules;
 };
@@ -262,7 +292,11 @@ public:
     const EntityDefinition* entity(std::string_view name) const noexcept;
     const DefinedType* definedType(std::string_view name) const noexcept;
 
-    /// Bytes held by this dictionary beside the texts that it points to.
+    /// Either of them, as a type.
+    const Type* named(std::string_view name) const noexcept;
+
+    /// Bytes held by this dictionary beside the texts that it points to and the arrays of
+    /// pointers to them.
     std::size_t memoryUse() const noexcept { return _memoryUse; }
 
 protected:
@@ -272,6 +306,9 @@ protected:
     SchemaCounts _counts;
     std::span<const EntityDefinition* const> _entities;
     std::span<const DefinedType* const> _definedTypes;
+    // Defined types and entities in the order of their declarations, and positions in that.
+    std::span<const Type* const> _named;
+    NameTable _names;
     std::size_t _memoryUse = 0;
 };
 

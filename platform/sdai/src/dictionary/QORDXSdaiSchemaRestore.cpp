@@ -1,0 +1,28 @@
+#include "sdai/QORDXSdaiSchemaRestore.h"
+
+#include "dictionary/DeclarationList.h"
+#include "dictionary/RepositoryState.h"
+#include "dictionary/SchemaBuilder.h"
+#include "dictionary/StatementList.h"
+
+namespace velkor::sdai {
+
+tl::expected<std::shared_ptr<const SchemaDefinition>, std::string>
+restoreSchema(std::span<const char* const> declarations, std::span<const char* const> statements) {
+    const auto declared = readDeclarations(declarations);
+    if (!declared) return tl::unexpected(declared.error());
+    const auto stated = readStatements(statements, *declared);
+    if (!stated) return tl::unexpected(stated.error());
+    return SchemaBuilder(declarations, *declared, statements, *stated).build();
+}
+
+} // namespace velkor::sdai
+
+void QORDXSdaiSchemaRestore::Restore(DXSdaiDictionaryRepo& repo, int declarationCount, const char** declarations,
+                                     int statementCount, const char** statements, int format, int level) {
+    (void)format;
+    (void)level;
+    velkor::sdai::TextLists lists(declarationCount, declarations, statementCount, statements);
+    auto schema = velkor::sdai::restoreSchema(lists.declarations(), lists.statements());
+    repo._state->enter(std::move(schema), std::move(lists));
+}
