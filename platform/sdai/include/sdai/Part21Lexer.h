@@ -1,5 +1,11 @@
 /// Tokens of the clear text encoding (ISO 10303-21, clause 7 and annex B), one at a time
 /// over a piece of text. The lexer allocates nothing; decoding a string does.
+///
+///     Part21Lexer lexer("(#1,'wall',2.5)");
+///     for (Token token = lexer.next(); token.kind != TokenKind::End; token = lexer.next()) use(token);
+///
+/// Line ends inside a string are part of the token; a comment that is not closed counts for its
+/// two characters alone; print control directives between tokens count as white space.
 #pragma once
 
 #include <cstdint>
@@ -47,16 +53,28 @@ public:
     const char* position() const noexcept { return _next; }
 
     /// Skips one parameter, nested ones included, up to the "," or ")" behind it without
-    /// reading it closely. False when the text ends first.
+    /// reading it closely. False when the text or the statement (";") ends first.
     bool skipParameter() noexcept;
 
 private:
+    void skipSeparators() noexcept;
+    bool skipComment() noexcept;
+    Token token(TokenKind kind, const char* end) noexcept;
+    Token badRun() noexcept;
+    Token number() noexcept;
+    Token string() noexcept;
+    Token binary() noexcept;
+    Token enumeration() noexcept;
+
     const char* _next;
     const char* _end;
+    // Set once "*/" was looked for in vain, so that a text full of "/*" is not searched again.
+    bool _noCommentEnd = false;
 };
 
-/// A String token's text in UTF-8, all directives decoded: '' \\ \S\ \P.\ \X\ \X2\..\X0\
-/// \X4\..\X0\. What is not a valid directive stands as it is written; bytes that are not
+/// A String token's text in UTF-8. Decodes doubled apostrophes and reverse solidi and the
+/// directives \S\, \P.\, \X\, \X2\ and \X4\, surrogate pairs and hexadecimal digits in lower
+/// case included. What is not a valid directive stands as it is written; bytes that are not
 /// UTF-8 are taken as ISO 8859-1. `error`, when given, receives the first violation in words.
 std::string decodeString(std::string_view token, std::string* error = nullptr);
 
