@@ -1,5 +1,6 @@
 #include "dictionary/DeclarationList.h"
 
+#include <algorithm>
 #include <array>
 #include <limits>
 
@@ -25,12 +26,13 @@ void readDefinedType(TextReader& reader, DeclarationList& list, Declaration& dec
     reader.close();
 }
 
-void readEnumeration(TextReader& reader, DeclarationList& list, Declaration& declaration, std::size_t) {
-    declaration.members.first = static_cast<std::uint32_t>(list.values.size());
-    do {
-        list.values.push_back(reader.name());
-    } while (reader.another());
-    declaration.members.count = static_cast<std::uint32_t>(list.values.size()) - declaration.members.first;
+void readEnumeration(TextReader& reader, DeclarationList&, Declaration& declaration, std::size_t) {
+    std::string_view value = reader.name();
+    const char* const begin = value.data();
+    declaration.members.count = 1;
+    for (; reader.another(); ++declaration.members.count) value = reader.name();
+    if (declaration.members.count > DeclarationList::Most) reader.fail("at most 65535 enumerators");
+    if (!reader.failed()) declaration.name = {begin, static_cast<std::size_t>(value.data() + value.size() - begin)};
 }
 
 void readSelect(TextReader& reader, DeclarationList& list, Declaration& declaration, std::size_t number) {
@@ -42,12 +44,12 @@ void readSelect(TextReader& reader, DeclarationList& list, Declaration& declarat
 }
 
 // An upper bound of 0 stands for an expression, which may exceed the lower bound.
-void readBounds(TextReader& reader, Declaration& declaration, int leastLower) {
-    declaration.lower = reader.integer(leastLower);
+void readBounds(TextReader& reader, Declaration& declaration, int least) {
+    constexpr int unbounded = -1;
+    declaration.lower = reader.integer(least);
     reader.comma();
-    declaration.upper = reader.integer(leastLower == 0 ? -1 : leastLower);
-    const bool unbounded = declaration.upper == -1 && leastLower == 0;
-    if (!unbounded && declaration.upper != 0 && declaration.upper < declaration.lower) {
+    declaration.upper = reader.integer(std::min(least, unbounded));
+    if (declaration.upper != unbounded && declaration.upper != 0 && declaration.upper < declaration.lower) {
         reader.fail("an upper bound not below the lower bound");
     }
 }
@@ -116,6 +118,10 @@ void readDeclaration(TextReader& reader, DeclarationList& list, Declaration& dec
         // The schema is number 1 and nothing else is.
         if ((keyword.kind == DeclarationKind::Schema) != (number == 1)) break;
         keyword.read(reader, list, declaration, number);
+        if (keyword.kind == DeclarationKind::Entity)
+            declaration.ordinal = list.entities++;
+        else if (places::owned.fits(keyword.kind))
+            declaration.ordinal = list.attributesAndRules++;
         return;
     }
     reader.fail(number == 1 ? "the keyword Schema" : "the keyword of a declaration");

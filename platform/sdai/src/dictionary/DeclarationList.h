@@ -65,8 +65,11 @@ struct Declaration {
     int upper = 0;
     /// Underlying type of a defined type, element of an aggregate.
     TypeReference type;
-    /// Enumerators in DeclarationList::values, select items in DeclarationList::items.
+    /// Select items in DeclarationList::items; of an enumeration only the count of enumerators.
     Range members;
+    /// Position among the entities, or among the attributes and rules, counted from 0.
+    std::uint16_t ordinal = 0;
+    /// Of an enumeration the enumerators as they stand in the list, separated by commas.
     std::string_view name;
 };
 
@@ -76,15 +79,13 @@ struct DeclarationList {
 
     /// By number, which counts from 1; the first element stands for nothing.
     std::vector<Declaration> declarations;
-    std::vector<std::string_view> values;
     std::vector<std::uint16_t> items;
+    std::uint16_t entities = 0;
+    std::uint16_t attributesAndRules = 0;
 
     std::size_t last() const noexcept { return declarations.size() - 1; }
     const Declaration& operator[](std::size_t number) const noexcept { return declarations[number]; }
 
-    std::span<const std::string_view> valuesOf(const Declaration& d) const noexcept {
-        return {values.data() + d.members.first, d.members.count};
-    }
     std::span<const std::uint16_t> itemsOf(const Declaration& d) const noexcept {
         return {items.data() + d.members.first, d.members.count};
     }
@@ -113,6 +114,10 @@ constexpr Place underlying{
         kindSet(DeclarationKind::DefinedType, DeclarationKind::EnumerationType, DeclarationKind::SelectType) |
         aggregates),
     "a simple type or a reference to a defined type, an enumeration, a select or an aggregate"};
+
+constexpr Place owned{
+    kindSet(DeclarationKind::ExplicitAttr, DeclarationKind::DerivedAttr, DeclarationKind::UniquenessRule),
+    "a reference to an attribute or a uniqueness rule"};
 
 } // namespace places
 

@@ -28,10 +28,6 @@ void setBits(std::uint64_t* bits, std::size_t first, std::size_t count) {
     }
 }
 
-bool isAttribute(DeclarationKind kind) {
-    return kind == DeclarationKind::ExplicitAttr || kind == DeclarationKind::DerivedAttr;
-}
-
 } // namespace
 
 SchemaBuilder::SchemaBuilder(std::span<const char* const> declarationTexts, const DeclarationList& declarations,
@@ -141,16 +137,19 @@ bool SchemaBuilder::isRepeatedSelect(const Type& first, std::size_t number) cons
 }
 
 bool SchemaBuilder::makeEnumeration(std::size_t number) {
-    const auto values = _declarations.valuesOf(_declarations[number]);
-    if (values.size() > DeclarationList::Most) return declarationError(number, "expected at most 65535 enumerators");
+    const std::size_t count = _declarations[number].members.count;
+    std::string_view rest = _declarations[number].name;
+    const auto values = _schema->arena.zeroed<std::string_view>(count);
+    for (std::string_view& value : values) {
+        value = rest.substr(0, rest.find(','));
+        rest.remove_prefix(std::min(value.size() + 1, rest.size()));
+    }
     auto* result = make<EnumerationType>();
-    auto* texts = _schema->arena.allocate<std::string_view>(values.size());
-    std::uninitialized_copy(values.begin(), values.end(), texts);
-    result->_values = {texts, values.size()};
+    result->_values = values;
     result->_schema = _schema.get();
 
-    const auto table = _schema->arena.zeroed<std::uint16_t>(names::tableSize(values.size()));
-    for (std::size_t i = 0; i < values.size(); ++i) {
+    const auto table = _schema->arena.zeroed<std::uint16_t>(names::tableSize(count));
+    for (std::size_t i = 0; i < count; ++i) {
         const std::uint32_t hash = names::hash(values[i]);
         if (names::find(table, hash, values[i], [&](int k) { return values[std::size_t(k)]; }) >= 0) {
             return declarationError(number,
@@ -261,7 +260,7 @@ bool SchemaBuilder::linkSupertypes() {
     const std::size_t entities = _schema->_entities.size();
     std::vector<std::uint32_t> children(entities);
     for (const std::uint16_t number : _statements.entities) {
-        const auto supertypes = _statements.of(_statements.subjects[number].supertypes);
+        const auto supertypes = _statements.of(aboutEntity(number).supertypes);
         if (supertypes.empty()) continue;
         const EntityDefinition& supertype = entity(supertypes.front());
         entity(number)._supertype = &supertype;
@@ -305,7 +304,7 @@ bool SchemaBuilder::walkEntities() {
     if (_preorder.size() == entities.size()) return true;
     const auto isLost = [](const EntityDefinition* e) { return e->_first == Unset; };
     const EntityDefinition* lost = *std::ranges::find_if(entities, isLost);
-    return statementError(_statements.subjects[numberOf(*lost)].supertypes,
+    return statementError(aboutEntity(numberOf(*lost)).supertypes,
                           "expected supertypes that end in a root, found a circle");
 }
 
@@ -315,20 +314,19 @@ bool SchemaBuilder::checkStatements() {
     }
     for (std::size_t number = 1; number <= _declarations.last(); ++number) {
         const DeclarationKind kind = _declarations[number].kind;
-        const Subject& subject = _statements.subjects[number];
-        const bool hasInfos = subject.infos.statement != 0;
         if (kind == DeclarationKind::Entity) {
-            if (!hasInfos) return declarationError(number, "expected a Composition statement about it, found none");
             if (!checkComposition(entity(number), number)) return false;
-        } else if (isAttribute(kind) || kind == DeclarationKind::UniquenessRule) {
-            if (!hasInfos) {
-                const char* keyword = kind == DeclarationKind::ExplicitAttr  ? "an ExplAttrInfos"
-                                      : kind == DeclarationKind::DerivedAttr ? "a DerivAttrInfos"
-                                                                             : "a UniqRuleInfos";
+        } else if (places::owned.fits(kind)) {
+            const bool isRule = kind == DeclarationKind::UniquenessRule;
+            const OwnedStatements& about = aboutOwned(number);
+            if (about.infos.statement == 0) {
+                const char* keyword = isRule                                  ? "a UniqRuleInfos"
+                                      : kind == DeclarationKind::ExplicitAttr ? "an ExplAttrInfos"
+                                                                              : "a DerivAttrInfos";
                 return declarationError(number, "expected " + std::string(keyword) + " statement about it, found none");
             }
-            if (subject.owner == 0) {
-                const char* keyword = isAttribute(kind) ? "an Attributes" : "a Uniqueness_rules";
+            if (about.owner == 0) {
+                const char* keyword = isRule ? "a Uniqueness_rules" : "an Attributes";
                 return declarationError(number,
                                         "expected " + std::string(keyword) + " statement that names it, found none");
             }
@@ -338,7 +336,10 @@ bool SchemaBuilder::checkStatements() {
 }
 
 bool SchemaBuilder::checkComposition(const EntityDefinition& definition, std::size_t number) {
-    const Relation& composition = _statements.subjects[number].infos;
+    const Relation& composition = aboutEntity(number).composition;
+    if (composition.statement == 0) {
+        return declarationError(number, "expected a Composition statement about it, found none");
+    }
     const auto numbers = _statements.of(composition);
     const EntityDefinition* previous = nullptr;
     for (const std::uint16_t part : numbers) {
@@ -360,17 +361,17 @@ bool SchemaBuilder::checkComposition(const EntityDefinition& definition, std::si
 
 bool SchemaBuilder::makeAttributes() {
     for (const std::uint16_t number : _statements.entities) {
-        const auto numbers = _statements.of(_statements.subjects[number].attributes);
+        const auto numbers = _statements.of(aboutEntity(number).attributes);
         auto* own = _schema->arena.allocate<Attribute>(numbers.size());
         for (std::size_t i = 0; i < numbers.size(); ++i) {
             const Declaration& declaration = _declarations[numbers[i]];
-            const Subject& subject = _statements.subjects[numbers[i]];
+            const OwnedStatements& about = aboutOwned(numbers[i]);
             Attribute* attribute = ::new (&own[i]) Attribute();
             attribute->_name = declaration.name;
             attribute->_hash = names::hash(declaration.name);
             attribute->_owner = &entity(number);
-            attribute->_type = type(subject.type);
-            attribute->_optional = subject.optional;
+            attribute->_type = type(about.type);
+            attribute->_optional = about.optional;
             attribute->_derived = declaration.kind == DeclarationKind::DerivedAttr;
             _attributes[numbers[i]] = attribute;
         }
@@ -381,11 +382,11 @@ bool SchemaBuilder::makeAttributes() {
 
 bool SchemaBuilder::makeRules() {
     for (const std::uint16_t number : _statements.entities) {
-        const auto numbers = _statements.of(_statements.subjects[number].rules);
+        const auto numbers = _statements.of(aboutEntity(number).rules);
         if (numbers.empty()) continue;
         auto* rules = _schema->arena.allocate<UniquenessRule>(numbers.size());
         for (std::size_t i = 0; i < numbers.size(); ++i) {
-            const Relation& infos = _statements.subjects[numbers[i]].infos;
+            const Relation& infos = aboutOwned(numbers[i]).infos;
             std::vector<const Attribute*> attributes;
             for (const std::uint16_t named : _statements.of(infos)) {
                 attributes.push_back(_attributes[named]);
@@ -425,7 +426,7 @@ bool SchemaBuilder::placeOwnAttributes(EntityDefinition& definition) {
         slots.assign(supertype->_slots.begin(), supertype->_slots.end());
         derived.assign(supertype->_derived.begin(), supertype->_derived.end());
     }
-    const auto numbers = _statements.of(_statements.subjects[numberOf(definition)].attributes);
+    const auto numbers = _statements.of(aboutEntity(numberOf(definition)).attributes);
     for (const std::uint16_t number : numbers) {
         Attribute& own = *_attributes[number];
         const Attribute** place = nullptr;
@@ -562,7 +563,9 @@ const SimpleType* SchemaBuilder::simpleType(const TypeReference& reference) {
 }
 
 std::string SchemaBuilder::declared(std::size_t number) const {
-    return "#" + std::to_string(number) + ' ' + std::string(_declarations[number].name);
+    std::string result = "#";
+    result += std::to_string(number);
+    return result.append(" ").append(_declarations[number].name);
 }
 
 bool SchemaBuilder::declarationError(std::size_t number, const std::string& message) {

@@ -61,6 +61,12 @@ private:
     const Type* type(const TypeReference& reference);
     const SimpleType* simpleType(const TypeReference& reference);
     EntityDefinition& entity(std::size_t number) const { return static_cast<EntityDefinition&>(*_types[number]); }
+    const EntityStatements& aboutEntity(std::size_t number) const {
+        return _statements.aboutEntity(_declarations[number]);
+    }
+    const OwnedStatements& aboutOwned(std::size_t number) const {
+        return _statements.aboutOwned(_declarations[number]);
+    }
     EntityDefinition& at(std::uint32_t position) const { return entity(_statements.entities[position]); }
     std::size_t numberOf(const EntityDefinition& entity) const { return _statements.entities[entity.position()]; }
     /// Number of the declaration of a type or entity; 0 when none has been entered.

@@ -34,7 +34,7 @@ struct Statement {
     // Attributes and rules belong to one entity, which is declared before them.
     void claim(std::uint16_t number) {
         if (reader.failed()) return;
-        std::uint16_t& owner = list.subjects[number].owner;
+        std::uint16_t& owner = list.ownedStatements[declarations[number].ordinal].owner;
         if (number < subject) return reader.fail("a declaration behind that of the entity");
         if (owner != 0) return reader.fail("one that no statement has named before");
         owner = subject;
@@ -45,7 +45,7 @@ struct Keyword {
     std::string_view text;
     Place subject;
     /// Where the statement is kept; null for Entities, which may be stated again.
-    Relation& (*relation)(StatementList&, Subject&);
+    Relation& (*relation)(StatementList&, const Declaration&);
     void (*read)(Statement&, Relation&);
 };
 
@@ -88,15 +88,16 @@ void readComposition(Statement& s, Relation& relation) {
     s.references(relation, anEntity);
 }
 
-void readType(Statement& s) {
-    s.list.subjects[s.subject].type =
-        readType(s.reader, s.declarations, s.declarations.declarations.size(), places::valueType);
+OwnedStatements& readType(Statement& s) {
+    OwnedStatements& about = s.list.ownedStatements[s.declarations[s.subject].ordinal];
+    about.type = readType(s.reader, s.declarations, s.declarations.declarations.size(), places::valueType);
+    return about;
 }
 
 void readExplicitInfos(Statement& s, Relation&) {
-    readType(s);
+    OwnedStatements& about = readType(s);
     s.reader.comma();
-    s.list.subjects[s.subject].optional = s.reader.choice("OPT", "REQ", "OPT or REQ");
+    about.optional = s.reader.choice("OPT", "REQ", "OPT or REQ");
     s.reader.close();
 }
 
@@ -140,23 +141,16 @@ void readRules(Statement& s, Relation& relation) {
     relation.references.count = static_cast<std::uint32_t>(s.list.references.size()) - relation.references.first;
 }
 
-Relation& infos(StatementList&, Subject& subject) {
-    return subject.infos;
+template <Relation EntityStatements::*Member>
+Relation& ofEntity(StatementList& list, const Declaration& subject) {
+    return list.entityStatements[subject.ordinal].*Member;
 }
-Relation& supertypes(StatementList&, Subject& subject) {
-    return subject.supertypes;
+template <Relation StatementList::*Member>
+Relation& ofSchema(StatementList& list, const Declaration&) {
+    return list.*Member;
 }
-Relation& attributes(StatementList&, Subject& subject) {
-    return subject.attributes;
-}
-Relation& rules(StatementList&, Subject& subject) {
-    return subject.rules;
-}
-Relation& version(StatementList& list, Subject&) {
-    return list.version;
-}
-Relation& definedTypes(StatementList& list, Subject&) {
-    return list.definedTypes;
+Relation& infos(StatementList& list, const Declaration& subject) {
+    return list.ownedStatements[subject.ordinal].infos;
 }
 
 constexpr Place theSchema{kindSet(DeclarationKind::Schema), "the schema as the subject"};
@@ -167,15 +161,15 @@ constexpr Place ruleSubject{kindSet(DeclarationKind::UniquenessRule), "a uniquen
 
 constexpr std::array<Keyword, 10> keywords{{
     {"ExplAttrInfos", explicitSubject, infos, readExplicitInfos},
-    {"Composition", entitySubject, infos, readComposition},
-    {"Supertypes", entitySubject, supertypes, readSupertypes},
-    {"Attributes", entitySubject, attributes, readAttributes},
+    {"Composition", entitySubject, ofEntity<&EntityStatements::composition>, readComposition},
+    {"Supertypes", entitySubject, ofEntity<&EntityStatements::supertypes>, readSupertypes},
+    {"Attributes", entitySubject, ofEntity<&EntityStatements::attributes>, readAttributes},
     {"DerivAttrInfos", derivedSubject, infos, readDerivedInfos},
     {"UniqRuleInfos", ruleSubject, infos, readRuleInfos},
-    {"Uniqueness_rules", entitySubject, rules, readRules},
+    {"Uniqueness_rules", entitySubject, ofEntity<&EntityStatements::rules>, readRules},
     {"Entities", theSchema, nullptr, readEntities},
-    {"DefTypes", theSchema, definedTypes, readDefinedTypes},
-    {"SchemaVersionRelease", theSchema, version, readVersion},
+    {"DefTypes", theSchema, ofSchema<&StatementList::definedTypes>, readDefinedTypes},
+    {"SchemaVersionRelease", theSchema, ofSchema<&StatementList::version>, readVersion},
 }};
 
 /// The answer is empty, or what is wrong when that is not for the reader to say.
@@ -194,7 +188,7 @@ std::string readStatement(TextReader& reader, const DeclarationList& declaration
             return subject.message();
         }
         Relation several;
-        Relation& relation = keyword.relation ? keyword.relation(list, list.subjects[number]) : several;
+        Relation& relation = keyword.relation ? keyword.relation(list, declarations[number]) : several;
         if (relation.statement != 0) {
             return "expected one statement of its kind, found another in statement " +
                    std::to_string(relation.statement);
@@ -213,7 +207,10 @@ std::string readStatement(TextReader& reader, const DeclarationList& declaration
 tl::expected<StatementList, std::string> readStatements(std::span<const char* const> texts,
                                                         const DeclarationList& declarations) {
     StatementList list;
-    list.subjects.resize(declarations.declarations.size());
+    list.entityStatements.resize(declarations.entities);
+    list.ownedStatements.resize(declarations.attributesAndRules);
+    // Few statements hold more than a handful of references; this saves most of the growing.
+    list.references.reserve(2 * texts.size());
     for (std::size_t i = 0; i < texts.size(); ++i) {
         const char* text = texts[i];
         const std::size_t position = i + 1;

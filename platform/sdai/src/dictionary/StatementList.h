@@ -19,13 +19,18 @@ struct Relation {
     std::uint32_t statement = 0;
 };
 
-/// What is stated about one declaration.
-struct Subject {
-    /// Composition of an entity, UniqRuleInfos of a rule, infos of an attribute (no references).
-    Relation infos;
+/// What is stated about one entity.
+struct EntityStatements {
+    Relation composition;
     Relation supertypes;
     Relation attributes;
     Relation rules;
+};
+
+/// What is stated about one attribute or uniqueness rule.
+struct OwnedStatements {
+    /// The attributes of a rule; no references for an attribute.
+    Relation infos;
     /// Of an attribute.
     TypeReference type;
     bool optional = false;
@@ -37,8 +42,9 @@ struct StatementList {
     /// How many entities each Entities statement but the last names.
     static constexpr std::size_t EntitiesPerStatement = 100;
 
-    /// By number of the declaration.
-    std::vector<Subject> subjects;
+    /// By ordinal of the declaration.
+    std::vector<EntityStatements> entityStatements;
+    std::vector<OwnedStatements> ownedStatements;
     std::vector<std::uint16_t> references;
     Relation version;
     Relation definedTypes;
@@ -46,6 +52,9 @@ struct StatementList {
     std::vector<std::uint16_t> entities;
     std::uint32_t entitiesStatement = 0;
     int entitiesStatements = 0;
+
+    const EntityStatements& aboutEntity(const Declaration& d) const { return entityStatements[d.ordinal]; }
+    const OwnedStatements& aboutOwned(const Declaration& d) const { return ownedStatements[d.ordinal]; }
 
     std::span<const std::uint16_t> of(const Relation& relation) const noexcept {
         return {references.data() + relation.references.first, relation.references.count};

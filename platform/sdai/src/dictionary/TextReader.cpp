@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstring>
 #include <limits>
 
@@ -100,13 +99,14 @@ std::string_view TextReader::name() noexcept {
 int TextReader::integer(int least) noexcept {
     if (failed()) return 0;
     _argument = _next;
-    const char* end = _next + (*_next == '-');
-    while (is(*end, Digit)) ++end;
-    int value = 0;
-    const auto [last, error] = std::from_chars(_next, end, value);
-    const char* firstDigit = _next + (*_next == '-');
-    const bool canonical = *firstDigit != '0' || (end == _next + 1);
-    if (error != std::errc() || last != end || !canonical || value < least) {
+    const char* const digits = _next + (*_next == '-');
+    const char* end = digits;
+    std::int64_t value = 0;
+    // So many digits cannot overflow, and more make no number that fits.
+    while (is(*end, Digit) && end - digits < 11) value = value * 10 + (*end++ - '0');
+    if (digits != _next) value = -value;
+    const bool canonical = end != digits && (*digits != '0' || end == _next + 1) && !is(*end, Digit);
+    if (!canonical || value < least || value > std::numeric_limits<int>::max()) {
         fail(least == std::numeric_limits<int>::min() ? "a decimal integer"
              : least < 0                              ? "a decimal integer from -1 on"
              : least == 0                             ? "a decimal integer from 0 on"
@@ -114,19 +114,16 @@ int TextReader::integer(int least) noexcept {
         return 0;
     }
     _next = end;
-    return value;
+    return static_cast<int>(value);
 }
 
 std::uint32_t TextReader::reference() noexcept {
     if (failed()) return 0;
-    const char* begin = _next;
-    if (!take('#')) {
-        _argument = begin;
-        fail("a reference (\"#\" and a number)");
-        return 0;
-    }
-    const int value = integer(1);
+    const char* const begin = _next;
+    const bool begins = take('#');
+    const int value = begins ? integer(1) : 0;
     _argument = begin;
+    if (!begins) fail("a reference (\"#\" and a number)");
     return static_cast<std::uint32_t>(value);
 }
 

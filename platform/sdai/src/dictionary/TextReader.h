@@ -13,7 +13,7 @@ namespace velkor::sdai {
 class TextReader {
 public:
     /// `text` is zero-terminated.
-    explicit TextReader(const char* text) noexcept : _text(text), _next(text), _argument(text) {}
+    explicit TextReader(const char* text) noexcept : _next(text), _argument(text) {}
 
     bool failed() const noexcept { return _expected != nullptr; }
     /// Notes that the argument read last is not what is expected there.
@@ -49,7 +49,6 @@ public:
     bool atReference() const noexcept { return *_next == '#'; }
 
 private:
-    const char* _text;
     const char* _next;
     const char* _argument;
     const char* _expected = nullptr;

@@ -1,0 +1,348 @@
+// velkor dictionary list|show|entity|diff
+
+#include "CommandContext.h"
+#include "dictionary/DictionaryDiff.h"
+#include "dictionary/NearestNames.h"
+#include "Json.h"
+#include "sdai/DXSdaiDictionaryRepo.h"
+#include "TextTable.h"
+
+#include <array>
+#include <ostream>
+#include <string>
+
+namespace velkor::host {
+
+namespace {
+
+using sdai::Attribute;
+using sdai::EntityDefinition;
+using sdai::SchemaCounts;
+using sdai::SchemaDefinition;
+using SchemaPointer = DXSdaiDictionaryRepo::SchemaPointer;
+
+constexpr const char* releaseHelp =
+    "Schema name; a name as files write it (IFC2X3_TC1) or a short form (2x3, 4, 4x3) is matched";
+
+std::string joined(const std::vector<std::string>& texts) {
+    std::string result;
+    for (const std::string& text : texts) result += (result.empty() ? "" : ", ") + text;
+    return result;
+}
+
+/// The schema that a user means. Null after saying why there is none and setting the status.
+SchemaPointer chooseSchema(CommandContext& context, const std::string& release) {
+    auto& repository = DXSdaiDictionaryRepo::TheOne();
+    std::string name = repository.match(release);
+    if (name.empty()) name = repository.match("IFC" + release);
+    if (name.empty()) {
+        context.err << "velkor: unknown release \"" << release << "\"; supported: " << joined(repository.names())
+                    << '\n';
+        context.status = BadUsage;
+        return nullptr;
+    }
+    auto schema = repository.schema(name);
+    if (schema) return *schema;
+    context.err << "velkor: " << schema.error() << '\n';
+    context.status = Unreadable;
+    return nullptr;
+}
+
+struct CountColumn {
+    const char* heading;
+    const char* member;
+    int SchemaCounts::*count;
+};
+
+constexpr std::array<CountColumn, 11> countColumns{{
+    {"declarations", "declarations", &SchemaCounts::declarations},
+    {"statements", "statements", &SchemaCounts::statements},
+    {"entities", "entities", &SchemaCounts::entities},
+    {"defined types", "definedTypes", &SchemaCounts::definedTypes},
+    {"enumerations", "enumerations", &SchemaCounts::enumerationTypes},
+    {"selects", "selects", &SchemaCounts::selectTypes},
+    {"aggregates", "aggregates", &SchemaCounts::aggregateTypes},
+    {"explicit", "explicitAttributes", &SchemaCounts::explicitAttributes},
+    {"derived", "derivedAttributes", &SchemaCounts::derivedAttributes},
+    {"uniqueness", "uniquenessRules", &SchemaCounts::uniquenessRules},
+    {"Entities statements", "entitiesStatements", &SchemaCounts::entitiesStatements},
+}};
+
+void runList(CommandContext& context) {
+    std::vector<TextTable::Column> columns{{"schema"}};
+    for (const CountColumn& column : countColumns) columns.push_back({column.heading, TextTable::Right});
+    TextTable table(columns);
+    Json schemas = Json::array();
+    for (const std::string& name : DXSdaiDictionaryRepo::TheOne().names()) {
+        const SchemaPointer schema = chooseSchema(context, name);
+        if (!schema) continue;
+        std::vector<std::string> cells{name};
+        Json entry{{"name", name}};
+        for (const CountColumn& column : countColumns) {
+            const int count = schema->counts().*column.count;
+            cells.push_back(std::to_string(count));
+            entry[column.member] = count;
+        }
+        table.add(std::move(cells));
+        schemas.push_back(std::move(entry));
+    }
+    if (context.json())
+        writeJson(context.out, {{"schemas", schemas}});
+    else
+        table.write(context.out);
+}
+
+void runShow(CommandContext& context, const std::string& release, bool declarations) {
+    const SchemaPointer schema = chooseSchema(context, release);
+    if (!schema) return;
+    const auto lists = DXSdaiDictionaryRepo::TheOne().lists(schema->name());
+    const auto texts = declarations ? lists.declarations : lists.statements;
+    if (context.json()) {
+        writeJson(context.out, {{"schema", schema->name()},
+                                {"list", declarations ? "declarations" : "statements"},
+                                {"texts", std::vector<std::string>(texts.begin(), texts.end())}});
+        return;
+    }
+    for (const char* text : texts) context.out << text << '\n';
+}
+
+std::vector<std::string> supertypes(const EntityDefinition& entity) {
+    std::vector<std::string> result;
+    for (const auto* up = entity.supertype(); up != nullptr; up = up->supertype()) result.emplace_back(up->name());
+    return result;
+}
+
+std::vector<std::string> subtypes(const EntityDefinition& entity) {
+    std::vector<std::string> result;
+    for (const EntityDefinition* subtype : entity.subtypes()) result.emplace_back(subtype->name());
+    return result;
+}
+
+Json attributeJson(const Attribute& attribute, bool derived) {
+    return {{"name", attribute.name()},
+            {"owner", attribute.owner().name()},
+            {"type", attribute.type().expressText()},
+            {"optional", attribute.isOptional()},
+            {"derived", derived}};
+}
+
+Json entityJson(const EntityDefinition& entity) {
+    Json attributes = Json::array(), derived = Json::array(), rules = Json::array();
+    for (const auto& slot : entity.attributes()) attributes.push_back(attributeJson(*slot.attribute, slot.isDerived));
+    for (const Attribute* attribute : entity.derivedAttributes()) derived.push_back(attributeJson(*attribute, true));
+    for (const auto& rule : entity.uniquenessRules()) {
+        Json names = Json::array();
+        for (const Attribute* attribute : rule.attributes) names.push_back(attribute->name());
+        rules.push_back({{"label", rule.label}, {"attributes", std::move(names)}});
+    }
+    return {{"schema", entity.schema().name()},
+            {"entity", entity.name()},
+            {"abstract", entity.isAbstract()},
+            {"supertypes", supertypes(entity)},
+            {"subtypes", subtypes(entity)},
+            {"attributes", std::move(attributes)},
+            {"derivedAttributes", std::move(derived)},
+            {"uniquenessRules", std::move(rules)}};
+}
+
+void writeEntity(std::ostream& out, const EntityDefinition& entity) {
+    const auto names = [&](const char* title, const std::vector<std::string>& texts) {
+        if (!texts.empty()) out << title << joined(texts) << '\n';
+    };
+    out << entity.name() << " of " << entity.schema().name() << (entity.isAbstract() ? ", abstract\n" : "\n");
+    names("supertypes: ", supertypes(entity));
+    names("subtypes: ", subtypes(entity));
+
+    TextTable attributes({{"#", TextTable::Right}, {"attribute"}, {"owner"}, {"value"}, {"type"}});
+    int position = 0;
+    const auto add = [&](const std::string& number, const Attribute& attribute, bool derived) {
+        const char* value = derived ? "derived" : attribute.isOptional() ? "optional" : "required";
+        attributes.add({number, std::string(attribute.name()), std::string(attribute.owner().name()), value,
+                        attribute.type().expressText()});
+    };
+    for (const auto& slot : entity.attributes()) add(std::to_string(++position), *slot.attribute, slot.isDerived);
+    // These have no place in an instance.
+    for (const Attribute* attribute : entity.derivedAttributes()) add("-", *attribute, true);
+    if (attributes.empty()) {
+        out << "no attributes\n";
+    } else {
+        out << '\n';
+        attributes.write(out);
+    }
+    for (const auto& rule : entity.uniquenessRules()) {
+        out << "unique " << rule.label << ':';
+        for (const Attribute* attribute : rule.attributes) out << ' ' << attribute->name();
+        out << '\n';
+    }
+}
+
+void runEntity(CommandContext& context, const std::string& release, const std::string& name) {
+    const SchemaPointer schema = chooseSchema(context, release);
+    if (!schema) return;
+    if (const EntityDefinition* entity = schema->entity(name)) {
+        if (context.json())
+            writeJson(context.out, entityJson(*entity));
+        else
+            writeEntity(context.out, *entity);
+        return;
+    }
+    context.status = Findings;
+    if (const sdai::DefinedType* type = schema->definedType(name)) {
+        context.err << "velkor: " << type->name() << " of " << schema->name()
+                    << " is a type, not an entity: " << type->underlying().expressText() << '\n';
+        return;
+    }
+    context.err << "velkor: " << schema->name() << " has no entity \"" << name << '"';
+    const auto nearest = nearestEntities(*schema, name);
+    if (!nearest.empty()) context.err << "; nearest: " << joined(nearest);
+    context.err << '\n';
+}
+
+Json changesJson(const std::vector<DictionaryDiff::Change>& changes) {
+    Json result = Json::array();
+    for (const auto& change : changes) {
+        result.push_back({{"name", change.name}, {"before", change.before}, {"after", change.after}});
+    }
+    return result;
+}
+
+Json itemsJson(const std::vector<DictionaryDiff::Item>& items) {
+    Json result = Json::array();
+    for (const auto& item : items) result.push_back({{"name", item.name}, {"type", item.description}});
+    return result;
+}
+
+Json diffJson(const SchemaDefinition& before, const SchemaDefinition& after, const DictionaryDiff& diff) {
+    Json entities = Json::array(), types = Json::array();
+    for (const auto& entity : diff.changedEntities) {
+        entities.push_back({{"name", entity.name},
+                            {"properties", changesJson(entity.properties)},
+                            {"addedAttributes", itemsJson(entity.addedAttributes)},
+                            {"removedAttributes", itemsJson(entity.removedAttributes)},
+                            {"changedAttributes", changesJson(entity.changedAttributes)},
+                            {"reordered", entity.reordered}});
+    }
+    for (const auto& type : diff.changedTypes) {
+        types.push_back({{"name", type.name},
+                         {"kind", type.kind},
+                         {"definition", changesJson(type.definition)},
+                         {"added", type.added},
+                         {"removed", type.removed},
+                         {"reordered", type.reordered}});
+    }
+    return {{"before", before.name()},
+            {"after", after.name()},
+            {"entities", {{"added", diff.addedEntities}, {"removed", diff.removedEntities}, {"changed", entities}}},
+            {"types", {{"added", diff.addedTypes}, {"removed", diff.removedTypes}, {"changed", types}}}};
+}
+
+void writeNames(std::ostream& out, const char* title, const std::vector<std::string_view>& names) {
+    if (names.empty()) return;
+    out << '\n' << title << '\n';
+    for (const std::string_view name : names) out << "  " << name << '\n';
+}
+
+void writeChanges(std::ostream& out, const std::vector<DictionaryDiff::Change>& changes) {
+    for (const auto& change : changes) {
+        out << "    ~ " << change.name << ": " << change.before << " -> " << change.after << '\n';
+    }
+}
+
+void writeDiff(std::ostream& out, const SchemaDefinition& before, const SchemaDefinition& after,
+               const DictionaryDiff& diff) {
+    out << before.name() << " -> " << after.name() << '\n'
+        << "entities: " << diff.addedEntities.size() << " added, " << diff.removedEntities.size() << " removed, "
+        << diff.changedEntities.size() << " changed\n"
+        << "types: " << diff.addedTypes.size() << " added, " << diff.removedTypes.size() << " removed, "
+        << diff.changedTypes.size() << " changed\n";
+    writeNames(out, "added entities", diff.addedEntities);
+    writeNames(out, "removed entities", diff.removedEntities);
+    if (!diff.changedEntities.empty()) out << "\nchanged entities\n";
+    for (const auto& entity : diff.changedEntities) {
+        out << "  " << entity.name << '\n';
+        writeChanges(out, entity.properties);
+        for (const auto& item : entity.addedAttributes)
+            out << "    + " << item.name << ": " << item.description << '\n';
+        for (const auto& item : entity.removedAttributes) {
+            out << "    - " << item.name << ": " << item.description << '\n';
+        }
+        writeChanges(out, entity.changedAttributes);
+        if (entity.reordered) out << "    ~ attributes in another order\n";
+    }
+    writeNames(out, "added types", diff.addedTypes);
+    writeNames(out, "removed types", diff.removedTypes);
+    if (!diff.changedTypes.empty()) out << "\nchanged types\n";
+    for (const auto& type : diff.changedTypes) {
+        out << "  " << type.name << " (" << type.kind << ")\n";
+        writeChanges(out, type.definition);
+        for (const std::string& name : type.added) out << "    + " << name << '\n';
+        for (const std::string& name : type.removed) out << "    - " << name << '\n';
+        if (type.reordered) out << "    ~ in another order\n";
+    }
+}
+
+void runDiff(CommandContext& context, const std::string& first, const std::string& second) {
+    const SchemaPointer before = chooseSchema(context, first);
+    if (!before) return;
+    const SchemaPointer after = chooseSchema(context, second);
+    if (!after) return;
+    const DictionaryDiff diff = compareDictionaries(*before, *after);
+    if (context.json())
+        writeJson(context.out, diffJson(*before, *after, diff));
+    else
+        writeDiff(context.out, *before, *after, diff);
+}
+
+/// What the user typed for one of the subcommands.
+struct Arguments {
+    std::string release;
+    std::string other;
+    bool declarations = false;
+    bool statements = false;
+};
+
+CLI::App* addSubcommand(CLI::App& dictionary, CommandContext& context, const char* name, const char* description,
+                        const char* example) {
+    CLI::App* command = dictionary.add_subcommand(name, description);
+    command->footer(std::string("Example:\n  ") + example);
+    context.addFormatOption(*command);
+    return command;
+}
+
+} // namespace
+
+void addDictionaryCommand(CLI::App& app, CommandContext& context) {
+    CLI::App* dictionary = app.add_subcommand("dictionary", "The data dictionaries of the IFC releases");
+    dictionary->require_subcommand(1);
+    dictionary->footer("Example:\n  velkor dictionary entity IFC4 IFCWALL");
+    const auto arguments = std::make_shared<Arguments>();
+
+    CLI::App* list = addSubcommand(*dictionary, context, "list", "A row of counts per release",
+                                   "velkor dictionary list --format json");
+    list->callback([&context] { runList(context); });
+
+    CLI::App* show =
+        addSubcommand(*dictionary, context, "show", "One of the two lists that a dictionary is made of, text by text",
+                      "velkor dictionary show IFC4 --declarations");
+    show->add_option("release", arguments->release, releaseHelp)->required();
+    CLI::Option_group* which = show->add_option_group("list", "Which list");
+    which->add_flag("--declarations", arguments->declarations, "Types, entities, attributes and rules with numbers");
+    which->add_flag("--statements", arguments->statements, "What is stated about the numbered declarations");
+    which->require_option(1);
+    show->callback([&context, arguments] { runShow(context, arguments->release, arguments->declarations); });
+
+    CLI::App* entity = addSubcommand(*dictionary, context, "entity",
+                                     "One entity with its inherited attributes, as instances hold them",
+                                     "velkor dictionary entity 4x3 IfcWall");
+    entity->add_option("release", arguments->release, releaseHelp)->required();
+    entity->add_option("entity", arguments->other, "Name of an entity, in any letter case")->required();
+    entity->callback([&context, arguments] { runEntity(context, arguments->release, arguments->other); });
+
+    CLI::App* diff = addSubcommand(*dictionary, context, "diff", "What changed from one release to another",
+                                   "velkor dictionary diff IFC2X3 IFC4");
+    diff->add_option("before", arguments->release, releaseHelp)->required();
+    diff->add_option("after", arguments->other, "The release to compare with it")->required();
+    diff->callback([&context, arguments] { runDiff(context, arguments->release, arguments->other); });
+}
+
+} // namespace velkor::host
