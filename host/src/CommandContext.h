@@ -6,6 +6,7 @@
 #include <iosfwd>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace velkor::sdai {
 class Model;
@@ -18,7 +19,7 @@ enum ExitStatus : int {
     Done = 0,
     Findings = 1, ///< the answer is "no" or findings exist
     BadUsage = 2,
-    Unreadable = 3,
+    Unreadable = 3, ///< input could not be read, or the results not be written
 };
 
 struct CommandContext {
@@ -41,6 +42,10 @@ struct CommandContext {
     /// gives null.
     std::unique_ptr<sdai::Model> openModel(const std::string& path);
 };
+
+/// Runs the program over the words of a command line, its name left out: parses them, runs the
+/// command, reports bad usage. Gives the exit status.
+int run(std::vector<std::string> words, CommandContext& context);
 
 /// Adds every command to the program.
 void addCommands(CLI::App& app, CommandContext& context);

@@ -1,23 +1,43 @@
 #include "CommandContext.h"
 
+#include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <iostream>
+#include <poll.h>
+#include <string_view>
 #include <unistd.h>
+
+namespace {
+
+std::string_view environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::string_view() : std::string_view(value);
+}
+
+// A reader that has seen enough, such as "head", is no failure.
+bool isReaderGone() {
+    pollfd output{STDOUT_FILENO, POLLOUT, 0};
+    return poll(&output, 1, 0) > 0 && (output.revents & POLLERR) != 0;
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
     using namespace velkor::host;
-    const bool noColor = [] {
-        const char* value = std::getenv("NO_COLOR");
-        return value != nullptr && *value != '\0';
-    }();
-    CommandContext context{std::cout, std::cerr, isatty(STDERR_FILENO) != 0, isatty(STDOUT_FILENO) != 0 && !noColor};
+    std::signal(SIGPIPE, SIG_IGN);
+    std::ios::sync_with_stdio(false);
 
-    CLI::App app("Services for building models in IFC (ISO 16739).", "velkor");
-    addCommands(app, context);
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? Done : BadUsage;
+    const bool capable = environment("TERM") != "dumb";
+    CommandContext context{std::cout, std::cerr};
+    context.interactive = capable && isatty(STDERR_FILENO) != 0;
+    context.color = capable && isatty(STDOUT_FILENO) != 0 && environment("NO_COLOR").empty();
+
+    const int status = run({argv + std::min(argc, 1), argv + argc}, context);
+    std::cout.flush();
+    if (!std::cout && !isReaderGone()) {
+        std::cerr << "velkor: the results could not be written to standard output\n";
+        return Unreadable;
     }
-    return context.status;
+    return status;
 }

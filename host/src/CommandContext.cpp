@@ -1,0 +1,75 @@
+#include "CommandContext.h"
+
+#include "sdai/Model.h"
+
+#include <algorithm>
+#include <ostream>
+
+namespace velkor::host {
+
+namespace {
+
+// The command that the user meant: the deepest one parsed.
+std::string usedCommand(const CLI::App* app) {
+    std::string name = app->get_name();
+    for (auto parsed = app->get_subcommands(); !parsed.empty(); parsed = parsed.front()->get_subcommands()) {
+        name += ' ' + parsed.front()->get_name();
+    }
+    return name;
+}
+
+std::string failureMessage(const CLI::App* app, const CLI::Error& error) {
+    return "velkor: " + std::string(error.what()) + "\nSee \"" + usedCommand(app) + " --help\".\n";
+}
+
+} // namespace
+
+void CommandContext::addFormatOption(CLI::App& command) {
+    command.add_option("--format", format, "text for people, json for programs; text unless told")
+        ->option_text("text|json")
+        ->check(CLI::IsMember({"text", "json"}));
+}
+
+std::unique_ptr<sdai::Model> CommandContext::openModel(const std::string& path) {
+    auto model = sdai::Model::open(path);
+    if (model) return std::move(*model);
+    err << "velkor: " << model.error() << '\n';
+    status = Unreadable;
+    return nullptr;
+}
+
+int run(std::vector<std::string> words, CommandContext& context) {
+    CLI::App app("Services for building models in IFC (ISO 16739).", "velkor");
+    app.set_version_flag("--version", "velkor " VELKOR_VERSION, "Print the version");
+    app.set_help_flag("-h,--help", "Print this help");
+    app.failure_message(failureMessage);
+    app.footer("Example:\n  velkor report house.ifc\n\n"
+               "Exit status: 0 done, 1 the answer is \"no\" or findings exist, 2 bad usage,\n"
+               "3 input could not be read.");
+    addCommands(app, context);
+    try {
+        std::ranges::reverse(words);
+        app.parse(words);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error, context.out, context.err) == 0 ? Done : BadUsage;
+    } catch (const std::exception& error) {
+        context.err << "velkor: " << error.what() << '\n';
+        return Unreadable;
+    }
+    if (app.get_subcommands().empty()) {
+        context.err << app.help();
+        return BadUsage;
+    }
+    return context.status;
+}
+
+void addCommands(CLI::App& app, CommandContext& context) {
+    // Not required here: a word that is no command is then reported as such.
+    app.require_subcommand(0, 1);
+    addReportCommand(app, context);
+    addCheckCommand(app, context);
+    addUnitsCommand(app, context);
+    addDictionaryCommand(app, context);
+}
+
+} // namespace velkor::host
