@@ -1,0 +1,32 @@
+/// The platform's 8-bit string: bytes without an encoding of their own, for keys and catalogue
+/// names.
+#pragma once
+
+#include <compare>
+#include <string>
+#include <string_view>
+#include <utility>
+
+class QORString {
+public:
+    QORString() = default;
+    /// A null pointer gives the empty text.
+    QORString(const char* text) : _text(text ? text : "") {}
+    explicit QORString(std::string_view text) : _text(text) {}
+
+    std::string_view view() const noexcept { return _text; }
+    const char* CastToCharPtr() const noexcept { return _text.c_str(); }
+    int GetLength() const noexcept { return static_cast<int>(_text.size()); }
+    bool IsEmpty() const noexcept { return _text.empty(); }
+
+    QORString& Append(const QORString& other) {
+        _text += other._text;
+        return *this;
+    }
+    friend QORString operator+(QORString a, const QORString& b) { return std::move(a.Append(b)); }
+    friend bool operator==(const QORString& a, const QORString& b) noexcept = default;
+    friend auto operator<=>(const QORString& a, const QORString& b) noexcept = default;
+
+private:
+    std::string _text;
+};

@@ -1,0 +1,32 @@
+/// Operations on UTF-8 text that everything above shares: counting, case, hashing.
+///
+/// Text that is not valid UTF-8 is never refused: a byte that belongs to no valid sequence counts
+/// as one character, has no case, and equals only itself.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace velkor::text {
+
+/// Number of characters (code points).
+std::size_t characterCount(std::string_view utf8) noexcept;
+
+/// Byte position of a character counted from 0; the text's size when it has no such character.
+std::size_t byteOffset(std::string_view utf8, std::size_t character) noexcept;
+
+/// Unicode's simple case mapping of every character.
+std::string toUpper(std::string_view utf8);
+std::string toLower(std::string_view utf8);
+
+/// True when the texts are equal but for letter case, by Unicode case folding.
+bool equalIgnoringCase(std::string_view a, std::string_view b) noexcept;
+
+/// XXH32 with seed 0 over the bytes. It is stored in identifiers and therefore never changes.
+std::uint32_t hash32(std::string_view bytes) noexcept;
+/// XXH64 with seed 0 over the bytes.
+std::uint64_t hash64(std::string_view bytes) noexcept;
+
+} // namespace velkor::text

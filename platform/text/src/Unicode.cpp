@@ -1,0 +1,140 @@
+#include "text/Unicode.h"
+
+#define XXH_INLINE_ALL
+#include <utf8proc.h>
+#include <xxhash.h>
+
+#include <algorithm>
+
+namespace velkor::text {
+
+namespace {
+
+bool isAscii(char c) noexcept {
+    return static_cast<unsigned char>(c) < 0x80;
+}
+
+bool isAscii(std::string_view text) noexcept {
+    return std::all_of(text.begin(), text.end(), [](char c) { return isAscii(c); });
+}
+
+constexpr char asciiUpper(char c) noexcept {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+constexpr char asciiLower(char c) noexcept {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+/// Bytes of the first character; `code` is negative for a byte outside any valid sequence.
+std::size_t decode(std::string_view text, utf8proc_int32_t& code) noexcept {
+    const auto* bytes = reinterpret_cast<const utf8proc_uint8_t*>(text.data());
+    const utf8proc_ssize_t length = utf8proc_iterate(bytes, static_cast<utf8proc_ssize_t>(text.size()), &code);
+    if (length > 0) return static_cast<std::size_t>(length);
+    code = -1;
+    return 1;
+}
+
+std::size_t characterLength(std::string_view text) noexcept {
+    if (isAscii(text.front())) return 1;
+    utf8proc_int32_t code = 0;
+    return decode(text, code);
+}
+
+std::string mapped(std::string_view text, char (*ascii)(char) noexcept, utf8proc_int32_t (*unicode)(utf8proc_int32_t)) {
+    std::string result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        if (isAscii(text.front())) {
+            result.push_back(ascii(text.front()));
+            text.remove_prefix(1);
+            continue;
+        }
+        utf8proc_int32_t code = 0;
+        const std::size_t length = decode(text, code);
+        if (code < 0) {
+            result.append(text.substr(0, length));
+        } else {
+            utf8proc_uint8_t bytes[4];
+            const utf8proc_ssize_t size = utf8proc_encode_char(unicode(code), bytes);
+            result.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size));
+        }
+        text.remove_prefix(length);
+    }
+    return result;
+}
+
+/// The folded characters of a text one at a time. A fold may be several characters long.
+class FoldedText {
+public:
+    explicit FoldedText(std::string_view text) noexcept : _rest(text) {}
+
+    /// -1 at the end; a byte outside any valid sequence comes as -2 minus its value.
+    utf8proc_int32_t next() noexcept {
+        if (_at < _count) return _fold[_at++];
+        if (_rest.empty()) return -1;
+        utf8proc_int32_t code = 0;
+        const auto byte = static_cast<unsigned char>(_rest.front());
+        _rest.remove_prefix(decode(_rest, code));
+        if (code < 0) return -2 - static_cast<utf8proc_int32_t>(byte);
+        int lastClass = 0;
+        const utf8proc_ssize_t count = utf8proc_decompose_char(code, _fold, LongestFold, UTF8PROC_CASEFOLD, &lastClass);
+        if (count <= 0 || count > LongestFold) return code;
+        _count = static_cast<int>(count);
+        _at = 1;
+        return _fold[0];
+    }
+
+private:
+    static constexpr int LongestFold = 4;
+    std::string_view _rest;
+    utf8proc_int32_t _fold[LongestFold] = {};
+    int _at = 0;
+    int _count = 0;
+};
+
+} // namespace
+
+std::size_t characterCount(std::string_view utf8) noexcept {
+    std::size_t count = 0;
+    for (; !utf8.empty(); ++count) utf8.remove_prefix(characterLength(utf8));
+    return count;
+}
+
+std::size_t byteOffset(std::string_view utf8, std::size_t character) noexcept {
+    std::string_view rest = utf8;
+    for (; character > 0 && !rest.empty(); --character) rest.remove_prefix(characterLength(rest));
+    return utf8.size() - rest.size();
+}
+
+std::string toUpper(std::string_view utf8) {
+    return mapped(utf8, asciiUpper, utf8proc_toupper);
+}
+
+std::string toLower(std::string_view utf8) {
+    return mapped(utf8, asciiLower, utf8proc_tolower);
+}
+
+bool equalIgnoringCase(std::string_view a, std::string_view b) noexcept {
+    if (isAscii(a) && isAscii(b)) {
+        return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                          [](char x, char y) { return asciiLower(x) == asciiLower(y); });
+    }
+    FoldedText foldedA(a);
+    FoldedText foldedB(b);
+    while (true) {
+        const utf8proc_int32_t next = foldedA.next();
+        if (next != foldedB.next()) return false;
+        if (next == -1) return true;
+    }
+}
+
+std::uint32_t hash32(std::string_view bytes) noexcept {
+    return XXH32(bytes.data(), bytes.size(), 0);
+}
+
+std::uint64_t hash64(std::string_view bytes) noexcept {
+    return XXH64(bytes.data(), bytes.size(), 0);
+}
+
+} // namespace velkor::text
