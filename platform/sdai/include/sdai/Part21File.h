@@ -96,6 +96,7 @@ public:
 protected:
     Part21File();
     struct State;
+    static tl::expected<std::unique_ptr<Part21File>, std::string> read(std::unique_ptr<State> state, ScanPath path);
     std::unique_ptr<State> _state;
 };
 

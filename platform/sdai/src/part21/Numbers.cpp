@@ -1,4 +1,4 @@
-#include "part21/Characters.h"
+#include "part21/Separators.h"
 #include "sdai/Part21Lexer.h"
 
 #include <algorithm>
@@ -8,6 +8,7 @@
 namespace velkor::sdai {
 
 using part21::isDigit;
+using part21::startsWithWord;
 
 namespace {
 
@@ -16,12 +17,6 @@ bool takeSign(std::string_view& text) noexcept {
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+')) text.remove_prefix(1);
     return negative;
-}
-
-bool startsWithWord(std::string_view text, std::string_view upperCaseWord) noexcept {
-    return text.size() >= upperCaseWord.size() &&
-           std::equal(upperCaseWord.begin(), upperCaseWord.end(), text.begin(),
-                      [](char word, char c) { return word == (c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c); });
 }
 
 /// What printf functions write for values that are no numbers: 1.#INF, 1.#IND, 1.#QNAN, inf, nan.

@@ -1,0 +1,174 @@
+#include "sdai/Part21File.h"
+
+#include "part21/MappedFile.h"
+#include "part21/Separators.h"
+#include "part21/StructureReader.h"
+
+#include <algorithm>
+#include <array>
+
+namespace velkor::sdai {
+
+using namespace part21;
+
+struct Part21File::State {
+    State(MappedFile file_, std::string_view text, std::string name_)
+        : file(std::move(file_)), structure(text), name(std::move(name_)) {}
+
+    MappedFile file;
+    Structure structure;
+    std::string name;
+};
+
+namespace {
+
+constexpr std::string_view expected = R"(expected an exchange structure that begins with "ISO-10303-21;")";
+
+/// What a text is that is no exchange structure; empty when it may be one.
+std::string foreignFormat(std::string_view text) {
+    struct Format {
+        std::string_view beginning;
+        std::string_view name;
+    };
+    using namespace std::string_view_literals;
+    static constexpr std::array<Format, 6> formats{{
+        {"PK\x03\x04"sv, "a ZIP archive, to be unpacked first"sv},
+        {"\x1F\x8B"sv, "a gzip archive, to be unpacked first"sv},
+        {"<"sv, "XML"sv},
+        {"{"sv, "JSON"sv},
+        {"\xFF\xFE"sv, "text in UTF-16"sv},
+        {"\xFE\xFF"sv, "text in UTF-16"sv},
+    }};
+    if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
+    const char* end = text.data() + text.size();
+    const char* at = skipSeparators(text.data(), end);
+    if (at == end) return "it holds nothing";
+    const std::string_view content(at, static_cast<std::size_t>(end - at));
+    for (const Format& format : formats) {
+        if (content.starts_with(format.beginning)) return "it is " + std::string(format.name);
+    }
+    // The first keyword may be missing, as long as the section that follows is there.
+    for (const std::string_view word : {"ISO-10303-21", "HEADER"}) {
+        if (startsWithWord(content, word)) return {};
+    }
+    std::string found;
+    for (const char c : content.substr(0, 16)) {
+        if (c == '\n' || c == '\r') break;
+        found += isClass(c, Basic) ? c : '?';
+    }
+    return "found \"" + found + '"';
+}
+
+} // namespace
+
+Part21File::Part21File() = default;
+Part21File::~Part21File() = default;
+
+tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::open(const std::string& path, ScanPath path_) {
+    auto file = MappedFile::open(path);
+    if (!file) return tl::unexpected(path + ": cannot be read: " + file.error());
+    if (file->text().empty()) return tl::unexpected(path + ": is empty, " + std::string(expected));
+    const std::string_view text = file->text();
+    return read(std::make_unique<State>(std::move(*file), text, path), path_);
+}
+
+tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::fromText(std::string_view text, std::string name,
+                                                                            ScanPath path_) {
+    return read(std::make_unique<State>(MappedFile(), text, std::move(name)), path_);
+}
+
+tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::read(std::unique_ptr<State> state, ScanPath path) {
+    struct Opened : Part21File {};
+    Structure& structure = state->structure;
+    MappedFile& mapped = state->file;
+    const BlockClassifier classifier = blockClassifier(path);
+    if (classifier == nullptr) {
+        return tl::unexpected(state->name + ": the processor lacks the instructions of the scan path asked for");
+    }
+    mapped.expectReading(0);
+    if (const std::string format = foreignFormat(structure.text); !format.empty()) {
+        return tl::unexpected(state->name + ": " + std::string(expected) + ", " + format);
+    }
+    StructureReader(structure, classifier).read([&mapped](std::uint64_t position) { mapped.expectReading(position); });
+    if (structure.tooManyInstances) {
+        return tl::unexpected(state->name + ": has more than " + std::to_string(InstanceIndex::maximumCount) +
+                              " instances, which is the most that can be read");
+    }
+    std::unique_ptr<Part21File> opened = std::make_unique<Opened>();
+    opened->_state = std::move(state);
+    return opened;
+}
+
+const std::string& Part21File::name() const noexcept {
+    return _state->name;
+}
+std::string_view Part21File::text() const noexcept {
+    return _state->structure.text;
+}
+const FileHeader& Part21File::header() const noexcept {
+    return _state->structure.header;
+}
+
+std::span<const Part21File::DataSection> Part21File::dataSections() const noexcept {
+    return _state->structure.sections;
+}
+
+std::uint32_t Part21File::instanceCount() const noexcept {
+    return _state->structure.index.count();
+}
+std::optional<std::uint32_t> Part21File::find(std::uint64_t id) const noexcept {
+    return _state->structure.index.find(id);
+}
+std::uint64_t Part21File::id(std::uint32_t number) const noexcept {
+    return _state->structure.index.id(number);
+}
+std::uint64_t Part21File::offset(std::uint32_t number) const noexcept {
+    return _state->structure.index.offset(number);
+}
+std::uint16_t Part21File::keyword(std::uint32_t number) const noexcept {
+    return _state->structure.index.keyword(number);
+}
+std::span<const std::uint16_t> Part21File::keywordNumbers() const noexcept {
+    return _state->structure.index.keywords();
+}
+std::span<const std::string> Part21File::keywords() const noexcept {
+    return _state->structure.keywords.keywords();
+}
+
+std::string_view Part21File::instanceText(std::uint32_t number) const noexcept {
+    const Structure& structure = _state->structure;
+    const char* text = structure.text.data();
+    const char* at = text + structure.index.offset(number) + 1;
+    const char* end = text + structure.text.size();
+    if (number + 1 < structure.index.count()) end = text + structure.index.offset(number + 1);
+    // Of the sections that begin at or before the instance the last one holds it.
+    const auto behind =
+        std::upper_bound(structure.sections.begin(), structure.sections.end(), number,
+                         [](std::uint32_t value, const DataSection& section) { return value < section.firstInstance; });
+    const auto section = static_cast<std::size_t>(behind - structure.sections.begin());
+    if (section > 0) end = std::min(end, text + structure.sectionEnds[section - 1]);
+
+    while (at != end && isDigit(*at)) ++at;
+    at = skipSeparators(at, end);
+    if (at != end && *at == '=') at = skipSeparators(at + 1, end);
+    return {at, static_cast<std::size_t>(end - at)};
+}
+
+std::uint64_t Part21File::line(std::uint64_t offset) const {
+    return _state->structure.lines.line(offset);
+}
+
+std::span<const Problem> Part21File::problems() const noexcept {
+    return _state->structure.problems.problems();
+}
+std::uint64_t Part21File::problemCount() const noexcept {
+    return _state->structure.problems.total();
+}
+
+std::size_t Part21File::memoryUse() const noexcept {
+    const Structure& structure = _state->structure;
+    return sizeof(State) + structure.index.memoryUse() + structure.keywords.memoryUse() + structure.lines.memoryUse() +
+           structure.problems.problems().capacity() * sizeof(Problem);
+}
+
+} // namespace velkor::sdai

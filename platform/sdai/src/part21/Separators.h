@@ -1,0 +1,35 @@
+/// White space and comments over a piece of text, and words in it, whatever their case.
+#pragma once
+
+#include "part21/Characters.h"
+
+#include <cstring>
+#include <string_view>
+
+namespace velkor::sdai::part21 {
+
+/// First character that is neither white space nor within a comment closed before `end`.
+inline const char* skipSeparators(const char* at, const char* end) noexcept {
+    for (;;) {
+        while (at != end && isSpace(*at)) ++at;
+        if (end - at < 4 || at[0] != '/' || at[1] != '*') return at;
+        const void* close = memmem(at + 2, static_cast<std::size_t>(end - at - 2), "*/", 2);
+        if (close == nullptr) return at;
+        at = static_cast<const char*>(close) + 2;
+    }
+}
+
+inline char upperCase(char c) noexcept {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+/// Whether a word in upper case stands at the beginning of a text, in any case.
+inline bool startsWithWord(std::string_view text, std::string_view word) noexcept {
+    if (text.size() < word.size()) return false;
+    for (std::size_t i = 0; i < word.size(); ++i) {
+        if (upperCase(text[i]) != word[i]) return false;
+    }
+    return true;
+}
+
+} // namespace velkor::sdai::part21
