@@ -17,7 +17,7 @@ std::size_t characterCount(std::string_view utf8) noexcept;
 /// Byte position of a character counted from 0; the text's size when it has no such character.
 std::size_t byteOffset(std::string_view utf8, std::size_t character) noexcept;
 
-/// Unicode's simple case mapping of every character.
+/// Case mapping character by character, as utf8proc maps it: the length in characters stays.
 std::string toUpper(std::string_view utf8);
 std::string toLower(std::string_view utf8);
 
