@@ -117,8 +117,8 @@ bool compareTypes(const DefinedType& before, const DefinedType& after, Dictionar
     const ListDiff members(memberTexts(a), memberTexts(b));
     change.added = members.added;
     change.removed = members.removed;
-    change.reordered = members.reordered;
-    return !members.empty();
+    change.reordered = members.reordered && b.asEnumeration() != nullptr;
+    return !change.added.empty() || !change.removed.empty() || change.reordered;
 }
 
 template <class Definition>

@@ -38,8 +38,8 @@ struct DictionaryDiff {
         /// Enumerators or select items.
         std::vector<std::string> added;
         std::vector<std::string> removed;
-        /// The enumerators or items in both stand in another order: positions cannot be carried
-        /// from one schema to the other.
+        /// The enumerators in both stand in another order: positions cannot be carried from one
+        /// schema to the other. The order of a select's items means nothing.
         bool reordered = false;
         /// Set when neither is an enumeration or neither a select.
         std::vector<Change> definition;

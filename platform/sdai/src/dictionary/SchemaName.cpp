@@ -2,6 +2,7 @@
 
 #include "dictionary/Names.h"
 
+#include <algorithm>
 #include <charconv>
 #include <utility>
 

@@ -1,0 +1,179 @@
+#include "CommandContext.h"
+
+#include <algorithm>
+#include <dlfcn.h>
+#include <gmock/gmock.h>
+#include <iterator>
+#include <map>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+namespace velkor::host {
+
+using nlohmann::json;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsSupersetOf;
+using testing::StartsWith;
+
+namespace {
+
+struct Outcome {
+    int status;
+    std::string out;
+    std::string err;
+
+    json parsed() const { return json::parse(out); }
+};
+
+Outcome run(const std::string& arguments) {
+    std::istringstream stream("dictionary " + arguments);
+    std::ostringstream out, err;
+    CommandContext context{out, err};
+    const int status = host::run({std::istream_iterator<std::string>(stream), {}}, context);
+    return {status, out.str(), err.str()};
+}
+
+class DictionaryCommand : public testing::Test {
+protected:
+    static void SetUpTestSuite() { ASSERT_NE(dlopen(VELKOR_LIB_DIR "/libvelkor.so", RTLD_NOW), nullptr) << dlerror(); }
+};
+
+} // namespace
+
+TEST_F(DictionaryCommand, ListsWhatEachReleaseCarries) {
+    const auto row = [](const json& s) {
+        return std::vector<int>{s["declarations"],    s["statements"],         s["entities"],
+                                s["definedTypes"],    s["enumerations"],       s["selects"],
+                                s["aggregates"],      s["explicitAttributes"], s["derivedAttributes"],
+                                s["uniquenessRules"], s["entitiesStatements"]};
+    };
+    const std::map<std::string, std::vector<int>> expected{
+        {"IFC2X3", {2674, 3080, 656, 328, 164, 47, 134, 1322, 5, 17, 7}},
+        {"IFC4", {3202, 3715, 779, 400, 207, 63, 199, 1493, 60, 0, 8}},
+        {"IFC4X1", {3223, 3772, 804, 404, 210, 63, 197, 1544, 0, 0, 9}},
+        {"IFC4X2", {3334, 3893, 819, 410, 217, 63, 208, 1556, 60, 0, 9}},
+        {"IFC4X3_RC1", {3536, 4139, 882, 441, 242, 69, 214, 1627, 60, 0, 9}},
+        {"IFC4X3_RC3", {3536, 4131, 877, 442, 246, 66, 213, 1628, 63, 0, 9}},
+        {"IFC4X3_ADD2", {3546, 4162, 879, 438, 243, 63, 218, 1646, 58, 0, 9}},
+        {"IFC4X4", {3660, 4288, 907, 455, 259, 64, 224, 1687, 63, 0, 10}},
+    };
+    const Outcome listed = run("list --format json");
+    EXPECT_EQ(listed.status, Done);
+    const json schemas = listed.parsed()["schemas"];
+    std::vector<std::string> names;
+    for (const json& schema : schemas) {
+        names.push_back(schema["name"]);
+        ASSERT_TRUE(expected.contains(names.back()));
+        EXPECT_EQ(row(schema), expected.at(names.back())) << names.back();
+    }
+    EXPECT_THAT(names,
+                ElementsAre("IFC2X3", "IFC4", "IFC4X1", "IFC4X2", "IFC4X3_ADD2", "IFC4X3_RC1", "IFC4X3_RC3", "IFC4X4"));
+
+    const std::string text = run("list").out;
+    EXPECT_EQ(std::ranges::count(text, '\n'), 9);
+    EXPECT_THAT(text, HasSubstr("\nIFC2X3               2674        3080       656            328"));
+}
+
+TEST_F(DictionaryCommand, ShowsAListTextByText) {
+    const std::string declarations = run("show IFC2X3_TC1 --declarations").out;
+    EXPECT_THAT(declarations, StartsWith("Schema(IFC2X3)\nDefinedType(IFCABSORBEDDOSEMEASURE,RealType(8))\n"));
+    EXPECT_EQ(std::ranges::count(declarations, '\n'), 2674);
+    const json statements = run("show 2x3 --statements --format json").parsed();
+    EXPECT_EQ(statements["schema"], "IFC2X3");
+    EXPECT_EQ(statements["list"], "statements");
+    EXPECT_EQ(statements["texts"].size(), 3080U);
+    EXPECT_EQ(statements["texts"][0], "#1.SchemaVersionRelease(1,1)");
+
+    EXPECT_EQ(run("show IFC4").status, BadUsage);
+    EXPECT_EQ(run("show IFC4 --declarations --statements").status, BadUsage);
+}
+
+TEST_F(DictionaryCommand, DescribesAnEntityAsInstancesHoldIt) {
+    const json unit = run("entity IFC4 IfcSIUnit --format json").parsed();
+    EXPECT_EQ(unit["entity"], "IFCSIUNIT");
+    EXPECT_EQ(unit["abstract"], false);
+    EXPECT_THAT(unit["supertypes"], ElementsAre("IFCNAMEDUNIT"));
+    ASSERT_EQ(unit["attributes"].size(), 4U);
+    const json derived{{"name", "DIMENSIONS"},
+                       {"owner", "IFCSIUNIT"},
+                       {"type", "IFCDIMENSIONALEXPONENTS"},
+                       {"optional", false},
+                       {"derived", true}};
+    EXPECT_EQ(unit["attributes"][0], derived);
+    const json prefix{
+        {"name", "PREFIX"}, {"owner", "IFCSIUNIT"}, {"type", "IFCSIPREFIX"}, {"optional", true}, {"derived", false}};
+    EXPECT_EQ(unit["attributes"][2], prefix);
+    // This release carries no derived attributes.
+    EXPECT_EQ(run("entity IFC4X1 IFCSIUNIT --format json").parsed()["attributes"][0]["owner"], "IFCNAMEDUNIT");
+
+    const std::string wall = run("entity 4 ifcwall").out;
+    EXPECT_THAT(wall, StartsWith("IFCWALL of IFC4\nsupertypes: IFCBUILDINGELEMENT, IFCELEMENT, IFCPRODUCT, IFCOBJECT, "
+                                 "IFCOBJECTDEFINITION, IFCROOT\n"));
+    EXPECT_THAT(wall, HasSubstr("\n1  GLOBALID         IFCROOT     required  IFCGLOBALLYUNIQUEID\n"));
+    EXPECT_THAT(wall, HasSubstr("\n9  PREDEFINEDTYPE   IFCWALL     optional  IFCWALLTYPEENUM\n"));
+    EXPECT_THAT(run("entity 2x3 IFCAPPLICATION").out,
+                HasSubstr("\nunique UR1: APPLICATIONIDENTIFIER\nunique UR2: APPLICATIONFULLNAME VERSION\n"));
+}
+
+TEST_F(DictionaryCommand, ComparesReleases) {
+    const json diff = run("diff 2x3 IFC4 --format json").parsed();
+    EXPECT_EQ(diff["before"], "IFC2X3");
+    EXPECT_EQ(diff["after"], "IFC4");
+    EXPECT_THAT(diff["entities"]["added"], IsSupersetOf({"IFCCHIMNEY", "IFCDOORTYPE"}));
+    EXPECT_THAT(diff["entities"]["removed"], IsSupersetOf({"IFCCALENDARDATE", "IFCCONDITION"}));
+    const auto changed = [](const json& list, const char* name) {
+        for (const json& entry : list) {
+            if (entry["name"] == name) return entry;
+        }
+        return json();
+    };
+    const json root = changed(diff["entities"]["changed"], "IFCROOT");
+    const json history{{"name", "OWNERHISTORY"}, {"before", "IFCOWNERHISTORY"}, {"after", "OPTIONAL IFCOWNERHISTORY"}};
+    EXPECT_THAT(root["changedAttributes"], ElementsAre(history));
+    const json wall = changed(diff["entities"]["changed"], "IFCWALL");
+    EXPECT_EQ(wall["addedAttributes"][0]["name"], "PREDEFINEDTYPE");
+    const json label = changed(diff["types"]["changed"], "IFCLABEL");
+    EXPECT_EQ(label["definition"][0]["after"], "STRING(255)");
+
+    const json prefix = changed(run("diff 4 4x3 --format json").parsed()["types"]["changed"], "IFCSIPREFIX");
+    EXPECT_EQ(prefix["kind"], "enumeration");
+    EXPECT_EQ(prefix["reordered"], true);
+    EXPECT_TRUE(prefix["added"].empty() && prefix["removed"].empty());
+
+    EXPECT_EQ(run("diff IFC4 IFC4").out, "IFC4 -> IFC4\nentities: 0 added, 0 removed, 0 changed\n"
+                                         "types: 0 added, 0 removed, 0 changed\n");
+    const std::string text = run("diff IFC2X3 IFC4").out;
+    EXPECT_NE(text.find("\n  IFCROOT\n    ~ uniqueness rules: UR1: GLOBALID -> none\n"
+                        "    ~ OWNERHISTORY: IFCOWNERHISTORY -> OPTIONAL IFCOWNERHISTORY\n"),
+              std::string::npos);
+    EXPECT_NE(text.find("\n  IFCWALLTYPEENUM (enumeration)\n    + MOVABLE\n"), std::string::npos);
+    EXPECT_NE(text.find("\n  IFCMATERIALSELECT (select)\n    + IFCMATERIALDEFINITION\n"), std::string::npos);
+}
+
+TEST_F(DictionaryCommand, SaysWhatItKnowsInstead) {
+    const Outcome release = run("entity IFC2X2 IFCWALL");
+    EXPECT_EQ(release.status, BadUsage);
+    EXPECT_TRUE(release.out.empty());
+    EXPECT_THAT(release.err, HasSubstr("unknown release \"IFC2X2\"; supported: IFC2X3, IFC4, IFC4X1, IFC4X2, "
+                                       "IFC4X3_ADD2, IFC4X3_RC1, IFC4X3_RC3, IFC4X4"));
+    EXPECT_EQ(run("diff IFC4 IFC5").status, BadUsage);
+
+    const Outcome slip = run("entity IFC4 IFCWLAL");
+    EXPECT_EQ(slip.status, Findings);
+    EXPECT_THAT(slip.err, HasSubstr("has no entity \"IFCWLAL\"; nearest: IFCWALL"));
+    EXPECT_THAT(run("entity IFC4 wall").err, HasSubstr("nearest: IFCWALL"));
+    EXPECT_THAT(run("entity IFC4 IFCLABEL").err, HasSubstr("is a type, not an entity: STRING(255)"));
+    EXPECT_EQ(run("entity IFC4 QQQQQQQQQQQQQQQQQQQQ").err, "velkor: IFC4 has no entity \"QQQQQQQQQQQQQQQQQQQQ\"\n");
+}
+
+TEST_F(DictionaryCommand, ExplainsEverySubcommand) {
+    for (const char* command : {"list", "show", "entity", "diff"}) {
+        const Outcome help = run(std::string(command) + " --help");
+        EXPECT_EQ(help.status, Done) << command;
+        EXPECT_THAT(help.out, HasSubstr("Example:\n  velkor dictionary " + std::string(command)));
+    }
+    EXPECT_EQ(run("").status, BadUsage);
+}
+
+} // namespace velkor::host
