@@ -1,0 +1,36 @@
+// Tells how long one unit of length in an IFC model is.
+#include "QORIFCUnitServices.h"
+#include "sdai/Model.h"
+
+#include <cstdio>
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::fputs("usage: length_unit MODEL\n", stderr);
+        return 2;
+    }
+
+    // The model owns its instances: pointers to them are good until it goes.
+    const auto model = velkor::sdai::Model::open(argv[1]);
+    if (!model) {
+        std::fprintf(stderr, "%s\n", model.error().c_str());
+        return 3;
+    }
+    const auto assignments = (*model)->instancesOf("IFCUNITASSIGNMENT");
+    if (assignments.empty()) {
+        std::fputs("the model assigns no units\n", stderr);
+        return 1;
+    }
+
+    // The services keep one model's units per process: IFC2X3 counts as schema 0, every later
+    // release as schema 1.
+    QORIFCUnitServices::SetSchema(Fileschema((*model)->schema().name() == "IFC2X3" ? 0 : 1));
+    QORIFCUnitServices::StoreGlobalUnits(assignments.front());
+    double millimetres = 0.0, radians = 0.0;
+    if (QORIFCUnitServices::GetSIConversionFactorforGeometry(millimetres, radians) < 0) {
+        std::fputs("the model's units give no factors\n", stderr);
+        return 1;
+    }
+    std::printf("1 model unit = %.15g mm\n", millimetres);
+    return 0;
+}

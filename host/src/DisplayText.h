@@ -1,0 +1,30 @@
+/// Text that comes from files, made fit for a page that people read on a terminal.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velkor::host {
+
+/// UTF-8 that cannot act on a terminal: line ends and tabs become blanks; other control
+/// characters, marks that turn the writing direction, and bytes that are not UTF-8 become
+/// U+FFFD.
+std::string printable(std::string_view text);
+
+/// Columns that printable text takes on a terminal.
+std::size_t displayWidth(std::string_view text);
+
+/// Printable text in lines of at most `width` columns, broken at blanks where that is possible and
+/// never inside what a reader sees as one character. What does not fit into `maxLines` is cut
+/// off, and "…" tells so. Empty text gives no line.
+std::vector<std::string> wrapped(std::string_view text, std::size_t width, std::size_t maxLines);
+
+/// A number with its digits in groups of three: "1,234,567".
+std::string grouped(std::uint64_t number);
+
+/// A count and what is counted: "1 error", "1,200 errors".
+std::string counted(std::uint64_t number, std::string_view singular, std::string_view plural);
+
+} // namespace velkor::host

@@ -1,0 +1,47 @@
+/// A page for people: sections of labelled entries, no wider than 96 columns, coloured when
+/// the output may be.
+///
+///     Page page(out, color);
+///     page.section("Project");
+///     page.entry("Name", name);
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <string_view>
+
+namespace velkor::host {
+
+class Page {
+public:
+    static constexpr std::size_t width = 96;
+    enum class Style { Plain, Bold, Dim, Good, Doubtful, Bad };
+
+    Page(std::ostream& out, bool color) noexcept : _out(out), _color(color) {}
+
+    void title(std::string_view text);
+    /// A heading after an empty line, and what is to be said beside it.
+    void section(std::string_view heading, std::string_view remark = {}, Style remarkStyle = Style::Plain);
+    /// A label and its text, which may go on over a few lines. A text that is empty reads
+    /// "not stated".
+    void entry(std::string_view label, std::string_view text);
+    /// An indented line of its own, not wrapped; the text is printable already.
+    void line(std::string_view text);
+    /// Text that may go on over a few lines, `indent` columns from the left.
+    void paragraph(std::string_view text, std::size_t indent = 2, Style style = Style::Plain);
+
+    std::string styled(std::string_view text, Style style) const;
+
+private:
+    std::ostream& _out;
+    bool _color;
+};
+
+/// Text filled up with blanks to a width on its right or its left.
+std::string padded(std::string_view text, std::size_t width);
+std::string rightAligned(std::string_view text, std::size_t width);
+
+/// A horizontal bar for a part of a whole (0 to 1), in eighths of a column.
+std::string bar(double part, std::size_t width);
+
+} // namespace velkor::host

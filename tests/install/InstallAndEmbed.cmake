@@ -1,0 +1,43 @@
+# Installs a build into an empty prefix, builds the embedding example against it as a project of
+# its own, and runs that on a model whose length unit is known.
+#
+#   cmake -D SOURCE=… -D BUILD=… -D COMPILER=… -D GENERATOR=… [-D SANITIZE=…] -P InstallAndEmbed.cmake
+
+set(work ${BUILD}/install_and_embed)
+set(prefix ${work}/prefix)
+file(REMOVE_RECURSE ${work})
+
+function(step)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  if(NOT status EQUAL 0)
+    string(JOIN " " command ${ARGN})
+    message(FATAL_ERROR "${command} gave ${status}:\n${output}")
+  endif()
+  set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+step(${CMAKE_COMMAND} --install ${BUILD} --prefix ${prefix})
+
+set(flags)
+if(SANITIZE)
+  set(flags -fsanitize=${SANITIZE})
+endif()
+step(${CMAKE_COMMAND} -S ${SOURCE}/examples/embedding -B ${work}/build -G ${GENERATOR}
+     -D CMAKE_CXX_COMPILER=${COMPILER} -D CMAKE_CXX_FLAGS=${flags} -D CMAKE_PREFIX_PATH=${prefix})
+step(${CMAKE_COMMAND} --build ${work}/build)
+
+# Headers of the source tree must not have helped out.
+file(READ ${work}/build/build.ninja rules)
+if(NOT rules MATCHES "${prefix}" OR rules MATCHES "${SOURCE}/(platform|Velkorite)")
+  message(FATAL_ERROR "the example was not built against the installed headers")
+endif()
+
+step(${work}/build/length_unit ${SOURCE}/examples/models/house-ifc2x3.ifc)
+if(NOT output STREQUAL "1 model unit = 1 mm\n")
+  message(FATAL_ERROR "length_unit answered: ${output}")
+endif()
+
+execute_process(COMMAND ${prefix}/bin/velkor --version OUTPUT_VARIABLE version RESULT_VARIABLE status)
+if(NOT status EQUAL 0 OR NOT version MATCHES "^velkor [0-9]+\\.[0-9]+\\.[0-9]+\n$")
+  message(FATAL_ERROR "the installed program answered --version with ${status}: ${version}")
+endif()
