@@ -20,7 +20,7 @@ public:
     };
 
     explicit TextTable(std::vector<Column> columns) : _columns(std::move(columns)) {}
-    /// One cell of UTF-8 per column.
+    /// One cell of printable text per column.
     void add(std::vector<std::string> cells) { _rows.push_back(std::move(cells)); }
     bool empty() const noexcept { return _rows.empty(); }
     /// Headings and rows, each line begun with `indent` and ended without blanks.

@@ -3,6 +3,7 @@
 #include "CommandContext.h"
 #include "dictionary/DictionaryDiff.h"
 #include "dictionary/NearestNames.h"
+#include "DisplayText.h"
 #include "Json.h"
 #include "sdai/DXSdaiDictionaryRepo.h"
 #include "TextTable.h"
@@ -36,8 +37,8 @@ SchemaPointer chooseSchema(CommandContext& context, const std::string& release) 
     std::string name = repository.match(release);
     if (name.empty()) name = repository.match("IFC" + release);
     if (name.empty()) {
-        context.err << "velkor: unknown release \"" << release << "\"; supported: " << joined(repository.names())
-                    << '\n';
+        context.err << "velkor: unknown release \"" << printable(release)
+                    << "\"; supported: " << joined(repository.names()) << '\n';
         context.status = BadUsage;
         return nullptr;
     }
@@ -192,7 +193,7 @@ void runEntity(CommandContext& context, const std::string& release, const std::s
                     << " is a type, not an entity: " << type->underlying().expressText() << '\n';
         return;
     }
-    context.err << "velkor: " << schema->name() << " has no entity \"" << name << '"';
+    context.err << "velkor: " << schema->name() << " has no entity \"" << printable(name) << '"';
     const auto nearest = nearestEntities(*schema, name);
     if (!nearest.empty()) context.err << "; nearest: " << joined(nearest);
     context.err << '\n';
