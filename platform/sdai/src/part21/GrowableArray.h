@@ -3,9 +3,10 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <new>
-#include <span>
+#include <sys/mman.h>
 #include <type_traits>
 #include <utility>
 
@@ -34,6 +35,7 @@ public:
             void* moved = std::realloc(_data, capacity * sizeof(T));
             if (moved == nullptr) throw std::bad_alloc();
             _data = static_cast<T*>(moved);
+            expectFilling(capacity * sizeof(T));
         }
         _capacity = capacity;
     }
@@ -43,6 +45,7 @@ public:
         _data = static_cast<T*>(std::calloc(capacity, sizeof(T)));
         if (_data == nullptr) throw std::bad_alloc();
         _capacity = capacity;
+        expectFilling(capacity * sizeof(T));
     }
 
     T& operator[](std::size_t i) noexcept { return _data[i]; }
@@ -52,6 +55,14 @@ public:
     std::size_t bytes() const noexcept { return _capacity * sizeof(T); }
 
 private:
+    /// Asks for huge pages, which spare most of the page faults of filling a large array.
+    void expectFilling(std::size_t bytes) noexcept {
+        constexpr std::uintptr_t page = 4096;
+        if (bytes < (4U << 20)) return;
+        const auto from = (reinterpret_cast<std::uintptr_t>(_data) + page - 1) / page * page;
+        madvise(reinterpret_cast<void*>(from), (bytes - page) / page * page, MADV_HUGEPAGE);
+    }
+
     T* _data = nullptr;
     std::size_t _capacity = 0;
 };

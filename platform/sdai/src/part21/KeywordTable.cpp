@@ -39,13 +39,13 @@ std::size_t KeywordTable::memoryUse() const noexcept {
 }
 
 void KeywordTable::remember(const Spelling& spelling, std::uint16_t number) {
-    if (_usedSlots * 2 >= _slots.size()) {
+    if (_usedSlots * 4 >= _slots.size()) {
         if (_slots.size() == maximumSlots) return;
         growSlots();
     }
     std::size_t i = slotOf(spelling);
     for (std::size_t probe = 0; probe < longestProbe; ++probe, i = (i + 1) & (_slots.size() - 1)) {
-        if (_slots[i].words == spelling.words) return;
+        if (equal(_slots[i].words, spelling.words)) return;
         if (_slots[i].words[0] != 0) continue;
         _slots[i] = {spelling.words, number};
         ++_usedSlots;

@@ -29,7 +29,7 @@ public:
         for (std::size_t i = slotOf(spelling);; i = (i + 1) & (_slots.size() - 1)) {
             const Slot& slot = _slots[i];
             if (slot.words[0] == 0) return std::nullopt;
-            if (slot.words == spelling.words) return slot.number;
+            if (equal(slot.words, spelling.words)) return slot.number;
         }
     }
 
@@ -46,6 +46,16 @@ private:
         Words words;
         std::size_t length;
     };
+    /// keepBytes[length][word]: mask of the bytes of a word that belong to a spelling of a length.
+    static constexpr auto keepBytes = [] {
+        std::array<Words, recallReach + 1> masks{};
+        for (unsigned length = 0; length <= recallReach; ++length) {
+            for (unsigned byte = 0; byte < length; ++byte) {
+                masks[length][byte / 8] |= std::uint64_t{0xFF} << (byte % 8 * 8);
+            }
+        }
+        return masks;
+    }();
     struct Slot {
         Words words{};
         std::uint16_t number = 0;
@@ -53,8 +63,12 @@ private:
     /// Longest run of occupied slots; beyond, a spelling is not stored. Keeps a text made to
     /// collide from being slow.
     static constexpr std::size_t longestProbe = 16;
-    static constexpr std::size_t maximumSlots = 0x20000;
+    static constexpr std::size_t maximumSlots = 0x40000;
 
+    // Without the call that comparing arrays would be.
+    static bool equal(const Words& a, const Words& b) noexcept {
+        return ((a[0] ^ b[0]) | (a[1] ^ b[1]) | (a[2] ^ b[2]) | (a[3] ^ b[3])) == 0;
+    }
     static Spelling spellingAt(const char* at) noexcept;
     std::size_t slotOf(const Spelling& spelling) const noexcept {
         const Words& w = spelling.words;
@@ -72,38 +86,34 @@ private:
     std::size_t _usedSlots = 0;
 };
 
-namespace keyword_detail {
-
-/// keepBytes[length][word]: mask of the bytes of a word that belong to a spelling of a length.
-inline constexpr auto keepBytes = [] {
-    std::array<std::array<std::uint64_t, 4>, KeywordTable::recallReach + 1> masks{};
-    for (unsigned length = 0; length <= KeywordTable::recallReach; ++length) {
-        for (unsigned byte = 0; byte < length; ++byte) masks[length][byte / 8] |= std::uint64_t{0xFF} << (byte % 8 * 8);
-    }
-    return masks;
-}();
-
-/// High bit of the first byte that is "(", perhaps of later ones too.
-inline std::uint64_t parentheses(std::uint64_t word) noexcept {
-    const std::uint64_t difference = word ^ 0x2828282828282828U;
-    return (difference - 0x0101010101010101U) & ~difference & 0x8080808080808080U;
-}
-
-} // namespace keyword_detail
-
-/// Without a branch on the length: keywords of every length follow each other.
+/// Without a branch on the length: keywords of every length follow each other. The words stay
+/// apart so that none takes a way over memory.
 inline KeywordTable::Spelling KeywordTable::spellingAt(const char* at) noexcept {
-    Spelling result;
-    std::memcpy(result.words.data(), at, sizeof result.words);
-    std::size_t length = recallReach;
-    for (std::size_t i = result.words.size(); i-- > 0;) {
-        const std::uint64_t found = keyword_detail::parentheses(result.words[i]);
-        const std::size_t here = i * 8 + static_cast<unsigned>(std::countr_zero(found)) / 8;
-        length = found != 0 ? here : length;
-    }
-    for (std::size_t i = 0; i < result.words.size(); ++i) result.words[i] &= keyword_detail::keepBytes[length][i];
-    result.length = length;
-    return result;
+    const auto load = [at](std::size_t i) {
+        std::uint64_t word;
+        std::memcpy(&word, at + 8 * i, sizeof word);
+        return word;
+    };
+    const std::uint64_t w0 = load(0);
+    const std::uint64_t w1 = load(1);
+    const std::uint64_t w2 = load(2);
+    const std::uint64_t w3 = load(3);
+    // High bit of the first byte that is "(", perhaps of later ones too.
+    const auto parentheses = [](std::uint64_t word) {
+        const std::uint64_t difference = word ^ 0x2828282828282828U;
+        return (difference - 0x0101010101010101U) & ~difference & 0x8080808080808080U;
+    };
+    const auto before = [](std::uint64_t found) { return static_cast<unsigned>(std::countr_zero(found)) / 8; };
+    const std::uint64_t f0 = parentheses(w0);
+    const std::uint64_t f1 = parentheses(w1);
+    const std::uint64_t f2 = parentheses(w2);
+    const std::uint64_t f3 = parentheses(w3);
+    std::size_t length = f3 != 0 ? 24 + before(f3) : recallReach;
+    length = f2 != 0 ? 16 + before(f2) : length;
+    length = f1 != 0 ? 8 + before(f1) : length;
+    length = f0 != 0 ? before(f0) : length;
+    const auto& keep = keepBytes[length];
+    return {{w0 & keep[0], w1 & keep[1], w2 & keep[2], w3 & keep[3]}, length};
 }
 
 } // namespace velkor::sdai::part21
