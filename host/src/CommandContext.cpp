@@ -19,7 +19,12 @@ std::string usedCommand(const CLI::App* app) {
 }
 
 std::string failureMessage(const CLI::App* app, const CLI::Error& error) {
-    return "velkor: " + std::string(error.what()) + "\nSee \"" + usedCommand(app) + " --help\".\n";
+    std::string reason = error.what();
+    // A word too many where the command should stand.
+    if (const auto extras = app->remaining(); !extras.empty() && app->get_subcommands().empty()) {
+        reason = (extras.front().starts_with('-') ? "unknown option " : "unknown command ") + extras.front();
+    }
+    return "velkor: " + reason + "\nSee \"" + usedCommand(app) + " --help\".\n";
 }
 
 } // namespace
