@@ -1,4 +1,4 @@
-/// White space and comments over a piece of text, and words in it, whatever their case.
+/// White space, comments and skipped sections of a text, and words in it, whatever their case.
 #pragma once
 
 #include "part21/Characters.h"
@@ -16,6 +16,19 @@ inline const char* skipSeparators(const char* at, const char* end) noexcept {
         const void* close = memmem(at + 2, static_cast<std::size_t>(end - at - 2), "*/", 2);
         if (close == nullptr) return at;
         at = static_cast<const char*>(close) + 2;
+    }
+}
+
+/// The "ENDSEC" of a section whose statements are not to be read; `end` when there is none.
+inline const char* findSectionEnd(const char* at, const char* end) noexcept {
+    constexpr std::string_view word = "ENDSEC";
+    for (const char* from = at;; at += word.size()) {
+        const void* found = memmem(at, static_cast<std::size_t>(end - at), word.data(), word.size());
+        if (found == nullptr) return end;
+        at = static_cast<const char*>(found);
+        const char* behind = at + word.size();
+        while (behind != end && isSpace(*behind)) ++behind;
+        if ((at == from || isSpace(at[-1]) || at[-1] == ';') && behind != end && *behind == ';') return at;
     }
 }
 

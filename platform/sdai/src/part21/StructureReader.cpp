@@ -386,19 +386,7 @@ void StructureReader::endSection(const char* at) {
 void StructureReader::skipSection(std::string_view word, const char* from) {
     report(Severity::Warning, word.data(), "section-skipped",
            "the section " + std::string(word) + " belongs to edition 3 and is skipped");
-    const char* at = from;
-    for (;;) {
-        const void* found = memmem(at, static_cast<std::size_t>(_end - at), "ENDSEC", 6);
-        if (found == nullptr) {
-            at = _end;
-            break;
-        }
-        at = static_cast<const char*>(found);
-        const char* behind = at + 6;
-        while (behind != _end && isSpace(*behind)) ++behind;
-        if ((isSpace(at[-1]) || at[-1] == ';') && behind != _end && *behind == ';') break;
-        at += 6;
-    }
+    const char* at = findSectionEnd(from, _end);
     _behind = at;
     _scanner.restart(at);
     _moved = true;

@@ -1,0 +1,443 @@
+#include "part21/SyntaxChecker.h"
+
+#include "part21/Separators.h"
+#include "part21/StringDecoder.h"
+
+#include <algorithm>
+#include <array>
+
+namespace velkor::sdai {
+
+std::vector<Problem> checkSyntax(const Part21File& file, std::size_t limit, std::uint64_t* total,
+                                 const Progress& progress) {
+    part21::SyntaxChecker checker(file, limit, progress);
+    checker.check();
+    if (total != nullptr) *total = checker.problems().total();
+    return std::move(checker.problems().problems());
+}
+
+namespace part21 {
+
+namespace {
+
+/// The header entities that every structure has, in their order. A shape has a letter per
+/// parameter: s a string, L a list of at least one string.
+struct HeaderEntity {
+    std::string_view keyword;
+    std::string_view shape;
+};
+constexpr std::array<HeaderEntity, 3> headerEntities{{
+    {"FILE_DESCRIPTION", "Ls"},
+    {"FILE_NAME", "ssLLsss"},
+    {"FILE_SCHEMA", "L"},
+}};
+constexpr char stringParameter = 's';
+constexpr char listOfStrings = 'L';
+constexpr char otherParameter = '-';
+
+/// Deepest nesting of lists that is judged; schemas stay below ten.
+constexpr std::size_t deepestNesting = 200;
+constexpr std::uint64_t progressStep = 4 << 20;
+
+/// What may stand at each place, in the order of SyntaxChecker::Place.
+constexpr std::array<const char*, 6> expectedAt{
+    "\"ISO-10303-21;\"",          "\"HEADER;\"", "a header entity or \"ENDSEC;\"", "\"DATA;\" or \"END-ISO-10303-21;\"",
+    "an instance or \"ENDSEC;\"", "nothing"};
+
+std::string quoted(std::string_view text) {
+    std::string result = "\"";
+    for (const char c : text.substr(0, 32)) result += isClass(c, Basic) ? c : '?';
+    return result + (text.size() > 32 ? "...\"" : "\"");
+}
+
+std::string describe(const Token& token) {
+    return token.kind == TokenKind::End ? std::string("the next statement or the end of the section")
+                                        : quoted(token.text);
+}
+
+} // namespace
+
+SyntaxChecker::SyntaxChecker(const Part21File& file, std::size_t limit, const Progress& progress)
+    : _file(file), _progress(progress), _problems(limit), _begin(file.text().data()) {}
+
+void SyntaxChecker::check() {
+    const std::string_view text = _file.text();
+    std::uint64_t done = 0;
+    if (text.starts_with("\xEF\xBB\xBF")) {
+        error(_begin, "byte-order-mark", "expected \"ISO-10303-21;\", found a byte order mark");
+        done = 3;
+    }
+    for (std::uint32_t number = 0; number < _file.instanceCount() && !_stopped; ++number) {
+        const std::uint64_t offset = _file.offset(number);
+        if (done < offset) checkPiece(done, offset);
+        const std::string_view body = _file.instanceText(number);
+        done = static_cast<std::uint64_t>(body.data() - _begin) + body.size();
+        if (const std::uint64_t id = _file.id(number); _file.find(id) != number) {
+            _instance = id;
+            error(_begin + offset, "instance-repeated", "expected an instance name that is not used before");
+            _instance = 0;
+        }
+        checkPiece(offset, done);
+        showProgress(done);
+    }
+    if (!_stopped) checkPiece(done, text.size());
+    if (!_stopped && _place != Place::End) {
+        const bool inSection = _place == Place::Header || _place == Place::Data;
+        error(_begin + text.size(), inSection ? "endsec-missing" : "end-missing",
+              std::string("expected ") + expectedAt[static_cast<std::size_t>(_place)] + ", found the end of the text");
+    }
+    if (_progress) _progress(text.size(), text.size());
+
+    const LineTable lines(text);
+    _problems.finish(lines);
+}
+
+void SyntaxChecker::checkPiece(std::uint64_t from, std::uint64_t to) {
+    _lexer = Part21Lexer(std::string_view(_begin + from, to - from));
+    _behind = _begin + from;
+    _pieceEnd = _begin + to;
+    for (Token token = next(); token.kind != TokenKind::End && !_stopped; token = next()) {
+        checkStatement(token);
+        _instance = 0;
+        showProgress(static_cast<std::uint64_t>(_behind - _begin));
+    }
+}
+
+void SyntaxChecker::checkStatement(const Token& first) {
+    if (_place == Place::End) {
+        const bool signature = first.text == "SIGNATURE";
+        report(signature ? Severity::Warning : Severity::Error, first.text.data(),
+               signature ? "section-skipped" : "text-behind-end",
+               signature ? "the section SIGNATURE belongs to edition 3 and is skipped"
+                         : "expected the end of the text behind \"END-ISO-10303-21;\", found " + describe(first));
+        _stopped = true;
+        return;
+    }
+    _last = first;
+    if (first.kind == TokenKind::InstanceName ? checkInstance(first) : checkKeyword(first)) {
+        const Token end = _lexer.peek();
+        if (end.kind == TokenKind::Semicolon) {
+            next();
+        } else {
+            // The next statement is read from here on.
+            error(_behind, "semicolon-missing", "expected \";\" at the end of the statement, found " + describe(end));
+        }
+    } else {
+        skipStatement();
+    }
+}
+
+/// Passes over the rest of a statement in which something went wrong; judging on would only
+/// repeat it.
+void SyntaxChecker::skipStatement() {
+    while (_last.kind != TokenKind::Semicolon && _last.kind != TokenKind::End) {
+        if (_last.kind == TokenKind::Bad && _last.text[0] == '\'') {
+            // A string that is not closed ends with the first line that looks like the end of a statement.
+            const std::size_t end = std::min(_last.text.find(";\n"), _last.text.find(";\r"));
+            const char* from = end == std::string_view::npos ? _pieceEnd : _last.text.data() + end + 1;
+            _lexer = Part21Lexer({from, static_cast<std::size_t>(_pieceEnd - from)});
+            break;
+        }
+        next();
+    }
+    _behind = _lexer.position();
+}
+
+bool SyntaxChecker::checkInstance(const Token& name) {
+    const std::string_view digits = name.text.substr(1);
+    std::uint64_t id = 0;
+    for (const char c : digits) id = id * 10 + static_cast<unsigned>(c - '0');
+    _instance = id;
+    if (_place != Place::Data) {
+        error(name.text.data(), "data-missing", "expected \"DATA;\" before the first instance");
+        leaveHeader(name);
+        _place = Place::Data;
+        ++_dataSections;
+    }
+    if (digits.find_first_not_of('0') == std::string_view::npos) {
+        error(name.text.data(), "instance-name-zero", "expected an instance name above 0");
+    }
+    if (!expect(TokenKind::Equals, "\"=\" behind the instance name")) return false;
+    const Token token = next();
+    if (token.kind != TokenKind::Open) return checkRecord(token);
+    do {
+        if (!checkRecord(next())) return false;
+    } while (_lexer.peek().kind != TokenKind::Close && _lexer.peek().kind != TokenKind::End);
+    return expect(TokenKind::Close, "a record or \")\" at the end of a complex instance");
+}
+
+bool SyntaxChecker::checkKeyword(const Token& word) {
+    const std::string_view text = word.text;
+    if (text == "ISO-10303-21" || text == "HEADER") return checkSectionStart(word);
+    if (text == "ENDSEC" || text == "END-ISO-10303-21") return checkSectionEnd(word);
+    if (text == "DATA") return checkData(word);
+    if (text == "ANCHOR" || text == "REFERENCE") {
+        skipSection(word);
+        return true;
+    }
+    if (_place == Place::Header && (word.kind == TokenKind::Keyword || word.kind == TokenKind::Bad)) {
+        return checkHeaderEntity(word);
+    }
+    return unexpected(word, expectedAt[static_cast<std::size_t>(_place)]);
+}
+
+bool SyntaxChecker::checkSectionStart(const Token& word) {
+    const bool start = word.text != "HEADER";
+    if (_place == Place::Start && !start) {
+        error(word.text.data(), "start-missing", "expected \"ISO-10303-21;\" before \"HEADER;\"");
+    } else if (_place != (start ? Place::Start : Place::BeforeHeader)) {
+        return unexpected(word, start ? "\"ISO-10303-21;\" at the beginning of the text only"
+                                      : "\"HEADER;\" directly behind \"ISO-10303-21;\" only");
+    }
+    _place = start ? Place::BeforeHeader : Place::Header;
+    return true;
+}
+
+bool SyntaxChecker::checkSectionEnd(const Token& word) {
+    const bool section = word.text == "ENDSEC";
+    const bool inSection = _place == Place::Header || _place == Place::Data;
+    if (section && !inSection) return unexpected(word, "\"ENDSEC;\" only behind a section");
+    if (!section && inSection) {
+        error(word.text.data(), "endsec-missing", "expected \"ENDSEC;\" before \"END-ISO-10303-21;\"");
+    }
+    leaveHeader(word);
+    if (!section && _dataSections == 0) {
+        error(word.text.data(), "data-missing", "expected at least one DATA section");
+    }
+    _place = section ? Place::BetweenSections : Place::End;
+    return true;
+}
+
+void SyntaxChecker::leaveHeader(const Token& at) {
+    if (_place != Place::Header || _headerEntities == headerEntities.size()) return;
+    error(at.text.data(), "header-entity-missing",
+          "expected " + std::string(headerEntities[_headerEntities].keyword) + " in the header section");
+}
+
+bool SyntaxChecker::checkHeaderEntity(const Token& keyword) {
+    const auto known = std::find_if(headerEntities.begin(), headerEntities.end(),
+                                    [&keyword](const HeaderEntity& entity) { return entity.keyword == keyword.text; });
+    const auto position = static_cast<std::size_t>(known - headerEntities.begin());
+    if (_headerEntities < headerEntities.size() && position != _headerEntities) {
+        error(keyword.text.data(), "header-entity-missing",
+              "expected " + std::string(headerEntities[_headerEntities].keyword) + ", found " + describe(keyword));
+    } else if (_headerEntities >= headerEntities.size() && position < headerEntities.size()) {
+        error(keyword.text.data(), "header-entity-repeated", "expected " + std::string(keyword.text) + " once");
+    }
+    if (position < headerEntities.size()) _headerEntities = std::max(_headerEntities, position + 1);
+    if (!checkRecord(keyword)) return false;
+    if (position < headerEntities.size()) checkShape(keyword, known->shape);
+    return true;
+}
+
+bool SyntaxChecker::checkData(const Token& keyword) {
+    if (_place == Place::Header || _place == Place::Data) {
+        error(keyword.text.data(), "endsec-missing", "expected \"ENDSEC;\" before \"DATA\"");
+    } else if (_place != Place::BetweenSections) {
+        error(keyword.text.data(), "header-missing", "expected a header section before \"DATA\"");
+    }
+    leaveHeader(keyword);
+    _place = Place::Data;
+    ++_dataSections;
+    if (_lexer.peek().kind != TokenKind::Open) {
+        if (_dataSections > 1 && !_unnamedData) {
+            error(keyword.text.data(), "data-parameters-missing",
+                  "expected a name and a schema, as there are several DATA sections");
+        }
+        _unnamedData = true;
+        return true;
+    }
+    if (!checkRecord(keyword)) return false;
+    checkShape(keyword, "sL");
+    return true;
+}
+
+void SyntaxChecker::skipSection(const Token& word) {
+    report(Severity::Warning, word.text.data(), "section-skipped",
+           "the section " + std::string(word.text) + " belongs to edition 3 and is skipped");
+    // Its statements have a syntax of their own; its end has not.
+    const char* end = findSectionEnd(_lexer.position(), _pieceEnd);
+    if (end == _pieceEnd) error(end, "endsec-missing", "expected \"ENDSEC;\" behind the section");
+    _lexer = Part21Lexer({end, static_cast<std::size_t>(_pieceEnd - end)});
+    _behind = end;
+    if (end != _pieceEnd) next();
+}
+
+/// Judges "KEYWORD(…)"; _shape receives a letter per parameter.
+bool SyntaxChecker::checkRecord(const Token& keyword) {
+    if (keyword.kind != TokenKind::Keyword) {
+        // Reading goes on if only its letters are wrong.
+        const bool misspelled = keyword.kind == TokenKind::Bad && isClass(upperCase(keyword.text[0]), Upper) &&
+                                _lexer.peek().kind == TokenKind::Open;
+        if (!misspelled) return unexpected(keyword, "a keyword");
+        error(keyword.text.data(), "token-invalid",
+              "expected a keyword of upper case letters, digits and \"_\", found " + describe(keyword));
+    }
+    return expect(TokenKind::Open, "\"(\" behind the keyword") && checkParameters();
+}
+
+/// Judges parameters up to the ")" that belongs to a "(" already read.
+bool SyntaxChecker::checkParameters() {
+    _shape.clear();
+    _levels.assign(1, {false, true, 0});
+    bool wantsValue = true;
+    while (!_levels.empty()) {
+        Level& level = _levels.back();
+        const Token token = next();
+        if (token.kind == TokenKind::Close && (!wantsValue || (level.count == 0 && !level.typed))) {
+            const bool strings = !level.typed && level.onlyStrings && level.count > 0;
+            _levels.pop_back();
+            if (_levels.size() == 1) _shape += strings ? listOfStrings : otherParameter;
+            wantsValue = false;
+            continue;
+        }
+        if (!wantsValue) {
+            if (token.kind != TokenKind::Comma || level.typed) {
+                return unexpected(token,
+                                  level.typed ? "\")\" behind the value of a typed parameter" : "\",\" or \")\"");
+            }
+            wantsValue = true;
+            continue;
+        }
+        ++level.count;
+        level.onlyStrings = level.onlyStrings && token.kind == TokenKind::String;
+        const bool keyword =
+            token.kind == TokenKind::Keyword || (token.kind == TokenKind::Bad && _lexer.peek().kind == TokenKind::Open);
+        if (keyword || token.kind == TokenKind::Open) {
+            if (_levels.size() == deepestNesting) {
+                return unexpected(token, "lists nested less deeply");
+            }
+            if (token.kind == TokenKind::Bad) checkValue(token);
+            if (keyword && !expect(TokenKind::Open, "\"(\" behind the keyword")) return false;
+            _levels.push_back({keyword, true, 0});
+            continue;
+        }
+        if (!checkValue(token)) return false;
+        if (_levels.size() == 1) _shape += token.kind == TokenKind::String ? stringParameter : otherParameter;
+        wantsValue = false;
+    }
+    return true;
+}
+
+/// Judges a parameter of one token. False when reading cannot go on behind it.
+bool SyntaxChecker::checkValue(const Token& token) {
+    switch (token.kind) {
+    case TokenKind::String: {
+        StringViolation violation;
+        StringDecoder(nullptr, &violation).decode(token.text);
+        if (violation.position != std::string_view::npos) {
+            error(token.text.data() + violation.position, "string-invalid", std::move(violation.message));
+        }
+        return true;
+    }
+    case TokenKind::InstanceName:
+        if (token.text.find_first_not_of("#0") == std::string_view::npos) {
+            error(token.text.data(), "instance-name-zero", "expected an instance name above 0");
+        }
+        return true;
+    case TokenKind::Bad:
+        if (token.text[0] == '\'') {
+            error(token.text.data(), "string-not-closed", "expected an apostrophe at the end of the string");
+            return false;
+        }
+        error(token.text.data(), "token-invalid",
+              (token.text[0] == '"'
+                   ? "expected a binary: hexadecimal digits, the first 0 to 3, between quotation marks, found "
+               : token.text[0] == '.' ? "expected an enumeration in upper case between full stops, found "
+               : isClass(token.text[0], Digit) || token.text[0] == '-' || token.text[0] == '+'
+                   ? "expected an integer or a real with a full stop and an exponent \"E\", found "
+                   : "expected a parameter, found ") +
+                  describe(token));
+        return true;
+    case TokenKind::Integer:
+    case TokenKind::Real:
+    case TokenKind::Enumeration:
+    case TokenKind::Binary:
+    case TokenKind::Omitted:
+    case TokenKind::Derived:
+        return true;
+    default:
+        return unexpected(token, "a parameter");
+    }
+}
+
+void SyntaxChecker::checkShape(const Token& keyword, std::string_view expected) {
+    if (_shape.size() != expected.size()) {
+        error(keyword.text.data(), "parameter-count",
+              "expected " + std::to_string(expected.size()) + " parameters of " + std::string(keyword.text) +
+                  ", found " + std::to_string(_shape.size()));
+        return;
+    }
+    for (std::size_t i = 0; i < _shape.size(); ++i) {
+        if (_shape[i] == expected[i]) continue;
+        error(keyword.text.data(), "parameter-type",
+              std::string("expected ") + (expected[i] == listOfStrings ? "a list of strings" : "a string") +
+                  " as parameter " + std::to_string(i + 1) + " of " + std::string(keyword.text));
+    }
+}
+
+Token SyntaxChecker::next() {
+    _last = _lexer.next();
+    checkGap(_behind, _last.text.data());
+    _behind = _last.text.data() + _last.text.size();
+    return _last;
+}
+
+/// Judges what stands between two tokens: white space, comments and print control directives.
+void SyntaxChecker::checkGap(const char* from, const char* to) {
+    const auto isLayout = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
+    for (const char* at = from; at != to;) {
+        if (isLayout(*at)) {
+            ++at;
+        } else if (*at == '/') {
+            const char* behind = skipSeparators(at, to);
+            if (behind == at) {
+                error(at, "comment-not-closed", "expected \"*/\" behind \"/*\"");
+                at += 2;
+                continue;
+            }
+            const char* foreign =
+                std::find_if(at, behind, [&isLayout](char c) { return !isClass(c, Basic) && !isLayout(c); });
+            if (foreign != behind) {
+                error(foreign, "character-invalid", "expected characters of the basic alphabet in a comment");
+            }
+            at = behind;
+        } else if (*at == '\\') {
+            at += 3;
+        } else {
+            error(at, "character-invalid", "expected white space, found a control character");
+            while (at != to && isSpace(*at) && !isLayout(*at)) ++at;
+        }
+    }
+}
+
+bool SyntaxChecker::expect(TokenKind kind, const char* what) {
+    const Token token = next();
+    return token.kind == kind || unexpected(token, what);
+}
+
+/// Reports a token that does not fit; answers false so that a caller can return it.
+bool SyntaxChecker::unexpected(const Token& token, const char* expected) {
+    const bool string = token.kind == TokenKind::Bad && token.text[0] == '\'';
+    error(token.text.data(), string ? "string-not-closed" : "unexpected-token",
+          std::string("expected ") + expected + ", found " + describe(token));
+    return false;
+}
+
+void SyntaxChecker::error(const char* at, const char* code, std::string message) {
+    report(Severity::Error, at, code, std::move(message));
+}
+
+void SyntaxChecker::report(Severity severity, const char* at, const char* code, std::string message) {
+    _problems.add(severity, static_cast<std::uint64_t>(at - _begin), _instance, code, std::move(message));
+}
+
+void SyntaxChecker::showProgress(std::uint64_t done) {
+    if (!_progress || done - _shown < progressStep) return;
+    _shown = done;
+    _progress(done, _file.text().size());
+}
+
+} // namespace part21
+
+} // namespace velkor::sdai
