@@ -1,0 +1,31 @@
+/// Reports of conditions that the code holds impossible. A report is counted and kept; it never
+/// stops anything.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// Reports a failed assertion in a source unit. Any thread may call it.
+void __OmyAssertionFailed(const char* sourceUnit, int line);
+
+/// Reports the source unit, by its path in the project, and the line it stands on.
+#define VELKOR_ASSERTION_FAILED() __OmyAssertionFailed(VELKOR_SOURCE_UNIT, __LINE__)
+#ifndef VELKOR_SOURCE_UNIT
+#define VELKOR_SOURCE_UNIT __FILE__
+#endif
+
+namespace velkor::objectmodeler {
+
+struct AssertionReport {
+    std::string sourceUnit;
+    int line = 0;
+};
+
+/// Reports since the process began or since clearAssertionReports().
+std::uint64_t assertionCount() noexcept;
+/// The last reports, oldest first; at most 1,000 are kept.
+std::vector<AssertionReport> assertionReports();
+void clearAssertionReports() noexcept;
+
+} // namespace velkor::objectmodeler

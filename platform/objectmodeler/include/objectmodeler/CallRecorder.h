@@ -1,0 +1,22 @@
+/// A record of what libraries asked of the platform, in order: module construction, registrations,
+/// metaclass creations, exit callbacks, schema registrations and restores. Off until started; then
+/// each call is one line of text.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velkor::objectmodeler {
+
+/// Starts with an empty record.
+void startRecording();
+void stopRecording();
+std::vector<std::string> recordedCalls();
+
+/// True while recording; asked before a line is put together.
+bool isRecording() noexcept;
+/// Adds a line, when recording.
+void recordCall(std::string_view line);
+
+} // namespace velkor::objectmodeler
