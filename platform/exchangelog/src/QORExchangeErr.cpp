@@ -1,0 +1,20 @@
+#include "exchangelog/QORExchangeErr.h"
+
+#include "objectmodeler/CallRecorder.h"
+
+#include <atomic>
+
+namespace {
+
+std::atomic<QORExchangeErr*> current = nullptr;
+
+} // namespace
+
+QORExchangeErr* GetExchangeErr() {
+    velkor::objectmodeler::recordCall("exchange log asked for");
+    return current;
+}
+
+void velkor::exchangelog::setExchangeErr(QORExchangeErr* log) {
+    current = log;
+}
