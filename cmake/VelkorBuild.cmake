@@ -13,10 +13,16 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 
 add_compile_options(-Wall -Wextra -Wpedantic -Werror -fno-semantic-interposition -fvisibility-inlines-hidden)
+# Assertion reports name source units by their path in the project.
+add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
 add_link_options(-Wl,--as-needed -Wl,-O1)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # A unique symbol would keep the library in the process after dlclose.
   add_compile_options(-fno-gnu-unique)
+  if(CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    # Warns of every literal put before a std::string (GCC bug 105651).
+    add_compile_options(-Wno-restrict)
+  endif()
 endif()
 if(VELKOR_SANITIZE)
   add_compile_options(-fsanitize=${VELKOR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)

@@ -46,12 +46,8 @@ inline QORBaseUnknown* createNothing() {
 #define VELKOR_DECLARE_CLASS                                                                                           \
 public:                                                                                                                \
     static QORMetaClass* MetaObject();                                                                                 \
-    static const char* ClassName() {                                                                                   \
-        return MetaObject()->GetClassName();                                                                           \
-    }                                                                                                                  \
-    static const IID& ClassId() {                                                                                      \
-        return MetaObject()->GetClassId();                                                                             \
-    }                                                                                                                  \
+    static const char* ClassName();                                                                                    \
+    static const IID& ClassId();                                                                                       \
     QORMetaClass* GetMetaObject() const override;                                                                      \
     const char* IsA() const override;                                                                                  \
     int IsAKindOf(const char* className) const override;                                                               \
@@ -61,6 +57,12 @@ private:                                                                        
 
 #define VELKOR_IMPLEMENT_CLASS_OPERATIONS(Class)                                                                       \
     std::atomic<QORMetaClass*> Class::_metaClass = nullptr;                                                            \
+    const char* Class::ClassName() {                                                                                   \
+        return MetaObject()->GetClassName();                                                                           \
+    }                                                                                                                  \
+    const IID& Class::ClassId() {                                                                                      \
+        return MetaObject()->GetClassId();                                                                             \
+    }                                                                                                                  \
     QORMetaClass* Class::GetMetaObject() const {                                                                       \
         return MetaObject();                                                                                           \
     }                                                                                                                  \

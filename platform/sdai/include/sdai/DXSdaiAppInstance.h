@@ -10,9 +10,12 @@
 
 class DXSdaiAppInstance {
 public:
+    DXSdaiAppInstance(const DXSdaiAppInstance&) = delete;
+    DXSdaiAppInstance& operator=(const DXSdaiAppInstance&) = delete;
+
     /// Instance name without "#".
     std::uint64_t id() const noexcept;
-    /// The entity; null when the schema does not know the file's keyword.
+    /// The entity; null when the schema does not know the file's keyword, and of a complex instance.
     const velkor::sdai::EntityDefinition* entity() const noexcept { return _entity; }
     const velkor::sdai::Model& model() const noexcept { return *_model; }
 
@@ -25,17 +28,19 @@ public:
     bool TestAttr(std::string_view attributeName) const;
     /// The value of an attribute; an unset handle when the entity has none of the name.
     velkor::sdai::Primitive GetAttr(std::string_view attributeName) const;
-    /// The value by index into entity()->attributes().
+    /// The value by index into entity()->attributes(); an unset handle for any other index.
     velkor::sdai::Primitive attribute(std::size_t index) const;
 
 private:
     friend class velkor::sdai::Model;
-    DXSdaiAppInstance(const velkor::sdai::Model& model, const velkor::sdai::EntityDefinition* entity,
-                      std::uint32_t number) noexcept
-        : _model(&model), _entity(entity), _number(number) {}
-    const velkor::sdai::Model* _model;
-    const velkor::sdai::EntityDefinition* _entity;
-    std::uint32_t _number;
-    // Where each parameter begins, relative to the instance's text; found at first access.
-    mutable std::unique_ptr<std::uint32_t[]> _starts;
+    DXSdaiAppInstance() = default;
+    std::string_view parameter(std::size_t index) const;
+    velkor::sdai::Primitive complexAttribute(std::string_view attributeName) const;
+
+    const velkor::sdai::Model* _model = nullptr;
+    const velkor::sdai::EntityDefinition* _entity = nullptr;
+    std::uint32_t _number = 0;
+    // Where each parameter begins, and where one behind it would; null for those that are missing. Found at
+    // first access.
+    mutable std::unique_ptr<const char*[]> _parameters;
 };

@@ -10,7 +10,6 @@
 #include "sdai/Part21File.h"
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -19,41 +18,61 @@
 
 namespace velkor::sdai {
 
+/// Reading an attribute remembers where the instance's parameters stand: one thread at a time may use
+/// a model, different models are independent.
 class Model {
 public:
+    /// The error is one line that names the file and says why it cannot be read, or which schemas there
+    /// are when the file's is none of them.
     static tl::expected<std::unique_ptr<Model>, std::string> open(const std::string& path);
+    /// The same over text that the caller keeps alive; `name` stands for the file in messages.
     static tl::expected<std::unique_ptr<Model>, std::string> fromText(std::string_view text, std::string name);
-    virtual ~Model() = default;
+    ~Model();
+    Model(const Model&) = delete;
+    Model& operator=(const Model&) = delete;
 
     const Part21File& file() const noexcept { return *_file; }
     const FileHeader& header() const noexcept { return _file->header(); }
     const SchemaDefinition& schema() const noexcept { return *_schema; }
 
     /// The instance of an id; null when the file has none.
-    virtual DXSdaiAppInstance* instance(std::uint64_t id) const = 0;
-    /// The instance by its number in file order.
-    virtual DXSdaiAppInstance* instanceAt(std::uint32_t number) const = 0;
-    /// The entity of an instance without making an instance object; null when unknown.
-    virtual const EntityDefinition* entityAt(std::uint32_t number) const = 0;
+    DXSdaiAppInstance* instance(std::uint64_t id) const;
+    /// The instance by its number in file order, which must be below the file's count.
+    DXSdaiAppInstance* instanceAt(std::uint32_t number) const;
+    /// The entity of an instance without making an instance object; null for a keyword that the schema
+    /// does not know and for complex instances.
+    const EntityDefinition* entityAt(std::uint32_t number) const;
 
     /// All instances of an entity and its subtypes, in file order, found by a pass over the
-    /// index's keyword numbers alone.
-    virtual std::vector<std::uint32_t> numbersOf(std::string_view entityName) const = 0;
+    /// index's keyword numbers alone. A complex instance counts with each of its partial entities.
+    std::vector<std::uint32_t> numbersOf(std::string_view entityName) const;
     std::vector<DXSdaiAppInstance*> instancesOf(std::string_view entityName) const;
 
     /// How many instances each keyword of the file has, most frequent first.
     struct KeywordCount {
+        /// Of all complex instances together "(…)".
         std::string keyword;
         /// Null for a keyword that the schema does not know and for complex instances.
         const EntityDefinition* entity;
         std::uint64_t count;
     };
-    virtual std::vector<KeywordCount> keywordCounts() const = 0;
+    std::vector<KeywordCount> keywordCounts() const;
 
-protected:
-    Model() = default;
+private:
+    // Instances are made a page at a time, so that one costs no allocation of its own.
+    static constexpr std::uint32_t pageSize = 64;
+    using Page = std::unique_ptr<DXSdaiAppInstance[]>;
+
+    Model(std::unique_ptr<Part21File> file, DXSdaiDictionaryRepo::SchemaPointer schema);
+    static tl::expected<std::unique_ptr<Model>, std::string>
+    overFile(tl::expected<std::unique_ptr<Part21File>, std::string> file);
+    Page makePage(std::uint32_t first) const;
+
     std::unique_ptr<Part21File> _file;
     DXSdaiDictionaryRepo::SchemaPointer _schema;
+    // By keyword number.
+    std::vector<const EntityDefinition*> _entities;
+    mutable std::unique_ptr<Page[]> _pages;
 };
 
 } // namespace velkor::sdai

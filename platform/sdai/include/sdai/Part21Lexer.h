@@ -84,5 +84,7 @@ std::string decodeString(std::string_view token, std::string* error = nullptr);
 bool decodeReal(std::string_view token, double& value) noexcept;
 /// False when the text is no integer or does not fit.
 bool decodeInteger(std::string_view token, std::int64_t& value) noexcept;
+/// An InstanceName token's number; 0, which no instance has, when it needs more than 64 bits.
+std::uint64_t decodeInstanceName(std::string_view token) noexcept;
 
 } // namespace velkor::sdai

@@ -16,8 +16,9 @@ struct PopulationCheckOptions {
 };
 
 /// Decodes every instance once: unknown and abstract entities, wrong number or type of
-/// attributes, missing required values, bounds of aggregates, dangling references and
-/// references to the wrong entity, unknown enumerators. Problems in file order.
+/// attributes, missing required values, bounds of aggregates, lengths of texts, dangling
+/// references and references to the wrong entity, unknown enumerators. Problems in file order.
+/// Damage to the exchange structure itself is checkSyntax's; a value that is no token is passed over.
 std::vector<Problem> checkPopulation(const Model& model, const PopulationCheckOptions& options,
                                      std::uint64_t* total = nullptr);
 

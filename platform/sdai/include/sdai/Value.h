@@ -44,7 +44,7 @@ public:
     /// The declared type of the place that holds the value; null for an unset handle.
     const Type* declaredType() const noexcept { return _type; }
     /// The value as it stands in the file.
-    std::string_view encoded() const noexcept { return _text; }
+    std::string_view encoded() const noexcept;
 
     /// The referred instance; null when the value is no reference or the reference dangles.
     DXSdaiAppInstance* asInstance() const;

@@ -86,4 +86,10 @@ bool decodeInteger(std::string_view token, std::int64_t& value) noexcept {
     return true;
 }
 
+std::uint64_t decodeInstanceName(std::string_view token) noexcept {
+    std::uint64_t id = 0;
+    const auto result = std::from_chars(token.data() + 1, token.data() + token.size(), id);
+    return result.ec == std::errc() ? id : 0;
+}
+
 } // namespace velkor::sdai

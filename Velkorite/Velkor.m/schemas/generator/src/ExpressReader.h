@@ -1,0 +1,17 @@
+/// Reads types and entities of an EXPRESS source; functions, rules, constants, inverse attributes and
+/// domain rules are passed over.
+#pragma once
+
+#include "ExpressSchema.h"
+
+#include <string>
+#include <string_view>
+#include <tl/expected.hpp>
+
+namespace velkor::dictgen {
+
+/// Adds what a source declares to `schema`; the source may be a whole schema or declarations alone.
+/// The error is "NAME:LINE: expected …, found …".
+tl::expected<void, std::string> readExpress(std::string_view text, const std::string& name, ExpressSchema& schema);
+
+} // namespace velkor::dictgen

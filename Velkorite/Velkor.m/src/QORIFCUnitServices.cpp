@@ -1,0 +1,224 @@
+#include "QORIFCUnitServices.h"
+
+#include "sdai/DXSdaiAppInstance.h"
+#include "UnitEvaluation.h"
+#include "UnitPositions.h"
+
+using velkor::library::unitPosition;
+using velkor::sdai::Aggregate;
+using velkor::sdai::AggregateIterator;
+
+Fileschema QORIFCUnitServices::_schema = FileschemaIFC2X3;
+std::array<double, 78> QORIFCUnitServices::_IFC2x3_globalSIUnitsFactors{};
+std::array<double, 82> QORIFCUnitServices::_IFC4_globalSIUnitsFactors{};
+double QORIFCUnitServices::_lengthConversionFactor = 1.0;
+double QORIFCUnitServices::_angleConversionFactor = 1.0;
+QORString QORIFCUnitServices::_unitType;
+QORString QORIFCUnitServices::_unitPrefix;
+QORString QORIFCUnitServices::_unitName;
+bool QORIFCUnitServices::_isAlternativeLengthUnitSet = false;
+
+namespace {
+
+// In the order of IFCSIPREFIX, EXA to ATTO.
+constexpr std::array<double, 16> prefixFactors{1e18, 1e15, 1e12, 1e9,  1e6,  1e3,   1e2,   1e1,
+                                               1e-1, 1e-2, 1e-3, 1e-6, 1e-9, 1e-12, 1e-15, 1e-18};
+
+constexpr int noSlot = -1;
+
+/// Where the factor of a measure type stands in the tables of the two schemas.
+struct MeasureSlots {
+    const char* name;
+    int ifc2x3;
+    int ifc4;
+};
+
+constexpr MeasureSlots measureSlots[] = {
+    {"IFCLENGTHMEASURE", 15, 15},
+    {"IFCPOSITIVELENGTHMEASURE", 15, 15},
+    {"IFCNONNEGATIVELENGTHMEASURE", 15, 15},
+    {"IFCAREAMEASURE", 2, 2},
+    {"IFCVOLUMEMEASURE", 28, 28},
+    {"IFCPLANEANGLEMEASURE", 21, 21},
+    {"IFCPOSITIVEPLANEANGLEMEASURE", 21, 21},
+    {"IFCTIMEMEASURE", 27, 27},
+    {"IFCMASSMEASURE", 20, 20},
+    {"IFCENERGYMEASURE", 10, 10},
+    {"IFCTHERMODYNAMICTEMPERATUREMEASURE", 26, 26},
+    {"IFCMAGNETICFLUXMEASURE", 19, 19},
+    {"IFCPRESSUREMEASURE", 23, 23},
+    {"IFCPOWERMEASURE", 22, 22},
+    {"IFCILLUMINANCEMEASURE", 13, 13},
+    {"IFCVOLUMETRICFLOWRATEMEASURE", 47, 48},
+    {"IFCLINEARVELOCITYMEASURE", 36, 37},
+    {"IFCMASSDENSITYMEASURE", 37, 38},
+    {"IFCAREADENSITYMEASURE", noSlot, 30},
+    {"IFCTHERMALTRANSMITTANCEMEASURE", 45, 46},
+    {"IFCHEATFLUXDENSITYMEASURE", 32, 33},
+    {"IFCSOLIDANGLEMEASURE", 25, 25},
+    {"IFCELECTRICCURRENTMEASURE", 7, 7},
+    {"IFCAMOUNTOFSUBSTANCEMEASURE", 1, 1},
+    {"IFCLUMINOUSINTENSITYMEASURE", 17, 17},
+};
+
+/// A length unit that lengths in millimetres may be written in.
+struct AlternativeLengthUnit {
+    const char* text;
+    const char* prefix;
+    const char* name;
+    double factor;
+};
+
+constexpr AlternativeLengthUnit alternativeLengthUnits[] = {
+    {"cm", "CENTI", "METRE", 0.1},
+    {"m", "", "METRE", 0.001},
+    {"in", "", "INCH", 1.0 / 25.4},
+    {"ft", "", "FOOT", 1.0 / 304.8},
+};
+
+/// The members of an IFCUNITASSIGNMENT; a null aggregate for any other instance.
+Aggregate unitsOf(const DXSdaiAppInstance* unitAssignment) {
+    if (unitAssignment == nullptr || !unitAssignment->IsKindOf("IFCUNITASSIGNMENT")) return {};
+    return unitAssignment->GetAttr("UNITS").asAggregate();
+}
+
+/// What a length unit is called: by its prefix when it has one, else by its name. False when the unit states
+/// a prefix or a name that is neither an enumerator nor a text.
+bool lengthUnitName(const DXSdaiAppInstance& unit, QORUnicodeString& unitName) {
+    if (unit.TestAttr("PREFIX")) {
+        const auto prefix = unit.GetAttr("PREFIX").asEnumeration();
+        if (prefix.type == nullptr) return false;
+        unitName = QORUnicodeString(prefix.text());
+        return true;
+    }
+    if (!unit.TestAttr("NAME")) return false;
+    const auto name = unit.GetAttr("NAME").asEnumeration();
+    unitName = name.type != nullptr ? QORUnicodeString(name.text()) : QORUnicodeString(unit.GetAttr("NAME").asString());
+    return true;
+}
+
+} // namespace
+
+QORIFCUnitServices::~QORIFCUnitServices() = default;
+
+HRESULT QORIFCUnitServices::SetSchema(Fileschema schema) {
+    _schema = schema;
+    return S_OK;
+}
+
+HRESULT QORIFCUnitServices::StoreGlobalUnits(DXSdaiAppInstance* unitAssignment) {
+    double* factors = nullptr;
+    std::size_t size = 0;
+    if (_schema == FileschemaIFC2X3) {
+        _IFC2x3_globalSIUnitsFactors.fill(1.0);
+        factors = _IFC2x3_globalSIUnitsFactors.data();
+        size = _IFC2x3_globalSIUnitsFactors.size();
+    } else if (_schema == FileschemaIFC4) {
+        _IFC4_globalSIUnitsFactors.fill(1.0);
+        factors = _IFC4_globalSIUnitsFactors.data();
+        size = _IFC4_globalSIUnitsFactors.size();
+    }
+
+    HRESULT result = E_FAIL;
+    for (AggregateIterator it(unitsOf(unitAssignment)); it.next();) {
+        DXSdaiAppInstance* unit = it.current().asInstance();
+        if (unit == nullptr) continue;
+        const bool isDerived = unit->IsKindOf("IFCDERIVEDUNIT");
+        if (!isDerived && !unit->IsKindOf("IFCNAMEDUNIT")) continue;
+
+        const int position = unitPosition(unit->GetAttr("UNITTYPE").asEnumeration(), _schema);
+        const auto slot = static_cast<std::size_t>(isDerived ? position + velkor::library::firstDerivedSlot : position);
+        if (position < 0 || slot >= size) continue;
+        factors[slot] = GetUnitConversionFactor(unit);
+        result = S_OK;
+    }
+    return result;
+}
+
+double QORIFCUnitServices::GetUnitConversionFactor(DXSdaiAppInstance* unit) {
+    return velkor::library::UnitEvaluation(_schema).factor(unit);
+}
+
+double QORIFCUnitServices::GetPrefixValue(int prefixIndex) {
+    const auto index = static_cast<std::size_t>(prefixIndex);
+    return index < prefixFactors.size() ? prefixFactors[index] : 1.0;
+}
+
+double QORIFCUnitServices::GetGlobalUnitConversionFactor(QORUnicodeString& measureTypeName) {
+    for (const MeasureSlots& measure : measureSlots) {
+        if (!velkor::text::equalIgnoringCase(measureTypeName.utf8(), measure.name)) continue;
+        if (_schema == FileschemaIFC2X3 && measure.ifc2x3 != noSlot)
+            return _IFC2x3_globalSIUnitsFactors[measure.ifc2x3];
+        if (_schema == FileschemaIFC4) return _IFC4_globalSIUnitsFactors[measure.ifc4];
+        return 1.0;
+    }
+    return 1.0;
+}
+
+HRESULT QORIFCUnitServices::GetSIConversionFactorforGeometry(double& lengthFactor, double& angleFactor) {
+    using velkor::library::LengthUnit;
+    using velkor::library::PlaneAngleUnit;
+    if (_schema == FileschemaIFC2X3) {
+        lengthFactor = _IFC2x3_globalSIUnitsFactors[LengthUnit] * 1000.0;
+        angleFactor = _IFC2x3_globalSIUnitsFactors[PlaneAngleUnit];
+    } else if (_schema == FileschemaIFC4) {
+        lengthFactor = _IFC4_globalSIUnitsFactors[LengthUnit] * 1000.0;
+        angleFactor = _IFC4_globalSIUnitsFactors[PlaneAngleUnit];
+    }
+    return lengthFactor == 0.0 || angleFactor == 0.0 ? E_FAIL : S_OK;
+}
+
+HRESULT QORIFCUnitServices::GetDocumentLengthUnit(DXSdaiAppInstance* unitAssignment, QORUnicodeString& unitName,
+                                                  double& factor) {
+    for (AggregateIterator it(unitsOf(unitAssignment)); it.next();) {
+        DXSdaiAppInstance* unit = it.current().asInstance();
+        if (unit == nullptr || !(unit->IsKindOf("IFCCONVERSIONBASEDUNIT") || unit->IsKindOf("IFCSIUNIT"))) continue;
+        if (unitPosition(unit->GetAttr("UNITTYPE").asEnumeration(), _schema) != velkor::library::LengthUnit) continue;
+        factor = GetUnitConversionFactor(unit);
+        if (lengthUnitName(*unit, unitName)) break;
+    }
+    return S_OK;
+}
+
+double QORIFCUnitServices::GetLengthConversionFactor() {
+    return _lengthConversionFactor;
+}
+
+void QORIFCUnitServices::SetLengthConversionFactor(const double& factor) {
+    _lengthConversionFactor = factor;
+}
+
+double QORIFCUnitServices::GetAngleConversionFactor() {
+    return _angleConversionFactor;
+}
+
+void QORIFCUnitServices::SetAngleConversionFactor(const double&) {}
+
+HRESULT QORIFCUnitServices::SetAlternativeLengthUnit(const QORUnicodeString& unit) {
+    _unitType = "LENGTHUNIT";
+    for (const AlternativeLengthUnit& known : alternativeLengthUnits) {
+        if (unit.Compare(known.text) == 0) continue;
+        _unitPrefix = known.prefix;
+        _unitName = known.name;
+        _lengthConversionFactor = known.factor;
+        break;
+    }
+    return S_OK;
+}
+
+HRESULT QORIFCUnitServices::GetAlternativeLengthUnit(QORUnicodeString& unitType, QORUnicodeString& unitPrefix,
+                                                     QORUnicodeString& unitName, double& factor) {
+    unitType = QORUnicodeString(_unitType.view());
+    unitPrefix = QORUnicodeString(_unitPrefix.view());
+    unitName = QORUnicodeString(_unitName.view());
+    factor = _lengthConversionFactor;
+    return S_OK;
+}
+
+bool QORIFCUnitServices::GetAlternativeLengthUnitFlag() {
+    return _isAlternativeLengthUnitSet;
+}
+
+void QORIFCUnitServices::SetAlternativeLengthUnitFlag(const bool& flag) {
+    _isAlternativeLengthUnitSet = flag;
+}

@@ -1,0 +1,43 @@
+// What the library declares to the object modeler when it is loaded: the module object with the table
+// of registration functions, and the list of exit callbacks.
+
+#include "ExitCallbacks.h"
+#include "objectmodeler/QORFillDictionary.h"
+#include "objectmodeler/QOROMModule.h"
+#include "QORIIFCImportServices.h"
+
+#include <cstdlib>
+#include <iterator>
+
+namespace {
+
+void* moduleAddress();
+
+template <class Interface>
+void* registerInterface() {
+    QORFillDictionary::Register(Interface::ClassId(), Interface::MetaObject());
+    return moduleAddress();
+}
+
+// A section of its own, so that the table can be found in the file; the null entries bound it.
+[[gnu::section("velkor_registrations"), gnu::used]] const QOROMRegistration registrations[] = {
+    nullptr,
+    registerInterface<QORIIFCImportServices>,
+    nullptr,
+};
+
+QOROMModule module({std::begin(registrations), std::end(registrations) - 1});
+
+void* moduleAddress() {
+    return &module;
+}
+
+vrn::internal::v1::exit_callback::list exitCallbacks;
+
+} // namespace
+
+void velkor::library::callAtUnload(vrn::internal::v1::exit_callback::callback callback, int order) {
+    namespace exit_callback = vrn::internal::v1::exit_callback;
+    const auto registrar = [] { std::atexit([] { exit_callback::call(exitCallbacks); }); };
+    exit_callback::do_register(callback, order, registrar, exitCallbacks);
+}

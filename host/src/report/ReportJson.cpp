@@ -1,0 +1,86 @@
+#include "report/Report.h"
+
+namespace velkor::host {
+
+namespace {
+
+Json headerJson(const ModelFacts& facts) {
+    const sdai::FileHeader& header = facts.header;
+    return {{"name", header.name},
+            {"timeStamp", header.timeStamp},
+            {"author", header.author},
+            {"organization", header.organization},
+            {"originatingSystem", header.originatingSystem},
+            {"preprocessorVersion", header.preprocessorVersion},
+            {"authorization", header.authorization},
+            {"implementationLevel", header.implementationLevel},
+            {"description", header.description},
+            {"modelViews", facts.views}};
+}
+
+Json projectJson(const ModelFacts& facts) {
+    if (!facts.project) return nullptr;
+    const ProjectFacts& project = *facts.project;
+    return {{"instance", project.id},
+            {"name", project.name},
+            {"longName", project.longName},
+            {"description", project.description},
+            {"phase", project.phase}};
+}
+
+Json contentsJson(const ModelFacts& facts) {
+    Json result = Json::array();
+    for (const ContentCount& content : facts.contents) {
+        result.push_back({{"entity", content.entity}, {"count", content.count}});
+    }
+    return result;
+}
+
+Json instancesJson(const ModelFacts& facts) {
+    Json entities = Json::array();
+    for (const auto& keyword : facts.keywords) {
+        entities.push_back(
+            {{"keyword", keyword.keyword}, {"known", keyword.entity != nullptr}, {"count", keyword.count}});
+    }
+    return {{"total", facts.instanceCount}, {"keywords", std::move(entities)}};
+}
+
+const char* name(sdai::Severity severity) {
+    return severity == sdai::Severity::Error ? "error" : "warning";
+}
+
+Json problemsJson(const ProblemSummary& summary) {
+    Json kinds = Json::array();
+    for (const ProblemSummary::Kind& kind : summary.kinds) {
+        const sdai::Problem& first = kind.first;
+        kinds.push_back({{"code", kind.code},
+                         {"severity", name(kind.severity)},
+                         {"count", kind.count},
+                         {"first",
+                          {{"line", first.line},
+                           {"instance", first.instance == 0 ? Json() : Json(first.instance)},
+                           {"message", first.message}}}});
+    }
+    return {{"total", summary.total},
+            {"listed", summary.listed()},
+            {"errors", summary.errors},
+            {"warnings", summary.warnings},
+            {"kinds", std::move(kinds)}};
+}
+
+} // namespace
+
+Json reportJson(const Report& report) {
+    const ModelFacts& facts = report.facts;
+    return {{"file", {{"path", facts.path}, {"bytes", facts.bytes}}},
+            {"release", {{"dictionary", facts.release}, {"fileSchema", facts.fileSchemas}}},
+            {"header", headerJson(facts)},
+            {"project", projectJson(facts)},
+            {"projectCount", facts.projectCount},
+            {"contents", contentsJson(facts)},
+            {"instances", instancesJson(facts)},
+            {"units", unitReportJson(report.units)},
+            {"problems", problemsJson(report.problems)}};
+}
+
+} // namespace velkor::host

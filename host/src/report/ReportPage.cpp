@@ -1,0 +1,197 @@
+#include "DisplayText.h"
+#include "report/Page.h"
+#include "report/Report.h"
+
+#include <algorithm>
+#include <charconv>
+#include <filesystem>
+#include <ostream>
+
+namespace velkor::host {
+
+namespace {
+
+using Style = Page::Style;
+
+constexpr std::size_t shownKeywords = 10;
+constexpr std::size_t shownKinds = 6;
+
+std::string joined(const std::vector<std::string>& texts, std::string_view separator = ", ") {
+    std::string result;
+    for (const std::string& text : texts) {
+        if (text.find_first_not_of(" \t\r\n") == std::string::npos) continue;
+        if (!result.empty()) result += separator;
+        result += text;
+    }
+    return result;
+}
+
+std::string decimal(double value, int digits) {
+    std::array<char, 64> buffer;
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, digits);
+    return {buffer.data(), end.ptr};
+}
+
+std::string sizeText(std::uint64_t bytes) {
+    constexpr std::array<std::string_view, 4> units{"kB", "MB", "GB", "TB"};
+    const std::string exact = counted(bytes, "byte", "bytes");
+    if (bytes < 1000) return exact;
+    std::size_t unit = 0;
+    double size = static_cast<double>(bytes) / 1000.0;
+    for (; size >= 999.95 && unit + 1 < units.size(); ++unit) size /= 1000.0;
+    return decimal(size, 1).append(" ").append(units[unit]).append(" (").append(exact).append(")");
+}
+
+std::string problemCounts(const ProblemSummary& problems) {
+    if (problems.total == 0) return "no problems found";
+    std::string result;
+    if (problems.errors > 0) result = counted(problems.errors, "error", "errors");
+    if (problems.warnings > 0) {
+        if (!result.empty()) result += " and ";
+        result += counted(problems.warnings, "warning", "warnings");
+    }
+    if (problems.total > problems.listed()) {
+        result += " among the first " + grouped(problems.listed()) + " of " + grouped(problems.total) + " problems";
+    }
+    return result;
+}
+
+void writeTitle(Page& page, const Report& report) {
+    const ModelFacts& facts = report.facts;
+    page.title(std::filesystem::path(facts.path).filename().string());
+    page.paragraph(facts.release + " model, " + counted(facts.instanceCount, "instance", "instances") + ", " +
+                       problemCounts(report.problems),
+                   0);
+}
+
+void writeFile(Page& page, const ModelFacts& facts) {
+    page.section("File");
+    page.entry("Path", facts.path);
+    page.entry("Size", sizeText(facts.bytes));
+    page.entry("Release", facts.isReleaseAsWritten ? facts.release
+                                                   : facts.release + ", read from FILE_SCHEMA \"" +
+                                                         joined(facts.fileSchemas, "\", \"") + '"');
+    page.entry("Model view", joined(facts.views));
+    if (!facts.descriptions.empty()) page.entry("Description", joined(facts.descriptions, "; "));
+    page.entry("Name in header", facts.header.name);
+    page.entry("Time stamp", facts.header.timeStamp);
+    page.entry("Author", joined(facts.header.author));
+    page.entry("Organization", joined(facts.header.organization));
+    page.entry("Written by", facts.header.originatingSystem);
+    page.entry("Preprocessor", facts.header.preprocessorVersion);
+}
+
+std::string contentText(const ModelFacts& facts) {
+    std::string result;
+    for (const ContentCount& content : facts.contents) {
+        if (!result.empty()) result += ", ";
+        result += counted(content.count, content.singular, content.plural);
+    }
+    return result.empty() ? "no site, building or element" : result;
+}
+
+void writeProject(Page& page, const ModelFacts& facts) {
+    if (!facts.project) {
+        page.section("Project", "none in the file", Style::Doubtful);
+    } else {
+        const ProjectFacts& project = *facts.project;
+        page.section("Project",
+                     facts.projectCount == 1
+                         ? ""
+                         : "the first of " + grouped(facts.projectCount) + ", although a file should have one",
+                     Style::Doubtful);
+        page.entry("Name", project.name);
+        if (!project.longName.empty()) page.entry("Long name", project.longName);
+        if (!project.description.empty()) page.entry("Description", project.description);
+        if (!project.phase.empty()) page.entry("Phase", project.phase);
+    }
+    page.entry("Contains", contentText(facts));
+}
+
+std::string shareText(double share) {
+    return share > 0.0 && share < 0.001 ? "< 0.1 %" : decimal(share * 100.0, 1).append(" %");
+}
+
+void writeInstances(Page& page, const ModelFacts& facts) {
+    page.section("Instances", grouped(facts.instanceCount) + " of " +
+                                  counted(facts.keywords.size(), "entity", "different entities"));
+    if (facts.keywords.empty()) return;
+    const auto shown = std::min(shownKeywords, facts.keywords.size());
+    std::vector<std::string> names, counts;
+    std::size_t nameWidth = 0, countWidth = 0;
+    for (std::size_t i = 0; i < shown; ++i) {
+        const auto& keyword = facts.keywords[i];
+        const bool isComplex = keyword.keyword.starts_with('(');
+        std::string name = keyword.keyword;
+        if (keyword.entity == nullptr && !isComplex) name += " (unknown)";
+        names.push_back(wrapped(name, 44, 1).front());
+        counts.push_back(grouped(keyword.count));
+        nameWidth = std::max(nameWidth, displayWidth(names.back()));
+        countWidth = std::max(countWidth, counts.back().size());
+    }
+    const auto most = static_cast<double>(facts.keywords.front().count);
+    for (std::size_t i = 0; i < shown; ++i) {
+        const auto count = static_cast<double>(facts.keywords[i].count);
+        const std::string share = shareText(count / static_cast<double>(facts.instanceCount));
+        page.line(padded(names[i], nameWidth) + "  " + rightAligned(counts[i], countWidth) + "  " +
+                  rightAligned(share, 7) + "  " + page.styled(bar(count / most, 24), Style::Dim));
+    }
+    std::uint64_t others = 0;
+    for (std::size_t i = shown; i < facts.keywords.size(); ++i) others += facts.keywords[i].count;
+    if (others == 0) return;
+    const std::string label = counted(facts.keywords.size() - shown, "other", "others");
+    page.line(padded(label, nameWidth) + "  " + rightAligned(grouped(others), countWidth) + "  " +
+              rightAligned(shareText(static_cast<double>(others) / static_cast<double>(facts.instanceCount)), 7));
+}
+
+std::string placeText(const sdai::Problem& problem) {
+    std::string place = "line " + grouped(problem.line);
+    if (problem.instance != 0) place += ", #" + std::to_string(problem.instance);
+    return place;
+}
+
+// As a shell takes it.
+std::string quoted(const std::string& path) {
+    constexpr std::string_view plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_-+./,:@%";
+    if (!path.empty() && path.find_first_not_of(plain) == std::string::npos) return path;
+    std::string result = "'";
+    for (const char c : path) result += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    return result + '\'';
+}
+
+void writeProblems(Page& page, const Report& report) {
+    const ProblemSummary& problems = report.problems;
+    if (problems.total == 0) {
+        page.section("Problems", "none found", Style::Good);
+        return;
+    }
+    page.section("Problems", problemCounts(problems), problems.errors > 0 ? Style::Bad : Style::Doubtful);
+    const auto shown = std::min(shownKinds, problems.kinds.size());
+    for (std::size_t i = 0; i < shown; ++i) {
+        const ProblemSummary::Kind& kind = problems.kinds[i];
+        const bool isError = kind.severity == sdai::Severity::Error;
+        page.line(page.styled(isError ? "error  " : "warning", isError ? Style::Bad : Style::Doubtful) + "  " +
+                  kind.code + (kind.count > 1 ? ", " + grouped(kind.count) + " times, first" : "") + " in " +
+                  placeText(kind.first));
+        page.paragraph(kind.first.message, 11);
+    }
+    if (problems.kinds.size() > shown) {
+        page.line("and " + counted(problems.kinds.size() - shown, "kind more", "kinds more"));
+    }
+    page.line(page.styled("All of them: velkor check " + printable(quoted(report.facts.path)), Style::Dim));
+}
+
+} // namespace
+
+void writeReportPage(std::ostream& out, bool color, const Report& report) {
+    Page page(out, color);
+    writeTitle(page, report);
+    writeFile(page, report.facts);
+    writeProject(page, report.facts);
+    writeInstances(page, report.facts);
+    writeUnits(page, report.units);
+    writeProblems(page, report);
+}
+
+} // namespace velkor::host

@@ -1,0 +1,138 @@
+#include "sdai/Model.h"
+
+#include "model/ComplexInstance.h"
+
+#include <algorithm>
+
+namespace velkor::sdai {
+
+namespace {
+
+std::string joined(const std::vector<std::string>& names, std::string_view separator) {
+    std::string result;
+    for (const std::string& name : names) (result.empty() ? result : result += separator) += name;
+    return result;
+}
+
+/// The line of FILE_SCHEMA, for a message about it.
+std::string placeOfSchema(const Part21File& file) {
+    const std::uint64_t headerEnd = file.instanceCount() > 0 ? file.offset(0) : file.text().size();
+    const auto found = file.text().substr(0, headerEnd).find("FILE_SCHEMA");
+    return found == std::string_view::npos ? file.name() : file.name() + ":" + std::to_string(file.line(found));
+}
+
+/// The keyword of an instance that is not complex.
+std::string_view keywordText(const Part21File& file, std::uint32_t number) {
+    const Token token = Part21Lexer(file.instanceText(number)).next();
+    return token.kind == TokenKind::Keyword ? token.text : std::string_view();
+}
+
+} // namespace
+
+Model::Model(std::unique_ptr<Part21File> file, DXSdaiDictionaryRepo::SchemaPointer schema)
+    : _file(std::move(file)), _schema(std::move(schema)) {
+    for (const std::string& keyword : _file->keywords()) _entities.push_back(_schema->entity(keyword));
+}
+
+Model::~Model() = default;
+
+tl::expected<std::unique_ptr<Model>, std::string> Model::open(const std::string& path) {
+    return overFile(Part21File::open(path));
+}
+
+tl::expected<std::unique_ptr<Model>, std::string> Model::fromText(std::string_view text, std::string name) {
+    return overFile(Part21File::fromText(text, std::move(name)));
+}
+
+tl::expected<std::unique_ptr<Model>, std::string>
+Model::overFile(tl::expected<std::unique_ptr<Part21File>, std::string> file) {
+    if (!file) return tl::unexpected(std::move(file.error()));
+    std::vector<std::string> written = (*file)->header().schemas;
+    for (const Part21File::DataSection& section : (*file)->dataSections()) {
+        written.insert(written.end(), section.schemas.begin(), section.schemas.end());
+    }
+
+    auto& repository = DXSdaiDictionaryRepo::TheOne();
+    for (const std::string& name : written) {
+        const std::string registered = repository.match(name);
+        if (registered.empty()) continue;
+        auto schema = repository.schema(registered);
+        if (!schema) return tl::unexpected((*file)->name() + ": " + schema.error());
+        return std::unique_ptr<Model>(new Model(std::move(*file), std::move(*schema)));
+    }
+    return tl::unexpected(placeOfSchema(**file) + ": expected a supported schema in FILE_SCHEMA, found " +
+                          (written.empty() ? "none" : '"' + joined(written, "\", \"") + '"') +
+                          "; supported: " + joined(repository.names(), ", "));
+}
+
+DXSdaiAppInstance* Model::instance(std::uint64_t id) const {
+    const auto number = _file->find(id);
+    return number ? instanceAt(*number) : nullptr;
+}
+
+DXSdaiAppInstance* Model::instanceAt(std::uint32_t number) const {
+    if (!_pages) _pages = std::make_unique<Page[]>(_file->instanceCount() / pageSize + 1);
+    Page& page = _pages[number / pageSize];
+    if (!page) page = makePage(number - number % pageSize);
+    return &page[number % pageSize];
+}
+
+Model::Page Model::makePage(std::uint32_t first) const {
+    const std::uint32_t count = std::min(pageSize, _file->instanceCount() - first);
+    Page page(new DXSdaiAppInstance[count]);
+    for (std::uint32_t i = 0; i < count; ++i) {
+        page[i]._model = this;
+        page[i]._entity = entityAt(first + i);
+        page[i]._number = first + i;
+    }
+    return page;
+}
+
+const EntityDefinition* Model::entityAt(std::uint32_t number) const {
+    const std::uint16_t keyword = _file->keyword(number);
+    if (keyword < _entities.size()) return _entities[keyword];
+    return keyword == Part21File::unlistedKeyword ? _schema->entity(keywordText(*_file, number)) : nullptr;
+}
+
+std::vector<std::uint32_t> Model::numbersOf(std::string_view entityName) const {
+    std::vector<std::uint32_t> numbers;
+    const EntityDefinition* wanted = _schema->entity(entityName);
+    if (wanted == nullptr) return numbers;
+
+    std::vector<char> isWanted;
+    for (const EntityDefinition* entity : _entities) isWanted.push_back(entity != nullptr && entity->isKindOf(*wanted));
+    const auto keywords = _file->keywordNumbers();
+    for (std::uint32_t number = 0; number < keywords.size(); ++number) {
+        const std::uint16_t keyword = keywords[number];
+        if (keyword < isWanted.size() ? isWanted[keyword] != 0 : instanceAt(number)->IsKindOf(entityName)) {
+            numbers.push_back(number);
+        }
+    }
+    return numbers;
+}
+
+std::vector<DXSdaiAppInstance*> Model::instancesOf(std::string_view entityName) const {
+    std::vector<DXSdaiAppInstance*> instances;
+    for (const std::uint32_t number : numbersOf(entityName)) instances.push_back(instanceAt(number));
+    return instances;
+}
+
+std::vector<Model::KeywordCount> Model::keywordCounts() const {
+    std::vector<KeywordCount> counts;
+    for (std::size_t i = 0; i < _entities.size(); ++i) counts.push_back({_file->keywords()[i], _entities[i], 0});
+    KeywordCount complex{"(…)", nullptr, 0};
+    KeywordCount unlisted{"(other keywords)", nullptr, 0};
+    for (const std::uint16_t keyword : _file->keywordNumbers()) {
+        if (keyword < counts.size())
+            ++counts[keyword].count;
+        else
+            ++(keyword == Part21File::complexKeyword ? complex : unlisted).count;
+    }
+    counts.push_back(std::move(complex));
+    counts.push_back(std::move(unlisted));
+    std::erase_if(counts, [](const KeywordCount& count) { return count.count == 0; });
+    std::ranges::stable_sort(counts, std::greater(), &KeywordCount::count);
+    return counts;
+}
+
+} // namespace velkor::sdai

@@ -1,0 +1,51 @@
+/// The pass over the instances of a model.
+#pragma once
+
+#include "part21/ProblemList.h"
+#include "sdai/Part21Lexer.h"
+#include "sdai/PopulationCheck.h"
+
+#include <string>
+#include <string_view>
+
+namespace velkor::sdai::model {
+
+class PopulationChecker {
+public:
+    PopulationChecker(const Model& model, const PopulationCheckOptions& options)
+        : _model(model), _options(options), _problems(options.limit) {}
+
+    void check();
+    part21::ProblemList& problems() noexcept { return _problems; }
+
+private:
+    void checkInstance(std::uint32_t number);
+    void checkComplex(std::string_view text);
+    const EntityDefinition* checkEntity(std::string_view keyword, bool isPart);
+    void checkAttributes(const EntityDefinition& entity);
+    void checkAttribute(const EntityDefinition& entity, const AttributeSlot& slot);
+    bool mayBeDerived(const EntityDefinition& entity, const AttributeSlot& slot) const;
+
+    void checkValue(const Type& type);
+    void checkSimple(const SimpleType& type, const Type& declared, const Token& token);
+    void checkText(const SimpleType& type, const Type& declared, const Token& token);
+    void checkEnumeration(const EnumerationType& type, const Token& token);
+    void checkReference(const EntityDefinition& type, const Token& token);
+    void checkSelect(const SelectType& type, const Type& declared, const Token& token);
+    void checkAggregate(const AggregateType& type, const Type& declared, const Token& token);
+    const EntityDefinition* referred(const Token& token);
+
+    void unexpected(const Type& declared, const Token& token);
+    void report(Severity severity, const char* at, const char* code, const std::string& message);
+
+    const Model& _model;
+    const PopulationCheckOptions& _options;
+    part21::ProblemList _problems;
+    Part21Lexer _lexer{std::string_view()};
+    std::uint64_t _instance = 0;
+    // What is being checked, for messages.
+    const EntityDefinition* _entity = nullptr;
+    const Attribute* _attribute = nullptr;
+};
+
+} // namespace velkor::sdai::model

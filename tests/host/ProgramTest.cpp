@@ -1,0 +1,85 @@
+#include <array>
+#include <cstdio>
+#include <gmock/gmock.h>
+#include <string>
+#include <sys/wait.h>
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::MatchesRegex;
+
+namespace {
+
+struct Outcome {
+    int status = -1;
+    std::string text;
+};
+
+// Runs a line of the shell in which "velkor" is the program built, and gives what it writes to
+// standard output.
+Outcome shell(const std::string& line) {
+    const std::string command = "velkor() { " VELKOR_BIN_DIR "/velkor \"$@\"; }; cd " VELKOR_SOURCE_DIR "; " + line;
+    Outcome outcome;
+    FILE* pipe = popen(command.c_str(), "r");
+    if (pipe == nullptr) return outcome;
+    std::array<char, 4096> buffer;
+    for (std::size_t read; (read = fread(buffer.data(), 1, buffer.size(), pipe)) > 0;) {
+        outcome.text.append(buffer.data(), read);
+    }
+    const int status = pclose(pipe);
+    if (WIFEXITED(status)) outcome.status = WEXITSTATUS(status);
+    return outcome;
+}
+
+} // namespace
+
+TEST(Program, TellsItsVersionAndItsCommands) {
+    const Outcome version = shell("velkor --version");
+    EXPECT_EQ(version.status, 0);
+    EXPECT_THAT(version.text, MatchesRegex("velkor [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+
+    const Outcome help = shell("velkor --help");
+    EXPECT_EQ(help.status, 0);
+    EXPECT_THAT(help.text, AllOf(HasSubstr("report"), HasSubstr("check"), HasSubstr("units"), HasSubstr("dictionary")));
+    for (const std::string command : {"report", "check", "units", "dictionary entity"}) {
+        const Outcome one = shell("velkor " + command + " --help");
+        EXPECT_EQ(one.status, 0) << command;
+        EXPECT_THAT(one.text, AllOf(HasSubstr("Example:\n  velkor " + command), HasSubstr("--format")));
+    }
+}
+
+TEST(Program, BadUsageIsStatus2AndLeavesStandardOutputAlone) {
+    for (const auto& [line, message] : {std::pair("", "Usage: velkor"),
+                                        {"rapport", "unknown command rapport"},
+                                        {"--fast", "unknown option --fast"},
+                                        {"report", "velkor report --help"},
+                                        {"report --format xml README.md", "xml"},
+                                        {"report README.md LICENSE", "LICENSE"}}) {
+        const Outcome quiet = shell(std::string("velkor ") + line + " 2>/dev/null");
+        EXPECT_EQ(quiet.status, 2) << line;
+        EXPECT_THAT(quiet.text, IsEmpty()) << line;
+        EXPECT_THAT(shell(std::string("velkor ") + line + " 2>&1").text, HasSubstr(message)) << line;
+    }
+}
+
+TEST(Program, WhatCannotBeReadIsStatus3) {
+    for (const std::string path : {"no-such-file.ifc", "examples", "README.md", "/dev/null"}) {
+        for (const std::string command : {"report", "check", "units"}) {
+            EXPECT_EQ(shell("velkor " + command + " " + path + " 2>/dev/null").status, 3) << command << ' ' << path;
+        }
+        EXPECT_THAT(shell("velkor report " + path + " 2>&1"),
+                    testing::Field(&Outcome::text, MatchesRegex("velkor: [^\n]*" + path + "[^\n]*\n")));
+    }
+}
+
+TEST(Program, ResultsThatCannotBeWrittenAreNoSuccess) {
+    const Outcome full = shell("velkor report examples/models/house-ifc2x3.ifc 2>&1 >/dev/full");
+    EXPECT_EQ(full.status, 3);
+    EXPECT_THAT(full.text, HasSubstr("could not be written"));
+
+    // A reader that has seen enough ends the program neither with a message nor with a signal.
+    const Outcome reader =
+        shell("{ velkor dictionary show IFC4 --declarations; echo $? >&3; } 3>&1 2>&3 | head -1 >/dev/null");
+    EXPECT_EQ(reader.text, "0\n");
+}

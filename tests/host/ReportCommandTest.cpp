@@ -1,0 +1,168 @@
+#include "CommandContext.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+namespace velkor::host {
+
+using nlohmann::json;
+using testing::AllOf;
+using testing::ContainsRegex;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+namespace {
+
+struct Outcome {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+Outcome report(const std::string& path, bool color = false, const std::string& format = "text") {
+    std::ostringstream out, err;
+    CommandContext context{out, err, false, color};
+    const int status = run({"report", path, "--format", format}, context);
+    return {status, out.str(), err.str()};
+}
+
+json reportJson(const std::string& path) {
+    const Outcome outcome = report(path, false, "json");
+    EXPECT_EQ(outcome.status, Done) << outcome.err;
+    return json::parse(outcome.out);
+}
+
+std::string example(const std::string& name) {
+    return VELKOR_SOURCE_DIR "/examples/models/" + name;
+}
+
+// A file of its own that goes with the object.
+class TemporaryModel {
+public:
+    TemporaryModel(const std::string& schema, const std::string& data,
+                   const std::string& description = "ViewDefinition [CoordinationView]",
+                   const std::string& name = "sample") {
+        _path = testing::TempDir() + "velkor report " + std::to_string(++_count) + ".ifc";
+        std::ofstream(_path, std::ios::binary)
+            << "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION(('" << description << "'),'2;1');\nFILE_NAME('" << name
+            << "','2024-05-06T07:08:09',('Ada','Grace'),(''),'pre 1.0','writer 2.0','');\nFILE_SCHEMA(('" << schema
+            << "'));\nENDSEC;\nDATA;\n"
+            << data << "ENDSEC;\nEND-ISO-10303-21;\n";
+    }
+    ~TemporaryModel() { std::filesystem::remove(_path); }
+    const std::string& path() const { return _path; }
+
+private:
+    static inline int _count = 0;
+    std::string _path;
+};
+
+constexpr const char* smallData = "#1=IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.);\n"
+                                  "#2=IFCSIUNIT(*,.PLANEANGLEUNIT.,$,.RADIAN.);\n"
+                                  "#3=IFCUNITASSIGNMENT((#1,#2));\n"
+                                  "#4=IFCPROJECT('0$WU4A9R19$vKWO$AdOnKA',$,'Small',$,$,'A small thing',$,$,#3);\n"
+                                  "#5=IFCWALL('1$WU4A9R19$vKWO$AdOnKA',$,$,$,$,$,$,$,$);\n"
+                                  "#6=IFCWALLSTANDARDCASE('2$WU4A9R19$vKWO$AdOnKA',$,$,$,$,$,$,$,$);\n"
+                                  "#7=IFCOPENINGELEMENT('3$WU4A9R19$vKWO$AdOnKA',$,$,$,$,$,$,$,$);\n";
+
+} // namespace
+
+TEST(ReportCommand, TellsWhatAModelIs) {
+    const TemporaryModel model("IFC4", smallData);
+    const json answer = reportJson(model.path());
+    EXPECT_EQ(answer["file"]["path"], model.path());
+    EXPECT_EQ(answer["file"]["bytes"], std::filesystem::file_size(model.path()));
+    EXPECT_EQ(answer["release"], json({{"dictionary", "IFC4"}, {"fileSchema", {"IFC4"}}}));
+    EXPECT_EQ(answer["header"]["author"], json({"Ada", "Grace"}));
+    EXPECT_EQ(answer["header"]["originatingSystem"], "writer 2.0");
+    EXPECT_EQ(answer["header"]["preprocessorVersion"], "pre 1.0");
+    EXPECT_EQ(answer["header"]["modelViews"], json({"CoordinationView"}));
+    EXPECT_EQ(answer["project"]["name"], "Small");
+    EXPECT_EQ(answer["project"]["longName"], "A small thing");
+    EXPECT_EQ(answer["instances"]["total"], 7);
+    // Subtypes count as their supertype; openings are no elements of their own.
+    EXPECT_EQ(answer["contents"], json::parse(R"([{"entity": "IFCELEMENT", "count": 2},
+                                                  {"entity": "IFCOPENINGELEMENT", "count": 1}])"));
+    EXPECT_EQ(answer["problems"]["total"], 0) << answer["problems"];
+
+    const Outcome page = report(model.path());
+    EXPECT_EQ(page.status, Done);
+    EXPECT_THAT(page.err, IsEmpty());
+    EXPECT_THAT(page.out, AllOf(HasSubstr("IFC4 model, 7 instances, no problems found"), HasSubstr("Ada, Grace"),
+                                ContainsRegex("Organization +not stated"), HasSubstr("2 elements, 1 opening"),
+                                ContainsRegex("IFCSIUNIT +2 +28.6 %"), HasSubstr("1 model unit")));
+    EXPECT_THAT(page.out, Not(HasSubstr("\033"))) << "no colours without a terminal";
+    EXPECT_THAT(report(model.path(), true).out, HasSubstr("\033[1m"));
+}
+
+TEST(ReportCommand, FindingsAreAPartOfThePage) {
+    const TemporaryModel model("IFC4X3", "#1=IFCWALL('1$WU4A9R19$vKWO$AdOnKA',$,$,$,$,#99,$,$,$);\n"
+                                         "#2=IFCFOO(1);\n#3=IFCFOO(2);\n");
+    const json answer = reportJson(model.path());
+    EXPECT_EQ(answer["release"], json({{"dictionary", "IFC4X3_ADD2"}, {"fileSchema", {"IFC4X3"}}}));
+    EXPECT_EQ(answer["project"], nullptr);
+    EXPECT_EQ(answer["instances"]["keywords"][0], json({{"keyword", "IFCFOO"}, {"known", false}, {"count", 2}}));
+
+    std::uint64_t counted = 0;
+    bool sawUnknownEntity = false;
+    for (const json& kind : answer["problems"]["kinds"]) {
+        counted += kind["count"].get<std::uint64_t>();
+        sawUnknownEntity |= kind["count"] == 2 && kind["first"]["instance"] == 2 && kind["first"]["line"] == 9;
+    }
+    EXPECT_EQ(counted, answer["problems"]["total"]);
+    EXPECT_GE(counted, 3u);
+    EXPECT_TRUE(sawUnknownEntity) << answer["problems"];
+
+    const Outcome page = report(model.path());
+    EXPECT_EQ(page.status, Done);
+    EXPECT_THAT(page.out, AllOf(HasSubstr("IFC4X3_ADD2, read from FILE_SCHEMA \"IFC4X3\""),
+                                HasSubstr("none in the file"), HasSubstr("IFCFOO (unknown)"), HasSubstr("line 9, #2"),
+                                // The path holds blanks.
+                                HasSubstr("velkor check '" + model.path() + "'")));
+}
+
+TEST(ReportCommand, AHostileFileDoesNotDisturbThePage) {
+    const TemporaryModel model(
+        "IFC2X3", "#1=IFCPROJECT('0$WU4A9R19$vKWO$AdOnKA',$,'\\X\\1B[2Jred\\X2\\202E\\X0\\',$,$,$,$,$,$);\n",
+        "ViewDefinition [unfinished", std::string(100'000, 'x'));
+    const Outcome page = report(model.path(), true);
+    EXPECT_EQ(page.status, Done);
+    EXPECT_THAT(page.out, AllOf(Not(HasSubstr("\033[2J")), Not(HasSubstr("\u202E")), HasSubstr("\uFFFD[2Jred\uFFFD")));
+    std::istringstream lines(page.out);
+    for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), 300u) << line.substr(0, 80);
+}
+
+TEST(ReportCommand, ExamplesHaveTheirUnitsAndNoProblems) {
+    struct Expectation {
+        const char* file;
+        const char* release;
+        double lengthFactor;
+    };
+    for (const auto& [file, release, lengthFactor] :
+         {Expectation{"house-ifc2x3.ifc", "IFC2X3", 1.0}, Expectation{"pump-room-ifc4.ifc", "IFC4", 1.0},
+          Expectation{"road-ifc4x3.ifc", "IFC4X3_ADD2", 1000.0}}) {
+        const json answer = reportJson(example(file));
+        EXPECT_EQ(answer["release"]["dictionary"], release);
+        EXPECT_EQ(answer["problems"]["total"], 0) << file << answer["problems"].dump(2);
+        EXPECT_GT(answer["instances"]["total"], 10);
+    }
+}
+
+TEST(ReportCommand, WhatIsNoModelIsUnreadable) {
+    const Outcome missing = report(example("missing.ifc"));
+    EXPECT_EQ(missing.status, Unreadable);
+    EXPECT_THAT(missing.out, IsEmpty());
+    EXPECT_THAT(missing.err, AllOf(HasSubstr("missing.ifc"), Not(HasSubstr("\n\n"))));
+
+    const TemporaryModel unknown("IFC9", "");
+    const Outcome outcome = report(unknown.path());
+    EXPECT_EQ(outcome.status, Unreadable);
+    EXPECT_THAT(outcome.err, AllOf(HasSubstr("IFC9"), HasSubstr("IFC2X3")));
+}
+
+} // namespace velkor::host
