@@ -43,10 +43,10 @@ protected:
 
 TEST_F(DictionaryCommand, ListsWhatEachReleaseCarries) {
     const auto row = [](const json& s) {
-        return std::vector<int>{s["declarations"],    s["statements"],         s["entities"],
-                                s["definedTypes"],    s["enumerations"],       s["selects"],
-                                s["aggregates"],      s["explicitAttributes"], s["derivedAttributes"],
-                                s["uniquenessRules"], s["entitiesStatements"]};
+        return std::vector<int>{s["declarations"],     s["statements"],          s["entities"],
+                                s["defined_types"],    s["enumerations"],        s["selects"],
+                                s["aggregates"],       s["explicit_attributes"], s["derived_attributes"],
+                                s["uniqueness_rules"], s["entities_statements"]};
     };
     const std::map<std::string, std::vector<int>> expected{
         {"IFC2X3", {2674, 3080, 656, 328, 164, 47, 134, 1322, 5, 17, 7}},
@@ -130,9 +130,9 @@ TEST_F(DictionaryCommand, ComparesReleases) {
     };
     const json root = changed(diff["entities"]["changed"], "IFCROOT");
     const json history{{"name", "OWNERHISTORY"}, {"before", "IFCOWNERHISTORY"}, {"after", "OPTIONAL IFCOWNERHISTORY"}};
-    EXPECT_THAT(root["changedAttributes"], ElementsAre(history));
+    EXPECT_THAT(root["changed_attributes"], ElementsAre(history));
     const json wall = changed(diff["entities"]["changed"], "IFCWALL");
-    EXPECT_EQ(wall["addedAttributes"][0]["name"], "PREDEFINEDTYPE");
+    EXPECT_EQ(wall["added_attributes"][0]["name"], "PREDEFINEDTYPE");
     const json label = changed(diff["types"]["changed"], "IFCLABEL");
     EXPECT_EQ(label["definition"][0]["after"], "STRING(255)");
 

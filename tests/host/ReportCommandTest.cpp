@@ -77,13 +77,13 @@ TEST(ReportCommand, TellsWhatAModelIs) {
     const json answer = reportJson(model.path());
     EXPECT_EQ(answer["file"]["path"], model.path());
     EXPECT_EQ(answer["file"]["bytes"], std::filesystem::file_size(model.path()));
-    EXPECT_EQ(answer["release"], json({{"dictionary", "IFC4"}, {"fileSchema", {"IFC4"}}}));
+    EXPECT_EQ(answer["release"], json({{"dictionary", "IFC4"}, {"file_schema", {"IFC4"}}}));
     EXPECT_EQ(answer["header"]["author"], json({"Ada", "Grace"}));
-    EXPECT_EQ(answer["header"]["originatingSystem"], "writer 2.0");
-    EXPECT_EQ(answer["header"]["preprocessorVersion"], "pre 1.0");
-    EXPECT_EQ(answer["header"]["modelViews"], json({"CoordinationView"}));
+    EXPECT_EQ(answer["header"]["originating_system"], "writer 2.0");
+    EXPECT_EQ(answer["header"]["preprocessor_version"], "pre 1.0");
+    EXPECT_EQ(answer["header"]["model_views"], json({"CoordinationView"}));
     EXPECT_EQ(answer["project"]["name"], "Small");
-    EXPECT_EQ(answer["project"]["longName"], "A small thing");
+    EXPECT_EQ(answer["project"]["long_name"], "A small thing");
     EXPECT_EQ(answer["instances"]["total"], 7);
     // Subtypes count as their supertype; openings are no elements of their own.
     EXPECT_EQ(answer["contents"], json::parse(R"([{"entity": "IFCELEMENT", "count": 2},
@@ -104,7 +104,7 @@ TEST(ReportCommand, FindingsAreAPartOfThePage) {
     const TemporaryModel model("IFC4X3", "#1=IFCWALL('1$WU4A9R19$vKWO$AdOnKA',$,$,$,$,#99,$,$,$);\n"
                                          "#2=IFCFOO(1);\n#3=IFCFOO(2);\n");
     const json answer = reportJson(model.path());
-    EXPECT_EQ(answer["release"], json({{"dictionary", "IFC4X3_ADD2"}, {"fileSchema", {"IFC4X3"}}}));
+    EXPECT_EQ(answer["release"], json({{"dictionary", "IFC4X3_ADD2"}, {"file_schema", {"IFC4X3"}}}));
     EXPECT_EQ(answer["project"], nullptr);
     EXPECT_EQ(answer["instances"]["keywords"][0], json({{"keyword", "IFCFOO"}, {"known", false}, {"count", 2}}));
 

@@ -1,6 +1,7 @@
 #include "QORIFCUnitServices.h"
 
 #include "sdai/DXSdaiAppInstance.h"
+#include "text/Unicode.h"
 #include "UnitEvaluation.h"
 #include "UnitPositions.h"
 

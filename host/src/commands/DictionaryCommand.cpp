@@ -59,14 +59,14 @@ constexpr std::array<CountColumn, 11> countColumns{{
     {"declarations", "declarations", &SchemaCounts::declarations},
     {"statements", "statements", &SchemaCounts::statements},
     {"entities", "entities", &SchemaCounts::entities},
-    {"defined types", "definedTypes", &SchemaCounts::definedTypes},
+    {"defined types", "defined_types", &SchemaCounts::definedTypes},
     {"enumerations", "enumerations", &SchemaCounts::enumerationTypes},
     {"selects", "selects", &SchemaCounts::selectTypes},
     {"aggregates", "aggregates", &SchemaCounts::aggregateTypes},
-    {"explicit", "explicitAttributes", &SchemaCounts::explicitAttributes},
-    {"derived", "derivedAttributes", &SchemaCounts::derivedAttributes},
-    {"uniqueness", "uniquenessRules", &SchemaCounts::uniquenessRules},
-    {"Entities statements", "entitiesStatements", &SchemaCounts::entitiesStatements},
+    {"explicit", "explicit_attributes", &SchemaCounts::explicitAttributes},
+    {"derived", "derived_attributes", &SchemaCounts::derivedAttributes},
+    {"uniqueness", "uniqueness_rules", &SchemaCounts::uniquenessRules},
+    {"Entities statements", "entities_statements", &SchemaCounts::entitiesStatements},
 }};
 
 void runList(CommandContext& context) {
@@ -142,8 +142,8 @@ Json entityJson(const EntityDefinition& entity) {
             {"supertypes", supertypes(entity)},
             {"subtypes", subtypes(entity)},
             {"attributes", std::move(attributes)},
-            {"derivedAttributes", std::move(derived)},
-            {"uniquenessRules", std::move(rules)}};
+            {"derived_attributes", std::move(derived)},
+            {"uniqueness_rules", std::move(rules)}};
 }
 
 void writeEntity(std::ostream& out, const EntityDefinition& entity) {
@@ -218,9 +218,9 @@ Json diffJson(const SchemaDefinition& before, const SchemaDefinition& after, con
     for (const auto& entity : diff.changedEntities) {
         entities.push_back({{"name", entity.name},
                             {"properties", changesJson(entity.properties)},
-                            {"addedAttributes", itemsJson(entity.addedAttributes)},
-                            {"removedAttributes", itemsJson(entity.removedAttributes)},
-                            {"changedAttributes", changesJson(entity.changedAttributes)},
+                            {"added_attributes", itemsJson(entity.addedAttributes)},
+                            {"removed_attributes", itemsJson(entity.removedAttributes)},
+                            {"changed_attributes", changesJson(entity.changedAttributes)},
                             {"reordered", entity.reordered}});
     }
     for (const auto& type : diff.changedTypes) {

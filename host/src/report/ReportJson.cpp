@@ -7,15 +7,15 @@ namespace {
 Json headerJson(const ModelFacts& facts) {
     const sdai::FileHeader& header = facts.header;
     return {{"name", header.name},
-            {"timeStamp", header.timeStamp},
+            {"time_stamp", header.timeStamp},
             {"author", header.author},
             {"organization", header.organization},
-            {"originatingSystem", header.originatingSystem},
-            {"preprocessorVersion", header.preprocessorVersion},
+            {"originating_system", header.originatingSystem},
+            {"preprocessor_version", header.preprocessorVersion},
             {"authorization", header.authorization},
-            {"implementationLevel", header.implementationLevel},
+            {"implementation_level", header.implementationLevel},
             {"description", header.description},
-            {"modelViews", facts.views}};
+            {"model_views", facts.views}};
 }
 
 Json projectJson(const ModelFacts& facts) {
@@ -23,7 +23,7 @@ Json projectJson(const ModelFacts& facts) {
     const ProjectFacts& project = *facts.project;
     return {{"instance", project.id},
             {"name", project.name},
-            {"longName", project.longName},
+            {"long_name", project.longName},
             {"description", project.description},
             {"phase", project.phase}};
 }
@@ -73,10 +73,10 @@ Json problemsJson(const ProblemSummary& summary) {
 Json reportJson(const Report& report) {
     const ModelFacts& facts = report.facts;
     return {{"file", {{"path", facts.path}, {"bytes", facts.bytes}}},
-            {"release", {{"dictionary", facts.release}, {"fileSchema", facts.fileSchemas}}},
+            {"release", {{"dictionary", facts.release}, {"file_schema", facts.fileSchemas}}},
             {"header", headerJson(facts)},
             {"project", projectJson(facts)},
-            {"projectCount", facts.projectCount},
+            {"project_count", facts.projectCount},
             {"contents", contentsJson(facts)},
             {"instances", instancesJson(facts)},
             {"units", unitReportJson(report.units)},

@@ -1,0 +1,100 @@
+// velkor check
+
+#include "CommandContext.h"
+#include "DisplayText.h"
+#include "Json.h"
+#include "ModelCheck.h"
+#include "report/ProblemSummary.h"
+
+#include <ostream>
+
+namespace velkor::host {
+
+namespace {
+
+constexpr std::size_t defaultLimit = 100'000;
+
+struct Options {
+    std::string path;
+    bool syntaxOnly = false;
+    std::size_t limit = defaultLimit;
+};
+
+const char* name(sdai::Severity severity) {
+    return severity == sdai::Severity::Error ? "error" : "warning";
+}
+
+// As compilers write it, so that editors jump to the place.
+void writeProblem(std::ostream& out, const std::string& file, const sdai::Problem& problem) {
+    out << file << ':' << problem.line << ": " << name(problem.severity) << ": ";
+    if (problem.instance != 0) out << '#' << problem.instance << ": ";
+    out << printable(problem.message) << " [" << problem.code << "]\n";
+}
+
+void writeText(CommandContext& context, const std::string& file, const CheckResult& result) {
+    const std::string shown = printable(file);
+    for (const sdai::Problem& problem : result.problems) writeProblem(context.out, shown, problem);
+    if (result.total == 0) {
+        context.out << shown << ": no problems found\n";
+        return;
+    }
+    const ProblemSummary summary = summarized(result.problems, result.total);
+    context.out << shown << ": " << counted(summary.errors, "error", "errors") << ", "
+                << counted(summary.warnings, "warning", "warnings");
+    if (summary.total > summary.listed()) {
+        context.out << " among the first " << grouped(summary.listed()) << " of " << grouped(summary.total)
+                    << " problems (--limit shows more)";
+    }
+    context.out << '\n';
+}
+
+Json problemJson(const sdai::Problem& problem) {
+    return {{"severity", name(problem.severity)},
+            {"line", problem.line},
+            {"offset", problem.offset},
+            {"instance", problem.instance == 0 ? Json() : Json(problem.instance)},
+            {"code", problem.code},
+            {"message", problem.message}};
+}
+
+void finish(CommandContext& context, const std::string& file, const std::string& release, const CheckResult& result) {
+    context.status = result.total == 0 ? Done : Findings;
+    if (!context.json()) return writeText(context, file, result);
+    Json problems = Json::array();
+    for (const sdai::Problem& problem : result.problems) problems.push_back(problemJson(problem));
+    writeJson(context.out, {{"file", file},
+                            {"release", release.empty() ? Json() : Json(release)},
+                            {"total", result.total},
+                            {"problems", std::move(problems)}});
+}
+
+void runCheck(CommandContext& context, const Options& options) {
+    if (!options.syntaxOnly) {
+        const auto model = context.openModel(options.path);
+        if (!model) return;
+        return finish(context, model->file().name(), std::string(model->schema().name()),
+                      checkModel(context, *model, options.limit));
+    }
+    const auto file = sdai::Part21File::open(options.path);
+    if (!file) {
+        context.err << "velkor: " << file.error() << '\n';
+        context.status = Unreadable;
+        return;
+    }
+    finish(context, (*file)->name(), {}, checkStructure(context, **file, options.limit));
+}
+
+} // namespace
+
+void addCheckCommand(CLI::App& app, CommandContext& context) {
+    CLI::App* command = app.add_subcommand("check", "Every problem of a model, with its place and what was expected");
+    const auto options = std::make_shared<Options>();
+    command->add_option("MODEL", options->path, "IFC file")->required();
+    command->add_flag("--syntax", options->syntaxOnly, "Judge the exchange structure (ISO 10303-21) alone");
+    command->add_option("--limit", options->limit, "List at most N problems; 100000 unless told")->option_text("N");
+    context.addFormatOption(*command);
+    command->footer("Example:\n  velkor check house.ifc\n\nExit status 1 when there are problems.");
+    command->callback([&context, options] { runCheck(context, *options); });
+}
+
+} // namespace velkor::host

@@ -1,0 +1,38 @@
+// velkor report
+
+#include "CommandContext.h"
+#include "ModelCheck.h"
+#include "report/Report.h"
+#include "sdai/Model.h"
+
+namespace velkor::host {
+
+namespace {
+
+// Enough for a summary by kind.
+constexpr std::size_t mostProblems = 10'000;
+
+void runReport(CommandContext& context, const std::string& path) {
+    const auto model = context.openModel(path);
+    if (!model) return;
+    Report report{modelFacts(*model), unitReport(*model), {}};
+    const CheckResult check = checkModel(context, *model, mostProblems);
+    report.problems = summarized(check.problems, check.total);
+    if (context.json())
+        writeJson(context.out, reportJson(report));
+    else
+        writeReportPage(context.out, context.color, report);
+}
+
+} // namespace
+
+void addReportCommand(CLI::App& app, CommandContext& context) {
+    CLI::App* command = app.add_subcommand("report", "One page about a model");
+    const auto path = std::make_shared<std::string>();
+    command->add_option("MODEL", *path, "IFC file")->required();
+    context.addFormatOption(*command);
+    command->footer("Example:\n  velkor report house.ifc\n\nProblems of the model do not change the exit status.");
+    command->callback([&context, path] { runReport(context, *path); });
+}
+
+} // namespace velkor::host

@@ -1,0 +1,67 @@
+// velkor units
+
+#include "CommandContext.h"
+#include "DisplayText.h"
+#include "Json.h"
+#include "sdai/Model.h"
+#include "TextTable.h"
+#include "UnitReport.h"
+
+#include <ostream>
+
+namespace velkor::host {
+
+namespace {
+
+void writeText(std::ostream& out, const sdai::Model& model, const UnitReport& report) {
+    out << printable(model.file().name()) << ", " << model.schema().name() << '\n';
+    if (report.assignment)
+        out << "\nUnits of #" << *report.assignment << '\n';
+    else
+        out << "\nThe model assigns no units; the unit services take SI units.\n";
+    TextTable units({{"instance", TextTable::Right},
+                     {"entity"},
+                     {"unit type"},
+                     {"name"},
+                     {"slot", TextTable::Right},
+                     {"SI factor"}});
+    for (const UnitReport::Unit& unit : report.units) {
+        units.add({"#" + std::to_string(unit.id), unit.entity, unit.type, printable(unit.name),
+                   unit.slot ? std::to_string(*unit.slot) : "-", shortest(unit.factor)});
+    }
+    if (!units.empty()) units.write(out, "  ");
+
+    out << "\nGeometry\n  1 length unit = " << shortest(report.lengthFactor)
+        << " mm\n  1 plane angle unit = " << shortest(report.angleFactor) << " rad\n";
+    if (!report.lengthUnitName.empty()) {
+        out << "  document length unit: " << printable(report.lengthUnitName) << ", factor "
+            << shortest(report.lengthUnitFactor) << '\n';
+    }
+    out << "\nFactor to SI by measure type\n";
+    TextTable measures({{"measure type"}, {"factor"}});
+    for (const auto& [name, factor] : report.measures) measures.add({name, shortest(factor)});
+    measures.write(out, "  ");
+}
+
+void runUnits(CommandContext& context, const std::string& path) {
+    const auto model = context.openModel(path);
+    if (!model) return;
+    const UnitReport report = unitReport(*model);
+    if (!context.json()) return writeText(context.out, *model, report);
+    Json json{{"file", model->file().name()}, {"release", model->schema().name()}};
+    json.update(unitReportJson(report));
+    writeJson(context.out, json);
+}
+
+} // namespace
+
+void addUnitsCommand(CLI::App& app, CommandContext& context) {
+    CLI::App* command = app.add_subcommand("units", "Units of a model and what they are worth in SI units");
+    const auto path = std::make_shared<std::string>();
+    command->add_option("MODEL", *path, "IFC file")->required();
+    context.addFormatOption(*command);
+    command->footer("Example:\n  velkor units house.ifc --format json");
+    command->callback([&context, path] { runUnits(context, *path); });
+}
+
+} // namespace velkor::host
