@@ -6,7 +6,7 @@ cd "$root"
 
 # To build and run.
 build_packages=(g++ cmake ninja-build libutf8proc-dev libxxhash-dev libexpected-dev libcli11-dev
-  nlohmann-json3-dev libssl-dev)
+  nlohmann-json3-dev libssl-dev pkg-config)
 # To test as well.
 test_packages=(libgtest-dev libgmock-dev clang-format binutils git)
 # For the slow extras: second compiler, fuzzing, linting, benchmarks, memory checks.
