@@ -22,8 +22,12 @@ void loadAndUnload(benchmark::State& state, const std::string& library) {
     }
 }
 
-void loadVelkor(benchmark::State& state) { loadAndUnload(state, VELKOR_LIB_DIR "/libvelkor.so"); }
-void loadEmptyLibrary(benchmark::State& state) { loadAndUnload(state, VELKOR_LIB_DIR "/libbench_empty.so"); }
+void loadVelkor(benchmark::State& state) {
+    loadAndUnload(state, VELKOR_LIB_DIR "/libvelkor.so");
+}
+void loadEmptyLibrary(benchmark::State& state) {
+    loadAndUnload(state, VELKOR_LIB_DIR "/libbench_empty.so");
+}
 
 } // namespace
 

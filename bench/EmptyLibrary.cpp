@@ -1,2 +1,4 @@
 // A library that does nothing, to weigh the loading of one that does.
-extern "C" int benchEmptyLibrary() { return 0; }
+extern "C" int benchEmptyLibrary() {
+    return 0;
+}

@@ -80,6 +80,6 @@ TEST(Program, ResultsThatCannotBeWrittenAreNoSuccess) {
 
     // A reader that has seen enough ends the program neither with a message nor with a signal.
     const Outcome reader =
-        shell("{ velkor dictionary show IFC4 --declarations; echo $? >&3; } 3>&1 2>&3 | head -1 >/dev/null");
+        shell("{ { velkor dictionary show IFC4 --declarations; echo $? >&3; } 2>&3 | head -1 >/dev/null; } 3>&1");
     EXPECT_EQ(reader.text, "0\n");
 }
