@@ -323,7 +323,7 @@ const char* StructureReader::takeSectionKeyword(std::string_view word, const cha
     if (is("ENDSEC") && _section != Section::None) {
         endSection(at);
     } else if (is("END-ISO-10303-21")) {
-        endStructure(to);
+        endStructure(at, to);
     } else if (is("HEADER") && !_sawHeader) {
         beginSection(Section::Header, at);
     } else if (is("DATA")) {
@@ -392,21 +392,19 @@ void StructureReader::skipSection(std::string_view word, const char* from) {
     _moved = true;
 }
 
-void StructureReader::endStructure(const char* behind) {
-    const char* from = behind == _end ? _end : behind + 1;
+void StructureReader::endStructure(const char* at, const char* behind) {
     if (_section != Section::None) {
-        error(behind, "endsec-missing", "expected \"ENDSEC;\" before \"END-ISO-10303-21;\"");
-        endSection(behind);
+        error(at, "endsec-missing", "expected \"ENDSEC;\" before \"END-ISO-10303-21;\"");
+        endSection(at);
     }
     _ended = true;
-    const char* at = content(from, _end);
-    if (at == _end) return;
-    const std::string_view word = wordAt(at, _end);
-    if (startsWithWord(word, "SIGNATURE")) {
-        report(Severity::Warning, at, "section-skipped", "the section SIGNATURE belongs to edition 3 and is skipped");
+    const char* next = content(behind == _end ? _end : behind + 1, _end);
+    if (next == _end) return;
+    if (startsWithWord(wordAt(next, _end), "SIGNATURE")) {
+        report(Severity::Warning, next, "section-skipped", "the section SIGNATURE belongs to edition 3 and is skipped");
     } else {
-        error(at, "text-behind-end",
-              "expected the end of the text behind \"END-ISO-10303-21;\", found " + excerpt(at, _end));
+        error(next, "text-behind-end",
+              "expected the end of the text behind \"END-ISO-10303-21;\", found " + excerpt(next, _end));
     }
 }
 

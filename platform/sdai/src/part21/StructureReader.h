@@ -65,7 +65,7 @@ private:
     void beginSection(Section section, const char* at);
     void endSection(const char* at);
     void skipSection(std::string_view word, const char* from);
-    void endStructure(const char* behind);
+    void endStructure(const char* at, const char* behind);
 
     const char* content(const char* at, const char* end) const noexcept;
     std::uint64_t offset(const char* at) const noexcept { return static_cast<std::uint64_t>(at - _begin); }

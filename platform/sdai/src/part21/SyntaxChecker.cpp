@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace velkor::sdai {
 
@@ -31,6 +32,9 @@ constexpr std::array<HeaderEntity, 3> headerEntities{{
     {"FILE_NAME", "ssLLsss"},
     {"FILE_SCHEMA", "L"},
 }};
+/// Those that may follow; what a writer adds of its own begins with "!".
+constexpr std::array<std::string_view, 3> furtherHeaderEntities{"FILE_POPULATION", "SECTION_LANGUAGE",
+                                                                "SECTION_CONTEXT"};
 constexpr char stringParameter = 's';
 constexpr char listOfStrings = 'L';
 constexpr char otherParameter = '-';
@@ -145,17 +149,17 @@ void SyntaxChecker::skipStatement() {
 
 bool SyntaxChecker::checkInstance(const Token& name) {
     const std::string_view digits = name.text.substr(1);
-    std::uint64_t id = 0;
-    for (const char c : digits) id = id * 10 + static_cast<unsigned>(c - '0');
-    _instance = id;
+    _instance = decodeInstanceName(name.text);
     if (_place != Place::Data) {
         error(name.text.data(), "data-missing", "expected \"DATA;\" before the first instance");
         leaveHeader(name);
         _place = Place::Data;
-        ++_dataSections;
     }
     if (digits.find_first_not_of('0') == std::string_view::npos) {
         error(name.text.data(), "instance-name-zero", "expected an instance name above 0");
+    } else if (_instance == 0) {
+        error(name.text.data(), "instance-name-too-large",
+              "expected an instance name of at most 64 bits, found " + quoted(name.text));
     }
     if (!expect(TokenKind::Equals, "\"=\" behind the instance name")) return false;
     const Token token = next();
@@ -201,7 +205,7 @@ bool SyntaxChecker::checkSectionEnd(const Token& word) {
         error(word.text.data(), "endsec-missing", "expected \"ENDSEC;\" before \"END-ISO-10303-21;\"");
     }
     leaveHeader(word);
-    if (!section && _dataSections == 0) {
+    if (!section && _dataSections == 0 && _file.instanceCount() == 0) {
         error(word.text.data(), "data-missing", "expected at least one DATA section");
     }
     _place = section ? Place::BetweenSections : Place::End;
@@ -223,6 +227,10 @@ bool SyntaxChecker::checkHeaderEntity(const Token& keyword) {
               "expected " + std::string(headerEntities[_headerEntities].keyword) + ", found " + describe(keyword));
     } else if (_headerEntities >= headerEntities.size() && position < headerEntities.size()) {
         error(keyword.text.data(), "header-entity-repeated", "expected " + std::string(keyword.text) + " once");
+    } else if (position == headerEntities.size() && keyword.text[0] != '!' &&
+               std::ranges::find(furtherHeaderEntities, keyword.text) == furtherHeaderEntities.end()) {
+        error(keyword.text.data(), "header-entity-unknown",
+              "expected an entity of the header section or one that begins with \"!\", found " + describe(keyword));
     }
     if (position < headerEntities.size()) _headerEntities = std::max(_headerEntities, position + 1);
     if (!checkRecord(keyword)) return false;
@@ -238,15 +246,17 @@ bool SyntaxChecker::checkData(const Token& keyword) {
     }
     leaveHeader(keyword);
     _place = Place::Data;
-    ++_dataSections;
-    if (_lexer.peek().kind != TokenKind::Open) {
-        if (_dataSections > 1 && !_unnamedData) {
-            error(keyword.text.data(), "data-parameters-missing",
-                  "expected a name and a schema, as there are several DATA sections");
-        }
-        _unnamedData = true;
-        return true;
+    const bool isNamed = _lexer.peek().kind == TokenKind::Open;
+    if (++_dataSections == 1) {
+        _unnamedData = isNamed ? nullptr : keyword.text.data();
+    } else {
+        const auto requireName = [this](const char* at) {
+            error(at, "data-parameters-missing", "expected a name and a schema, as there are several DATA sections");
+        };
+        if (const char* first = std::exchange(_unnamedData, nullptr)) requireName(first);
+        if (!isNamed) requireName(keyword.text.data());
     }
+    if (!isNamed) return true;
     if (!checkRecord(keyword)) return false;
     checkShape(keyword, "sL");
     return true;

@@ -62,6 +62,8 @@ private:
     const char* _pieceEnd = nullptr;
     /// Behind the last token.
     const char* _behind = nullptr;
+    /// The first DATA section, while it is the only one and has no name.
+    const char* _unnamedData = nullptr;
     Token _last;
     std::vector<Level> _levels;
     std::string _shape;
@@ -70,7 +72,6 @@ private:
     Place _place = Place::Start;
     std::size_t _headerEntities = 0;
     std::size_t _dataSections = 0;
-    bool _unnamedData = false;
     bool _stopped = false;
 };
 
