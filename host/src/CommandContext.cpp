@@ -35,11 +35,15 @@ void CommandContext::addFormatOption(CLI::App& command) {
         ->check(CLI::IsMember({"text", "json"}));
 }
 
+void CommandContext::reportUnreadable(const std::string& reason) {
+    err << "velkor: " << reason << '\n';
+    status = Unreadable;
+}
+
 std::unique_ptr<sdai::Model> CommandContext::openModel(const std::string& path) {
     auto model = sdai::Model::open(path);
     if (model) return std::move(*model);
-    err << "velkor: " << model.error() << '\n';
-    status = Unreadable;
+    reportUnreadable(model.error());
     return nullptr;
 }
 

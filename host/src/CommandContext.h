@@ -38,8 +38,10 @@ struct CommandContext {
     /// Adds `--format text|json` to a command.
     void addFormatOption(CLI::App& command);
 
-    /// Opens a model, or writes why it cannot be read to `err`, sets the status Unreadable and
-    /// gives null.
+    /// Writes why input cannot be read to `err` and sets the status Unreadable.
+    void reportUnreadable(const std::string& reason);
+
+    /// Opens a model; null after reporting why it cannot be read.
     std::unique_ptr<sdai::Model> openModel(const std::string& path);
 };
 

@@ -20,6 +20,13 @@ DXSdaiDictionaryRepo::SchemaPointer derivingNeighbour(const sdai::SchemaDefiniti
 
 } // namespace
 
+void CheckResult::add(sdai::Problem problem, std::size_t limit) {
+    ++total;
+    const auto place = std::ranges::upper_bound(problems, problem.offset, {}, &sdai::Problem::offset);
+    problems.insert(place, std::move(problem));
+    if (problems.size() > limit) problems.pop_back();
+}
+
 CheckResult checkStructure(CommandContext& context, const sdai::Part21File& file, std::size_t limit) {
     Progress progress(context, "Checking the exchange structure");
     CheckResult result;

@@ -13,6 +13,9 @@ struct CheckResult {
     /// In file order, bounded by the limit asked for; `total` is the full count.
     std::vector<sdai::Problem> problems;
     std::uint64_t total = 0;
+
+    /// Puts a problem in its place.
+    void add(sdai::Problem problem, std::size_t limit);
 };
 
 /// The exchange structure alone.

@@ -69,19 +69,18 @@ void finish(CommandContext& context, const std::string& file, const std::string&
 }
 
 void runCheck(CommandContext& context, const Options& options) {
-    if (!options.syntaxOnly) {
-        const auto model = context.openModel(options.path);
-        if (!model) return;
-        return finish(context, model->file().name(), std::string(model->schema().name()),
-                      checkModel(context, *model, options.limit));
+    auto file = sdai::Part21File::open(options.path);
+    if (!file) return context.reportUnreadable(file.error());
+    const auto schemaProblem = options.syntaxOnly ? std::nullopt : sdai::Model::schemaProblem(**file);
+    if (options.syntaxOnly || schemaProblem) {
+        CheckResult result = checkStructure(context, **file, options.limit);
+        if (schemaProblem) result.add(*schemaProblem, options.limit);
+        return finish(context, (*file)->name(), {}, result);
     }
-    const auto file = sdai::Part21File::open(options.path);
-    if (!file) {
-        context.err << "velkor: " << file.error() << '\n';
-        context.status = Unreadable;
-        return;
-    }
-    finish(context, (*file)->name(), {}, checkStructure(context, **file, options.limit));
+    const auto model = sdai::Model::over(std::move(*file));
+    if (!model) return context.reportUnreadable(model.error());
+    finish(context, (*model)->file().name(), std::string((*model)->schema().name()),
+           checkModel(context, **model, options.limit));
 }
 
 } // namespace

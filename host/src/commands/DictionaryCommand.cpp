@@ -44,8 +44,7 @@ SchemaPointer chooseSchema(CommandContext& context, const std::string& release) 
     }
     auto schema = repository.schema(name);
     if (schema) return *schema;
-    context.err << "velkor: " << schema.error() << '\n';
-    context.status = Unreadable;
+    context.reportUnreadable(schema.error());
     return nullptr;
 }
 

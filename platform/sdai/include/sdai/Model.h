@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <tl/expected.hpp>
@@ -27,6 +28,11 @@ public:
     static tl::expected<std::unique_ptr<Model>, std::string> open(const std::string& path);
     /// The same over text that the caller keeps alive; `name` stands for the file in messages.
     static tl::expected<std::unique_ptr<Model>, std::string> fromText(std::string_view text, std::string name);
+    /// The same over a file that is open already.
+    static tl::expected<std::unique_ptr<Model>, std::string> over(std::unique_ptr<Part21File> file);
+    /// Why no model can be made over a file: it names no schema that the repository has. Nothing when it
+    /// names one.
+    static std::optional<Problem> schemaProblem(const Part21File& file);
     ~Model();
     Model(const Model&) = delete;
     Model& operator=(const Model&) = delete;
@@ -64,8 +70,6 @@ private:
     using Page = std::unique_ptr<DXSdaiAppInstance[]>;
 
     Model(std::unique_ptr<Part21File> file, DXSdaiDictionaryRepo::SchemaPointer schema);
-    static tl::expected<std::unique_ptr<Model>, std::string>
-    overFile(tl::expected<std::unique_ptr<Part21File>, std::string> file);
     Page makePage(std::uint32_t first) const;
 
     std::unique_ptr<Part21File> _file;

@@ -50,10 +50,10 @@ public:
     /// Maps and indexes a file. The error is one line that names the file and says why it
     /// cannot be read as an exchange structure at all.
     static tl::expected<std::unique_ptr<Part21File>, std::string> open(const std::string& path,
-                                                                       ScanPath path_ = ScanPath::Automatic);
+                                                                       ScanPath scanPath = ScanPath::Automatic);
     /// The same over text that the caller keeps alive; `name` stands for the file in messages.
     static tl::expected<std::unique_ptr<Part21File>, std::string> fromText(std::string_view text, std::string name,
-                                                                           ScanPath path_ = ScanPath::Automatic);
+                                                                           ScanPath scanPath = ScanPath::Automatic);
     virtual ~Part21File();
 
     const std::string& name() const noexcept;

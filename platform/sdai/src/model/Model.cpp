@@ -14,11 +14,22 @@ std::string joined(const std::vector<std::string>& names, std::string_view separ
     return result;
 }
 
-/// The line of FILE_SCHEMA, for a message about it.
-std::string placeOfSchema(const Part21File& file) {
-    const std::uint64_t headerEnd = file.instanceCount() > 0 ? file.offset(0) : file.text().size();
-    const auto found = file.text().substr(0, headerEnd).find("FILE_SCHEMA");
-    return found == std::string_view::npos ? file.name() : file.name() + ":" + std::to_string(file.line(found));
+/// The schemas that a file names, in its header and for single sections.
+std::vector<std::string> schemaNames(const Part21File& file) {
+    std::vector<std::string> names = file.header().schemas;
+    for (const Part21File::DataSection& section : file.dataSections()) {
+        names.insert(names.end(), section.schemas.begin(), section.schemas.end());
+    }
+    return names;
+}
+
+/// The first registered schema that one of the names stands for; empty when none does.
+std::string registeredSchema(const std::vector<std::string>& names) {
+    for (const std::string& name : names) {
+        std::string registered = DXSdaiDictionaryRepo::TheOne().match(name);
+        if (!registered.empty()) return registered;
+    }
+    return {};
 }
 
 /// The keyword of an instance that is not complex.
@@ -37,32 +48,35 @@ Model::Model(std::unique_ptr<Part21File> file, DXSdaiDictionaryRepo::SchemaPoint
 Model::~Model() = default;
 
 tl::expected<std::unique_ptr<Model>, std::string> Model::open(const std::string& path) {
-    return overFile(Part21File::open(path));
+    return Part21File::open(path).and_then(over);
 }
 
 tl::expected<std::unique_ptr<Model>, std::string> Model::fromText(std::string_view text, std::string name) {
-    return overFile(Part21File::fromText(text, std::move(name)));
+    return Part21File::fromText(text, std::move(name)).and_then(over);
 }
 
-tl::expected<std::unique_ptr<Model>, std::string>
-Model::overFile(tl::expected<std::unique_ptr<Part21File>, std::string> file) {
-    if (!file) return tl::unexpected(std::move(file.error()));
-    std::vector<std::string> written = (*file)->header().schemas;
-    for (const Part21File::DataSection& section : (*file)->dataSections()) {
-        written.insert(written.end(), section.schemas.begin(), section.schemas.end());
+tl::expected<std::unique_ptr<Model>, std::string> Model::over(std::unique_ptr<Part21File> file) {
+    if (const auto problem = schemaProblem(*file)) {
+        return tl::unexpected(file->name() + ":" + std::to_string(problem->line) + ": " + problem->message);
     }
+    auto schema = DXSdaiDictionaryRepo::TheOne().schema(registeredSchema(schemaNames(*file)));
+    if (!schema) return tl::unexpected(file->name() + ": " + schema.error());
+    return std::unique_ptr<Model>(new Model(std::move(file), std::move(*schema)));
+}
 
-    auto& repository = DXSdaiDictionaryRepo::TheOne();
-    for (const std::string& name : written) {
-        const std::string registered = repository.match(name);
-        if (registered.empty()) continue;
-        auto schema = repository.schema(registered);
-        if (!schema) return tl::unexpected((*file)->name() + ": " + schema.error());
-        return std::unique_ptr<Model>(new Model(std::move(*file), std::move(*schema)));
-    }
-    return tl::unexpected(placeOfSchema(**file) + ": expected a supported schema in FILE_SCHEMA, found " +
-                          (written.empty() ? "none" : '"' + joined(written, "\", \"") + '"') +
-                          "; supported: " + joined(repository.names(), ", "));
+std::optional<Problem> Model::schemaProblem(const Part21File& file) {
+    const std::vector<std::string> written = schemaNames(file);
+    if (!registeredSchema(written).empty()) return std::nullopt;
+    const std::uint64_t headerEnd = file.instanceCount() > 0 ? file.offset(0) : file.text().size();
+    const std::size_t found = file.text().substr(0, headerEnd).find("FILE_SCHEMA");
+    Problem problem;
+    problem.offset = found == std::string_view::npos ? 0 : found;
+    problem.line = file.line(problem.offset);
+    problem.code = "schema-unknown";
+    problem.message = "expected a supported schema in FILE_SCHEMA, found " +
+                      (written.empty() ? "none" : '"' + joined(written, "\", \"") + '"') +
+                      "; supported: " + joined(DXSdaiDictionaryRepo::TheOne().names(), ", ");
+    return problem;
 }
 
 DXSdaiAppInstance* Model::instance(std::uint64_t id) const {

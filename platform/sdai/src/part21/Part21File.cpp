@@ -64,17 +64,17 @@ std::string foreignFormat(std::string_view text) {
 Part21File::Part21File() = default;
 Part21File::~Part21File() = default;
 
-tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::open(const std::string& path, ScanPath path_) {
+tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::open(const std::string& path, ScanPath scanPath) {
     auto file = MappedFile::open(path);
     if (!file) return tl::unexpected(path + ": cannot be read: " + file.error());
     if (file->text().empty()) return tl::unexpected(path + ": is empty, " + std::string(expected));
     const std::string_view text = file->text();
-    return read(std::make_unique<State>(std::move(*file), text, path), path_);
+    return read(std::make_unique<State>(std::move(*file), text, path), scanPath);
 }
 
 tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::fromText(std::string_view text, std::string name,
-                                                                            ScanPath path_) {
-    return read(std::make_unique<State>(MappedFile(), text, std::move(name)), path_);
+                                                                            ScanPath scanPath) {
+    return read(std::make_unique<State>(MappedFile(), text, std::move(name)), scanPath);
 }
 
 tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::read(std::unique_ptr<State> state, ScanPath path) {
