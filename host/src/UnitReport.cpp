@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <unordered_set>
 
 namespace velkor::host {
 
@@ -147,8 +148,11 @@ UnitReport unitReport(const sdai::Model& model) {
     QORIFCUnitServices::StoreGlobalUnits(assignment);
     if (assignment != nullptr) {
         report.assignment = assignment->id();
+        // A set: what a file repeats counts once.
+        std::unordered_set<const DXSdaiAppInstance*> seen;
         for (sdai::AggregateIterator it(assignment->GetAttr("UNITS").asAggregate()); it.next();) {
-            if (auto* unit = it.current().asInstance()) report.units.push_back(describe(*unit));
+            auto* unit = it.current().asInstance();
+            if (unit != nullptr && seen.insert(unit).second) report.units.push_back(describe(*unit));
         }
     }
     report.geometryResult =

@@ -374,7 +374,16 @@ void StructureReader::beginSection(Section section, const char* at) {
     }
     _section = section;
     _sawHeader = true;
-    if (section == Section::Data) _structure.sections.push_back({_structure.index.count(), {}, {}});
+    if (section != Section::Data) return;
+    auto& sections = _structure.sections;
+    const std::uint32_t count = _structure.index.count();
+    // A section that has neither instances nor a name tells nothing; millions of them would fill the memory.
+    if (!sections.empty() && sections.back().firstInstance == count && sections.back().name.empty() &&
+        sections.back().schemas.empty()) {
+        sections.pop_back();
+        _structure.sectionEnds.pop_back();
+    }
+    sections.push_back({count, {}, {}});
 }
 
 void StructureReader::endSection(const char* at) {
