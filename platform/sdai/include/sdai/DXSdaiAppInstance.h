@@ -36,6 +36,7 @@ private:
     DXSdaiAppInstance() = default;
     std::string_view parameter(std::size_t index) const;
     velkor::sdai::Primitive complexAttribute(std::string_view attributeName) const;
+    std::size_t memoryUse() const noexcept;
 
     const velkor::sdai::Model* _model = nullptr;
     const velkor::sdai::EntityDefinition* _entity = nullptr;

@@ -64,6 +64,10 @@ public:
     };
     std::vector<KeywordCount> keywordCounts() const;
 
+    /// Bytes held beside the mapped text: the index, and the instances that were asked for. The dictionary
+    /// is shared by all models of its release and not counted.
+    std::size_t memoryUse() const noexcept;
+
 private:
     // Instances are made a page at a time, so that one costs no allocation of its own.
     static constexpr std::uint32_t pageSize = 64;

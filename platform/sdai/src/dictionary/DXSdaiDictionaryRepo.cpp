@@ -3,9 +3,13 @@
 #include "dictionary/Names.h"
 #include "dictionary/RepositoryState.h"
 #include "dictionary/SchemaName.h"
+#include "objectmodeler/CallRecorder.h"
 
 #include <algorithm>
 #include <utility>
+
+using velkor::objectmodeler::isRecording;
+using velkor::objectmodeler::recordCall;
 
 namespace {
 
@@ -36,6 +40,7 @@ DXSdaiDictionaryRepo& DXSdaiDictionaryRepo::TheOne() {
 }
 
 std::uint64_t DXSdaiDictionaryRepo::AddPtr(Loader loader, const DXSdaiString& name) {
+    if (isRecording()) recordCall("register schema: " + std::string(name.view()));
     State& state = *TheOne()._state;
     const std::lock_guard lock(state.mutex);
     if (loader == nullptr || name.length() == 0 || state.find(name.view())) return 0;
@@ -54,6 +59,7 @@ void DXSdaiDictionaryRepo::withdraw(std::uint64_t handle) {
     if (handle == 0 || found == _state->entries.end()) return;
     // A loader that runs elsewhere still needs the library whose registration this is.
     const State::EntryPointer entry = *found;
+    if (isRecording()) recordCall("withdraw schema: " + entry->name);
     _state->waitForOtherThreads(entry, lock);
     std::erase(_state->entries, entry);
 }

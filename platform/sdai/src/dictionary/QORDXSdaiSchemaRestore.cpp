@@ -4,6 +4,9 @@
 #include "dictionary/RepositoryState.h"
 #include "dictionary/SchemaBuilder.h"
 #include "dictionary/StatementList.h"
+#include "objectmodeler/CallRecorder.h"
+
+#include <string>
 
 namespace velkor::sdai {
 
@@ -20,8 +23,11 @@ restoreSchema(std::span<const char* const> declarations, std::span<const char* c
 
 void QORDXSdaiSchemaRestore::Restore(DXSdaiDictionaryRepo& repo, int declarationCount, const char** declarations,
                                      int statementCount, const char** statements, int format, int level) {
-    (void)format;
-    (void)level;
+    if (velkor::objectmodeler::isRecording()) {
+        velkor::objectmodeler::recordCall("restore: " + std::to_string(declarationCount) + " declarations, " +
+                                          std::to_string(statementCount) + " statements, " + std::to_string(format) +
+                                          ", " + std::to_string(level));
+    }
     velkor::sdai::TextLists lists(declarationCount, declarations, statementCount, statements);
     auto schema = velkor::sdai::restoreSchema(lists.declarations(), lists.statements());
     repo._state->enter(std::move(schema), std::move(lists));

@@ -97,3 +97,8 @@ Primitive DXSdaiAppInstance::complexAttribute(std::string_view attributeName) co
     model::anyPartialEntity(_model->file().instanceText(_number), find);
     return result;
 }
+
+std::size_t DXSdaiAppInstance::memoryUse() const noexcept {
+    const std::size_t places = _parameters ? _entity->attributes().size() + 1 : 0;
+    return sizeof *this + places * sizeof _parameters[0];
+}

@@ -149,4 +149,17 @@ std::vector<Model::KeywordCount> Model::keywordCounts() const {
     return counts;
 }
 
+std::size_t Model::memoryUse() const noexcept {
+    std::size_t bytes = sizeof(Model) + _file->memoryUse() + _entities.capacity() * sizeof(_entities[0]);
+    if (!_pages) return bytes;
+    const std::uint32_t pages = _file->instanceCount() / pageSize + 1;
+    bytes += pages * sizeof(Page);
+    for (std::uint32_t i = 0; i < pages; ++i) {
+        if (!_pages[i]) continue;
+        const std::uint32_t count = std::min(pageSize, _file->instanceCount() - i * pageSize);
+        for (std::uint32_t k = 0; k < count; ++k) bytes += _pages[i][k].memoryUse();
+    }
+    return bytes;
+}
+
 } // namespace velkor::sdai

@@ -97,14 +97,34 @@ void SyntaxChecker::check() {
 }
 
 void SyntaxChecker::checkPiece(std::uint64_t from, std::uint64_t to) {
-    _lexer = Part21Lexer(std::string_view(_begin + from, to - from));
     _behind = _begin + from;
     _pieceEnd = _begin + to;
-    for (Token token = next(); token.kind != TokenKind::End && !_stopped; token = next()) {
+    _distrustsStrings = false;
+    readFrom(_behind);
+    while (!_stopped) {
+        const Token token = next();
+        if (token.kind == TokenKind::End) {
+            if (_readEnd == _pieceEnd) break;
+            readFrom(_readEnd);
+            continue;
+        }
         checkStatement(token);
         _instance = 0;
         showProgress(static_cast<std::uint64_t>(_behind - _begin));
     }
+}
+
+void SyntaxChecker::readFrom(const char* at) {
+    _readEnd = _distrustsStrings ? statementEnd(at) : _pieceEnd;
+    _lexer = Part21Lexer({at, static_cast<std::size_t>(_readEnd - at)});
+}
+
+/// Behind the first ";" that ends a line; the end of the piece when there is none.
+const char* SyntaxChecker::statementEnd(const char* at) const noexcept {
+    for (; at != _pieceEnd; ++at) {
+        if (*at == ';' && at + 1 != _pieceEnd && (at[1] == '\n' || at[1] == '\r')) return at + 1;
+    }
+    return _pieceEnd;
 }
 
 void SyntaxChecker::checkStatement(const Token& first) {
@@ -136,10 +156,10 @@ void SyntaxChecker::checkStatement(const Token& first) {
 void SyntaxChecker::skipStatement() {
     while (_last.kind != TokenKind::Semicolon && _last.kind != TokenKind::End) {
         if (_last.kind == TokenKind::Bad && _last.text[0] == '\'') {
-            // A string that is not closed ends with the first line that looks like the end of a statement.
-            const std::size_t end = std::min(_last.text.find(";\n"), _last.text.find(";\r"));
-            const char* from = end == std::string_view::npos ? _pieceEnd : _last.text.data() + end + 1;
-            _lexer = Part21Lexer({from, static_cast<std::size_t>(_pieceEnd - from)});
+            // A string that is not closed ends with the first line that looks like the end of a statement. So
+            // do those behind it: a text full of them would be read to its end for each.
+            _distrustsStrings = true;
+            readFrom(statementEnd(_last.text.data()));
             break;
         }
         next();
@@ -268,7 +288,7 @@ void SyntaxChecker::skipSection(const Token& word) {
     // Its statements have a syntax of their own; its end has not.
     const char* end = findSectionEnd(_lexer.position(), _pieceEnd);
     if (end == _pieceEnd) error(end, "endsec-missing", "expected \"ENDSEC;\" behind the section");
-    _lexer = Part21Lexer({end, static_cast<std::size_t>(_pieceEnd - end)});
+    readFrom(end);
     _behind = end;
     if (end != _pieceEnd) next();
 }

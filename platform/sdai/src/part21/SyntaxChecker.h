@@ -30,6 +30,8 @@ private:
     };
 
     void checkPiece(std::uint64_t from, std::uint64_t to);
+    void readFrom(const char* at);
+    const char* statementEnd(const char* at) const noexcept;
     void checkStatement(const Token& first);
     void skipStatement();
     bool checkInstance(const Token& name);
@@ -60,6 +62,8 @@ private:
     Part21Lexer _lexer{std::string_view()};
     const char* _begin;
     const char* _pieceEnd = nullptr;
+    /// Up to where the lexer reads.
+    const char* _readEnd = nullptr;
     /// Behind the last token.
     const char* _behind = nullptr;
     /// The first DATA section, while it is the only one and has no name.
@@ -72,6 +76,8 @@ private:
     Place _place = Place::Start;
     std::size_t _headerEntities = 0;
     std::size_t _dataSections = 0;
+    /// A string of the piece is not closed: each statement is read by itself.
+    bool _distrustsStrings = false;
     bool _stopped = false;
 };
 
