@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <utility>
 
 namespace velkor::objectmodeler {
 
@@ -31,12 +32,13 @@ struct Dictionary {
         while (!unread.empty()) {
             const QOROMModule* module = unread.front();
             unread.erase(unread.begin());
-            current = module;
+            // A registration function that asks a question may have another module read meanwhile.
+            const QOROMModule* outer = std::exchange(current, module);
             const QOROMModuleInfo& info = module->info();
             for (const QOROMRegistration* entry = info.leadingEntry; entry <= info.trailingEntry; ++entry) {
                 if (*entry != nullptr) (*entry)();
             }
-            current = nullptr;
+            current = outer;
         }
     }
 

@@ -2,6 +2,7 @@
 
 #include "ComponentAccess.h"
 #include "objectmodeler/ClassDictionary.h"
+#include "objectmodeler/ComponentMacros.h"
 
 #include <cstdlib>
 
@@ -25,6 +26,12 @@ HRESULT QORBaseUnknown::QueryInterface(const IID& interfaceId, void** interface)
 HRESULT QORBaseUnknown::QueryInterface(const char* interfaceName, void** interface) {
     if (interfaceName == nullptr || interface == nullptr) return E_INVALIDARG;
     *interface = nullptr;
+    // What an object is by itself needs no registration.
+    if (GetMetaObject()->IsAKindOf(interfaceName) == 1) {
+        return QueryInterface(metaClass(interfaceName)->GetClassId(), interface);
+    }
+    QORBaseUnknown* object = GetImpl();
+    if (object != this) return object->QueryInterface(interfaceName, interface);
     const IID* id = interfaceIdOf(interfaceName);
     return id != nullptr ? QueryInterface(*id, interface) : E_NOINTERFACE;
 }
@@ -90,9 +97,12 @@ HRESULT QORBaseUnknown::ChangeComponentState(ComponentState, ComponentState, con
 }
 
 QORMetaClass* QORBaseUnknown::MetaObject() {
-    static QORMetaClass* const metaClass = vrn::internal::fct_RetrieveMetaObject(
-        "QORBaseUnknown", TypeOfImplementation, nullptr, nullptr, "ObjectModeler", sizeof(QORBaseUnknown));
-    return metaClass;
+    // Under the one lock of all metaclasses: who makes another class's asks for this one with the lock held.
+    static constinit std::atomic<QORMetaClass*> slot = nullptr;
+    return metaClassOnDemand(slot, [] {
+        return vrn::internal::fct_RetrieveMetaObject("QORBaseUnknown", TypeOfImplementation, nullptr, nullptr,
+                                                     "ObjectModeler", sizeof(QORBaseUnknown));
+    });
 }
 
 const char* QORBaseUnknown::ClassName() {

@@ -27,7 +27,9 @@ void Tie_Construct(QORBaseUnknown* tie, QORMetaClass* tieMetaClass, QORBaseUnkno
     if (behind.IsNull() && create != nullptr) behind = QORBaseUnknown_var::adopt(create());
     if (behind.IsNull() || implementationKind != TypeOfImplementation ||
         !behind->GetMetaObject()->isKindOf(implementationId)) {
+        // Nothing is bound: the TIE would forward to operations that the object does not have.
         VELKOR_ASSERTION_FAILED();
+        return;
     }
     ComponentAccess::setBehind(*tie, behind.get());
 }

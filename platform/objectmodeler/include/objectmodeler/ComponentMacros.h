@@ -144,5 +144,8 @@ private:                                                                        
     }                                                                                                                  \
     extern "C" visibility IUnknown* CreateTIE##Interface##Implementation(QORBaseUnknown* object,                       \
                                                                          QORBaseUnknown* second) {                     \
-        return new TIE##Interface##Implementation(object, second);                                                     \
+        auto* tie = new TIE##Interface##Implementation(object, second);                                                \
+        if (tie == nullptr || tie->GetImpl() != tie) return tie;                                                       \
+        tie->Release();                                                                                                \
+        return nullptr;                                                                                                \
     }

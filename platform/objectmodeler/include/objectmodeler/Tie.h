@@ -11,7 +11,7 @@ IUnknown* ToCreateBOA(QORBaseUnknown* object, QORBaseUnknown* second, QORMetaCla
 
 /// Binds a TIE to the object whose operations it offers, and holds a reference to that. `slot` is the
 /// TIE class's own and remembers its metaclass; `second` stands in when `object` is null, and
-/// `create` when both are.
+/// `create` when both are. An object of another class than the implementation's is not bound.
 void Tie_Construct(QORBaseUnknown* tie, QORMetaClass* tieMetaClass, QORBaseUnknown* object, const IID& implementationId,
                    ENUMTypeOfClass implementationKind, void*& slot, QORCreationFunction create, QORBaseUnknown* second);
 void Tie_Destruct(QORBaseUnknown* tie);

@@ -1,0 +1,94 @@
+#include "objectmodeler/Assertion.h"
+#include "objectmodeler/CallRecorder.h"
+#include "objectmodeler/ExitCallback.h"
+
+#include <gmock/gmock.h>
+#include <utility>
+
+namespace velkor::objectmodeler::test {
+
+using testing::ElementsAre;
+using testing::FieldsAre;
+using testing::IsEmpty;
+
+namespace exit_callback = vrn::internal::v1::exit_callback;
+
+namespace {
+
+std::vector<std::string> ran;
+int registrars = 0;
+exit_callback::list callbacks;
+
+template <char name>
+int note(int order) {
+    ran.push_back(name + std::to_string(order));
+    return order;
+}
+void countRegistrar() {
+    ++registrars;
+}
+int registerAnother(int order) {
+    exit_callback::do_register(note<'a'>, 9, countRegistrar, callbacks);
+    return note<'r'>(order);
+}
+
+} // namespace
+
+TEST(ExitCallbacks, RunOnceInTheirOrder) {
+    registrars = 0;
+    startRecording();
+    exit_callback::call(callbacks);
+    EXPECT_THAT(recordedCalls(), IsEmpty()) << "nothing to run";
+    exit_callback::do_register(note<'a'>, 3, countRegistrar, callbacks);
+    exit_callback::do_register(note<'b'>, 1, countRegistrar, callbacks);
+    exit_callback::do_register(note<'b'>, 3, countRegistrar, callbacks);
+    exit_callback::do_register(note<'a'>, 1, countRegistrar, callbacks);
+    EXPECT_EQ(registrars, 1) << "one registration with the runtime serves the list";
+    EXPECT_THAT(ran, IsEmpty());
+    exit_callback::call(callbacks);
+    exit_callback::call(callbacks);
+    stopRecording();
+    EXPECT_THAT(std::exchange(ran, {}), ElementsAre("b1", "a1", "a3", "b3"));
+    EXPECT_EQ(recordedCalls().at(3), "exit callback registered, order 1");
+    EXPECT_EQ(recordedCalls().at(4), "exit callback runs, order 1");
+
+    exit_callback::do_register(registerAnother, 3, countRegistrar, callbacks);
+    exit_callback::do_register(note<'b'>, 4, countRegistrar, callbacks);
+    EXPECT_EQ(registrars, 2) << "the runtime has used up the first registration";
+    exit_callback::call(callbacks);
+    EXPECT_THAT(std::exchange(ran, {}), ElementsAre("r3", "b4", "a9"));
+}
+
+TEST(Assertions, AreCountedAndTheLastThousandKept) {
+    clearAssertionReports();
+    const int line = __LINE__ + 1;
+    VELKOR_ASSERTION_FAILED();
+    __OmyAssertionFailed(nullptr, -1);
+    EXPECT_THAT(assertionReports(),
+                ElementsAre(FieldsAre("tests/platform/objectmodeler/RecordsTest.cpp", line), FieldsAre("", -1)));
+    for (int i = 1; i <= 1200; ++i) __OmyAssertionFailed("unit", i);
+    EXPECT_EQ(assertionCount(), 1202U);
+    const auto reports = assertionReports();
+    ASSERT_EQ(reports.size(), 1000U);
+    EXPECT_THAT(reports.front(), FieldsAre("unit", 201));
+    EXPECT_THAT(reports.back(), FieldsAre("unit", 1200));
+    clearAssertionReports();
+    EXPECT_EQ(assertionCount(), 0U);
+    EXPECT_THAT(assertionReports(), IsEmpty());
+}
+
+TEST(CallRecorder, KeepsCallsFromStartToStop) {
+    recordCall("before");
+    for (int record = 0; record < 2; ++record) {
+        startRecording();
+        EXPECT_TRUE(isRecording());
+        recordCall("one");
+        recordCall("two");
+        stopRecording();
+        recordCall("after");
+        EXPECT_FALSE(isRecording());
+        EXPECT_THAT(recordedCalls(), ElementsAre("one", "two")) << "each record begins empty";
+    }
+}
+
+} // namespace velkor::objectmodeler::test
