@@ -132,13 +132,27 @@ private:
         if (type.kind == Kind::Enumeration) {
             std::vector<std::string> values;
             for (const std::string& value : type.names) values.push_back(upperCase(value));
+            failAtRepeated(values, named.name);
             underlying = reference(declare("EnumerationType(" + joined(values) + ")"));
         } else if (type.kind == Kind::Select) {
             underlying = reference(declareSelect(named));
         } else {
+            const Named* other = type.kind == Kind::Named ? find(type.text, named.name) : nullptr;
+            if (other != nullptr && other->entity != nullptr) {
+                fail(named.name + " needs " + type.text + " to be a type");
+            }
+            declareNeeds(type, named.name);
+            // An entity among them may have led back here.
+            if (named.number != 0) return;
             underlying = declareUse(type, named.name);
         }
         named.number = declare("DefinedType(" + named.name + "," + underlying + ")");
+    }
+
+    void failAtRepeated(std::vector<std::string> names, const std::string& owner) {
+        std::ranges::sort(names);
+        const auto repeated = std::ranges::adjacent_find(names);
+        if (repeated != names.end()) fail(owner + " has " + *repeated + " twice");
     }
 
     // A select counts as declared only when this is done: one that its own items lead back to is declared
@@ -152,6 +166,12 @@ private:
             if (const Named* item = find(name, named.name)) items.push_back(reference(item->number));
         }
         return declare("SelectType(" + joined(items) + ")");
+    }
+
+    void declareNeeds(const ExpressType& type, const std::string& user) {
+        if (type.isAggregate()) return declareNeeds(*type.element, user);
+        if (type.kind != Kind::Named) return;
+        if (Named* named = find(type.text, user)) declareNamed(*named);
     }
 
     /// Declares what a use of a type needs, and gives the type as the lists write it.
@@ -204,7 +224,7 @@ private:
             stateNamed(_base[i]);
             references.push_back(reference(_base[i].number));
         }
-        state(1, "DefTypes", joined(references));
+        if (!references.empty()) state(1, "DefTypes", joined(references));
 
         references.clear();
         for (std::size_t i = _typeCount; i < _base.size(); ++i) {
@@ -244,6 +264,7 @@ private:
             state(named.number, "Supertypes", reference(supertype->number));
         }
         state(named.number, "Composition", composition(named));
+        checkAttributes(named);
 
         std::vector<std::string> own;
         for (std::size_t i = 0; i < named.attributes.size(); ++i) {
@@ -283,6 +304,24 @@ private:
         std::vector<std::string> references;
         for (const Named* one : all) references.push_back(reference(one->number));
         return joined(references);
+    }
+
+    /// A name is declared once in an entity, and what is derived stays so in its subtypes.
+    void checkAttributes(const Named& named) {
+        std::vector<std::string> own;
+        for (const ExpressAttribute& one : named.entity->explicitAttributes) own.push_back(upperCase(one.name));
+        for (const Named* owner : lineage(named)) {
+            for (const ExpressAttribute& one : owner->entity->derivedAttributes) {
+                const std::string name = upperCase(one.name);
+                if (std::ranges::find(own, name) != own.end()) {
+                    fail(named.name + " declares " + name + ", which is a derived attribute");
+                }
+            }
+        }
+        std::vector<std::string> derived;
+        for (const ExpressAttribute& one : named.entity->derivedAttributes) derived.push_back(upperCase(one.name));
+        failAtRepeated(std::move(own), named.name);
+        failAtRepeated(std::move(derived), named.name);
     }
 
     void stateRules(const Named& named) {

@@ -37,7 +37,7 @@ ExpressToken ExpressLexer::next() noexcept {
 
     ExpressToken token{ExpressTokenKind::Symbol, _rest.substr(0, 1), _line};
     const char first = _rest.front();
-    if (isLetter(first) || first == '_') {
+    if (isLetter(first)) {
         token.kind = ExpressTokenKind::Word;
         token.text =
             _rest.substr(0, static_cast<std::size_t>(std::ranges::find_if_not(_rest, isWordCharacter) - _rest.begin()));

@@ -160,9 +160,11 @@ private:
 
     void readAggregate(ExpressType& type, int depth) {
         if (take('[')) {
+            if (_token.isSymbol('?')) fail("a lower bound");
             type.lower = readBound();
             expect(':');
             type.upper = readBound();
+            checkBounds(type);
             expect(']');
         }
         expect("OF");
@@ -176,10 +178,19 @@ private:
         type.element = std::make_shared<ExpressType>(readUse(depth + 1));
     }
 
+    /// Only an array counts from below 0. An upper bound of 0 may stand for an expression.
+    void checkBounds(const ExpressType& type) {
+        const bool isLowerWrong = type.kind != Kind::Array && type.lower < 0;
+        if (isLowerWrong || (type.upper != -1 && type.upper != 0 && type.upper < type.lower)) {
+            fail("bounds that hold something");
+        }
+    }
+
     int integer() {
         int value = 0;
         const auto end = _token.text.data() + _token.text.size();
-        if (_token.kind != ExpressTokenKind::Integer || std::from_chars(_token.text.data(), end, value).ptr != end) {
+        if (_token.kind != ExpressTokenKind::Integer ||
+            std::from_chars(_token.text.data(), end, value).ec != std::errc()) {
             fail("an integer");
         }
         advance();
@@ -204,8 +215,10 @@ private:
 
     std::string readWidth() {
         expect('(');
-        std::string text = "(" + std::to_string(integer());
+        const int width = integer();
+        if (width == 0) fail("a width above 0");
         expect(')');
+        std::string text = "(" + std::to_string(width);
         if (take("FIXED")) text += ",FIXED";
         return text + ")";
     }

@@ -1,0 +1,176 @@
+#include "objectmodeler/CallRecorder.h"
+#include "objectmodeler/ClassDictionary.h"
+#include "sdai/DXSdaiDictionaryRepo.h"
+
+#include <algorithm>
+#include <array>
+#include <dlfcn.h>
+#include <gmock/gmock.h>
+#include <stdexcept>
+#include <utility>
+
+/// The library's entries get a reference to one and must not touch it.
+struct LoxDictionary {
+    std::array<unsigned char, 64> bytes{};
+};
+
+namespace velkor::test {
+
+using namespace velkor::objectmodeler;
+
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr const char* Path = VELKOR_LIB_DIR "/libvelkor.so";
+constexpr const char* ImportServices = "QORIIFCImportServices";
+constexpr const char* ImportServicesId = "{2C7255B3-EC9B-4988-8136-1537A27D1FC7}";
+
+struct Release {
+    const char* name;
+    int declarations;
+    int statements;
+};
+/// In the order in which they have to be registered.
+constexpr Release Releases[] = {{"IFC2X3", 2674, 3080},     {"IFC4", 3202, 3715},        {"IFC4X1", 3223, 3772},
+                                {"IFC4X2", 3334, 3893},     {"IFC4X3_ADD2", 3546, 4162}, {"IFC4X3_RC1", 3536, 4139},
+                                {"IFC4X3_RC3", 3536, 4131}, {"IFC4X4", 3660, 4288}};
+
+using Calls = std::vector<std::string>;
+
+/// What the platform was asked for while something is done.
+template <typename Do>
+Calls callsDuring(Do something) {
+    startRecording();
+    something();
+    stopRecording();
+    return recordedCalls();
+}
+
+Calls schemaCalls(const char* what) {
+    Calls calls;
+    for (const Release& release : Releases) calls.push_back(what + std::string(" schema: ") + release.name);
+    return calls;
+}
+
+std::string restoreOf(const Release& release) {
+    return "restore: " + std::to_string(release.declarations) + " declarations, " + std::to_string(release.statements) +
+           " statements, 1, 417";
+}
+
+class Module : public testing::Test {
+protected:
+    void SetUp() override {
+        QORBaseUnknown::MetaObject(); // not what a library asks for
+        ASSERT_FALSE(isLoaded());
+        ASSERT_THAT(repository.names(), IsEmpty());
+        ASSERT_THAT(registeredClasses(), IsEmpty());
+    }
+    void TearDown() override {
+        if (_library != nullptr) unload();
+        ASSERT_FALSE(isLoaded()) << "the library stays in the process";
+    }
+
+    void load() {
+        _library = dlopen(Path, RTLD_NOW | RTLD_LOCAL);
+        ASSERT_NE(_library, nullptr) << dlerror();
+    }
+    void unload() { EXPECT_EQ(dlclose(std::exchange(_library, nullptr)), 0) << dlerror(); }
+    static bool isLoaded() {
+        void* loaded = dlopen(Path, RTLD_NOW | RTLD_LOCAL | RTLD_NOLOAD);
+        if (loaded != nullptr) dlclose(loaded);
+        return loaded != nullptr;
+    }
+    template <typename Entry>
+    Entry& entry(const char* name) const {
+        void* found = dlsym(_library, name);
+        if (found == nullptr) throw std::runtime_error(dlerror());
+        return *reinterpret_cast<Entry*>(found);
+    }
+    long restored() const {
+        return std::ranges::count_if(Releases, [&](const Release& r) { return repository.isRestored(r.name); });
+    }
+
+    DXSdaiDictionaryRepo& repository = DXSdaiDictionaryRepo::TheOne();
+
+private:
+    void* _library = nullptr;
+};
+
+} // namespace
+
+TEST_F(Module, LoadsWorksAndGoesAsOftenAsOneLikes) {
+    Calls atLoad = schemaCalls("register");
+    atLoad.insert(atLoad.begin(), "module built");
+    Calls atUnload = schemaCalls("withdraw");
+    std::ranges::reverse(atUnload);
+    atUnload.emplace_back("module destroyed");
+    const QORMetaClass* known = metaClass(ImportServices);
+
+    for (int round = 0; round < 3; ++round) {
+        SCOPED_TRACE(round);
+        EXPECT_THAT(callsDuring([&] { load(); }), ElementsAreArray(atLoad)) << "registrations and nothing more";
+        EXPECT_EQ(metaClass(ImportServices), known);
+        EXPECT_EQ(restored(), 0);
+
+        const auto ask = [] { EXPECT_EQ(registeredClasses().at(0).interface, ImportServices); };
+        const std::string described = known != nullptr ? "metaclass retrieved: " : "metaclass made: ";
+        EXPECT_THAT(callsDuring(ask),
+                    ElementsAre(described + ImportServices,
+                                "register interface: " + std::string(ImportServicesId) + " " + ImportServices));
+        EXPECT_THAT(callsDuring(ask), IsEmpty());
+        const auto& id = entry<const IID>("IID_QORIIFCImportServices");
+        EXPECT_EQ(text(id), ImportServicesId);
+        if (known == nullptr) known = metaClass(id);
+        ASSERT_NE(known, nullptr);
+        EXPECT_EQ(metaClass(ImportServices), known) << "one metaclass serves all loads";
+
+        const auto restore = [&] {
+            const auto schema = repository.schema("IFC4");
+            ASSERT_TRUE(schema) << schema.error();
+            EXPECT_NE((*schema)->entity("IFCWALL"), nullptr);
+        };
+        EXPECT_THAT(callsDuring(restore), ElementsAre(restoreOf(Releases[1])));
+        EXPECT_THAT(callsDuring(restore), IsEmpty());
+        EXPECT_EQ(restored(), 1);
+
+        EXPECT_THAT(callsDuring([&] { unload(); }), ElementsAreArray(atUnload));
+        ASSERT_FALSE(isLoaded());
+        EXPECT_THAT(repository.names(), IsEmpty());
+        EXPECT_THAT(registeredClasses(), IsEmpty());
+        EXPECT_THAT(repository.schema("IFC4").error(), testing::HasSubstr("known: none"));
+    }
+}
+
+TEST_F(Module, RestoresEachSchemaWhenItIsFirstWanted) {
+    load();
+    for (const Release& release : Releases) {
+        EXPECT_THAT(callsDuring([&] { EXPECT_TRUE(repository.schema(release.name)); }),
+                    ElementsAre(restoreOf(release)));
+        EXPECT_EQ(restored(), &release - Releases + 1) << release.name;
+    }
+}
+
+TEST_F(Module, EntriesThatForceALoadDoNothing) {
+    load();
+    LoxDictionary dictionary;
+    dictionary.bytes.fill(0xA5);
+    const Calls calls = callsDuring([&] {
+        EXPECT_EQ(entry<int()>("QORDXForceLoadShemas")(), 0);
+        for (const std::string name :
+             {"QORDXSdaiIFC2X3", "QORDXSdaiIFC4", "QORDXSdaiIFC4X1", "QORDXSdaiIFC4X2", "QORDXSdaiIFC4X3_ADD2",
+              "QORDXSdaiIFC4X4", "QORSdaiIFC4X3_RC1", "QORSdaiIFC4X3_RC3"}) {
+            entry<void()>((name + "dummy").c_str())();
+        }
+        for (const Release& release : Releases) {
+            entry<void(LoxDictionary&)>((std::string("LoxLoadDico") + release.name).c_str())(dictionary);
+        }
+    });
+    EXPECT_THAT(calls, IsEmpty());
+    EXPECT_EQ(restored(), 0);
+    EXPECT_THAT(dictionary.bytes, testing::Each(0xA5));
+}
+
+} // namespace velkor::test
