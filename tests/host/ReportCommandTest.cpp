@@ -1,10 +1,7 @@
-#include "CommandContext.h"
+#include "TestSupport.h"
 
-#include <filesystem>
-#include <fstream>
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 namespace velkor::host {
 
@@ -18,17 +15,8 @@ using testing::Not;
 
 namespace {
 
-struct Outcome {
-    int status;
-    std::string out;
-    std::string err;
-};
-
 Outcome report(const std::string& path, bool color = false, const std::string& format = "text") {
-    std::ostringstream out, err;
-    CommandContext context{out, err, false, color};
-    const int status = run({"report", path, "--format", format}, context);
-    return {status, out.str(), err.str()};
+    return runHost({"report", path, "--format", format}, color);
 }
 
 json reportJson(const std::string& path) {
@@ -36,31 +24,6 @@ json reportJson(const std::string& path) {
     EXPECT_EQ(outcome.status, Done) << outcome.err;
     return json::parse(outcome.out);
 }
-
-std::string example(const std::string& name) {
-    return VELKOR_SOURCE_DIR "/examples/models/" + name;
-}
-
-// A file of its own that goes with the object.
-class TemporaryModel {
-public:
-    TemporaryModel(const std::string& schema, const std::string& data,
-                   const std::string& description = "ViewDefinition [CoordinationView]",
-                   const std::string& name = "sample") {
-        _path = testing::TempDir() + "velkor report " + std::to_string(++_count) + ".ifc";
-        std::ofstream(_path, std::ios::binary)
-            << "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION(('" << description << "'),'2;1');\nFILE_NAME('" << name
-            << "','2024-05-06T07:08:09',('Ada','Grace'),(''),'pre 1.0','writer 2.0','');\nFILE_SCHEMA(('" << schema
-            << "'));\nENDSEC;\nDATA;\n"
-            << data << "ENDSEC;\nEND-ISO-10303-21;\n";
-    }
-    ~TemporaryModel() { std::filesystem::remove(_path); }
-    const std::string& path() const { return _path; }
-
-private:
-    static inline int _count = 0;
-    std::string _path;
-};
 
 constexpr const char* smallData = "#1=IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.);\n"
                                   "#2=IFCSIUNIT(*,.PLANEANGLEUNIT.,$,.RADIAN.);\n"
@@ -144,10 +107,11 @@ TEST(ReportCommand, ExamplesHaveTheirUnitsAndNoProblems) {
         double lengthFactor;
     };
     for (const auto& [file, release, lengthFactor] :
-         {Expectation{"house-ifc2x3.ifc", "IFC2X3", 1.0}, Expectation{"pump-room-ifc4.ifc", "IFC4", 1.0},
+         {Expectation{"house-ifc2x3.ifc", "IFC2X3", 1.0}, Expectation{"pump-room-ifc4.ifc", "IFC4", 304.8},
           Expectation{"road-ifc4x3.ifc", "IFC4X3_ADD2", 1000.0}}) {
         const json answer = reportJson(example(file));
         EXPECT_EQ(answer["release"]["dictionary"], release);
+        EXPECT_DOUBLE_EQ(answer["units"]["geometry"]["length_factor_mm"], lengthFactor) << file;
         EXPECT_EQ(answer["problems"]["total"], 0) << file << answer["problems"].dump(2);
         EXPECT_GT(answer["instances"]["total"], 10);
     }

@@ -90,7 +90,9 @@ void addCheckCommand(CLI::App& app, CommandContext& context) {
     const auto options = std::make_shared<Options>();
     command->add_option("MODEL", options->path, "IFC file")->required();
     command->add_flag("--syntax", options->syntaxOnly, "Judge the exchange structure (ISO 10303-21) alone");
-    command->add_option("--limit", options->limit, "List at most N problems; 100000 unless told")->option_text("N");
+    command->add_option("--limit", options->limit, "List at most N problems; 100000 unless told")
+        ->option_text("N")
+        ->check(CLI::NonNegativeNumber);
     context.addFormatOption(*command);
     command->footer("Example:\n  velkor check house.ifc\n\nExit status 1 when there are problems.");
     command->callback([&context, options] { runCheck(context, *options); });

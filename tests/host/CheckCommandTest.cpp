@@ -1,0 +1,180 @@
+#include "TestSupport.h"
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+
+namespace velkor::host {
+
+using nlohmann::json;
+using testing::AllOf;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+namespace {
+
+Outcome check(const std::string& path, std::vector<std::string> options = {}) {
+    options.insert(options.begin(), {"check", path});
+    return runHost(std::move(options));
+}
+
+json checkJson(const std::string& path, std::vector<std::string> options = {}) {
+    options.insert(options.end(), {"--format", "json"});
+    const Outcome outcome = check(path, std::move(options));
+    const json answer = json::parse(outcome.out);
+    EXPECT_EQ(outcome.status, answer["total"] == 0 ? Done : Findings);
+    return answer;
+}
+
+/// Line, instance and code of each problem.
+std::string places(const json& answer) {
+    std::string result;
+    for (const json& problem : answer["problems"]) {
+        if (!result.empty()) result += ", ";
+        result += problem["line"].dump() + ' ';
+        if (!problem["instance"].is_null()) result += '#' + problem["instance"].dump() + ' ';
+        result += problem["code"].get<std::string>();
+    }
+    return result;
+}
+
+constexpr const char* faultyData = "#1=IFCWALL($,$,$,$,$,#99,$,$,.NOSUCH.);\n#2=IFCFOO('\x1b[2J');\n"
+                                   "#3=IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.)\n#4=IFCCARTESIANPOINT((0.,1));\n";
+
+} // namespace
+
+TEST(CheckCommand, FindsNothingInTheExamples) {
+    for (const char* name : {"house-ifc2x3.ifc", "pump-room-ifc4.ifc", "road-ifc4x3.ifc"}) {
+        for (const std::vector<std::string>& options : {std::vector<std::string>{}, {"--syntax"}}) {
+            const Outcome outcome = check(example(name), options);
+            EXPECT_EQ(outcome.status, Done);
+            EXPECT_EQ(outcome.out, example(name) + ": no problems found\n");
+            EXPECT_THAT(outcome.err, IsEmpty());
+        }
+    }
+    EXPECT_EQ(checkJson(example("road-ifc4x3.ifc"))["problems"], json::array());
+}
+
+TEST(CheckCommand, ListsProblemsOfStructureAndInstancesInFileOrder) {
+    const TemporaryModel model("IFC4", faultyData);
+    const json answer = checkJson(model.path());
+    EXPECT_EQ(places(answer), "8 #1 missing-value, 8 #1 dangling-reference, 8 #1 unknown-enumerator, 9 #2 "
+                              "unknown-entity, 9 #2 string-invalid, 10 #3 semicolon-missing, 11 #4 integer-for-real");
+    EXPECT_EQ(answer["total"], 7);
+    EXPECT_EQ(answer["release"], "IFC4");
+    EXPECT_EQ(answer["problems"][6]["severity"], "warning");
+    std::ostringstream text;
+    text << std::ifstream(model.path(), std::ios::binary).rdbuf();
+    EXPECT_EQ(text.str().substr(answer["problems"][1]["offset"], 3), "#99");
+    EXPECT_EQ(answer["problems"][1]["severity"], "error");
+
+    const Outcome outcome = check(model.path());
+    EXPECT_EQ(outcome.status, Findings);
+    EXPECT_THAT(outcome.out, AllOf(StartsWith(model.path() +
+                                              ":8: error: #1: IFCWALL.GLOBALID: expected IFCGLOBALLYUNIQUEID, found $"),
+                                   HasSubstr(" [dangling-reference]\n" + model.path() + ":8: error: #1: "),
+                                   HasSubstr(model.path() + ":11: warning: #4: "),
+                                   EndsWith("\n" + model.path() + ": 6 errors, 1 warning\n"), Not(HasSubstr("\x1b"))));
+    // Only what is wrong with the structure itself.
+    EXPECT_EQ(places(checkJson(model.path(), {"--syntax"})), "9 #2 string-invalid, 10 #3 semicolon-missing");
+}
+
+TEST(CheckCommand, TakesDerivedAttributesFromTheNeighbourOfAReleaseWithoutThem) {
+    for (const char* release : {"IFC2X3", "IFC4", "IFC4X1", "IFC4X3_ADD2"}) {
+        const TemporaryModel model(release, "#1=IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.);\n"
+                                            "#2=IFCSIUNIT(*,.LENGTHUNIT.,*,.METRE.);\n"
+                                            "#3=IFCDIMENSIONALEXPONENTS(1,0,0,0,0,0,*);\n");
+        const json answer = checkJson(model.path());
+        ASSERT_EQ(answer["total"], 2) << release << answer.dump(1);
+        EXPECT_EQ(answer["problems"][0]["instance"], 2) << release;
+        EXPECT_EQ(answer["problems"][1]["instance"], 3) << release;
+    }
+}
+
+TEST(CheckCommand, ListsNoMoreThanTheLimit) {
+    std::string data;
+    for (int i = 1; i <= 1500; ++i) data += '#' + std::to_string(i) + "=IFCFOO('\xff');\n";
+    const TemporaryModel model("IFC4", data);
+    const json answer = checkJson(model.path(), {"--limit", "3"});
+    EXPECT_EQ(answer["total"], 3000);
+    EXPECT_EQ(places(answer), "8 #1 unknown-entity, 8 #1 string-invalid, 9 #2 unknown-entity");
+    EXPECT_THAT(check(model.path(), {"--limit", "3"}).out,
+                EndsWith(": 3 errors, 0 warnings among the first 3 of 3,000 problems (--limit shows more)\n"));
+    EXPECT_THAT(checkJson(model.path(), {"--limit", "0"})["problems"], IsEmpty());
+    EXPECT_EQ(checkJson(model.path(), {"--limit", "0", "--syntax"})["total"], 1500);
+    EXPECT_EQ(checkJson(model.path())["problems"].size(), 3000U);
+    for (const char* bad : {"-1", "many", "1.5", ""})
+        EXPECT_EQ(check(model.path(), {"--limit", bad}).status, BadUsage) << bad;
+}
+
+TEST(CheckCommand, JudgesTheStructureOfAFileOfAnUnknownSchema) {
+    const TemporaryModel model("IFC9", "#1=IFCFOO($)\n#2=IFCFOO($);\n");
+    const json answer = checkJson(model.path());
+    EXPECT_EQ(answer["release"], nullptr);
+    EXPECT_EQ(places(answer), "5 schema-unknown, 8 #1 semicolon-missing");
+    EXPECT_THAT(check(model.path()).out, HasSubstr(":5: error: expected a supported schema in FILE_SCHEMA, found "
+                                                   "\"IFC9\"; supported: IFC2X3, "));
+    EXPECT_EQ(places(checkJson(model.path(), {"--limit", "1"})), "5 schema-unknown");
+    EXPECT_EQ(places(checkJson(model.path(), {"--syntax"})), "8 #1 semicolon-missing");
+
+    const TemporaryFile text("A letter about ISO-10303-21;\n");
+    for (const std::vector<std::string>& options : {std::vector<std::string>{}, {"--syntax"}, {"--format", "json"}}) {
+        const Outcome outcome = check(text.path(), options);
+        EXPECT_EQ(outcome.status, Unreadable);
+        EXPECT_THAT(outcome.out, IsEmpty());
+        EXPECT_THAT(outcome.err, AllOf(StartsWith("velkor: " + text.path()), HasSubstr("found \"A letter about I\"")));
+    }
+}
+
+TEST(CheckCommand, SyntaxJudgesStrictly) {
+    // A line of a faultless file and what stands there instead, with the places and codes of what is wrong.
+    constexpr std::tuple<int, const char*, const char*> cases[] = {
+        {1, "\xEF\xBB\xBFISO-10303-21;", "1 byte-order-mark"},
+        {1, "", "2 start-missing"},
+        {3, "", "4 header-entity-missing"},
+        {3, "FILE_DESCRIPTION('d','2;1');", "3 parameter-type"},
+        {5, "FILE_SCHEMA((IFC4));", "5 unexpected-token"},
+        {5, "FILE_SCHEMA(('IFC4'));\nFILE_SCHEMA(('IFC4'));", "6 header-entity-repeated"},
+        {5, "FILE_SCHEMA(('IFC4'));\nOWNER('x');", "6 header-entity-unknown"},
+        {5, "FILE_SCHEMA(('IFC4'));\n!OWNER('x',(#1));\nFILE_POPULATION('a','b',$);", ""},
+        {6, "", "7 endsec-missing"},
+        {7, "", "8 #1 data-missing"},
+        {7, "DATA('one');", "7 parameter-count"},
+        {7, "ANCHOR;\n<a>=#1;\nENDSEC;\nDATA;", "7 section-skipped"},
+        {8, "#1=IFCWALL($)", "8 #1 semicolon-missing"},
+        {8, "#1=IFCWALL($;", "8 #1 unexpected-token"},
+        {8, "#1=IFCWALL($\n$);", "9 #1 unexpected-token"},
+        {8, "IFCWALL($);", "8 unexpected-token"},
+        {8, "#0=IFCWALL(#00);", "8 instance-name-zero, 8 instance-name-zero"},
+        {8, "#18446744073709551616=IFCWALL($);", "8 instance-name-too-large"},
+        {8, "#2=IFCWALL($);", "9 #2 instance-repeated"},
+        {8, "#1=ifcWall($);", "8 #1 token-invalid"},
+        {8, "#1=IFCWALL(1.E5,1E5,.t.,\"4F\",+.5);",
+         "8 #1 token-invalid, 8 #1 token-invalid, 8 #1 token-invalid, 8 #1 token-invalid"},
+        {8, "#1=IFCWALL('a''b\\\\ \\X\\E4\\S\\d\\PA\\\\X2\\00E4\\X0\\\\X4\\0001F3D7\\X0\\');", ""},
+        {8, "#1=IFCWALL('\\X2\\00\\X0\\');", "8 #1 string-invalid"},
+        {8, "#1=IFCWALL('a\nb','\xC3\xA4');", "8 #1 string-invalid, 9 #1 string-invalid"},
+        {8, "#1=IFCWALL('open);", "8 #1 string-not-closed"},
+        {8, "#1=IFCWALL($); /*", "8 comment-not-closed"},
+        {8, "/* a\n** / */ #1 /**/ = IFCWALL /* b */ ( $ ) ;", ""},
+        {8, "#1=IFCWALL($); /* \xC3\xA4 */", "8 character-invalid"},
+        {10, "", "11 endsec-missing"},
+        {10, "ENDSEC;\nDATA;\nENDSEC;", "7 data-parameters-missing, 11 data-parameters-missing"},
+        {11, "", "12 end-missing"},
+        {11, "END-ISO-10303-21;\n#3=IFCWALL($);", "12 text-behind-end"},
+        {11, "END-ISO-10303-21;\nSIGNATURE;\nENDSEC;", "12 section-skipped"}};
+    for (const auto& [line, replacement, expected] : cases) {
+        std::istringstream faultless("ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION(('d'),'2;1');\n"
+                                     "FILE_NAME('n','t',('a'),('o'),'p','s','z');\nFILE_SCHEMA(('IFC4'));\nENDSEC;\n"
+                                     "DATA;\n#1=IFCWALL($);\n#2=(IFCFOO('x',(1,-2.5E-3,.T.,*,()),\"0F\",#1,"
+                                     "IFCLABEL('y'))IFCWALL());\nENDSEC;\nEND-ISO-10303-21;\n");
+        std::string text, original;
+        for (int i = 1; std::getline(faultless, original); ++i) text.append(i == line ? replacement : original) += '\n';
+        const TemporaryFile file(text);
+        EXPECT_EQ(places(checkJson(file.path(), {"--syntax"})), expected) << line << ": " << replacement;
+    }
+}
+
+} // namespace velkor::host
