@@ -3,6 +3,7 @@
 #pragma once
 
 #include "sdai/Dictionary.h"
+#include "sdai/Part21Lexer.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -120,7 +121,9 @@ public:
 
 private:
     Aggregate _aggregate;
-    const char* _next = nullptr;
+    // Before the "(" or the "," that a member stands behind.
+    Part21Lexer _lexer{std::string_view()};
+    bool _isFirst = true;
     std::string_view _current;
 };
 

@@ -70,7 +70,9 @@ std::string_view DXSdaiAppInstance::parameter(std::size_t index) const {
         _parameters = std::make_unique<const char*[]>(count + 1);
         const std::string_view text = _model->file().instanceText(_number);
         Part21Lexer lexer(text);
-        if (lexer.next().kind == TokenKind::Keyword && lexer.next().kind == TokenKind::Open) {
+        // Letters of the keyword in lower case make it a bad token; the index has read it all the same.
+        lexer.next();
+        if (lexer.next().kind == TokenKind::Open) {
             findParameters(text.substr(static_cast<std::size_t>(lexer.position() - text.data())), count,
                            _parameters.get());
         }

@@ -84,7 +84,7 @@ void PopulationChecker::checkInstance(std::uint32_t number) {
     if (_model.file().keyword(number) == Part21File::complexKeyword) return checkComplex(text);
     _lexer = Part21Lexer(text);
     const Token keyword = _lexer.next();
-    if (keyword.kind != TokenKind::Keyword || _lexer.next().kind != TokenKind::Open) return;
+    if (_lexer.next().kind != TokenKind::Open) return;
     _entity = _model.entityAt(number);
     if (_entity == nullptr || _entity->isAbstract()) _entity = checkEntity(keyword.text, false);
     if (_entity != nullptr) checkAttributes(*_entity);

@@ -150,27 +150,21 @@ std::size_t Aggregate::memberCount() const noexcept {
 }
 
 void AggregateIterator::beginning() noexcept {
-    _next = _aggregate._text.data();
+    _lexer = Part21Lexer(_aggregate._text);
+    _isFirst = true;
     _current = {};
 }
 
 bool AggregateIterator::next() noexcept {
-    const char* const end = _aggregate._text.data() + _aggregate._text.size();
     _current = {};
-    if (_next == nullptr || _next == end) return false;
-    // Stands on the "(" or "," before a member.
-    Part21Lexer lexer({_next + 1, static_cast<std::size_t>(end - _next - 1)});
-    const bool isFirst = _next == _aggregate._text.data();
-    const Token token = lexer.peek();
-    if (token.kind == TokenKind::End || (isFirst && token.kind == TokenKind::Close)) {
-        _next = end;
-        return false;
-    }
-    const char* begin = token.text.data();
-    lexer.skipParameter();
-    _current = {begin, static_cast<std::size_t>(lexer.position() - begin)};
-    const bool isLast = lexer.position() == end || *lexer.position() != ',';
-    _next = isLast ? end : lexer.position();
+    if (_lexer.peek().kind != (_isFirst ? TokenKind::Open : TokenKind::Comma)) return false;
+    _lexer.next();
+    const Token token = _lexer.peek();
+    if (token.kind == TokenKind::End || (_isFirst && token.kind == TokenKind::Close)) return false;
+    _isFirst = false;
+    _lexer.skipParameter();
+    const char* const begin = token.text.data();
+    _current = {begin, static_cast<std::size_t>(_lexer.position() - begin)};
     return true;
 }
 

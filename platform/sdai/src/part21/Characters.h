@@ -40,6 +40,11 @@ inline bool isDigit(char c) noexcept {
     return isClass(c, Digit);
 }
 
+/// Whether one of the print control directives \N\ and \F\ begins here, which count as white space.
+inline bool isPrintControl(const char* at, const char* end) noexcept {
+    return end - at >= 3 && at[0] == '\\' && (at[1] == 'N' || at[1] == 'F') && at[2] == '\\';
+}
+
 /// Bytes that belong together from a reverse solidus inside a string: 1 when it starts no
 /// directive. Only \S\ reaches over an apostrophe, so only this decides where a string ends.
 inline std::size_t directiveLength(const char* at, const char* end) noexcept {

@@ -45,7 +45,9 @@ std::string foreignFormat(std::string_view text) {
     if (at == end) return "it holds nothing";
     const std::string_view content(at, static_cast<std::size_t>(end - at));
     for (const Format& format : formats) {
-        if (content.starts_with(format.beginning)) return "it is " + std::string(format.name);
+        // The first byte of some counts as white space.
+        if (text.starts_with(format.beginning) || content.starts_with(format.beginning))
+            return "it is " + std::string(format.name);
     }
     // The first keyword may be missing, as long as the section that follows is there.
     for (const std::string_view word : {"ISO-10303-21", "HEADER"}) {

@@ -77,7 +77,7 @@ void Part21Lexer::skipSeparators() noexcept {
     while (_next != _end) {
         if (isSpace(*_next)) {
             ++_next;
-        } else if (*_next == '\\' && _end - _next >= 3 && (_next[1] == 'N' || _next[1] == 'F') && _next[2] == '\\') {
+        } else if (isPrintControl(_next, _end)) {
             _next += 3;
         } else if (!skipComment()) {
             return;

@@ -1,4 +1,4 @@
-/// White space, comments and skipped sections of a text, and words in it, whatever their case.
+/// White space, print control, comments and skipped sections of a text, and words in it, whatever their case.
 #pragma once
 
 #include "part21/Characters.h"
@@ -8,10 +8,15 @@
 
 namespace velkor::sdai::part21 {
 
-/// First character that is neither white space nor within a comment closed before `end`.
+/// First character that is neither white space nor in a print control directive nor within a comment
+/// closed before `end`.
 inline const char* skipSeparators(const char* at, const char* end) noexcept {
     for (;;) {
         while (at != end && isSpace(*at)) ++at;
+        if (isPrintControl(at, end)) {
+            at += 3;
+            continue;
+        }
         if (end - at < 4 || at[0] != '/' || at[1] != '*') return at;
         const void* close = memmem(at + 2, static_cast<std::size_t>(end - at - 2), "*/", 2);
         if (close == nullptr) return at;

@@ -23,12 +23,12 @@ namespace part21 {
 namespace {
 
 /// Length of the well-formed UTF-8 sequence at a byte of 128 or more; 0 when there is none.
-/// Writes its character.
-std::size_t utf8Sequence(const char* at, const char* end, char32_t& character) noexcept {
+/// Writes its character when there is one.
+std::size_t utf8Sequence(const char* at, const char* end, char32_t& result) noexcept {
     const auto lead = static_cast<unsigned char>(*at);
     const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
     if (lead < 0xC2 || lead > 0xF4 || static_cast<std::size_t>(end - at) < length) return 0;
-    character = lead & (0x7FU >> length);
+    char32_t character = lead & (0x7FU >> length);
     for (std::size_t i = 1; i < length; ++i) {
         const auto byte = static_cast<unsigned char>(at[i]);
         if ((byte & 0xC0U) != 0x80) return 0;
@@ -36,6 +36,7 @@ std::size_t utf8Sequence(const char* at, const char* end, char32_t& character) n
     }
     const bool overlong = (length == 3 && character < 0x800) || (length == 4 && character < 0x10000);
     if (overlong || character > 0x10FFFF || (character >= 0xD800 && character < 0xE000)) return 0;
+    result = character;
     return length;
 }
 
@@ -90,7 +91,13 @@ void StringDecoder::directive() {
         _next += 4;
     } else if (length == 4 && _next[1] == 'P') {
         violation(_next, R"(expected a letter A to I in the directive \P.\)");
-        take(4);
+        take(2);
+        if (isClass(*_next, Basic)) {
+            take(1);
+        } else {
+            foreignByte();
+        }
+        take(1);
     } else if (length == 3 && _next[1] == 'X') {
         arbitrary();
     } else if (length == 4 && _next[1] == 'X' && _next[2] != '0') {

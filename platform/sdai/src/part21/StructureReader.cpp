@@ -88,14 +88,14 @@ void StructureReader::takeMarks() {
         const char* at = _scanner.chunk() + mark.offset();
         if (mark.kind() == MarkKind::Statement) {
             if (*at == '=') {
-                if (_open || _section != Section::Data || !takeInstance(at)) takeEquals(at);
-                continue;
-            }
-            if (_open && at[-1] == ')') {
+                if (!_open && _section == Section::Data && takeInstance(at)) continue;
+                takeEquals(at);
+            } else if (_open && at[-1] == ')') {
                 endInstance(at + 1);
                 continue;
+            } else {
+                takeSemicolon(at);
             }
-            takeSemicolon(at);
         } else {
             takeDamage(at, mark.kind());
         }
@@ -407,7 +407,7 @@ void StructureReader::endStructure(const char* at, const char* behind) {
         endSection(at);
     }
     _ended = true;
-    const char* next = content(behind == _end ? _end : behind + 1, _end);
+    const char* next = content(behind != _end && *behind == ';' ? behind + 1 : behind, _end);
     if (next == _end) return;
     if (startsWithWord(wordAt(next, _end), "SIGNATURE")) {
         report(Severity::Warning, next, "section-skipped", "the section SIGNATURE belongs to edition 3 and is skipped");

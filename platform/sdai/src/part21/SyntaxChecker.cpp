@@ -196,8 +196,7 @@ bool SyntaxChecker::checkKeyword(const Token& word) {
     if (text == "ENDSEC" || text == "END-ISO-10303-21") return checkSectionEnd(word);
     if (text == "DATA") return checkData(word);
     if (text == "ANCHOR" || text == "REFERENCE") {
-        skipSection(word);
-        return true;
+        return skipSection(word);
     }
     if (_place == Place::Header && (word.kind == TokenKind::Keyword || word.kind == TokenKind::Bad)) {
         return checkHeaderEntity(word);
@@ -282,7 +281,7 @@ bool SyntaxChecker::checkData(const Token& keyword) {
     return true;
 }
 
-void SyntaxChecker::skipSection(const Token& word) {
+bool SyntaxChecker::skipSection(const Token& word) {
     report(Severity::Warning, word.text.data(), "section-skipped",
            "the section " + std::string(word.text) + " belongs to edition 3 and is skipped");
     // Its statements have a syntax of their own; its end has not.
@@ -290,7 +289,7 @@ void SyntaxChecker::skipSection(const Token& word) {
     if (end == _pieceEnd) error(end, "endsec-missing", "expected \"ENDSEC;\" behind the section");
     readFrom(end);
     _behind = end;
-    if (end != _pieceEnd) next();
+    return end != _pieceEnd && next().kind == TokenKind::Keyword;
 }
 
 /// Judges "KEYWORD(…)"; _shape receives a letter per parameter.
@@ -416,12 +415,15 @@ Token SyntaxChecker::next() {
 /// Judges what stands between two tokens: white space, comments and print control directives.
 void SyntaxChecker::checkGap(const char* from, const char* to) {
     const auto isLayout = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
+    // Behind a comment that is not closed no other is: nothing is searched there.
+    bool mayClose = true;
     for (const char* at = from; at != to;) {
         if (isLayout(*at)) {
             ++at;
         } else if (*at == '/') {
-            const char* behind = skipSeparators(at, to);
-            if (behind == at) {
+            const char* behind = mayClose ? skipSeparators(at, to) : at;
+            mayClose = behind != at;
+            if (!mayClose) {
                 error(at, "comment-not-closed", "expected \"*/\" behind \"/*\"");
                 at += 2;
                 continue;

@@ -41,7 +41,7 @@ private:
     void leaveHeader(const Token& at);
     bool checkHeaderEntity(const Token& keyword);
     bool checkData(const Token& keyword);
-    void skipSection(const Token& word);
+    bool skipSection(const Token& word);
 
     bool checkRecord(const Token& keyword);
     bool checkParameters();

@@ -5,6 +5,13 @@
 
 namespace velkor::sdai::part21 {
 
+namespace {
+
+/// Those of FILE_NAME; what stands behind them is not read, however much it is.
+constexpr std::size_t mostParameters = 7;
+
+} // namespace
+
 std::vector<std::vector<std::string>> textParameters(std::string_view statement) {
     std::vector<std::vector<std::string>> parameters;
     Part21Lexer lexer(statement);
@@ -25,7 +32,9 @@ std::vector<std::vector<std::string>> textParameters(std::string_view statement)
             parameters.back().push_back(decodeString(token.text));
             break;
         case TokenKind::Comma:
-            if (depth == 1) parameters.emplace_back();
+            if (depth > 1) break;
+            if (parameters.size() == mostParameters) return parameters;
+            parameters.emplace_back();
             break;
         case TokenKind::End:
             return parameters;
