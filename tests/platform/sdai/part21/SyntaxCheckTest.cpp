@@ -1,0 +1,157 @@
+#include "ExchangeText.h"
+#include "sdai/Part21Lexer.h"
+
+namespace velkor::sdai::test {
+
+using testing::AnyOf;
+using testing::HasSubstr;
+
+namespace {
+
+const std::string description = "FILE_DESCRIPTION((''),'2;1');\n";
+const std::string name = "FILE_NAME('','',(''),(''),'','','');\n";
+const std::string schema = "FILE_SCHEMA(('IFC4'));\n";
+
+std::string codeOf(const std::vector<Problem>& problems) {
+    std::string result;
+    for (const Problem& problem : problems) result += (result.empty() ? "" : " ") + problem.code;
+    return result;
+}
+
+} // namespace
+
+TEST(SyntaxCheck, SoundStructuresHaveNoProblems) {
+    for (const std::string& text :
+         {withData(""), withData("#1=A();\r\n\t#2=(A()B(1));\\N\\#3 = /* x */ A ( ( ) , 'a''\\S\\'' , !T(#1) ) ;\n"),
+          withHeader(description + name + schema + "FILE_POPULATION('','',(#1));SECTION_LANGUAGE('a','b');!OWN(1.);"),
+          withHeader(description + name + schema,
+                     "DATA('a',('X'));\nENDSEC;\nDATA('b',('X'));#1=A(\"0\",\"3F\");ENDSEC;\n")}) {
+        EXPECT_EQ(placed(syntaxOf(text)), "") << text;
+    }
+    for (const char* example : {"house-ifc2x3.ifc", "pump-room-ifc4.ifc", "road-ifc4x3.ifc"}) {
+        const auto file = Part21File::open(VELKOR_SOURCE_DIR "/examples/models/" + std::string(example));
+        ASSERT_TRUE(file) << file.error();
+        EXPECT_GT((*file)->instanceCount(), 10u);
+        EXPECT_EQ(placed(checkSyntax(**file, 10)), "") << example;
+    }
+}
+
+TEST(SyntaxCheck, TheHeaderHasItsEntitiesOnceInOrderAndComplete) {
+    const std::string both = description + name;
+    const std::pair<std::string, std::vector<std::string>> cases[] = {
+        {"header-entity-missing", {"", both, name + schema}},
+        {"header-entity-missing header-entity-repeated", {description + schema + name}},
+        {"header-entity-repeated", {both + schema + schema}},
+        {"header-entity-unknown", {both + schema + "OWN(1);"}},
+        {"parameter-count",
+         {"FILE_DESCRIPTION((''));" + name + schema, description + "FILE_NAME('','',(''),(''),'','');" + schema,
+          both + "FILE_SCHEMA(('IFC4'),1);"}},
+        {"parameter-type",
+         {"FILE_DESCRIPTION((),'2;1');" + name + schema, "FILE_DESCRIPTION('','2;1');" + name + schema,
+          "FILE_DESCRIPTION((''),$);" + name + schema, description + "FILE_NAME('','',(''),(('')),'','','');" + schema,
+          both + "FILE_SCHEMA('IFC4');"}},
+        {"parameter-type parameter-type", {description + "FILE_NAME('','','',(1),'','','');" + schema}},
+        {"header-entity-missing token-invalid header-entity-missing", {both + "File_Schema(('IFC4'));"}}};
+    for (const auto& [codes, headers] : cases) {
+        for (const std::string& header : headers) EXPECT_EQ(codeOf(syntaxOf(withHeader(header))), codes) << header;
+    }
+}
+
+TEST(SyntaxCheck, SectionsStandInTheirOrder) {
+    const std::string header = "HEADER;\n" + description + name + schema + "ENDSEC;\n";
+    const std::string data = "DATA;\n#1=A();\nENDSEC;\n";
+    const std::string start = "ISO-10303-21;\n";
+    const std::string end = "END-ISO-10303-21;\n";
+    const std::pair<std::string, std::string> cases[] = {
+        {"\xEF\xBB\xBF" + start + header + data + end, "byte-order-mark"},
+        {header + data + end, "start-missing"},
+        {start + data + end, "header-missing"},
+        {start + header + end, "data-missing"},
+        {start + header + "#1=A();\nENDSEC;\n" + end, "data-missing"},
+        {start + header + data + data + end, "data-parameters-missing data-parameters-missing instance-repeated"},
+        {start + header + "DATA('x');\nENDSEC;\n" + end, "parameter-count"},
+        {start + header + "DATA;\n#1=A();\n" + end, "endsec-missing"},
+        {start + header + data, "end-missing"},
+        {start + header + "DATA;\n", "endsec-missing"},
+        {start + header + data + end + "x", "text-behind-end"},
+        {start + header + data + end + "SIGNATURE;\n", "section-skipped"},
+        {start + header + "ANCHOR;\n<a>=1;\nENDSEC;\n" + data + end, "section-skipped"},
+        {start + header + "ANCHOR;\n<a>=1;\n", "section-skipped endsec-missing end-missing"},
+        {start + header + data + "FILE_NAME();\n" + end, "unexpected-token"},
+        {start + header + header + data + end,
+         "unexpected-token unexpected-token unexpected-token unexpected-token unexpected-token"},
+        {start + header + "ENDSEC;\n" + data + end, "unexpected-token"}};
+    for (const auto& [text, codes] : cases) EXPECT_EQ(codeOf(syntaxOf(text)), codes) << text;
+}
+
+TEST(SyntaxCheck, InstancesAreJudgedStrictlyAndInTheirPlace) {
+    const std::pair<const char*, std::vector<const char*>> cases[] = {
+        {"instance-name-zero", {"#0=A();", "#2=A(#0);"}},
+        {"instance-name-too-large", {"#18446744073709551616=A();"}},
+        {"instance-repeated", {"#1=A();"}},
+        {"unexpected-token",
+         {"#2=A('x' 'y');", "#2=A('x',);", "#2=A(,'x');", "#2=A((1,2);", "#2=A(T(1,2));", "#2=A(T());", "#2=A(T);",
+          "#2=A;", "#2 A();", "#2=(A()B);", "#2=();", "x;", ";"}},
+        {"semicolon-missing", {"#2=A(1)"}},
+        {"semicolon-missing unexpected-token", {"#2=A(1));"}},
+        {"token-invalid",
+         {"#2=ifcwall();", "#2=A(IfcLabel('x'));", "#2=A(1.5e3);", "#2=A(1E5);", "#2=A(.5);", "#2=A(-);",
+          "#2=A(1.#INF);", "#2=A(.t.);", "#2=A(\"4F\");", "#2=A(\"0f\");", "#2=A(@);"}},
+        {"token-invalid token-invalid", {"#2=A(1e1,2e2);"}},
+        {"string-invalid", {"#2=A('\\X\\4');", "#2=A('\\X2\\00e4\\X0\\');", "#2=A('b\tc');"}},
+        {"string-not-closed", {"#2=A('open);"}},
+        {"comment-not-closed unexpected-token", {"/* open"}},
+        {"character-invalid", {"#2=A(/* \xC3\xA4 */1);", "#2=A(\x01\x02 1);"}}};
+    for (const auto& [codes, instances] : cases) {
+        for (const char* instance : instances) {
+            const auto problems = syntaxOf(withData("#1=FIRST();\n" + std::string(instance) + "\n#99=LAST(1.);\n"));
+            EXPECT_EQ(codeOf(problems), codes) << instance;
+            for (const Problem& problem : problems) {
+                EXPECT_EQ(problem.line, 9u) << instance;
+                EXPECT_THAT(problem.instance, AnyOf(0u, decodeInstanceName(instance)));
+            }
+        }
+    }
+}
+
+TEST(SyntaxCheck, PointsAtTheVeryCharacter) {
+    const std::string text = withData("#1=A('good',\n  'b\xC3\xA4ut',1.x);\n");
+    const auto problems = syntaxOf(text);
+    ASSERT_EQ(placed(problems), "9 string-invalid, 9 token-invalid");
+    EXPECT_EQ(problems[0].offset, text.find('\xC3'));
+    EXPECT_EQ(problems[1].offset, text.find("1.x"));
+    EXPECT_EQ(problems[0].instance, 1u);
+    EXPECT_THAT(problems[0].message, HasSubstr("\\X2\\00E4\\X0\\"));
+    EXPECT_THAT(problems[1].message, HasSubstr("\"1.x\""));
+}
+
+TEST(SyntaxCheck, CountsAllButKeepsTheFirst) {
+    std::string data;
+    for (int i = 0; i < 100; ++i) data += "#0=A();\n";
+    const std::string text = withData(data);
+    const auto file = read(text);
+    std::uint64_t total = 0;
+    const auto problems = checkSyntax(*file, 7, &total);
+    // Of the hundred all are zero and all but the first repeat.
+    EXPECT_EQ(total, 199u);
+    ASSERT_EQ(problems.size(), 7u);
+    EXPECT_EQ(problems.back().line, 11u);
+}
+
+// Each of these would be read to its end for each of its parts, if nothing remembered that strings and
+// comments are not closed.
+TEST(SyntaxCheck, TextsFullOfWhatIsNotClosedAreJudgedInOnePass) {
+    constexpr std::size_t parts = 60'000;
+    for (const auto& [begin, part, expected] :
+         {std::tuple("' ;\n", "\\S\\' ;\n", parts + 1), std::tuple("", "/* ", parts)}) {
+        std::string data = begin;
+        for (std::size_t i = 0; i < parts; ++i) data += part;
+        const std::string text = withData(data);
+        const auto file = read(text);
+        std::uint64_t total = 0;
+        checkSyntax(*file, 10, &total);
+        EXPECT_EQ(total, expected) << part;
+    }
+}
+
+} // namespace velkor::sdai::test
