@@ -22,9 +22,9 @@ class VELKOR_API QORIIFCImportServices : public QORBaseUnknown {
 public:
     QORIIFCImportServices();
     QORIIFCImportServices(const QORIIFCImportServices& other);
-    QORIIFCImportServices(QORIIFCImportServices&& other);
+    QORIIFCImportServices(QORIIFCImportServices&& other) noexcept;
     QORIIFCImportServices& operator=(const QORIIFCImportServices& other);
-    QORIIFCImportServices& operator=(QORIIFCImportServices&& other);
+    QORIIFCImportServices& operator=(QORIIFCImportServices&& other) noexcept;
     ~QORIIFCImportServices() override;
 
     /// Begins the import of the model file at a path.

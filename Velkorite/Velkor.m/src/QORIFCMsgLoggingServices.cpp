@@ -3,6 +3,8 @@
 #include "exchangelog/QORExchangeErr.h"
 #include "exchangelog/QORMsgCatalog.h"
 
+#include <utility>
+
 QORExchangeErr* QORIFCMsgLoggingServices::_plogError = nullptr;
 
 QORIFCMsgLoggingServices::QORIFCMsgLoggingServices() = default;
@@ -12,7 +14,7 @@ HRESULT QORIFCMsgLoggingServices::PutMsg(QORUnicodeString* text, int* code, QORS
                                          int level, QORUnicodeString* extra, int* extraCode) {
     QORExchangeErr* log = logFor(level);
     if (log == nullptr) return E_FAIL;
-    log->PutMsgErr(text, code, first, second, level, extra, extraCode);
+    log->PutMsgErr(text, code, std::move(first), std::move(second), level, extra, extraCode);
     return S_OK;
 }
 

@@ -5,6 +5,8 @@
 #include "UnitEvaluation.h"
 #include "UnitPositions.h"
 
+#include <span>
+
 using velkor::library::unitPosition;
 using velkor::sdai::Aggregate;
 using velkor::sdai::AggregateIterator;
@@ -108,16 +110,13 @@ HRESULT QORIFCUnitServices::SetSchema(Fileschema schema) {
 }
 
 HRESULT QORIFCUnitServices::StoreGlobalUnits(DXSdaiAppInstance* unitAssignment) {
-    double* factors = nullptr;
-    std::size_t size = 0;
+    std::span<double> factors;
     if (_schema == FileschemaIFC2X3) {
         _IFC2x3_globalSIUnitsFactors.fill(1.0);
-        factors = _IFC2x3_globalSIUnitsFactors.data();
-        size = _IFC2x3_globalSIUnitsFactors.size();
+        factors = _IFC2x3_globalSIUnitsFactors;
     } else if (_schema == FileschemaIFC4) {
         _IFC4_globalSIUnitsFactors.fill(1.0);
-        factors = _IFC4_globalSIUnitsFactors.data();
-        size = _IFC4_globalSIUnitsFactors.size();
+        factors = _IFC4_globalSIUnitsFactors;
     }
 
     HRESULT result = E_FAIL;
@@ -129,7 +128,7 @@ HRESULT QORIFCUnitServices::StoreGlobalUnits(DXSdaiAppInstance* unitAssignment) 
 
         const int position = unitPosition(unit->GetAttr("UNITTYPE").asEnumeration(), _schema);
         const auto slot = static_cast<std::size_t>(isDerived ? position + velkor::library::firstDerivedSlot : position);
-        if (position < 0 || slot >= size) continue;
+        if (position < 0 || slot >= factors.size()) continue;
         factors[slot] = GetUnitConversionFactor(unit);
         result = S_OK;
     }

@@ -6,9 +6,9 @@ VELKOR_IMPLEMENT_INTERFACE(QORIIFCImportServices, QORBaseUnknown, IID_QORIIFCImp
 
 QORIIFCImportServices::QORIIFCImportServices() = default;
 QORIIFCImportServices::QORIIFCImportServices(const QORIIFCImportServices& other) = default;
-QORIIFCImportServices::QORIIFCImportServices(QORIIFCImportServices&& other) = default;
+QORIIFCImportServices::QORIIFCImportServices(QORIIFCImportServices&& other) noexcept = default;
 QORIIFCImportServices& QORIIFCImportServices::operator=(const QORIIFCImportServices& other) = default;
-QORIIFCImportServices& QORIIFCImportServices::operator=(QORIIFCImportServices&& other) = default;
+QORIIFCImportServices& QORIIFCImportServices::operator=(QORIIFCImportServices&& other) noexcept = default;
 QORIIFCImportServices::~QORIIFCImportServices() = default;
 
 QORIIFCImportServices* QORIIFCImportServices_var::__CastTo(const QORBaseUnknown_var& other) {

@@ -35,7 +35,7 @@ std::string decimal(double value, int digits) {
 
 std::string sizeText(std::uint64_t bytes) {
     constexpr std::array<std::string_view, 4> units{"kB", "MB", "GB", "TB"};
-    const std::string exact = counted(bytes, "byte", "bytes");
+    std::string exact = counted(bytes, "byte", "bytes");
     if (bytes < 1000) return exact;
     std::size_t unit = 0;
     double size = static_cast<double>(bytes) / 1000.0;

@@ -25,7 +25,7 @@ void* EntryTable::at(std::int32_t position) const noexcept {
 }
 
 std::int32_t EntryTable::next(std::int32_t position) const noexcept {
-    for (auto i = static_cast<std::size_t>(std::max(position, None) + 1); i < _entries.size(); ++i) {
+    for (auto i = static_cast<std::size_t>(std::max(position, None)) + 1; i < _entries.size(); ++i) {
         if (_entries[i].value != nullptr) return static_cast<std::int32_t>(i);
     }
     return None;

@@ -47,6 +47,7 @@ public:
     QORBaseUnknown() noexcept = default;
     /// A copy is an object of its own: references are not copied.
     QORBaseUnknown(const QORBaseUnknown&) noexcept : QORBaseUnknown() {}
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): nothing is assigned
     QORBaseUnknown& operator=(const QORBaseUnknown&) noexcept { return *this; }
 
     HRESULT QueryInterface(const IID& interfaceId, void** interface) override;

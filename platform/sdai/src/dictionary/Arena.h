@@ -34,7 +34,7 @@ public:
 private:
     void* bytes(std::size_t size, std::size_t alignment);
 
-    static constexpr std::size_t BlockSize = 64 * 1024;
+    static constexpr std::size_t BlockSize = std::size_t{64} * 1024;
     std::vector<std::unique_ptr<std::byte[]>> _blocks;
     std::byte* _next = nullptr;
     std::size_t _left = 0;

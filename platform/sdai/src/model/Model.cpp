@@ -114,7 +114,9 @@ std::vector<std::uint32_t> Model::numbersOf(std::string_view entityName) const {
     if (wanted == nullptr) return numbers;
 
     std::vector<char> isWanted;
-    for (const EntityDefinition* entity : _entities) isWanted.push_back(entity != nullptr && entity->isKindOf(*wanted));
+    for (const EntityDefinition* entity : _entities) {
+        isWanted.push_back(entity != nullptr && entity->isKindOf(*wanted) ? 1 : 0);
+    }
     const auto keywords = _file->keywordNumbers();
     for (std::uint32_t number = 0; number < keywords.size(); ++number) {
         const std::uint16_t keyword = keywords[number];

@@ -31,7 +31,7 @@ constexpr std::uint64_t gather(std::uint64_t highBits) {
 void classifyPortable(const char* text, std::size_t blocks, BlockMasks* masks) {
     for (; blocks > 0; --blocks, ++masks, text += blockSize) {
         BlockMasks result{};
-        for (unsigned i = 0; i < 8; ++i) {
+        for (std::size_t i = 0; i < 8; ++i) {
             std::uint64_t word;
             std::memcpy(&word, text + 8 * i, sizeof word);
             result.quote |= gather(equalBytes(word, '\'')) << (8 * i);
@@ -52,7 +52,7 @@ void classifySse2(const char* text, std::size_t blocks, BlockMasks* masks) {
     const __m128i reverse = _mm_set1_epi8('\\');
     for (; blocks > 0; --blocks, ++masks, text += blockSize) {
         BlockMasks result{};
-        for (unsigned i = 0; i < 4; ++i) {
+        for (std::size_t i = 0; i < 4; ++i) {
             const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + 16 * i));
             const auto bits = [i](__m128i found) {
                 return static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm_movemask_epi8(found))) << (16 * i);

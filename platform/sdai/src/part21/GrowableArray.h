@@ -59,8 +59,8 @@ private:
     void expectFilling(std::size_t bytes) noexcept {
         constexpr std::uintptr_t page = 4096;
         if (bytes < (4U << 20)) return;
-        const auto from = (reinterpret_cast<std::uintptr_t>(_data) + page - 1) / page * page;
-        madvise(reinterpret_cast<void*>(from), (bytes - page) / page * page, MADV_HUGEPAGE);
+        const std::uintptr_t toPage = -reinterpret_cast<std::uintptr_t>(_data) % page;
+        madvise(reinterpret_cast<char*>(_data) + toPage, (bytes - page) / page * page, MADV_HUGEPAGE);
     }
 
     T* _data = nullptr;

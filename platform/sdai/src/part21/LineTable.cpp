@@ -6,7 +6,7 @@ namespace velkor::sdai::part21 {
 
 namespace {
 
-constexpr std::uint64_t blockBytes = 8 * 1024;
+constexpr std::uint64_t blockBytes = std::uint64_t{8} * 1024;
 
 /// Line ends among the characters from `first` up to `last`. A CR LF counts at its LF, so that
 /// text between the two is still on the line that they end.

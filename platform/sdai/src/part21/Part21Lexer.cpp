@@ -10,7 +10,7 @@ using namespace part21;
 
 Token Part21Lexer::next() noexcept {
     skipSeparators();
-    if (_next == _end) return {TokenKind::End, {_next, 0}};
+    if (_next == _end) return {TokenKind::End, {_next, static_cast<std::size_t>(_end - _next)}};
     switch (*_next) {
     case '(':
         return token(TokenKind::Open, _next + 1);

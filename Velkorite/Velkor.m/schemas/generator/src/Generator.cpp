@@ -57,7 +57,9 @@ std::string firstDifference(const std::string& expected, const std::string& foun
         bool more = false, moreFound = false;
         const std::string one = lineAt(expectedLines, more);
         const std::string other = lineAt(foundLines, moreFound);
-        if (one != other) return std::to_string(line) + ": expected " + one + ", found " + other;
+        if (one != other) {
+            return std::to_string(line).append(": expected ").append(one).append(", found ").append(other);
+        }
         if (!more && !moreFound) return std::to_string(line) + ": expected other line ends";
     }
 }

@@ -16,9 +16,7 @@ int fail(const std::string& message) {
     return unreadable;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
     using namespace velkor::dictgen;
     std::string sources, folder = VELKOR_UNITS, profilesPath = VELKOR_PROFILES;
     bool check = false;
@@ -51,4 +49,14 @@ int main(int argc, char** argv) {
     for (const std::string& name : *written) std::cout << "wrote " << name << '\n';
     if (written->empty()) std::cout << units->size() << " units were up to date\n";
     return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& error) {
+        return fail(error.what());
+    }
 }
