@@ -20,10 +20,6 @@ struct Options {
     std::size_t limit = defaultLimit;
 };
 
-const char* name(sdai::Severity severity) {
-    return severity == sdai::Severity::Error ? "error" : "warning";
-}
-
 // As compilers write it, so that editors jump to the place.
 void writeProblem(std::ostream& out, const std::string& file, const sdai::Problem& problem) {
     out << file << ':' << problem.line << ": " << name(problem.severity) << ": ";

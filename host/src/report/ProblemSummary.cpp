@@ -6,6 +6,10 @@
 
 namespace velkor::host {
 
+const char* name(sdai::Severity severity) {
+    return severity == sdai::Severity::Error ? "error" : "warning";
+}
+
 ProblemSummary summarized(std::span<const sdai::Problem> problems, std::uint64_t total) {
     ProblemSummary summary;
     summary.total = total;

@@ -29,6 +29,9 @@ struct ProblemSummary {
     std::uint64_t listed() const noexcept { return errors + warnings; }
 };
 
+/// "error" or "warning".
+const char* name(sdai::Severity severity);
+
 /// `problems` in file order.
 ProblemSummary summarized(std::span<const sdai::Problem> problems, std::uint64_t total);
 

@@ -45,10 +45,6 @@ Json instancesJson(const ModelFacts& facts) {
     return {{"total", facts.instanceCount}, {"keywords", std::move(entities)}};
 }
 
-const char* name(sdai::Severity severity) {
-    return severity == sdai::Severity::Error ? "error" : "warning";
-}
-
 Json problemsJson(const ProblemSummary& summary) {
     Json kinds = Json::array();
     for (const ProblemSummary::Kind& kind : summary.kinds) {

@@ -20,21 +20,10 @@ const SampleSchema sample;
 std::atomic<int> calls = 0;
 int failures = 0;
 
-void hand(const SampleSchema& schema) {
-    const auto copy = [](const std::vector<std::string>& texts) {
-        auto* array = new const char*[texts.size()];
-        std::ranges::transform(texts, array, [](const std::string& text) { return text.c_str(); });
-        return array;
-    };
-    QORDXSdaiSchemaRestore::Restore(DXSdaiDictionaryRepo::TheOne(), static_cast<int>(schema.declarations.size()),
-                                    copy(schema.declarations), static_cast<int>(schema.statements.size()),
-                                    copy(schema.statements), 1, 417);
-}
-
 void loadSample() {
     ++calls;
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    hand(sample);
+    sample.handOver();
 }
 void loadNothing() {
     ++calls;
@@ -43,16 +32,16 @@ void loadFaulty() {
     ++calls;
     SampleSchema faulty;
     faulty.declarations[1] = "Nonsense";
-    hand(faulty);
+    faulty.handOver();
 }
 void loadItself() {
     const auto schema = DXSdaiDictionaryRepo::TheOne().schema("SAMPLE");
     failures += schema.has_value() ? 0 : 1;
-    hand(sample);
+    sample.handOver();
 }
 void loadLater() {
     if (++calls == 1) throw std::runtime_error("not yet");
-    hand(sample);
+    sample.handOver();
 }
 
 std::uint64_t add(DXSdaiDictionaryRepo::Loader loader, const char* name = "SAMPLE") {
@@ -142,7 +131,7 @@ TEST_F(Repository, SurvivesLoadersThatMisbehave) {
     const QORDXSdaiSchemaDecl later(add(&loadLater));
     EXPECT_THROW(repo.schema("SAMPLE"), std::runtime_error);
     EXPECT_TRUE(repo.schema("SAMPLE"));
-    hand(sample); // a second dictionary of the name is dropped
+    sample.handOver(); // a second dictionary of the name is dropped
     EXPECT_TRUE(repo.schema("SAMPLE"));
 }
 

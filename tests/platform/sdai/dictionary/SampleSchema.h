@@ -3,6 +3,7 @@
 
 #include "sdai/QORDXSdaiSchemaRestore.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -73,6 +74,17 @@ struct SampleSchema {
 
     /// The texts must outlive the schema.
     auto restore() const { return restoreSchema(pointers(declarations), pointers(statements)); }
+    /// Hands the lists to the repository, as a loader does.
+    void handOver() const {
+        const auto copy = [](const std::vector<std::string>& texts) {
+            auto* array = new const char*[texts.size()];
+            std::ranges::transform(texts, array, [](const std::string& text) { return text.c_str(); });
+            return array;
+        };
+        QORDXSdaiSchemaRestore::Restore(DXSdaiDictionaryRepo::TheOne(), static_cast<int>(declarations.size()),
+                                        copy(declarations), static_cast<int>(statements.size()), copy(statements), 1,
+                                        417);
+    }
 };
 
 } // namespace velkor::sdai::test

@@ -38,14 +38,7 @@ inline SampleSchema modelSchema() {
 /// Hands the schema to the repository, as the loader that is registered for it.
 inline void loadModelSchema() {
     static const SampleSchema schema = modelSchema();
-    const auto copy = [](const std::vector<std::string>& texts) {
-        auto* array = new const char*[texts.size()];
-        std::ranges::transform(texts, array, [](const std::string& text) { return text.c_str(); });
-        return array;
-    };
-    QORDXSdaiSchemaRestore::Restore(DXSdaiDictionaryRepo::TheOne(), static_cast<int>(schema.declarations.size()),
-                                    copy(schema.declarations), static_cast<int>(schema.statements.size()),
-                                    copy(schema.statements), 1, 417);
+    schema.handOver();
 }
 
 } // namespace velkor::sdai::test
