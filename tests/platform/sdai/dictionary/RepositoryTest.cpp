@@ -3,7 +3,6 @@
 #include "SampleSchema.h"
 #include "sdai/QORDXSdaiSchemaDecl.h"
 
-#include <algorithm>
 #include <atomic>
 #include <gmock/gmock.h>
 #include <stdexcept>
