@@ -1,6 +1,6 @@
 #include "part21/InstanceIndex.h"
 
-#include "part21/Characters.h"
+#include "tokens/Characters.h"
 
 #include <algorithm>
 #include <memory>

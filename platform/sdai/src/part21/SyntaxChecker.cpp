@@ -1,7 +1,7 @@
 #include "part21/SyntaxChecker.h"
 
 #include "part21/Separators.h"
-#include "part21/StringDecoder.h"
+#include "tokens/StringDecoder.h"
 
 #include <algorithm>
 #include <array>

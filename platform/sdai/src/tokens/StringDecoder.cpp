@@ -1,8 +1,8 @@
-#include "part21/StringDecoder.h"
+#include "tokens/StringDecoder.h"
 
-#include "part21/Alphabets.h"
-#include "part21/Characters.h"
 #include "sdai/Part21Lexer.h"
+#include "tokens/Alphabets.h"
+#include "tokens/Characters.h"
 
 #include <charconv>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "part21/Alphabets.h"
+#include "tokens/Alphabets.h"
 
 #include <array>
 

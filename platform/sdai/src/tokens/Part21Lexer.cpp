@@ -1,6 +1,6 @@
 #include "sdai/Part21Lexer.h"
 
-#include "part21/Characters.h"
+#include "tokens/Characters.h"
 
 #include <cstring>
 
