@@ -33,6 +33,8 @@ struct Fault {
     std::size_t position;
     const char* text; // null takes the text away
     const char* expected;
+
+    friend void PrintTo(const Fault& fault, std::ostream* out) { *out << fault.list << fault.position; }
 };
 
 class FaultyLists : public testing::TestWithParam<Fault> {};
