@@ -26,7 +26,7 @@ std::string madeUpModel() {
         "#5=IFCMEASUREWITHUNIT(IFCPLANEANGLEMEASURE(0.017453292519943295),#7);\n"
         "#6=IFCDIMENSIONALEXPONENTS(0,0,0,0,0,0,0);\n#7=IFCSIUNIT(*,.PLANEANGLEUNIT.,$,.RADIAN.);\n";
     for (int i = 11; i < 40000; i += 5) {
-        const auto name = [i](int step) { return "#" + std::to_string(i + step); };
+        const auto name = [i](int step) { return '#' + std::to_string(i + step); };
         text += name(0) + "=IFCCARTESIANPOINT((" + std::to_string(i * 0.37) + ",-1250.5,0.));\n";
         text += name(1) + "=IFCAXIS2PLACEMENT3D(" + name(0) + ",$,$);\n";
         text += name(2) + "=IFCLOCALPLACEMENT($," + name(1) + ");\n";

@@ -19,10 +19,6 @@ add_link_options(-Wl,--as-needed -Wl,-O1)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # A unique symbol would keep the library in the process after dlclose.
   add_compile_options(-fno-gnu-unique)
-  if(CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    # Warns of every literal put before a std::string (GCC bug 105651).
-    add_compile_options(-Wno-restrict)
-  endif()
 endif()
 if(VELKOR_SANITIZE)
   add_compile_options(-fsanitize=${VELKOR_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)

@@ -198,7 +198,7 @@ void writeUnits(Page& page, const UnitReport& report) {
         return;
     }
     page.section("Units",
-                 "#" + std::to_string(*report.assignment) + ", " + counted(report.units.size(), "unit", "units"));
+                 '#' + std::to_string(*report.assignment) + ", " + counted(report.units.size(), "unit", "units"));
     page.entry("Length", unitWorth(report, "LENGTHUNIT", report.lengthFactor, " mm"));
     page.entry("Plane angle", unitWorth(report, "PLANEANGLEUNIT", report.angleFactor, " rad"));
     std::string others;

@@ -26,7 +26,7 @@ void writeText(std::ostream& out, const sdai::Model& model, const UnitReport& re
                      {"slot", TextTable::Right},
                      {"SI factor"}});
     for (const UnitReport::Unit& unit : report.units) {
-        units.add({"#" + std::to_string(unit.id), unit.entity, unit.type, printable(unit.name),
+        units.add({'#' + std::to_string(unit.id), unit.entity, unit.type, printable(unit.name),
                    unit.slot ? std::to_string(*unit.slot) : "-", shortest(unit.factor)});
     }
     if (!units.empty()) units.write(out, "  ");

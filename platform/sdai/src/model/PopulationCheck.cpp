@@ -38,7 +38,7 @@ bool isValue(const Token& token) {
 }
 
 std::string boundsText(const AggregateType& type) {
-    return "[" + std::to_string(type.lowerBound()) + ":" +
+    return '[' + std::to_string(type.lowerBound()) + ":" +
            (type.upperBound() < 0 ? "?" : std::to_string(type.upperBound())) + "]";
 }
 

@@ -148,7 +148,7 @@ TEST(Restore, WantsEveryEntitiesStatementButTheLastFull) {
     SampleSchema sample;
     std::string hundred = "#1.Entities(#21,#27,#11,#8,#28";
     for (std::size_t number = 29; number <= 129; ++number) {
-        const std::string reference = "#" + std::to_string(number);
+        const std::string reference = '#' + std::to_string(number);
         sample.declarations.push_back("Entity(E" + std::to_string(number) + ",INSTANTIABLE,SIMPLE,INDEPENDENT)");
         sample.statements.push_back(reference + ".Composition(" + reference + ")");
         if (number <= 123) hundred += "," + reference;
@@ -174,8 +174,8 @@ TEST(Restore, StaysInBoundsOnListsMadeToExhaustIt) {
     std::string entities = "#1.Entities(", composition;
     constexpr int depth = 3000;
     for (int i = 0; i < depth; ++i) {
-        const std::string entity = "#" + std::to_string(2 * i + 2);
-        const std::string attribute = "#" + std::to_string(2 * i + 3);
+        const std::string entity = '#' + std::to_string(2 * i + 2);
+        const std::string attribute = '#' + std::to_string(2 * i + 3);
         sample.declarations.push_back("Entity(E" + std::to_string(10'000 + i) + ",ABSTRACT,SIMPLE,INDEPENDENT)");
         sample.declarations.push_back("ExplicitAttr(A" + std::to_string(i) + ")");
         if (i > 0) sample.statements.push_back(entity + ".Supertypes(#" + std::to_string(2 * i) + ")");

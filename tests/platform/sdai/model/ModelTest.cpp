@@ -49,7 +49,7 @@ TEST_F(ModelOfSample, SaysWhyAFileIsNoModel) {
 
 TEST_F(ModelOfSample, AnInstanceHasOneAddressAndItsEntity) {
     std::string data;
-    for (int id = 200; id > 0; --id) data += "#" + std::to_string(id) + "=OTHER();\n";
+    for (int id = 200; id > 0; --id) data += '#' + std::to_string(id) + "=OTHER();\n";
     const Model& model = open(data + "#300=UNKNOWN();\n#301=(PART()OTHER());\n#302=twig();\n");
     const std::size_t closed = model.memoryUse();
     for (std::uint32_t number = 0; number < 200; ++number) {
@@ -97,7 +97,7 @@ TEST_F(ModelOfSample, FindsTheInstancesOfAnEntityAndItsSubtypes) {
 
 TEST_F(ModelOfSample, InstancesBeyondTheKeywordNumbersKeepTheirEntity) {
     std::string data;
-    for (int i = 1; i <= 65534; ++i) data += "#" + std::to_string(i) + "=K" + std::to_string(i) + "();";
+    for (int i = 1; i <= 65534; ++i) data += '#' + std::to_string(i) + "=K" + std::to_string(i) + "();";
     const Model& model = open(data + "#70000=TWIG('n');\n#70001=NONE();\n");
     EXPECT_THAT(model.numbersOf("PART"), ElementsAre(65534));
     EXPECT_EQ(instance(70000).GetAttr("NAME").asString(), "n");

@@ -103,7 +103,7 @@ TEST_F(PopulationCheck, ANeighbouringReleaseTellsWhatIsDerived) {
 
 TEST_F(PopulationCheck, CountsAllKeepsTheFirstAndTellsItsProgress) {
     std::string data;
-    for (int i = 1; i <= 20000; ++i) data += "#" + std::to_string(i) + "=OTHER(1);\n";
+    for (int i = 1; i <= 20000; ++i) data += '#' + std::to_string(i) + "=OTHER(1);\n";
     const Model& model = open(data);
     std::vector<std::uint64_t> done;
     PopulationCheckOptions options;

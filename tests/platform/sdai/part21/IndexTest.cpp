@@ -39,7 +39,7 @@ TEST(Index, FindsTheFirstInstanceOfEachIdHoweverIdsLie) {
                 // Comments longer than a segment leave segments without an instance.
                 if (i % 50 == 20) text += "/*" + std::string(1400, '-') + "*/";
                 offsets.push_back(text.size());
-                text += "#" + std::to_string(wanted[i]) + "=A(" + std::string(i % 7, '*') + ");";
+                text += '#' + std::to_string(wanted[i]) + "=A(" + std::string(i % 7, '*') + ");";
             }
             text += "ENDSEC;END-ISO-10303-21;";
             part21::Structure structure(text, segmentBits);

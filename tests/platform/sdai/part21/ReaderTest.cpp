@@ -124,7 +124,7 @@ TEST(Reader, InstanceNamesReachTo64Bits) {
 
 TEST(Reader, MoreKeywordsThanNumbersStayReadable) {
     std::string data;
-    for (int i = 1; i <= 65540; ++i) data += "#" + std::to_string(i) + "=K" + std::to_string(i) + "();\n";
+    for (int i = 1; i <= 65540; ++i) data += '#' + std::to_string(i) + "=K" + std::to_string(i) + "();\n";
     data += "#70000=K1();\n#70001=" + std::string(300, 'X') + "();\n";
     const std::string text = withData(data);
     const auto file = read(text);

@@ -19,7 +19,7 @@ std::string found(const std::string& text, ScanPath path) {
     if (!file) return "";
     std::string result;
     for (std::uint32_t i = 0; i < file->instanceCount(); ++i) {
-        result += std::to_string(file->offset(i)) + "#" + std::to_string(file->id(i)) + ":" +
+        result += std::to_string(file->offset(i)) + '#' + std::to_string(file->id(i)) + ":" +
                   std::to_string(file->keyword(i)) + ":" + std::string(file->instanceText(i)) + "\n";
     }
     for (const std::string& keyword : file->keywords()) result += keyword + " ";
@@ -75,7 +75,7 @@ TEST(ScanPath, DamagedTextsReadAlike) {
     sound.insert(sound.find("ENDSEC;\nEND"), [] {
         std::string data;
         for (int i = 1; i < 60; ++i) {
-            data += "#" + std::to_string(i) + "=IFCTHING" + std::to_string(i % 5) + "('t;=" + std::to_string(i) +
+            data += '#' + std::to_string(i) + "=IFCTHING" + std::to_string(i % 5) + "('t;=" + std::to_string(i) +
                     "',#" + std::to_string(i - 1) + ",(1.,2.),/* c */$);" + (i % 4 == 0 ? "\r\n" : "\n");
             if (i % 20 == 0) data += doubtful;
         }

@@ -30,7 +30,7 @@ std::string joined(const std::vector<std::string>& texts) {
 }
 
 std::string reference(int number) {
-    return "#" + std::to_string(number);
+    return '#' + std::to_string(number);
 }
 
 /// A defined type or an entity, with the numbers it was given.

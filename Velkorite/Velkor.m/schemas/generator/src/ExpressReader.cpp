@@ -218,7 +218,7 @@ private:
         const int width = integer();
         if (width == 0) fail("a width above 0");
         expect(')');
-        std::string text = "(" + std::to_string(width);
+        std::string text = '(' + std::to_string(width);
         if (take("FIXED")) text += ",FIXED";
         return text + ")";
     }

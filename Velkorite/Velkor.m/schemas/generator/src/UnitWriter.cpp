@@ -14,7 +14,7 @@ std::string storedTexts(const std::deque<std::string>& texts) {
     std::string sizes, literals;
     std::size_t part = 0, size = 0;
     const auto closePart = [&] {
-        sizes += "    char part" + std::to_string(part++) + "[" + std::to_string(size) + "];\n";
+        sizes += "    char part" + std::to_string(part++) + '[' + std::to_string(size) + "];\n";
         size = 0;
     };
     for (const std::string& text : texts) {
