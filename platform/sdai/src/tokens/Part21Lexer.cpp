@@ -151,7 +151,8 @@ Token Part21Lexer::binary() noexcept {
         return token(TokenKind::Bad, at != _end && *at == '"' ? at + 1 : at);
     }
     // The first digit tells how many bits of the next are unused.
-    const bool counted = _next[1] >= '0' && _next[1] <= '3';
+    const bool hasBits = at - _next > 2;
+    const bool counted = _next[1] == '0' || (hasBits && _next[1] >= '1' && _next[1] <= '3');
     return token(counted ? TokenKind::Binary : TokenKind::Bad, at + 1);
 }
 

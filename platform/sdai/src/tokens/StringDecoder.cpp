@@ -164,6 +164,7 @@ void StringDecoder::extended(std::size_t digits) {
                           (low & 0xFC00U) == 0xDC00;
         if (pair) {
             value = 0x10000 + ((value & 0x3FFU) << 10) + (low & 0x3FFU);
+            violation(at, "a pair of surrogates is no character; it is written as \\X4\\" + inHex(value, 8) + "\\X0\\");
             at += 4;
         } else if (value > 0x10FFFF || (value & 0xFFFFF800U) == 0xD800) {
             violation(at, "code " + inHex(value, static_cast<int>(digits)) + " is no character");
