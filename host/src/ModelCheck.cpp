@@ -5,11 +5,14 @@
 #include "sdai/SyntaxCheck.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace velkor::host {
 
 namespace {
+
+constexpr std::array<std::string_view, 2> numberTypes{"IFCCOUNTMEASURE", "IFCNUMERICMEASURE"};
 
 /// The release whose dictionary has the derived attributes that this one's leaves out.
 DXSdaiDictionaryRepo::SchemaPointer derivingNeighbour(const sdai::SchemaDefinition& schema) {
@@ -42,7 +45,7 @@ CheckResult checkModel(CommandContext& context, const sdai::Model& model, std::s
     const auto neighbour = derivingNeighbour(model.schema());
     std::uint64_t total = 0;
     const auto show = [&](std::uint64_t done, std::uint64_t all) { progress.show(done, all); };
-    const auto population = sdai::checkPopulation(model, {limit, neighbour.get(), show}, &total);
+    const auto population = sdai::checkPopulation(model, {limit, neighbour.get(), numberTypes, show}, &total);
 
     CheckResult result;
     result.total = structure.total + total;

@@ -93,6 +93,12 @@ TEST(CheckCommand, TakesDerivedAttributesFromTheNeighbourOfAReleaseWithoutThem) 
     }
 }
 
+TEST(CheckCommand, TakesWholeNumbersWhereTheSchemaHasNumber) {
+    const TemporaryModel model("IFC4", "#1=IFCPROPERTYSINGLEVALUE('n',$,IFCCOUNTMEASURE(3),$);\n"
+                                       "#2=IFCPROPERTYSINGLEVALUE('n',$,IFCLENGTHMEASURE(3),$);\n");
+    EXPECT_EQ(places(checkJson(model.path())), "9 #2 integer-for-real");
+}
+
 TEST(CheckCommand, ListsNoMoreThanTheLimit) {
     std::string data;
     for (int i = 1; i <= 1500; ++i) data += '#' + std::to_string(i) + "=IFCFOO('\xff');\n";

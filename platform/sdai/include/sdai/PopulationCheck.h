@@ -4,6 +4,9 @@
 #include "sdai/Model.h"
 #include "sdai/SyntaxCheck.h"
 
+#include <span>
+#include <string_view>
+
 namespace velkor::sdai {
 
 struct PopulationCheckOptions {
@@ -12,6 +15,9 @@ struct PopulationCheckOptions {
     /// whose own does not: "*" is accepted where an entity of the same name derives the
     /// attribute there. May be null.
     const SchemaDefinition* derivedAttributes = nullptr;
+    /// Defined types that are NUMBER in EXPRESS, upper case: dictionaries state them as REAL, but a whole
+    /// number may stand there.
+    std::span<const std::string_view> numberTypes;
     Progress progress;
 };
 

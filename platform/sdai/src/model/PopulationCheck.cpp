@@ -42,12 +42,6 @@ std::string boundsText(const AggregateType& type) {
            (type.upperBound() < 0 ? "?" : std::to_string(type.upperBound())) + "]";
 }
 
-/// Types that are NUMBER in EXPRESS, which dictionaries state as REAL.
-bool isNumber(const Type& declared) {
-    const DefinedType* type = declared.asDefined();
-    return type != nullptr && (type->name() == "IFCNUMERICMEASURE" || type->name() == "IFCCOUNTMEASURE");
-}
-
 /// Characters of a String token.
 std::size_t characters(const Token& token) {
     const std::string_view body = token.text.substr(1, token.text.size() - 2);
@@ -162,6 +156,11 @@ void PopulationChecker::checkValue(const Type& type) {
     if (const auto* entity = resolved.asEntity()) return checkReference(*entity, token);
     if (const auto* select = resolved.asSelect()) return checkSelect(*select, type, token);
     if (const auto* aggregate = resolved.asAggregate()) return checkAggregate(*aggregate, type, token);
+}
+
+bool PopulationChecker::isNumber(const Type& declared) const {
+    const DefinedType* type = declared.asDefined();
+    return type != nullptr && std::ranges::find(_options.numberTypes, type->name()) != _options.numberTypes.end();
 }
 
 void PopulationChecker::checkSimple(const SimpleType& type, const Type& declared, const Token& token) {

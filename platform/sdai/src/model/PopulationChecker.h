@@ -26,6 +26,7 @@ private:
     void checkAttribute(const EntityDefinition& entity, const AttributeSlot& slot);
     bool mayBeDerived(const EntityDefinition& entity, const AttributeSlot& slot) const;
 
+    bool isNumber(const Type& declared) const;
     void checkValue(const Type& type);
     void checkSimple(const SimpleType& type, const Type& declared, const Token& token);
     void checkText(const SimpleType& type, const Type& declared, const Token& token);
