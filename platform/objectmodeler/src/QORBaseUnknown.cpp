@@ -2,7 +2,6 @@
 
 #include "ComponentAccess.h"
 #include "objectmodeler/ClassDictionary.h"
-#include "objectmodeler/ComponentMacros.h"
 
 #include <cstdlib>
 

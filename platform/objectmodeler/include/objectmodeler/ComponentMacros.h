@@ -16,19 +16,6 @@
 
 namespace velkor::objectmodeler {
 
-/// The metaclass in `slot`, made by `make` under the object modeler's lock when there is none yet.
-template <typename Make>
-QORMetaClass* metaClassOnDemand(std::atomic<QORMetaClass*>& slot, Make make) {
-    if (QORMetaClass* metaClass = slot.load(std::memory_order_acquire)) return metaClass;
-    const vrn::internal::om_guard guard;
-    QORMetaClass* metaClass = slot.load(std::memory_order_relaxed);
-    if (metaClass == nullptr) {
-        metaClass = make();
-        slot.store(metaClass, std::memory_order_release);
-    }
-    return metaClass;
-}
-
 /// Makes a component in the object modeler's storage; null when there is none left.
 template <class Implementation>
 QORBaseUnknown* createInstance() {

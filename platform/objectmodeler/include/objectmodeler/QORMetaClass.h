@@ -5,6 +5,7 @@
 
 #include "objectmodeler/IID.h"
 
+#include <atomic>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -86,5 +87,18 @@ namespace velkor::objectmodeler {
 /// A metaclass by class name, or an interface's by identifier; null when none was made.
 QORMetaClass* metaClass(std::string_view className);
 QORMetaClass* metaClass(const IID& interfaceId);
+
+/// The metaclass in `slot`, made by `make` under the object modeler's lock when there is none yet.
+template <typename Make>
+QORMetaClass* metaClassOnDemand(std::atomic<QORMetaClass*>& slot, Make make) {
+    if (QORMetaClass* metaClass = slot.load(std::memory_order_acquire)) return metaClass;
+    const vrn::internal::om_guard guard;
+    QORMetaClass* metaClass = slot.load(std::memory_order_relaxed);
+    if (metaClass == nullptr) {
+        metaClass = make();
+        slot.store(metaClass, std::memory_order_release);
+    }
+    return metaClass;
+}
 
 } // namespace velkor::objectmodeler
