@@ -56,10 +56,12 @@ tl::expected<std::unique_ptr<Model>, std::string> Model::fromText(std::string_vi
 }
 
 tl::expected<std::unique_ptr<Model>, std::string> Model::over(std::unique_ptr<Part21File> file) {
-    if (const auto problem = schemaProblem(*file)) {
-        return tl::unexpected(file->name() + ":" + std::to_string(problem->line) + ": " + problem->message);
+    const std::string registered = registeredSchema(schemaNames(*file));
+    if (registered.empty()) {
+        const Problem problem = *schemaProblem(*file);
+        return tl::unexpected(file->name() + ":" + std::to_string(problem.line) + ": " + problem.message);
     }
-    auto schema = DXSdaiDictionaryRepo::TheOne().schema(registeredSchema(schemaNames(*file)));
+    auto schema = DXSdaiDictionaryRepo::TheOne().schema(registered);
     if (!schema) return tl::unexpected(file->name() + ": " + schema.error());
     return std::unique_ptr<Model>(new Model(std::move(file), std::move(*schema)));
 }
