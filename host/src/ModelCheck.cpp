@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 
 namespace velkor::host {
 
@@ -23,11 +22,11 @@ DXSdaiDictionaryRepo::SchemaPointer derivingNeighbour(const sdai::SchemaDefiniti
 
 } // namespace
 
-void CheckResult::add(sdai::Problem problem, std::size_t limit) {
-    ++total;
-    const auto place = std::ranges::upper_bound(problems, problem.offset, {}, &sdai::Problem::offset);
-    problems.insert(place, std::move(problem));
-    if (problems.size() > limit) problems.pop_back();
+void CheckResult::add(const std::vector<sdai::Problem>& more, std::uint64_t count, std::size_t limit) {
+    total += count;
+    const auto middle = problems.insert(problems.end(), more.begin(), more.end());
+    std::ranges::inplace_merge(problems, middle, {}, &sdai::Problem::offset);
+    if (problems.size() > limit) problems.resize(limit);
 }
 
 CheckResult checkStructure(CommandContext& context, const sdai::Part21File& file, std::size_t limit) {
@@ -39,19 +38,14 @@ CheckResult checkStructure(CommandContext& context, const sdai::Part21File& file
 }
 
 CheckResult checkModel(CommandContext& context, const sdai::Model& model, std::size_t limit) {
-    CheckResult structure = checkStructure(context, model.file(), limit);
+    CheckResult result = checkStructure(context, model.file(), limit);
 
     Progress progress(context, "Checking the instances");
     const auto neighbour = derivingNeighbour(model.schema());
     std::uint64_t total = 0;
     const auto show = [&](std::uint64_t done, std::uint64_t all) { progress.show(done, all); };
     const auto population = sdai::checkPopulation(model, {limit, neighbour.get(), numberTypes, show}, &total);
-
-    CheckResult result;
-    result.total = structure.total + total;
-    std::ranges::merge(structure.problems, population, std::back_inserter(result.problems), {}, &sdai::Problem::offset,
-                       &sdai::Problem::offset);
-    if (result.problems.size() > limit) result.problems.resize(limit);
+    result.add(population, total, limit);
     return result;
 }
 

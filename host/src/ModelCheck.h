@@ -14,8 +14,8 @@ struct CheckResult {
     std::vector<sdai::Problem> problems;
     std::uint64_t total = 0;
 
-    /// Puts a problem in its place.
-    void add(sdai::Problem problem, std::size_t limit);
+    /// Puts more problems, `count` of them with those beyond the limit, in their places.
+    void add(const std::vector<sdai::Problem>& more, std::uint64_t count, std::size_t limit);
 };
 
 /// The exchange structure alone.

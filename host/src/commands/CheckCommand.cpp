@@ -70,7 +70,7 @@ void runCheck(CommandContext& context, const Options& options) {
     const auto schemaProblem = options.syntaxOnly ? std::nullopt : sdai::Model::schemaProblem(**file);
     if (options.syntaxOnly || schemaProblem) {
         CheckResult result = checkStructure(context, **file, options.limit);
-        if (schemaProblem) result.add(*schemaProblem, options.limit);
+        if (schemaProblem) result.add({*schemaProblem}, 1, options.limit);
         return finish(context, (*file)->name(), {}, result);
     }
     const auto model = sdai::Model::over(std::move(*file));
