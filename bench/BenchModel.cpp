@@ -21,12 +21,14 @@ std::unique_ptr<Model> openModel(benchmark::State& state) {
     return nullptr;
 }
 
-/// From the open model to its global unit factors. Each round has a model of its own, no instance of which
-/// has been touched; `instanceBytes` is what the answer left in memory.
+/// From the open model to its global unit factors. Each round has a model of its own, whose units have not
+/// been touched; `instanceBytes` is what the answer left in memory.
 void unitsOfAModel(benchmark::State& state) {
     for (auto _ : state) {
         const auto model = openModel(state);
         if (!model) return;
+        // What the first instance brings with it, whichever it is, is not the units'.
+        model->instanceAt(model->file().instanceCount() - 1);
         const std::size_t before = model->memoryUse();
         const auto start = std::chrono::steady_clock::now();
         const auto assignments = model->numbersOf("IFCUNITASSIGNMENT");
@@ -39,9 +41,7 @@ void unitsOfAModel(benchmark::State& state) {
         if (!isDone) return state.SkipWithError("the model has no units");
         const auto size = static_cast<double>(model->file().text().size());
         state.counters["memoryPerByte"] = static_cast<double>(model->memoryUse()) / size;
-        // The table of pages grows with the model, the pages in it with the instances touched.
-        const std::size_t table = (model->file().instanceCount() / 64 + 1) * sizeof(void*);
-        state.counters["instanceBytes"] = static_cast<double>(model->memoryUse() - before - table);
+        state.counters["instanceBytes"] = static_cast<double>(model->memoryUse() - before);
     }
 }
 
