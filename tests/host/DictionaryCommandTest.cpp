@@ -1,4 +1,4 @@
-#include "CommandContext.h"
+#include "TestSupport.h"
 
 #include <algorithm>
 #include <dlfcn.h>
@@ -18,20 +18,13 @@ using testing::StartsWith;
 
 namespace {
 
-struct Outcome {
-    int status;
-    std::string out;
-    std::string err;
-
-    json parsed() const { return json::parse(out); }
-};
-
 Outcome run(const std::string& arguments) {
-    std::istringstream stream("dictionary " + arguments);
-    std::ostringstream out, err;
-    CommandContext context{out, err};
-    const int status = host::run({std::istream_iterator<std::string>(stream), {}}, context);
-    return {status, out.str(), err.str()};
+    std::istringstream words("dictionary " + arguments);
+    return runHost({std::istream_iterator<std::string>(words), {}});
+}
+
+json parsed(const Outcome& outcome) {
+    return json::parse(outcome.out);
 }
 
 class DictionaryCommand : public testing::Test {
@@ -60,7 +53,7 @@ TEST_F(DictionaryCommand, ListsWhatEachReleaseCarries) {
     };
     const Outcome listed = run("list --format json");
     EXPECT_EQ(listed.status, Done);
-    const json schemas = listed.parsed()["schemas"];
+    const json schemas = parsed(listed)["schemas"];
     std::vector<std::string> names;
     for (const json& schema : schemas) {
         names.push_back(schema["name"]);
@@ -79,7 +72,7 @@ TEST_F(DictionaryCommand, ShowsAListTextByText) {
     const std::string declarations = run("show IFC2X3_TC1 --declarations").out;
     EXPECT_THAT(declarations, StartsWith("Schema(IFC2X3)\nDefinedType(IFCABSORBEDDOSEMEASURE,RealType(8))\n"));
     EXPECT_EQ(std::ranges::count(declarations, '\n'), 2674);
-    const json statements = run("show 2x3 --statements --format json").parsed();
+    const json statements = parsed(run("show 2x3 --statements --format json"));
     EXPECT_EQ(statements["schema"], "IFC2X3");
     EXPECT_EQ(statements["list"], "statements");
     EXPECT_EQ(statements["texts"].size(), 3080U);
@@ -90,7 +83,7 @@ TEST_F(DictionaryCommand, ShowsAListTextByText) {
 }
 
 TEST_F(DictionaryCommand, DescribesAnEntityAsInstancesHoldIt) {
-    const json unit = run("entity IFC4 IfcSIUnit --format json").parsed();
+    const json unit = parsed(run("entity IFC4 IfcSIUnit --format json"));
     EXPECT_EQ(unit["entity"], "IFCSIUNIT");
     EXPECT_EQ(unit["abstract"], false);
     EXPECT_THAT(unit["supertypes"], ElementsAre("IFCNAMEDUNIT"));
@@ -105,7 +98,7 @@ TEST_F(DictionaryCommand, DescribesAnEntityAsInstancesHoldIt) {
         {"name", "PREFIX"}, {"owner", "IFCSIUNIT"}, {"type", "IFCSIPREFIX"}, {"optional", true}, {"derived", false}};
     EXPECT_EQ(unit["attributes"][2], prefix);
     // This release carries no derived attributes.
-    EXPECT_EQ(run("entity IFC4X1 IFCSIUNIT --format json").parsed()["attributes"][0]["owner"], "IFCNAMEDUNIT");
+    EXPECT_EQ(parsed(run("entity IFC4X1 IFCSIUNIT --format json"))["attributes"][0]["owner"], "IFCNAMEDUNIT");
 
     const std::string wall = run("entity 4 ifcwall").out;
     EXPECT_THAT(wall, StartsWith("IFCWALL of IFC4\nsupertypes: IFCBUILDINGELEMENT, IFCELEMENT, IFCPRODUCT, IFCOBJECT, "
@@ -117,7 +110,7 @@ TEST_F(DictionaryCommand, DescribesAnEntityAsInstancesHoldIt) {
 }
 
 TEST_F(DictionaryCommand, ComparesReleases) {
-    const json diff = run("diff 2x3 IFC4 --format json").parsed();
+    const json diff = parsed(run("diff 2x3 IFC4 --format json"));
     EXPECT_EQ(diff["before"], "IFC2X3");
     EXPECT_EQ(diff["after"], "IFC4");
     EXPECT_THAT(diff["entities"]["added"], IsSupersetOf({"IFCCHIMNEY", "IFCDOORTYPE"}));
@@ -136,7 +129,7 @@ TEST_F(DictionaryCommand, ComparesReleases) {
     const json label = changed(diff["types"]["changed"], "IFCLABEL");
     EXPECT_EQ(label["definition"][0]["after"], "STRING(255)");
 
-    const json prefix = changed(run("diff 4 4x3 --format json").parsed()["types"]["changed"], "IFCSIPREFIX");
+    const json prefix = changed(parsed(run("diff 4 4x3 --format json"))["types"]["changed"], "IFCSIPREFIX");
     EXPECT_EQ(prefix["kind"], "enumeration");
     EXPECT_EQ(prefix["reordered"], true);
     EXPECT_TRUE(prefix["added"].empty() && prefix["removed"].empty());
