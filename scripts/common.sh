@@ -5,7 +5,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
 # To build and run.
-build_packages=(g++ cmake ninja-build libutf8proc-dev libxxhash-dev libexpected-dev libcli11-dev
+build_packages=(g++ cmake ninja-build libutf8proc-dev libxxhash-dev libxml2-dev libexpected-dev libcli11-dev
   nlohmann-json3-dev libssl-dev pkg-config)
 # To test as well.
 test_packages=(libgtest-dev libgmock-dev clang-format binutils git)

@@ -33,6 +33,7 @@ public:
     MOCK_METHOD(int, PutMsgErr, (QORUnicodeString*, int*, QORString, QORString, int, QORUnicodeString*, int*),
                 (override));
     MOCK_METHOD(int, PutUnicodeMessage, (const QORUnicodeString&, short, short), (override));
+    MOCK_METHOD(int, PutMessage, (const QORUnicodeString&), (override));
 
     int level;
 };

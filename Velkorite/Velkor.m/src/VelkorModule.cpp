@@ -5,6 +5,7 @@
 #include "objectmodeler/QORFillDictionary.h"
 #include "objectmodeler/QOROMModule.h"
 #include "QORIIFCImportServices.h"
+#include "QORXCADNodeFilter.h"
 
 #include <cstdlib>
 #include <iterator>
@@ -12,6 +13,12 @@
 namespace {
 
 void* moduleAddress();
+
+template <class Implementation, class Interface, QORExtensionFactory factory>
+void* registerExtension() {
+    QORFillDictionary::Register(Implementation::MetaObject(), Interface::MetaObject(), factory, nullptr, 1);
+    return moduleAddress();
+}
 
 template <class Interface>
 void* registerInterface() {
@@ -23,6 +30,7 @@ void* registerInterface() {
 [[gnu::section("velkor_registrations"), gnu::used]] const QOROMRegistration registrations[] = {
     nullptr,
     registerInterface<QORIIFCImportServices>,
+    registerExtension<QORXCADNodeFilter, QORIDOMNodeFilter, CreateTIEQORIDOMNodeFilterQORXCADNodeFilter>,
     nullptr,
 };
 

@@ -16,4 +16,8 @@ int MessageLog::PutUnicodeMessage(const QORUnicodeString& message, short level, 
     return 0;
 }
 
+int MessageLog::PutMessage(const QORUnicodeString& message) {
+    return PutUnicodeMessage(message, 0, 0);
+}
+
 } // namespace velkor::exchangelog

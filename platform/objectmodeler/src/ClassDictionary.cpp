@@ -63,8 +63,13 @@ void add(Registration registration, const std::string& call) {
     dictionary().registrations.push_back(std::move(registration));
 }
 
-/// Whether extensions of the class may be put on the object.
-bool mayExtend(const QORMetaClass& implementation, const QORBaseUnknown& object) {
+/// Whether the interface may be put on the object.
+bool mayExtend(const Registration& registration, const QORBaseUnknown& object) {
+    const QORMetaClass& implementation = *registration.implementation;
+    // A TIE forwards to operations that only its implementation has.
+    if (!implementation.isKindOf(registration.interface->GetClassId())) {
+        return object.IsAKindOf(implementation.GetClassName()) == 1;
+    }
     return implementation.extendsEveryObject() || object.IsAKindOf(implementation.GetExtendedClassName()) == 1;
 }
 
@@ -80,7 +85,7 @@ QORBaseUnknown_var createComponent(std::string_view creationName) {
 void* extendObject(QORBaseUnknown& object, const IID& interfaceId) {
     const std::scoped_lock lock(dictionary().mutex);
     const Registration* found = dictionary().find([&](const Registration& r) {
-        return r.factory != nullptr && r.interface->isKindOf(interfaceId) && mayExtend(*r.implementation, object);
+        return r.factory != nullptr && r.interface->isKindOf(interfaceId) && mayExtend(r, object);
     });
     if (found == nullptr) return nullptr;
 

@@ -27,6 +27,8 @@ public:
     int PutMsgErr(QORUnicodeString* text, int* code, QORString first, QORString second, int level,
                   QORUnicodeString* extra, int* extraCode) override;
     int PutUnicodeMessage(const QORUnicodeString& message, short level, short kind) override;
+    /// Keeps the text with level and kind 0.
+    int PutMessage(const QORUnicodeString& message) override;
 
 private:
     int _level;

@@ -16,6 +16,8 @@ public:
                           QORUnicodeString* extra, int* extraCode) = 0;
     /// A finished message of a level and a kind.
     virtual int PutUnicodeMessage(const QORUnicodeString& message, short level, short kind) = 0;
+    /// A finished message without a level of its own: who writes it has looked at the log's.
+    virtual int PutMessage(const QORUnicodeString& message) = 0;
 };
 
 /// The log of the exchange under way; null when there is none. The log belongs to the host.

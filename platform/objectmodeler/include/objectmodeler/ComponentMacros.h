@@ -34,7 +34,7 @@ inline QORBaseUnknown* createNothing() {
 public:                                                                                                                \
     static QORMetaClass* MetaObject();                                                                                 \
     static const char* ClassName();                                                                                    \
-    static const IID& ClassId();                                                                                       \
+    [[maybe_unused]] static const IID& ClassId();                                                                      \
     QORMetaClass* GetMetaObject() const override;                                                                      \
     const char* IsA() const override;                                                                                  \
     int IsAKindOf(const char* className) const override;                                                               \

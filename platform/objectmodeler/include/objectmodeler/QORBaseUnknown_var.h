@@ -65,7 +65,15 @@ class QORInterface_var : public QORBaseUnknown_var {
 public:
     QORInterface_var() noexcept = default;
     QORInterface_var(Interface* object) noexcept : QORBaseUnknown_var(object) {}
-    QORInterface_var(const QORBaseUnknown_var& other) : QORBaseUnknown_var(adopt(__CastTo(other))) {}
+    QORInterface_var(const QORBaseUnknown_var& other)
+        : QORBaseUnknown_var(QORBaseUnknown_var::adopt(__CastTo(other))) {}
+
+    /// Takes over the caller's reference.
+    static QORInterface_var adopt(Interface* object) noexcept {
+        QORInterface_var result;
+        static_cast<QORBaseUnknown_var&>(result) = QORBaseUnknown_var::adopt(object);
+        return result;
+    }
 
     /// The interface with a reference that the caller releases; null when the object lacks it.
     static Interface* __CastTo(const QORBaseUnknown_var& other) {

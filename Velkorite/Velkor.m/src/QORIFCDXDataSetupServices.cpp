@@ -1,0 +1,73 @@
+#include "QORIFCDXDataSetupServices.h"
+
+#include "files/QORISetupDataFinder.h"
+#include "objectmodeler/Assertion.h"
+#include "QORIFCDXFileServices.h"
+
+namespace {
+
+constexpr const char* resourceExtension = "xml";
+constexpr int allItems = -1;
+
+QORUnicodeString resourceKey(const QORUnicodeString& resourceSet, const QORUnicodeString& category) {
+    return resourceSet + "|" + category;
+}
+
+} // namespace
+
+HRESULT QORIFCDXDataSetupServices::GetResourcePath(const QORUnicodeString& resourceSet,
+                                                   const QORUnicodeString& category, const QORUnicodeString& subFolder,
+                                                   QORUnicodeString& path) {
+    const QORISetupDataFinder_var finder = QORSetupDataGlobalFunctions::GetSetupDataFinder();
+    if (!finder.IsNull() && SUCCEEDED(finder->GetResourcePath(resourceKey(resourceSet, category), path)) &&
+        !path.IsEmpty()) {
+        return S_OK;
+    }
+    if (subFolder.IsEmpty()) return S_OK;
+
+    QORListValQORUnicodeString files;
+    const HRESULT result = QORIFCDXFileServices::FindResourceFiles(subFolder, resourceExtension, files);
+    if (FAILED(result)) {
+        VELKOR_ASSERTION_FAILED();
+        return result;
+    }
+    // Nothing says which of several is meant.
+    if (files.Size() != 1) {
+        VELKOR_ASSERTION_FAILED();
+        return E_UNEXPECTED;
+    }
+    path = files[1];
+    return S_OK;
+}
+
+HRESULT QORIFCDXDataSetupServices::GetResourcePaths(const QORUnicodeString& resourceSet,
+                                                    const QORUnicodeString& category, const QORUnicodeString& subFolder,
+                                                    QORListValQORUnicodeString& paths) {
+    paths.RemoveAll();
+    const QORISetupDataFinder_var finder = QORSetupDataGlobalFunctions::GetSetupDataFinder();
+    if (finder.IsNull()) {
+        VELKOR_ASSERTION_FAILED();
+        return E_UNEXPECTED;
+    }
+    QORListValQORIKweAppResourceSubItem_var items;
+    if (SUCCEEDED(finder->GetResourceSubItems(resourceKey(resourceSet, category), items, allItems))) {
+        for (const QORIKweAppResourceSubItem_var& item : items) {
+            QORUnicodeString path;
+            if (item.IsNull()) {
+                VELKOR_ASSERTION_FAILED();
+            } else if (SUCCEEDED(item->GetPath(path))) {
+                paths.Append(path);
+            }
+        }
+    }
+    if (subFolder.IsEmpty()) return S_OK;
+
+    QORListValQORUnicodeString files;
+    const HRESULT result = QORIFCDXFileServices::FindResourceFiles(subFolder, resourceExtension, files);
+    if (FAILED(result)) {
+        VELKOR_ASSERTION_FAILED();
+        return result;
+    }
+    paths.Append(files);
+    return S_OK;
+}

@@ -1,0 +1,63 @@
+#include "files/QORSysRTVWalker.h"
+
+#include "files/QORDirectory.h"
+
+#include <unordered_set>
+
+namespace {
+
+// Never destroyed: a library that is unloaded late may still walk.
+QORListValQORUnicodeString& folders() {
+    static QORListValQORUnicodeString& instance = *new QORListValQORUnicodeString;
+    return instance;
+}
+
+/// Full paths of the entries in one place of the runtime view, without those that are hidden.
+QORListValQORUnicodeString entries(const QORUnicodeString& subPath, const QORUnicodeString& ending) {
+    QORListValQORUnicodeString paths;
+    std::unordered_set<QORUnicodeString> seen;
+    for (const QORUnicodeString& folder : folders()) {
+        const QORUnicodeString place = folder + subPath;
+        QORDirectory* directory = nullptr;
+        if (FAILED(QOROpenDirectory(place, directory))) continue;
+        QORUnicodeString name;
+        while (QORReadDirectory(directory, name) == S_OK) {
+            if (name.utf8().ends_with(ending.utf8()) && seen.insert(name).second) paths.Append(place + "/" + name);
+        }
+        QORCloseDirectory(directory);
+    }
+    return paths;
+}
+
+} // namespace
+
+void QORSysRTVWalker::AppendRTVSubDir(const QORUnicodeString& name) {
+    _subPath += "/" + name;
+}
+
+void QORSysRTVWalker::SetPattern(const QORUnicodeString& ending) {
+    _ending = ending;
+}
+
+HRESULT QORSysRTVWalker::GetNext(QORUnicodeString& path) {
+    if (_next == 0) {
+        _paths = entries(_subPath, _ending);
+        _next = 1;
+    }
+    path = _next <= _paths.Size() ? _paths[_next] : QORUnicodeString();
+    if (path.IsEmpty()) return E_FAIL;
+    ++_next;
+    return S_OK;
+}
+
+namespace velkor::files {
+
+void setRuntimeView(const QORListValQORUnicodeString& runtimeViewFolders) {
+    folders() = runtimeViewFolders;
+}
+
+QORListValQORUnicodeString runtimeView() {
+    return folders();
+}
+
+} // namespace velkor::files
