@@ -1,6 +1,7 @@
-/// How the parser speaks to people: through the exchange log.
+/// How the parser speaks to people: through the exchange log, never by itself.
 #pragma once
 
+#include <functional>
 #include <libxml/xmlerror.h>
 #include <string>
 
@@ -14,5 +15,22 @@ void log(const std::string& text, MessageLevel level);
 
 /// What libxml2 has to say, without line ends and cut to a bearable length.
 std::string messageText(const xmlError& error);
+
+/// Has what libxml2 says in this thread, apart from what handlers of a context get, go to a function
+/// while the object lives. The thread's handlers are put back afterwards.
+class MessageCapture {
+public:
+    explicit MessageCapture(std::function<void(const std::string&)> receive);
+    ~MessageCapture();
+    MessageCapture(const MessageCapture&) = delete;
+    MessageCapture& operator=(const MessageCapture&) = delete;
+
+private:
+    std::function<void(const std::string&)> _receive;
+    xmlStructuredErrorFunc _structured;
+    void* _structuredContext;
+    xmlGenericErrorFunc _generic;
+    void* _genericContext;
+};
 
 } // namespace velkor::xml

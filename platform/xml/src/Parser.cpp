@@ -26,7 +26,8 @@ constexpr std::size_t maximumDefaults = 16U << 20U;
 
 class Parse {
 public:
-    Parse(std::string name, const QORIXMLErrorHandler_var& handler) : _name(std::move(name)), _handler(handler) {
+    Parse(std::string name, const QORIXMLErrorHandler_var& handler)
+        : _name(std::move(name)), _handler(handler), _capture([this](const std::string& text) { other(text); }) {
         static const bool isReady = (xmlInitParser(), true);
         static_cast<void>(isReady);
         _context = xmlNewParserCtxt();
@@ -35,16 +36,16 @@ public:
         xmlSAXHandler& sax = *_context->sax;
         sax.serror = [](void* context, xmlErrorPtr error) { of(context).report(*error); };
         sax.getEntity = [](void* context, const xmlChar* name) {
-            return of(context).refuseExternal(xmlSAX2GetEntity(context, name));
+            return of(context).refuseExternal(context, xmlSAX2GetEntity(context, name));
         };
         sax.getParameterEntity = [](void* context, const xmlChar* name) {
-            return of(context).refuseExternal(xmlSAX2GetParameterEntity(context, name));
+            return of(context).refuseExternal(context, xmlSAX2GetParameterEntity(context, name));
         };
         sax.externalSubset = [](void*, const xmlChar*, const xmlChar*, const xmlChar*) {};
         sax.startElementNs = [](void* context, const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri,
                                 int namespaceCount, const xmlChar** namespaces, int count, int defaulted,
                                 const xmlChar** attributes) {
-            of(context).boundDefaults(attributes, count, defaulted);
+            of(context).boundElement(context, attributes, count, defaulted);
             xmlSAX2StartElementNs(context, localName, prefix, uri, namespaceCount, namespaces, count, defaulted,
                                   attributes);
         };
@@ -69,8 +70,9 @@ public:
 
 private:
     static constexpr std::size_t maximumBytes = 0x7FFFFFFF;
-    // Entities become what they stand for; external ones are refused above.
-    static constexpr int options = XML_PARSE_NOENT | XML_PARSE_NONET | XML_PARSE_BIG_LINES;
+    // Entities become what they stand for, defaults of attributes are filled in; what stands outside the
+    // file is refused above.
+    static constexpr int options = XML_PARSE_NOENT | XML_PARSE_DTDATTR | XML_PARSE_NONET | XML_PARSE_BIG_LINES;
 
     static Parse& of(void* context) { return *static_cast<Parse*>(static_cast<xmlParserCtxtPtr>(context)->_private); }
     static std::string cannotRead(int error) { return std::string("cannot be read: ") + std::strerror(error); }
@@ -94,6 +96,11 @@ private:
         return document;
     }
 
+    // Of the system rather than of the text.
+    void other(const std::string& text) {
+        if (!_isStopped) tell(true, text, 0, 0);
+    }
+
     void report(const xmlError& error) {
         // What follows from stopping is no news.
         if (_isStopped) return;
@@ -103,32 +110,37 @@ private:
              file != nullptr ? file->col : error.int2);
     }
 
-    xmlEntityPtr refuseExternal(xmlEntityPtr entity) {
+    // The content of an entity is parsed in a context of its own, which is the one to be stopped.
+    xmlEntityPtr refuseExternal(void* context, xmlEntityPtr entity) {
         if (entity == nullptr ||
             (entity->etype != XML_EXTERNAL_GENERAL_PARSED_ENTITY && entity->etype != XML_EXTERNAL_PARAMETER_ENTITY)) {
             return entity;
         }
-        stop("the external entity \"" + std::string(view(entity->name)) + "\" is not read");
+        stop(context, "the external entity \"" + std::string(view(entity->name)) + "\" is not read");
         return nullptr;
     }
 
-    void boundDefaults(const xmlChar** attributes, int count, int defaulted) {
+    void boundElement(void* context, const xmlChar** attributes, int count, int defaulted) {
+        if (static_cast<xmlParserCtxtPtr>(context)->nameNr >= maximumDepth) {
+            stop(context, "elements nest deeper than " + std::to_string(maximumDepth));
+        }
         for (int i = count - defaulted; i < count; ++i) {
             // Five pointers each: local name, prefix, namespace, begin and end of the value.
             const xmlChar** attribute = attributes + static_cast<std::ptrdiff_t>(i) * 5;
             _defaults += static_cast<std::size_t>(attribute[4] - attribute[3]);
         }
-        if (_defaults > maximumDefaults) stop("the defaults of attributes add more than 16 MB");
+        if (_defaults > maximumDefaults) stop(context, "the defaults of attributes add more than 16 MB");
     }
 
-    void stop(const std::string& reason) {
-        if (_isStopped) return;
-        const xmlParserInput* file = _context->inputNr > 0 ? _context->inputTab[0] : nullptr;
-        tell(true, reason, file != nullptr ? file->line : 0, file != nullptr ? file->col : 0);
+    void stop(void* context, const std::string& reason) {
+        if (!_isStopped) {
+            const xmlParserInput* file = _context->inputNr > 0 ? _context->inputTab[0] : nullptr;
+            tell(true, reason, file != nullptr ? file->line : 0, file != nullptr ? file->col : 0);
+        }
         _isStopped = true;
-        // Before anything else looks the entity up.
-        _context->wellFormed = 0;
-        xmlStopParser(_context);
+        // Else what a handler refuses is looked up all the same.
+        static_cast<xmlParserCtxtPtr>(context)->wellFormed = 0;
+        xmlStopParser(static_cast<xmlParserCtxtPtr>(context));
     }
 
     void tell(bool isError, const std::string& text, int line, int column) {
@@ -147,6 +159,7 @@ private:
 
     std::string _name;
     QORIXMLErrorHandler_var _handler;
+    MessageCapture _capture;
     xmlParserCtxtPtr _context = nullptr;
     std::size_t _defaults = 0;
     int _messages = 0;

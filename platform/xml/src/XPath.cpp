@@ -8,6 +8,7 @@
 #include <libxml/xpathInternals.h>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace velkor::xml {
 
@@ -28,10 +29,7 @@ class QOREXMLXPathExpression final : public QORIXMLXPathExpression {
 public:
     QOREXMLXPathExpression(std::shared_ptr<DocumentStore> store, std::string text)
         : _store(std::move(store)), _text(std::move(text)), _context(xmlXPathNewContext(_store->document())) {
-        _context->userData = this;
-        _context->error = [](void* expression, xmlErrorPtr error) {
-            static_cast<const QOREXMLXPathExpression*>(expression)->report(messageText(*error));
-        };
+        const MessageCapture capture([this](const std::string& message) { report(message); });
         _compiled.reset(xmlXPathCtxtCompile(_context.get(), xmlText(_text)));
     }
     bool isCompiled() const noexcept { return _compiled != nullptr; }
@@ -48,6 +46,8 @@ public:
     HRESULT Evaluate(QORIDOMNodeList_var& nodes) override {
         nodes = {};
         _context->node = reinterpret_cast<xmlNodePtr>(_store->document());
+        _isReported = false;
+        const MessageCapture capture([this](const std::string& message) { report(message); });
         const Object result(xmlXPathCompiledEval(_compiled.get(), _context.get()));
         if (result == nullptr) return E_FAIL;
         if (result->type != XPATH_NODESET) {
@@ -67,7 +67,9 @@ public:
     }
 
 private:
-    void report(const std::string& message) const {
+    // The first message says what is wrong, later ones what came of it.
+    void report(const std::string& message) {
+        if (std::exchange(_isReported, true)) return;
         log(_store->name() + ": XPath \"" + _text + "\": " + message, ErrorLevel);
     }
 
@@ -75,6 +77,7 @@ private:
     std::string _text;
     Context _context;
     Compiled _compiled;
+    bool _isReported = false;
 };
 
 VELKOR_IMPLEMENT_CLASS(QOREXMLXPathExpression, QORIXMLXPathExpression, nullptr, "XMLParser")
