@@ -19,7 +19,7 @@ public:
 
     /// One folder that a search looks into, and what it found there.
     struct SearchedFolder {
-        /// Which of CollectionStandardVariables names the folder.
+        /// Name of the variable that names the folder.
         const char* variable = nullptr;
         /// The sub-folder's path.
         QORUnicodeString path;

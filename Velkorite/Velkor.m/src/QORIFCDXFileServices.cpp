@@ -13,7 +13,7 @@ namespace {
 const QORUnicodeString pathListSeparator = ";";
 const QORUnicodeString folderSeparator = "\\";
 
-/// Reads the folder's directory. `found` holds the names of earlier folders, and of this one afterwards.
+/// Reads the folder's directory. `found` are the names of earlier folders, and of this one afterwards.
 void search(QORIFCDXFileServices::SearchedFolder& folder, const QORUnicodeString& nameText,
             std::unordered_set<QORUnicodeString>& found) {
     QORDirectory* directory = nullptr;

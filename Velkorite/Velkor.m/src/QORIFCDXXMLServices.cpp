@@ -146,7 +146,10 @@ HRESULT QORIFCDXXMLServices::GetAttributeValue(const QORIDOMDocument_var& docume
                                                const QORUnicodeString& attributeName, QORUnicodeString& value) {
     QORIDOMNode_var node;
     HRESULT result = GetNode(document, xpath, node);
-    if (FAILED(result)) return REPORTED(result);
+    if (FAILED(result)) {
+        __OmyAssertionFailed(VELKOR_SOURCE_UNIT, __LINE__, xpath);
+        return result;
+    }
     result = GetAttributeValue(node, attributeName, value);
     return FAILED(result) ? REPORTED(result) : S_OK;
 }

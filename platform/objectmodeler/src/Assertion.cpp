@@ -22,12 +22,12 @@ Reports& reports() {
 
 } // namespace
 
-void __OmyAssertionFailed(const char* sourceUnit, int line) {
+void __OmyAssertionFailed(const char* sourceUnit, int line, const char* message) {
     Reports& all = reports();
     const std::scoped_lock lock(all.mutex);
     ++all.count;
     if (all.kept.size() == MostKept) all.kept.pop_front();
-    all.kept.push_back({sourceUnit ? sourceUnit : "", line});
+    all.kept.push_back({sourceUnit ? sourceUnit : "", line, message ? message : ""});
 }
 
 namespace velkor::objectmodeler {

@@ -8,6 +8,14 @@
 
 namespace velkor::text {
 
+std::size_t decode(std::string_view text, std::int32_t& code) noexcept {
+    const auto* bytes = reinterpret_cast<const utf8proc_uint8_t*>(text.data());
+    const utf8proc_ssize_t length = utf8proc_iterate(bytes, static_cast<utf8proc_ssize_t>(text.size()), &code);
+    if (length > 0) return static_cast<std::size_t>(length);
+    code = -1;
+    return 1;
+}
+
 namespace {
 
 bool isAscii(char c) noexcept {
@@ -24,15 +32,6 @@ constexpr char asciiUpper(char c) noexcept {
 
 constexpr char asciiLower(char c) noexcept {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-/// Bytes of the first character; `code` is negative for a byte outside any valid sequence.
-std::size_t decode(std::string_view text, utf8proc_int32_t& code) noexcept {
-    const auto* bytes = reinterpret_cast<const utf8proc_uint8_t*>(text.data());
-    const utf8proc_ssize_t length = utf8proc_iterate(bytes, static_cast<utf8proc_ssize_t>(text.size()), &code);
-    if (length > 0) return static_cast<std::size_t>(length);
-    code = -1;
-    return 1;
 }
 
 std::size_t characterLength(std::string_view text) noexcept {

@@ -1,9 +1,9 @@
 #include "DocumentStore.h"
 
 #include "Nodes.h"
+#include "text/Unicode.h"
 #include "Traversal.h"
 
-#include <algorithm>
 #include <libxml/chvalid.h>
 #include <libxml/tree.h>
 
@@ -97,12 +97,10 @@ xmlNodePtr lastInTree(xmlNodePtr root) noexcept {
 }
 
 bool isXmlText(std::string_view utf8) noexcept {
-    const auto* bytes = reinterpret_cast<const unsigned char*>(utf8.data());
-    for (std::size_t i = 0; i < utf8.size();) {
-        int length = static_cast<int>(std::min<std::size_t>(utf8.size() - i, 4));
-        const int character = xmlGetUTF8Char(bytes + i, &length);
-        if (character < 0 || xmlIsCharQ(static_cast<unsigned>(character)) == 0) return false;
-        i += static_cast<std::size_t>(length);
+    while (!utf8.empty()) {
+        std::int32_t code = 0;
+        utf8.remove_prefix(text::decode(utf8, code));
+        if (code < 0 || xmlIsCharQ(static_cast<unsigned>(code)) == 0) return false;
     }
     return true;
 }

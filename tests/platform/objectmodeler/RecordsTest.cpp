@@ -63,15 +63,15 @@ TEST(Assertions, AreCountedAndTheLastThousandKept) {
     clearAssertionReports();
     const int line = __LINE__ + 1;
     VELKOR_ASSERTION_FAILED();
-    __OmyAssertionFailed(nullptr, -1);
-    EXPECT_THAT(assertionReports(),
-                ElementsAre(FieldsAre("tests/platform/objectmodeler/RecordsTest.cpp", line), FieldsAre("", -1)));
+    __OmyAssertionFailed(nullptr, -1, "why");
+    EXPECT_THAT(assertionReports(), ElementsAre(FieldsAre("tests/platform/objectmodeler/RecordsTest.cpp", line, ""),
+                                                FieldsAre("", -1, "why")));
     for (int i = 1; i <= 1200; ++i) __OmyAssertionFailed("unit", i);
     EXPECT_EQ(assertionCount(), 1202U);
     const auto reports = assertionReports();
     ASSERT_EQ(reports.size(), 1000U);
-    EXPECT_THAT(reports.front(), FieldsAre("unit", 201));
-    EXPECT_THAT(reports.back(), FieldsAre("unit", 1200));
+    EXPECT_THAT(reports.front(), FieldsAre("unit", 201, ""));
+    EXPECT_THAT(reports.back(), FieldsAre("unit", 1200, ""));
     clearAssertionReports();
     EXPECT_EQ(assertionCount(), 0U);
     EXPECT_THAT(assertionReports(), IsEmpty());

@@ -6,8 +6,9 @@
 #include <string>
 #include <vector>
 
-/// Reports a failed assertion in a source unit. Any thread may call it.
-void __OmyAssertionFailed(const char* sourceUnit, int line);
+/// Reports a failed assertion in a source unit. Any thread may call it. `message`, which may be null,
+/// is copied.
+void __OmyAssertionFailed(const char* sourceUnit, int line, const char* message = nullptr);
 
 /// Reports the source unit, by its path in the project, and the line it stands on.
 #define VELKOR_ASSERTION_FAILED() __OmyAssertionFailed(VELKOR_SOURCE_UNIT, __LINE__)
@@ -20,6 +21,8 @@ namespace velkor::objectmodeler {
 struct AssertionReport {
     std::string sourceUnit;
     int line = 0;
+    /// Empty for most.
+    std::string message;
 };
 
 /// Reports since the process began or since clearAssertionReports().

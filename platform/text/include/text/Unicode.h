@@ -17,6 +17,10 @@ std::size_t characterCount(std::string_view utf8) noexcept;
 /// Byte position of a character counted from 0; the text's size when it has no such character.
 std::size_t byteOffset(std::string_view utf8, std::size_t character) noexcept;
 
+/// Number of bytes of the first character of a text that is not empty. `code` is its code point, below 0
+/// for a byte outside any valid sequence.
+std::size_t decode(std::string_view utf8, std::int32_t& code) noexcept;
+
 /// Case mapping character by character, as utf8proc maps it: the length in characters stays.
 std::string toUpper(std::string_view utf8);
 std::string toLower(std::string_view utf8);

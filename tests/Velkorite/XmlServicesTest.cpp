@@ -1,0 +1,323 @@
+#include "exchangelog/MessageLog.h"
+#include "objectmodeler/Assertion.h"
+#include "QORIFCDXXMLServices.h"
+#include "QORXCADNodeFilter.h"
+#include "TemporaryFolder.h"
+#include "xml/QORIDOMDocumentTraversal.h"
+#include "xml/QORIDOMDocumentType.h"
+#include "xml/QORIDOMImplementation.h"
+#include "xml/QORIDOMNodeIterator.h"
+#include "xml/QORIXMLDOMDocumentBuilder.h"
+#include "xml/QORIXMLXPathFactory.h"
+
+#include <dlfcn.h>
+#include <gmock/gmock.h>
+#include <iterator>
+
+namespace velkor::test {
+
+using objectmodeler::assertionCount;
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+using Services = QORIFCDXXMLServices;
+
+namespace {
+
+constexpr HRESULT E_PLATFORM = static_cast<HRESULT>(0x80070005U);
+
+/// What stands in for a part of the platform: null leaves the real one.
+struct Platform {
+    HRESULT (*createBuilder)(const IID&, QORIXMLDOMDocumentBuilder_var&) = nullptr;
+    std::vector<IID> builders;
+};
+Platform platform;
+
+class XmlServices : public testing::Test {
+protected:
+    void SetUp() override {
+        platform = {};
+        objectmodeler::clearAssertionReports();
+    }
+    void TearDown() override { platform = {}; }
+
+    QORIDOMDocument_var document(const std::string& text) const {
+        QORIDOMDocument_var result;
+        EXPECT_EQ(Services::GetDOMDocument(path("document.xml", text), result), S_OK) << text;
+        return result;
+    }
+    QORUnicodeString path(const std::string& name, const std::string& text) const {
+        return QORUnicodeString(folder.file(name, text));
+    }
+    QORUnicodeString path(const std::string& name) const { return QORUnicodeString(folder.path + '/' + name); }
+    static std::string contents(const QORUnicodeString& path) {
+        std::ifstream file(path.ConvertToChar(), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    const TemporaryFolder folder;
+};
+
+/// The number of assertions that an operation reports.
+template <class Do>
+std::uint64_t assertionsDuring(Do something) {
+    const std::uint64_t before = assertionCount();
+    something();
+    return assertionCount() - before;
+}
+
+std::string name(const QORIDOMNode_var& node) {
+    QORUnicodeString result;
+    EXPECT_EQ(node->GetNodeName(result), S_OK);
+    return std::string(result.utf8());
+}
+
+/// A builder that answers as it is told and makes nothing, and notes its options.
+class Builder final : public QORIXMLDOMDocumentBuilder {
+public:
+    HRESULT CreateDocument(QORIDOMDocument_var&) override { return answer; }
+    HRESULT GetDOMImplementation(QORIDOMImplementation_var&) override { return answer; }
+    HRESULT Parse(const QORUnicodeString&, QORIDOMDocument_var&, const QORListValQORUnicodeString& names,
+                  const QORListValQORUnicodeString& values, const QORIXMLEntityResolver_var& resolver,
+                  const QORIXMLErrorHandler_var& handler) override {
+        EXPECT_TRUE(resolver.IsNull() && handler.IsNull());
+        return note(names, values);
+    }
+    HRESULT Parse(const QORIXMLInputSource_var&, QORIDOMDocument_var&, const QORListValQORUnicodeString&,
+                  const QORListValQORUnicodeString&, const QORIXMLEntityResolver_var&,
+                  const QORIXMLErrorHandler_var&) override {
+        return E_NOTIMPL;
+    }
+    HRESULT Write(const QORIDOMDocument_var&, const QORUnicodeString&, const QORListValQORUnicodeString& names,
+                  const QORListValQORUnicodeString& values) override {
+        return note(names, values);
+    }
+    HRESULT WriteToText(const QORIDOMDocument_var&, QORUnicodeString&, const QORListValQORUnicodeString&,
+                        const QORListValQORUnicodeString&) override {
+        return E_NOTIMPL;
+    }
+    static HRESULT note(const QORListValQORUnicodeString& names, const QORListValQORUnicodeString& values) {
+        for (int i = 1; i <= names.Size(); ++i) options += std::string((names[i] + "=" + values[i] + ";").utf8());
+        return answer;
+    }
+    static inline HRESULT answer = S_OK;
+    static inline std::string options;
+};
+
+constexpr const char* sample =
+    "<r xmlns:g='http://www.opengis.net/gml/3.2' xmlns:e='urn:x-ogp:spec:schema-xsd:EPSG:1.0:dataset' "
+    "xmlns:d='http://www.isotc211.org/2005/gmd' xmlns:o='http://www.isotc211.org/2005/gco'>"
+    "<g:p/><e:p/><d:p/><o:p/><p>text</p><q k='v'><!--c-->t</q><q/><s>a<t/>b</s><u><t>x</t></u></r>";
+
+} // namespace
+
+TEST_F(XmlServices, MakesADocumentWithItsElement) {
+    QORIDOMDocument_var made;
+    ASSERT_EQ(Services::CreateDOMDocument("IfcMapping", made), S_OK);
+    QORIDOMElement_var root, child;
+    ASSERT_EQ(made->GetDocumentElement(root), S_OK);
+    EXPECT_EQ(name(root), "IfcMapping");
+    EXPECT_THAT(platform.builders, ElementsAre(CLSID_XML4C_DOM));
+
+    // What is written reads back equal, in the layout that readers of resource files rely on.
+    ASSERT_EQ(made->CreateElement("CustomMapping", child), S_OK);
+    ASSERT_EQ(child->SetAttribute("scope", "Wände;\"Türen\""), S_OK);
+    ASSERT_EQ(root->AppendChild(child), S_OK);
+    ASSERT_EQ(Services::WriteDOMDocument(made, path("a.xml")), S_OK);
+    EXPECT_EQ(contents(path("a.xml")), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<IfcMapping>\r\n"
+                                       "  <CustomMapping scope=\"Wände;&quot;Türen&quot;\"/>\r\n</IfcMapping>\r\n");
+    QORIDOMDocument_var again;
+    ASSERT_EQ(Services::GetDOMDocument(path("a.xml"), again), S_OK);
+    QORUnicodeString scope;
+    EXPECT_EQ(Services::GetAttributeValue(again, "IfcMapping/CustomMapping", "scope", scope), S_OK);
+    EXPECT_EQ(scope, "Wände;\"Türen\"");
+    ASSERT_EQ(Services::WriteDOMDocument(again, path("b.xml")), S_OK);
+    EXPECT_EQ(contents(path("b.xml")), contents(path("a.xml")));
+    EXPECT_THAT(platform.builders, ElementsAre(CLSID_XML4C_DOM, CLSID_XML4C5_DOM, CLSID_XML4C5_DOM, CLSID_XML4C5_DOM));
+
+    EXPECT_EQ(assertionsDuring([&] { EXPECT_EQ(Services::CreateDOMDocument("no name", made), E_UNEXPECTED); }), 1U);
+    EXPECT_EQ(assertionsDuring([&] { EXPECT_EQ(Services::WriteDOMDocument(again, path("none/a.xml")), E_FAIL); }), 1U);
+}
+
+TEST_F(XmlServices, TellsTheLogWhatIsWrongWithAFile) {
+    exchangelog::MessageLog log(1);
+    exchangelog::setExchangeErr(&log);
+    QORIDOMDocument_var read = document("<a/>");
+    EXPECT_EQ(
+        assertionsDuring([&] { EXPECT_EQ(Services::GetDOMDocument(path("bad.xml", "<a>\n<b></a>"), read), E_FAIL); }),
+        1U);
+    EXPECT_EQ(Services::GetDOMDocument(path("none.xml"), read), E_FAIL);
+    exchangelog::setExchangeErr(nullptr);
+    ASSERT_GE(log.messages().size(), 2U);
+    EXPECT_THAT(log.messages().front().text, StartsWith(folder.path + "/bad.xml:2:"));
+    EXPECT_THAT(log.messages().back().text, HasSubstr("none.xml: cannot be read: "));
+    EXPECT_EQ(log.messages().front().level, 1);
+}
+
+TEST_F(XmlServices, SelectsNodes) {
+    const QORIDOMDocument_var r = document(sample);
+    QORIDOMNodeList_var nodes;
+    const auto count = [&](const char* xpath) {
+        unsigned int length = 0;
+        EXPECT_EQ(Services::GetNodeList(r, xpath, nodes), S_OK) << xpath;
+        EXPECT_EQ(nodes->GetLength(length), S_OK);
+        return length;
+    };
+    // By prefixes that the document spells otherwise.
+    for (const char* xpath : {"r/gml:p", "r/epsg:p", "r/gmd:p", "r/gco:p", "r/p"}) EXPECT_EQ(count(xpath), 1U) << xpath;
+    EXPECT_EQ(count("r/q"), 2U);
+    EXPECT_EQ(count("r/Q"), 0U);
+    EXPECT_EQ(assertionsDuring([&] { EXPECT_EQ(Services::GetNodeList(r, "r/", nodes), E_FAIL); }), 1U);
+    EXPECT_EQ(assertionsDuring([&] { EXPECT_EQ(Services::GetNodeList(r, "x:p", nodes), E_FAIL); }), 1U);
+
+    QORIDOMNode_var node;
+    EXPECT_EQ(Services::GetNode(r, "r/gml:p", node), S_OK);
+    EXPECT_EQ(name(node), "g:p");
+    for (const char* xpath : {"r/q", "r/none"}) {
+        QORIDOMNode_var none;
+        EXPECT_EQ(assertionsDuring([&] { EXPECT_EQ(Services::GetNode(r, xpath, none), E_INVALIDARG); }), 0U);
+        EXPECT_TRUE(none.IsNull());
+    }
+    EXPECT_EQ(Services::GetNode(r, "count(r)", node), E_FAIL);
+    EXPECT_THROW(Services::GetNodeList({}, "r", nodes), QORNullVarError);
+}
+
+TEST_F(XmlServices, ReadsValues) {
+    const QORIDOMDocument_var r = document(sample);
+    QORUnicodeString value;
+    // Of an element the first child alone counts, whatever it is.
+    for (const auto& [xpath, expected] : {std::pair{"r/p", "text"},
+                                          {"r/q[1]/@k", "v"},
+                                          {"r/q[1]", "c"},
+                                          {"r/s", "a"},
+                                          {"r/s/text()[2]", "b"},
+                                          {"r/u", ""},
+                                          {"/", ""}}) {
+        EXPECT_EQ(Services::GetNodeValue(r, xpath, value), S_OK) << xpath;
+        EXPECT_EQ(value, expected) << xpath;
+    }
+    value = "as before";
+    for (const auto& [xpath, result, reports] : {std::tuple{"r/q", E_INVALIDARG, 0U},
+                                                 {"r/none", E_INVALIDARG, 0U},
+                                                 {"r/gml:p", E_UNEXPECTED, 1U},
+                                                 {"r/", E_FAIL, 3U}}) {
+        SCOPED_TRACE(xpath);
+        EXPECT_EQ(
+            assertionsDuring([&, x = xpath, code = result] { EXPECT_EQ(Services::GetNodeValue(r, x, value), code); }),
+            reports);
+    }
+
+    QORIDOMNode_var node;
+    ASSERT_EQ(Services::GetNode(r, "r/q[1]", node), S_OK);
+    for (const auto& [attribute, expected] : {std::pair{"k", "v"}, {"K", ""}}) {
+        EXPECT_EQ(Services::GetAttributeValue(r, "r/q[1]", attribute, value), S_OK);
+        EXPECT_EQ(value, expected);
+        EXPECT_EQ(Services::GetAttributeValue(node, attribute, value), S_OK);
+        EXPECT_EQ(value, expected);
+    }
+    ASSERT_EQ(Services::GetNode(r, "r/p/text()", node), S_OK);
+    for (const auto& [xpath, result, reports] : {std::tuple{"r/q", E_INVALIDARG, 1U},
+                                                 {"r/none", E_INVALIDARG, 1U},
+                                                 {"r/p/text()", E_UNEXPECTED, 2U},
+                                                 {"/", E_UNEXPECTED, 2U}}) {
+        SCOPED_TRACE(xpath);
+        EXPECT_EQ(assertionsDuring([&, x = xpath, code = result] {
+                      EXPECT_EQ(Services::GetAttributeValue(r, x, "k", value), code);
+                  }),
+                  reports);
+    }
+    EXPECT_EQ(objectmodeler::assertionReports().at(objectmodeler::assertionReports().size() - 5).message, "r/none");
+    EXPECT_EQ(assertionsDuring([&] { EXPECT_EQ(Services::GetAttributeValue(node, "k", value), E_UNEXPECTED); }), 1U);
+    EXPECT_EQ(Services::GetAttributeValue(QORIDOMNode_var(), "k", value), E_UNEXPECTED);
+}
+
+TEST_F(XmlServices, PassesTheParsersFailuresOn) {
+    QORIDOMDocument_var made, read = document("<a/>");
+    const auto all = [&] {
+        return std::vector{Services::CreateDOMDocument("a", made), Services::GetDOMDocument(path("document.xml"), made),
+                           Services::WriteDOMDocument(read, path("b.xml"))};
+    };
+    platform.createBuilder = [](const IID&, QORIXMLDOMDocumentBuilder_var&) -> HRESULT { return E_PLATFORM; };
+    EXPECT_EQ(assertionsDuring([&] { EXPECT_THAT(all(), ElementsAre(E_PLATFORM, E_UNEXPECTED, E_UNEXPECTED)); }), 3U);
+    platform.createBuilder = [](const IID&, QORIXMLDOMDocumentBuilder_var&) -> HRESULT { return S_OK; };
+    EXPECT_THAT(all(), ElementsAre(E_UNEXPECTED, E_UNEXPECTED, E_UNEXPECTED));
+
+    platform.createBuilder = [](const IID&, QORIXMLDOMDocumentBuilder_var& builder) -> HRESULT {
+        builder = QORIXMLDOMDocumentBuilder_var::adopt(new Builder);
+        return S_OK;
+    };
+    made = {};
+    EXPECT_THAT(all(), ElementsAre(E_UNEXPECTED, E_UNEXPECTED, S_OK)) << "success without a document";
+    EXPECT_EQ(Builder::options,
+              "QORDoValidation=false;QOREnableNameSpaces=true;QOREncoding=UTF-8;QORLineSeparator=\r\n;"
+              "QORIndentation=2;QORIndentationCharacter= ;");
+    Builder::answer = E_PLATFORM;
+    EXPECT_THAT(all(), ElementsAre(E_PLATFORM, E_PLATFORM, E_PLATFORM));
+}
+
+TEST_F(XmlServices, FilterPicksElementsByTagAndName) {
+    const QORIDOMDocument_var d = document("<l><Item Name='ABC'/><Item Name='abcd'/><item Name='ABC'/>Item<!--Item-->"
+                                           "<Item/><x><Item Name='aBc'/></x><Item Name='STRASSE'/></l>");
+    const auto picked = [&](const char* tag, const char* wanted) {
+        const auto filter = QORBaseUnknown_var::adopt(new QORXCADNodeFilter(tag, wanted));
+        const QORIDOMNodeFilter_var asked = filter;
+        EXPECT_FALSE(asked.IsNull());
+        EXPECT_EQ(asked, filter) << "the TIE stands for the filter";
+        QORIDOMNodeIterator_var iterator;
+        EXPECT_EQ(
+            QORIDOMDocumentTraversal_var(d)->CreateNodeIterator(
+                d, QORDOMNodeFilterType::SHOW_ELEMENT | QORDOMNodeFilterType::SHOW_ATTRIBUTE, asked, true, iterator),
+            S_OK);
+        std::vector<std::string> names;
+        QORIDOMNode_var node;
+        while (iterator->NextNode(node) == S_OK && !node.IsNull()) {
+            QORUnicodeString value;
+            EXPECT_EQ(Services::GetAttributeValue(node, "Name", value), S_OK);
+            names.emplace_back(value.utf8());
+        }
+        return names;
+    };
+    EXPECT_THAT(picked("Item", "abc"), ElementsAre("ABC", "aBc"));
+    EXPECT_THAT(picked("Item", ""), ElementsAre("ABC", "abcd", "", "aBc", "STRASSE"));
+    EXPECT_THAT(picked("item", "Abc"), ElementsAre("ABC"));
+    EXPECT_THAT(picked("Item", "ab"), IsEmpty());
+    EXPECT_THAT(picked("#text", ""), IsEmpty());
+}
+
+TEST_F(XmlServices, FilterIsNoComponentOfItsOwn) {
+    auto* filter = new QORXCADNodeFilter("Item", "");
+    const auto held = QORBaseUnknown_var::adopt(filter);
+    unsigned int answer = 7;
+    EXPECT_EQ(assertionsDuring([&] { EXPECT_EQ(filter->acceptNode({}, answer), E_UNEXPECTED); }), 1U);
+    EXPECT_EQ(answer, 2U);
+    const QORIDOMDocument_var d = document("<Item>t</Item>");
+    for (const auto& [xpath, expected] : {std::pair{"Item", 0U}, {"Item/text()", 2U}, {"/", 2U}}) {
+        QORIDOMNode_var node;
+        ASSERT_EQ(Services::GetNode(d, xpath, node), S_OK);
+        EXPECT_EQ(filter->acceptNode(node, answer), S_OK);
+        EXPECT_EQ(answer, expected) << xpath;
+    }
+    EXPECT_STREQ(QORXCADNodeFilter::ClassName(), "QORXCADNodeFilter");
+    EXPECT_STREQ(held->IsA(), "QORXCADNodeFilter");
+    EXPECT_EQ(held->IsAKindOf("QORIDOMNodeFilter"), 0);
+    EXPECT_STREQ(QORXCADNodeFilter::MetaObject()->GetExtendedClassName(), "QORnull");
+    const QORIDOMNodeFilter_var tie = held;
+    EXPECT_EQ(tie->GetMetaObject()->GetTypeOfClass(), TypeOfTie);
+    // Nothing else gets the interface, and asking is no fault.
+    EXPECT_EQ(assertionsDuring([&] { EXPECT_TRUE(QORIDOMNodeFilter_var(d).IsNull()); }), 0U);
+}
+
+} // namespace velkor::test
+
+// The program's own entry stands in for the platform's, which it calls.
+HRESULT CreateQORIXMLDOMDocumentBuilder(const IID& implementation, QORIXMLDOMDocumentBuilder_var& builder) {
+    using namespace velkor::test;
+    platform.builders.push_back(implementation);
+    if (platform.createBuilder != nullptr) return platform.createBuilder(implementation, builder);
+    using Create = HRESULT (*)(const IID&, QORIXMLDOMDocumentBuilder_var&);
+    static const auto real = reinterpret_cast<Create>(
+        dlsym(RTLD_NEXT, "_Z31CreateQORIXMLDOMDocumentBuilderRK3IIDR16QORInterface_varI25QORIXMLDOMDocumentBuilderE"));
+    return real(implementation, builder);
+}

@@ -1,0 +1,195 @@
+// Documents that the input holds: parsed, walked, queried, changed and written. The first line says
+// what is changed, the second is an XPath expression, the rest is the document.
+
+#include "xml/QORIDOMDocument.h"
+#include "xml/QORIDOMDocumentTraversal.h"
+#include "xml/QORIDOMDocumentType.h"
+#include "xml/QORIDOMElement.h"
+#include "xml/QORIDOMNodeFilter.h"
+#include "xml/QORIDOMNodeIterator.h"
+#include "xml/QORIDOMNodeList.h"
+#include "xml/QORIXMLDOMDocumentBuilder.h"
+#include "xml/QORIXMLXPathFactory.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Nodes = std::vector<QORIDOMNode_var>;
+
+void require(bool condition, int line = __builtin_LINE()) {
+    if (condition) return;
+    std::fprintf(stderr, "line %d does not hold\n", line);
+    std::abort();
+}
+
+QORIXMLDOMDocumentBuilder_var builder() {
+    QORIXMLDOMDocumentBuilder_var result;
+    require(CreateQORIXMLDOMDocumentBuilder(CLSID_XML4C5_DOM, result) == S_OK);
+    return result;
+}
+
+QORIDOMDocument_var parsed(std::string_view text) {
+    QORIXMLSAX2Factory_var factory;
+    QORIXMLInputSource_var source;
+    QORIDOMDocument_var document;
+    require(CreateQORIXMLSAX2Factory(CLSID_XML4C5_SAX, factory) == S_OK);
+    require(factory->CreateInputSourceFromText(text, "fuzz", source) == S_OK);
+    const HRESULT result = builder()->Parse(source, document, {}, {}, {}, {});
+    require(SUCCEEDED(result) != document.IsNull());
+    return document;
+}
+
+/// Empty when the document cannot be written.
+std::string written(const QORIDOMDocument_var& document, const char* indentation) {
+    QORListValQORUnicodeString names, values;
+    names.Append("QORIndentation");
+    values.Append(indentation);
+    QORUnicodeString text;
+    const HRESULT result = builder()->WriteToText(document, text, names, values);
+    require(SUCCEEDED(result) || text.IsEmpty());
+    return std::string(text.utf8());
+}
+
+Nodes walked(const QORIDOMDocument_var& document) {
+    QORIDOMNodeIterator_var iterator;
+    const QORIDOMDocumentTraversal_var traversal = document;
+    require(traversal->CreateNodeIterator(document, QORDOMNodeFilterType::SHOW_ALL, {}, true, iterator) == S_OK);
+    Nodes nodes;
+    QORIDOMNode_var node;
+    while (iterator->NextNode(node) == S_OK && !node.IsNull()) nodes.push_back(node);
+    // The way back shows the same nodes.
+    for (std::size_t i = nodes.size(); i > 0; --i) {
+        require(iterator->PreviousNode(node) == S_OK && node == nodes[i - 1]);
+    }
+    return nodes;
+}
+
+void ask(const QORIDOMNode_var& node) {
+    QORUnicodeString text;
+    int line = -1;
+    require(node->GetNodeName(text) == S_OK && !(text.IsEmpty()));
+    require(node->GetNodeValue(text) == S_OK && node->GetTextContent(text) == S_OK && node->GetPrefix(text) == S_OK);
+    require(node->GetNamespaceURI(text) == S_OK && node->GetLineNumber(line) == S_OK && line >= 0);
+    QORIDOMNodeList_var children;
+    QORIDOMNode_var child, listed, parent;
+    unsigned int length = 0, counted = 0;
+    require(node->GetChildNodes(children) == S_OK && children->GetLength(length) == S_OK);
+    require(node->GetFirstChild(child) == S_OK);
+    for (; !child.IsNull(); ++counted) {
+        require(children->Item(counted, listed) == S_OK && listed == child);
+        require(child->GetParentNode(parent) == S_OK && parent == node);
+        require(child->GetNextSibling(child) == S_OK);
+    }
+    require(counted == length);
+    const QORIDOMElement_var element = node;
+    if (element.IsNull()) return;
+    QORIDOMNodeList_var attributes;
+    require(element->GetAttributes(attributes) == S_OK && attributes->GetLength(length) == S_OK);
+    for (unsigned int i = 0; i < length; ++i) {
+        QORUnicodeString name, value, again;
+        require(attributes->Item(i, listed) == S_OK && listed->GetNodeName(name) == S_OK);
+        require(listed->GetNodeValue(value) == S_OK && element->GetAttribute(name, again) == S_OK && again == value);
+    }
+}
+
+void select(const QORIDOMDocument_var& document, const std::string& xpath) {
+    QORIXMLXPathExpression_var expression;
+    const QORIXMLXPathFactory_var factory = document;
+    QORIDOMNodeList_var nodes;
+    if (FAILED(factory->CreateXPathExpression(QORUnicodeString(std::string_view(xpath)), expression))) return;
+    if (FAILED(expression->Evaluate(nodes))) return;
+    unsigned int length = 0;
+    require(nodes->GetLength(length) == S_OK);
+    for (unsigned int i = 0; i < length; ++i) {
+        QORIDOMNode_var node;
+        require(nodes->Item(i, node) == S_OK && !node.IsNull());
+        ask(node);
+    }
+}
+
+/// Two characters each: what to do, and to which node. Refusals are fine, crashes are not.
+void change(const QORIDOMDocument_var& document, Nodes nodes, std::string_view commands) {
+    QORIDOMNodeIterator_var iterator;
+    QORIDOMDocumentTraversal_var(document)->CreateNodeIterator(document, QORDOMNodeFilterType::SHOW_ALL, {}, true,
+                                                               iterator);
+    QORIDOMNode_var current = document, visited;
+    for (std::size_t i = 0; i + 1 < commands.size(); i += 2) {
+        const QORIDOMNode_var node = nodes[static_cast<unsigned char>(commands[i + 1]) % nodes.size()];
+        const QORIDOMElement_var element = node;
+        QORIDOMNode_var parent, made;
+        switch (commands[i]) {
+        case 'a':
+            current->AppendChild(node);
+            break;
+        case 'c':
+            current = node;
+            break;
+        case 'i':
+            current->InsertBefore(nodes.back(), node);
+            break;
+        case 'n':
+            iterator->NextNode(visited);
+            break;
+        case 'p':
+            iterator->PreviousNode(visited);
+            break;
+        case 'r':
+            if (node->GetParentNode(parent) == S_OK && !parent.IsNull()) parent->RemoveChild(node);
+            break;
+        case 's':
+            node->SetNodeValue(QORUnicodeString(commands));
+            break;
+        case 't':
+            document->CreateTextNode(QORUnicodeString(commands.substr(i)), made);
+            break;
+        case 'x':
+            if (!element.IsNull()) element->SetAttribute(QORUnicodeString(commands.substr(i + 1, 3)), "v");
+            break;
+        case 'y':
+            if (!element.IsNull()) element->RemoveAttribute(QORUnicodeString(commands.substr(i + 1, 1)));
+            break;
+        default:
+            break;
+        }
+        if (!made.IsNull()) nodes.push_back(made);
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    std::string_view input(reinterpret_cast<const char*>(data), size);
+    const auto line = [&] {
+        const std::size_t end = std::min(input.find('\n'), input.size());
+        const std::string_view result = input.substr(0, end);
+        input.remove_prefix(std::min(end + 1, input.size()));
+        return result;
+    };
+    const std::string commands(line()), xpath(line().substr(0, 60));
+    const QORIDOMDocument_var document = parsed(input);
+    if (document.IsNull()) return 0;
+    const Nodes nodes = walked(document);
+    for (const QORIDOMNode_var& node : nodes) ask(node);
+    select(document, xpath);
+
+    QORIDOMDocumentType_var type;
+    document->GetDoctype(type);
+    for (const char* indentation : {"0", "2"}) {
+        const std::string text = written(document, indentation);
+        // A document type need not come back as it was: what its parameter entities held is gone.
+        if (text.empty() || !type.IsNull()) continue;
+        const QORIDOMDocument_var again = parsed(text);
+        require(!again.IsNull() && written(again, indentation) == text);
+    }
+    change(document, nodes, commands);
+    for (const QORIDOMNode_var& node : walked(document)) ask(node);
+    const std::string text = written(document, "0");
+    if (!text.empty() && type.IsNull()) require(!parsed(text).IsNull());
+    return 0;
+}
