@@ -56,10 +56,10 @@ public:
         }
         Nodes found;
         if (const xmlNodeSet* set = result->nodesetval) {
-            found.reserve(static_cast<std::size_t>(set->nodeNr));
-            for (int i = 0; i < set->nodeNr; ++i) {
-                // Namespaces are no nodes of the DOM.
-                if (set->nodeTab[i]->type != XML_NAMESPACE_DECL) found.push_back(set->nodeTab[i]);
+            found.assign(set->nodeTab, set->nodeTab + set->nodeNr);
+            // Namespaces are no nodes of the DOM; one axis alone leads to them.
+            if (_text.find("namespace") != std::string::npos) {
+                std::erase_if(found, [](xmlNodePtr node) { return node->type == XML_NAMESPACE_DECL; });
             }
         }
         nodes = fixedList(_store, std::move(found));
