@@ -1,6 +1,8 @@
 #include "objectmodeler/CallRecorder.h"
 #include "objectmodeler/ClassDictionary.h"
 #include "sdai/DXSdaiDictionaryRepo.h"
+#include "Variables.h"
+#include "xml/QORIDOMNodeFilter.h"
 
 #include <algorithm>
 #include <array>
@@ -27,6 +29,7 @@ namespace {
 constexpr const char* Path = VELKOR_LIB_DIR "/libvelkor.so";
 constexpr const char* ImportServices = "QORIIFCImportServices";
 constexpr const char* ImportServicesId = "{2C7255B3-EC9B-4988-8136-1537A27D1FC7}";
+constexpr const char* NodeFilter = "QORXCADNodeFilter";
 
 struct Release {
     const char* name;
@@ -63,7 +66,9 @@ std::string restoreOf(const Release& release) {
 class Module : public testing::Test {
 protected:
     void SetUp() override {
-        QORBaseUnknown::MetaObject(); // not what a library asks for
+        // The platform's own, not what a library asks for.
+        QORBaseUnknown::MetaObject();
+        QORIDOMNodeFilter::MetaObject();
         ASSERT_FALSE(isLoaded());
         ASSERT_THAT(repository.names(), IsEmpty());
         ASSERT_THAT(registeredClasses(), IsEmpty());
@@ -119,13 +124,17 @@ TEST_F(Module, LoadsWorksAndGoesAsOftenAsOneLikes) {
         const std::string described = known != nullptr ? "metaclass retrieved: " : "metaclass made: ";
         EXPECT_THAT(callsDuring(ask),
                     ElementsAre(described + ImportServices,
-                                "register interface: " + std::string(ImportServicesId) + " " + ImportServices));
+                                "register interface: " + std::string(ImportServicesId) + " " + ImportServices,
+                                described + NodeFilter, "register: QORXCADNodeFilter for QORIDOMNodeFilter, mode 1"));
         EXPECT_THAT(callsDuring(ask), IsEmpty());
         const auto& id = entry<const IID>("IID_QORIIFCImportServices");
         EXPECT_EQ(text(id), ImportServicesId);
         if (known == nullptr) known = metaClass(id);
         ASSERT_NE(known, nullptr);
         EXPECT_EQ(metaClass(ImportServices), known) << "one metaclass serves all loads";
+        EXPECT_THAT(registeredClasses(), testing::SizeIs(2));
+        EXPECT_FALSE(createComponent(NodeFilter)) << "the filter has no creation name";
+        EXPECT_FALSE(createComponent("XCADNodeFilter"));
 
         const auto restore = [&] {
             const auto schema = repository.schema("IFC4");
@@ -171,6 +180,36 @@ TEST_F(Module, EntriesThatForceALoadDoNothing) {
     EXPECT_THAT(calls, IsEmpty());
     EXPECT_EQ(restored(), 0);
     EXPECT_THAT(dictionary.bytes, testing::Each(0xA5));
+}
+
+TEST_F(Module, TakesItsOptionsWithIt) {
+    const Variables variables{"ProfilePrefered_FORCETST", "IfcFullyExposed_FORCETST", "IfcGeometryMode_FORCETST"};
+    const auto isOfExitCallback = [](const std::string& call) { return call.starts_with("exit callback"); };
+    for (const std::uint16_t forced : {0, 2, 0}) {
+        load();
+        EXPECT_THAT(callsDuring([&] { unload(); }), testing::Not(testing::Contains(testing::Truly(isOfExitCallback))));
+        load();
+        // The options are built when they are first wanted, from the environment of that moment.
+        if (forced != 0) variables.set("ProfilePrefered_FORCETST", "2");
+        void* options = entry<void*()>("_ZN13QORIFCOptions11GetInstanceEv")();
+        const auto& profile = entry<std::uint16_t(void*)>("_ZNK13QORIFCOptions18GetExchangeProfileEv");
+        EXPECT_EQ(profile(options), forced) << "what was set before the library went is gone";
+        entry<void(void*, std::uint16_t)>("_ZN13QORIFCOptions18SetExchangeProfileENS_15ExchangeProfileE")(options, 1);
+        EXPECT_EQ(profile(options), forced != 0 ? forced : 1);
+
+        const auto& services = entry<void*()>("_ZN21QORIFCOptionsServices11getInstanceEv");
+        EXPECT_THAT(callsDuring([&] { EXPECT_EQ(services(), services()); }),
+                    ElementsAre("exit callback registered, order 3"));
+        const auto& isRequired =
+            entry<unsigned char(void*)>("_ZNK21QORIFCOptionsServices28IsCustomPropertySetsRequiredEv");
+        EXPECT_EQ(isRequired(services()), 1);
+        entry<HRESULT(void*, const bool&)>("_ZN21QORIFCOptionsServices27SetEnableCustomPropertySetsERKb")(services(),
+                                                                                                          false);
+        Calls atUnload = callsDuring([&] { unload(); });
+        EXPECT_EQ(std::ranges::count_if(atUnload, isOfExitCallback), 1);
+        EXPECT_EQ(atUnload.front(), "exit callback runs, order 3") << "before the static objects go";
+        variables.removeAll();
+    }
 }
 
 } // namespace velkor::test

@@ -1,0 +1,188 @@
+#include "files/QORISetupDataFinder.h"
+#include "objectmodeler/Assertion.h"
+#include "QORIFCDXDataSetupServices.h"
+#include "QORIFCDXFileServices.h"
+#include "TemporaryFolder.h"
+#include "Variables.h"
+
+#include <gmock/gmock.h>
+#include <optional>
+
+namespace velkor::test {
+
+using testing::ElementsAre;
+using Texts = std::vector<std::string>;
+
+/// A sub-item without a path.
+class BrokenItem final : public QORIKweAppResourceSubItem {
+    VELKOR_DECLARE_CLASS
+public:
+    HRESULT GetPath(QORUnicodeString&) override { return E_FAIL; }
+};
+/// Succeeds with an empty path, and with items of which one is none and one is broken.
+class FaultyFinder final : public QORISetupDataFinder {
+    VELKOR_DECLARE_CLASS
+public:
+    HRESULT GetResourcePath(const QORUnicodeString&, QORUnicodeString& path) override {
+        path = "";
+        return S_OK;
+    }
+    HRESULT GetResourceSubItems(const QORUnicodeString&, QORListValQORIKweAppResourceSubItem_var& items, int) override {
+        items.Append({});
+        items.Append(QORIKweAppResourceSubItem_var::adopt(new BrokenItem));
+        return S_OK;
+    }
+};
+VELKOR_IMPLEMENT_CLASS(BrokenItem, QORIKweAppResourceSubItem, nullptr, "Host")
+VELKOR_IMPLEMENT_CLASS(FaultyFinder, QORISetupDataFinder, nullptr, "Host")
+
+namespace {
+
+Texts texts(const QORListValQORUnicodeString& list) {
+    Texts result;
+    for (const QORUnicodeString& item : list) result.emplace_back(item.utf8());
+    return result;
+}
+
+class ResourceLocation : public testing::Test {
+protected:
+    ResourceLocation() { objectmodeler::clearAssertionReports(); }
+    ~ResourceLocation() override { files::setSetupDataFinder({}); }
+
+    void standard(const std::string& folders, const std::string& defaultFolders = {}) const {
+        variables.set("QORCollectionStandard", folders.c_str());
+        variables.set("QORDefaultCollectionStandard", defaultFolders.c_str());
+    }
+    /// Makes the paths the setup data's for the key of these tests.
+    static void setupData(const Texts& paths) {
+        QORListValQORUnicodeString list;
+        for (const std::string& path : paths) list.Append(path.c_str());
+        const auto data = QORInterface_var<files::SetupData>::adopt(new files::SetupData);
+        data->set("Set|Category", list);
+        files::setSetupDataFinder(data);
+    }
+    HRESULT find(const char* nameText) { return QORIFCDXFileServices::FindResourceFiles("sub", nameText, found); }
+    HRESULT path(const char* subFolder) {
+        return QORIFCDXDataSetupServices::GetResourcePath("Set", "Category", subFolder, onePath);
+    }
+    HRESULT paths(const char* subFolder) {
+        return QORIFCDXDataSetupServices::GetResourcePaths("Set", "Category", subFolder, found);
+    }
+    /// Source units of the assertions since it was last asked.
+    static Texts assertions() {
+        Texts units;
+        for (const auto& report : objectmodeler::assertionReports()) {
+            units.push_back(std::filesystem::path(report.sourceUnit).stem());
+        }
+        objectmodeler::clearAssertionReports();
+        return units;
+    }
+
+    const Variables variables{"QORCollectionStandard", "QORDefaultCollectionStandard"};
+    const TemporaryFolder folderA, folderB, folderC;
+    const std::string A = folderA.path, B = folderB.path, C = folderC.path;
+    QORListValQORUnicodeString found;
+    QORUnicodeString onePath;
+};
+
+const Texts byFileServices = {"QORIFCDXFileServices"};
+const Texts byDataSetup = {"QORIFCDXDataSetupServices"};
+const Texts byBoth = {"QORIFCDXFileServices", "QORIFCDXDataSetupServices"};
+
+} // namespace
+
+TEST_F(ResourceLocation, FindsWhatNoEarlierFolderHides) {
+    folderA.add("sub", {"b.xml", "a.xml.bak", "xmlnotes.txt", "A.XML", "a.txt"});
+    folderB.add("sub", {"a.xml", "b.xml"});
+    folderB.add("sub/xml", {"c.xml"});
+    folderC.add(".", {"d.xml"});
+    found.Append("before");
+    standard(';' + A + ";;" + C + "/none;" + B + '\\', C + ';' + A);
+    EXPECT_EQ(find("xml"), S_OK);
+    EXPECT_THAT(texts(found), ElementsAre(A + "\\sub\\a.xml.bak", A + "\\sub\\b.xml", A + "\\sub\\xmlnotes.txt",
+                                          B + "\\\\sub\\a.xml", B + "\\\\sub\\xml"));
+    EXPECT_EQ(assertions(), Texts());
+
+    Texts folders;
+    for (const auto& folder : QORIFCDXFileServices::SearchFolders("sub", ".xml")) {
+        std::string line = folder.variable + (' ' + std::string(folder.path.utf8())) + (folder.isReadable ? ":" : " -");
+        for (const std::string& name : texts(folder.names)) line += ' ' + name;
+        for (const std::string& name : texts(folder.hiddenNames)) line += " hidden " + name;
+        folders.push_back(line);
+    }
+    EXPECT_THAT(folders, ElementsAre("QORCollectionStandard " + A + "\\sub: a.xml.bak b.xml",
+                                     "QORCollectionStandard " + C + "/none\\sub -",
+                                     "QORCollectionStandard " + B + "\\\\sub: a.xml hidden b.xml",
+                                     "QORDefaultCollectionStandard " + C + "\\sub -",
+                                     "QORDefaultCollectionStandard " + A + "\\sub: hidden a.xml.bak hidden b.xml"));
+
+    variables.removeAll();
+    for (const std::string& list : {std::string(), std::string(";;"), C, B + "/sub"}) {
+        if (!list.empty()) standard(list);
+        EXPECT_EQ(find("xml"), E_UNEXPECTED) << list;
+        EXPECT_EQ(found.Size(), 0) << list;
+        EXPECT_EQ(assertions(), byFileServices) << list;
+    }
+}
+
+TEST_F(ResourceLocation, OfOneFileAsksTheSetupDataFirst) {
+    struct Case {
+        std::optional<Texts> setup; ///< none: no finder
+        Texts files;
+        const char* subFolder;
+        std::string path; ///< empty: a failure
+        Texts assertions;
+    };
+    const std::string only = A + "\\sub\\0.xml";
+    const Texts none, one = {"0.xml"}, two = {"0.xml", "1.xml"};
+    for (const Case& c :
+         {Case{Texts{"/set.xml"}, one, "sub", "/set.xml", {}}, Case{Texts{"/set.xml"}, none, "", "/set.xml", {}},
+          Case{{}, one, "sub", only, {}}, Case{none, one, "sub", only, {}}, Case{two, one, "sub", only, {}},
+          Case{{}, one, "", "before", {}}, Case{two, one, "", "before", {}}, Case{none, none, "sub", "", byBoth},
+          Case{{}, none, "sub", "", byBoth}, Case{{}, two, "sub", "", byDataSetup},
+          Case{two, two, "sub", "", byDataSetup}}) {
+        SCOPED_TRACE(c.path + ' ' + c.subFolder + ' ' + std::to_string(c.files.size()));
+        std::filesystem::remove_all(A + "/sub");
+        folderA.add("sub", c.files);
+        standard(A);
+        files::setSetupDataFinder({});
+        if (c.setup) setupData(*c.setup);
+        onePath = "before";
+        EXPECT_EQ(path(c.subFolder), c.path.empty() ? E_UNEXPECTED : S_OK);
+        EXPECT_EQ(onePath.utf8(), c.path.empty() ? "before" : c.path);
+        EXPECT_EQ(assertions(), c.assertions);
+    }
+}
+
+TEST_F(ResourceLocation, OfAllFilesPutsThoseOfTheSetupDataFirst) {
+    folderA.add("sub", {"map.xml"});
+    standard(A);
+    const std::string file = A + "\\sub\\map.xml";
+    found.Append("before");
+    EXPECT_EQ(paths("sub"), E_UNEXPECTED) << "no finder, no fallback";
+    EXPECT_EQ(found.Size(), 0);
+    EXPECT_EQ(assertions(), byDataSetup);
+
+    setupData({"/b", file, "/a"});
+    EXPECT_EQ(paths("sub"), S_OK);
+    EXPECT_THAT(texts(found), ElementsAre("/b", file, "/a", file));
+    EXPECT_EQ(paths(""), S_OK);
+    EXPECT_THAT(texts(found), ElementsAre("/b", file, "/a"));
+    EXPECT_EQ(assertions(), Texts());
+    EXPECT_EQ(paths("none"), E_UNEXPECTED);
+    EXPECT_THAT(texts(found), ElementsAre("/b", file, "/a")) << "kept";
+    EXPECT_EQ(assertions(), byBoth);
+    setupData({});
+    EXPECT_EQ(paths("sub"), S_OK);
+    EXPECT_THAT(texts(found), ElementsAre(file));
+    EXPECT_EQ(assertions(), Texts());
+
+    files::setSetupDataFinder(QORISetupDataFinder_var::adopt(new FaultyFinder));
+    EXPECT_EQ(paths("sub"), S_OK);
+    EXPECT_THAT(texts(found), ElementsAre(file));
+    EXPECT_EQ(assertions(), byDataSetup) << "one, for the item that is none";
+    EXPECT_EQ(path("sub"), S_OK);
+    EXPECT_EQ(onePath.utf8(), file) << "an empty path counts as none";
+}
+
+} // namespace velkor::test
