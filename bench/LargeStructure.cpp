@@ -2,9 +2,9 @@
 
 #include "sdai/Part21File.h"
 #include "sdai/Part21Lexer.h"
+#include "settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
 #include <string_view>
 #include <unistd.h>
@@ -65,8 +65,9 @@ const LargeStructure& LargeStructure::theOne() {
 
 LargeStructure::LargeStructure()
     : _path(std::filesystem::temp_directory_path() / ("velkor_bench." + std::to_string(getpid()) + ".ifc")) {
-    const char* megabytes = std::getenv("VELKOR_BENCH_MEGABYTES");
-    write((megabytes ? std::strtoull(megabytes, nullptr, 10) : 110) * 1'000'000);
+    short megabytes = 110;
+    QORDXEnvironmentVariable::GetValue("VELKOR_BENCH_MEGABYTES", megabytes);
+    write(static_cast<std::uint64_t>(std::max<short>(megabytes, 1)) * 1'000'000);
 }
 
 LargeStructure::~LargeStructure() {
@@ -75,8 +76,9 @@ LargeStructure::~LargeStructure() {
 
 void LargeStructure::write(std::uint64_t size) {
     const std::string madeUp = madeUpModel();
-    const char* named = std::getenv("VELKOR_BENCH_MODEL");
-    const auto model = named ? Part21File::open(named) : Part21File::fromText(madeUp, "made-up model");
+    const QORUnicodeString named = QORGetEnv("VELKOR_BENCH_MODEL");
+    const auto model =
+        !named.IsEmpty() ? Part21File::open(named.ConvertToChar()) : Part21File::fromText(madeUp, "made-up model");
     if (!model || (*model)->instanceCount() == 0) {
         _error = model ? "the model has no instances" : model.error();
         return;

@@ -1,6 +1,10 @@
 #include "CommandContext.h"
 
+#include "configuration/ConfigurationReader.h"
+#include "configuration/ConfigurationTable.h"
+#include "DisplayText.h"
 #include "sdai/Model.h"
+#include "settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
 #include <ostream>
@@ -29,10 +33,27 @@ std::string failureMessage(const CLI::App* app, const CLI::Error& error) {
 
 } // namespace
 
-void CommandContext::addFormatOption(CLI::App& command) {
+void CommandContext::complete(CLI::App& command, std::function<void()> run) {
     command.add_option("--format", format, "text for people, json for programs; text unless told")
         ->option_text("text|json")
         ->check(CLI::IsMember({"text", "json"}));
+    command.add_option("--config", configurationFile, "Configuration file; the one VELKOR_CONFIG names unless told")
+        ->option_text("FILE");
+    command.callback([this, run = std::move(run)] {
+        if (readConfiguration()) run();
+    });
+}
+
+bool CommandContext::readConfiguration() {
+    std::string path = configurationFile;
+    if (path.empty()) path = QORGetEnv(configurationVariable).utf8();
+    if (path.empty()) return true;
+    ConfigurationReading reading = host::readConfiguration(path);
+    for (const std::string& error : reading.errors) reportUnreadable(printable(error));
+    if (!reading.errors.empty() && configurationFile.empty())
+        reportUnreadable(std::string(configurationVariable) + " names that configuration");
+    configuration = std::move(reading.configuration);
+    return reading.errors.empty();
 }
 
 void CommandContext::reportUnreadable(const std::string& reason) {
@@ -79,6 +100,8 @@ void addCommands(CLI::App& app, CommandContext& context) {
     addCheckCommand(app, context);
     addUnitsCommand(app, context);
     addDictionaryCommand(app, context);
+    addOptionsCommand(app, context);
+    addResourcesCommand(app, context);
 }
 
 } // namespace velkor::host

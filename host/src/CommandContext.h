@@ -1,8 +1,11 @@
 /// What every command of the host shares: where results and messages go, and the exit status.
 #pragma once
 
+#include "configuration/Configuration.h"
+
 #include <CLI/CLI.hpp>
 
+#include <functional>
 #include <iosfwd>
 #include <memory>
 #include <string>
@@ -31,18 +34,27 @@ struct CommandContext {
     bool color = false;
     /// Set by --format.
     std::string format = "text";
+    /// The file that --config names; empty when it names none.
+    std::string configurationFile = {};
+    /// What the command has been configured with, read before it runs.
+    Configuration configuration = {};
     int status = Done;
 
     bool json() const { return format == "json"; }
 
-    /// Adds `--format text|json` to a command.
-    void addFormatOption(CLI::App& command);
+    /// Completes a command that answers something: adds `--format text|json` and `--config FILE`, and
+    /// has `run` called once the configuration has been read. With a wrong configuration no command
+    /// runs: its faults are reported and the status is Unreadable.
+    void complete(CLI::App& command, std::function<void()> run);
 
     /// Writes why input cannot be read to `err` and sets the status Unreadable.
     void reportUnreadable(const std::string& reason);
 
     /// Opens a model; null after reporting why it cannot be read.
     std::unique_ptr<sdai::Model> openModel(const std::string& path);
+
+private:
+    bool readConfiguration();
 };
 
 /// Runs the program over the words of a command line, its name left out: parses them, runs the
@@ -56,5 +68,7 @@ void addReportCommand(CLI::App& app, CommandContext& context);
 void addCheckCommand(CLI::App& app, CommandContext& context);
 void addUnitsCommand(CLI::App& app, CommandContext& context);
 void addDictionaryCommand(CLI::App& app, CommandContext& context);
+void addOptionsCommand(CLI::App& app, CommandContext& context);
+void addResourcesCommand(CLI::App& app, CommandContext& context);
 
 } // namespace velkor::host

@@ -1,19 +1,14 @@
 #include "CommandContext.h"
+#include "configuration/ConfigurationTable.h"
+#include "settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
 #include <csignal>
-#include <cstdlib>
 #include <iostream>
 #include <poll.h>
-#include <string_view>
 #include <unistd.h>
 
 namespace {
-
-std::string_view environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value == nullptr ? std::string_view() : std::string_view(value);
-}
 
 // A reader that has seen enough, such as "head", is no failure.
 bool isReaderGone() {
@@ -28,10 +23,10 @@ int main(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN);
     std::ios::sync_with_stdio(false);
 
-    const bool capable = environment("TERM") != "dumb";
+    const bool capable = QORGetEnv(terminalVariable).utf8() != "dumb";
     CommandContext context{std::cout, std::cerr};
     context.interactive = capable && isatty(STDERR_FILENO) != 0;
-    context.color = capable && isatty(STDOUT_FILENO) != 0 && environment("NO_COLOR").empty();
+    context.color = capable && isatty(STDOUT_FILENO) != 0 && QORGetEnv(noColorVariable).IsEmpty();
 
     const int status = run({argv + std::min(argc, 1), argv + argc}, context);
     std::cout.flush();

@@ -41,11 +41,12 @@ TEST(Program, TellsItsVersionAndItsCommands) {
 
     const Outcome help = shell("velkor --help");
     EXPECT_EQ(help.status, 0);
-    EXPECT_THAT(help.text, AllOf(HasSubstr("report"), HasSubstr("check"), HasSubstr("units"), HasSubstr("dictionary")));
-    for (const std::string command : {"report", "check", "units", "dictionary entity"}) {
+    for (const std::string command : {"report", "check", "units", "dictionary entity", "options", "resources"}) {
+        EXPECT_THAT(help.text, HasSubstr("\n  " + command.substr(0, command.find(' '))));
         const Outcome one = shell("velkor " + command + " --help");
         EXPECT_EQ(one.status, 0) << command;
-        EXPECT_THAT(one.text, AllOf(HasSubstr("Example:\n  velkor " + command), HasSubstr("--format")));
+        EXPECT_THAT(one.text,
+                    AllOf(HasSubstr("Example:\n  velkor " + command), HasSubstr("--format"), HasSubstr("--config")));
     }
 }
 

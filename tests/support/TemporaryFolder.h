@@ -22,8 +22,9 @@ struct TemporaryFolder {
         for (const std::string& name : names) std::ofstream(path + '/' + folder + '/' + name) << text;
     }
 
-    /// Makes one file and gives its path.
-    std::string file(const std::string& name, const std::string& text) const {
+    std::string operator/(const std::string& name) const { return path + '/' + name; }
+    /// Makes one file, with the folders above it, and gives its path.
+    std::string file(const std::string& name, const std::string& text = {}) const {
         add(std::filesystem::path(name).parent_path(), {}, {});
         std::ofstream(path + '/' + name, std::ios::binary) << text;
         return path + '/' + name;

@@ -89,9 +89,8 @@ void addCheckCommand(CLI::App& app, CommandContext& context) {
     command->add_option("--limit", options->limit, "List at most N problems; 100000 unless told")
         ->option_text("N")
         ->check(CLI::NonNegativeNumber);
-    context.addFormatOption(*command);
     command->footer("Example:\n  velkor check house.ifc\n\nExit status 1 when there are problems.");
-    command->callback([&context, options] { runCheck(context, *options); });
+    context.complete(*command, [&context, options] { runCheck(context, *options); });
 }
 
 } // namespace velkor::host

@@ -2,9 +2,9 @@
 
 #include "CommandContext.h"
 #include "dictionary/DictionaryDiff.h"
-#include "dictionary/NearestNames.h"
 #include "DisplayText.h"
 #include "Json.h"
+#include "NearestNames.h"
 #include "sdai/DXSdaiDictionaryRepo.h"
 #include "TextTable.h"
 
@@ -193,7 +193,9 @@ void runEntity(CommandContext& context, const std::string& release, const std::s
         return;
     }
     context.err << "velkor: " << schema->name() << " has no entity \"" << printable(name) << '"';
-    const auto nearest = nearestEntities(*schema, name);
+    std::vector<std::string_view> known;
+    for (const EntityDefinition* entity : schema->entities()) known.push_back(entity->name());
+    const auto nearest = nearestNames(known, name, 5, "IFC");
     if (!nearest.empty()) context.err << "; nearest: " << joined(nearest);
     context.err << '\n';
 }
@@ -301,11 +303,9 @@ struct Arguments {
     bool statements = false;
 };
 
-CLI::App* addSubcommand(CLI::App& dictionary, CommandContext& context, const char* name, const char* description,
-                        const char* example) {
+CLI::App* addSubcommand(CLI::App& dictionary, const char* name, const char* description, const char* example) {
     CLI::App* command = dictionary.add_subcommand(name, description);
     command->footer(std::string("Example:\n  ") + example);
-    context.addFormatOption(*command);
     return command;
 }
 
@@ -317,32 +317,32 @@ void addDictionaryCommand(CLI::App& app, CommandContext& context) {
     dictionary->footer("Example:\n  velkor dictionary entity IFC4 IFCWALL");
     const auto arguments = std::make_shared<Arguments>();
 
-    CLI::App* list = addSubcommand(*dictionary, context, "list", "A row of counts per release",
-                                   "velkor dictionary list --format json");
-    list->callback([&context] { runList(context); });
+    CLI::App* list =
+        addSubcommand(*dictionary, "list", "A row of counts per release", "velkor dictionary list --format json");
+    context.complete(*list, [&context] { runList(context); });
 
     CLI::App* show =
-        addSubcommand(*dictionary, context, "show", "One of the two lists that a dictionary is made of, text by text",
+        addSubcommand(*dictionary, "show", "One of the two lists that a dictionary is made of, text by text",
                       "velkor dictionary show IFC4 --declarations");
     show->add_option("release", arguments->release, releaseHelp)->required();
     CLI::Option_group* which = show->add_option_group("list", "Which list");
     which->add_flag("--declarations", arguments->declarations, "Types, entities, attributes and rules with numbers");
     which->add_flag("--statements", arguments->statements, "What is stated about the numbered declarations");
     which->require_option(1);
-    show->callback([&context, arguments] { runShow(context, arguments->release, arguments->declarations); });
+    context.complete(*show, [&context, arguments] { runShow(context, arguments->release, arguments->declarations); });
 
-    CLI::App* entity = addSubcommand(*dictionary, context, "entity",
-                                     "One entity with its inherited attributes, as instances hold them",
-                                     "velkor dictionary entity 4x3 IfcWall");
+    CLI::App* entity =
+        addSubcommand(*dictionary, "entity", "One entity with its inherited attributes, as instances hold them",
+                      "velkor dictionary entity 4x3 IfcWall");
     entity->add_option("release", arguments->release, releaseHelp)->required();
     entity->add_option("entity", arguments->other, "Name of an entity, in any letter case")->required();
-    entity->callback([&context, arguments] { runEntity(context, arguments->release, arguments->other); });
+    context.complete(*entity, [&context, arguments] { runEntity(context, arguments->release, arguments->other); });
 
-    CLI::App* diff = addSubcommand(*dictionary, context, "diff", "What changed from one release to another",
+    CLI::App* diff = addSubcommand(*dictionary, "diff", "What changed from one release to another",
                                    "velkor dictionary diff IFC2X3 IFC4");
     diff->add_option("before", arguments->release, releaseHelp)->required();
     diff->add_option("after", arguments->other, "The release to compare with it")->required();
-    diff->callback([&context, arguments] { runDiff(context, arguments->release, arguments->other); });
+    context.complete(*diff, [&context, arguments] { runDiff(context, arguments->release, arguments->other); });
 }
 
 } // namespace velkor::host

@@ -30,9 +30,8 @@ void addReportCommand(CLI::App& app, CommandContext& context) {
     CLI::App* command = app.add_subcommand("report", "One page about a model");
     const auto path = std::make_shared<std::string>();
     command->add_option("MODEL", *path, "IFC file")->required();
-    context.addFormatOption(*command);
     command->footer("Example:\n  velkor report house.ifc\n\nProblems of the model do not change the exit status.");
-    command->callback([&context, path] { runReport(context, *path); });
+    context.complete(*command, [&context, path] { runReport(context, *path); });
 }
 
 } // namespace velkor::host

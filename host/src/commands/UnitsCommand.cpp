@@ -59,9 +59,8 @@ void addUnitsCommand(CLI::App& app, CommandContext& context) {
     CLI::App* command = app.add_subcommand("units", "Units of a model and what they are worth in SI units");
     const auto path = std::make_shared<std::string>();
     command->add_option("MODEL", *path, "IFC file")->required();
-    context.addFormatOption(*command);
     command->footer("Example:\n  velkor units house.ifc --format json");
-    command->callback([&context, path] { runUnits(context, *path); });
+    context.complete(*command, [&context, path] { runUnits(context, *path); });
 }
 
 } // namespace velkor::host

@@ -143,9 +143,7 @@ TEST(Parser, BoundsWhatATextGrowsTo) {
         ASSERT_THAT(messages, Not(IsEmpty())) << reason;
         EXPECT_THAT(messages.front(), AllOf(StartsWith("text:"), HasSubstr(reason)));
     }
-#ifndef __SANITIZE_ADDRESS__
-    EXPECT_LT(peakMegabytes() - before, 200);
-#endif
+    EXPECT_LT(peakMegabytes() - before, 500) << "unbounded, each of them takes gigabytes";
     EXPECT_FALSE(read(repeated("<a>", 256) + repeated("</a>", 256)).IsNull());
 }
 

@@ -1,4 +1,4 @@
-#include "dictionary/NearestNames.h"
+#include "NearestNames.h"
 
 #include <algorithm>
 #include <cctype>
@@ -26,38 +26,44 @@ std::size_t distance(std::string_view a, std::string_view b) {
     return last.back();
 }
 
-std::string_view withoutPrefix(std::string_view name) {
-    return name.starts_with("IFC") ? name.substr(3) : name;
+std::string upperCase(std::string_view name) {
+    std::string upper(name);
+    std::ranges::transform(upper, upper.begin(), [](unsigned char c) { return std::toupper(c); });
+    return upper;
+}
+
+std::string_view without(std::string_view prefix, std::string_view name) {
+    return name.starts_with(prefix) ? name.substr(prefix.size()) : name;
 }
 
 } // namespace
 
-std::vector<std::string> nearestEntities(const sdai::SchemaDefinition& schema, std::string_view name,
-                                         std::size_t most) {
-    // No name of a schema is nearly as long; what is would only cost time.
-    std::string upper(name.substr(0, 100));
-    std::ranges::transform(upper, upper.begin(), [](unsigned char c) { return std::toupper(c); });
-    const std::string_view meant = withoutPrefix(upper);
+std::vector<std::string> nearestNames(const std::vector<std::string_view>& known, std::string_view name,
+                                      std::size_t most, std::string_view prefix) {
+    // No known name is nearly as long; what is would only cost time.
+    const std::string upper = upperCase(name.substr(0, 100));
+    const std::string_view meant = without(prefix, upper);
     if (meant.empty()) return {};
 
     using Candidate = std::tuple<std::size_t, std::string_view>;
     std::vector<Candidate> candidates;
-    for (const sdai::EntityDefinition* entity : schema.entities()) {
-        const std::string_view known = withoutPrefix(entity->name());
-        const std::size_t letters = distance(meant, known);
+    for (const std::string_view candidate : known) {
+        const std::string upperCandidate = upperCase(candidate);
+        const std::string_view compared = without(prefix, upperCandidate);
+        const std::size_t letters = distance(meant, compared);
         const bool near = letters <= std::max<std::size_t>(1, meant.size() / 3);
-        const bool contains = meant.size() >= 3 && known.find(meant) != std::string_view::npos;
+        const bool contains = meant.size() >= 3 && compared.find(meant) != std::string_view::npos;
         // A part of a name is a weaker hint than a slip of the pen.
         if (near)
-            candidates.emplace_back(letters, entity->name());
+            candidates.emplace_back(letters, candidate);
         else if (contains)
-            candidates.emplace_back(meant.size() + letters, entity->name());
+            candidates.emplace_back(meant.size() + letters, candidate);
     }
     std::ranges::sort(candidates);
     std::vector<std::string> result;
-    for (const auto& [letters, known] : candidates) {
+    for (const auto& [letters, candidate] : candidates) {
         if (result.size() == most) break;
-        result.emplace_back(known);
+        result.emplace_back(candidate);
     }
     return result;
 }

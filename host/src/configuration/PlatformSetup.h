@@ -1,0 +1,71 @@
+/// The platform as a configuration wants it, for as long as the object lives: variables of the environment,
+/// settings, setup data, runtime view, exchange log, exchange options, conversion options. The destructor takes
+/// everything back. Of several objects the last one made must be the first to go.
+///
+///     const PlatformSetup setup(context.configuration, context.err);
+///     … call the services …
+#pragma once
+
+#include "configuration/Configuration.h"
+#include "exchangelog/MessageLog.h"
+#include "files/QORISetupDataFinder.h"
+#include "settings/QORSettingRepository.h"
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace velkor::host {
+
+class PlatformSetup {
+public:
+    enum class Outcome { ActedUpon, Kept, LeftOut };
+    /// A conversion option and what the services made of it.
+    struct ConversionOption {
+        std::string name;
+        std::string value;
+        Outcome outcome;
+    };
+
+    /// The services' messages of level 0 and 1 go to `err`, a line each. A setup-data finder is there afterwards
+    /// whatever the configuration says: some services look nowhere else without one.
+    PlatformSetup(const Configuration& configuration, std::ostream& err);
+    ~PlatformSetup();
+    PlatformSetup(const PlatformSetup&) = delete;
+    PlatformSetup& operator=(const PlatformSetup&) = delete;
+
+    /// In the order of the configuration.
+    const std::vector<ConversionOption>& conversionOptions() const noexcept { return _conversionOptions; }
+    /// True when the services, not the user, have put the exchange profile into the environment.
+    bool isProfileVariableDerived() const noexcept { return _profileVariableIsDerived; }
+
+private:
+    class Log : public exchangelog::MessageLog {
+    public:
+        explicit Log(std::ostream& err);
+        int PutMsgErr(QORUnicodeString* text, int* code, QORString first, QORString second, int level,
+                      QORUnicodeString* extra, int* extraCode) override;
+        int PutUnicodeMessage(const QORUnicodeString& message, short level, short kind) override;
+
+    private:
+        void write();
+        std::ostream& _err;
+    };
+
+    void setFolders(const char* variable, const std::optional<std::vector<std::string>>& folders);
+    void setSettings(const Configuration& configuration);
+    void setConversionOptions(const Configuration& configuration);
+
+    Log _log;
+    QORExchangeErr* _logBefore;
+    std::vector<std::string> _variables;
+    std::vector<std::pair<std::string, std::optional<QORSettingRepository>>> _repositoriesBefore;
+    QORISetupDataFinder_var _finderBefore;
+    QORListValQORUnicodeString _runtimeViewBefore;
+    std::vector<ConversionOption> _conversionOptions;
+    bool _profileVariableIsDerived = false;
+};
+
+} // namespace velkor::host
