@@ -4,7 +4,7 @@
 
 #include <benchmark/benchmark.h>
 #include <cstdio>
-#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <libxml/parser.h>
 #include <libxml/xpath.h>
@@ -20,7 +20,8 @@ constexpr const char* mappings = "IfcMapping/CustomMapping";
 /// A file that goes with the program.
 class MappingFile {
 public:
-    MappingFile() : _path("/tmp/velkor-bench-" + std::to_string(getpid()) + ".xml") {
+    MappingFile()
+        : _path(std::filesystem::temp_directory_path() / ("velkor-bench-" + std::to_string(getpid()) + ".xml")) {
         std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<IfcMapping>\r\n";
         for (int i = 0; text.size() < documentSize; ++i) {
             const std::string number = std::to_string(i);

@@ -114,12 +114,6 @@ private:
         _out += "=\"";
         for (const char character : value) {
             switch (character) {
-            case '&':
-                _out += "&amp;";
-                break;
-            case '<':
-                _out += "&lt;";
-                break;
             case '"':
                 _out += "&quot;";
                 break;
@@ -130,11 +124,8 @@ private:
             case '\n':
                 _out += "&#10;";
                 break;
-            case '\r':
-                _out += "&#13;";
-                break;
             default:
-                _out += character;
+                writeEscaped(character);
             }
         }
         _out += '"';
@@ -143,24 +134,31 @@ private:
     void writeText(std::string_view text) {
         for (const char character : text) {
             switch (character) {
-            case '&':
-                _out += "&amp;";
-                break;
-            case '<':
-                _out += "&lt;";
-                break;
             case '>':
                 _out += "&gt;";
-                break;
-            case '\r':
-                _out += "&#13;";
                 break;
             case '\n':
                 endLine();
                 break;
             default:
-                _out += character;
+                writeEscaped(character);
             }
+        }
+    }
+
+    void writeEscaped(char character) {
+        switch (character) {
+        case '&':
+            _out += "&amp;";
+            break;
+        case '<':
+            _out += "&lt;";
+            break;
+        case '\r':
+            _out += "&#13;";
+            break;
+        default:
+            _out += character;
         }
     }
 
