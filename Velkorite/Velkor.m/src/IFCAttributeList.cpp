@@ -1,0 +1,110 @@
+#include "IFCAttributeList.h"
+
+#include "CatalogueDocument.h"
+#include "ExitCallbacks.h"
+#include "files/QORDirectory.h"
+#include "IFCAttributeTables.h"
+#include "QORIFCDXFileServices.h"
+#include "ResourceKinds.h"
+#include "xml/QORIDOMElement.h"
+
+namespace {
+
+// Every unit that deals with resource paths has its own pair; the list of folders is split by the file services.
+[[maybe_unused]] const QORUnicodeString pathListSeparator = ";";
+const QORUnicodeString folderSeparator = "\\";
+
+QORUnicodeString attribute(const QORIDOMElement_var& element, const char* name) {
+    QORUnicodeString value;
+    element->GetAttribute(name, value);
+    return value;
+}
+
+IfcLevel levelOf(const QORUnicodeString& id) {
+    if (id.Compare("2X3") != 0) return IfcLevel2X3;
+    if (id.Compare("4ANDABOVE") != 0) return IfcLevel4AndAbove;
+    return IfcLevelGeneral;
+}
+
+HRESULT readAttributeFile(const QORUnicodeString& path, IFCAttributeTables& tables) {
+    QORIDOMDocument_var document;
+    const HRESULT result = velkor::library::readCatalogue(path, document);
+    if (FAILED(result) || document.IsNull()) return result;
+
+    QORIDOMNodeList_var levels;
+    document->GetElementsByTagName("Level", levels);
+    velkor::library::forEachNode(levels, [&](const QORIDOMElement_var& levelElement) {
+        const IfcLevel level = levelOf(attribute(levelElement, "ID"));
+        QORIDOMNodeList_var entries;
+        levelElement->GetElementsByTagName("AttributeID", entries);
+        velkor::library::forEachNode(entries, [&](const QORIDOMElement_var& entry) {
+            tables.insert({{},
+                           attribute(entry, "PropertySet"),
+                           attribute(entry, "Entity"),
+                           attribute(entry, "Name"),
+                           attribute(entry, "Value")},
+                          level);
+        });
+    });
+    return result;
+}
+
+} // namespace
+
+IFCAttributeList* IFCAttributeList::_pInstance = nullptr;
+
+IFCAttributeList* IFCAttributeList::GetInstance() {
+    if (_pInstance == nullptr) {
+        _pInstance = new IFCAttributeList;
+        velkor::library::callAtUnload(DeleteInst, 1);
+    }
+    return _pInstance;
+}
+
+HRESULT IFCAttributeList::GetAttributeValue(const QORUnicodeString& iName, const QORUnicodeString& iEntity,
+                                            const QORUnicodeString& iPropertySet, IfcLevel iLevel,
+                                            QORUnicodeString& oValue) {
+    if (_tables == nullptr) return E_FAIL;
+    // Before the output is written, which may be one of the inputs.
+    IFCAttributeRecord pattern{{}, iPropertySet, iEntity, iName, {}};
+    const IFCAttributeRecord* found = _tables->locate(pattern, iLevel);
+    oValue = found != nullptr ? found->Value : QORUnicodeString();
+    return oValue.IsEmpty() ? E_FAIL : S_OK;
+}
+
+IFCAttributeList::IFCAttributeList() : _tables(new IFCAttributeTables) {
+    QORListValQORUnicodeString files;
+    ListFileFromRTV(files);
+    if (files.Size() > 0) readAttributeFile(files[1], *_tables);
+}
+
+IFCAttributeList::~IFCAttributeList() {
+    delete _tables;
+}
+
+int IFCAttributeList::DeleteInst(int) {
+    delete _pInstance;
+    _pInstance = nullptr;
+    return 0;
+}
+
+HRESULT IFCAttributeList::ListFileFromRTV(QORListValQORUnicodeString& oFiles) {
+    oFiles.RemoveAll();
+    for (const auto& folder : QORIFCDXFileServices::SearchFolders(velkor::attributeListResource.subFolder,
+                                                                  velkor::attributeListResource.nameText)) {
+        for (const QORUnicodeString& name : folder.names) oFiles.Append(folder.path + folderSeparator + name);
+    }
+    return S_OK;
+}
+
+HRESULT IFCAttributeList::GiveFilesInDirectory(const char* iDirectory, const char* iPattern,
+                                               QORListValQORUnicodeString& oFiles) {
+    QORDirectory* directory = nullptr;
+    if (FAILED(QOROpenDirectory(iDirectory, directory))) return S_FALSE;
+    QORUnicodeString name;
+    while (QORReadDirectory(directory, name) == S_OK) {
+        if (name.SearchSubString(iPattern) >= 0) oFiles.Append(name);
+    }
+    QORCloseDirectory(directory);
+    return S_OK;
+}
