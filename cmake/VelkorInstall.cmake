@@ -1,5 +1,5 @@
-# What an installed Velkor consists of: two libraries, their headers, the program, and the package
-# that find_package(Velkor) reads. It gives the targets velkor::velkor and velkor::velkorplatform.
+# What an installed Velkor consists of: two libraries, their headers, the program with its resource files, and
+# the package that find_package(Velkor) reads. It gives the targets velkor::velkor and velkor::velkorplatform.
 
 include(CMakePackageConfigHelpers)
 
@@ -26,6 +26,8 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/Velkorite/interfaces/ DESTINATION ${_hea
 foreach(_include IN LISTS _includes)
   install(DIRECTORY ${_include}/ DESTINATION ${_headers} FILES_MATCHING PATTERN "*.h")
 endforeach()
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/velkor
+        FILES_MATCHING PATTERN "*.xml")
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 install(EXPORT VelkorTargets NAMESPACE velkor:: DESTINATION ${_package})

@@ -33,13 +33,17 @@ std::string failureMessage(const CLI::App* app, const CLI::Error& error) {
 
 } // namespace
 
-void CommandContext::complete(CLI::App& command, std::function<void()> run) {
+void CommandContext::complete(CLI::App& command, std::function<void()> run, const std::string& thirdFormat) {
+    std::vector<std::string> formats{"text", "json"};
+    if (!thirdFormat.empty()) formats.push_back(thirdFormat);
     command.add_option("--format", format, "text for people, json for programs; text unless told")
-        ->option_text("text|json")
-        ->check(CLI::IsMember({"text", "json"}));
+        ->option_text("text|json" + (thirdFormat.empty() ? "" : '|' + thirdFormat))
+        ->check(CLI::IsMember(formats));
     command.add_option("--config", configurationFile, "Configuration file; the one VELKOR_CONFIG names unless told")
         ->option_text("FILE");
-    command.callback([this, run = std::move(run)] {
+    command.callback([this, &command, run = std::move(run)] {
+        // A subcommand has answered in its place.
+        if (!command.get_subcommands().empty()) return;
         if (readConfiguration()) run();
     });
 }
@@ -47,12 +51,16 @@ void CommandContext::complete(CLI::App& command, std::function<void()> run) {
 bool CommandContext::readConfiguration() {
     std::string path = configurationFile;
     if (path.empty()) path = QORGetEnv(configurationVariable).utf8();
-    if (path.empty()) return true;
+    if (path.empty()) {
+        configuration.shippedResources = shippedResources;
+        return true;
+    }
     ConfigurationReading reading = host::readConfiguration(path);
     for (const std::string& error : reading.errors) reportUnreadable(printable(error));
     if (!reading.errors.empty() && configurationFile.empty())
         reportUnreadable(std::string(configurationVariable) + " names that configuration");
     configuration = std::move(reading.configuration);
+    configuration.shippedResources = shippedResources;
     return reading.errors.empty();
 }
 
@@ -77,6 +85,7 @@ int run(std::vector<std::string> words, CommandContext& context) {
                "Exit status: 0 done, 1 the answer is \"no\" or findings exist, 2 bad usage,\n"
                "3 input could not be read.");
     addCommands(app, context);
+    context.words = words;
     try {
         std::ranges::reverse(words);
         app.parse(words);
@@ -98,8 +107,12 @@ void addCommands(CLI::App& app, CommandContext& context) {
     app.require_subcommand(0, 1);
     addReportCommand(app, context);
     addCheckCommand(app, context);
+    addValidateCommand(app, context);
+    addClassifyCommand(app, context);
+    addGuidCommand(app, context);
     addUnitsCommand(app, context);
     addDictionaryCommand(app, context);
+    addMapCommand(app, context);
     addOptionsCommand(app, context);
     addResourcesCommand(app, context);
 }

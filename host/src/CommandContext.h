@@ -32,6 +32,12 @@ struct CommandContext {
     bool interactive = false;
     /// True when `out` may be coloured: a terminal, and NO_COLOR is not set.
     bool color = false;
+    /// What a command reads when it is given no words; null for nothing.
+    std::istream* in = nullptr;
+    /// Folder of the resource files that are shipped with the program; empty for none.
+    std::string shippedResources = {};
+    /// The command line, as it was given.
+    std::vector<std::string> words = {};
     /// Set by --format.
     std::string format = "text";
     /// The file that --config names; empty when it names none.
@@ -41,11 +47,12 @@ struct CommandContext {
     int status = Done;
 
     bool json() const { return format == "json"; }
+    bool csv() const { return format == "csv"; }
 
     /// Completes a command that answers something: adds `--format text|json` and `--config FILE`, and
     /// has `run` called once the configuration has been read. With a wrong configuration no command
-    /// runs: its faults are reported and the status is Unreadable.
-    void complete(CLI::App& command, std::function<void()> run);
+    /// runs: its faults are reported and the status is Unreadable. A command may have a third format.
+    void complete(CLI::App& command, std::function<void()> run, const std::string& thirdFormat = {});
 
     /// Writes why input cannot be read to `err` and sets the status Unreadable.
     void reportUnreadable(const std::string& reason);
@@ -66,9 +73,15 @@ void addCommands(CLI::App& app, CommandContext& context);
 
 void addReportCommand(CLI::App& app, CommandContext& context);
 void addCheckCommand(CLI::App& app, CommandContext& context);
+void addGuidCommand(CLI::App& app, CommandContext& context);
+void addValidateCommand(CLI::App& app, CommandContext& context);
 void addUnitsCommand(CLI::App& app, CommandContext& context);
 void addDictionaryCommand(CLI::App& app, CommandContext& context);
 void addOptionsCommand(CLI::App& app, CommandContext& context);
 void addResourcesCommand(CLI::App& app, CommandContext& context);
+/// A subcommand of the one above.
+void addResourcesCheckCommand(CLI::App& resources, CommandContext& context);
+void addMapCommand(CLI::App& app, CommandContext& context);
+void addClassifyCommand(CLI::App& app, CommandContext& context);
 
 } // namespace velkor::host

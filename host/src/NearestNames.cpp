@@ -68,4 +68,16 @@ std::vector<std::string> nearestNames(const std::vector<std::string_view>& known
     return result;
 }
 
+std::string likelyMeant(const std::vector<std::string_view>& known, std::string_view name, std::size_t letters) {
+    const std::string meant = upperCase(name.substr(0, 100));
+    std::tuple<std::size_t, std::string_view> likeliest{letters + 1, {}};
+    for (const std::string_view candidate : known) {
+        // As many letters differ at least.
+        const auto [fewer, more] = std::minmax(candidate.size(), meant.size());
+        if (more - fewer <= letters)
+            likeliest = std::min(likeliest, {distance(meant, upperCase(candidate)), candidate});
+    }
+    return std::string(std::get<1>(likeliest));
+}
+
 } // namespace velkor::host

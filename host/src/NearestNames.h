@@ -13,4 +13,8 @@ namespace velkor::host {
 std::vector<std::string> nearestNames(const std::vector<std::string_view>& known, std::string_view name,
                                       std::size_t most = 5, std::string_view prefix = {});
 
+/// The known name in which the fewest letters differ, at most `letters`, letter case ignored; empty when
+/// there is none.
+std::string likelyMeant(const std::vector<std::string_view>& known, std::string_view name, std::size_t letters);
+
 } // namespace velkor::host

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <filesystem>
 #include <iostream>
 #include <poll.h>
 #include <unistd.h>
@@ -16,6 +17,14 @@ bool isReaderGone() {
     return poll(&output, 1, 0) > 0 && (output.revents & POLLERR) != 0;
 }
 
+// The folder lies beside the program's, wherever the two are; without it there are none.
+std::string shippedResources() {
+    std::error_code none;
+    const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", none);
+    const auto folder = (program.parent_path() / VELKOR_RESOURCES).lexically_normal();
+    return !program.empty() && std::filesystem::is_directory(folder, none) ? folder.string() : std::string();
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -25,6 +34,8 @@ int main(int argc, char** argv) {
 
     const bool capable = QORGetEnv(terminalVariable).utf8() != "dumb";
     CommandContext context{std::cout, std::cerr};
+    context.in = &std::cin;
+    context.shippedResources = shippedResources();
     context.interactive = capable && isatty(STDERR_FILENO) != 0;
     context.color = capable && isatty(STDOUT_FILENO) != 0 && QORGetEnv(noColorVariable).IsEmpty();
 

@@ -1,3 +1,8 @@
+#include "knowledge/KnowledgeObjects.h"
+#include "knowledge/QORIExchangeAECServices.h"
+#include "knowledge/QORIExchangeIFCCustomMappingServices.h"
+#include "knowledge/QORIExchangeIFCMappingServices.h"
+#include "knowledge/QORIExchangeIFCPLMAttributesMappingServices.h"
 #include "objectmodeler/CallRecorder.h"
 #include "objectmodeler/ClassDictionary.h"
 #include "sdai/DXSdaiDictionaryRepo.h"
@@ -31,6 +36,13 @@ constexpr const char* Path = VELKOR_LIB_DIR "/libvelkor.so";
 constexpr const char* ImportServices = "QORIIFCImportServices";
 constexpr const char* ImportServicesId = "{2C7255B3-EC9B-4988-8136-1537A27D1FC7}";
 constexpr const char* NodeFilter = "QORXCADNodeFilter";
+
+/// What the creation names have in front of them in the names of interfaces, and of classes.
+constexpr const char* InterfacePrefix = "QORI";
+constexpr const char* ClassPrefix = "QORE";
+/// In the order in which they have to be registered.
+constexpr const char* Components[] = {"ExchangeAECServices", "ExchangeIFCCustomMappingServices",
+                                      "ExchangeIFCMappingServices", "ExchangeIFCPLMAttributesMappingServices"};
 
 struct Release {
     const char* name;
@@ -70,6 +82,10 @@ protected:
         // The platform's own, not what a library asks for.
         QORBaseUnknown::MetaObject();
         QORIDOMNodeFilter::MetaObject();
+        for (QORMetaClass* (*make)() :
+             {QORIExchangeAECServices::MetaObject, QORIExchangeIFCCustomMappingServices::MetaObject,
+              QORIExchangeIFCMappingServices::MetaObject, QORIExchangeIFCPLMAttributesMappingServices::MetaObject})
+            make();
         ASSERT_FALSE(isLoaded());
         ASSERT_THAT(repository.names(), IsEmpty());
         ASSERT_THAT(registeredClasses(), IsEmpty());
@@ -121,19 +137,26 @@ TEST_F(Module, LoadsWorksAndGoesAsOftenAsOneLikes) {
         EXPECT_EQ(metaClass(ImportServices), known);
         EXPECT_EQ(restored(), 0);
 
-        const auto ask = [] { EXPECT_EQ(registeredClasses().at(0).interface, ImportServices); };
+        const auto ask = [] { EXPECT_EQ(registeredClasses().size(), 10U); };
         const std::string described = known != nullptr ? "metaclass retrieved: " : "metaclass made: ";
-        EXPECT_THAT(callsDuring(ask),
-                    ElementsAre(described + ImportServices,
-                                "register interface: " + std::string(ImportServicesId) + " " + ImportServices,
-                                described + NodeFilter, "register: QORXCADNodeFilter for QORIDOMNodeFilter, mode 1"));
+        Calls registrations;
+        for (const std::string component : Components) {
+            registrations.push_back(described + ClassPrefix + component);
+            registrations.push_back("register: " + (ClassPrefix + component) + " for " + InterfacePrefix + component +
+                                    ", mode 1");
+            registrations.push_back("register creation: " + component);
+        }
+        registrations.insert(registrations.end(),
+                             {described + ImportServices,
+                              "register interface: " + std::string(ImportServicesId) + " " + ImportServices,
+                              described + NodeFilter, "register: QORXCADNodeFilter for QORIDOMNodeFilter, mode 1"});
+        EXPECT_THAT(callsDuring(ask), ElementsAreArray(registrations));
         EXPECT_THAT(callsDuring(ask), IsEmpty());
         const auto& id = entry<const IID>("IID_QORIIFCImportServices");
         EXPECT_EQ(text(id), ImportServicesId);
         if (known == nullptr) known = metaClass(id);
         ASSERT_NE(known, nullptr);
         EXPECT_EQ(metaClass(ImportServices), known) << "one metaclass serves all loads";
-        EXPECT_THAT(registeredClasses(), testing::SizeIs(2));
         EXPECT_FALSE(createComponent(NodeFilter)) << "the filter has no creation name";
         EXPECT_FALSE(createComponent("XCADNodeFilter"));
 
@@ -152,6 +175,36 @@ TEST_F(Module, LoadsWorksAndGoesAsOftenAsOneLikes) {
         EXPECT_THAT(registeredClasses(), IsEmpty());
         EXPECT_THAT(repository.schema("IFC4").error(), testing::HasSubstr("known: none"));
     }
+}
+
+TEST_F(Module, ServesItsComponentsByNameAndByInterface) {
+    load();
+    for (const std::string name : Components) {
+        SCOPED_TRACE(name);
+        const QORBaseUnknown_var made = createComponent(name);
+        ASSERT_FALSE(made.IsNull());
+        EXPECT_EQ(made->IsA(), ClassPrefix + name);
+        EXPECT_EQ(made->IsAKindOf((InterfacePrefix + name).c_str()), 1);
+        EXPECT_EQ(made->GetMetaObject(), metaClass(ClassPrefix + name)) << "asked again, the same metaclass";
+        EXPECT_EQ(made->GetMetaObject()->GetFrameworkName(), std::string("Velkorite"));
+        EXPECT_EQ(made->GetMetaObject()->GetTypeOfClass(), TypeOfImplementation);
+        EXPECT_EQ(made->GetMetaObject()->GetExtendedClassName(),
+                  std::string(name == "ExchangeAECServices" ? "QORnull" : "QORNull"));
+
+        const IID* id = interfaceIdOf(InterfacePrefix + name);
+        ASSERT_NE(id, nullptr);
+        const QORBaseUnknown_var object = velkor::knowledge::makeOccurrence("Wall", {});
+        void* extension = nullptr;
+        ASSERT_EQ(object->QueryInterface(*id, &extension), S_OK);
+        const auto held = QORBaseUnknown_var::adopt(static_cast<QORBaseUnknown*>(extension));
+        EXPECT_EQ(held->IsA(), ClassPrefix + name);
+        using Factory = IUnknown*(QORBaseUnknown*, QORBaseUnknown*);
+        const std::string factory = "CreateBOA" + (InterfacePrefix + name) + ClassPrefix + name;
+        EXPECT_EQ(entry<Factory>(factory.c_str())(object.get(), nullptr), nullptr) << "nothing to extend with";
+    }
+    EXPECT_FALSE(createComponent("QOREExchangeAECServices"));
+    registeredClasses();
+    EXPECT_EQ(metaClass(NodeFilter)->GetExtendedClassName(), std::string("QORnull"));
 }
 
 TEST_F(Module, RestoresEachSchemaWhenItIsFirstWanted) {
@@ -209,19 +262,29 @@ TEST_F(Module, TakesItsOptionsWithIt) {
 TEST_F(Module, TakesTheSingletonsThatWereMadeWithIt) {
     const Variables variables{"QORCollectionStandard", "QORDefaultCollectionStandard"};
     struct Singleton {
-        const char* getInstance;
+        const char* getInstance; ///< null: what the mapping of PLM attributes is kept in
         char order;
     };
     constexpr Singleton singletons[] = {{"_ZN21QORIFCOptionsServices11getInstanceEv", '3'},
                                         {"_ZN30QORIFCPSetQtoValidationService11getInstanceEv", '3'},
-                                        {"_ZN16IFCAttributeList11GetInstanceEv", '1'}};
+                                        {"_ZN16IFCAttributeList11GetInstanceEv", '1'},
+                                        {nullptr, '1'}};
+    QORIExchangeIFCPLMAttributesMappingServices_var mapping;
+    const auto loadMapping = [&] {
+        for (int i = 0; i < 2; ++i) EXPECT_EQ(mapping->LoadMapping(), S_OK);
+    };
     for (std::size_t made = 0; made <= std::size(singletons); ++made) {
         SCOPED_TRACE(made);
         load();
+        mapping = createComponent("ExchangeIFCPLMAttributesMappingServices");
         std::string orders;
         for (const Singleton& singleton : std::span(singletons).first(made)) {
-            const auto& get = entry<void*()>(singleton.getInstance);
-            EXPECT_THAT(callsDuring([&] { EXPECT_EQ(get(), get()); }),
+            const auto use = [&] {
+                if (singleton.getInstance == nullptr) return loadMapping();
+                const auto& get = entry<void*()>(singleton.getInstance);
+                EXPECT_EQ(get(), get());
+            };
+            EXPECT_THAT(callsDuring(use),
                         ElementsAre(std::string("exit callback registered, order ") + singleton.order));
             orders += singleton.order;
         }
@@ -229,6 +292,7 @@ TEST_F(Module, TakesTheSingletonsThatWereMadeWithIt) {
         Calls expected;
         for (const char order : orders) expected.push_back(std::string("exit callback runs, order ") + order);
         // Before the static objects go, and only then.
+        mapping = {};
         Calls atUnload = callsDuring([&] { unload(); });
         ASSERT_GT(atUnload.size(), made);
         EXPECT_EQ(Calls(atUnload.begin(), atUnload.begin() + static_cast<std::ptrdiff_t>(made)), expected);

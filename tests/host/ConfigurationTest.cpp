@@ -45,6 +45,7 @@ constexpr const char* full = R"({
   "collection_standard": ["site", "/base"],
   "default_collection_standard": [],
   "runtime_view": ["rtv;x"],
+  "custom_property_sets": ["Acme_Common", "ACME doors"],
   "knowledge_types": [
     {"name": "Wall", "kind": "specialization", "parent": "Thing", "abstract": false},
     {"name": "Thing", "kind": "knowledge", "abstract": true}
@@ -70,7 +71,8 @@ TEST_F(ConfigurationTest, ReadsEverySection) {
     EXPECT_THAT(configuration.setupData[1].paths, ElementsAre("/abs/a.xml", "conf/b/c.xml"));
     EXPECT_THAT(configuration.collectionStandard.value(), ElementsAre("conf/site", "/base"));
     EXPECT_THAT(configuration.defaultCollectionStandard.value(), IsEmpty());
-    EXPECT_THAT(configuration.runtimeView, ElementsAre("conf/rtv;x"));
+    EXPECT_THAT(configuration.runtimeView.value(), ElementsAre("conf/rtv;x"));
+    EXPECT_THAT(configuration.customPropertySets, ElementsAre("Acme_Common", "ACME doors"));
     ASSERT_EQ(configuration.knowledgeTypes.size(), 2U);
     EXPECT_TRUE(configuration.knowledgeTypes[0].isSpecialization);
     EXPECT_EQ(configuration.knowledgeTypes[0].parent, "Thing") << "which stands behind it";
@@ -96,7 +98,7 @@ TEST_F(ConfigurationTest, NamesEveryFaultWithItsPlace) {
     {"name": "A", "kind": "knowledge", "parent": "Z", "colour": 1}, 7,
     {"name": "Own", "kind": "knowledge", "parent": "Own"}, {"name": ""}
   ],
-  "runtime_view": null, "conversion_options": {"x\u0000": "", "y": "\u0000", "z": null}
+  "custom_property_sets": ["x", 1, ""], "runtime_view": null, "conversion_options": {"x\u0000": "", "y": "\u0000", "z": null}
 })",
                                                             "velkor.json");
     const std::pair<int, const char*> expected[] = {
@@ -129,6 +131,8 @@ TEST_F(ConfigurationTest, NamesEveryFaultWithItsPlace) {
         {16, R"("knowledge_types": the parent of "Own", "Own", is derived from it)"},
         {16, R"("knowledge_types" / item 7 / "name": expected a name, found an empty text)"},
         {16, R"("knowledge_types" / item 7: expected a key "kind")"},
+        {18, R"("custom_property_sets" / item 2: expected a text, found the number 1)"},
+        {18, R"("custom_property_sets" / item 3: expected a name, found an empty text)"},
         {18, R"("runtime_view": the key is there already, in line 4)"},
         {18, R"("runtime_view": expected a list of texts, found null)"},
         {18, R"("conversion_options": the key is there already, in line 10)"},
@@ -172,8 +176,8 @@ TEST_F(ConfigurationTest, NoCommandRunsWithAWrongConfiguration) {
     const TemporaryFile wrong("{\"colour\": 1, \"runtime_view\": 2}"), right("{}"), large(std::string(1 << 21, ' '));
     const std::string house = example("house-ifc2x3.ifc");
     const std::vector<std::vector<std::string>> commands = {
-        {"report", house},           {"check", house}, {"units", house}, {"dictionary", "list"},
-        {"dictionary", "show", "4"}, {"options"},      {"resources"}};
+        {"report", house}, {"check", house}, {"units", house},    {"dictionary", "list"},  {"dictionary", "show", "4"},
+        {"options"},       {"resources"},    {"validate", house}, {"guid", "check", house}};
     for (std::vector<std::string> words : commands) {
         words.insert(words.end(), {"--config", wrong.path()});
         const Outcome outcome = runHost(words);
@@ -186,7 +190,8 @@ TEST_F(ConfigurationTest, NoCommandRunsWithAWrongConfiguration) {
     EXPECT_EQ(faults(wrong.path()),
               "velkor: " + wrong.path() +
                   ":1: \"colour\": unknown key; expected one of \"settings\", \"conversion_options\", \"setup_data\", "
-                  "\"collection_standard\", \"default_collection_standard\", \"runtime_view\", \"knowledge_types\"\n"
+                  "\"collection_standard\", \"default_collection_standard\", \"runtime_view\", "
+                  "\"custom_property_sets\", \"knowledge_types\"\n"
                   "velkor: " +
                   wrong.path() + ":1: \"runtime_view\": expected a list of texts, found the number 2\n");
     EXPECT_EQ(faults("/no/such"), "velkor: /no/such: cannot be read: No such file or directory\n");

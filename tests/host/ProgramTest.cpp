@@ -41,7 +41,8 @@ TEST(Program, TellsItsVersionAndItsCommands) {
 
     const Outcome help = shell("velkor --help");
     EXPECT_EQ(help.status, 0);
-    for (const std::string command : {"report", "check", "units", "dictionary entity", "options", "resources"}) {
+    for (const std::string command :
+         {"report", "check", "validate", "guid check", "units", "dictionary entity", "options", "resources"}) {
         EXPECT_THAT(help.text, HasSubstr("\n  " + command.substr(0, command.find(' '))));
         const Outcome one = shell("velkor " + command + " --help");
         EXPECT_EQ(one.status, 0) << command;
@@ -66,7 +67,7 @@ TEST(Program, BadUsageIsStatus2AndLeavesStandardOutputAlone) {
 
 TEST(Program, WhatCannotBeReadIsStatus3) {
     for (const std::string path : {"no-such-file.ifc", "examples", "README.md", "/dev/null"}) {
-        for (const std::string command : {"report", "check", "units"}) {
+        for (const std::string command : {"report", "check", "validate", "guid check", "units"}) {
             EXPECT_EQ(shell("velkor " + command + " " + path + " 2>/dev/null").status, 3) << command << ' ' << path;
         }
         EXPECT_THAT(shell("velkor report " + path + " 2>&1"),

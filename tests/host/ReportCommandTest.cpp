@@ -52,13 +52,15 @@ TEST(ReportCommand, TellsWhatAModelIs) {
     EXPECT_EQ(answer["contents"], json::parse(R"([{"entity": "IFCELEMENT", "count": 2},
                                                   {"entity": "IFCOPENINGELEMENT", "count": 1}])"));
     EXPECT_EQ(answer["problems"]["total"], 0) << answer["problems"];
+    EXPECT_EQ(answer["property_sets"], nullptr) << "without definitions there is nothing to tell";
 
     const Outcome page = report(model.path());
     EXPECT_EQ(page.status, Done);
     EXPECT_THAT(page.err, IsEmpty());
     EXPECT_THAT(page.out, AllOf(HasSubstr("IFC4 model, 7 instances, no problems found"), HasSubstr("Ada, Grace"),
                                 ContainsRegex("Organization +not stated"), HasSubstr("2 elements, 1 opening"),
-                                ContainsRegex("IFCSIUNIT +2 +28.6 %"), HasSubstr("1 model unit")));
+                                ContainsRegex("IFCSIUNIT +2 +28.6 %"), HasSubstr("1 model unit"),
+                                HasSubstr("\nProperty sets  not checked: velkor resources says where")));
     EXPECT_THAT(page.out, Not(HasSubstr("\033"))) << "no colours without a terminal";
     EXPECT_THAT(report(model.path(), true).out, HasSubstr("\033[1m"));
 }
@@ -87,6 +89,41 @@ TEST(ReportCommand, FindingsAreAPartOfThePage) {
                                 HasSubstr("none in the file"), HasSubstr("IFCFOO (unknown)"), HasSubstr("line 9, #2"),
                                 // The path holds blanks.
                                 HasSubstr("velkor check '" + model.path() + "'")));
+}
+
+TEST(ReportCommand, IdentifiersAndPropertySetsHaveSections) {
+    const auto page = [](const std::string& path) { return runHost({"report", path}, false, shippedResources).out; };
+    const TemporaryModel model(
+        "IFC4", std::string(smallData) + "#8=IFCWALL('1$WU4A9R19$vKWO$AdOnKA',$,$,$,$,$,$,$,$);\n"
+                                         "#9=IFCPROPERTYSINGLEVALUE('FireRatng',$,$,$);\n"
+                                         "#10=IFCPROPERTYSET('3xWU4A9R19$vKWO$AdOnKA',$,'Pset_WallCommon',$,(#9,#9));\n"
+                                         "#11=IFCPROPERTYSET('4$WU4A9R19$vKWO$AdOnKA',$,'Acme',$,(#9));\n"
+                                         "#12=IFCPROPERTYSET('3yWU4A9R19$vKWO$AdOnKA',$,'Acme',$,(#9));\n");
+    const json answer = json::parse(runHost({"report", model.path(), "--format", "json"}, false, shippedResources).out);
+    EXPECT_EQ(answer["identifiers"]["checked"], 8);
+    EXPECT_EQ(answer["identifiers"]["errors"], 2);
+    EXPECT_EQ(answer["identifiers"]["kinds"][0]["code"], "guid-duplicate");
+    EXPECT_EQ(answer["identifiers"]["kinds"][0]["first"]["instance"], 8);
+    EXPECT_EQ(answer["identifiers"]["kinds"][1]["first"]["line"], 18);
+    const json& sets = answer["property_sets"];
+    EXPECT_EQ(sets["sets"], json({{"total", 3}, {"checked", 1}, {"custom", 0}, {"not_checked", 2}}));
+    EXPECT_EQ(sets["without_definition"], json::array({{{"set", "Acme"}, {"count", 2}}}));
+    EXPECT_EQ(sets["findings"]["total"], 2);
+    EXPECT_EQ(sets["findings"]["kinds"][0]["count"], 2);
+    EXPECT_THAT(page(model.path()),
+                AllOf(HasSubstr("\nIdentifiers  8, 2 errors\n  error    guid-duplicate in line 15, #8\n"),
+                      HasSubstr("\nProperty sets  3 sets, 2 warnings\n  Checked         1 with 2 properties"),
+                      HasSubstr("\n  Not checked     2 without a definition: Acme (2)\n"
+                                "  warning  property-unknown, 2 times, first in line 17, #10\n"),
+                      HasSubstr("velkor guid check '" + model.path()), HasSubstr("velkor validate '" + model.path())));
+
+    EXPECT_THAT(page(example("house-ifc2x3.ifc")),
+                AllOf(HasSubstr("\nIdentifiers  53, all well-formed and unique\n"),
+                      HasSubstr("\nProperty sets  12 sets, nothing wrong with those checked\n")));
+    EXPECT_THAT(page(example("road-ifc4x3.ifc")), HasSubstr("\nProperty sets  1 set, none of them checked\n"));
+    EXPECT_THAT(
+        page(TemporaryModel("IFC4", "#1=IFCCARTESIANPOINT((0.,0.,0.));\n").path()),
+        AllOf(HasSubstr("\nIdentifiers  none in the file\n"), HasSubstr("\nProperty sets  none in the file\n")));
 }
 
 TEST(ReportCommand, AHostileFileDoesNotDisturbThePage) {

@@ -19,9 +19,15 @@ struct Outcome {
     std::string err;
 };
 
-inline Outcome runHost(std::vector<std::string> words, bool color = false) {
+/// The resource files that come with the program, where the project has them.
+inline constexpr const char* shippedResources = VELKOR_SOURCE_DIR "/resources";
+
+/// Without shipped resources unless told.
+inline Outcome runHost(std::vector<std::string> words, bool color = false, const std::string& shipped = {},
+                       const std::string& input = {}) {
     std::ostringstream out, err;
-    CommandContext context{out, err, false, color};
+    std::istringstream in(input);
+    CommandContext context{out, err, false, color, &in, shipped};
     const int status = run(std::move(words), context);
     return {status, out.str(), err.str()};
 }

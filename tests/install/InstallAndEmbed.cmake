@@ -41,3 +41,10 @@ execute_process(COMMAND ${prefix}/bin/velkor --version OUTPUT_VARIABLE version R
 if(NOT status EQUAL 0 OR NOT version MATCHES "^velkor [0-9]+\\.[0-9]+\\.[0-9]+\n$")
   message(FATAL_ERROR "the installed program answered --version with ${status}: ${version}")
 endif()
+
+# It finds the resource files that lie beside it.
+execute_process(COMMAND ${prefix}/bin/velkor validate ${SOURCE}/examples/models/pump-room-ifc4.ifc
+                OUTPUT_VARIABLE validation RESULT_VARIABLE status)
+if(NOT status EQUAL 0 OR NOT validation MATCHES "no findings; 9 of 9 sets ")
+  message(FATAL_ERROR "the installed program answered validate with ${status}: ${validation}")
+endif()

@@ -4,11 +4,17 @@
 #include "ExitCallbacks.h"
 #include "objectmodeler/QORFillDictionary.h"
 #include "objectmodeler/QOROMModule.h"
+#include "QOREExchangeAECServices.h"
+#include "QOREExchangeIFCCustomMappingServices.h"
+#include "QOREExchangeIFCMappingServices.h"
+#include "QOREExchangeIFCPLMAttributesMappingServices.h"
 #include "QORIIFCImportServices.h"
 #include "QORXCADNodeFilter.h"
+#include "VelkorComponents.h"
 
 #include <cstdlib>
 #include <iterator>
+#include <string_view>
 
 namespace {
 
@@ -17,6 +23,15 @@ void* moduleAddress();
 template <class Implementation, class Interface, QORExtensionFactory factory>
 void* registerExtension() {
     QORFillDictionary::Register(Implementation::MetaObject(), Interface::MetaObject(), factory, nullptr, 1);
+    return moduleAddress();
+}
+
+// The creation name is the class name without its prefix.
+template <class Implementation>
+void* registerCreation() {
+    constexpr std::string_view prefix = "QORE";
+    QORFillDictionary::RegisterFunctionCreation(Implementation::ClassName() + prefix.size(),
+                                                velkor::objectmodeler::createInstance<Implementation>);
     return moduleAddress();
 }
 
@@ -29,6 +44,18 @@ void* registerInterface() {
 // A section of its own, so that the table can be found in the file; the null entries bound it.
 [[gnu::section("velkor_registrations"), gnu::used]] const QOROMRegistration registrations[] = {
     nullptr,
+    registerExtension<QOREExchangeAECServices, QORIExchangeAECServices,
+                      CreateBOAQORIExchangeAECServicesQOREExchangeAECServices>,
+    registerCreation<QOREExchangeAECServices>,
+    registerExtension<QOREExchangeIFCCustomMappingServices, QORIExchangeIFCCustomMappingServices,
+                      CreateBOAQORIExchangeIFCCustomMappingServicesQOREExchangeIFCCustomMappingServices>,
+    registerCreation<QOREExchangeIFCCustomMappingServices>,
+    registerExtension<QOREExchangeIFCMappingServices, QORIExchangeIFCMappingServices,
+                      CreateBOAQORIExchangeIFCMappingServicesQOREExchangeIFCMappingServices>,
+    registerCreation<QOREExchangeIFCMappingServices>,
+    registerExtension<QOREExchangeIFCPLMAttributesMappingServices, QORIExchangeIFCPLMAttributesMappingServices,
+                      CreateBOAQORIExchangeIFCPLMAttributesMappingServicesQOREExchangeIFCPLMAttributesMappingServices>,
+    registerCreation<QOREExchangeIFCPLMAttributesMappingServices>,
     registerInterface<QORIIFCImportServices>,
     registerExtension<QORXCADNodeFilter, QORIDOMNodeFilter, CreateTIEQORIDOMNodeFilterQORXCADNodeFilter>,
     nullptr,

@@ -4,6 +4,7 @@
 #include "DisplayText.h"
 #include "Json.h"
 #include "ModelCheck.h"
+#include "ProblemText.h"
 #include "report/ProblemSummary.h"
 
 #include <ostream>
@@ -20,13 +21,6 @@ struct Options {
     std::size_t limit = defaultLimit;
 };
 
-// As compilers write it, so that editors jump to the place.
-void writeProblem(std::ostream& out, const std::string& file, const sdai::Problem& problem) {
-    out << file << ':' << problem.line << ": " << name(problem.severity) << ": ";
-    if (problem.instance != 0) out << '#' << problem.instance << ": ";
-    out << printable(problem.message) << " [" << problem.code << "]\n";
-}
-
 void writeText(CommandContext& context, const std::string& file, const CheckResult& result) {
     const std::string shown = printable(file);
     for (const sdai::Problem& problem : result.problems) writeProblem(context.out, shown, problem);
@@ -42,15 +36,6 @@ void writeText(CommandContext& context, const std::string& file, const CheckResu
                     << " problems (--limit shows more)";
     }
     context.out << '\n';
-}
-
-Json problemJson(const sdai::Problem& problem) {
-    return {{"severity", name(problem.severity)},
-            {"line", problem.line},
-            {"offset", problem.offset},
-            {"instance", problem.instance == 0 ? Json() : Json(problem.instance)},
-            {"code", problem.code},
-            {"message", problem.message}};
 }
 
 void finish(CommandContext& context, const std::string& file, const std::string& release, const CheckResult& result) {

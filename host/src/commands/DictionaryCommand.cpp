@@ -2,6 +2,7 @@
 
 #include "CommandContext.h"
 #include "dictionary/DictionaryDiff.h"
+#include "dictionary/VersionMappingDocument.h"
 #include "DisplayText.h"
 #include "Json.h"
 #include "NearestNames.h"
@@ -295,12 +296,47 @@ void runDiff(CommandContext& context, const std::string& first, const std::strin
         writeDiff(context.out, *before, *after, diff);
 }
 
+/// Appends a pair of releases that the version mapping knows; false after saying why not.
+bool addPair(CommandContext& context, const std::string& first, const std::string& second,
+             std::vector<ReleasePair>& pairs, std::vector<SchemaPointer>& schemas) {
+    for (const std::string& release : {first, second}) {
+        schemas.push_back(chooseSchema(context, release));
+        if (!schemas.back()) return false;
+        if (!mappingReleaseText(schemas.back()->name()).empty()) continue;
+        context.err << "velkor: version mappings have no name for " << schemas.back()->name()
+                    << "; expected IFC2X3, IFC4 or IFC4X2\n";
+        context.status = BadUsage;
+        return false;
+    }
+    pairs.emplace_back(schemas[schemas.size() - 2].get(), schemas.back().get());
+    return true;
+}
+
+void runAsMapping(CommandContext& context, const std::string& first, const std::string& second,
+                  const std::vector<std::string>& others) {
+    std::vector<ReleasePair> pairs;
+    std::vector<SchemaPointer> schemas;
+    if (!addPair(context, first, second, pairs, schemas)) return;
+    for (const std::string& other : others) {
+        const std::size_t colon = other.find(':');
+        if (colon == std::string::npos) {
+            context.err << "velkor: --also: expected BEFORE:AFTER, found \"" << printable(other) << "\"\n";
+            context.status = BadUsage;
+            return;
+        }
+        if (!addPair(context, other.substr(0, colon), other.substr(colon + 1), pairs, schemas)) return;
+    }
+    context.out << versionMappingDocument(pairs);
+}
+
 /// What the user typed for one of the subcommands.
 struct Arguments {
     std::string release;
     std::string other;
     bool declarations = false;
     bool statements = false;
+    bool asMapping = false;
+    std::vector<std::string> also;
 };
 
 CLI::App* addSubcommand(CLI::App& dictionary, const char* name, const char* description, const char* example) {
@@ -342,7 +378,17 @@ void addDictionaryCommand(CLI::App& app, CommandContext& context) {
                                    "velkor dictionary diff IFC2X3 IFC4");
     diff->add_option("before", arguments->release, releaseHelp)->required();
     diff->add_option("after", arguments->other, "The release to compare with it")->required();
-    context.complete(*diff, [&context, arguments] { runDiff(context, arguments->release, arguments->other); });
+    CLI::Option* asMapping = diff->add_flag("--as-mapping", arguments->asMapping,
+                                            "Write a version mapping document (XML) in place of the changes");
+    diff->add_option("--also", arguments->also, "Pairs of releases that the document has as well")
+        ->option_text("BEFORE:AFTER …")
+        ->needs(asMapping);
+    context.complete(*diff, [&context, arguments] {
+        if (arguments->asMapping)
+            runAsMapping(context, arguments->release, arguments->other, arguments->also);
+        else
+            runDiff(context, arguments->release, arguments->other);
+    });
 }
 
 } // namespace velkor::host

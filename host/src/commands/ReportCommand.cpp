@@ -1,6 +1,8 @@
 // velkor report
 
 #include "CommandContext.h"
+#include "configuration/PlatformSetup.h"
+#include "guid/GuidCheck.h"
 #include "ModelCheck.h"
 #include "report/Report.h"
 #include "sdai/Model.h"
@@ -12,12 +14,25 @@ namespace {
 // Enough for a summary by kind.
 constexpr std::size_t mostProblems = 10'000;
 
+void addPropertySets(CommandContext& context, const sdai::Model& model, Report& report) {
+    report.propertySets = checkPropertySets(context, model, mostProblems);
+    std::vector<sdai::Problem> problems;
+    for (SetFinding& finding : report.propertySets.findings) problems.push_back(std::move(finding.problem));
+    report.propertySets.findings.clear();
+    report.setFindings = summarized(problems, report.propertySets.total);
+}
+
 void runReport(CommandContext& context, const std::string& path) {
     const auto model = context.openModel(path);
     if (!model) return;
-    Report report{modelFacts(*model), unitReport(*model), {}};
+    const PlatformSetup setup(context.configuration, context.err);
+    Report report{modelFacts(*model), unitReport(*model), {}, 0, {}, {}, {}};
     const CheckResult check = checkModel(context, *model, mostProblems);
     report.problems = summarized(check.problems, check.total);
+    const guid::GuidCheck guids = guid::checkGuids(context, *model, mostProblems);
+    report.identifierCount = guids.count;
+    report.identifiers = summarized(guids.result.problems, guids.result.total);
+    addPropertySets(context, *model, report);
     if (context.json())
         writeJson(context.out, reportJson(report));
     else

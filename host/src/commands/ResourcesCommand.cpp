@@ -142,7 +142,7 @@ void runResources(CommandContext& context) {
     const std::string& path = context.configuration.path;
     if (!context.json()) page.title(path.empty() ? "no configuration" : "configuration " + path);
     for (const ResourceKind& kind : resourceKinds) {
-        const ResourceSearch search = searchResource(kind);
+        const ResourceSearch search = searchResource(kind, setup);
         if (!search.isUsable()) context.status = Findings;
         if (context.json())
             resources.push_back(searchJson(search));
@@ -162,6 +162,7 @@ void addResourcesCommand(CLI::App& app, CommandContext& context) {
     context.complete(*command, [&context] { runResources(context); });
     command->footer("Example:\n  velkor resources --config velkor.json\n\n"
                     "Exit status 1 when a kind of resource has no file that can be read.");
+    addResourcesCheckCommand(*command, context);
 }
 
 } // namespace velkor::host

@@ -36,9 +36,14 @@ struct Configuration {
     /// Nothing when the file does not say.
     std::optional<std::vector<std::string>> collectionStandard;
     std::optional<std::vector<std::string>> defaultCollectionStandard;
-    std::vector<std::string> runtimeView;
+    std::optional<std::vector<std::string>> runtimeView;
+    /// Names of the user's own property sets, as the file writes them.
+    std::vector<std::string> customPropertySets;
     /// Every parent is one of them, and none is its own ancestor.
     std::vector<KnowledgeType> knowledgeTypes;
+    /// Folder of the resource files that take the place of a runtime view and a default collection standard that
+    /// nobody names; empty for none. The file does not say it.
+    std::string shippedResources;
 };
 
 } // namespace velkor::host

@@ -94,6 +94,7 @@ private:
             if (key == keys::defaultCollectionStandard)
                 configuration.defaultCollectionStandard = readFolders(value, place, IsSeparatedList::Yes);
             if (key == keys::runtimeView) configuration.runtimeView = readFolders(value, place, IsSeparatedList::No);
+            if (key == keys::customPropertySets) readCustomPropertySets(value, place);
             if (key == keys::knowledgeTypes) readKnowledgeTypes(value, place);
         }
     }
@@ -179,6 +180,17 @@ private:
         if (node.text.find('\0') == std::string::npos) return true;
         error(node.line, place, "expected a text without zero characters");
         return false;
+    }
+
+    void readCustomPropertySets(const JsonNode& section, const std::string& place) {
+        if (!expect(section, Kind::List, place, "a list of names")) return;
+        std::size_t number = 0;
+        for (const JsonNode& item : section.items) {
+            const std::string inside = place + " / item " + std::to_string(++number);
+            if (!isText(item, inside)) continue;
+            if (item.text.empty()) error(item.line, inside, "expected a name, found an empty text");
+            _result.configuration.customPropertySets.push_back(item.text);
+        }
     }
 
     void readKnowledgeTypes(const JsonNode& section, const std::string& place) {

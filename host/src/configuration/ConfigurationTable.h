@@ -35,6 +35,7 @@ inline constexpr const char* setupData = "setup_data";
 inline constexpr const char* collectionStandard = "collection_standard";
 inline constexpr const char* defaultCollectionStandard = "default_collection_standard";
 inline constexpr const char* runtimeView = "runtime_view";
+inline constexpr const char* customPropertySets = "custom_property_sets";
 inline constexpr const char* knowledgeTypes = "knowledge_types";
 inline constexpr const char* typeName = "name";
 inline constexpr const char* typeKind = "kind";
@@ -46,6 +47,9 @@ inline constexpr const char* typeAbstract = "abstract";
 inline constexpr const char* configurationVariable = "VELKOR_CONFIG";
 inline constexpr const char* noColorVariable = "NO_COLOR";
 inline constexpr const char* terminalVariable = "TERM";
+
+/// Where the resource files come from that nobody has configured.
+inline constexpr const char* shippedSource = "shipped with the program";
 
 /// Repository of the settings that the options are read from.
 inline constexpr const char* optionsRepository = "IFC";
@@ -84,6 +88,8 @@ inline constexpr ConfigurationItem configurationItems[] = {
      "QORDefaultCollectionStandard, when the environment has no such variable"},
     {ConfigurationPlace::Key, keys::runtimeView, "list of folders",
      "the folders that together are the installation, the first one strongest"},
+    {ConfigurationPlace::Key, keys::customPropertySets, "list of names",
+     "property sets of your own, accepted without a definition; letter case does not count"},
     {ConfigurationPlace::Key, keys::knowledgeTypes, "list of objects", "knowledge types and specializations"},
     {ConfigurationPlace::KnowledgeTypeKey, keys::typeName, "text", "name of the type, required"},
     {ConfigurationPlace::KnowledgeTypeKey, keys::typeKind, "\"knowledge\" or \"specialization\"",

@@ -3,9 +3,11 @@
 #include "configuration/ConfigurationTable.h"
 #include "DisplayText.h"
 #include "files/QORSysRTVWalker.h"
+#include "knowledge/TypeDictionary.h"
 #include "QORIFCMsgLoggingServices.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCOptionsServices.h"
+#include "QORIFCPSetQtoValidationService.h"
 #include "settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
@@ -50,7 +52,15 @@ PlatformSetup::PlatformSetup(const Configuration& configuration, std::ostream& e
     setFolders(QORIFCDXFileServices::CollectionStandardVariables[1], configuration.defaultCollectionStandard);
     setSettings(configuration);
     files::setSetupDataFinder(finder(configuration));
-    files::setRuntimeView(list(configuration.runtimeView));
+    files::setRuntimeView(list(configuration.runtimeView.value_or(std::vector<std::string>())));
+    useShippedResources(configuration);
+    setKnowledgeTypes(configuration);
+    for (const std::string& name : configuration.customPropertySets) {
+        QORUnicodeString upper = unicode(name);
+        upper.ToUpper();
+        auto* service = QORIFCPSetQtoValidationService::getInstance();
+        if (!service->IsCustomPsetQto(upper)) service->InitializeCustomPSetQtoList(upper);
+    }
 
     const bool profileBefore = QORDXEnvironmentVariable::HasBeenSet(QORIFCOptions::_envvar_exchange_profile);
     QORIFCOptions::Reset();
@@ -63,6 +73,7 @@ PlatformSetup::PlatformSetup(const Configuration& configuration, std::ostream& e
 PlatformSetup::~PlatformSetup() {
     QORIFCOptionsFromXCAD::DeleteInstance();
     QORIFCOptionsServices::getInstance()->Clear();
+    if (_hasKnowledgeTypes) knowledge::removeTypes();
     files::setRuntimeView(_runtimeViewBefore);
     files::setSetupDataFinder(_finderBefore);
     for (const auto& [name, before] : _repositoriesBefore) {
@@ -85,6 +96,29 @@ void PlatformSetup::setFolders(const char* variable, const std::optional<std::ve
     for (const std::string& folder : *folders) value += (value.empty() ? "" : ";") + folder;
     settings::setVariable(variable, unicode(value));
     _variables.emplace_back(variable);
+}
+
+// They are the defaults: what a user names takes their place.
+void PlatformSetup::useShippedResources(const Configuration& configuration) {
+    if (configuration.shippedResources.empty()) return;
+    if (!configuration.runtimeView) {
+        _shippedRuntimeView = configuration.shippedResources + "/runtime";
+        files::setRuntimeView(list({_shippedRuntimeView}));
+    }
+    const char* variable = QORIFCDXFileServices::CollectionStandardVariables[1];
+    const bool isNamed =
+        configuration.defaultCollectionStandard || QORDXEnvironmentVariable::HasBeenSet(QORUnicodeString(variable));
+    // The variable cannot name a folder with a separator in its path.
+    if (isNamed || configuration.shippedResources.find(';') != std::string::npos) return;
+    _shippedStandard = configuration.shippedResources + "/standard";
+    setFolders(variable, std::vector<std::string>{_shippedStandard});
+}
+
+void PlatformSetup::setKnowledgeTypes(const Configuration& configuration) {
+    for (const auto& type : configuration.knowledgeTypes) {
+        const auto kind = type.isSpecialization ? knowledge::TypeKind::Specialization : knowledge::TypeKind::Knowledge;
+        _hasKnowledgeTypes |= knowledge::addType({type.name, kind, type.parent, type.isAbstract});
+    }
 }
 
 void PlatformSetup::setSettings(const Configuration& configuration) {

@@ -1,6 +1,7 @@
 /// The platform as a configuration wants it, for as long as the object lives: variables of the environment,
-/// settings, setup data, runtime view, exchange log, exchange options, conversion options. The destructor takes
-/// everything back. Of several objects the last one made must be the first to go.
+/// settings, setup data, runtime view, exchange log, exchange options, conversion options, knowledge types, names of
+/// custom property sets. The destructor takes everything back but the names, which the services keep for the life of
+/// the process. Of several objects the last one made must be the first to go.
 ///
 ///     const PlatformSetup setup(context.configuration, context.err);
 ///     … call the services …
@@ -40,6 +41,9 @@ public:
     const std::vector<ConversionOption>& conversionOptions() const noexcept { return _conversionOptions; }
     /// True when the services, not the user, have put the exchange profile into the environment.
     bool isProfileVariableDerived() const noexcept { return _profileVariableIsDerived; }
+    /// The folders of shipped resources that are in force; empty when something else has been configured.
+    const std::string& shippedRuntimeView() const noexcept { return _shippedRuntimeView; }
+    const std::string& shippedStandard() const noexcept { return _shippedStandard; }
 
 private:
     class Log : public exchangelog::MessageLog {
@@ -55,6 +59,8 @@ private:
     };
 
     void setFolders(const char* variable, const std::optional<std::vector<std::string>>& folders);
+    void useShippedResources(const Configuration& configuration);
+    void setKnowledgeTypes(const Configuration& configuration);
     void setSettings(const Configuration& configuration);
     void setConversionOptions(const Configuration& configuration);
 
@@ -66,6 +72,9 @@ private:
     QORListValQORUnicodeString _runtimeViewBefore;
     std::vector<ConversionOption> _conversionOptions;
     bool _profileVariableIsDerived = false;
+    bool _hasKnowledgeTypes = false;
+    std::string _shippedRuntimeView;
+    std::string _shippedStandard;
 };
 
 } // namespace velkor::host

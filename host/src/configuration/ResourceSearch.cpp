@@ -96,10 +96,11 @@ private:
     std::unordered_map<std::string, std::size_t> _first;
 };
 
-void searchCollectionStandard(ResourceSearch& search) {
+void searchCollectionStandard(ResourceSearch& search, const std::string& shipped) {
     Folders folders(search.folders);
     for (const auto& searched : QORIFCDXFileServices::SearchFolders(search.kind.subFolder, search.kind.nameText)) {
         Folder folder{searched.variable, files::nativePath(searched.path), PathState::Readable, {}};
+        if (!shipped.empty() && folder.path == inside(shipped, search.kind.subFolder)) folder.source = shippedSource;
         if (!searched.isReadable) folder.state = unopenedState(folder.path);
         folders.begin(std::move(folder));
         for (const QORUnicodeString& name : searched.names) folders.add(name);
@@ -108,11 +109,14 @@ void searchCollectionStandard(ResourceSearch& search) {
 }
 
 // The walker says what is used; the folders are listed to say what it passes over.
-void searchRuntimeView(ResourceSearch& search) {
+void searchRuntimeView(ResourceSearch& search, const std::string& shipped) {
     Folders folders(search.folders);
     for (const QORUnicodeString& root : files::runtimeView()) {
-        Folder folder{
-            keys::runtimeView, inside(files::nativePath(root), search.kind.subFolder), PathState::Readable, {}};
+        const std::string path = files::nativePath(root);
+        Folder folder{path == shipped ? shippedSource : keys::runtimeView,
+                      inside(path, search.kind.subFolder),
+                      PathState::Readable,
+                      {}};
         QORDirectory* directory = nullptr;
         if (FAILED(QOROpenDirectory(QORUnicodeString(std::string_view(folder.path)), directory)))
             folder.state = unopenedState(folder.path);
@@ -244,13 +248,13 @@ const char* name(PathState state) {
     return names[static_cast<std::size_t>(state)];
 }
 
-ResourceSearch searchResource(const ResourceKind& kind) {
+ResourceSearch searchResource(const ResourceKind& kind, const PlatformSetup& setup) {
     ResourceSearch search{kind, {}, {}, {}, {}, {}, {}, {}};
     askSetupData(search);
     if (kind.rule == ResourceRule::RuntimeView)
-        searchRuntimeView(search);
+        searchRuntimeView(search, setup.shippedRuntimeView());
     else
-        searchCollectionStandard(search);
+        searchCollectionStandard(search, setup.shippedStandard());
     chooseFiles(search);
     search.reason = reason(search);
     remark(search);

@@ -1,9 +1,10 @@
 /// Where the services look for a kind of resource file, what is there, and which files they use.
 ///
 ///     const PlatformSetup setup(configuration, err);
-///     for (const ResourceKind& kind : resourceKinds) show(searchResource(kind));
+///     for (const ResourceKind& kind : resourceKinds) show(searchResource(kind, setup));
 #pragma once
 
+#include "configuration/PlatformSetup.h"
 #include "objectmodeler/ResultCode.h"
 #include "ResourceKinds.h"
 
@@ -32,7 +33,7 @@ struct ResourceSearch {
         std::string hiddenBy;
     };
     struct Folder {
-        /// The variable or the configuration key that it comes from.
+        /// The variable or the configuration key that it comes from, or "shipped with the program".
         std::string source;
         std::string path;
         PathState state;
@@ -57,6 +58,7 @@ struct ResourceSearch {
     bool isUsable() const { return reason.empty(); }
 };
 
-ResourceSearch searchResource(const ResourceKind& kind);
+/// What the setup has put in force is searched; folders of shipped resources are named as such.
+ResourceSearch searchResource(const ResourceKind& kind, const PlatformSetup& setup);
 
 } // namespace velkor::host

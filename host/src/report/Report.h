@@ -5,6 +5,7 @@
 #include "report/ModelFacts.h"
 #include "report/ProblemSummary.h"
 #include "UnitReport.h"
+#include "validation/PropertySetCheck.h"
 
 #include <iosfwd>
 
@@ -14,6 +15,12 @@ struct Report {
     ModelFacts facts;
     UnitReport units;
     ProblemSummary problems;
+    /// Instances with an identifier, and what is wrong with those.
+    std::uint64_t identifierCount = 0;
+    ProblemSummary identifiers;
+    /// What the sets' definitions cover, without the findings, and those by kind.
+    PropertySetCheck propertySets;
+    ProblemSummary setFindings;
 };
 
 void writeReportPage(std::ostream& out, bool color, const Report& report);

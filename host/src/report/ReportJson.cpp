@@ -64,6 +64,19 @@ Json problemsJson(const ProblemSummary& summary) {
             {"kinds", std::move(kinds)}};
 }
 
+Json identifiersJson(const Report& report) {
+    Json json{{"checked", report.identifierCount}};
+    json.update(problemsJson(report.identifiers));
+    return json;
+}
+
+Json propertySetsJson(const Report& report) {
+    if (!report.propertySets.hasDefinitions) return nullptr;
+    Json json = coverageJson(report.propertySets);
+    json["findings"] = problemsJson(report.setFindings);
+    return json;
+}
+
 } // namespace
 
 Json reportJson(const Report& report) {
@@ -76,7 +89,9 @@ Json reportJson(const Report& report) {
             {"contents", contentsJson(facts)},
             {"instances", instancesJson(facts)},
             {"units", unitReportJson(report.units)},
-            {"problems", problemsJson(report.problems)}};
+            {"problems", problemsJson(report.problems)},
+            {"identifiers", identifiersJson(report)},
+            {"property_sets", propertySetsJson(report)}};
 }
 
 } // namespace velkor::host

@@ -15,6 +15,7 @@ using Style = Page::Style;
 
 constexpr std::size_t shownKeywords = 10;
 constexpr std::size_t shownKinds = 6;
+constexpr std::size_t shownNames = 5;
 
 std::string joined(const std::vector<std::string>& texts, std::string_view separator = ", ") {
     std::string result;
@@ -43,8 +44,8 @@ std::string sizeText(std::uint64_t bytes) {
     return decimal(size, 1).append(" ").append(units[unit]).append(" (").append(exact).append(")");
 }
 
-std::string problemCounts(const ProblemSummary& problems) {
-    if (problems.total == 0) return "no problems found";
+std::string problemCounts(const ProblemSummary& problems, std::string_view none = "no problems found") {
+    if (problems.total == 0) return std::string(none);
     std::string result;
     if (problems.errors > 0) result = counted(problems.errors, "error", "errors");
     if (problems.warnings > 0) {
@@ -160,13 +161,14 @@ std::string quoted(const std::string& path) {
     return result + '\'';
 }
 
-void writeProblems(Page& page, const Report& report) {
-    const ProblemSummary& problems = report.problems;
-    if (problems.total == 0) {
-        page.section("Problems", "none found", Style::Good);
-        return;
-    }
-    page.section("Problems", problemCounts(problems), problems.errors > 0 ? Style::Bad : Style::Doubtful);
+Style styleOf(const ProblemSummary& problems) {
+    if (problems.total == 0) return Style::Good;
+    return problems.errors > 0 ? Style::Bad : Style::Doubtful;
+}
+
+// Each kind with its first place, and the command that lists all.
+void writeKinds(Page& page, const ProblemSummary& problems, const std::string& command, const std::string& path) {
+    if (problems.total == 0) return;
     const auto shown = std::min(shownKinds, problems.kinds.size());
     for (std::size_t i = 0; i < shown; ++i) {
         const ProblemSummary::Kind& kind = problems.kinds[i];
@@ -179,7 +181,52 @@ void writeProblems(Page& page, const Report& report) {
     if (problems.kinds.size() > shown) {
         page.line("and " + counted(problems.kinds.size() - shown, "kind more", "kinds more"));
     }
-    page.line(page.styled("All of them: velkor check " + printable(quoted(report.facts.path)), Style::Dim));
+    page.line(page.styled("All of them: velkor " + command + ' ' + printable(quoted(path)), Style::Dim));
+}
+
+void writeIdentifiers(Page& page, const Report& report) {
+    const ProblemSummary& problems = report.identifiers;
+    const bool areAny = report.identifierCount > 0;
+    page.section("Identifiers",
+                 areAny ? grouped(report.identifierCount) + ", " + problemCounts(problems, "all well-formed and unique")
+                        : "none in the file",
+                 areAny ? styleOf(problems) : Style::Doubtful);
+    writeKinds(page, problems, "guid check", report.facts.path);
+}
+
+void writePropertySets(Page& page, const Report& report) {
+    const PropertySetCheck& sets = report.propertySets;
+    const std::string count = counted(sets.sets, "set", "sets");
+    if (!sets.hasDefinitions) {
+        page.section("Property sets", "not checked: velkor resources says where definitions are looked for",
+                     Style::Doubtful);
+        return;
+    }
+    if (sets.sets == 0) {
+        page.section("Property sets", "none in the file");
+        return;
+    }
+    const ProblemSummary& findings = report.setFindings;
+    // Nothing is found where nothing has been looked at.
+    const bool isAnyChecked = sets.checkedSets > 0;
+    page.section(
+        "Property sets",
+        count + ", " +
+            problemCounts(findings, isAnyChecked ? "nothing wrong with those checked" : "none of them checked"),
+        isAnyChecked || findings.total > 0 ? styleOf(findings) : Style::Doubtful);
+    page.entry("Checked", grouped(sets.checkedSets) + " with " +
+                              counted(sets.checkedProperties, "property or quantity", "properties and quantities"));
+    if (sets.customSets > 0) page.entry("Of your own", grouped(sets.customSets));
+    if (sets.uncheckedSets() > 0) {
+        page.entry("Not checked",
+                   grouped(sets.uncheckedSets()) + " without a definition: " + undefinedText(sets, shownNames));
+    }
+    writeKinds(page, findings, "validate", report.facts.path);
+}
+
+void writeProblems(Page& page, const Report& report) {
+    page.section("Problems", problemCounts(report.problems, "none found"), styleOf(report.problems));
+    writeKinds(page, report.problems, "check", report.facts.path);
 }
 
 } // namespace
@@ -191,6 +238,8 @@ void writeReportPage(std::ostream& out, bool color, const Report& report) {
     writeProject(page, report.facts);
     writeInstances(page, report.facts);
     writeUnits(page, report.units);
+    writeIdentifiers(page, report);
+    writePropertySets(page, report);
     writeProblems(page, report);
 }
 

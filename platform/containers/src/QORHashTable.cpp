@@ -35,16 +35,13 @@ QORHashCodeIter& QORHashCodeIter::operator++() noexcept {
     return *this;
 }
 
-QORHashTable::QORHashTable(HashFunction hash, CompareFunction compare, int dimension)
-    : QORHashTable(hash, compare, dimension, nullptr) {}
-
-QORHashTable::QORHashTable(HashFunction hash, CompareFunction compare, int dimension, void* extra)
+QORHashTable::QORHashTable(Hash hash, Comparison compare, int dimension, void* extra)
     : _hash(hash), _compare(compare), _extra(extra), _entries(static_cast<std::size_t>(std::max(dimension, 0))) {}
 
 void* QORHashTable::Insert(void* entry) {
     if (entry == nullptr) return nullptr;
     if (void* present = Locate(entry)) return present;
-    _entries.add(_hash(entry), entry);
+    _entries.add(_hash.call(_hash.function, entry), entry);
     return entry;
 }
 
@@ -93,20 +90,13 @@ void* QORHashTable::RemovePosition(int bucket, int place) {
 }
 
 int QORHashTable::ApplyGlobalFunct(int (*function)(void*), void* start, void** last, int* result) const {
-    int calls = 0;
-    int answer = 0;
-    void* entry = start == nullptr ? Next(nullptr) : Locate(start);
-    for (; entry != nullptr && answer == 0; entry = Next(entry)) {
-        answer = function(entry);
-        ++calls;
-        if (last != nullptr) *last = entry;
-        if (result != nullptr) *result = answer;
-    }
-    return calls;
+    return applyToEach(function, start, last, result);
 }
 
 bool QORHashTable::operator==(const QORHashTable& other) const noexcept {
-    if (_hash != other._hash || _compare != other._compare || Size() != other.Size()) return false;
+    if (_hash.function != other._hash.function || _compare.function != other._compare.function ||
+        Size() != other.Size())
+        return false;
     std::int32_t mine = _entries.next(EntryTable::None);
     std::int32_t theirs = other._entries.next(EntryTable::None);
     while (mine != EntryTable::None && theirs != EntryTable::None) {
@@ -119,5 +109,6 @@ bool QORHashTable::operator==(const QORHashTable& other) const noexcept {
 
 std::int32_t QORHashTable::position(void* pattern) const {
     if (pattern == nullptr) return EntryTable::None;
-    return _entries.find(_hash(pattern), [&](void* entry) { return _compare(entry, pattern) == 0; });
+    return _entries.find(_hash.call(_hash.function, pattern),
+                         [&](void* entry) { return _compare.call(_compare.function, entry, pattern) == 0; });
 }

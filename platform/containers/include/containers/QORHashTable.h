@@ -28,10 +28,21 @@ public:
     /// 0 when two entries are the same entry.
     using CompareFunction = int (*)(void* a, void* b);
 
-    /// `dimension` is the number of entries expected; 0 is the default sizing.
-    QORHashTable(HashFunction hash, CompareFunction compare, int dimension = 0);
-    /// `extra` belongs to the table's user: it is kept and handed back by Extra().
-    QORHashTable(HashFunction hash, CompareFunction compare, int dimension, void* extra);
+    /// `dimension` is the number of entries expected; 0 is the default sizing. `extra` belongs to the table's
+    /// user: it is kept and handed back by Extra(). Functions may be typed on the entries, which are
+    /// then all of that type.
+    template <class Entry>
+    QORHashTable(unsigned int (*hash)(Entry*), int (*compare)(Entry*, Entry*), int dimension = 0, void* extra = nullptr)
+        : QORHashTable({reinterpret_cast<AnyFunction>(hash),
+                        [](AnyFunction function, void* entry) {
+                            return reinterpret_cast<unsigned int (*)(Entry*)>(function)(static_cast<Entry*>(entry));
+                        }},
+                       {reinterpret_cast<AnyFunction>(compare),
+                        [](AnyFunction function, void* a, void* b) {
+                            return reinterpret_cast<int (*)(Entry*, Entry*)>(function)(static_cast<Entry*>(a),
+                                                                                       static_cast<Entry*>(b));
+                        }},
+                       dimension, extra) {}
 
     void* Extra() const noexcept { return _extra; }
     int Size() const noexcept { return static_cast<int>(_entries.size()); }
@@ -69,15 +80,40 @@ public:
     /// The entry called last and its answer go to the outputs that are not null. Gives the number
     /// of calls.
     int ApplyGlobalFunct(int (*function)(void*), void* start, void** last, int* result) const;
+    /// The same with whatever can be called with an entry.
+    template <class Call>
+    int applyToEach(Call call, void* start, void** last, int* result) const {
+        int calls = 0;
+        int answer = 0;
+        void* entry = start == nullptr ? Next(nullptr) : Locate(start);
+        for (; entry != nullptr && answer == 0; entry = Next(entry)) {
+            answer = call(entry);
+            ++calls;
+            if (last != nullptr) *last = entry;
+            if (result != nullptr) *result = answer;
+        }
+        return calls;
+    }
 
     /// The same functions and the same entries in the same order.
     bool operator==(const QORHashTable& other) const noexcept;
 
 private:
+    // A function of any type, and how it is called as what it is.
+    using AnyFunction = void (*)();
+    template <class Caller>
+    struct Callable {
+        AnyFunction function;
+        Caller call;
+    };
+    using Hash = Callable<unsigned int (*)(AnyFunction, void*)>;
+    using Comparison = Callable<int (*)(AnyFunction, void*, void*)>;
+
+    QORHashTable(Hash hash, Comparison compare, int dimension, void* extra);
     std::int32_t position(void* pattern) const;
 
-    HashFunction _hash;
-    CompareFunction _compare;
+    Hash _hash;
+    Comparison _compare;
     void* _extra;
     velkor::containers::EntryTable _entries;
 };

@@ -1,0 +1,72 @@
+/// The document of correspondences, and its elements by name.
+#pragma once
+
+#include "objectmodeler/ResultCode.h"
+#include "text/QORUnicodeString.h"
+#include "xml/DomTypes.h"
+#include "xml/QORIDOMElement.h"
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace velkor::library {
+
+class AECDocument {
+public:
+    /// What was found out about an element. It is kept, since the document does not change.
+    struct Answer {
+        HRESULT result;
+        QORUnicodeString text;
+    };
+    /// The test that decides whether an element qualifies; it always does without an attribute.
+    struct Condition {
+        HRESULT result;
+        QORUnicodeString attribute;
+        QORUnicodeString value;
+        QORUnicodeString upperValue;
+    };
+    struct Candidate {
+        QORIDOMElement_var element;
+        std::optional<Condition> condition;
+        std::optional<Answer> neutralId;
+        std::optional<Answer> plmType;
+    };
+    /// The elements of a tag and a name.
+    struct Entry {
+        /// In the order of the document.
+        std::vector<QORIDOMElement_var> elements;
+        /// By priority; empty until somebody asks for a choice.
+        std::vector<Candidate> candidates;
+        /// Names of the sides of the first element, by tag.
+        std::map<std::string, std::optional<Answer>, std::less<>> sideNames;
+    };
+
+    bool isLoaded() const noexcept { return !_document.IsNull(); }
+    void clear();
+    /// Finds the resource and reads it in place of what was there. A failure leaves nothing.
+    HRESULT load();
+
+    /// Elements of a tag, letter case included, whose "Name" is the wanted one, letter case ignored; all of the tag
+    /// for an empty name. Null when there is none. Valid until the document goes.
+    HRESULT entry(const char* tag, const QORUnicodeString& name, Entry*& found);
+
+private:
+    struct Index {
+        Entry all;
+        std::unordered_map<QORUnicodeString, Entry> byName;
+    };
+    HRESULT index(const char* tag, Index*& result);
+
+    QORIDOMDocument_var _document;
+    // Filled for a tag when it is first asked for.
+    std::map<std::string, Index, std::less<>> _byTag;
+};
+
+/// The first element of a tag at or below an element; empty when there is none.
+HRESULT firstElement(const QORIDOMElement_var& root, const char* tag, QORIDOMElement_var& found);
+
+} // namespace velkor::library

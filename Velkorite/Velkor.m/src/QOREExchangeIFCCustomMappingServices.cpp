@@ -1,0 +1,215 @@
+#include "QOREExchangeIFCCustomMappingServices.h"
+
+#include "knowledge/QORIExchangeIFCMappingServices.h"
+#include "knowledge/QORITypeDictionary.h"
+#include "knowledge/QORVleTypeServices.h"
+#include "objectmodeler/Assertion.h"
+#include "QORHashTabCustoMappingElement.h"
+#include "QORIFCDXDataSetupServices.h"
+#include "QORIFCDXXMLServices.h"
+#include "QORIFCOptionsFromXCAD.h"
+#include "QORIFCPSetQtoValidationService.h"
+#include "ResourceKinds.h"
+#include "text/QORToken.h"
+#include "VelkorComponents.h"
+#include "xml/QORIDOMElement.h"
+
+#include <memory>
+
+VELKOR_IMPLEMENT_CLASS(QOREExchangeIFCCustomMappingServices, QORIExchangeIFCCustomMappingServices, "QORNull",
+                       "Velkorite")
+VELKOR_IMPLEMENT_BOA(VELKOR_API, QORIExchangeIFCCustomMappingServices, QOREExchangeIFCCustomMappingServices)
+
+namespace {
+
+constexpr const char* standardSection = "StandardMapping";
+constexpr const char* customSection = "CustomMapping";
+constexpr unsigned int importRank = 1;
+
+QORIDOMDocument_var customMappingDocument;
+QORHashTabCustoMappingElement* customMappingTable = nullptr;
+bool TableBuilt = false;
+
+/// All nodes of a path, and how many.
+HRESULT select(const QORIDOMDocument_var& document, const char* xpath, QORIDOMNodeList_var& nodes,
+               unsigned int& length) {
+    HRESULT result = QORIFCDXXMLServices::GetNodeList(document, xpath, nodes);
+    if (FAILED(result)) return result;
+    if (nodes.IsNull()) return E_UNEXPECTED;
+    result = nodes->GetLength(length);
+    return FAILED(result) ? result : S_OK;
+}
+
+/// Whether scopes are names of types: the host's dictionary knows types of buildings.
+bool scopesAreTypes() {
+    const QORITypeDictionary_var dictionary = QORGlobalFunctions::GetTypeDictionary();
+    if (dictionary.IsNull()) return false;
+    QORListValQORUnicodeString names;
+    dictionary->ListTypeNames(names);
+    for (QORUnicodeString name : names) {
+        name.ToLower();
+        // Behind the first character: a name that begins with it does not count.
+        if (name.SearchSubString("ifc") >= 1 || name.SearchSubString("aec") >= 1) return true;
+    }
+    return false;
+}
+
+/// Puts an element in place of one with the same hash. False when that one is of a smaller rank and stays.
+bool replace(std::unique_ptr<CustoMappingElement> element, unsigned int rank) {
+    CustoMappingElement* present = customMappingTable->Insert(element.get());
+    if (present != element.get()) {
+        if (present->GetInheritanceRank() < rank) return false;
+        delete customMappingTable->Remove(present);
+        customMappingTable->Insert(element.get());
+    }
+    static_cast<void>(element.release());
+    return true;
+}
+
+/// A set that users map to is one that validation must let pass.
+void announce(QORUnicodeString& toEntity) {
+    QORIFCPSetQtoValidationService* validation = QORIFCPSetQtoValidationService::getInstance();
+    if (validation == nullptr) return;
+    unsigned char isValidating = 0;
+    validation->GetIfcPsetQtoValidation(isValidating);
+    if (toEntity.IsEmpty() || isValidating == 0) return;
+    toEntity.ToUpper();
+    validation->InitializeCustomPSetQtoList(toEntity);
+}
+
+} // namespace
+
+HRESULT QOREExchangeIFCCustomMappingServices::LoadCustomMapping() {
+    customMappingDocument = {};
+    if (customMappingTable != nullptr) {
+        customMappingTable->ApplyDelete();
+        delete customMappingTable;
+        customMappingTable = nullptr;
+    }
+    const velkor::ResourceKind& kind = velkor::customMappingResource;
+    QORUnicodeString path;
+    HRESULT result = QORIFCDXDataSetupServices::GetResourcePath(kind.resourceSet, kind.category, kind.subFolder, path);
+    if (FAILED(result)) {
+        VELKOR_ASSERTION_FAILED();
+        return result;
+    }
+    QORIDOMDocument_var document;
+    result = QORIFCDXXMLServices::GetDOMDocument(path, document);
+    if (FAILED(result)) {
+        VELKOR_ASSERTION_FAILED();
+        return result;
+    }
+    customMappingDocument = document;
+    TableBuilt = false;
+    return S_OK;
+}
+
+HRESULT QOREExchangeIFCCustomMappingServices::GetCustomMapping(const QORUnicodeString& iEntity,
+                                                               const QORUnicodeString& iProperty,
+                                                               const QORUnicodeString& iScope,
+                                                               QORUnicodeString& oEntity, QORUnicodeString& oProperty) {
+    QORIFCOptionsFromXCAD* options = QORIFCOptionsFromXCAD::GetInstance();
+    if (options != nullptr && options->GetValueIFCVersionMapping() == S_OK) return IFC_MAPPING_NONE;
+    if (!TableBuilt) {
+        BuildCustomMappingTable();
+        TableBuilt = true;
+    }
+    if (customMappingTable == nullptr) return IFC_MAPPING_NONE;
+    CustoMappingElement probe(iEntity, iProperty, oEntity, oProperty, iScope, importRank);
+    CustoMappingElement* found = customMappingTable->Locate(&probe);
+    if (found == nullptr) return IFC_MAPPING_NONE;
+    oEntity = found->GetToEntity();
+    oProperty = found->GetToProperty();
+    return IFC_MAPPING_MAPPED;
+}
+
+HRESULT QOREExchangeIFCCustomMappingServices::BuildCustomMappingTable() {
+    const QORIDOMDocument_var document = customMappingDocument;
+    if (document.IsNull()) {
+        VELKOR_ASSERTION_FAILED();
+        return E_UNEXPECTED;
+    }
+    QORIDOMNodeList_var standard, custom;
+    unsigned int standardCount = 0, customCount = 0;
+    HRESULT result = select(document, "IfcMapping/StandardMapping", standard, standardCount);
+    if (FAILED(result)) return result;
+    result = select(document, "IfcMapping/CustomMapping", custom, customCount);
+    if (FAILED(result)) return result;
+    if (standardCount + customCount == 0) {
+        VELKOR_ASSERTION_FAILED();
+        return E_UNEXPECTED;
+    }
+    customMappingTable =
+        new QORHashTabCustoMappingElement(QORHTAB_ComputeKeyCustoMappingElement, QORHTAB_CompareCustoMappingElement,
+                                          static_cast<int>(standardCount + customCount));
+    const bool isResolving = scopesAreTypes();
+    addMappings(standard, standardSection, isResolving);
+    addMappings(custom, customSection, isResolving);
+    return S_OK;
+}
+
+void QOREExchangeIFCCustomMappingServices::addMappings(const QORIDOMNodeList_var& nodes, const char* section,
+                                                       bool isResolving) {
+    unsigned int length = 0;
+    nodes->GetLength(length);
+    for (unsigned int i = 0; i < length; ++i) {
+        CurrentSection = section;
+        QORIDOMNode_var node;
+        nodes->Item(i, node);
+        const QORIDOMElement_var element = node;
+        QORUnicodeString fromEntity, toEntity, fromProperty, toProperty, scope;
+        const auto read = [&](const char* name, QORUnicodeString& value) {
+            return SUCCEEDED(element->GetAttribute(name, value));
+        };
+        const bool isRead = !element.IsNull() && read("fromEntity", fromEntity) && read("toEntity", toEntity) &&
+                            read("fromProperty", fromProperty) && read("toProperty", toProperty) &&
+                            read("scope", scope);
+        if (!isRead) {
+            VELKOR_ASSERTION_FAILED();
+            continue;
+        }
+        if (CurrentSection == customSection) announce(toEntity);
+        addScopes(scope, isResolving, fromEntity, toEntity, fromProperty, toProperty);
+    }
+}
+
+void QOREExchangeIFCCustomMappingServices::addScopes(const QORUnicodeString& scopes, bool isResolving,
+                                                     const QORUnicodeString& fromEntity,
+                                                     const QORUnicodeString& toEntity,
+                                                     const QORUnicodeString& fromProperty,
+                                                     const QORUnicodeString& toProperty) {
+    QORToken tokens(scopes);
+    QORUnicodeString token = tokens.GetNextToken(";");
+    while (!token.IsEmpty()) {
+        QORUnicodeString scope = token;
+        bool isWanted = true;
+        if (isResolving) {
+            QORIType_var type;
+            isWanted = SUCCEEDED(QORVlePLMNavPublicServices::RetrieveKnowledgeType(token.ConvertToChar(), type)) ||
+                       SUCCEEDED(QORVlePLMNavSpecializationAccessPublicServices::RetrieveSpecializationType(
+                           token.ConvertToChar(), type));
+            unsigned char isAbstract = 1;
+            if (isWanted && FAILED(QORVleTypeProtectedServices::GetAbstractStatus(type, isAbstract))) {
+                // The same name is asked for again: only a success or a skip consumes it.
+                VELKOR_ASSERTION_FAILED();
+                continue;
+            }
+            isWanted = isWanted && isAbstract == 0;
+            if (isWanted) type->GetName(scope);
+        }
+        if (isWanted) AddCustomMappingElement(scope, fromEntity, toEntity, fromProperty, toProperty, importRank);
+        token = tokens.GetNextToken(";");
+    }
+}
+
+int QOREExchangeIFCCustomMappingServices::AddCustomMappingElement(
+    const QORUnicodeString& iScopeName, const QORUnicodeString& iFromEntity, const QORUnicodeString& iToEntity,
+    const QORUnicodeString& iFromProperty, const QORUnicodeString& iToProperty, unsigned int iRank) {
+    auto imported = std::make_unique<CustoMappingElement>(iFromEntity, iFromProperty, iToEntity, iToProperty,
+                                                          iScopeName + "_Import", importRank);
+    if (!replace(std::move(imported), iRank)) return 1;
+    if (CurrentSection.Compare(customSection) == 0) return 0;
+    auto exported = std::make_unique<CustoMappingElement>(iToEntity, iToProperty, iFromEntity, iFromProperty,
+                                                          iScopeName + "_Export", iRank);
+    return replace(std::move(exported), iRank) ? 0 : 1;
+}

@@ -1,0 +1,28 @@
+/// The custom mappings, from one document per process, expanded by type and direction.
+#pragma once
+
+#include "knowledge/QORIExchangeIFCCustomMappingServices.h"
+#include "xml/DomTypes.h"
+
+class QOREExchangeIFCCustomMappingServices final : public QORIExchangeIFCCustomMappingServices {
+    VELKOR_DECLARE_CLASS
+
+public:
+    HRESULT LoadCustomMapping() override;
+    HRESULT GetCustomMapping(const QORUnicodeString& iEntity, const QORUnicodeString& iProperty,
+                             const QORUnicodeString& iScope, QORUnicodeString& oEntity,
+                             QORUnicodeString& oProperty) override;
+
+private:
+    HRESULT BuildCustomMappingTable();
+    void addMappings(const QORIDOMNodeList_var& nodes, const char* section, bool isResolving);
+    void addScopes(const QORUnicodeString& scopes, bool isResolving, const QORUnicodeString& fromEntity,
+                   const QORUnicodeString& toEntity, const QORUnicodeString& fromProperty,
+                   const QORUnicodeString& toProperty);
+    int AddCustomMappingElement(const QORUnicodeString& iScopeName, const QORUnicodeString& iFromEntity,
+                                const QORUnicodeString& iToEntity, const QORUnicodeString& iFromProperty,
+                                const QORUnicodeString& iToProperty, unsigned int iRank);
+
+    /// Name of the elements that are being read.
+    QORUnicodeString CurrentSection;
+};

@@ -1,0 +1,105 @@
+// What the checks of identifiers and property sets cost on a large model: a million properties in 100,000 sets
+// of 100,000 walls.
+
+#include "configuration/PlatformSetup.h"
+#include "guid/GuidCheck.h"
+#include "sdai/Model.h"
+#include "validation/PropertySetCheck.h"
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <iostream>
+#include <string>
+
+using namespace velkor::host;
+using velkor::sdai::Model;
+
+namespace {
+
+constexpr int wallCount = 100'000;
+constexpr const char* properties[] = {"Reference",   "Status",          "AcousticRating",       "FireRating",
+                                      "Combustible", "IsExternal",      "ThermalTransmittance", "SurfaceSpreadOfFlame",
+                                      "LoadBearing", "Compartmentation"};
+
+// 22 characters of their own for each number.
+std::string guid(std::uint64_t number) {
+    std::string text = std::to_string(number);
+    return std::string(22 - text.size(), '0') + text;
+}
+
+// With `isWrong`, every set has a property that its definition lacks and belongs to no wall.
+std::string structure(bool isWrong) {
+    std::string text = "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\nFILE_NAME('','',(''),(''),'','','');\n"
+                       "FILE_SCHEMA(('IFC4'));\nENDSEC;\nDATA;\n";
+    std::uint64_t id = 0;
+    const auto begin = [&](const char* keyword) {
+        text += '#' + std::to_string(++id) + '=' + keyword + '(';
+        return id;
+    };
+    for (int wall = 0; wall < wallCount; ++wall) {
+        const std::uint64_t object = begin(isWrong ? "IFCSITE" : "IFCWALL");
+        text += '\'' + guid(id) + (isWrong ? "',$,$,$,$,$,$,$,$,$,$,$,$,$);\n" : "',$,$,$,$,$,$,$,$);\n");
+        std::string members;
+        for (const char* name : properties) {
+            begin("IFCPROPERTYSINGLEVALUE");
+            text += std::string("'") + name + (isWrong && members.empty() ? "s" : "") + "',$,IFCLABEL('a value'),$);\n";
+            members += (members.empty() ? "#" : ",#") + std::to_string(id);
+        }
+        const std::uint64_t set = begin("IFCPROPERTYSET");
+        text += '\'' + guid(id) + "',$,'Pset_WallCommon',$,(" + members + "));\n";
+        begin("IFCRELDEFINESBYPROPERTIES");
+        text += '\'' + guid(id) + "',$,$,$,(#" + std::to_string(object) + "),#" + std::to_string(set) + ");\n";
+    }
+    return text + "ENDSEC;\nEND-ISO-10303-21;\n";
+}
+
+const std::string& structureText(bool isWrong) {
+    static const std::string right = structure(false), wrong = structure(true);
+    return isWrong ? wrong : right;
+}
+
+// Each round has a model of its own, none of whose instances has been touched; opening it is not counted.
+template <class Check>
+void eachModel(benchmark::State& state, bool isWrong, Check check) {
+    Configuration configuration;
+    configuration.shippedResources = VELKOR_SOURCE_DIR "/resources";
+    const PlatformSetup setup(configuration, std::cerr);
+    CommandContext context{std::cout, std::cerr};
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto model = Model::fromText(structureText(isWrong), "bench");
+        if (!model) return state.SkipWithError(model.error().c_str());
+        state.ResumeTiming();
+        if (!check(context, **model)) return state.SkipWithError("the model was not checked as expected");
+        state.PauseTiming();
+        model->reset();
+        state.ResumeTiming();
+    }
+    state.SetItemsProcessed(state.iterations() * wallCount * std::ssize(properties));
+}
+
+void rightSets(benchmark::State& state) {
+    eachModel(state, false, [](CommandContext& context, const Model& model) {
+        const PropertySetCheck check = checkPropertySets(context, model, 100'000);
+        return check.total == 0 && check.checkedProperties == wallCount * std::size(properties);
+    });
+}
+
+void wrongSets(benchmark::State& state) {
+    eachModel(state, true, [](CommandContext& context, const Model& model) {
+        return checkPropertySets(context, model, 100'000).total == 2 * wallCount;
+    });
+}
+
+void identifiers(benchmark::State& state) {
+    eachModel(state, false, [](CommandContext& context, const Model& model) {
+        const guid::GuidCheck check = guid::checkGuids(context, model, 100'000);
+        return check.result.total == 0 && check.count == 3 * wallCount;
+    });
+}
+
+} // namespace
+
+BENCHMARK(rightSets)->Unit(benchmark::kMillisecond);
+BENCHMARK(wrongSets)->Unit(benchmark::kMillisecond);
+BENCHMARK(identifiers)->Unit(benchmark::kMillisecond);

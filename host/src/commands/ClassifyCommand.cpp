@@ -1,0 +1,224 @@
+// velkor classify
+
+#include "classification/Classification.h"
+#include "CommandContext.h"
+#include "configuration/PlatformSetup.h"
+#include "configuration/ResourceSearch.h"
+#include "DisplayText.h"
+#include "Json.h"
+#include "knowledge/QORIExchangeAECServices.h"
+#include "objectmodeler/ClassDictionary.h"
+#include "TextTable.h"
+
+#include <algorithm>
+#include <map>
+#include <ostream>
+
+namespace velkor::host {
+
+namespace {
+
+constexpr std::size_t defaultLimit = 100'000;
+
+using Decision = Classification::Decision;
+using Entry = Correspondences::Entry;
+
+struct Options {
+    std::string path;
+    std::size_t limit = defaultLimit;
+};
+
+/// The document that the services use, and what they make of a model by it.
+struct Result {
+    std::string documentPath;
+    Correspondences document;
+    Classification classification;
+};
+
+std::string entityName(const Decision& decision) {
+    return decision.entity == nullptr ? "(complex instance)" : std::string(decision.entity->name());
+}
+
+// Products of one class with the same answer, whichever entry gave it.
+struct Group {
+    const Decision* decision;
+    std::uint64_t count;
+};
+
+// By class, in the order of the names.
+std::vector<Group> groupsOf(const Classification& classification) {
+    std::map<std::pair<std::string, std::string>, Group> groups;
+    for (const Decision& decision : classification.decisions) {
+        const auto [group, isNew] =
+            groups.try_emplace({entityName(decision), decision.neutralId}, Group{&decision, decision.count});
+        if (!isNew) group->second.count += decision.count;
+    }
+    std::vector<Group> result;
+    for (const auto& [key, group] : groups) result.push_back(group);
+    return result;
+}
+
+std::string explanation(const Decision& decision) {
+    if (decision.neutralId.empty()) return "none: " + decision.reason;
+    if (decision.entry == nullptr) return "unknown";
+    const Entry& entry = *decision.entry;
+    std::string text = entry.ifcType + ", priority " + std::to_string(entry.priority);
+    if (entry.condition) text += ", " + entry.condition->attribute + " is \"" + entry.condition->value + '"';
+    return printable(text + " (line " + std::to_string(entry.line) + ')');
+}
+
+std::string orDash(const std::string& text) {
+    return text.empty() ? "-" : printable(text);
+}
+
+/// Calls with each product that is to be listed.
+template <class Show>
+void eachListed(const sdai::Model& model, const Classification& classification, std::size_t limit, Show show) {
+    const std::size_t listed = std::min(limit, classification.products.size());
+    for (std::size_t i = 0; i < listed; ++i) {
+        const Classification::Product& product = classification.products[i];
+        show(*model.instanceAt(product.number), classification.decisions[product.decision]);
+    }
+}
+
+void writeText(std::ostream& out, const sdai::Model& model, const Result& result, std::size_t limit) {
+    const Classification& classification = result.classification;
+    TextTable products({{"product", TextTable::Right}, {"entity"}, {"name"}, {"neutral id"}, {"PLM type"}, {"entry"}});
+    eachListed(model, classification, limit, [&](const DXSdaiAppInstance& product, const Decision& decision) {
+        products.add({'#' + std::to_string(product.id()), entityName(decision),
+                      printable(product.GetAttr("NAME").asString()), orDash(decision.neutralId),
+                      orDash(decision.plmType), explanation(decision)});
+    });
+    if (!products.empty()) {
+        products.write(out);
+        out << '\n';
+    }
+    TextTable classes({{"entity"}, {"neutral id"}, {"PLM type"}, {"count", TextTable::Right}});
+    for (const Group& group : groupsOf(classification)) {
+        const Decision& decision = *group.decision;
+        classes.add({entityName(decision), orDash(decision.neutralId), orDash(decision.plmType), grouped(group.count)});
+    }
+    if (!classes.empty()) {
+        classes.write(out);
+        out << '\n';
+    }
+    const std::size_t total = classification.products.size();
+    out << printable(model.file().name()) << ": " << counted(total, "product", "products");
+    if (total > limit) out << ", the first " << grouped(limit) << " are listed (--limit shows more)";
+    if (classification.unclassified > 0) out << "; " << grouped(classification.unclassified) << " without neutral id";
+    out << "\nby " << printable(result.documentPath) << '\n';
+}
+
+Json textOrNull(const std::string& text) {
+    return text.empty() ? Json() : Json(text);
+}
+
+Json entryJson(const Entry* entry) {
+    if (entry == nullptr) return nullptr;
+    const Json condition = entry->condition
+                               ? Json{{"attribute", entry->condition->attribute}, {"value", entry->condition->value}}
+                               : Json();
+    return {
+        {"ifc_type", entry->ifcType}, {"priority", entry->priority}, {"condition", condition}, {"line", entry->line}};
+}
+
+Json resultJson(const sdai::Model& model, const Result& result, std::size_t limit) {
+    const Classification& classification = result.classification;
+    Json classes = Json::array(), products = Json::array();
+    for (const Group& group : groupsOf(classification)) {
+        classes.push_back({{"entity", entityName(*group.decision)},
+                           {"neutral_id", textOrNull(group.decision->neutralId)},
+                           {"plm_type", textOrNull(group.decision->plmType)},
+                           {"count", group.count}});
+    }
+    eachListed(model, classification, limit, [&](const DXSdaiAppInstance& product, const Decision& decision) {
+        products.push_back({{"instance", product.id()},
+                            {"global_id", product.GetAttr("GLOBALID").asString()},
+                            {"entity", entityName(decision)},
+                            {"name", product.GetAttr("NAME").asString()},
+                            {"neutral_id", textOrNull(decision.neutralId)},
+                            {"plm_type", textOrNull(decision.plmType)},
+                            {"presented_as", textOrNull(decision.ifcType)},
+                            {"entry", entryJson(decision.entry)},
+                            {"reason", textOrNull(decision.reason)}});
+    });
+    return {{"file", model.file().name()},
+            {"release", model.schema().name()},
+            {"document", result.documentPath},
+            {"total", classification.products.size()},
+            {"unclassified", classification.unclassified},
+            {"classes", std::move(classes)},
+            {"products", std::move(products)}};
+}
+
+// A field as RFC 4180 has it.
+std::string field(std::string_view text) {
+    if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
+    std::string quoted = "\"";
+    for (const char c : text) {
+        if (c == '"') quoted += '"';
+        quoted += c;
+    }
+    return quoted + '"';
+}
+
+void writeCsv(CommandContext& context, const sdai::Model& model, const Classification& classification,
+              std::size_t limit) {
+    context.out << "instance,global_id,entity,name,neutral_id,plm_type,ifc_type,priority,condition_attribute,"
+                   "condition_value\r\n";
+    eachListed(model, classification, limit, [&](const DXSdaiAppInstance& product, const Decision& decision) {
+        const Entry* entry = decision.entry;
+        const Correspondences::Condition condition =
+            entry != nullptr && entry->condition ? *entry->condition : Correspondences::Condition();
+        context.out << product.id() << ',' << field(product.GetAttr("GLOBALID").asString()) << ','
+                    << field(entityName(decision)) << ',' << field(product.GetAttr("NAME").asString()) << ','
+                    << field(decision.neutralId) << ',' << field(decision.plmType) << ','
+                    << (entry == nullptr ? "" : field(entry->ifcType)) << ','
+                    << (entry == nullptr ? "" : std::to_string(entry->priority)) << ',' << field(condition.attribute)
+                    << ',' << field(condition.value) << "\r\n";
+    });
+    const std::size_t total = classification.products.size();
+    if (total > limit) {
+        context.err << "velkor: the first " << grouped(limit) << " of " << grouped(total)
+                    << " products are listed (--limit shows more)\n";
+    }
+}
+
+void runClassify(CommandContext& context, const Options& options) {
+    const auto model = context.openModel(options.path);
+    if (!model) return;
+    const PlatformSetup setup(context.configuration, context.err);
+    const ResourceSearch search = searchResource(aecMappingResource, setup);
+    if (!search.isUsable()) return context.reportUnreadable("no document of correspondences: " + search.reason);
+    Result result{search.used.front().path, {}, {}};
+    const QORIExchangeAECServices_var services = objectmodeler::createComponent("ExchangeAECServices");
+    auto document = FAILED(services->LoadAECResource()) ? std::nullopt : Correspondences::read(result.documentPath);
+    if (!document) return context.reportUnreadable(printable(result.documentPath) + ": cannot be read");
+    result.document = std::move(*document);
+    result.classification = classify(context, *model, result.document);
+    context.status = result.classification.unclassified == 0 ? Done : Findings;
+    if (context.json())
+        writeJson(context.out, resultJson(*model, result, options.limit));
+    else if (context.csv())
+        writeCsv(context, *model, result.classification, options.limit);
+    else
+        writeText(context.out, *model, result, options.limit);
+}
+
+} // namespace
+
+void addClassifyCommand(CLI::App& app, CommandContext& context) {
+    CLI::App* command =
+        app.add_subcommand("classify", "The neutral identifier and the PLM type of every product of a model");
+    const auto options = std::make_shared<Options>();
+    command->add_option("MODEL", options->path, "IFC file")->required();
+    command->add_option("--limit", options->limit, "List at most N products; 100000 unless told")
+        ->option_text("N")
+        ->check(CLI::NonNegativeNumber);
+    command->footer("Example:\n  velkor classify house.ifc --format csv\n\n"
+                    "Exit status 1 when a product has no neutral identifier.");
+    context.complete(
+        *command, [&context, options] { runClassify(context, *options); }, "csv");
+}
+
+} // namespace velkor::host

@@ -1,0 +1,190 @@
+// velkor guid
+
+#include "CommandContext.h"
+#include "DisplayText.h"
+#include "guid/GuidCheck.h"
+#include "guid/GuidText.h"
+#include "Json.h"
+#include "ProblemText.h"
+#include "QORIFCExportServices.h"
+
+#include <algorithm>
+#include <istream>
+#include <ostream>
+
+namespace velkor::host {
+
+namespace {
+
+constexpr std::size_t defaultLimit = 100'000;
+constexpr std::size_t mostNew = 1'000'000;
+
+struct Arguments {
+    std::size_t count = 1;
+    std::size_t limit = defaultLimit;
+    std::string model;
+    std::vector<std::string> texts;
+};
+
+void runNew(CommandContext& context, std::size_t count) {
+    Json identifiers = Json::array();
+    for (std::size_t i = 0; i < count; ++i) {
+        QORUnicodeString guid;
+        QORIFCExportServices::GenerateIFCGUID(guid);
+        if (context.json())
+            identifiers.push_back(guid.utf8());
+        else
+            context.out << guid.utf8() << '\n';
+    }
+    if (context.json()) writeJson(context.out, {{"identifiers", std::move(identifiers)}});
+}
+
+// The parser takes a word in square brackets apart as a list, and the commas are lost.
+bool isList(const std::string& word) {
+    return word.starts_with('[') && word.ends_with(']');
+}
+
+// The PLM identifiers to convert, or nothing after reporting what is wrong with them.
+bool readPlmIds(CommandContext& context, std::vector<std::string>& ids) {
+    if (std::ranges::any_of(context.words, isList)) {
+        context.err
+            << "velkor: expected PLM identifiers; those in square brackets are read from standard input alone\n";
+        context.status = BadUsage;
+        return false;
+    }
+    const bool areRead = ids.empty();
+    if (areRead && context.in != nullptr) {
+        for (std::string line; std::getline(*context.in, line);) {
+            if (line.ends_with('\r')) line.pop_back();
+            ids.push_back(line);
+        }
+    }
+    // Without characters, different objects would have the same identifier.
+    for (std::size_t i = 0; i < ids.size(); ++i) {
+        if (!ids[i].empty()) continue;
+        const std::string number = std::to_string(i + 1);
+        context.reportUnreadable((areRead ? "standard input, line " : "identifier ") + number +
+                                 ": expected a PLM identifier, found an empty " + (areRead ? "line" : "text"));
+        return false;
+    }
+    return true;
+}
+
+void runFromPlm(CommandContext& context, std::vector<std::string> ids) {
+    if (!readPlmIds(context, ids)) return;
+    Json identifiers = Json::array();
+    for (const std::string& id : ids) {
+        QORUnicodeString guid;
+        QORIFCExportServices::ConvertPLMIDToGUID(QORUnicodeString(std::string_view(id)), guid);
+        if (context.json())
+            identifiers.push_back({{"plm", id}, {"identifier", guid.utf8()}});
+        else
+            context.out << guid.utf8() << '\n';
+    }
+    if (context.json()) writeJson(context.out, {{"identifiers", std::move(identifiers)}});
+}
+
+void writeText(CommandContext& context, const std::string& file, const guid::GuidCheck& check) {
+    const std::string shown = printable(file);
+    const CheckResult& result = check.result;
+    for (const sdai::Problem& problem : result.problems) writeProblem(context.out, shown, problem);
+    context.out << shown << ": " << counted(check.count, "identifier", "identifiers");
+    if (result.total == 0 && check.count > 0) context.out << ", all well-formed and unique";
+    if (result.total > 0) context.out << ", " << counted(result.total, "problem", "problems");
+    if (result.total > result.problems.size())
+        context.out << ", the first " << grouped(result.problems.size()) << " are listed (--limit shows more)";
+    context.out << '\n';
+}
+
+void runCheck(CommandContext& context, const Arguments& arguments) {
+    const auto model = context.openModel(arguments.model);
+    if (!model) return;
+    const guid::GuidCheck check = guid::checkGuids(context, *model, arguments.limit);
+    context.status = check.result.total == 0 ? Done : Findings;
+    if (!context.json()) return writeText(context, model->file().name(), check);
+    Json problems = Json::array();
+    for (const sdai::Problem& problem : check.result.problems) problems.push_back(problemJson(problem));
+    writeJson(context.out, {{"file", model->file().name()},
+                            {"release", model->schema().name()},
+                            {"identifiers", check.count},
+                            {"total", check.result.total},
+                            {"problems", std::move(problems)}});
+}
+
+using Conversion = tl::expected<std::string, std::string> (*)(std::string_view);
+
+// All texts or none: half a list would be taken for the whole.
+void runConversion(CommandContext& context, const std::vector<std::string>& texts, Conversion convert,
+                   const char* sourceName, const char* resultName) {
+    Json conversions = Json::array();
+    std::string lines;
+    for (const std::string& text : texts) {
+        const auto converted = convert(text);
+        if (!converted) {
+            context.err << "velkor: " << printable(converted.error()) << '\n';
+            context.status = BadUsage;
+            continue;
+        }
+        lines += *converted + '\n';
+        conversions.push_back({{sourceName, text}, {resultName, *converted}});
+    }
+    if (context.status == BadUsage) return;
+    if (context.json())
+        writeJson(context.out, {{"identifiers", std::move(conversions)}});
+    else
+        context.out << lines;
+}
+
+CLI::App* addSubcommand(CLI::App& guid, const char* name, const char* description, const char* example) {
+    CLI::App* command = guid.add_subcommand(name, description);
+    command->footer(std::string("Example:\n  ") + example);
+    return command;
+}
+
+void addConversions(CLI::App& guid, CommandContext& context, const std::shared_ptr<Arguments>& arguments) {
+    CLI::App* expand = addSubcommand(guid, "expand", "Identifiers of 22 characters as hexadecimal text",
+                                     "velkor guid expand '0$WU4A9R19$vKWO$AdOnKA'");
+    expand->add_option("GUID", arguments->texts, "22 characters each")->required();
+    context.complete(*expand, [&context, arguments] {
+        runConversion(context, arguments->texts, guid::expanded, "identifier", "uuid");
+    });
+
+    CLI::App* compress = addSubcommand(guid, "compress", "Hexadecimal text as identifiers of 22 characters",
+                                       "velkor guid compress 3f81e10a-25b0-49ff-9520-63f2a763150a");
+    compress->add_option("UUID", arguments->texts, "32 hexadecimal digits each, as 8-4-4-4-12")->required();
+    context.complete(*compress, [&context, arguments] {
+        runConversion(context, arguments->texts, guid::compressed, "uuid", "identifier");
+    });
+}
+
+} // namespace
+
+void addGuidCommand(CLI::App& app, CommandContext& context) {
+    CLI::App* guid = app.add_subcommand("guid", "Identifiers: new ones, those of PLM objects, those of a model");
+    guid->require_subcommand(1);
+    guid->footer("Example:\n  velkor guid check house.ifc");
+    const auto arguments = std::make_shared<Arguments>();
+
+    CLI::App* fresh = addSubcommand(*guid, "new", "New identifiers", "velkor guid new -n 100");
+    fresh->add_option("-n", arguments->count, "How many, at most 1000000; 1 unless told")
+        ->option_text("N")
+        ->check(CLI::Range(std::size_t{1}, mostNew));
+    context.complete(*fresh, [&context, arguments] { runNew(context, arguments->count); });
+
+    CLI::App* fromPlm = addSubcommand(*guid, "from-plm", "The identifier of each PLM object, always the same one",
+                                      "velkor guid from-plm DOOR-0815");
+    fromPlm->add_option("ID", arguments->texts, "PLM identifiers; without any, one per line of standard input");
+    context.complete(*fromPlm, [&context, arguments] { runFromPlm(context, arguments->texts); });
+
+    CLI::App* check = addSubcommand(*guid, "check", "Whether the identifiers of a model are well-formed and unique",
+                                    "velkor guid check house.ifc\n\nExit status 1 when there are problems.");
+    check->add_option("MODEL", arguments->model, "IFC file")->required();
+    check->add_option("--limit", arguments->limit, "List at most N problems; 100000 unless told")
+        ->option_text("N")
+        ->check(CLI::NonNegativeNumber);
+    context.complete(*check, [&context, arguments] { runCheck(context, *arguments); });
+
+    addConversions(*guid, context, arguments);
+}
+
+} // namespace velkor::host

@@ -1,0 +1,152 @@
+// velkor resources check
+
+#include "CommandContext.h"
+#include "configuration/PlatformSetup.h"
+#include "configuration/ResourceSearch.h"
+#include "DisplayText.h"
+#include "Json.h"
+#include "linter/ResourceCheck.h"
+#include "report/ProblemSummary.h"
+
+#include <algorithm>
+#include <ostream>
+
+namespace velkor::host {
+
+namespace {
+
+using lint::CheckedFile;
+using lint::Finding;
+using lint::LinterKind;
+
+struct Options {
+    std::vector<std::string> paths;
+    std::string kind;
+};
+
+struct Counts {
+    std::size_t files = 0;
+    std::size_t entries = 0;
+    std::size_t errors = 0;
+    std::size_t warnings = 0;
+
+    void add(const CheckedFile& file) {
+        ++files;
+        entries += file.judgement.entries;
+        for (const Finding& finding : file.judgement.findings)
+            ++(finding.severity == lint::Severity::Error ? errors : warnings);
+    }
+    std::size_t findings() const { return errors + warnings; }
+};
+
+// The files that the services use, kind by kind.
+std::vector<CheckedFile> checkUsed(CommandContext& context, lint::ResourceCheck& check) {
+    const PlatformSetup setup(context.configuration, context.err);
+    std::vector<CheckedFile> result;
+    for (const LinterKind& kind : lint::linterKinds()) {
+        std::vector<std::string> paths;
+        for (const auto& used : searchResource(*kind.resource, setup).used) {
+            // Setup data may name a file that the collection standard has as well.
+            if (std::ranges::find(paths, used.path) == paths.end()) paths.push_back(used.path);
+        }
+        std::ranges::move(check.files(paths, kind), std::back_inserter(result));
+    }
+    return result;
+}
+
+std::string summary(const Counts& counts) {
+    std::string result = counted(counts.files, "file", "files") + ", " + counted(counts.entries, "entry", "entries");
+    if (counts.findings() == 0) return result + ", no findings";
+    return result + ", " + counted(counts.errors, "error", "errors") + ", " +
+           counted(counts.warnings, "warning", "warnings");
+}
+
+void writeText(CommandContext& context, const std::vector<CheckedFile>& files, bool isSearched) {
+    for (const CheckedFile& file : files) {
+        for (const Finding& finding : file.judgement.findings) {
+            context.out << printable(file.path) << ':' << finding.line << ": " << name(finding.severity) << ": "
+                        << printable(finding.message) << (finding.hint.empty() ? "" : "; ") << printable(finding.hint)
+                        << " [" << finding.code << "]\n";
+        }
+    }
+    for (const LinterKind& kind : lint::linterKinds()) {
+        Counts counts;
+        for (const CheckedFile& file : files) {
+            if (file.kind == &kind && file.unreadable.empty()) counts.add(file);
+        }
+        if (counts.files > 0)
+            context.out << kind.resource->name << ": " << summary(counts) << '\n';
+        else if (isSearched)
+            context.out << kind.resource->name << ": no file that can be read; \"velkor resources\" says why\n";
+    }
+}
+
+Json findingsJson(const std::vector<Finding>& findings) {
+    Json result = Json::array();
+    for (const Finding& finding : findings) {
+        result.push_back({{"severity", name(finding.severity)},
+                          {"line", finding.line},
+                          {"code", finding.code},
+                          {"message", finding.message},
+                          {"hint", finding.hint.empty() ? Json() : Json(finding.hint)}});
+    }
+    return result;
+}
+
+void writeFiles(CommandContext& context, const std::vector<CheckedFile>& files, const Counts& total) {
+    Json list = Json::array();
+    for (const CheckedFile& file : files) {
+        if (!file.unreadable.empty()) continue;
+        list.push_back({{"path", file.path},
+                        {"kind", file.kind == nullptr ? Json() : Json(file.kind->word)},
+                        {"entries", file.judgement.entries},
+                        {"findings", findingsJson(file.judgement.findings)}});
+    }
+    writeJson(context.out, {{"errors", total.errors}, {"warnings", total.warnings}, {"files", std::move(list)}});
+}
+
+void runCheck(CommandContext& context, const Options& options) {
+    lint::ResourceCheck check;
+    std::vector<CheckedFile> files;
+    const bool isSearched = options.paths.empty();
+    if (isSearched) {
+        files = checkUsed(context, check);
+    } else {
+        const LinterKind* kind = lint::linterKind(options.kind);
+        for (const std::string& path : options.paths) files.push_back(check.file(path, kind));
+    }
+    Counts total;
+    for (const CheckedFile& file : files) {
+        if (file.unreadable.empty())
+            total.add(file);
+        else
+            context.reportUnreadable(printable(file.path) + ": cannot be read: " + file.unreadable);
+    }
+    if (files.empty()) context.reportUnreadable("no resource file is found; \"velkor resources\" says why");
+    if (context.status == Done && total.findings() > 0) context.status = Findings;
+    if (context.json())
+        writeFiles(context, files, total);
+    else
+        writeText(context, files, isSearched);
+}
+
+} // namespace
+
+void addResourcesCheckCommand(CLI::App& resources, CommandContext& context) {
+    CLI::App* command =
+        resources.add_subcommand("check", "What is wrong in resource files, with its place and what is meant");
+    const auto options = std::make_shared<Options>();
+    std::vector<std::string> words;
+    for (const LinterKind& kind : lint::linterKinds()) words.emplace_back(kind.word);
+    CLI::Option* paths =
+        command->add_option("FILE", options->paths, "Resource files; the ones that are used unless told");
+    command->add_option("--kind", options->kind, "What the files are; seen from their content unless told")
+        ->option_text("KIND")
+        ->check(CLI::IsMember(words))
+        ->needs(paths);
+    command->footer("Example:\n  velkor resources check walls.xml --kind custom-mapping\n\n"
+                    "Exit status 1 when there are findings.");
+    context.complete(*command, [&context, options] { runCheck(context, *options); });
+}
+
+} // namespace velkor::host

@@ -1,0 +1,93 @@
+// velkor validate
+
+#include "CommandContext.h"
+#include "configuration/PlatformSetup.h"
+#include "DisplayText.h"
+#include "Json.h"
+#include "ProblemText.h"
+#include "validation/PropertySetCheck.h"
+
+#include <ostream>
+
+namespace velkor::host {
+
+namespace {
+
+constexpr std::size_t defaultLimit = 100'000;
+/// Names without a definition that people are shown.
+constexpr std::size_t mostNames = 8;
+
+struct Options {
+    std::string path;
+    std::size_t limit = defaultLimit;
+};
+
+void writeText(std::ostream& out, const std::string& file, const PropertySetCheck& check) {
+    const std::string shown = printable(file);
+    for (const SetFinding& finding : check.findings) writeProblem(out, shown, finding.problem);
+    out << shown << ": " << (check.total == 0 ? "no findings" : counted(check.total, "finding", "findings"));
+    if (check.total > check.findings.size())
+        out << ", the first " << grouped(check.findings.size()) << " are listed (--limit shows more)";
+    out << "; " << grouped(check.checkedSets) << " of " << counted(check.sets, "set", "sets") << " and "
+        << grouped(check.checkedProperties) << " of "
+        << counted(check.properties, "property or quantity", "properties and quantities") << " checked\n";
+    if (check.customSets > 0) out << shown << ": " << counted(check.customSets, "set", "sets") << " of your own\n";
+    if (check.uncheckedSets() > 0) out << shown << ": no definition for " << undefinedText(check, mostNames) << '\n';
+}
+
+Json findingJson(const SetFinding& finding) {
+    const auto textOrNull = [](const std::string& text) { return text.empty() ? Json() : Json(text); };
+    const Json object =
+        finding.object == 0
+            ? Json()
+            : Json{{"instance", finding.object}, {"entity", finding.objectEntity}, {"name", finding.objectName}};
+    Json json = problemJson(finding.problem);
+    json.update({{"set", finding.set},
+                 {"object", object},
+                 {"others", finding.others},
+                 {"property", textOrNull(finding.property)},
+                 {"nearest", textOrNull(finding.nearest)}});
+    return json;
+}
+
+void writeResult(CommandContext& context, const sdai::Model& model, const PropertySetCheck& check) {
+    if (!context.json()) return writeText(context.out, model.file().name(), check);
+    Json json{{"file", model.file().name()}, {"release", model.schema().name()}};
+    json.update(coverageJson(check));
+    Json findings = Json::array();
+    for (const SetFinding& finding : check.findings) findings.push_back(findingJson(finding));
+    json["total"] = check.total;
+    json["findings"] = std::move(findings);
+    writeJson(context.out, json);
+}
+
+void runValidate(CommandContext& context, const Options& options) {
+    const auto model = context.openModel(options.path);
+    if (!model) return;
+    const PlatformSetup setup(context.configuration, context.err);
+    const PropertySetCheck check = checkPropertySets(context, *model, options.limit);
+    if (!check.hasDefinitions) {
+        return context.reportUnreadable(
+            "there are no definitions of property sets to check by; velkor resources says where they are looked for");
+    }
+    context.status = check.total == 0 ? Done : Findings;
+    writeResult(context, *model, check);
+    for (const auto& [name, count] : check.unreadable)
+        context.reportUnreadable("the definition of " + printable(name) + " cannot be read");
+}
+
+} // namespace
+
+void addValidateCommand(CLI::App& app, CommandContext& context) {
+    CLI::App* command =
+        app.add_subcommand("validate", "The property sets and quantity sets of a model against their definitions");
+    const auto options = std::make_shared<Options>();
+    command->add_option("MODEL", options->path, "IFC file")->required();
+    command->add_option("--limit", options->limit, "List at most N findings; 100000 unless told")
+        ->option_text("N")
+        ->check(CLI::NonNegativeNumber);
+    command->footer("Example:\n  velkor validate house.ifc\n\nExit status 1 when there are findings.");
+    context.complete(*command, [&context, options] { runValidate(context, *options); });
+}
+
+} // namespace velkor::host

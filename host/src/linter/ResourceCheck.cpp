@@ -1,0 +1,112 @@
+#include "linter/ResourceCheck.h"
+
+#include "linter/AECLinter.h"
+#include "linter/AttributeListLinter.h"
+#include "linter/CustomMappingLinter.h"
+#include "linter/DefinitionLinter.h"
+#include "linter/PLMAttributesLinter.h"
+#include "linter/VersionMappingLinter.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+
+namespace velkor::host::lint {
+
+namespace {
+
+template <class Kind>
+std::unique_ptr<Linter> make(Dictionaries& dictionaries) {
+    return std::make_unique<Kind>(dictionaries);
+}
+
+bool isVersionMapping(const XmlElement& root) {
+    bool result = false;
+    root.visitNamed("Version", [&](const XmlElement& version) {
+        result |= version.hasAttribute("from") || version.hasAttribute("to") || version.contains("Mapping") ||
+                  version.contains("Deprecation") || version.contains("Introduction");
+    });
+    return result;
+}
+
+bool isAttributeList(const XmlElement& root) {
+    return root.contains("AttributeID") && root.contains("Level");
+}
+
+const LinterKind* recognized(const XmlElement& root) {
+    if (root.name == "IfcMapping") return linterKind("custom-mapping");
+    if (root.name == "IfcPLMMappingAttr") return linterKind("plm-attributes");
+    if (root.name == "PropertySetDef" || root.name == "QtoSetDef") return linterKind("definition");
+    if (root.contains("NeutralID")) return linterKind("aec");
+    if (isAttributeList(root)) return linterKind("attribute-list");
+    return isVersionMapping(root) ? linterKind("version-mapping") : nullptr;
+}
+
+// Why a file cannot be opened; empty when it can.
+std::string obstacle(const std::string& path) {
+    std::error_code none;
+    if (std::filesystem::is_directory(path, none)) return "is a folder";
+    errno = 0;
+    return std::ifstream(path) ? std::string() : std::strerror(errno);
+}
+
+CheckedFile judged(const std::string& path, const LinterKind* kind, Linter* linter, Dictionaries& dictionaries) {
+    CheckedFile file{path, kind, obstacle(path)};
+    if (!file.unreadable.empty()) return file;
+    XmlReading reading = readXml(path);
+    if (reading.root == nullptr) {
+        file.judgement.findings = std::move(reading.findings);
+        return file;
+    }
+    std::unique_ptr<Linter> own;
+    if (linter == nullptr) {
+        if (file.kind == nullptr) file.kind = recognized(*reading.root);
+        if (file.kind == nullptr) {
+            file.judgement.findings = {
+                {Severity::Error, reading.root->line, "kind-unknown",
+                 "nothing here tells what kind of resource file it is, root element " + reading.root->name,
+                 "name it with --kind"}};
+            return file;
+        }
+        own = file.kind->make(dictionaries);
+        linter = own.get();
+    }
+    file.judgement = linter->judge(path, *reading.root);
+    auto& findings = file.judgement.findings;
+    findings.insert(findings.begin(), reading.findings.begin(), reading.findings.end());
+    std::ranges::stable_sort(findings, {}, &Finding::line);
+    return file;
+}
+
+} // namespace
+
+const std::vector<LinterKind>& linterKinds() {
+    static const std::vector<LinterKind> kinds{
+        {"version-mapping", &versionMappingResource, make<VersionMappingLinter>},
+        {"custom-mapping", &customMappingResource, make<CustomMappingLinter>},
+        {"plm-attributes", &plmAttributesMappingResource, make<PLMAttributesLinter>},
+        {"aec", &aecMappingResource, make<AECLinter>},
+        {"attribute-list", &attributeListResource, make<AttributeListLinter>},
+        {"definition", &propertySetResource, make<DefinitionLinter>}};
+    return kinds;
+}
+
+const LinterKind* linterKind(std::string_view word) {
+    const auto found = std::ranges::find_if(linterKinds(), [&](const LinterKind& kind) { return word == kind.word; });
+    return found == linterKinds().end() ? nullptr : &*found;
+}
+
+CheckedFile ResourceCheck::file(const std::string& path, const LinterKind* kind) {
+    return judged(path, kind, nullptr, _dictionaries);
+}
+
+std::vector<CheckedFile> ResourceCheck::files(const std::vector<std::string>& paths, const LinterKind& kind) {
+    const auto linter = kind.make(_dictionaries);
+    std::vector<CheckedFile> result;
+    for (const std::string& path : paths) result.push_back(judged(path, &kind, linter.get(), _dictionaries));
+    return result;
+}
+
+} // namespace velkor::host::lint

@@ -1,0 +1,49 @@
+/// Resource files judged by their linters.
+///
+///     ResourceCheck check;
+///     CheckedFile file = check.file("mine.xml", nullptr);
+#pragma once
+
+#include "configuration/ResourceSearch.h"
+#include "linter/Linter.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velkor::host::lint {
+
+struct LinterKind {
+    /// The word for it on the command line.
+    const char* word;
+    const ResourceKind* resource;
+    std::unique_ptr<Linter> (*make)(Dictionaries&);
+};
+
+/// In the order of the resource kinds.
+const std::vector<LinterKind>& linterKinds();
+/// Null when there is none of the word.
+const LinterKind* linterKind(std::string_view word);
+
+struct CheckedFile {
+    std::string path;
+    /// Null when it is none of the six.
+    const LinterKind* kind = nullptr;
+    /// Why the file could not be read; nothing has then been judged.
+    std::string unreadable;
+    Judgement judgement = {};
+};
+
+class ResourceCheck {
+public:
+    /// Judges one file by itself; without a kind as what its content looks like.
+    CheckedFile file(const std::string& path, const LinterKind* kind);
+    /// Judges the files of one kind in the order in which the services read them.
+    std::vector<CheckedFile> files(const std::vector<std::string>& paths, const LinterKind& kind);
+
+private:
+    Dictionaries _dictionaries;
+};
+
+} // namespace velkor::host::lint

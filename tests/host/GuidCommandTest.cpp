@@ -1,0 +1,168 @@
+#include "TestSupport.h"
+
+#include "guid/GuidText.h"
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+#include <random>
+#include <set>
+
+namespace velkor::host {
+
+using nlohmann::json;
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::MatchesRegex;
+
+namespace {
+
+json jsonOf(std::vector<std::string> words, int status = Done, const std::string& input = {}) {
+    words.insert(words.end(), {"--format", "json"});
+    const Outcome outcome = runHost(std::move(words), false, {}, input);
+    EXPECT_EQ(outcome.status, status) << outcome.err;
+    return json::parse(outcome.out, nullptr, false);
+}
+
+std::vector<std::string> linesOf(const std::string& text) {
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);) lines.push_back(line);
+    return lines;
+}
+
+std::string wall(int id, const std::string& identifier) {
+    return '#' + std::to_string(id) + "=IFCWALL(" + identifier + ",$,$,$,$,$,$,$,$);\n";
+}
+
+} // namespace
+
+TEST(GuidCommand, NewIdentifiersAreWellFormedAndDiffer) {
+    std::set<std::string> seen;
+    for (const std::string& line : linesOf(runHost({"guid", "new", "-n", "500"}).out)) {
+        EXPECT_FALSE(guid::faultOf(line)) << line;
+        seen.insert(line);
+    }
+    const json two = jsonOf({"guid", "new", "-n", "2"});
+    for (const json& identifier : two["identifiers"]) seen.insert(identifier.get<std::string>());
+    EXPECT_EQ(seen.size(), 502U);
+    EXPECT_EQ(linesOf(runHost({"guid", "new"}).out).size(), 1U);
+    for (const char* count : {"0", "-1", "1000001", "x"})
+        EXPECT_EQ(runHost({"guid", "new", "-n", count}).status, BadUsage) << count;
+}
+
+TEST(GuidCommand, PlmIdentifiersComeFromWordsOrLines) {
+    const std::string one = runHost({"guid", "from-plm", "DOOR-0815"}).out;
+    const std::string other = runHost({"guid", "from-plm", "WALL [7],a"}).out;
+    EXPECT_THAT(one, MatchesRegex("[0-9A-Za-z_$]{22}\n"));
+    EXPECT_NE(one, other);
+    EXPECT_EQ(runHost({"guid", "from-plm", "DOOR-0815", "WALL [7],a"}).out, one + other);
+    // Each line has its answer, whatever ends it.
+    EXPECT_EQ(runHost({"guid", "from-plm"}, false, {}, "DOOR-0815\r\nWALL [7],a\nDOOR-0815").out, one + other + one);
+    EXPECT_EQ(jsonOf({"guid", "from-plm"}, Done, "DOOR-0815\n"),
+              json({{"identifiers", {{{"plm", "DOOR-0815"}, {"identifier", one.substr(0, 22)}}}}}));
+    EXPECT_EQ(jsonOf({"guid", "from-plm"})["identifiers"], json::array());
+
+    const Outcome list = runHost({"guid", "from-plm", "DOOR-0815", "[7,a]"});
+    EXPECT_EQ(list.status, BadUsage);
+    EXPECT_THAT(list.out, IsEmpty());
+    EXPECT_THAT(list.err, HasSubstr("square brackets"));
+    EXPECT_THAT(runHost({"guid", "from-plm"}, false, {}, "[7,a]\n").out, MatchesRegex("[0-9A-Za-z_$]{22}\n"));
+
+    const Outcome empty = runHost({"guid", "from-plm"}, false, {}, "a\n\nb\n");
+    EXPECT_EQ(empty.status, Unreadable);
+    EXPECT_THAT(empty.out, IsEmpty());
+    EXPECT_EQ(empty.err, "velkor: standard input, line 2: expected a PLM identifier, found an empty line\n");
+}
+
+TEST(GuidCommand, ExpandsAndCompresses) {
+    const std::pair<const char*, const char*> pairs[] = {
+        {"0000000000000000000000", "00000000-0000-0000-0000-000000000000"},
+        {"3$$$$$$$$$$$$$$$$$$$$$", "ffffffff-ffff-ffff-ffff-ffffffffffff"},
+        {"018qLdYQlDx$xSkfXsL38G", "01234567-89ab-cdef-fedc-ba9876543210"},
+        {"2000000000000000000001", "80000000-0000-0000-0000-000000000001"}};
+    std::vector<std::string> expand{"guid", "expand"}, compress{"guid", "compress"};
+    std::string identifiers, uuids;
+    for (const auto& [identifier, uuid] : pairs) {
+        EXPECT_EQ(guid::expanded(identifier), uuid);
+        EXPECT_EQ(guid::compressed(uuid), identifier);
+        expand.emplace_back(identifier);
+        compress.emplace_back(uuid);
+        identifiers += identifier + std::string("\n");
+        uuids += uuid + std::string("\n");
+    }
+    EXPECT_EQ(guid::compressed("01234567-89AB-CDEF-FEDC-BA9876543210"), pairs[2].first) << "in any letter case";
+    EXPECT_EQ(runHost(expand).out, uuids);
+    EXPECT_EQ(runHost(compress).out, identifiers);
+    EXPECT_EQ(jsonOf({"guid", "expand", pairs[1].first})["identifiers"],
+              json::array({{{"identifier", pairs[1].first}, {"uuid", pairs[1].second}}}));
+
+    std::mt19937 random(7);
+    for (int i = 0; i < 1000; ++i) {
+        std::string uuid;
+        for (int digit = 0; digit < 36; ++digit)
+            uuid += digit == 8 || digit == 13 || digit == 18 || digit == 23 ? '-' : "0123456789abcdef"[random() % 16];
+        const auto identifier = guid::compressed(uuid);
+        ASSERT_TRUE(identifier) << uuid;
+        EXPECT_EQ(guid::expanded(*identifier), uuid);
+    }
+}
+
+TEST(GuidCommand, BadTextsAreSaidToBe) {
+    for (const auto& [command, text, expected] :
+         {std::tuple("expand", "", "expected 22 characters, found 0 in \"\""),
+          {"expand", "000000000000000000000", "expected 22 characters, found 21"},
+          {"expand", "4000000000000000000000", "expected \"0\" to \"3\" as the first character, found \"4\""},
+          {"expand", "000000000000-000000000", "expected digits, letters, \"_\" and \"$\", found \"-\""},
+          {"expand", "00000000000000000000\u00E90", "found \"\u00E9\""},
+          {"expand", "00000000000000000000\x1B[2", "expected 22 characters, found 23"},
+          {"compress", "0123456789abcdeffedcba9876543210", "expected 32 hexadecimal digits as 8-4-4-4-12, found 32"},
+          {"compress", "{1234567-89ab-cdef-fedc-ba9876543210", "found \"{\""},
+          {"compress", "012345678-9ab-cdef-fedc-ba9876543210", "found \"8\""},
+          {"compress", "01234567-89ab-cdef-fedc-ba9876543g10", "found \"g\""}}) {
+        const Outcome outcome = runHost({"guid", command, "0000000000000000000000", text});
+        EXPECT_EQ(outcome.status, BadUsage) << text;
+        EXPECT_THAT(outcome.out, IsEmpty()) << "half a list would be taken for the whole";
+        EXPECT_THAT(outcome.err, AllOf(HasSubstr(expected), testing::Not(HasSubstr("\x1B")))) << text;
+    }
+}
+
+TEST(GuidCommand, CheckFindsWhatIsWrongWithItsPlace) {
+    const std::string good = "'0$WU4A9R19$vKWO$AdOnKA'";
+    const TemporaryModel model("IFC4", wall(1, good) + wall(2, "'1$WU4A9R19$vKWO$AdOnK'") + wall(3, good) +
+                                           wall(4, "'4$WU4A9R19$vKWO$AdOnKA'") + wall(5, "$") +
+                                           wall(6, "'2$WU4A9R19$vKWO$AdOnK\\X\\E9'") +
+                                           "#7=IFCCARTESIANPOINT((0.,0.,0.));\n" + wall(8, "'  '") + wall(9, ".T."));
+    const std::string expected[] = {
+        ":9: error: #2: GLOBALID: expected 22 characters, found 21 in \"1$WU4A9R19$vKWO$AdOnK\" [guid-length]",
+        ":10: error: #3: GLOBALID: expected an identifier of its own, found that of #1 in line 8 [guid-duplicate]",
+        ":11: error: #4: GLOBALID: expected \"0\" to \"3\" as the first character, found \"4\" in "
+        "\"4$WU4A9R19$vKWO$AdOnKA\" [guid-first-character]",
+        ":12: error: #5: GLOBALID: expected an identifier of 22 characters [guid-missing]",
+        ":13: error: #6: GLOBALID: expected digits, letters, \"_\" and \"$\", found \"\u00E9\" in "
+        "\"2$WU4A9R19$vKWO$AdOnK\u00E9\" [guid-character]",
+        ":15: error: #8: GLOBALID: expected 22 characters, found 2 in \"  \" [guid-length]",
+        ":16: error: #9: GLOBALID: expected an identifier of 22 characters [guid-missing]",
+        ": 8 identifiers, 7 problems"};
+    std::string text;
+    for (const std::string& line : expected) text += model.path() + line + '\n';
+    const Outcome outcome = runHost({"guid", "check", model.path()});
+    EXPECT_EQ(outcome.status, Findings);
+    EXPECT_EQ(outcome.out, text);
+
+    const json all = jsonOf({"guid", "check", model.path()}, Findings);
+    EXPECT_EQ(all["identifiers"], 8);
+    EXPECT_EQ(all["total"], 7);
+    EXPECT_EQ(all["problems"][1]["instance"], 3);
+    EXPECT_EQ(all["problems"][1]["line"], 10);
+    EXPECT_EQ(all["problems"][1]["code"], "guid-duplicate");
+    const json first = jsonOf({"guid", "check", model.path(), "--limit", "1"}, Findings);
+    EXPECT_EQ(first["total"], 7);
+    EXPECT_EQ(first["problems"].size(), 1U);
+    EXPECT_THAT(runHost({"guid", "check", model.path(), "--limit", "1"}).out,
+                HasSubstr(": 8 identifiers, 7 problems, the first 1 are listed (--limit shows more)\n"));
+    for (const char* name : {"house-ifc2x3.ifc", "pump-room-ifc4.ifc", "road-ifc4x3.ifc"})
+        EXPECT_EQ(jsonOf({"guid", "check", example(name)})["total"], 0) << name;
+}
+
+} // namespace velkor::host
