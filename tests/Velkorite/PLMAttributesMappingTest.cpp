@@ -52,17 +52,19 @@ std::string mapping(const std::string& type, const std::string& content) {
 } // namespace
 
 TEST_F(PLMAttributesMapping, TakesLinesThatCountForExport) {
-    setupData(key,
-              {document("map.xml", mapping("Wall", line("A", "Set") + line("B", "Both", "propExpose='Both'") +
-                                                       "text<!-- -->" + line("C", "Out", "propExpose='Export_Only'") +
-                                                       line("D", "Empty", "propExpose=''") +
-                                                       line("E", "In", "propExpose='Import_Only'") +
-                                                       line("F", "Case", "propExpose='both'") + line("a", "Again") +
-                                                       "<FromAttributes plmProp='G'/><fromAttributes plmProp='H'/>"
-                                                       "<fromAttributes propSetName='S' ifcProp='P'/>") +
-                                       mapping("wall", line("A", "Other type") + line("I", "More")) +
-                                       mapping("", line("WallA", "No type")) + "<Deep>" +
-                                       mapping("Wall", line("J", "Deep")) + "</Deep>")});
+    setupData(
+        key,
+        {document(
+            "map.xml",
+            mapping("Wall", line("A", "Set") + line("B", "Both", "propExpose='Both'") + "text<!-- -->" +
+                                line("C", "Out", "propExpose='Export_Only'") + line("D", "Empty", "propExpose=''") +
+                                line("E", "In", "propExpose='Import_Only'") + line("F", "Case", "propExpose='both'") +
+                                line("a", "Again") +
+                                "<FromAttributes plmProp='G'/><fromAttributes plmProp='H'/>"
+                                "<fromAttributes propSetName='S' ifcProp='P'/>") +
+                mapping("wall", line("A", "Other type") + line("I", "More")) + mapping("", line("WallA", "No type")) +
+                mapping("IfcKey5151", line("Wall_Import", "One")) + mapping("IfcKey59133", line("Wall_Import", "Two")) +
+                "<Deep>" + mapping("Wall", line("J", "Deep")) + "</Deep>")});
     load();
     struct Case {
         const char* type;
@@ -74,8 +76,9 @@ TEST_F(PLMAttributesMapping, TakesLinesThatCountForExport) {
           Case{"Wall", "C", "Out.Prop"}, Case{"Wall", "D", "Empty.Prop"}, Case{"Wall", "E", "none"},
           Case{"Wall", "F", "none"}, Case{"Wall", "G", "none"}, Case{"Wall", "H", "."}, Case{"Wall", "", "S.P"},
           Case{"Wall", "I", "More.Prop"}, Case{"Wall", "J", "none"}, Case{"Slab", "A", "none"}, Case{"", "A", "none"},
-          // One hash of both texts together does not make them one.
-          Case{"", "WallA", "No type.Prop"}, Case{"Wal", "lA", "none"}}) {
+          // One hash does not make them one, nor does one text.
+          Case{"", "WallA", "No type.Prop"}, Case{"Wal", "lA", "none"}, Case{"IfcKey5151", "Wall_Import", "One.Prop"},
+          Case{"IfcKey59133", "Wall_Import", "Two.Prop"}}) {
         EXPECT_EQ(property(c.type, c.attribute), c.answer) << c.type << '.' << c.attribute;
     }
 }
@@ -85,7 +88,9 @@ TEST_F(PLMAttributesMapping, BringsInGroups) {
                        group("First", line("F", "first") + line("S", "first") + include("Later")) +
                        group("Second", line("s", "second") + include("Nobody")) + group("Nothing", include("Import")) +
                        group("Later", line("L", "later") + include("Last")) + group("Last", line("Z", "last")) +
-                       group("Last", line("Y", "again")) + group("Self", include("self") + line("O", "own"));
+                       group("Last", line("Y", "again")) +
+                       group("Self", include("self") + include("First") + line("O", "own")) +
+                       group("First", line("I", "an id counts once"));
     struct Case {
         const char* group;
         const char* answers; ///< to F, S, L, Z, Y, O, I
@@ -125,18 +130,21 @@ TEST_F(PLMAttributesMapping, ReadsAllFilesOnceAndEachForItself) {
     variables.set("QORCollectionStandard", folder.path.c_str());
     setupData(key, {document("1.xml", group("G", line("A", "one")) + mapping("Wall", include("G") + line("C", "one"))),
                     folder.file("broken.xml", "<IfcPLMMappingAttr>"), document("2.xml", group("Alone", line("E", "s"))),
-                    folder / "none.xml"});
+                    folder / "none.xml", document("4.xml", mapping("Roof", include("G")))});
     load();
     EXPECT_EQ(property("Wall", "A"), "one.Prop");
     EXPECT_EQ(property("Wall", "C"), "one.Prop") << "the first line stays";
     EXPECT_EQ(property("Wall", "D"), "new.Prop");
     EXPECT_EQ(property("Wall", "B"), "none");
     EXPECT_EQ(property("Slab", "A"), "three.Prop") << "a group of the file itself";
-    EXPECT_EQ(property("Door", "E"), "none") << "a group of another file";
+    for (const char* attribute : {"A", "E"}) {
+        EXPECT_EQ(property("Door", attribute), "none") << "a group of another file";
+        EXPECT_EQ(property("Roof", attribute), "none");
+    }
     EXPECT_EQ(property("Piping_RigidPipe", "V_WallThickness"), "file.Prop");
     EXPECT_EQ(property("Piping_FlexibleType", "V_WallThickness"), "Pset_PipeSegmentTypeCommon.InnerDiameter");
 
-    setupData(key, {document("4.xml", mapping("Wall", line("A", "four")))});
+    setupData(key, {document("5.xml", mapping("Wall", line("A", "four")))});
     EXPECT_EQ(services->LoadMapping(), S_OK);
     EXPECT_EQ(property("Wall", "A"), "one.Prop") << "read once";
     unload();

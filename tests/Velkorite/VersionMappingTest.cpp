@@ -184,7 +184,7 @@ TEST_F(VersionMapping, AnswersForItsFirstPairUntilReset) {
 
 TEST_F(VersionMapping, KnowsSixReleases) {
     constexpr const char* names[] = {"2x1", "2x2", "2x3", "4", "2x5", "4x2"};
-    std::string text = "<V>";
+    std::string text = "<V><Version from='2x3' to='4X2'> <Mapping fromEntity='A' toEntity='Case'/></Version>";
     for (const std::string from : names) {
         for (const std::string to : names)
             text += "<Version from='" + from + "' to='" + to + "'> <Mapping fromEntity='A' toEntity='" + from + '-' +

@@ -41,8 +41,9 @@ public:
         std::vector<QORIDOMElement_var> elements;
         /// By priority; empty until somebody asks for a choice.
         std::vector<Candidate> candidates;
-        /// Names of the sides of the first element, by tag.
-        std::map<std::string, std::optional<Answer>, std::less<>> sideNames;
+        /// Names of the sides of the first element.
+        std::optional<Answer> ifcName;
+        std::optional<Answer> plmName;
     };
 
     bool isLoaded() const noexcept { return !_document.IsNull(); }

@@ -217,11 +217,12 @@ HRESULT findSystem(const AECDocument::Entry& neutral, const char* tag, QORIDOMEl
     return system.IsNull() ? REPORTED(E_UNEXPECTED) : S_OK;
 }
 
-HRESULT GetSystemTypeName(const QORString& neutralId, const char* tag, QORUnicodeString& name) {
+HRESULT GetSystemTypeName(const QORString& neutralId, const char* tag,
+                          std::optional<AECDocument::Answer> AECDocument::Entry::*known, QORUnicodeString& name) {
     AECDocument::Entry* neutral = nullptr;
     const HRESULT result = findNeutral(neutralId, neutral);
     if (result != S_OK) return result;
-    return remembered(neutral->sideNames[tag], name, [&](QORUnicodeString& text) {
+    return remembered(neutral->*known, name, [&](QORUnicodeString& text) {
         QORIDOMElement_var system;
         const HRESULT step = findSystem(*neutral, tag, system);
         return FAILED(step) ? step : attribute(system, "Name", text);
@@ -263,7 +264,7 @@ HRESULT QOREExchangeAECServices::LoadAECResource() {
 }
 
 HRESULT QOREExchangeAECServices::GetPLMTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oPLMType) {
-    return GetSystemTypeName(iNeutralID, plmTag, oPLMType);
+    return GetSystemTypeName(iNeutralID, plmTag, &AECDocument::Entry::plmName, oPLMType);
 }
 
 HRESULT QOREExchangeAECServices::GetPLMValuationFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oAttribute,
@@ -272,7 +273,7 @@ HRESULT QOREExchangeAECServices::GetPLMValuationFromNeutralID(const QORString& i
 }
 
 HRESULT QOREExchangeAECServices::GetIFCTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oIFCType) {
-    return GetSystemTypeName(iNeutralID, ifcTag, oIFCType);
+    return GetSystemTypeName(iNeutralID, ifcTag, &AECDocument::Entry::ifcName, oIFCType);
 }
 
 HRESULT QOREExchangeAECServices::GetNeutralIDFromPLMObject(const QORBaseUnknown_var& iObject,
