@@ -193,7 +193,7 @@ TEST_F(UnitServices, EndAtUnitsThatAreDefinedByThemselves) {
         EXPECT_EQ(assertionCount(), ++reports);
     }
     const std::string source = velkor::objectmodeler::assertionReports().front().sourceUnit;
-    EXPECT_EQ(source, "Velkorite/Velkor.m/src/UnitEvaluation.cpp");
+    EXPECT_EQ(source, "Velkorite/Velkor.m/src/units/UnitEvaluation.cpp");
 }
 
 TEST_F(UnitServices, StaySmallOnUnitsBuiltToBeEndless) {
