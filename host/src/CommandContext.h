@@ -51,7 +51,8 @@ struct CommandContext {
 
     /// Completes a command that answers something: adds `--format text|json` and `--config FILE`, and
     /// has `run` called once the configuration has been read. With a wrong configuration no command
-    /// runs: its faults are reported and the status is Unreadable. A command may have a third format.
+    /// runs: its faults are reported and the status is Unreadable. A command may have a third format. When one of its
+    /// subcommands is named, that one answers.
     void complete(CLI::App& command, std::function<void()> run, const std::string& thirdFormat = {});
 
     /// Writes why input cannot be read to `err` and sets the status Unreadable.

@@ -73,7 +73,7 @@ std::string likelyMeant(const std::vector<std::string_view>& known, std::string_
     std::tuple<std::size_t, std::string_view> likeliest{letters + 1, {}};
     for (const std::string_view candidate : known) {
         // As many letters differ at least.
-        const auto [fewer, more] = std::minmax(candidate.size(), meant.size());
+        const auto [fewer, more] = std::minmax({candidate.size(), meant.size()});
         if (more - fewer <= letters)
             likeliest = std::min(likeliest, {distance(meant, upperCase(candidate)), candidate});
     }

@@ -1,7 +1,8 @@
+#include "classification/Correspondences.h"
 #include "ConfigurationTestSupport.h"
+#include "DocumentTestSupport.h"
 #include "knowledge/QORIExchangeAECServices.h"
 #include "objectmodeler/ClassDictionary.h"
-#include "QORIFCDXXMLServices.h"
 #include "sdai/DXSdaiDictionaryRepo.h"
 
 #include <gmock/gmock.h>
@@ -13,26 +14,7 @@ using testing::HasSubstr;
 
 namespace {
 
-const std::string shippedDocument = std::string(shippedResources) + "/standard/xcad/AECCorrespondences.xml";
-
-std::string attribute(const QORIDOMNode_var& node, const char* name) {
-    QORUnicodeString value;
-    EXPECT_EQ(QORIFCDXXMLServices::GetAttributeValue(node, name, value), S_OK);
-    return std::string(value.utf8());
-}
-
-/// The elements that an expression selects in a document.
-std::vector<QORIDOMNode_var> nodes(const std::string& path, const char* xpath) {
-    QORIDOMDocument_var document;
-    QORIDOMNodeList_var list;
-    std::vector<QORIDOMNode_var> result;
-    unsigned int length = 0;
-    EXPECT_EQ(QORIFCDXXMLServices::GetDOMDocument(path.c_str(), document), S_OK);
-    EXPECT_EQ(QORIFCDXXMLServices::GetNodeList(document, xpath, list), S_OK);
-    EXPECT_EQ(list->GetLength(length), S_OK);
-    for (unsigned int i = 0; i < length; ++i) list->Item(i, result.emplace_back());
-    return result;
-}
+const std::string shippedDocument = standardFile("xcad/AECCorrespondences.xml");
 
 /// Neutral identifier of the entry on a line, as the document itself has it.
 std::map<int, std::string> entriesByLine(const std::string& path) {
@@ -233,7 +215,7 @@ TEST_F(ClassifyCommandTest, TheShippedDocumentNamesWhatThereIs) {
         const std::string path = "//IFC[@Name='" + type + "']/Condition[@Attribute='PredefinedType']";
         bool isKnown = false;
         std::set<std::string> values;
-        for (const char* release : {"IFC2X3", "IFC4", "IFC4X3_ADD2"}) {
+        for (const char* release : {"IFC2X3", "IFC4", "IFC4X3_ADD2", "IFC4X4"}) {
             const auto* entity = (*DXSdaiDictionaryRepo::TheOne().schema(release))->entity(type);
             isKnown = isKnown || entity != nullptr;
             const sdai::Attribute* attribute = entity == nullptr ? nullptr : entity->attribute("PREDEFINEDTYPE");
@@ -241,12 +223,25 @@ TEST_F(ClassifyCommandTest, TheShippedDocumentNamesWhatThereIs) {
             if (enumeration != nullptr) values.insert(enumeration->values().begin(), enumeration->values().end());
         }
         EXPECT_TRUE(isKnown) << type;
-        for (const QORIDOMNode_var& condition : nodes(shippedDocument, path.c_str())) {
+        for (const QORIDOMNode_var& condition : nodes(shippedDocument, path)) {
             ++predefined;
             EXPECT_TRUE(values.contains(attribute(condition, "Value"))) << type << ' ' << attribute(condition, "Value");
         }
     }
     EXPECT_GT(predefined, 0U);
+
+    // Every class of product has an entry, its own or a supertype's, that holds for all of it.
+    std::set<std::string> always;
+    for (const QORIDOMNode_var& node : nodes(shippedDocument, "//IFC[not(Condition)]"))
+        always.insert(upperCase(attribute(node, "Name")));
+    for (const std::string& release : DXSdaiDictionaryRepo::TheOne().names()) {
+        for (const sdai::EntityDefinition* entity : (*DXSdaiDictionaryRepo::TheOne().schema(release))->entities()) {
+            if (!entity->isKindOf("IFCPRODUCT") || entity->isAbstract()) continue;
+            const auto* general = entity;
+            while (general != nullptr && !always.contains(std::string(general->name()))) general = general->supertype();
+            EXPECT_NE(general, nullptr) << release << ' ' << entity->name();
+        }
+    }
 
     // Both sides of each can be had from the services.
     classified(example("road-ifc4x3.ifc"), Done);

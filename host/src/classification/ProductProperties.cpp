@@ -69,16 +69,17 @@ void ProductProperties::addRelationship(const DXSdaiAppInstance& relationship) {
 }
 
 const knowledge::Attributes& ProductProperties::valuesOf(const DXSdaiAppInstance* set) {
-    const auto [values, isNew] = _valuesOfSet.try_emplace(set);
-    if (!isNew) return values->second;
+    const auto [place, isNew] = _valuesOfSet.try_emplace(set);
+    Attributes& values = place->second;
+    if (!isNew) return values;
     eachInstance(set->GetAttr("HASPROPERTIES").asAggregate(), [&](const DXSdaiAppInstance* property) {
         if (!property->IsKindOf("IFCPROPERTYSINGLEVALUE")) return;
         const sdai::Primitive name = property->GetAttr("NAME");
         const sdai::Primitive value = property->GetAttr("NOMINALVALUE");
         if (!value.isSet() || !isWanted(name)) return;
-        append(values->second, {{name.asString(), inWords(value.asSelect().underlyingValue())}});
+        append(values, {{name.asString(), inWords(value.asSelect().underlyingValue())}});
     });
-    return values->second;
+    return values;
 }
 
 bool ProductProperties::isWanted(const sdai::Primitive& name) {

@@ -345,11 +345,11 @@ CLI::App* addSubcommand(CLI::App& map, const char* name, const char* description
 void addMapCommand(CLI::App& app, CommandContext& context) {
     CLI::App* map = app.add_subcommand("map", "What entities, properties and PLM attributes are mapped to");
     map->require_subcommand(1);
-    map->footer("Example:\n  velkor map version --from 2x3 --to 4 IfcDoorStyle");
+    map->footer("Example:\n  velkor map version --from 2x3 --to 4 IfcActionRequest RequestID");
     const auto arguments = std::make_shared<Arguments>();
 
     CLI::App* version = addSubcommand(*map, "version", "What becomes of an entity or property in another IFC release",
-                                      "velkor map version --from 2x3 --to 4 IfcDoorStyle");
+                                      "velkor map version --from 2x3 --to 4 IfcActionRequest RequestID");
     version->add_option("ENTITY", arguments->entity, "Name of the entity");
     version->add_option("PROPERTY", arguments->property, "Name of one of its properties");
     version->add_option("--from", arguments->from, "Release of the names: 2x1, 2x2, 2x3, 4, 2x5 or 4x2")
@@ -362,7 +362,7 @@ void addMapCommand(CLI::App& app, CommandContext& context) {
     context.complete(*version, [&context, arguments] { runVersion(context, *arguments); });
 
     CLI::App* custom = addSubcommand(*map, "custom", "What is used in place of an entity or property for a type",
-                                     "velkor map custom IfcWall FireRating --scope Building_Wall_Import");
+                                     "velkor map custom Pset_WallCommon FireRating --scope Building_Wall_Import");
     custom->add_option("ENTITY", arguments->entity, "Name of the entity or property set")->required();
     custom->add_option("PROPERTY", arguments->property, "Name of one of its properties");
     custom->add_option("--scope", arguments->scope, "Name of a type, followed by _Import or _Export")

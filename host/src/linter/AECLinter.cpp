@@ -137,17 +137,17 @@ void AECLinter::judgeOrder(const XmlElement& root, const char* tag) {
     });
     for (auto& [type, candidates] : types) {
         std::ranges::stable_sort(candidates, std::greater<>(), &Candidate::priority);
-        for (std::size_t i = 1; i < candidates.size(); ++i) {
-            const auto before = std::find_if(
-                candidates.begin(), candidates.begin() + static_cast<std::ptrdiff_t>(i), [&](const Candidate& other) {
-                    return other.condition.empty() || other.condition == candidates[i].condition;
-                });
-            if (before == candidates.begin() + static_cast<std::ptrdiff_t>(i)) continue;
-            const XmlElement& side = *candidates[i].side;
-            warn(side.line, "unreachable",
-                 quoted(side.attribute("Name")) + " is always decided by the entry " + inLine(before->side->line) +
-                     (before->condition.empty() ? ", which comes first and has no condition"
-                                                : ", which comes first with the same condition"));
+        // By condition; one without any decides whatever follows.
+        std::map<std::string, const XmlElement*> seen;
+        for (const Candidate& current : candidates) {
+            const auto always = seen.find("");
+            const auto [same, isNew] = seen.try_emplace(current.condition, current.side);
+            if (always == seen.end() && isNew) continue;
+            const auto& [condition, first] = always == seen.end() ? *same : *always;
+            warn(current.side->line, "unreachable",
+                 quoted(current.side->attribute("Name")) + " is always decided by the entry " + inLine(first->line) +
+                     (condition.empty() ? ", which comes first and has no condition"
+                                        : ", which comes first with the same condition"));
         }
     }
 }

@@ -35,6 +35,7 @@ CustomMappingLinter::CustomMappingLinter(Dictionaries& dictionaries) : Linter(fo
 
 // All standard mappings are read before the custom ones.
 void CustomMappingLinter::judgeEntries(const XmlElement& root) {
+    _mappings.clear();
     _keys.clear();
     _losses.clear();
     if (root.name != "IfcMapping" || !root.namespaceUri.empty()) return;
@@ -48,6 +49,7 @@ void CustomMappingLinter::judgeEntries(const XmlElement& root) {
 
 void CustomMappingLinter::judgeMapping(const XmlElement& mapping) {
     countEntry();
+    _mappings.push_back(&mapping);
     judgeName(mapping.line, mapping.attribute("fromEntity"), mapping.attribute("fromProperty"));
     judgeName(mapping.line, mapping.attribute("toEntity"), mapping.attribute("toProperty"));
     const std::vector<std::string> types = typesOf(mapping);
@@ -63,8 +65,8 @@ void CustomMappingLinter::judgeMapping(const XmlElement& mapping) {
             error(mapping.line, "bad-scope", "a direction is no part of a type: " + quoted(type),
                   "write " + quoted(std::string_view(type).substr(0, type.rfind('_'))));
         }
-        addKey(mapping, "fromEntity", "fromProperty", type, import);
-        if (mapping.name == custom) addKey(mapping, "toEntity", "toProperty", type, exporting);
+        addKey("fromEntity", "fromProperty", type, import);
+        if (mapping.name == custom) addKey("toEntity", "toProperty", type, exporting);
     }
 }
 
@@ -73,21 +75,26 @@ void CustomMappingLinter::judgeName(int line, const std::string& entity, const s
     if (upper(entity).starts_with("IFC") && judgeEntity(line, entity, {})) judgeProperty(line, entity, property, {});
 }
 
-void CustomMappingLinter::addKey(const XmlElement& mapping, const char* entity, const char* property,
-                                 const std::string& type, const char* direction) {
-    const std::vector<std::string> parts{mapping.attribute(entity), mapping.attribute(property), type + direction};
-    const std::vector<std::string_view> views(parts.begin(), parts.end());
-    Holder holder{&mapping, keyText(views)};
-    const auto [place, isNew] = _keys.try_emplace(keyHash(views), holder);
+void CustomMappingLinter::addKey(const char* entity, const char* property, const std::string& type,
+                                 const char* direction) {
+    const XmlElement& mapping = *_mappings.back();
+    const std::string scope = type + direction;
+    const std::vector<std::string_view> parts{mapping.attribute(entity), mapping.attribute(property), scope};
+    Holder holder{_mappings.size() - 1, keyText(parts)};
+    const auto [place, isNew] = _keys.try_emplace(keyHash(parts), holder);
     if (isNew) return;
-    if (place->second.mapping != &mapping)
-        _losses[{place->second.mapping, &mapping, direction, place->second.text != holder.text}].push_back(type);
+    if (place->second.mapping != holder.mapping) {
+        const Loss loss{place->second.mapping, holder.mapping, direction, place->second.text != holder.text};
+        _losses[loss].push_back(type);
+    }
     place->second = std::move(holder);
 }
 
 void CustomMappingLinter::tellLosses() {
     for (const auto& [loss, types] : _losses) {
-        const auto& [loser, winner, direction, doKeysDiffer] = loss;
+        const auto& [loserIndex, winnerIndex, direction, doKeysDiffer] = loss;
+        const XmlElement* loser = _mappings[loserIndex];
+        const XmlElement* winner = _mappings[winnerIndex];
         const bool isImport = direction == import;
         const std::string& property = loser->attribute(isImport ? "fromProperty" : "toProperty");
         std::string shown = quoted(loser->attribute(isImport ? "fromEntity" : "toEntity"));

@@ -14,21 +14,23 @@ public:
     explicit CustomMappingLinter(Dictionaries& dictionaries);
 
 private:
-    /// Who has a key, and the key.
+    /// Which mapping has a key, and the key.
     struct Holder {
-        const XmlElement* mapping;
+        std::size_t mapping;
         std::string text;
     };
     /// A mapping, the one that takes a key from it, the direction, and whether the keys differ.
-    using Loss = std::tuple<const XmlElement*, const XmlElement*, std::string, bool>;
+    using Loss = std::tuple<std::size_t, std::size_t, std::string, bool>;
 
     void judgeEntries(const XmlElement& root) override;
     void judgeMapping(const XmlElement& mapping);
     void judgeName(int line, const std::string& entity, const std::string& property);
-    void addKey(const XmlElement& mapping, const char* entity, const char* property, const std::string& type,
-                const char* direction);
+    /// Of the last mapping.
+    void addKey(const char* entity, const char* property, const std::string& type, const char* direction);
     void tellLosses();
 
+    /// In the order in which they are read.
+    std::vector<const XmlElement*> _mappings;
     std::unordered_map<unsigned int, Holder> _keys;
     std::map<Loss, std::vector<std::string>> _losses;
 };

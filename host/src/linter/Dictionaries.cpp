@@ -1,5 +1,7 @@
 #include "linter/Dictionaries.h"
 
+#include <set>
+
 namespace velkor::host::lint {
 
 std::vector<const sdai::EntityDefinition*> Dictionaries::entities(std::string_view name, const Releases& releases) {
@@ -12,14 +14,17 @@ std::vector<const sdai::EntityDefinition*> Dictionaries::entities(std::string_vi
     return result;
 }
 
-std::vector<std::string_view> Dictionaries::entityNames(const Releases& releases) {
-    std::vector<std::string_view> result;
+const std::vector<std::string_view>& Dictionaries::entityNames(const Releases& releases) {
+    const auto [place, isNew] = _names.try_emplace(releases);
+    if (!isNew) return place->second;
+    std::set<std::string_view> names;
     for (const std::string& release : releases.empty() ? all() : releases) {
         const sdai::SchemaDefinition* known = schema(release);
         if (known == nullptr) continue;
-        for (const sdai::EntityDefinition* entity : known->entities()) result.push_back(entity->name());
+        for (const sdai::EntityDefinition* entity : known->entities()) names.insert(entity->name());
     }
-    return result;
+    place->second.assign(names.begin(), names.end());
+    return place->second;
 }
 
 const Dictionaries::Releases& Dictionaries::all() {

@@ -17,14 +17,15 @@ public:
 
     /// The definitions of an entity in those releases that have it, letter case ignored.
     std::vector<const sdai::EntityDefinition*> entities(std::string_view name, const Releases& releases);
-    /// Names of all entities of the releases.
-    std::vector<std::string_view> entityNames(const Releases& releases);
+    /// Names of all entities of the releases, each once.
+    const std::vector<std::string_view>& entityNames(const Releases& releases);
 
     static const Releases& all();
 
 private:
     const sdai::SchemaDefinition* schema(const std::string& release);
     std::map<std::string, DXSdaiDictionaryRepo::SchemaPointer> _schemas;
+    std::map<Releases, std::vector<std::string_view>> _names;
 };
 
 } // namespace velkor::host::lint

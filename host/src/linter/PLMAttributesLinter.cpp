@@ -11,6 +11,8 @@ constexpr const char* includeTag = "PLMAttrInclude";
 constexpr const char* groupTag = "PLMAttrIncluded";
 constexpr const char* mappingTag = "IfcPLMMapping";
 constexpr const char* rootTag = "IfcPLMMappingAttr";
+/// Lines for the other direction, which nobody reads.
+constexpr const char* importOnly = "Import_Only";
 
 const Format& format() {
     static const Format result{
@@ -32,12 +34,13 @@ std::string targetOf(const XmlElement& line) {
     return line.attribute("propSetName") + '\n' + line.attribute("ifcProp");
 }
 
-bool hasLineOf(const std::vector<const XmlElement*>& lines, const XmlElement& line) {
-    const std::string wanted = upper(line.attribute("plmProp"));
-    return std::ranges::any_of(lines, [&](const auto* other) { return upper(other->attribute("plmProp")) == wanted; });
-}
-
 } // namespace
+
+const XmlElement* PLMAttributesLinter::Group::add(const XmlElement& line) {
+    const auto [place, isNew] = byAttribute.try_emplace(upper(line.attribute("plmProp")), &line);
+    if (isNew) lines.push_back(&line);
+    return place->second;
+}
 
 PLMAttributesLinter::PLMAttributesLinter(Dictionaries& dictionaries) : Linter(format(), dictionaries) {}
 
@@ -67,12 +70,12 @@ void PLMAttributesLinter::judgeLine(const XmlElement& line) {
     if (isExported(line)) return;
     warn(line.line, "line-dropped",
          quoted(line.attribute("plmProp")) + " is not exported, since its \"propExpose\" is " + quoted(direction),
-         didYouMean({"Both", "Export_Only"}, direction));
+         direction == importOnly ? std::string() : didYouMean({"Both", "Export_Only", importOnly}, direction));
 }
 
 void PLMAttributesLinter::buildGroups(const XmlElement& root) {
     for (const XmlElement& element : root.children) {
-        if (element.name == groupTag) _groups.push_back({element.attribute("id"), &element, {}, {}, false});
+        if (element.name == groupTag) _groups.push_back({element.attribute("id"), &element, {}, {}, {}, false});
     }
     for (std::size_t i = 0; i < _groups.size(); ++i) buildGroup(i);
 }
@@ -82,12 +85,11 @@ void PLMAttributesLinter::buildGroup(std::size_t index) {
     for (const XmlElement& child : group.element->children) {
         if (child.name == includeTag) include(index, child);
         if (child.name != lineTag || !isExported(child)) continue;
-        if (hasLineOf(group.lines, child)) {
+        const XmlElement* counts = group.add(child);
+        if (counts != &child && targetOf(*counts) != targetOf(child)) {
             warn(child.line, "duplicate-key",
-                 quoted(child.attribute("plmProp")) + " of group " + quoted(group.id) +
-                     " is there already, which counts");
-        } else {
-            group.lines.push_back(&child);
+                 quoted(child.attribute("plmProp")) + " of the group " + quoted(group.id) + " has a line " +
+                     inLine(counts->line) + " already, which counts");
         }
     }
     if (group.id.empty()) return;
@@ -108,18 +110,15 @@ void PLMAttributesLinter::include(std::size_t index, const XmlElement& include) 
     Group& current = _groups[index];
     const std::string wanted = upper(include.attribute("IncludedId"));
     if (wanted.empty()) return;
-    const auto add = [&](const XmlElement* line) {
-        if (!hasLineOf(current.lines, *line)) current.lines.push_back(line);
-    };
     std::set<std::size_t> taken;
     for (std::size_t k = 0; k < _groups.size(); ++k) {
         const Group& other = _groups[k];
         if (const auto complete = _complete.find(upper(other.id)); complete != _complete.end()) {
-            for (const XmlElement* line : _groups[complete->second].lines) add(line);
+            for (const XmlElement* line : _groups[complete->second].lines) current.add(*line);
             taken.insert(complete->second);
         } else if (upper(other.id) == wanted) {
             for (const XmlElement& child : other.element->children) {
-                if (child.name == lineTag && isExported(child)) add(&child);
+                if (child.name == lineTag && isExported(child)) current.add(child);
             }
             if (k != index) taken.insert(k);
         }

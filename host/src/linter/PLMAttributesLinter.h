@@ -17,11 +17,15 @@ private:
     struct Group {
         std::string id;
         const XmlElement* element;
-        /// The lines that count, those taken in as well.
+        /// The lines that count, those taken in as well, and each by its PLM attribute in upper case.
         std::vector<const XmlElement*> lines;
+        std::map<std::string, const XmlElement*> byAttribute;
         /// Groups whose lines it has taken in.
         std::set<std::size_t> sources;
         bool isUsed = false;
+
+        /// Adds a line unless there is one of its attribute; gives the one that counts.
+        const XmlElement* add(const XmlElement& line);
     };
     struct Place {
         std::string path;

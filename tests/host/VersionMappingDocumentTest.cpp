@@ -1,0 +1,84 @@
+#include "dictionary/ReleaseRenames.h"
+#include "sdai/DXSdaiDictionaryRepo.h"
+#include "TestSupport.h"
+
+#include <gmock/gmock.h>
+#include <iterator>
+#include <set>
+
+namespace velkor::host {
+
+using testing::HasSubstr;
+
+namespace {
+
+Outcome diff(std::vector<std::string> words) {
+    words.insert(words.begin(), {"dictionary", "diff"});
+    words.emplace_back("--as-mapping");
+    return runHost(words);
+}
+
+} // namespace
+
+TEST(VersionMappingDocument, ShippedOneIsWhatTheDictionariesGive) {
+    std::ifstream file(VELKOR_SOURCE_DIR "/resources/standard/ifc/VersionMapping.xml", std::ios::binary);
+    const std::string shipped{std::istreambuf_iterator<char>(file), {}};
+    const Outcome made = diff({"2x3", "4", "--also", "4:2x3", "4:4x2", "4x2:4", "2x3:4x2", "4x2:2x3"});
+    EXPECT_EQ(made.status, Done);
+    EXPECT_EQ(made.out, shipped);
+}
+
+TEST(VersionMappingDocument, SaysWhatBecameOfEntitiesAndAttributes) {
+    const std::string forwards = diff({"IFC2X3", "IFC4"}).out, backwards = diff({"4", "2x3"}).out;
+    for (
+        const char* line : {
+            R"(<Version from="2x3" to="4">)",
+            // What stays as it is has no line.
+            R"(<Mapping fromEntity="IFCTASK" fromProperty="TASKID" toProperty="IDENTIFICATION"/>)",
+            R"(<Mapping fromEntity="IFCGASTERMINALTYPE" toEntity="IFCBURNERTYPE"/>)",
+            R"(<Mapping fromEntity="IFCGASTERMINALTYPE" fromProperty="TAG" toEntity="IFCBURNERTYPE" toProperty="TAG"/>)",
+            R"(<Deprecation entity="IFC2DCOMPOSITECURVE"/>)",
+            R"(<Introduction entity="IFCPUMP"/>)",
+            R"(<Introduction entity="IFCWALL" property="PREDEFINEDTYPE" propertyValue="NOTDEFINED"/>)",
+        }) {
+        EXPECT_THAT(forwards, HasSubstr(line + std::string("\n")));
+    }
+    EXPECT_THAT(forwards, testing::Not(HasSubstr(R"("IFCMOVE" fromProperty)"))) << "gone itself";
+    EXPECT_THAT(forwards, testing::Not(HasSubstr(R"(Deprecation entity="IFCGASTERMINALTYPE")")));
+    EXPECT_THAT(forwards, testing::Not(HasSubstr(R"(Introduction entity="IFCTASK" property="IDENTIFICATION")")));
+    EXPECT_THAT(backwards, HasSubstr(R"(<Mapping fromEntity="IFCBURNERTYPE" toEntity="IFCGASTERMINALTYPE"/>)"));
+    EXPECT_THAT(backwards,
+                HasSubstr(R"(<Mapping fromEntity="IFCTASK" fromProperty="IDENTIFICATION" toProperty="TASKID"/>)"));
+    EXPECT_THAT(backwards, testing::Not(HasSubstr(R"(fromEntity="IFCSTYLEDITEM")"))) << "five became one";
+    EXPECT_THAT(backwards, HasSubstr(R"(<Deprecation entity="IFCWALL" property="PREDEFINEDTYPE"/>)"));
+
+    EXPECT_EQ(diff({"IFC4", "IFC4X4"}).status, BadUsage);
+    EXPECT_EQ(diff({"IFC4", "IFC2X3", "--also", "IFC4"}).status, BadUsage);
+    EXPECT_EQ(runHost({"dictionary", "diff", "4", "2x3", "--also", "4:4x2"}).status, BadUsage);
+}
+
+TEST(VersionMappingDocument, EveryKnownRenameIsOne) {
+    const auto before = DXSdaiDictionaryRepo::TheOne().schema("IFC2X3"),
+               after = DXSdaiDictionaryRepo::TheOne().schema("IFC4");
+    ASSERT_TRUE(before && after);
+    std::set<std::string> oneToOne;
+    for (const EntityRename& rename : entityRenames) {
+        EXPECT_NE((*before)->entity(rename.before), nullptr) << rename.before;
+        EXPECT_EQ((*after)->entity(rename.before), nullptr) << rename.before << " is not gone";
+        EXPECT_NE((*after)->entity(rename.after), nullptr) << rename.after;
+        if (!rename.isOneToOne) continue;
+        EXPECT_EQ((*before)->entity(rename.after), nullptr) << rename.after << " is not new";
+        EXPECT_TRUE(oneToOne.insert(rename.after).second);
+    }
+    for (const AttributeRename& rename : attributeRenames) {
+        const auto* was = (*before)->entity(rename.entity);
+        const auto* is = (*after)->entity(rename.entity);
+        ASSERT_TRUE(was != nullptr && is != nullptr) << rename.entity;
+        EXPECT_GE(was->attributeIndex(rename.before), 0) << rename.entity << ' ' << rename.before;
+        EXPECT_LT(is->attributeIndex(rename.before), 0) << rename.entity << ' ' << rename.before;
+        EXPECT_GE(is->attributeIndex(rename.after), 0) << rename.entity << ' ' << rename.after;
+        EXPECT_LT(was->attributeIndex(rename.after), 0) << rename.entity << ' ' << rename.after;
+    }
+}
+
+} // namespace velkor::host
