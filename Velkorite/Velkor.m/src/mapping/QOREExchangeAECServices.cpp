@@ -7,6 +7,7 @@
 #include "knowledge/QORIVleObject.h"
 #include "objectmodeler/Assertion.h"
 #include "QORIFCDXXMLServices.h"
+#include "ReportedResult.h"
 #include "VelkorComponents.h"
 
 #include <cstdio>
@@ -29,12 +30,6 @@ constexpr const char* plmTag = "NORVEL";
 constexpr const char* defaultAnswer = "DEFAULT";
 
 AECDocument aecDocument;
-
-HRESULT reported(HRESULT result, int line) {
-    if (FAILED(result)) __OmyAssertionFailed(VELKOR_SOURCE_UNIT, line);
-    return result;
-}
-#define REPORTED(result) reported(result, __LINE__)
 
 HRESULT GetAECDocument() {
     return aecDocument.isLoaded() ? S_OK : aecDocument.load();

@@ -5,6 +5,7 @@
 #include "objectmodeler/Assertion.h"
 #include "QORIFCDXXMLServices.h"
 #include "QORIFCOptionsFromXCAD.h"
+#include "ReportedResult.h"
 #include "VelkorComponents.h"
 #include "xml/QORIDOMAttr.h"
 #include "xml/QORIDOMDocumentTraversal.h"
@@ -22,12 +23,6 @@ namespace {
 // Every unit that deals with resource paths has its own pair; the search that reads them is shared.
 [[maybe_unused]] const QORUnicodeString pathListSeparator = ";";
 [[maybe_unused]] const QORUnicodeString folderSeparator = "\\";
-
-HRESULT unexpected(HRESULT result, int line) {
-    __OmyAssertionFailed(VELKOR_SOURCE_UNIT, line);
-    return result;
-}
-#define UNEXPECTED(result) unexpected(result, __LINE__)
 
 /// One usable child of the Version element that governs the table.
 struct VersionMappingEntry {
@@ -82,7 +77,7 @@ VersionMappingTable* versionMappingTable = nullptr;
 
 HRESULT VersionCodeToText(int code, QORUnicodeString& text) {
     constexpr const char* texts[] = {"2x1", "2x2", "2x3", "4", "2x5", "4x2"};
-    if (code < 1 || code > static_cast<int>(std::size(texts))) return UNEXPECTED(E_FAIL);
+    if (code < 1 || code > static_cast<int>(std::size(texts))) return REPORTED(E_FAIL);
     text = texts[code - 1];
     return S_OK;
 }
@@ -91,7 +86,7 @@ HRESULT loadDocument() {
     versionMappingDocument = {};
     QORUnicodeString path;
     const HRESULT result = velkor::library::findFirstResource(velkor::versionMappingResource, path);
-    if (FAILED(result)) return UNEXPECTED(result);
+    if (FAILED(result)) return REPORTED(result);
     return QORIFCDXXMLServices::GetDOMDocument(path, versionMappingDocument);
 }
 
@@ -101,7 +96,7 @@ HRESULT GetVersionMappingDocument(QORIDOMDocument_var& document) {
         if (FAILED(result)) return result;
     }
     document = versionMappingDocument;
-    return document.IsNull() ? UNEXPECTED(E_UNEXPECTED) : S_OK;
+    return document.IsNull() ? REPORTED(E_UNEXPECTED) : S_OK;
 }
 
 const QORUnicodeString& mappingName() {
@@ -127,15 +122,15 @@ HRESULT FindVersionElement(int iFromVersion, int iToVersion, QORIDOMElement_var&
     if (FAILED(result)) return result;
     QORIDOMElement_var root;
     result = document->GetDocumentElement(root);
-    if (FAILED(result)) return UNEXPECTED(result);
+    if (FAILED(result)) return REPORTED(result);
     const QORIDOMDocumentTraversal_var traversal = document;
-    if (traversal.IsNull()) return UNEXPECTED(E_UNEXPECTED);
+    if (traversal.IsNull()) return REPORTED(E_UNEXPECTED);
     QORIDOMNodeIterator_var iterator;
     result =
         traversal->CreateNodeIterator(root, QORDOMNodeFilterType::SHOW_ELEMENT | QORDOMNodeFilterType::SHOW_ATTRIBUTE,
                                       QORIDOMNodeFilter_var(), true, iterator);
-    if (FAILED(result)) return UNEXPECTED(result);
-    if (iterator.IsNull()) return UNEXPECTED(E_UNEXPECTED);
+    if (FAILED(result)) return REPORTED(result);
+    if (iterator.IsNull()) return REPORTED(E_UNEXPECTED);
     result = VersionCodeToText(iToVersion, to);
     if (FAILED(result)) return result;
 
@@ -145,13 +140,13 @@ HRESULT FindVersionElement(int iFromVersion, int iToVersion, QORIDOMElement_var&
         if (element.IsNull()) continue;
         QORUnicodeString text;
         result = element->GetTagName(text);
-        if (FAILED(result)) return UNEXPECTED(result);
+        if (FAILED(result)) return REPORTED(result);
         if (text != "Version") continue;
         result = element->GetAttribute("from", text);
-        if (FAILED(result)) return UNEXPECTED(result);
+        if (FAILED(result)) return REPORTED(result);
         if (text != from) continue;
         result = element->GetAttribute("to", text);
-        if (FAILED(result)) return UNEXPECTED(result);
+        if (FAILED(result)) return REPORTED(result);
         if (text != to) continue;
         version = element;
         return S_OK;
@@ -166,17 +161,17 @@ HRESULT walkChildren(const QORIDOMNodeList_var& children, unsigned int length, W
     for (unsigned int i = 1; i < length; ++i) {
         QORIDOMNode_var child;
         if (FAILED(children->Item(i, child)) || child.IsNull()) {
-            UNEXPECTED(E_UNEXPECTED);
+            REPORTED(E_UNEXPECTED);
             continue;
         }
         QORUnicodeString name;
         if (FAILED(child->GetNodeName(name))) {
-            UNEXPECTED(E_UNEXPECTED);
+            REPORTED(E_UNEXPECTED);
             continue;
         }
         if (!wants(name)) continue;
         const QORIDOMElement_var element = child;
-        if (element.IsNull()) return UNEXPECTED(E_UNEXPECTED);
+        if (element.IsNull()) return REPORTED(E_UNEXPECTED);
         const HRESULT result = visit(element, name);
         if (FAILED(result)) return result;
     }
@@ -185,10 +180,10 @@ HRESULT walkChildren(const QORIDOMNodeList_var& children, unsigned int length, W
 
 HRESULT childrenOf(const QORIDOMElement_var& version, QORIDOMNodeList_var& children, unsigned int& length) {
     HRESULT result = version->GetChildNodes(children);
-    if (FAILED(result)) return UNEXPECTED(result);
-    if (children.IsNull()) return UNEXPECTED(E_UNEXPECTED);
+    if (FAILED(result)) return REPORTED(result);
+    if (children.IsNull()) return REPORTED(E_UNEXPECTED);
     result = children->GetLength(length);
-    return FAILED(result) ? UNEXPECTED(result) : S_OK;
+    return FAILED(result) ? REPORTED(result) : S_OK;
 }
 
 /// The search and the walk of the three operations that read the document at every call.
@@ -208,7 +203,7 @@ HRESULT visitChanges(int iFromVersion, int iToVersion, const QORUnicodeString& w
 
 HRESULT read(const QORIDOMElement_var& element, const char* name, QORUnicodeString& value) {
     const HRESULT result = element->GetAttribute(name, value);
-    return FAILED(result) ? UNEXPECTED(result) : S_OK;
+    return FAILED(result) ? REPORTED(result) : S_OK;
 }
 
 /// An attribute that may be absent. False after a failing read, which has been reported.
@@ -216,13 +211,13 @@ bool readOptional(const QORIDOMElement_var& element, const char* name, bool& isP
     QORIDOMAttr_var attribute;
     isPresent = false;
     if (FAILED(element->GetAttributeNode(name, attribute))) {
-        UNEXPECTED(E_UNEXPECTED);
+        REPORTED(E_UNEXPECTED);
         return false;
     }
     if (attribute.IsNull()) return true;
     isPresent = true;
     if (SUCCEEDED(attribute->GetValue(value))) return true;
-    UNEXPECTED(E_UNEXPECTED);
+    REPORTED(E_UNEXPECTED);
     return false;
 }
 

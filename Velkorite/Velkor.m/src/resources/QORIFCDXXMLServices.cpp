@@ -1,6 +1,7 @@
 #include "QORIFCDXXMLServices.h"
 
 #include "objectmodeler/Assertion.h"
+#include "ReportedResult.h"
 #include "text/QORListValQORUnicodeString.h"
 #include "xml/QORIDOMDocumentType.h"
 #include "xml/QORIDOMImplementation.h"
@@ -10,14 +11,6 @@
 #include <initializer_list>
 
 namespace {
-
-/// A failure is reported where it shows; the result goes on unchanged.
-#define REPORTED(result) reported(result, __LINE__)
-
-HRESULT reported(HRESULT result, int line) {
-    if (FAILED(result)) __OmyAssertionFailed(VELKOR_SOURCE_UNIT, line);
-    return result;
-}
 
 struct Pair {
     const char* first;
