@@ -6,8 +6,9 @@
 ///     QORIFCDXXMLServices::GetNodeList(document, "IfcMapping/CustomMapping", mappings);
 ///
 /// All give S_OK on success and pass the failures of the parser on. What the parser has to say about
-/// a file or an expression is in the host's exchange log. Every failure but E_INVALIDARG is reported as
-/// an assertion as well.
+/// a file or an expression is in the host's exchange log. Every failure is reported as an assertion as well, but
+/// for one: GetNode and GetNodeValue report no E_INVALIDARG that says how many nodes an expression selects. The
+/// form of GetAttributeValue that takes an expression does report it, with the expression as the message.
 ///
 /// Expressions are XPath 1.0. Four prefixes are bound, whatever the document declares: "gml" (GML 3.2,
 /// OGC 07-036), "epsg" (the EPSG dataset), "gmd" and "gco" (ISO/TS 19139:2007, schemas of 2005).

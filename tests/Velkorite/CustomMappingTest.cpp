@@ -242,9 +242,22 @@ TEST(CustomMappingTable, TellsElementsApartByTheirHashAlone) {
     auto& self = assigned;
     assigned = self;
     EXPECT_TRUE(assigned == table);
+    assigned = std::move(self);
+    EXPECT_TRUE(assigned == table);
     QORHashTabCustoMappingElement moved(std::move(assigned));
     copy = std::move(moved);
     EXPECT_TRUE(copy == table);
+    // What was moved from is empty and usable.
+    for (QORHashTabCustoMappingElement* left : {&assigned, &moved}) {
+        EXPECT_EQ(left->Size() + left->Collisions(), 0);
+        EXPECT_EQ(left->Locate(&element), nullptr);
+        EXPECT_EQ(left->Insert(&element), &element);
+        EXPECT_EQ(left->KeyLocate(static_cast<int>(same.GetHashKey())), &element);
+    }
+    moved = std::move(assigned);
+    assigned.RemoveAll();
+    EXPECT_EQ(assigned.Insert(&other), &other);
+    EXPECT_EQ(moved.Locate(&same), &element);
     std::vector<CustoMappingElement*> walked;
     for (auto at = copy.CreateIterator(); !at.AtEnd(); ++at) walked.push_back(copy[at]);
     EXPECT_THAT(walked, ElementsAre(&element, &other));

@@ -90,7 +90,8 @@ TEST_F(PLMAttributesMapping, BringsInGroups) {
                        group("Later", line("L", "later") + include("Last")) + group("Last", line("Z", "last")) +
                        group("Last", line("Y", "again")) +
                        group("Self", include("self") + include("First") + line("O", "own")) +
-                       group("First", line("I", "an id counts once"));
+                       group("First", line("I", "an id counts once")) +
+                       group("Alike", line("ı", "dotless") + line("i", "dotted") + line("I", "refused"));
     struct Case {
         const char* group;
         const char* answers; ///< to F, S, L, Z, Y, O, I
@@ -103,6 +104,7 @@ TEST_F(PLMAttributesMapping, BringsInGroups) {
                           {"Last", "none none none last none none none"},
                           {"Self", "first first later last again own none"},
                           {"Import", "none none none none none none none"},
+                          {"Alike", "none none none none none none dotted"},
                           {"Nobody", "none none none none none none none"}};
     for (const Case& c : cases) text += mapping(std::string("T") + c.group, include(c.group));
     text += mapping("Mixed", line("f", "mine") + include("First") + line("L", "too late"));
@@ -118,6 +120,7 @@ TEST_F(PLMAttributesMapping, BringsInGroups) {
         return result;
     };
     for (const Case& c : cases) EXPECT_EQ(answers(std::string("T") + c.group), c.answers) << c.group;
+    EXPECT_EQ(property("TAlike", "ı"), "dotless.Prop") << "in upper case the two are the same";
     EXPECT_EQ(answers("Mixed"), "mine first later none none none none");
 }
 

@@ -106,6 +106,75 @@ public:
     static inline std::string options;
 };
 
+/// An expression over nothing, the list that it gives and the one element therein, all in one; the operation that
+/// is named fails.
+class Failing final : public QORIDOMElement {
+public:
+    static inline std::string operation;
+    static HRESULT answer(const char* asked) { return operation == asked ? E_PLATFORM : S_OK; }
+
+    using QORIDOMElement::QueryInterface;
+    HRESULT QueryInterface(const IID& id, void** interface) override {
+        *interface = nullptr;
+        return operation == "cast" ? E_NOINTERFACE : QORIDOMElement::QueryInterface(id, interface);
+    }
+    HRESULT GetNodeType(unsigned short& type) override { return type = ELEMENT_NODE, answer("GetNodeType"); }
+    HRESULT GetNodeName(QORUnicodeString&) override { return answer("GetNodeName"); }
+    HRESULT GetNodeValue(QORUnicodeString&) override { return answer("GetNodeValue"); }
+    HRESULT GetFirstChild(QORIDOMNode_var& child) override { return child = this, answer("GetFirstChild"); }
+    HRESULT GetTagName(QORUnicodeString& name) override { return name = "Item", answer("GetTagName"); }
+    HRESULT GetAttribute(const QORUnicodeString&, QORUnicodeString&) override { return answer("GetAttribute"); }
+
+    HRESULT SetNodeValue(const QORUnicodeString&) override { return S_OK; }
+    HRESULT GetTextContent(QORUnicodeString&) override { return S_OK; }
+    HRESULT GetNamespaceURI(QORUnicodeString&) override { return S_OK; }
+    HRESULT GetPrefix(QORUnicodeString&) override { return S_OK; }
+    HRESULT GetLocalName(QORUnicodeString&) override { return S_OK; }
+    HRESULT GetParentNode(QORIDOMNode_var&) override { return S_OK; }
+    HRESULT GetChildNodes(QORIDOMNodeList_var&) override { return S_OK; }
+    HRESULT GetLastChild(QORIDOMNode_var&) override { return S_OK; }
+    HRESULT GetPreviousSibling(QORIDOMNode_var&) override { return S_OK; }
+    HRESULT GetNextSibling(QORIDOMNode_var&) override { return S_OK; }
+    HRESULT HasChildNodes(bool&) override { return S_OK; }
+    HRESULT GetOwnerDocument(QORIDOMDocument_var&) override { return S_OK; }
+    HRESULT InsertBefore(const QORIDOMNode_var&, const QORIDOMNode_var&) override { return S_OK; }
+    HRESULT AppendChild(const QORIDOMNode_var&) override { return S_OK; }
+    HRESULT RemoveChild(const QORIDOMNode_var&) override { return S_OK; }
+    HRESULT GetLineNumber(int&) override { return S_OK; }
+    HRESULT HasAttribute(const QORUnicodeString&, bool&) override { return S_OK; }
+    HRESULT GetAttributeNode(const QORUnicodeString&, QORIDOMAttr_var&) override { return S_OK; }
+    HRESULT GetAttributes(QORIDOMNodeList_var&) override { return S_OK; }
+    HRESULT SetAttribute(const QORUnicodeString&, const QORUnicodeString&) override { return S_OK; }
+    HRESULT RemoveAttribute(const QORUnicodeString&) override { return S_OK; }
+    HRESULT GetElementsByTagName(const QORUnicodeString&, QORIDOMNodeList_var&) override { return S_OK; }
+
+    struct List final : QORIDOMNodeList {
+        HRESULT GetLength(unsigned int& length) override { return length = 1, answer("GetLength"); }
+        HRESULT Item(unsigned int, QORIDOMNode_var& node) override {
+            return node = QORIDOMNode_var::adopt(new Failing), answer("Item");
+        }
+    };
+    struct Expression final : QORIXMLXPathExpression {
+        HRESULT SetNamespaces(const QORListValQORUnicodeString&, const QORListValQORUnicodeString&) override {
+            return answer("SetNamespaces");
+        }
+        HRESULT Evaluate(QORIDOMNodeList_var& nodes) override {
+            return nodes = QORIDOMNodeList_var::adopt(new List), answer("Evaluate");
+        }
+    };
+    struct Factory final : QORIXMLXPathFactory {
+        HRESULT CreateXPathExpression(const QORUnicodeString&, QORIXMLXPathExpression_var& made) override {
+            return made = QORIXMLXPathExpression_var::adopt(new Expression), answer("CreateXPathExpression");
+        }
+    };
+    /// A document of which nothing but expressions can be had.
+    static QORIDOMDocument_var document() {
+        QORIDOMDocument_var result;
+        static_cast<QORBaseUnknown_var&>(result) = QORBaseUnknown_var::adopt(new Factory);
+        return result;
+    }
+};
+
 constexpr const char* sample =
     "<r xmlns:g='http://www.opengis.net/gml/3.2' xmlns:e='urn:x-ogp:spec:schema-xsd:EPSG:1.0:dataset' "
     "xmlns:d='http://www.isotc211.org/2005/gmd' xmlns:o='http://www.isotc211.org/2005/gco'>"
@@ -255,6 +324,32 @@ TEST_F(XmlServices, PassesTheParsersFailuresOn) {
               "QORIndentation=2;QORIndentationCharacter= ;");
     Builder::answer = E_PLATFORM;
     EXPECT_THAT(all(), ElementsAre(E_PLATFORM, E_PLATFORM, E_PLATFORM));
+}
+
+TEST_F(XmlServices, PassesTheFailuresOfADocumentOn) {
+    const auto filter = QORBaseUnknown_var::adopt(new QORXCADNodeFilter("Item", "name"));
+    const QORIDOMNodeFilter_var asked = filter;
+    const QORIDOMNode_var item = QORIDOMNode_var::adopt(new Failing);
+    const auto read = [](QORUnicodeString value) { return Services::GetNodeValue(Failing::document(), "x", value); };
+    const auto accept = [&](unsigned int answer) { return asked->acceptNode(item, answer); };
+    struct Case {
+        const char* failing;
+        HRESULT read;
+        std::uint64_t readReports;
+        HRESULT accepted;
+    };
+    for (const Case& c : {Case{"CreateXPathExpression", E_PLATFORM, 3, S_OK},
+                          Case{"SetNamespaces", E_PLATFORM, 3, S_OK}, Case{"Evaluate", E_PLATFORM, 3, S_OK},
+                          Case{"GetLength", E_PLATFORM, 2, S_OK}, Case{"Item", E_PLATFORM, 2, S_OK},
+                          Case{"GetNodeName", E_PLATFORM, 1, S_OK}, Case{"GetNodeValue", E_PLATFORM, 1, S_OK},
+                          Case{"GetFirstChild", E_PLATFORM, 1, S_OK}, Case{"GetNodeType", S_OK, 0, E_PLATFORM},
+                          Case{"cast", S_OK, 0, E_UNEXPECTED}, Case{"GetTagName", S_OK, 0, E_PLATFORM},
+                          Case{"GetAttribute", S_OK, 0, E_PLATFORM}, Case{"", S_OK, 0, S_OK}}) {
+        SCOPED_TRACE(c.failing);
+        Failing::operation = c.failing;
+        EXPECT_EQ(assertionsDuring([&] { EXPECT_EQ(read({}), c.read); }), c.readReports);
+        EXPECT_EQ(assertionsDuring([&] { EXPECT_EQ(accept(7), c.accepted); }), c.accepted == S_OK ? 0U : 1U);
+    }
 }
 
 TEST_F(XmlServices, FilterPicksElementsByTagAndName) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <utility>
 
 namespace velkor::containers {
 
@@ -13,6 +14,18 @@ constexpr std::size_t FewestBuckets = 16;
 
 EntryTable::EntryTable(std::size_t expectedEntries) {
     rebuild(std::bit_ceil(std::max(expectedEntries, FewestBuckets)));
+}
+
+EntryTable::EntryTable(EntryTable&& other) noexcept
+    : _entries(std::move(other._entries)), _heads(std::move(other._heads)), _tails(std::move(other._tails)),
+      _size(std::exchange(other._size, 0)) {}
+
+EntryTable& EntryTable::operator=(EntryTable other) noexcept {
+    _entries.swap(other._entries);
+    _heads.swap(other._heads);
+    _tails.swap(other._tails);
+    std::swap(_size, other._size);
+    return *this;
 }
 
 std::size_t EntryTable::emptyBucketCount() const noexcept {
@@ -34,7 +47,7 @@ std::int32_t EntryTable::next(std::int32_t position) const noexcept {
 void EntryTable::add(unsigned int key, void* value) {
     // Places of removed entries are taken back when they are as many as those in use.
     if (_size >= _heads.size()) {
-        rebuild(_heads.size() * 2);
+        rebuild(std::max(_heads.size() * 2, FewestBuckets));
     } else if (_entries.size() >= 2 * (_size + FewestBuckets)) {
         rebuild(_heads.size());
     }
@@ -70,7 +83,7 @@ std::size_t EntryTable::bucket(unsigned int key) const noexcept {
     return spread >> (32 - std::countr_zero(_heads.size()));
 }
 
-void EntryTable::link(std::int32_t position) {
+void EntryTable::link(std::int32_t position) noexcept {
     const std::size_t home = bucket(_entries[static_cast<std::size_t>(position)].key);
     const std::int32_t tail = _tails[home];
     (tail == None ? _heads[home] : _entries[static_cast<std::size_t>(tail)].next) = position;
@@ -78,9 +91,11 @@ void EntryTable::link(std::int32_t position) {
 }
 
 void EntryTable::rebuild(std::size_t buckets) {
+    // All that may fail comes first.
+    std::vector<std::int32_t> heads(buckets, None), tails(buckets, None);
+    _heads.swap(heads);
+    _tails.swap(tails);
     std::erase_if(_entries, [](const Entry& entry) { return entry.value == nullptr; });
-    _heads.assign(buckets, None);
-    _tails.assign(buckets, None);
     for (std::size_t i = 0; i < _entries.size(); ++i) {
         _entries[i].next = None;
         link(static_cast<std::int32_t>(i));

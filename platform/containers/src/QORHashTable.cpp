@@ -36,7 +36,7 @@ QORHashCodeIter& QORHashCodeIter::operator++() noexcept {
 }
 
 QORHashTable::QORHashTable(Hash hash, Comparison compare, int dimension, void* extra)
-    : _hash(hash), _compare(compare), _extra(extra), _entries(static_cast<std::size_t>(std::max(dimension, 0))) {}
+    : _entries(static_cast<std::size_t>(std::max(dimension, 0))), _hash(hash), _compare(compare), _extra(extra) {}
 
 void* QORHashTable::Insert(void* entry) {
     if (entry == nullptr) return nullptr;

@@ -112,9 +112,7 @@ void appendLines(const QORIDOMNode_var& parent, PLMAttrIncludedGroup& group) {
 
 void PLMAttrIncludedGroup::append(const QORUnicodeString& plmProperty, const QORUnicodeString& set,
                                   const QORUnicodeString& property) {
-    QORUnicodeString upper = plmProperty;
-    upper.ToUpper();
-    if (!attributes.insert(upper).second) return;
+    if (!attributes.insert(plmProperty).second) return;
     PLMProperties.Append(plmProperty);
     PropertySetNames.Append(set);
     IFCProperties.Append(property);

@@ -27,8 +27,8 @@ struct PLMAttrIncludedGroup {
     QORListValQORUnicodeString PropertySetNames;
     QORListValQORUnicodeString IFCProperties;
     unsigned int HashKey = 0;
-    /// The attributes that have a line, in upper case. Later lines of one would never answer, and includes of
-    /// includes would multiply them without end.
+    /// The attributes that have a line, as they are written. Later lines of one would never answer, and includes
+    /// of includes would multiply them without end.
     std::unordered_set<QORUnicodeString> attributes;
 
     void append(const QORUnicodeString& plmProperty, const QORUnicodeString& set, const QORUnicodeString& property);

@@ -30,6 +30,11 @@ std::uint16_t effective(std::uint16_t option, const char* setting, std::uint16_t
     return optionValue(number, notGiven, fallback);
 }
 
+/// What a setter does: a forced option stays, unless it is not given after all.
+void set(std::uint16_t& option, bool isForced, std::uint16_t notGiven, std::uint16_t value) {
+    if (option == notGiven || !isForced) option = value;
+}
+
 } // namespace
 
 QORIFCOptions& QORIFCOptions::GetInstance() {
@@ -67,15 +72,15 @@ QORIFCOptions::StructureExposure QORIFCOptions::GetStructureExposure() const {
 }
 
 void QORIFCOptions::SetExchangeProfile(ExchangeProfile profile) {
-    if (!_exchange_profile_forced) _exchange_profile = profile;
+    set(_exchange_profile, _exchange_profile_forced, UndefinedProfile, profile);
 }
 
 void QORIFCOptions::SetGeometryMode(GeometryMode mode) {
-    if (!_geometry_mode_forced) _geometry_mode = mode;
+    set(_geometry_mode, _geometry_mode_forced, UndefinedGeometry, mode);
 }
 
 void QORIFCOptions::SetStructureExposure(StructureExposure exposure) {
-    if (!_structure_exposure_forced) _structure_exposure = exposure;
+    set(_structure_exposure, _structure_exposure_forced, UndefinedExposure, exposure);
 }
 
 bool QORIFCOptions::ExchangeWithAttributes() const {

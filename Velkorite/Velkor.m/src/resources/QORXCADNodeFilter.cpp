@@ -1,6 +1,6 @@
 #include "QORXCADNodeFilter.h"
 
-#include "objectmodeler/Assertion.h"
+#include "ReportedResult.h"
 #include "xml/QORIDOMElement.h"
 
 VELKOR_IMPLEMENT_CLASS(QORXCADNodeFilter, QORBaseUnknown, "QORnull", "Velkorite")
@@ -14,24 +14,21 @@ QORXCADNodeFilter::~QORXCADNodeFilter() = default;
 
 HRESULT QORXCADNodeFilter::acceptNode(const QORIDOMNode_var& node, unsigned int& answer) {
     answer = QORDOMNodeFilterType::FILTER_SKIP;
-    if (node.IsNull()) {
-        VELKOR_ASSERTION_FAILED();
-        return E_UNEXPECTED;
-    }
+    if (node.IsNull()) return REPORTED(E_UNEXPECTED);
     unsigned short type = 0;
     HRESULT result = node->GetNodeType(type);
-    if (FAILED(result)) return result;
+    if (FAILED(result)) return REPORTED(result);
     if (type != QORIDOMNode::ELEMENT_NODE) return S_OK;
     const QORIDOMElement_var element = node;
-    if (element.IsNull()) return E_UNEXPECTED;
+    if (element.IsNull()) return REPORTED(E_UNEXPECTED);
 
     QORUnicodeString text;
     result = element->GetTagName(text);
-    if (FAILED(result)) return result;
+    if (FAILED(result)) return REPORTED(result);
     if (text != _tagName) return S_OK;
     if (!_name.IsEmpty()) {
         result = element->GetAttribute("Name", text);
-        if (FAILED(result)) return result;
+        if (FAILED(result)) return REPORTED(result);
         text.ToUpper();
         if (text != _name) return S_OK;
     }

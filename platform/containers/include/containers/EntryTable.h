@@ -13,6 +13,12 @@ public:
     static constexpr std::int32_t None = -1;
 
     explicit EntryTable(std::size_t expectedEntries = 0);
+    EntryTable(const EntryTable& other) = default;
+    /// Leaves an empty table behind, which has no buckets until it is given an entry.
+    EntryTable(EntryTable&& other) noexcept;
+    /// Takes the place of this table as a whole or, when a copy cannot be made, not at all.
+    EntryTable& operator=(EntryTable other) noexcept;
+    ~EntryTable() = default;
 
     std::size_t size() const noexcept { return _size; }
     std::size_t bucketCount() const noexcept { return _heads.size(); }
@@ -26,6 +32,7 @@ public:
     /// Position of the first entry with the key for which `same(entry)` holds, or None.
     template <typename Same>
     std::int32_t find(unsigned int key, Same same) const {
+        if (_size == 0) return None;
         for (std::int32_t i = _heads[bucket(key)]; i != None; i = _entries[static_cast<std::size_t>(i)].next) {
             const Entry& entry = _entries[static_cast<std::size_t>(i)];
             if (entry.key == key && same(entry.value)) return i;
@@ -33,7 +40,8 @@ public:
         return None;
     }
 
-    /// Adds an entry, which must not be null, behind those with the same key.
+    /// Adds an entry, which must not be null, behind those with the same key. Without memory the table stays as
+    /// it is.
     void add(unsigned int key, void* value);
     /// Takes out the entry at a position and gives it; null when there is none.
     void* remove(std::int32_t position);
@@ -47,7 +55,7 @@ private:
     };
 
     std::size_t bucket(unsigned int key) const noexcept;
-    void link(std::int32_t position);
+    void link(std::int32_t position) noexcept;
     void rebuild(std::size_t buckets);
 
     std::vector<Entry> _entries;

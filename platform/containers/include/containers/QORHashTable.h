@@ -112,8 +112,9 @@ private:
     QORHashTable(Hash hash, Comparison compare, int dimension, void* extra);
     std::int32_t position(void* pattern) const;
 
+    // First, so that an assignment that fails has changed nothing.
+    velkor::containers::EntryTable _entries;
     Hash _hash;
     Comparison _compare;
     void* _extra;
-    velkor::containers::EntryTable _entries;
 };
