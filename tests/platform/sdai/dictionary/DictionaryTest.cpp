@@ -57,6 +57,7 @@ TEST_F(Dictionary, KnowsTheEntityTree) {
 }
 
 TEST_F(Dictionary, PlacesAttributesAsInstancesHoldThem) {
+    const auto attribute = [this](const char* owner, const char* name) { return entity(owner).attribute(name); };
     EXPECT_THAT(names(entity("ROOT")), ElementsAre("ROOT.NAME", "ROOT.SIZE"));
     EXPECT_THAT(names(entity("PART")), ElementsAre("ROOT.NAME", "PART.SIZE*", "PART.LEFT"));
     EXPECT_THAT(names(entity("TWIG")), ElementsAre("ROOT.NAME", "PART.SIZE*", "PART.LEFT"));
@@ -64,64 +65,47 @@ TEST_F(Dictionary, PlacesAttributesAsInstancesHoldThem) {
     EXPECT_TRUE(entity("OTHER").attributes().empty());
 
     const EntityDefinition& twig = entity("TWIG");
-    EXPECT_EQ(twig.attributeIndex("NAME"), 0);
-    EXPECT_EQ(twig.attributeIndex("SIZE"), 1);
-    EXPECT_EQ(twig.attributeIndex("left"), 2);
-    EXPECT_EQ(twig.attributeIndex("DIM"), -1);
-    EXPECT_EQ(twig.attributeIndex("PARTS"), -1);
-    EXPECT_EQ(entity("OTHER").attributeIndex("NAME"), -1);
-
-    ASSERT_NE(twig.attribute("DIM"), nullptr);
+    for (const auto& [name, index] : {std::pair{"NAME", 0}, {"SIZE", 1}, {"left", 2}, {"DIM", -1}, {"PARTS", -1}}) {
+        EXPECT_EQ(twig.attributeIndex(name), index) << name;
+    }
     EXPECT_TRUE(twig.attribute("DIM")->isDerived());
     EXPECT_EQ(twig.attribute("PARTS"), nullptr);
-    EXPECT_THAT(twig.derivedAttributes(), ElementsAre(entity("PART").attribute("DIM")));
-    EXPECT_EQ(entity("PART").attribute("SIZE")->redeclared(), entity("ROOT").attribute("SIZE"));
-    EXPECT_EQ(entity("LEAF").attribute("NAME")->redeclared(), entity("ROOT").attribute("NAME"));
-    EXPECT_EQ(entity("ROOT").attribute("NAME")->redeclared(), nullptr);
-    EXPECT_TRUE(entity("ROOT").attribute("SIZE")->isOptional());
+    EXPECT_THAT(twig.derivedAttributes(), ElementsAre(attribute("PART", "DIM")));
+    EXPECT_EQ(attribute("PART", "SIZE")->redeclared(), attribute("ROOT", "SIZE"));
+    EXPECT_EQ(attribute("LEAF", "NAME")->redeclared(), attribute("ROOT", "NAME"));
+    EXPECT_EQ(attribute("ROOT", "NAME")->redeclared(), nullptr);
+    EXPECT_TRUE(attribute("ROOT", "SIZE")->isOptional());
     EXPECT_EQ(entity("PART").ownAttributes().size(), 3U);
 
     ASSERT_EQ(entity("LEAF").uniquenessRules().size(), 1U);
-    EXPECT_EQ(entity("LEAF").uniquenessRules()[0].label, "UR1");
-    EXPECT_THAT(entity("LEAF").uniquenessRules()[0].attributes,
-                ElementsAre(entity("LEAF").attribute("PARTS"), entity("LEAF").attribute("SIZE")));
-}
-
-TEST_F(Dictionary, TakesARepeatedSelectForOneType) {
-    // The attribute refers to the first declaration, DefTypes and ANYTHING to the second.
-    const DefinedType* operand = schema->definedType("OPERAND");
-    EXPECT_EQ(&entity("PART").attribute("LEFT")->type(), operand);
-    const SelectType& anything = *schema->definedType("ANYTHING")->underlying().asSelect();
-    EXPECT_EQ(anything.items()[0], operand);
-    EXPECT_EQ(&operand->underlying().asSelect()->definedType(), operand);
-    EXPECT_EQ(schema->definedTypes().size(), 6U);
+    const UniquenessRule& rule = entity("LEAF").uniquenessRules()[0];
+    EXPECT_EQ(rule.label, "UR1");
+    EXPECT_THAT(rule.attributes, ElementsAre(attribute("LEAF", "PARTS"), attribute("LEAF", "SIZE")));
 }
 
 TEST_F(Dictionary, LooksIntoSelectsForWhatTheyAccept) {
-    const SelectType& operand = *schema->definedType("OPERAND")->underlying().asSelect();
+    // Of the two declarations of OPERAND the attribute refers to the first, DefTypes and ANYTHING to the second.
+    const DefinedType* operand = schema->definedType("OPERAND");
+    const SelectType& select = *operand->underlying().asSelect();
     const SelectType& anything = *schema->definedType("ANYTHING")->underlying().asSelect();
-    EXPECT_TRUE(operand.accepts(entity("PART")));
-    EXPECT_TRUE(operand.accepts(entity("TWIG")));
-    EXPECT_FALSE(operand.accepts(entity("ROOT")));
-    EXPECT_TRUE(operand.accepts(*schema->definedType("NICKNAME")));
-    EXPECT_FALSE(operand.accepts(*schema->definedType("COLOUR")));
-    EXPECT_TRUE(anything.accepts(entity("TWIG")));
-    EXPECT_TRUE(anything.accepts(*schema->definedType("NICKNAME")));
-    EXPECT_TRUE(anything.accepts(*schema->definedType("COLOUR")));
-    EXPECT_FALSE(anything.accepts(*schema->definedType("LABEL")));
+    EXPECT_EQ(&entity("PART").attribute("LEFT")->type(), operand);
+    EXPECT_EQ(anything.items()[0], operand);
+    EXPECT_EQ(&select.definedType(), operand);
+    EXPECT_EQ(schema->definedTypes().size(), 6U);
 
+    const DefinedType &nickname = *schema->definedType("NICKNAME"), &colour = *schema->definedType("COLOUR");
+    EXPECT_TRUE(select.accepts(entity("PART")) && select.accepts(entity("TWIG")) && select.accepts(nickname));
+    EXPECT_FALSE(select.accepts(entity("ROOT")) || select.accepts(colour));
+    EXPECT_TRUE(anything.accepts(entity("TWIG")) && anything.accepts(nickname) && anything.accepts(colour));
+    EXPECT_FALSE(anything.accepts(*schema->definedType("LABEL")));
     const auto another = sample.restore().value();
-    EXPECT_FALSE(operand.accepts(*another->entity("PART")));
-    EXPECT_FALSE(operand.accepts(*another->definedType("NICKNAME")));
+    EXPECT_FALSE(select.accepts(*another->entity("PART")) || select.accepts(*another->definedType("NICKNAME")));
 }
 
 TEST_F(Dictionary, CountsEnumeratorsFromZeroAndTheirTextsFromOne) {
     const EnumerationType& colour = *schema->definedType("COLOUR")->underlying().asEnumeration();
-    EXPECT_EQ(colour.position("RED"), 0);
-    EXPECT_EQ(colour.position("blue"), 2);
-    EXPECT_EQ(colour.position("BLACK"), -1);
-    EXPECT_EQ(colour.text(1), "RED");
-    EXPECT_EQ(colour.text(3), "BLUE");
+    EXPECT_TRUE(colour.position("RED") == 0 && colour.position("blue") == 2 && colour.position("BLACK") == -1);
+    EXPECT_TRUE(colour.text(1) == "RED" && colour.text(3) == "BLUE");
     for (const int outside : {-1, 0, 4}) EXPECT_EQ(colour.text(outside), "");
     EXPECT_EQ(&colour.definedType(), schema->definedType("COLOUR"));
     EXPECT_EQ(&colour.schema(), schema.get());

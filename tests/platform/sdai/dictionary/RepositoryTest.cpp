@@ -17,7 +17,6 @@ namespace {
 
 const SampleSchema sample;
 std::atomic<int> calls = 0;
-int failures = 0;
 
 void loadSample() {
     ++calls;
@@ -34,8 +33,7 @@ void loadFaulty() {
     faulty.handOver();
 }
 void loadItself() {
-    const auto schema = DXSdaiDictionaryRepo::TheOne().schema("SAMPLE");
-    failures += schema.has_value() ? 0 : 1;
+    EXPECT_FALSE(DXSdaiDictionaryRepo::TheOne().schema("SAMPLE")) << "it is being loaded";
     sample.handOver();
 }
 void loadLater() {
@@ -51,7 +49,6 @@ class Repository : public testing::Test {
 protected:
     void SetUp() override {
         calls = 0;
-        failures = 0;
         ASSERT_TRUE(repo.names().empty());
     }
     DXSdaiDictionaryRepo& repo = DXSdaiDictionaryRepo::TheOne();
@@ -86,6 +83,8 @@ TEST_F(Repository, KeepsRegistrationsInOrderUntilTheyAreWithdrawn) {
         EXPECT_EQ(add(&loadNothing, "zeta"), 0U);
         EXPECT_EQ(add(nullptr, "NULL"), 0U);
         EXPECT_EQ(DXSdaiDictionaryRepo::AddPtr(&loadNothing, DXSdaiString("SAMPLE", 0)), 0U);
+        EXPECT_EQ(DXSdaiDictionaryRepo::AddPtr(&loadNothing, DXSdaiString("SAMPLE_", 6)), 0U) << "the same name";
+        EXPECT_EQ(DXSdaiDictionaryRepo::AddPtr(&loadNothing, DXSdaiString(nullptr, 6)), 0U);
         EXPECT_THAT(repo.names(), ElementsAre("ZETA", "SAMPLE"));
         kept = repo.schema("SAMPLE").value();
     }
@@ -125,7 +124,6 @@ TEST_F(Repository, SurvivesLoadersThatMisbehave) {
     {
         const QORDXSdaiSchemaDecl itself(add(&loadItself));
         EXPECT_TRUE(repo.schema("SAMPLE"));
-        EXPECT_EQ(failures, 1) << "a loader must not get the schema that it is loading";
     }
     const QORDXSdaiSchemaDecl later(add(&loadLater));
     EXPECT_THROW(repo.schema("SAMPLE"), std::runtime_error);
@@ -139,34 +137,20 @@ TEST_F(Repository, MatchesLooseNamesOfSchemas) {
     for (const char* name : {"IFC2X3", "IFC4", "IFC4X1", "IFC4X3_ADD2", "IFC4X3_RC1", "IFC4X3_RC3", "IFC4X4"}) {
         declarations.push_back(std::make_unique<QORDXSdaiSchemaDecl>(add(&loadNothing, name)));
     }
-    const std::pair<const char*, const char*> cases[] = {
-        {"IFC4", "IFC4"},
-        {"ifc4x3_rc1", "IFC4X3_RC1"},
-        {"IFC4X3_ADD2 {1 0 10303 1 1 1}", "IFC4X3_ADD2"},
-        {" IFC2X3{}", "IFC2X3"},
-        {"IFC2X3_FINAL", "IFC2X3"},
-        {"IFC4_ADD2_TC1", "IFC4"},
-        {"IFC4X4_17239", "IFC4X4"},
-        {"IFC4X3_RC3_FINAL", "IFC4X3_RC3"},
-        {"IFC4X3", "IFC4X3_ADD2"},
-        {"IFC4X3_TC1", "IFC4X3_ADD2"},
-        {"IFC4X2", ""},
-        {"IFC2X2_FINAL", ""},
-        {"IFC4X", ""},
-        {"IFC", ""},
-        {"{}", ""},
-        {"", ""},
-    };
-    for (const auto& [found, expected] : cases) EXPECT_EQ(repo.match(found), expected) << found;
+    for (const auto& [found, expected] : {std::pair{"IFC4", "IFC4"},
+                                          {"ifc4x3_rc1", "IFC4X3_RC1"},
+                                          {"IFC4X3_ADD2 {1 0 10303 1 1 1}", "IFC4X3_ADD2"},
+                                          {" IFC2X3{}", "IFC2X3"},
+                                          {"IFC4_ADD2_TC1", "IFC4"},
+                                          {"IFC4X4_17239", "IFC4X4"},
+                                          {"IFC4X3_RC3_FINAL", "IFC4X3_RC3"},
+                                          {"IFC4X3", "IFC4X3_ADD2"},
+                                          {"IFC4X3_TC1", "IFC4X3_ADD2"}}) {
+        EXPECT_EQ(repo.match(found), expected) << found;
+    }
+    for (const char* unknown : {"IFC4X2", "IFC2X2_FINAL", "IFC4X", "IFC", "{}", ""}) EXPECT_EQ(repo.match(unknown), "");
     declarations.erase(declarations.begin() + 3); // without the ADD the highest candidate
     EXPECT_EQ(repo.match("IFC4X3"), "IFC4X3_RC3");
-}
-
-TEST(SdaiString, CopiesWhatItIsGiven) {
-    EXPECT_EQ(DXSdaiString("IFC4", 0xFFFFFFFF).view(), "IFC4");
-    EXPECT_EQ(DXSdaiString("IFC4X1", 4).view(), "IFC4");
-    EXPECT_EQ(DXSdaiString(nullptr, 0xFFFFFFFF).view(), "");
-    EXPECT_EQ(DXSdaiString(nullptr, 4).view(), "");
 }
 
 } // namespace velkor::sdai::test

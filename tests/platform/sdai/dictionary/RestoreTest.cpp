@@ -1,7 +1,9 @@
 #include "sdai/QORDXSdaiSchemaRestore.h"
 
+#include "Cases.h"
 #include "SampleSchema.h"
 
+#include <array>
 #include <gmock/gmock.h>
 
 namespace velkor::sdai::test {
@@ -15,121 +17,92 @@ TEST(Restore, CountsWhatTheListsHold) {
     ASSERT_TRUE(schema) << schema.error();
     const SchemaCounts& counts = (*schema)->counts();
     EXPECT_EQ((*schema)->name(), "SAMPLE");
-    EXPECT_EQ(counts.declarations, 28);
-    EXPECT_EQ(counts.statements, 23);
-    EXPECT_EQ(counts.entities, 5);
-    EXPECT_EQ(counts.definedTypes, 7);
-    EXPECT_EQ(counts.enumerationTypes, 1);
-    EXPECT_EQ(counts.selectTypes, 3);
-    EXPECT_EQ(counts.aggregateTypes, 3);
-    EXPECT_EQ(counts.explicitAttributes, 5);
-    EXPECT_EQ(counts.derivedAttributes, 2);
-    EXPECT_EQ(counts.uniquenessRules, 1);
-    EXPECT_EQ(counts.entitiesStatements, 1);
+    EXPECT_THAT(
+        (std::array{counts.declarations, counts.statements, counts.entities, counts.definedTypes,
+                    counts.enumerationTypes, counts.selectTypes, counts.aggregateTypes, counts.explicitAttributes,
+                    counts.derivedAttributes, counts.uniquenessRules, counts.entitiesStatements}),
+        testing::ElementsAre(28, 23, 5, 7, 1, 3, 3, 5, 2, 1, 1));
 }
 
-struct Fault {
-    char list; // 'd' or 's'
-    std::size_t position;
-    const char* text; // null takes the text away
-    const char* expected;
-
-    friend void PrintTo(const Fault& fault, std::ostream* out) { *out << fault.list << fault.position; }
-};
-
-class FaultyLists : public testing::TestWithParam<Fault> {};
-
-TEST_P(FaultyLists, AreRefusedAtTheirPosition) {
-    const Fault& fault = GetParam();
-    SampleSchema sample;
-    auto& list = fault.list == 'd' ? sample.declarations : sample.statements;
-    const auto place = list.begin() + static_cast<std::ptrdiff_t>(fault.position) - 1;
-    if (fault.text != nullptr)
-        *place = fault.text;
-    else
-        list.erase(place);
-    const auto schema = sample.restore();
-    ASSERT_FALSE(schema);
-    EXPECT_THAT(schema.error(), HasSubstr(fault.expected));
-    if (fault.text != nullptr && std::string_view(fault.expected).find("declaration") != 0) {
-        const std::string where = fault.list == 'd' ? "declaration " : "statement ";
-        EXPECT_THAT(schema.error(), StartsWith(where + std::to_string(fault.position)));
+// The list, the position and the text that takes the place of its text, "none" to take it away.
+TEST(Restore, NamesThePlaceOfWhatIsWrong) {
+    const auto cases = velkor::test::casesOf(R"-(
+        d1: Entity(A,INSTANTIABLE,SIMPLE,INDEPENDENT) -> expected the keyword Schema
+        d2: Schema(AGAIN) -> expected the keyword of a declaration, found "Schema"
+        d2: Definedtype(LABEL,StringType) -> keyword
+        d2: DefinedType(label,StringType) -> expected a name in capitals, found "label"
+        d2: DefinedType(LABEL) -> ",", found ")" | DefinedType(LABEL,StringType(255) -> ")", found the end of the text
+        d2: DefinedType(LABEL,#1) -> expected a simple
+        d2: DefinedType(LABEL,StringType(255))  -> expected the end of the text, found " "
+        d2: DefinedType(LABEL,StringType(0)) -> integer from 1 on
+        d2: DefinedType(LABEL,StringType(99999999999)) -> integer
+        d2: DefinedType(LABEL,StringType(9,FREE)) -> expected FIXED, found "FREE"
+        d2: DefinedType(LABEL,RealType(4)) -> expected 8
+        d2: DefinedType(LABEL,NumberType) -> a simple type or a reference
+        d2: DefinedType(LABEL,BooleanType(1)) -> expected ")"
+        d3: DefinedType(NICKNAME,#3) -> a reference to an earlier declaration
+        d3: DefinedType(NICKNAME,#02) -> a decimal integer
+        d3: DefinedType(LABEL,#2) -> expected a name of its own, found that of #2
+        d4: ArrayType(RealType(8),1,2,DUPL) -> expected ","
+        d6: EnumerationType(RED,GREEN,RED) -> found RED again | EnumerationType() -> expected a name in capitals
+        d8: Entity(ROOT,ABSTRACT,COMPLEX,INDEPENDENT) -> expected SIMPLE
+        d11: Entity(LABEL,INSTANTIABLE,SIMPLE,INDEPENDENT) -> expected a name of its own
+        d19: SelectType(#18,#6) -> expected a reference to a defined type or an entity
+        d20: DefinedType(ANYTHING,#8) -> or an aggregate, found "#8"
+        d20: DefinedType(OPERAND,#19) -> expected a name of its own
+        d20: DefinedType(ANYTHING,#17) -> expected a type that no other DefinedType names
+        d20: DefinedType(ANYTHING,#2) -> declaration 19 "SelectType(#18,#7)": expected a Def
+        d24: ListType(#9,1,-1,UNIQ) -> a simple type or a reference to a defined
+        d24: ListType(#11,-1,2,UNIQ) -> integer from 0 on
+        d24: ListType(#11,3,2,UNIQ) -> not below the lower bound | ListType(#11,1,-2,UNIQ) -> integer from -1 on
+        d24: ListType(#11,1,-1,MANY) -> expected UNIQ or DUPL, found "MANY"
+        d25: SetType(#24,0,5,UNIQ) -> expected ")", found ","
+        s1: none -> expected #1.SchemaVersionRelease(1,1), found none
+        s1: #1.SchemaVersionRelease(1,2) -> expected 1, found "2"
+        s2: none -> declaration 8 "Entity(ROOT,ABSTRACT,SIMPLE,INDEPENDENT)": expected a Composition
+        s2: 8.Composition(#8) -> expected a reference | #8Composition(#8) -> expected "."
+        s2: #8.Composition(#99) -> the number of | #99.Composition(#8) -> the number of a declaration, found "#99
+        s2: #8.Composition(#7) -> to an entity, found "#7" | #8.Compositions(#8) -> a statement, found "Compositions"
+        s2: #9.Composition(#8) -> an entity as the subject, found "#9
+        s3: none -> declaration 9 "ExplicitAttr(NAME)": expected an ExplAttrInfos statement
+        s3: #9.DerivAttrInfos(#2) -> a derived attribute as the subject | #9.ExplAttrInfos(#6,REQ) -> a simple type or
+        s3: #9.ExplAttrInfos(#2,MUST) -> expected OPT or REQ
+        s4: #9.ExplAttrInfos(#2,REQ) -> expected one statement of its kind, found another in statement 3
+        s5: #8.Attributes(#9) -> declaration 10 "ExplicitAttr(SIZE)": expected an Attributes statement
+        s5: #8.Attributes(#10,#9) -> expected attributes in the order of their declarations
+        s6: #11.Supertypes(#11) -> expected another entity | #11.Supertypes(#8,#21) -> expected ")"
+        s6: #11.Supertypes(#28) -> expected supertypes that end in a root, found a circle
+        s7: #11.Composition(#8,#11) -> expected entities sorted by their names, found #11 PART behind ROOT
+        s7: #11.Composition(#11,#27) -> expected the entity and its supertypes, found #27 OTHER
+        s11: #11.Attributes(#12,#15) -> declaration 16
+        s11: #11.Attributes(#15,#16,#12) -> explicit attributes before the derived
+        s11: #11.Attributes(#9,#15,#16) -> expected a declaration behind that of the entity
+        s12: #1.DefTypes(#2,#3,#5,#7,#14,#18,#20) -> found #18 OPERAND again
+        s12: #1.DefTypes(#2,#3,#5,#7,#18) -> ANYTHING is missing
+        s17: #21.Attributes(#22,#22) -> expected one that no statement has named before
+        s18: #26.UniqRuleInfos(#23,#12) -> expected attributes of #21 LEAF or its supertypes, found #12
+        s19: none -> declaration 26 "UniquenessRule(UR1)": expected a Uniqueness_rules
+        s22: #28.Composition(#8,#28) -> expected the entity and all its supertypes, 3 in all, found 2
+        s23: #1.Entities(#21,#27,#11,#8) -> TWIG is missing
+        s23: #1.Entities(#21,#27,#11,#8,#8,#28) -> found #8 ROOT again)-");
+    ASSERT_GT(cases.size(), 60U);
+    for (const auto& [place, text, expected] : cases) {
+        SampleSchema sample;
+        auto& list = place[0] == 'd' ? sample.declarations : sample.statements;
+        const std::string position = place.substr(1);
+        const auto at = list.begin() + std::stol(position) - 1;
+        if (text == "none")
+            list.erase(at);
+        else
+            *at = text;
+        const auto schema = sample.restore();
+        ASSERT_FALSE(schema) << place << ' ' << text;
+        EXPECT_THAT(schema.error(), HasSubstr(expected));
+        if (text != "none" && !expected.starts_with("declaration")) {
+            EXPECT_THAT(schema.error(), StartsWith((place[0] == 'd' ? "declaration " : "statement ") + position));
+        }
     }
 }
-
-// What each text says wrong; the position is checked too.
-INSTANTIATE_TEST_SUITE_P(
-    Declarations, FaultyLists,
-    testing::Values(Fault{'d', 1, "Entity(A,INSTANTIABLE,SIMPLE,INDEPENDENT)", "expected the keyword Schema"},
-                    Fault{'d', 2, "Schema(AGAIN)", "expected the keyword of a declaration, found \"Schema\""},
-                    Fault{'d', 2, "Definedtype(LABEL,StringType)", "expected the keyword of a declaration"},
-                    Fault{'d', 2, "DefinedType(label,StringType)", "expected a name in capitals, found \"label\""},
-                    Fault{'d', 2, "DefinedType(LABEL)", "expected \",\", found \")\""},
-                    Fault{'d', 2, "DefinedType(LABEL,StringType(255)", "expected \")\", found the end of the text"},
-                    Fault{'d', 2, "DefinedType(LABEL,StringType(255)) ", "expected the end of the text, found \" \""},
-                    Fault{'d', 2, "DefinedType(LABEL,StringType(0))", "expected a decimal integer from 1 on"},
-                    Fault{'d', 2, "DefinedType(LABEL,StringType(99999999999))", "expected a decimal integer"},
-                    Fault{'d', 2, "DefinedType(LABEL,StringType(9,FREE))", "expected FIXED, found \"FREE\""},
-                    Fault{'d', 2, "DefinedType(LABEL,NumberType)", "expected a simple type or a reference"},
-                    Fault{'d', 2, "DefinedType(LABEL,RealType(4))", "expected 8"},
-                    Fault{'d', 2, "DefinedType(LABEL,BooleanType(1))", "expected \")\""},
-                    Fault{'d', 3, "DefinedType(NICKNAME,#3)", "expected a reference to an earlier declaration"},
-                    Fault{'d', 3, "DefinedType(NICKNAME,#0)", "expected a decimal integer from 1 on"},
-                    Fault{'d', 3, "DefinedType(NICKNAME,#02)", "expected a decimal integer"},
-                    Fault{'d', 3, "DefinedType(LABEL,#2)", "expected a name of its own, found that of #2"},
-                    Fault{'d', 11, "Entity(LABEL,INSTANTIABLE,SIMPLE,INDEPENDENT)", "expected a name of its own"},
-                    Fault{'d', 20, "DefinedType(ANYTHING,#8)", "or an aggregate, found \"#8\""},
-                    Fault{'d', 20, "DefinedType(OPERAND,#19)", "expected a name of its own"},
-                    Fault{'d', 20, "DefinedType(ANYTHING,#17)", "expected a type that no other DefinedType names"},
-                    Fault{'d', 20, "DefinedType(ANYTHING,#2)", "declaration 19 \"SelectType(#18,#7)\": expected a Def"},
-                    Fault{'d', 6, "EnumerationType(RED,GREEN,RED)", "found RED again"},
-                    Fault{'d', 6, "EnumerationType()", "expected a name in capitals"},
-                    Fault{'d', 19, "SelectType(#18,#6)", "expected a reference to a defined type or an entity"},
-                    Fault{'d', 24, "ListType(#9,1,-1,UNIQ)", "expected a simple type or a reference to a defined"},
-                    Fault{'d', 24, "ListType(#11,-1,2,UNIQ)", "expected a decimal integer from 0 on"},
-                    Fault{'d', 24, "ListType(#11,3,2,UNIQ)", "expected an upper bound not below the lower bound"},
-                    Fault{'d', 24, "ListType(#11,1,-2,UNIQ)", "expected a decimal integer from -1 on"},
-                    Fault{'d', 24, "ListType(#11,1,-1,MANY)", "expected UNIQ or DUPL, found \"MANY\""},
-                    Fault{'d', 25, "SetType(#24,0,5,UNIQ)", "expected \")\", found \",\""},
-                    Fault{'d', 4, "ArrayType(RealType(8),1,2,DUPL)", "expected \",\""},
-                    Fault{'d', 8, "Entity(ROOT,ABSTRACT,COMPLEX,INDEPENDENT)", "expected SIMPLE"}));
-
-INSTANTIATE_TEST_SUITE_P(
-    Statements, FaultyLists,
-    testing::Values(
-        Fault{'s', 1, nullptr, "expected #1.SchemaVersionRelease(1,1), found none"},
-        Fault{'s', 1, "#1.SchemaVersionRelease(1,2)", "expected 1, found \"2\""},
-        Fault{'s', 2, "8.Composition(#8)", "expected a reference"},
-        Fault{'s', 2, "#8Composition(#8)", "expected \".\""},
-        Fault{'s', 2, "#99.Composition(#8)", "expected the number of a declaration, found \"#99"},
-        Fault{'s', 2, "#8.Compositions(#8)", "expected the keyword of a statement, found \"Compositions\""},
-        Fault{'s', 2, "#9.Composition(#8)", "expected an entity as the subject, found \"#9"},
-        Fault{'s', 2, "#8.Composition(#7)", "expected a reference to an entity, found \"#7\""},
-        Fault{'s', 2, "#8.Composition(#99)", "expected the number of a declaration"},
-        Fault{'s', 2, nullptr, "declaration 8 \"Entity(ROOT,ABSTRACT,SIMPLE,INDEPENDENT)\": expected a Composition"},
-        Fault{'s', 3, "#9.DerivAttrInfos(#2)", "expected a derived attribute as the subject"},
-        Fault{'s', 3, "#9.ExplAttrInfos(#6,REQ)", "expected a simple type or a reference"},
-        Fault{'s', 3, "#9.ExplAttrInfos(#2,MUST)", "expected OPT or REQ"},
-        Fault{'s', 3, nullptr, "declaration 9 \"ExplicitAttr(NAME)\": expected an ExplAttrInfos statement"},
-        Fault{'s', 4, "#9.ExplAttrInfos(#2,REQ)", "expected one statement of its kind, found another in statement 3"},
-        Fault{'s', 5, "#8.Attributes(#9)", "declaration 10 \"ExplicitAttr(SIZE)\": expected an Attributes statement"},
-        Fault{'s', 5, "#8.Attributes(#10,#9)", "expected attributes in the order of their declarations"},
-        Fault{'s', 6, "#11.Supertypes(#11)", "expected another entity"},
-        Fault{'s', 6, "#11.Supertypes(#8,#21)", "expected \")\""},
-        Fault{'s', 6, "#11.Supertypes(#28)", "expected supertypes that end in a root, found a circle"},
-        Fault{'s', 7, "#11.Composition(#8,#11)", "expected entities sorted by their names, found #11 PART behind ROOT"},
-        Fault{'s', 7, "#11.Composition(#11,#27)", "expected the entity and its supertypes, found #27 OTHER"},
-        Fault{'s', 22, "#28.Composition(#8,#28)", "expected the entity and all its supertypes, 3 in all, found 2"},
-        Fault{'s', 11, "#11.Attributes(#12,#15)", "declaration 16"},
-        Fault{'s', 11, "#11.Attributes(#15,#16,#12)", "expected explicit attributes before the derived ones"},
-        Fault{'s', 11, "#11.Attributes(#9,#15,#16)", "expected a declaration behind that of the entity"},
-        Fault{'s', 17, "#21.Attributes(#22,#22)", "expected one that no statement has named before"},
-        Fault{'s', 12, "#1.DefTypes(#2,#3,#5,#7,#14,#18,#20)", "found #18 OPERAND again"},
-        Fault{'s', 12, "#1.DefTypes(#2,#3,#5,#7,#18)", "ANYTHING is missing"},
-        Fault{'s', 18, "#26.UniqRuleInfos(#23,#12)", "expected attributes of #21 LEAF or its supertypes, found #12"},
-        Fault{'s', 19, nullptr, "declaration 26 \"UniquenessRule(UR1)\": expected a Uniqueness_rules"},
-        Fault{'s', 23, "#1.Entities(#21,#27,#11,#8)", "TWIG is missing"},
-        Fault{'s', 23, "#1.Entities(#21,#27,#11,#8,#8,#28)", "found #8 ROOT again"}));
 
 TEST(Restore, RefusesAttributesThatDisagreeWithInheritedOnes) {
     SampleSchema sample;

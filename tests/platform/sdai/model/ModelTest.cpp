@@ -19,11 +19,10 @@ std::string withSchemas(const std::string& header, const std::string& data = "DA
 } // namespace
 
 TEST_F(ModelOfSample, OpensWithTheSchemaThatTheFileNames) {
-    const std::string texts[] = {withSchemas("FILE_SCHEMA(('SAMPLE'));\n"),
-                                 withSchemas("FILE_SCHEMA(('sample_FINAL { iso }'));\n"),
-                                 withSchemas("FILE_SCHEMA(('OTHER','SAMPLE'));\n"),
-                                 withSchemas("", "DATA('a',('SAMPLE'));\n#1=OTHER();\nENDSEC;\n")};
-    for (const std::string& text : texts) {
+    for (const std::string& text :
+         {withSchemas("FILE_SCHEMA(('SAMPLE'));\n"), withSchemas("FILE_SCHEMA(('sample_FINAL { iso }'));\n"),
+          withSchemas("FILE_SCHEMA(('OTHER','SAMPLE'));\n"),
+          withSchemas("", "DATA('a',('SAMPLE'));\n#1=OTHER();\nENDSEC;\n")}) {
         const auto model = Model::fromText(text, "x.ifc");
         ASSERT_TRUE(model) << model.error();
         EXPECT_EQ((*model)->schema().name(), "SAMPLE");
@@ -32,19 +31,12 @@ TEST_F(ModelOfSample, OpensWithTheSchemaThatTheFileNames) {
 }
 
 TEST_F(ModelOfSample, SaysWhyAFileIsNoModel) {
-    const auto unknown = Model::fromText(withSchemas("FILE_NAME('');\nFILE_SCHEMA(('IFC9','X'));\n"), "dir/x.ifc");
-    ASSERT_FALSE(unknown);
-    EXPECT_THAT(unknown.error(),
+    const std::string unknown = withSchemas("FILE_NAME('');\nFILE_SCHEMA(('IFC9','X'));\n");
+    EXPECT_THAT(Model::fromText(unknown, "dir/x.ifc").error(),
                 AllOf(StartsWith("dir/x.ifc:4: "), HasSubstr("found \"IFC9\", \"X\""), HasSubstr("supported: SAMPLE")));
-    const auto none = Model::fromText(withSchemas(""), "x.ifc");
-    ASSERT_FALSE(none);
-    EXPECT_THAT(none.error(), HasSubstr("found none; supported: SAMPLE"));
-    const auto foreign = Model::fromText("<xml/>", "x.ifc");
-    ASSERT_FALSE(foreign);
-    EXPECT_THAT(foreign.error(), AllOf(StartsWith("x.ifc: "), HasSubstr("XML")));
-    const auto missing = Model::open(testing::TempDir() + "missing.ifc");
-    ASSERT_FALSE(missing);
-    EXPECT_THAT(missing.error(), HasSubstr("missing.ifc: cannot be read"));
+    EXPECT_THAT(Model::fromText(withSchemas(""), "x.ifc").error(), HasSubstr("found none; supported: SAMPLE"));
+    EXPECT_THAT(Model::fromText("<xml/>", "x.ifc").error(), AllOf(StartsWith("x.ifc: "), HasSubstr("XML")));
+    EXPECT_THAT(Model::open("/none.ifc").error(), HasSubstr("none.ifc: cannot be read"));
 }
 
 TEST_F(ModelOfSample, AnInstanceHasOneAddressAndItsEntity) {
@@ -87,12 +79,11 @@ TEST_F(ModelOfSample, FindsTheInstancesOfAnEntityAndItsSubtypes) {
     EXPECT_TRUE(instance(1).IsKindOf("part") && instance(1).IsInstanceOf("TWIG"));
     EXPECT_FALSE(instance(1).IsInstanceOf("PART") || instance(1).IsKindOf("LEAF") || instance(8).IsInstanceOf("TWIG"));
 
-    std::vector<std::tuple<std::string, bool, std::uint64_t>> counts;
-    for (const auto& [keyword, entity, count] : model.keywordCounts())
-        counts.emplace_back(keyword, entity != nullptr, count);
-    EXPECT_THAT(counts, ElementsAre(std::tuple("(…)", false, 3u), std::tuple("LEAF", true, 2u),
-                                    std::tuple("TWIG", true, 1u), std::tuple("OTHER", true, 1u),
-                                    std::tuple("PART", true, 1u), std::tuple("UNKNOWN", false, 1u)));
+    std::string counts;
+    for (const auto& [keyword, entity, count] : model.keywordCounts()) {
+        counts += std::string(keyword) + (entity != nullptr ? "" : "?") + std::to_string(count) + ' ';
+    }
+    EXPECT_EQ(counts, "(…)?3 LEAF2 TWIG1 OTHER1 PART1 UNKNOWN?1 ");
 }
 
 TEST_F(ModelOfSample, InstancesBeyondTheKeywordNumbersKeepTheirEntity) {
@@ -108,25 +99,30 @@ TEST_F(ModelOfSample, InstancesBeyondTheKeywordNumbersKeepTheirEntity) {
 TEST_F(ModelOfSample, AttributesAreFoundByNameAndPlace) {
     open("#1=PART('p',*,NICKNAME('l'));\n#2=LEAF('f',5);\n#3=TWIG ( 't' /* , */ , * , #2 , 'extra' ) ;\n"
          "#4=Part('lower',*,#2);\n#5=UNKNOWN('x');\n#6=OTHER;\n#7=LEAF\n#8=PART();\n#9=LEAF('cut,5,$);\n");
-    const auto text = [this](std::uint64_t id, std::string_view name) {
-        return std::string(instance(id).GetAttr(name).encoded());
-    };
-    EXPECT_EQ(text(1, "NAME"), "'p'");
-    EXPECT_EQ(text(1, "size"), "*");
-    EXPECT_EQ(text(1, "LEFT"), "NICKNAME('l')");
-    EXPECT_EQ(instance(1).attribute(2).encoded(), "NICKNAME('l')");
     // What an instance leaves out is unset, what it has too much of has no place.
-    EXPECT_EQ(text(2, "SIZE"), "5");
-    EXPECT_FALSE(instance(2).TestAttr("PARTS"));
-    EXPECT_EQ(text(3, "LEFT"), "#2");
+    for (const auto& [id, name, text] : {std::tuple(1, "NAME", "'p'"),
+                                         {1, "size", "*"},
+                                         {1, "LEFT", "NICKNAME('l')"},
+                                         {2, "SIZE", "5"},
+                                         {2, "PARTS", ""},
+                                         {3, "LEFT", "#2"},
+                                         {4, "NAME", "'lower'"},
+                                         {5, "NAME", ""},
+                                         {6, "NAME", ""},
+                                         {7, "NAME", ""},
+                                         {8, "NAME", ""},
+                                         {9, "SIZE", ""}}) {
+        const auto number = static_cast<std::uint64_t>(id);
+        EXPECT_EQ(instance(number).GetAttr(name).encoded(), text) << id << name;
+        EXPECT_EQ(instance(number).TestAttr(name), *text != '\0' && *text != '*') << id << name;
+    }
+    EXPECT_EQ(instance(1).attribute(2).encoded(), "NICKNAME('l')");
     EXPECT_EQ(instance(3).GetAttr("LEFT").asInstance(), &instance(2));
-    EXPECT_EQ(text(4, "NAME"), "'lower'");
-    for (const std::uint64_t id : {5U, 6U, 7U, 8U}) EXPECT_FALSE(instance(id).TestAttr("NAME")) << id;
-    EXPECT_FALSE(instance(9).TestAttr("SIZE"));
-    EXPECT_EQ(instance(1).GetAttr("DIM").declaredType(), nullptr) << "a derived attribute has no place";
-    EXPECT_EQ(instance(1).GetAttr("NONE").declaredType(), nullptr);
-    EXPECT_EQ(instance(1).attribute(3).declaredType(), nullptr);
-    EXPECT_EQ(instance(5).attribute(0).declaredType(), nullptr);
+    // Nor has a derived attribute.
+    for (const Primitive& none : {instance(1).GetAttr("DIM"), instance(1).GetAttr("NONE"), instance(1).attribute(3),
+                                  instance(5).attribute(0)}) {
+        EXPECT_EQ(none.declaredType(), nullptr);
+    }
     EXPECT_NE(instance(8).GetAttr("NAME").declaredType(), nullptr);
 }
 

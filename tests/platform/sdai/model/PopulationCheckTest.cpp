@@ -30,7 +30,7 @@ std::string codes(const std::vector<Problem>& problems) {
 
 TEST_F(PopulationCheck, JudgesEveryValueByTheTypeOfItsPlace) {
     // What is no token is the syntax check's to report.
-    const auto cases = valueCases(R"(
+    const auto cases = casesOf(R"(
         WEIGHT: 1.5 ->  | 1.x ->  | 1 -> integer-for-real | 'x' -> wrong-type | * -> wrong-type | #3 -> wrong-type
         COUNT: -1 ->  | 1. -> wrong-type
         FLAG: .F. ->  | .U. -> wrong-type | .RED. -> wrong-type
@@ -48,12 +48,12 @@ TEST_F(PopulationCheck, JudgesEveryValueByTheTypeOfItsPlace) {
         TINTS: (.RED.,.PINK.) -> unknown-enumerator
         GRID: () ->  | ((1,2),(3)) ->  | ((1),()) -> aggregate-size | ((1.),'x') -> wrong-type wrong-type | (1) -> wrong-type)");
     ASSERT_GT(cases.size(), 50u);
-    for (const ValueCase& one : cases) {
+    for (const Case& one : cases) {
         const auto problems = checkPopulation(openHolder(one, others), {});
-        EXPECT_EQ(codes(problems), one.expected) << one.attribute << ' ' << one.text;
+        EXPECT_EQ(codes(problems), one.expected) << one.subject << ' ' << one.text;
         for (const Problem& problem : problems) {
             if (problem.instance == 1) {
-                EXPECT_THAT(problem.message, StartsWith("HOLDER." + one.attribute + ": "));
+                EXPECT_THAT(problem.message, StartsWith("HOLDER." + one.subject + ": "));
             }
             EXPECT_EQ(problem.severity, problem.code == "integer-for-real" ? Severity::Warning : Severity::Error);
         }

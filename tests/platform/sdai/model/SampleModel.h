@@ -1,47 +1,19 @@
 /// Models of the model schema, which is registered for as long as a test runs.
 #pragma once
 
+#include "Cases.h"
 #include "ModelSchema.h"
 #include "sdai/Model.h"
 #include "sdai/QORDXSdaiSchemaDecl.h"
 
-#include <algorithm>
 #include <gmock/gmock.h>
 #include <stdexcept>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace velkor::sdai::test {
 
-/// A value of HOLDER and what is expected of it.
-struct ValueCase {
-    std::string attribute;
-    std::string text;
-    std::string expected;
-};
-
-/// The cases of lines "ATTRIBUTE: text -> expected | text -> expected".
-inline std::vector<ValueCase> valueCases(std::string_view table) {
-    const auto take = [](std::string_view& from, std::string_view separator) {
-        const std::size_t end = std::min(from.find(separator), from.size());
-        const std::string_view taken = from.substr(0, end);
-        from.remove_prefix(std::min(from.size(), end + separator.size()));
-        return taken;
-    };
-    std::vector<ValueCase> cases;
-    while (!table.empty()) {
-        std::string_view line = take(table, "\n");
-        std::string_view attribute = take(line, ": ");
-        attribute.remove_prefix(std::min(attribute.find_first_not_of(' '), attribute.size()));
-        while (!line.empty()) {
-            std::string_view one = take(line, " | ");
-            const std::string_view text = take(one, " -> ");
-            cases.push_back({std::string(attribute), std::string(text), std::string(one)});
-        }
-    }
-    return cases;
-}
+using velkor::test::Case;
+using velkor::test::casesOf;
 
 class SampleModel : public testing::Test {
 protected:
@@ -56,14 +28,13 @@ protected:
         _model = std::move(*model);
         return *_model;
     }
-    /// The model of a HOLDER #1 with one value set, and of others.
-    const Model& openHolder(const ValueCase& value, const std::string& others) {
+    /// The model of a HOLDER #1 with the attribute that is the subject set, and of others.
+    const Model& openHolder(const Case& value, const std::string& others) {
         std::string parameters;
         for (const AttributeSlot& slot : open("#1=HOLDER();\n").schema().entity("HOLDER")->attributes()) {
-            parameters +=
-                (parameters.empty() ? "" : ",") + (slot.attribute->name() == value.attribute ? value.text : "$");
+            parameters += "," + (slot.attribute->name() == value.subject ? value.text : "$");
         }
-        return open("#1=HOLDER(" + parameters + ");\n" + others);
+        return open("#1=HOLDER(" + parameters.substr(1) + ");\n" + others);
     }
     const DXSdaiAppInstance& instance(std::uint64_t id) const { return *_model->instance(id); }
     /// An attribute of instance #1.

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <gmock/gmock.h>
 #include <limits>
+#include <tuple>
 #include <vector>
 
 namespace velkor::sdai::test {
@@ -34,6 +35,10 @@ TEST(Lexer, TellsEveryKindOfTokenWhateverSeparatesThem) {
     auto found = tokens("#12 = /* a ; ' */IFC_WALL2\r\n(!OWN,-7,+1.5E-3,1.,$,*,.U.,\"0FF\",'it''s')\\N\\;\\F\\");
     EXPECT_EQ(std::erase(found, std::pair(Kind::Comma, std::string(","))), 8u);
     EXPECT_THAT(found, testing::ElementsAreArray(expected));
+    // An apostrophe behind the directive S belongs to the string, but not where the reverse solidus itself is meant.
+    for (const std::string string : {R"('\S\'')", R"('\\S\\')", R"('\P')", "'two\nlines'"}) {
+        EXPECT_EQ(tokens(string + ",1")[0], std::pair(Kind::String, string));
+    }
 }
 
 TEST(Lexer, WhatIsNoTokenIsSkippedAsAWhole) {
@@ -49,26 +54,15 @@ TEST(Lexer, WhatIsNoTokenIsSkippedAsAWhole) {
     EXPECT_THAT(tokens("/* #1,"), ElementsAre(std::pair(Kind::InstanceName, "#1"), std::pair(Kind::Comma, ",")));
 }
 
-TEST(Lexer, AnApostropheBehindTheDirectiveSBelongsToTheString) {
-    EXPECT_EQ(tokens(R"('\S\'',1)")[0].second, R"('\S\'')");
-    // Here the reverse solidus itself is meant, twice, so the apostrophe closes.
-    EXPECT_EQ(tokens(R"('\\S\\',1)")[0].second, R"('\\S\\')");
-    EXPECT_EQ(tokens(R"('\P'\,1)")[0].second, R"('\P')");
-    EXPECT_EQ(tokens("'two\nlines'")[0].first, Kind::String);
-}
-
 TEST(Lexer, AParameterIsSkippedWithAllItHolds) {
-    const auto behind = [](std::string_view text) {
+    using Case = std::tuple<const char*, bool, const char*>;
+    for (const auto& [text, isWhole, rest] :
+         {Case("((1,2),IFCLABEL('a,)')),3)", true, ",3)"), Case("'x)' /* ,) */ ) rest", true, ") rest"),
+          Case(",1", true, ",1"), Case("(1;2)", false, ";2)"), Case("(1", false, "")}) {
         Part21Lexer lexer(text);
-        const bool whole = lexer.skipParameter();
-        return (whole ? "" : "cut ") +
-               std::string(text.substr(static_cast<std::size_t>(lexer.position() - text.data())));
-    };
-    EXPECT_EQ(behind("((1,2),IFCLABEL('a,)')),3)"), ",3)");
-    EXPECT_EQ(behind("'x)' /* ,) */ ) rest"), ") rest");
-    EXPECT_EQ(behind(",1"), ",1");
-    EXPECT_EQ(behind("(1;2)"), "cut ;2)");
-    EXPECT_EQ(behind("(1"), "cut ");
+        EXPECT_EQ(lexer.skipParameter(), isWhole) << text;
+        EXPECT_STREQ(lexer.position(), rest);
+    }
 }
 
 TEST(Strings, AreDecodedToUtf8WithTheFirstViolation) {
