@@ -2,6 +2,7 @@
 
 #include "exchangelog/MessageLog.h"
 #include "OptionsFixture.h"
+#include "PrivateOperation.h"
 
 #include <gmock/gmock.h>
 
@@ -55,6 +56,12 @@ TEST_F(ConversionOptions, SwitchTheVersionMapping) {
             EXPECT_EQ(conversion().GetValueIFCVersionMapping(), E_FAIL) << other;
         }
     }
+    // No operation asks for the words that say no.
+    const auto& negative = privateOperation<unsigned char(QORIFCOptionsFromXCAD*, const QORUnicodeString&)>(
+        "_ZN21QORIFCOptionsFromXCAD7NegatifERK16QORUnicodeString");
+    for (const auto& [word, no] :
+         {std::pair{"false", 1}, {"KO", 1}, {"No", 1}, {"0", 1}, {"true", 0}, {"", 0}, {"n", 0}, {"off", 0}})
+        EXPECT_EQ(negative(&conversion(), word), no) << word;
     EXPECT_EQ(set("ifc_disable_version_mapping", "true"), E_FAIL);
     EXPECT_EQ(conversion().GetValueIFCVersionMapping(), E_FAIL) << "the name's letter case counts";
 }

@@ -5,14 +5,18 @@
 #include "knowledge/QORIExchangeIFCPLMAttributesMappingServices.h"
 #include "objectmodeler/CallRecorder.h"
 #include "objectmodeler/ClassDictionary.h"
-#include "sdai/DXSdaiDictionaryRepo.h"
+#include "sdai/QORDXSdaiSchemaRestore.h"
 #include "Variables.h"
 #include "xml/QORIDOMNodeFilter.h"
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <dlfcn.h>
+#include <elf.h>
+#include <fstream>
 #include <gmock/gmock.h>
+#include <iterator>
 #include <span>
 #include <stdexcept>
 #include <utility>
@@ -74,6 +78,27 @@ Calls schemaCalls(const char* what) {
 std::string restoreOf(const Release& release) {
     return "restore: " + std::to_string(release.declarations) + " declarations, " + std::to_string(release.statements) +
            " statements, 1, 417";
+}
+
+/// The size of a section of the library's file, 0 when there is none of the name.
+std::size_t sectionSize(std::string_view name) {
+    std::ifstream file(Path, std::ios::binary);
+    const std::string bytes(std::istreambuf_iterator<char>(file), {});
+    const auto& header = *reinterpret_cast<const Elf64_Ehdr*>(bytes.data());
+    const std::span sections(reinterpret_cast<const Elf64_Shdr*>(bytes.data() + header.e_shoff), header.e_shnum);
+    for (const Elf64_Shdr& section : sections) {
+        if (bytes.data() + sections[header.e_shstrndx].sh_offset + section.sh_name == name) return section.sh_size;
+    }
+    return 0;
+}
+
+/// Allocations since the dictionary repository was last asked for, and as many as there were when a restore began.
+std::atomic<int> allocations, allocationsAtRestore;
+
+/// What stands behind an entry of the program that stands in for the platform's.
+template <class Entry>
+Entry* next(const char* name) {
+    return reinterpret_cast<Entry*>(dlsym(RTLD_NEXT, name));
 }
 
 class Module : public testing::Test {
@@ -177,6 +202,10 @@ TEST_F(Module, LoadsWorksAndGoesAsOftenAsOneLikes) {
     }
 }
 
+TEST_F(Module, KeepsItsRegistrationsInASectionOfTheirOwn) {
+    EXPECT_EQ(sectionSize("velkor_registrations"), 12 * sizeof(void*)) << "ten functions between two null entries";
+}
+
 TEST_F(Module, ServesItsComponentsByNameAndByInterface) {
     load();
     for (const std::string name : Components) {
@@ -212,6 +241,7 @@ TEST_F(Module, RestoresEachSchemaWhenItIsFirstWanted) {
     for (const Release& release : Releases) {
         EXPECT_THAT(callsDuring([&] { EXPECT_TRUE(repository.schema(release.name)); }),
                     ElementsAre(restoreOf(release)));
+        EXPECT_EQ(allocationsAtRestore, 2) << "the two arrays and nothing else";
         EXPECT_EQ(restored(), &release - Releases + 1) << release.name;
     }
 }
@@ -302,3 +332,26 @@ TEST_F(Module, TakesTheSingletonsThatWereMadeWithIt) {
 }
 
 } // namespace velkor::test
+
+// The program's own entries note and pass on what the library asks of those that stand behind them.
+void* operator new(std::size_t size) {
+    ++velkor::test::allocations;
+    return velkor::test::next<void*(std::size_t)>("_Znwm")(size);
+}
+void* operator new[](std::size_t size) {
+    // The one behind may call the one above.
+    const int counted = ++velkor::test::allocations;
+    void* made = velkor::test::next<void*(std::size_t)>("_Znam")(size);
+    velkor::test::allocations = counted;
+    return made;
+}
+DXSdaiDictionaryRepo& DXSdaiDictionaryRepo::TheOne() {
+    velkor::test::allocations = 0;
+    return velkor::test::next<DXSdaiDictionaryRepo&()>("_ZN20DXSdaiDictionaryRepo6TheOneEv")();
+}
+void QORDXSdaiSchemaRestore::Restore(DXSdaiDictionaryRepo& repository, int declarationCount, const char** declarations,
+                                     int statementCount, const char** statements, int format, int level) {
+    velkor::test::allocationsAtRestore = velkor::test::allocations.load();
+    velkor::test::next<decltype(Restore)>("_ZN22QORDXSdaiSchemaRestore7RestoreER20DXSdaiDictionaryRepoiPPKciS4_ii")(
+        repository, declarationCount, declarations, statementCount, statements, format, level);
+}

@@ -1,6 +1,7 @@
 #include "QORIFCOptions.h"
 
 #include "OptionsFixture.h"
+#include "PrivateOperation.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCOptionsServices.h"
 
@@ -141,6 +142,11 @@ TEST(OptionsServices, RequireCustomPropertySetsUnlessTold) {
     }
     services->Clear();
     EXPECT_EQ(services->IsCustomPropertySetsRequired(), 1);
+
+    const auto& instance = privateOperation<QORIFCOptionsServices*>("_ZN21QORIFCOptionsServices10_pinstanceE");
+    EXPECT_EQ(instance, services);
+    EXPECT_EQ(privateOperation<int(int)>("_ZN21QORIFCOptionsServices6OnExitEi")(3), 0);
+    EXPECT_EQ(instance, nullptr) << "what is gone cannot be reached";
 }
 
 } // namespace velkor::test

@@ -36,8 +36,9 @@ struct Dictionary {
             const QOROMModule* outer = std::exchange(current, module);
             const QOROMModuleInfo& info = module->info();
             for (const QOROMRegistration* entry = info.leadingEntry; entry <= info.trailingEntry; ++entry) {
-                if (*entry != nullptr) (*entry)();
+                if (*entry != nullptr && (*entry)() != module) recordCall("registration without its module's address");
             }
+            if (*info.leadingEntry != nullptr || *info.trailingEntry != nullptr) recordCall("unbounded table");
             current = outer;
         }
     }
@@ -120,10 +121,10 @@ std::vector<RegisteredClass> registeredClasses() {
 using namespace velkor::objectmodeler;
 
 void QORFillDictionary::Register(QORMetaClass* implementation, QORMetaClass* interface, QORExtensionFactory factory,
-                                 QORExtensionFactory, int mode) {
+                                 QORExtensionFactory secondFunction, int mode) {
     add({nullptr, implementation, interface, factory, {}, nullptr},
         std::string("register: ") + implementation->GetClassName() + " for " + interface->GetClassName() + ", mode " +
-            std::to_string(mode));
+            std::to_string(mode) + (secondFunction != nullptr ? " and a second function" : ""));
 }
 
 void QORFillDictionary::Register(const IID& interfaceId, QORMetaClass* interface) {

@@ -14,8 +14,10 @@ Repositories& repositories() {
 
 } // namespace
 
-QORSettingRepository* QORSettingRepository::GetRepository(const QORDXUnicodeString& name, int, int,
+QORSettingRepository* QORSettingRepository::GetRepository(const QORDXUnicodeString& name, int, int accessType,
                                                           QORSettingController*) {
+    if (accessType == WriteAccess) return &repositories()[name];
+    if (accessType != ReadAccess) return nullptr;
     const auto found = repositories().find(name);
     return found != repositories().end() ? &found->second : nullptr;
 }

@@ -1,6 +1,6 @@
 /// A record of what libraries asked of the platform, in order: module construction, registrations,
-/// metaclass creations, exit callbacks, schema registrations and restores. Off until started; then
-/// each call is one line of text.
+/// metaclass creations, exit callbacks, schema registrations and restores, and where a registration
+/// table was not as it has to be. Off until started; then each call is one line of text.
 #pragma once
 
 #include <string>

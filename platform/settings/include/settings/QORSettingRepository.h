@@ -17,8 +17,9 @@ class QORSettingRepository {
 public:
     enum AccessType : int { ReadAccess = 1, WriteAccess = 2 };
 
-    /// The repository of a name; null when the host has none. It belongs to the platform and stays
-    /// until removeRepository. `flags` is 0; the controller may be null.
+    /// The repository of a name. For reading it is null when the host has none, for writing it is then made
+    /// empty; any other access gives null. It belongs to the platform and stays until removeRepository.
+    /// `flags` is 0; the controller may be null.
     static QORSettingRepository* GetRepository(const QORDXUnicodeString& name, int flags, int accessType,
                                                QORSettingController* controller);
 
