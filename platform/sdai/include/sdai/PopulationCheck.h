@@ -12,8 +12,8 @@ namespace velkor::sdai {
 struct PopulationCheckOptions {
     std::size_t limit = 10'000;
     /// A neighbouring release whose dictionary carries all derived attributes, for schemas
-    /// whose own does not: "*" is accepted where an entity of the same name derives the
-    /// attribute there. May be null.
+    /// whose own does not: an attribute that an entity of the same name derives there counts as
+    /// derived. May be null.
     const SchemaDefinition* derivedAttributes = nullptr;
     /// Defined types that are NUMBER in EXPRESS, upper case: dictionaries state them as REAL, but a whole
     /// number may stand there.

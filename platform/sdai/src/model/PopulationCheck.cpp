@@ -58,6 +58,11 @@ std::size_t bits(const Token& token) {
 
 } // namespace
 
+PopulationChecker::PopulationChecker(const Model& model, const PopulationCheckOptions& options)
+    : _model(model), _options(options), _problems(options.limit) {
+    if (options.derivedAttributes != nullptr) takeDerivedFrom(*options.derivedAttributes);
+}
+
 void PopulationChecker::check() {
     const std::uint32_t count = _model.file().instanceCount();
     for (std::uint32_t number = 0; number < count; ++number) {
@@ -110,7 +115,7 @@ void PopulationChecker::checkAttributes(const EntityDefinition& entity) {
     std::size_t found = 0;
     const char* const begin = _lexer.position();
     while (isValue(_lexer.peek())) {
-        if (found < slots.size()) checkAttribute(entity, slots[found]);
+        if (found < slots.size()) checkAttribute(slots[found]);
         ++found;
         // Whatever the value left unread.
         if (!_lexer.skipParameter()) break;
@@ -123,27 +128,37 @@ void PopulationChecker::checkAttributes(const EntityDefinition& entity) {
                std::string(entity.name()) + ", found " + std::to_string(found));
 }
 
-void PopulationChecker::checkAttribute(const EntityDefinition& entity, const AttributeSlot& slot) {
+void PopulationChecker::checkAttribute(const AttributeSlot& slot) {
     _attribute = slot.attribute;
     const Token token = _lexer.peek();
-    if (token.kind == TokenKind::Derived) {
-        if (!slot.isDerived && !mayBeDerived(entity, slot)) unexpected(slot.attribute->type(), token);
-    } else if (slot.isDerived) {
+    if (isDerived(slot)) {
+        if (token.kind == TokenKind::Derived) return;
         report(Severity::Error, token.text.data(), "value-of-derived",
                "expected * for a derived attribute, found " + excerpt(token));
+    } else if (token.kind == TokenKind::Derived) {
+        unexpected(slot.attribute->type(), token);
     } else if (token.kind != TokenKind::Omitted) {
         checkValue(slot.attribute->type());
-    } else if (!slot.attribute->isOptional() && !mayBeDerived(entity, slot)) {
+    } else if (!slot.attribute->isOptional()) {
         report(Severity::Error, token.text.data(), "missing-value",
                "expected " + slot.attribute->type().expressText() + ", found $; the attribute is required");
     }
 }
 
-bool PopulationChecker::mayBeDerived(const EntityDefinition& entity, const AttributeSlot& slot) const {
-    if (_options.derivedAttributes == nullptr) return false;
-    const EntityDefinition* neighbour = _options.derivedAttributes->entity(entity.name());
-    const int index = neighbour != nullptr ? neighbour->attributeIndex(slot.attribute->name()) : -1;
-    return index >= 0 && neighbour->attributes()[static_cast<std::size_t>(index)].isDerived;
+void PopulationChecker::takeDerivedFrom(const SchemaDefinition& neighbour) {
+    for (const EntityDefinition* entity : _model.schema().entities()) {
+        const EntityDefinition* there = neighbour.entity(entity->name());
+        if (there == nullptr) continue;
+        for (const AttributeSlot& slot : there->attributes()) {
+            const int index = slot.isDerived ? entity->attributeIndex(slot.attribute->name()) : -1;
+            if (index >= 0) _derivedElsewhere.push_back(&entity->attributes()[static_cast<std::size_t>(index)]);
+        }
+    }
+    std::ranges::sort(_derivedElsewhere);
+}
+
+bool PopulationChecker::isDerived(const AttributeSlot& slot) const {
+    return slot.isDerived || (!_derivedElsewhere.empty() && std::ranges::binary_search(_derivedElsewhere, &slot));
 }
 
 // Nesting of values is that of the type, so recursion ends where the dictionary does.

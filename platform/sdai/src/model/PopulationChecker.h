@@ -7,13 +7,13 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velkor::sdai::model {
 
 class PopulationChecker {
 public:
-    PopulationChecker(const Model& model, const PopulationCheckOptions& options)
-        : _model(model), _options(options), _problems(options.limit) {}
+    PopulationChecker(const Model& model, const PopulationCheckOptions& options);
 
     void check();
     part21::ProblemList& problems() noexcept { return _problems; }
@@ -23,8 +23,9 @@ private:
     void checkComplex(std::string_view text);
     const EntityDefinition* checkEntity(std::string_view keyword, bool isPart);
     void checkAttributes(const EntityDefinition& entity);
-    void checkAttribute(const EntityDefinition& entity, const AttributeSlot& slot);
-    bool mayBeDerived(const EntityDefinition& entity, const AttributeSlot& slot) const;
+    void checkAttribute(const AttributeSlot& slot);
+    void takeDerivedFrom(const SchemaDefinition& neighbour);
+    bool isDerived(const AttributeSlot& slot) const;
 
     bool isNumber(const Type& declared) const;
     void checkValue(const Type& type);
@@ -42,6 +43,8 @@ private:
     const Model& _model;
     const PopulationCheckOptions& _options;
     part21::ProblemList _problems;
+    // Slots whose derivation the dictionary does not carry; sorted.
+    std::vector<const AttributeSlot*> _derivedElsewhere;
     Part21Lexer _lexer{std::string_view()};
     std::uint64_t _instance = 0;
     // What is being checked, for messages.
