@@ -19,25 +19,36 @@ std::vector<Problem> checkSyntax(const Part21File& file, std::size_t limit, std:
 
 namespace part21 {
 
-namespace {
-
-/// The header entities that every structure has, in their order. A shape has a letter per
-/// parameter: s a string, L a list of at least one string.
+/// A shape has a letter per parameter: s a string, L a list of at least one string.
 struct HeaderEntity {
     std::string_view keyword;
     std::string_view shape;
+    std::array<const char*, 7> names;
 };
+
+namespace {
+
+/// The header entities that every structure has, in their order.
 constexpr std::array<HeaderEntity, 3> headerEntities{{
-    {"FILE_DESCRIPTION", "Ls"},
-    {"FILE_NAME", "ssLLsss"},
-    {"FILE_SCHEMA", "L"},
+    {"FILE_DESCRIPTION", "Ls", {"description", "implementation_level"}},
+    {"FILE_NAME",
+     "ssLLsss",
+     {"name", "time_stamp", "author", "organization", "preprocessor_version", "originating_system", "authorization"}},
+    {"FILE_SCHEMA", "L", {"schema_identifiers"}},
 }};
+constexpr HeaderEntity dataSection{"DATA", "sL", {"name", "schema"}};
 /// Those that may follow; what a writer adds of its own begins with "!".
 constexpr std::array<std::string_view, 3> furtherHeaderEntities{"FILE_POPULATION", "SECTION_LANGUAGE",
                                                                 "SECTION_CONTEXT"};
 constexpr char stringParameter = 's';
 constexpr char listOfStrings = 'L';
+constexpr char emptyList = '0';
 constexpr char otherParameter = '-';
+
+const char* shapeText(char expected, char found) {
+    if (expected == stringParameter) return "a string";
+    return found == emptyList ? "at least one string in the list" : "a list of strings";
+}
 
 /// Deepest nesting of lists that is judged; schemas stay below ten.
 constexpr std::size_t deepestNesting = 200;
@@ -253,7 +264,7 @@ bool SyntaxChecker::checkHeaderEntity(const Token& keyword) {
     }
     if (position < headerEntities.size()) _headerEntities = std::max(_headerEntities, position + 1);
     if (!checkRecord(keyword)) return false;
-    if (position < headerEntities.size()) checkShape(keyword, known->shape);
+    if (position < headerEntities.size()) checkShape(keyword, *known);
     return true;
 }
 
@@ -277,7 +288,7 @@ bool SyntaxChecker::checkData(const Token& keyword) {
     }
     if (!isNamed) return true;
     if (!checkRecord(keyword)) return false;
-    checkShape(keyword, "sL");
+    checkShape(keyword, dataSection);
     return true;
 }
 
@@ -314,9 +325,10 @@ bool SyntaxChecker::checkParameters() {
         Level& level = _levels.back();
         const Token token = next();
         if (token.kind == TokenKind::Close && (!wantsValue || (level.count == 0 && !level.typed))) {
-            const bool strings = !level.typed && level.onlyStrings && level.count > 0;
+            const bool strings = !level.typed && level.onlyStrings;
+            const char letter = !strings ? otherParameter : level.count > 0 ? listOfStrings : emptyList;
             _levels.pop_back();
-            if (_levels.size() == 1) _shape += strings ? listOfStrings : otherParameter;
+            if (_levels.size() == 1) _shape += letter;
             wantsValue = false;
             continue;
         }
@@ -390,18 +402,19 @@ bool SyntaxChecker::checkValue(const Token& token) {
     }
 }
 
-void SyntaxChecker::checkShape(const Token& keyword, std::string_view expected) {
-    if (_shape.size() != expected.size()) {
+void SyntaxChecker::checkShape(const Token& keyword, const HeaderEntity& expected) {
+    const std::string of = " of " + std::string(keyword.text);
+    if (_shape.size() != expected.shape.size()) {
         error(keyword.text.data(), "parameter-count",
-              "expected " + std::to_string(expected.size()) + " parameters of " + std::string(keyword.text) +
-                  ", found " + std::to_string(_shape.size()));
+              "expected " + std::to_string(expected.shape.size()) + " parameters" + of + ", found " +
+                  std::to_string(_shape.size()));
         return;
     }
     for (std::size_t i = 0; i < _shape.size(); ++i) {
-        if (_shape[i] == expected[i]) continue;
+        if (_shape[i] == expected.shape[i]) continue;
         error(keyword.text.data(), "parameter-type",
-              std::string("expected ") + (expected[i] == listOfStrings ? "a list of strings" : "a string") +
-                  " as parameter " + std::to_string(i + 1) + " of " + std::string(keyword.text));
+              std::string("expected ") + shapeText(expected.shape[i], _shape[i]) + " for " + expected.names[i] +
+                  ", parameter " + std::to_string(i + 1) + of + (_shape[i] == emptyList ? ", found ()" : ""));
     }
 }
 

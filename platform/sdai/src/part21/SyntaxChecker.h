@@ -11,6 +11,8 @@
 
 namespace velkor::sdai::part21 {
 
+struct HeaderEntity;
+
 /// Judges the text piece by piece as the index divides it, so that damage to one instance does
 /// not hide the next.
 class SyntaxChecker {
@@ -46,7 +48,7 @@ private:
     bool checkRecord(const Token& keyword);
     bool checkParameters();
     bool checkValue(const Token& token);
-    void checkShape(const Token& keyword, std::string_view expected);
+    void checkShape(const Token& keyword, const HeaderEntity& expected);
 
     Token next();
     void checkGap(const char* from, const char* to);

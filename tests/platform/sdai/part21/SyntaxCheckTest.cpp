@@ -71,6 +71,10 @@ TEST(SyntaxCheck, HeaderAndSectionsAreCompleteAndInOrder) {
     for (const auto& [codes, texts] : cases) {
         for (const std::string& text : texts) EXPECT_EQ(codeOf(syntaxOf(text)), codes) << text;
     }
+    const auto empty = syntaxOf(withHeader(description + "FILE_NAME('','',(),(''),'','','');" + schema));
+    ASSERT_EQ(codeOf(empty), "parameter-type");
+    EXPECT_EQ(empty[0].message,
+              "expected at least one string in the list for author, parameter 3 of FILE_NAME, found ()");
 }
 
 TEST(SyntaxCheck, InstancesAreJudgedStrictlyAndInTheirPlace) {
