@@ -8,14 +8,14 @@ cd "$root"
 build_packages=(g++ cmake ninja-build libutf8proc-dev libxxhash-dev libxml2-dev libexpected-dev libcli11-dev
   nlohmann-json3-dev libssl-dev pkg-config)
 # To test as well.
-test_packages=(libgtest-dev libgmock-dev clang-format binutils git)
+test_packages=(libgtest-dev libgmock-dev clang-format binutils git python3)
 # For the slow extras: second compiler, fuzzing, linting, benchmarks, memory checks.
 extra_packages=(clang libclang-rt-14-dev clang-tidy libbenchmark-dev valgrind)
 
 say() { printf '%s\n' "$*" >&2; }
 
 # require_packages NAME…: installs what is missing, as root or through sudo; silent when
-# nothing is.
+# nothing is. Where that cannot be done it shows the command to run by hand.
 require_packages() {
   local missing=() name
   for name in "$@"; do
@@ -23,19 +23,20 @@ require_packages() {
   done
   [ ${#missing[@]} -gt 0 ] || return 0
 
-  local as_root=()
+  local as_root=() by_hand="apt-get update && apt-get install -y --no-install-recommends ${missing[*]}"
   if [ "$(id -u)" -ne 0 ]; then
-    command -v sudo >/dev/null || {
-      say "These packages are missing and need root to install: ${missing[*]}"
-      exit 2
-    }
     as_root=(sudo)
+    # sudo asks for a password at the terminal.
+    if ! command -v sudo >/dev/null || ! { sudo -n true || : </dev/tty; } 2>/dev/null; then
+      say "Debian packages are missing, and to install them this script would have to be root. By hand, as root:"
+      say "  $by_hand"
+      exit 2
+    fi
   fi
-  say "Installing Debian packages: ${missing[*]}"
+  say "Installing ${#missing[@]} Debian packages: ${missing[*]}"
   local log
   log=$(mktemp)
-  if ! { "${as_root[@]}" apt-get update &&
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"; } >"$log" 2>&1; then
+  if ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive sh -c "$by_hand" >"$log" 2>&1; then
     cat "$log" >&2
     say "The packages could not be installed."
     exit 2
@@ -43,8 +44,19 @@ require_packages() {
   rm -f "$log"
 }
 
-# build PRESET [OPTION…] [-- TARGET…]: configures when needed and builds; shows the compiler's
-# output only when something goes wrong.
+# Passes on what ninja writes; how far it is stands on the terminal, when there is one.
+with_progress() {
+  [ -t 2 ] || exec cat
+  local line
+  while IFS= read -r line; do
+    printf '%s\n' "$line"
+    [[ $line != \[*/*\]* ]] || printf '\r\e[K  %s' "${line%%]*}]" >&2
+  done
+  printf '\r\e[K' >&2
+}
+
+# build PRESET [OPTION…] [-- TARGET…]: configures when needed, says how many files there are to compile and
+# builds; shows the compiler's output only when something goes wrong.
 build() {
   local preset=$1 options=() targets=()
   shift
@@ -54,9 +66,14 @@ build() {
   done
   [ $# -eq 0 ] || { shift; [ $# -eq 0 ] || targets=(--target "$@"); }
 
-  local log
+  local log files
   log=$(mktemp)
-  if ! { cmake --preset "$preset" "${options[@]}" && cmake --build --preset "$preset" "${targets[@]}"; } >"$log" 2>&1; then
+  if ! {
+    cmake --preset "$preset" "${options[@]}" >"$log" 2>&1 &&
+      files=$(cmake --build --preset "$preset" "${targets[@]}" -- -n 2>&1 | grep -c 'Building C' || true) &&
+      { [ "$files" -eq 0 ] || say "Compiling $files files …"; } &&
+      cmake --build --preset "$preset" "${targets[@]}" 2>&1 | with_progress >>"$log"
+  }; then
     cat "$log" >&2
     say "The $preset build failed."
     rm -f "$log"
