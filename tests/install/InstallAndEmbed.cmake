@@ -37,6 +37,15 @@ if(NOT output STREQUAL "1 model unit = 1 mm\n")
   message(FATAL_ERROR "length_unit answered: ${output}")
 endif()
 
+# The samples of the pages build and run as they stand there.
+step(python3 ${SOURCE}/tests/docs/pages.py samples ${work}/pages)
+step(${CMAKE_COMMAND} -S ${work}/pages -B ${work}/pages/build -G ${GENERATOR}
+     -D CMAKE_CXX_COMPILER=${COMPILER} -D CMAKE_CXX_FLAGS=${flags} -D CMAKE_PREFIX_PATH=${prefix})
+step(${CMAKE_COMMAND} --build ${work}/pages/build)
+foreach(sample README importer)
+  step(${CMAKE_COMMAND} -E chdir ${work}/pages build/${sample})
+endforeach()
+
 execute_process(COMMAND ${prefix}/bin/velkor --version OUTPUT_VARIABLE version RESULT_VARIABLE status)
 if(NOT status EQUAL 0 OR NOT version MATCHES "^velkor [0-9]+\\.[0-9]+\\.[0-9]+\n$")
   message(FATAL_ERROR "the installed program answered --version with ${status}: ${version}")

@@ -67,7 +67,8 @@ void runCheck(CommandContext& context, const Options& options) {
 } // namespace
 
 void addCheckCommand(CLI::App& app, CommandContext& context) {
-    CLI::App* command = app.add_subcommand("check", "Every problem of a model, with its place and what was expected");
+    CLI::App* command = app.add_subcommand(
+        "check", "What is wrong with a model's exchange structure and, by the dictionary, with its instances");
     const auto options = std::make_shared<Options>();
     command->add_option("MODEL", options->path, "IFC file")->required();
     command->add_flag("--syntax", options->syntaxOnly, "Judge the exchange structure (ISO 10303-21) alone");
