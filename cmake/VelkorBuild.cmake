@@ -58,6 +58,8 @@ function(velkor_test NAME)
   target_compile_definitions(${NAME} PRIVATE
     VELKOR_SOURCE_DIR="${PROJECT_SOURCE_DIR}" VELKOR_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}"
     VELKOR_LIB_DIR="${CMAKE_LIBRARY_OUTPUT_DIRECTORY}" ${ARG_DEFINITIONS})
+  # What is tested is optimised; the tests themselves are compiled far more often than run.
+  target_compile_options(${NAME} PRIVATE -O0)
   gtest_discover_tests(${NAME} DISCOVERY_MODE PRE_TEST)
 endfunction()
 

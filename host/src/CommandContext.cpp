@@ -7,6 +7,7 @@
 #include "settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
+#include <CLI/CLI.hpp>
 #include <ostream>
 
 namespace velkor::host {

@@ -3,13 +3,15 @@
 
 #include "configuration/Configuration.h"
 
-#include <CLI/CLI.hpp>
-
 #include <functional>
 #include <iosfwd>
 #include <memory>
 #include <string>
 #include <vector>
+
+namespace CLI {
+class App;
+}
 
 namespace velkor::sdai {
 class Model;

@@ -1,9 +1,10 @@
 /// JSON as the host writes it: members in the order given, two blanks per level, real
-/// numbers with 17 significant digits so that they read back as the same double.
+/// numbers with 17 significant digits so that they read back as the same double. Units that make JSON
+/// include <nlohmann/json.hpp> themselves; it costs seconds to compile.
 #pragma once
 
 #include <iosfwd>
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 
 namespace velkor::host {
 

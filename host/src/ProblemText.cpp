@@ -3,6 +3,7 @@
 #include "DisplayText.h"
 #include "report/ProblemSummary.h"
 
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace velkor::host {

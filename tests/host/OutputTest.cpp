@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 #include <limits>
+#include <nlohmann/json.hpp>
 #include <sstream>
 
 namespace velkor::host {

@@ -7,6 +7,8 @@
 #include "ProblemText.h"
 #include "report/ProblemSummary.h"
 
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace velkor::host {

@@ -11,7 +11,9 @@
 #include "TextTable.h"
 
 #include <algorithm>
+#include <CLI/CLI.hpp>
 #include <map>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace velkor::host {

@@ -10,6 +10,8 @@
 #include "TextTable.h"
 
 #include <array>
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 #include <ostream>
 #include <string>
 

@@ -9,7 +9,9 @@
 #include "QORIFCExportServices.h"
 
 #include <algorithm>
+#include <CLI/CLI.hpp>
 #include <istream>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace velkor::host {

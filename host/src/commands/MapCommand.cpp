@@ -14,6 +14,8 @@
 #include "TextTable.h"
 
 #include <algorithm>
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace velkor::host {

@@ -8,6 +8,8 @@
 #include "TextTable.h"
 
 #include <algorithm>
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace velkor::host {

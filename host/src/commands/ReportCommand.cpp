@@ -7,6 +7,9 @@
 #include "report/Report.h"
 #include "sdai/Model.h"
 
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
 namespace velkor::host {
 
 namespace {

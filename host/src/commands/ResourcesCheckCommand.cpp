@@ -9,6 +9,8 @@
 #include "report/ProblemSummary.h"
 
 #include <algorithm>
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace velkor::host {

@@ -8,6 +8,8 @@
 #include "report/Page.h"
 
 #include <algorithm>
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace velkor::host {

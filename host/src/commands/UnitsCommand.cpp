@@ -7,6 +7,8 @@
 #include "TextTable.h"
 #include "UnitReport.h"
 
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace velkor::host {

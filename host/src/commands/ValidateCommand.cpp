@@ -7,6 +7,8 @@
 #include "ProblemText.h"
 #include "validation/PropertySetCheck.h"
 
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 #include <ostream>
 
 namespace velkor::host {

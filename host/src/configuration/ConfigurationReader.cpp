@@ -11,6 +11,7 @@
 #include <fstream>
 #include <limits>
 #include <map>
+#include <nlohmann/json.hpp>
 #include <system_error>
 #include <unordered_map>
 

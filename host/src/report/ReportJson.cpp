@@ -1,5 +1,7 @@
 #include "report/Report.h"
 
+#include <nlohmann/json.hpp>
+
 namespace velkor::host {
 
 namespace {

@@ -7,6 +7,7 @@
 #include "validation/SetUses.h"
 
 #include <algorithm>
+#include <nlohmann/json.hpp>
 #include <numeric>
 #include <unordered_map>
 
