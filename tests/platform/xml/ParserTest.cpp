@@ -68,19 +68,16 @@ TEST(Parser, SaysWhereATextIsNotWellFormed) {
 }
 
 TEST(Parser, TellsAHandlerInPlaceOfTheLog) {
-    class Handler final : public QORIXMLErrorHandler {
-    public:
-        HRESULT Warning(const QORXMLMessage& message) override { return keep("warning", message); }
-        HRESULT Error(const QORXMLMessage& message) override { return keep("error", message); }
-        std::vector<std::string> told;
-
-    private:
+    struct Handler final : QORIXMLErrorHandler {
+        HRESULT Warning(const QORXMLMessage& message) override { return keep("warning ", message); }
+        HRESULT Error(const QORXMLMessage& message) override { return keep("error ", message); }
         HRESULT keep(const std::string& kind, const QORXMLMessage& message) {
-            told.push_back(kind + ' ' + message.systemId.ConvertToChar() + ' ' + std::to_string(message.line) + ' ' +
+            told.push_back(kind + message.systemId.ConvertToChar() + ' ' + std::to_string(message.line) + ' ' +
                            std::to_string(message.column));
             EXPECT_FALSE(message.text.IsEmpty());
             return E_FAIL;
         }
+        std::vector<std::string> told;
     };
     const Log log;
     auto* handler = new Handler;
@@ -189,7 +186,7 @@ TEST(Parser, TakesTheOptionsItKnows) {
         EXPECT_TRUE(document.IsNull());
         EXPECT_THAT(log.texts(), SizeIs(1));
     }
-    class Resolver final : public QORIXMLEntityResolver {
+    struct Resolver final : QORIXMLEntityResolver {
         HRESULT ResolveEntity(const QORUnicodeString&, const QORUnicodeString&, QORIXMLInputSource_var&) override {
             return S_OK;
         }

@@ -18,10 +18,10 @@ using testing::StartsWith;
 namespace {
 
 const auto laidOut = list({"QOREncoding", "QORLineSeparator", "QORIndentation", "QORIndentationCharacter"});
+const auto inTwo = list({"UTF-8", "\r\n", "2", " "});
 
 HRESULT write(const QORIDOMDocument_var& document, const std::string& path) {
-    return builder()->Write(document, QORUnicodeString(std::string_view(path)), laidOut,
-                            list({"UTF-8", "\r\n", "2", " "}));
+    return builder()->Write(document, QORUnicodeString(std::string_view(path)), laidOut, inTwo);
 }
 
 std::string contents(const std::string& path) {
@@ -36,14 +36,14 @@ TEST(Writer, LaysElementsOutAndKeepsText) {
         read("<?xml version='1.0' standalone='yes'?><!--0--><a>\n\t<b/>   <c>  </c><d>1<e/> <f/></d>"
              "<!--x\ny--><g xml:space='preserve'> <h/> </g><i><j/><![CDATA[ ]]></i><?p q?></a>");
     QORUnicodeString text;
-    ASSERT_EQ(builder()->WriteToText(document, text, laidOut, list({"UTF-8", "\r\n", "2", " "})), S_OK);
+    ASSERT_EQ(builder()->WriteToText(document, text, laidOut, inTwo), S_OK);
     EXPECT_EQ(
         text.utf8(),
         "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\r\n<!--0-->\r\n<a>\r\n  <b/>\r\n  <c>  </c>\r\n"
         "  <d>1<e/> <f/></d>\r\n  <!--x\r\ny-->\r\n  <g xml:space=\"preserve\"> <h/> </g>\r\n"
         "  <i><j/><![CDATA[ ]]></i>\r\n  <?p q?>\r\n</a>\r\n");
     QORUnicodeString again;
-    ASSERT_EQ(builder()->WriteToText(read(text.utf8()), again, laidOut, list({"UTF-8", "\r\n", "2", " "})), S_OK);
+    ASSERT_EQ(builder()->WriteToText(read(text.utf8()), again, laidOut, inTwo), S_OK);
     EXPECT_EQ(again, text) << "once is enough";
     ASSERT_EQ(builder()->WriteToText(read("<a><b><c/></b></a>"), text, laidOut, list({"UTF-8", "\n", "1", "\t"})),
               S_OK);
@@ -101,16 +101,15 @@ TEST(Writer, ReplacesAFileAsAWholeOrNotAtAll) {
 TEST(Writer, RefusesWhatCannotBeReadAgain) {
     const QORIDOMDocument_var document = read("<a/>");
     QORIDOMNode_var parent = root(document);
-    for (int depth = 2; depth <= 256; ++depth) {
+    const auto deepen = [&] {
         QORIDOMElement_var child;
-        ASSERT_EQ(document->CreateElement("b", child), S_OK);
-        ASSERT_EQ(parent->AppendChild(child), S_OK);
+        EXPECT_EQ(document->CreateElement("b", child), S_OK);
+        EXPECT_EQ(parent->AppendChild(child), S_OK);
         parent = child;
-    }
+    };
+    for (int depth = 2; depth <= 256; ++depth) deepen();
     EXPECT_FALSE(read(text(document)).IsNull());
-    QORIDOMElement_var child;
-    ASSERT_EQ(document->CreateElement("b", child), S_OK);
-    ASSERT_EQ(parent->AppendChild(child), S_OK);
+    deepen();
     QORUnicodeString text = "as before";
     Log log;
     EXPECT_EQ(builder()->WriteToText(document, text, {}, {}), E_INVALIDARG);

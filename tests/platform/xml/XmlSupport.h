@@ -55,10 +55,10 @@ inline QORListValQORUnicodeString list(const std::vector<const char*>& texts) {
     return result;
 }
 
-/// The document as text; without white space of the writer's making unless `indentation` is given.
-inline std::string text(const QORIDOMDocument_var& document, const char* indentation = "0") {
+/// The document as text, without white space of the writer's making.
+inline std::string text(const QORIDOMDocument_var& document) {
     QORUnicodeString result;
-    EXPECT_EQ(builder()->WriteToText(document, result, list({"QORIndentation"}), list({indentation})), S_OK);
+    EXPECT_EQ(builder()->WriteToText(document, result, list({"QORIndentation"}), list({"0"})), S_OK);
     std::string_view bytes = result.utf8();
     const std::string_view declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
     EXPECT_TRUE(bytes.starts_with(declaration)) << bytes;
@@ -72,13 +72,15 @@ std::string told(const Object& object, Get get) {
     EXPECT_EQ(((object.get())->*get)(result), S_OK);
     return std::string(result.utf8());
 }
-template <class Node>
-std::string name(const Node& node) {
-    return node.IsNull() ? "none" : told(QORIDOMNode_var(node), &QORIDOMNode::GetNodeName);
+inline std::string name(const QORIDOMNode_var& node) {
+    return node.IsNull() ? "none" : told(node, &QORIDOMNode::GetNodeName);
 }
-template <class Node>
-std::string value(const Node& node) {
-    return node.IsNull() ? "none" : told(QORIDOMNode_var(node), &QORIDOMNode::GetNodeValue);
+inline std::string value(const QORIDOMNode_var& node) {
+    return node.IsNull() ? "none" : told(node, &QORIDOMNode::GetNodeValue);
+}
+/// Its name, or its value where it has no name of its own.
+inline std::string nameOrValue(const QORIDOMNode_var& node) {
+    return name(node).starts_with('#') ? value(node) : name(node);
 }
 
 template <class Result, class Object, class Get>
@@ -90,16 +92,13 @@ Result got(const Object& object, Get get) {
 inline QORIDOMElement_var root(const QORIDOMDocument_var& document) {
     return got<QORIDOMElement_var>(document, &QORIDOMDocument::GetDocumentElement);
 }
-template <class Node>
-QORIDOMNode_var first(const Node& node) {
+inline QORIDOMNode_var first(const QORIDOMNode_var& node) {
     return got<QORIDOMNode_var>(node, &QORIDOMNode::GetFirstChild);
 }
-template <class Node>
-QORIDOMNode_var next(const Node& node) {
+inline QORIDOMNode_var next(const QORIDOMNode_var& node) {
     return got<QORIDOMNode_var>(node, &QORIDOMNode::GetNextSibling);
 }
 
-/// Names of the nodes of a list, values where a node has no name of its own.
 inline std::vector<std::string> names(const QORIDOMNodeList_var& nodes) {
     std::vector<std::string> result;
     unsigned int length = 0;
@@ -107,15 +106,14 @@ inline std::vector<std::string> names(const QORIDOMNodeList_var& nodes) {
     for (unsigned int i = 0; i < length; ++i) {
         QORIDOMNode_var node;
         EXPECT_EQ(nodes->Item(i, node), S_OK);
-        result.push_back(name(node).starts_with('#') ? value(node) : name(node));
+        result.push_back(nameOrValue(node));
     }
     QORIDOMNode_var none;
     EXPECT_EQ(nodes->Item(length, none), S_OK);
     EXPECT_TRUE(none.IsNull());
     return result;
 }
-template <class Node>
-std::vector<std::string> children(const Node& node) {
+inline std::vector<std::string> children(const QORIDOMNode_var& node) {
     return names(got<QORIDOMNodeList_var>(node, &QORIDOMNode::GetChildNodes));
 }
 
