@@ -38,25 +38,30 @@ using SmartPointer = BaseObject;
 } // namespace
 
 TEST_F(BaseObject, OperationsStandInTheOrderOfTheContract) {
-    EXPECT_THAT((std::array{slotOf<QueryById>(&Base::QueryInterface), slotOf(&Base::AddRef), slotOf(&Base::Release),
-                            slotOf(&Base::GetTypeInfoCount), slotOf(&Base::GetTypeInfo), slotOf(&Base::GetIDsOfNames),
-                            slotOf(&Base::Invoke), slotOf<QueryByName>(&Base::QueryInterface)}),
-                ElementsAre(0, 1, 2, 3, 4, 5, 6, 7));
     // The destructor has 8 and 9: one that only destroys, one that gives the storage back as well.
-    EXPECT_THAT((std::array{slotOf(&Base::GetMetaObject), slotOf(&Base::IsA), slotOf(&Base::IsAKindOf),
-                            slotOf(&Base::GetImpl), slotOf(&Base::IsNull), slotOf(&Base::IsEqual),
-                            slotOf(&Base::ChangeComponentState), slotOf(&QORITestGreeting::greet)}),
-                ElementsAre(10, 11, 12, 13, 14, 15, 16, 17));
+    EXPECT_THAT(
+        (std::array{slotOf<QueryById>(&Base::QueryInterface), slotOf(&Base::AddRef), slotOf(&Base::Release),
+                    slotOf(&Base::GetTypeInfoCount), slotOf(&Base::GetTypeInfo), slotOf(&Base::GetIDsOfNames),
+                    slotOf(&Base::Invoke), slotOf<QueryByName>(&Base::QueryInterface), slotOf(&Base::GetMetaObject),
+                    slotOf(&Base::IsA), slotOf(&Base::IsAKindOf), slotOf(&Base::GetImpl), slotOf(&Base::IsNull),
+                    slotOf(&Base::IsEqual), slotOf(&Base::ChangeComponentState), slotOf(&QORITestGreeting::greet)}),
+        ElementsAre(0, 1, 2, 3, 4, 5, 6, 7, 10, 11, 12, 13, 14, 15, 16, 17));
 }
 
-TEST_F(BaseObject, IsMadeWithOneReferenceAndGoesWithTheLast) {
+TEST_F(BaseObject, GoesWithItsLastReferenceAndIsEqualToItselfAlone) {
     auto* object = new TestPlain;
     EXPECT_EQ(object->AddRef(), 2U);
     {
         TestPlain copy(*object);
         EXPECT_EQ(references(copy), 1U) << "a copy has references of its own";
         *object = copy;
+        EXPECT_EQ(object->IsEqual(&copy), 0);
     }
+    EXPECT_EQ(object->GetImpl(), object);
+    EXPECT_EQ(object->IsEqual(object), 1);
+    EXPECT_EQ(object->IsEqual(nullptr), 0);
+    EXPECT_EQ(object->IsNull(), 0);
+    EXPECT_EQ(object->ChangeComponentState(ComponentState::Created, ComponentState::Removed, nullptr), S_OK);
     EXPECT_EQ(object->Release(), 1U);
     EXPECT_EQ(Alive::count, 1);
     EXPECT_EQ(object->Release(), 0U);
@@ -84,17 +89,6 @@ TEST_F(BaseObject, AnswersForEveryClassItIsByIdentifierAndByName) {
     EXPECT_EQ(object.QueryInterface(CountingId, &interface), E_NOINTERFACE);
     EXPECT_EQ(interface, nullptr);
     EXPECT_EQ(references(object), 1U);
-}
-
-TEST_F(BaseObject, IsEqualToItselfAlone) {
-    TestPlain one;
-    const TestPlain other;
-    EXPECT_EQ(one.GetImpl(), &one);
-    EXPECT_EQ(one.IsEqual(&one), 1);
-    EXPECT_EQ(one.IsEqual(&other), 0);
-    EXPECT_EQ(one.IsEqual(nullptr), 0);
-    EXPECT_EQ(one.IsNull(), 0);
-    EXPECT_EQ(one.ChangeComponentState(ComponentState::Created, ComponentState::Removed, nullptr), S_OK);
 }
 
 TEST_F(SmartPointer, RefusesToDereferenceNothing) {

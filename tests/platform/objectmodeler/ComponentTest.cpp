@@ -155,26 +155,25 @@ TEST_F(Component, TieForwardsToTheObjectBehindIt) {
     EXPECT_EQ(tie->Release(), 1U);
 }
 
-TEST_F(Component, TieHasAMetaClassOfItsOwn) {
+TEST_F(Component, FactoryOfATieTakesAnObjectThatHasItsOperations) {
+    constexpr auto create = CreateTIEQORITestCountingTestCounter;
     const auto counter = make<TestCounter>();
-    const auto tie = adopted(CreateTIEQORITestCountingTestCounter(counter.get(), nullptr));
+    const auto tie = adopted(create(counter.get(), nullptr));
     const QORMetaClass& metaClass = *tie->GetMetaObject();
     EXPECT_EQ(static_cast<int>(metaClass.GetTypeOfClass()), 6);
     EXPECT_EQ(metaClass.GetParent(), QORITestCounting::MetaObject());
     EXPECT_EQ(metaClass.GetImplementation(), TestCounter::MetaObject());
     EXPECT_EQ(metaClass.IsAKindOf("TestCounter"), 0);
-    const auto another = adopted(CreateTIEQORITestCountingTestCounter(nullptr, counter.get()));
+    const auto another = adopted(create(nullptr, counter.get()));
     ASSERT_FALSE(another.IsNull()) << "the second object stands in";
     EXPECT_EQ(another->GetMetaObject(), &metaClass);
     EXPECT_NE(another.get(), tie.get());
     EXPECT_EQ(another, tie);
-}
 
-TEST_F(Component, TieIsNotPutOnAnObjectThatLacksItsOperations) {
     const QOROMModule module(library());
     const auto plain = make<TestPlain>();
-    EXPECT_EQ(CreateTIEQORITestCountingTestCounter(plain.get(), nullptr), nullptr);
-    EXPECT_EQ(CreateTIEQORITestCountingTestCounter(nullptr, nullptr), nullptr);
+    EXPECT_EQ(create(plain.get(), nullptr), nullptr);
+    EXPECT_EQ(create(nullptr, nullptr), nullptr);
     EXPECT_EQ(assertionCount(), 2U);
     EXPECT_TRUE(Counting(plain).IsNull());
     EXPECT_EQ(assertionCount(), 2U) << "asking is no fault";
