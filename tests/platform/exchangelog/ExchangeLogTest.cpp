@@ -8,17 +8,12 @@ namespace velkor::exchangelog::test {
 
 using testing::FieldsAre;
 
-TEST(ExchangeErr, IsTheLogThatTheHostMadeCurrent) {
-    MessageLog one(1);
-    MessageLog two(2);
-    for (MessageLog* log : std::initializer_list<MessageLog*>{nullptr, &one, &two, nullptr}) {
-        setExchangeErr(log);
-        EXPECT_EQ(GetExchangeErr(), log);
-    }
-}
-
 TEST(MessageLog, KeepsMessagesReadable) {
-    MessageLog log(2);
+    MessageLog log(2), other(1);
+    for (MessageLog* next : std::initializer_list<MessageLog*>{nullptr, &log, &other, nullptr}) {
+        setExchangeErr(next);
+        EXPECT_EQ(GetExchangeErr(), next);
+    }
     log.setLevel(-3);
     EXPECT_EQ(log.GetCurLevel(), -3);
 

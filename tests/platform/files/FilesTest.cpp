@@ -96,7 +96,7 @@ TEST(RuntimeView, IsWalkedFolderByFolderWithoutHiddenEntries) {
     EXPECT_THAT(walk("", {"x"}), IsEmpty());
 }
 
-TEST(SetupData, LeadFromAKeyToItsPaths) {
+TEST(SetupData, LeadFromAKeyToItsPathsWhileTheHostOffersThem) {
     const auto data = QORInterface_var<SetupData>::adopt(new SetupData);
     data->set("Set|One", list({"/old", "/older"}));
     data->set("Set|One", list({"C:\\ä.xml"}));
@@ -121,18 +121,13 @@ TEST(SetupData, LeadFromAKeyToItsPaths) {
             EXPECT_EQ(found, expected) << key << ", at most " << limit;
         }
     }
-}
-
-TEST(SetupData, FinderIsHeldUntilItIsTakenAway) {
-    const auto data = QORInterface_var<SetupData>::adopt(new SetupData);
-    const QORISetupDataFinder_var other = QORISetupDataFinder_var::adopt(new SetupData);
-    for (const QORISetupDataFinder_var& next : {other, QORISetupDataFinder_var()}) {
-        setSetupDataFinder(data);
-        EXPECT_EQ(QORSetupDataGlobalFunctions::GetSetupDataFinder(), data);
-        EXPECT_EQ(data->AddRef(), 3U);
+    for (const auto& next : {QORISetupDataFinder_var::adopt(new SetupData), QORISetupDataFinder_var()}) {
+        setSetupDataFinder(finder);
+        EXPECT_EQ(QORSetupDataGlobalFunctions::GetSetupDataFinder(), finder);
+        EXPECT_EQ(data->AddRef(), 4U) << "it is held";
         setSetupDataFinder(next);
         EXPECT_EQ(QORSetupDataGlobalFunctions::GetSetupDataFinder(), next);
-        EXPECT_EQ(data->Release(), 1U);
+        EXPECT_EQ(data->Release(), 2U) << "until it is taken away";
     }
 }
 
