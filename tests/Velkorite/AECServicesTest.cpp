@@ -42,48 +42,35 @@ protected:
         setupData(key, {folder.file("aec.xml", "<AEC>\n" + content + "</AEC>")});
         ASSERT_EQ(services->LoadAECResource(), S_OK) << content;
     }
-    /// Result, in hexadecimal, and output; "was" stands for an output that was left alone.
-    template <class Ask>
-    static std::string answer(Ask ask) {
-        QORUnicodeString output("was");
-        std::ostringstream text;
-        text << std::hex << static_cast<unsigned>(ask(output));
-        return text.str() + ' ' + std::string(output.utf8());
+    std::string ifcType(const QORString& id) const {
+        return answer([&](auto& type) { return services->GetIFCTypeFromNeutralID(id, type); });
     }
-    std::string plmType(const char* neutralId) const {
-        return answer([&](auto& output) { return services->GetPLMTypeFromNeutralID(neutralId, output); });
+    /// What there is to a neutral identifier: PLM type, IFC type, valuation and object type.
+    std::string allOf(const QORString& id) const {
+        return answer([&](auto& type) { return services->GetPLMTypeFromNeutralID(id, type); }) + ", " + ifcType(id) +
+               ", " + answer<2>([&](auto& name, auto& value) {
+                   return services->GetPLMValuationFromNeutralID(id, name, value);
+               }) +
+               ", " + answer([&](auto& type) { return services->GetObjectTypeFromNeutralID(id, type); });
     }
-    std::string ifcType(const char* neutralId) const {
-        return answer([&](auto& output) { return services->GetIFCTypeFromNeutralID(neutralId, output); });
-    }
-    std::string valuation(const char* neutralId) const {
-        QORUnicodeString value("was");
-        const std::string name =
-            answer([&](auto& output) { return services->GetPLMValuationFromNeutralID(neutralId, output, value); });
-        return name + '=' + std::string(value.utf8());
-    }
-    std::string objectType(const char* neutralId) const {
-        return answer([&](auto& output) { return services->GetObjectTypeFromNeutralID(neutralId, output); });
-    }
-    std::string plmOfIfc(const char* type, const char* value = "") const {
-        return answer([&](auto& output) { return services->GetPLMTypeFromIFCType(type, value, output); });
+    std::string plmOfIfc(const std::string& type, const std::string& value = {}) const {
+        return answer([&](auto& found) { return services->GetPLMTypeFromIFCType(type.c_str(), value.c_str(), found); });
     }
     std::string ofIfcObject(const QORBaseUnknown_var& object) const {
-        return answer([&](auto& output) { return services->GetNeutralIDFromIFCObject(object, output); });
+        return answer([&](auto& id) { return services->GetNeutralIDFromIFCObject(object, id); });
     }
-    std::string ofIfcObject(const char* type, const knowledge::Attributes& properties = {}) const {
+    std::string ofIfcObject(const std::string& type, const knowledge::Attributes& properties = {}) const {
         knowledge::ExchangeDescription description{"id", "name", type, "IfcOther", "file", 7};
         return ofIfcObject(knowledge::makeExchangeObject(std::move(description), properties));
     }
     /// What is printed goes to `printed`.
     std::string ofPlmObject(const QORBaseUnknown_var& object) {
         testing::internal::CaptureStdout();
-        const std::string text =
-            answer([&](auto& output) { return services->GetNeutralIDFromPLMObject(object, output); });
+        std::string text = answer([&](auto& id) { return services->GetNeutralIDFromPLMObject(object, id); });
         printed = testing::internal::GetCapturedStdout();
         return text;
     }
-    std::string ofPlmObject(const char* type, const knowledge::Attributes& attributes = {}) {
+    std::string ofPlmObject(const std::string& type, const knowledge::Attributes& attributes = {}) {
         return ofPlmObject(knowledge::makeOccurrence(type, attributes));
     }
 
@@ -105,71 +92,43 @@ TEST_F(AECServices, TranslateNeutralIdentifiers) {
       <NeutralID Name="Two"><IFC Name="Skipped"/><IFC Name="IfcTwo"/><NORVEL Name="P"> </NORVEL></NeutralID>
       <NeutralID Name="Quick"><!-- --><NORVEL Name="P"><a/><b/><c/><!-- --></NORVEL></NeutralID>
       <NeutralID Name="Kind"><!-- --><NORVEL><a/><b/><c/><X Attribute="objectType" Value="v"/></NORVEL></NeutralID>)");
-    struct Case {
-        const char* id;
-        std::vector<std::string> answers; ///< PLM type, IFC type, valuation, object type
-    };
-    const std::string missing = "8000ffff was", noValue = "8000ffff =";
-    for (const Case& c :
-         {Case{"Wall", {"0 PLMWall", "0 IfcWall", "0 A=v", "0 Special"}},
-          Case{"WALL", {"0 PLMWall", "0 IfcWall", "0 A=v", "0 Special"}},
-          Case{"Lower", {"1 was", "1 was", "1 =", "1 was"}}, Case{"Nothing", {"1 was", "1 was", "1 =", "1 was"}},
-          Case{"Tight", {missing, missing, noValue, missing}}, Case{"Case", {missing, missing, noValue, missing}},
-          Case{"None", {missing, missing, noValue, missing}}, Case{"Two", {"0 P", "0 IfcTwo", "0 =", missing}},
-          Case{"Quick", {"0 P", missing, "0 =", "1 was"}}, Case{"Kind", {"0 ", missing, "0 =", "1 was"}},
-          // The empty text matches every entry; the first one counts.
-          Case{"", {"0 PLMWall", "0 IfcWall", "0 A=v", "0 Special"}}}) {
-        EXPECT_THAT((std::vector{plmType(c.id), ifcType(c.id), valuation(c.id), objectType(c.id)}),
-                    testing::ElementsAreArray(c.answers))
-            << c.id;
+    // The empty text matches every entry; the first one counts.
+    for (const auto& [ids, unused, expected] : casesOf(R"(
+        Wall WALL  :  -> 0 PLMWall, 0 IfcWall, 0 A v, 0 Special
+        Lower Nothing:  -> 1 was, 1 was, 1  , 1 was
+        Tight Case None:  -> 8000ffff was, 8000ffff was, 8000ffff  , 8000ffff was
+        Two:  -> 0 P, 0 IfcTwo, 0  , 8000ffff was
+        Quick:  -> 0 P, 8000ffff was, 0  , 1 was
+        Kind:  -> 0 , 8000ffff was, 0  , 1 was)")) {
+        std::istringstream each(ids);
+        for (std::string id; std::getline(each, id, ' ');) EXPECT_EQ(allOf(id.c_str()), expected) << id;
     }
 }
 
 TEST_F(AECServices, ChooseByPriorityAndCondition) {
     const std::string a = "<Condition Attribute='a' Value='Yes'/>", b = "<Condition Attribute='b' Value='No'/>";
-    // Type, priority and conditions of entries that are named by their numbers from 1 on.
-    const std::vector<std::string> entries[] = {{"Low", "1", ""},
-                                                {"low", "5", ""},
-                                                {"Tie", "3", a},
-                                                {"Tie", "3", ""},
-                                                {"Tie", "3", ""},
-                                                {"Never", "", b},
-                                                {"Number", "12x", ""},
-                                                {"Number", "1", ""},
-                                                {"Number", "2.5", ""},
-                                                {"Negative", "-1", ""},
-                                                {"Negative", "high", ""},
-                                                {"Negative", "", ""},
-                                                {"Nested", "1", "<X><Condition Attribute=''/></X>" + b},
-                                                {"Two", "1", a + b},
-                                                {"Two", "0", "<condition Attribute='a' Value='No'/>"}};
-    std::string text;
-    for (const auto& entry : entries) {
-        const std::string side = " Name='" + entry[0] + "' Priority='" + entry[1] + "'>" + entry[2];
-        text += "<NeutralID Name='" + std::to_string(&entry - entries + 1) + "'>\n<IFC" + side + "</IFC><NORVEL" +
-                side + "</NORVEL></NeutralID>";
-    }
-    document(text);
-    const knowledge::Attributes holds = {{"a", "Yes"}, {"A", "Yes"}}, otherCase = {{"a", "YES"}};
-    struct Case {
-        const char* type;
-        const knowledge::Attributes& attributes;
-        const char* value; ///< what an IFC type is asked with
-        const char* neutral;
+    const auto entry = [](int number, const std::string& type, const std::string& priority,
+                          const std::string& conditions = {}) {
+        const std::string side = " Name='" + type + "' Priority='" + priority + "'>" + conditions;
+        return "<NeutralID Name='" + std::to_string(number) + "'>\n<IFC" + side + "</IFC><NORVEL" + side +
+               "</NORVEL></NeutralID>";
     };
-    const knowledge::Attributes nothing;
-    for (const Case& c :
-         {Case{"LOW", nothing, "", "0 2"}, Case{"Tie", holds, "Yes", "0 3"}, Case{"Tie", nothing, "", "0 4"},
-          Case{"Never", nothing, "", unexpected}, Case{"Number", nothing, "", "0 8"},
-          Case{"Negative", nothing, "", "0 11"}, Case{"Nested", nothing, "", "0 13"}, Case{"Two", holds, "Yes", "0 14"},
-          Case{"Two", nothing, "", "0 15"}, Case{"Other", holds, "Yes", "0 DEFAULT"},
-          Case{"Tie", otherCase, "", "0 4"}}) {
-        SCOPED_TRACE(c.type);
-        EXPECT_EQ(ofPlmObject(c.type, c.attributes), c.neutral);
-        EXPECT_EQ(ofIfcObject(c.type, c.attributes), c.neutral);
-        const std::string plm = plmOfIfc(c.type, c.value);
-        EXPECT_EQ(plm == unexpected || plm == "0 DEFAULT" ? plm : c.neutral, c.neutral);
+    document(entry(1, "Low", "1") + entry(2, "low", "5") + entry(3, "Tie", "3", a) + entry(4, "Tie", "3") +
+             entry(5, "Tie", "3") + entry(6, "Never", "", b) + entry(7, "Number", "12x") + entry(8, "Number", "1") +
+             entry(9, "Number", "2.5") + entry(10, "Negative", "-1") + entry(11, "Negative", "high") +
+             entry(12, "Negative", "") + entry(13, "Nested", "1", "<X><Condition Attribute=''/></X>" + b) +
+             entry(14, "Two", "1", a + b) + entry(15, "Two", "0", "<condition Attribute='a' Value='No'/>"));
+    for (const auto& [value, type, neutral] : casesOf(R"(: low -> 0 2 | Tie -> 0 4 | Never -> 8000ffff DEFAULT
+        : Number -> 0 8 | Negative -> 0 11 | Nested -> 0 13 | Two -> 0 15
+        Yes: Tie -> 0 3 | Two -> 0 14 | Other -> 0 DEFAULT)")) {
+        SCOPED_TRACE(type);
+        const knowledge::Attributes attributes = {{"a", value}, {"A", value}};
+        EXPECT_EQ(ofPlmObject(type, attributes), neutral);
+        EXPECT_EQ(ofIfcObject(type, attributes), neutral);
+        EXPECT_EQ(plmOfIfc(type, value), neutral.ends_with("DEFAULT") ? neutral : "0 " + type);
     }
+    EXPECT_EQ(ofPlmObject("LOW") + ofIfcObject("LOW"), "0 20 2");
+    EXPECT_EQ(ofPlmObject("Tie", {{"a", "YES"}}) + ofIfcObject("Tie", {{"a", "YES"}}), "0 40 4");
     EXPECT_EQ(ofIfcObject("Tie", {{"x", ""}, {"a", "Yes"}}), "0 3") << "names of properties are in upper case";
     EXPECT_EQ(ofIfcObject("Tie", {{"a", ""}, {"a", "Yes"}}), "0 4") << "the first of a name counts";
     EXPECT_EQ(ofPlmObject("Tie", {{"A", "Yes"}}), "0 4") << "letter case counts for knowledge attributes";
@@ -227,8 +186,7 @@ TEST_F(AECServices, FindTheirDocument) {
     folder.add("one/xcad", {"a.xml.bak"}, aec("Bak"));
     folder.add("one/xcad", {"0.XML", "1xml"}, aec("Other"));
     folder.add("two/xcad", {"0.xml"}, aec("Two"));
-    variables.set("QORCollectionStandard", (folder / "one").c_str());
-    variables.set("QORDefaultCollectionStandard", (folder / "two").c_str());
+    standard(folder / "one", folder / "two");
     EXPECT_EQ(ifcType("A"), "8000ffff was") << "without a finder nothing is found";
     setupData("another key", {folder / "one/xcad/1xml"});
     EXPECT_EQ(ifcType("A"), "0 Bak") << "a failure is not kept";

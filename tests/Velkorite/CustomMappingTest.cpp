@@ -14,7 +14,7 @@ using testing::ElementsAre;
 namespace {
 
 constexpr const char* key = "QORAECDataExchangeResources|IFCCustomMapping";
-constexpr const char* none = "none was was";
+constexpr const char* none = "1003 was was";
 
 class CustomMapping : public MappingFixture {
 protected:
@@ -31,26 +31,24 @@ protected:
         setupData(key, {folder.file("map.xml", "<IfcMapping>" + mappings + "</IfcMapping>")});
         ASSERT_EQ(services->LoadCustomMapping(), S_OK) << mappings;
     }
-    /// A line of a document, from "entity.property" to "entity.property".
-    static std::string line(const char* section, const std::string& from, const std::string& to, const char* scope) {
-        const auto dot = [](const std::string& text) { return text.find('.'); };
-        return std::string("<") + section + " fromEntity='" + from.substr(0, dot(from)) + "' fromProperty='" +
-               from.substr(dot(from) + 1) + "' toEntity='" + to.substr(0, dot(to)) + "' toProperty='" +
-               to.substr(dot(to) + 1) + "' scope='" + scope + "'/>\n";
+    /// Lines of a document: "section scope: entity.property -> entity.property".
+    static std::string lines(std::string_view table) {
+        const auto names = [](const std::string& text, const std::string& side) {
+            const std::size_t dot = text.find('.');
+            return side + "Entity='" + text.substr(0, dot) + "' " + side + "Property='" + text.substr(dot + 1) + "' ";
+        };
+        std::string result;
+        for (const auto& [place, from, to] : casesOf(table)) {
+            const std::size_t blank = place.find(' ');
+            result += '<' + place.substr(0, blank) + ' ' + names(from, "from") + names(to, "to") + "scope='" +
+                      place.substr(blank + 1) + "'/>\n";
+        }
+        return result;
     }
-    static std::string standard(const char* from, const char* to, const char* scope) {
-        return line("StandardMapping", from, to, scope);
-    }
-    static std::string custom(const char* from, const char* to, const char* scope) {
-        return line("CustomMapping", from, to, scope);
-    }
-    /// "mapped", or "none", entity and property; "was" stands for an output that was left alone.
-    std::string mapping(const char* entity, const char* property, const char* scope) const {
-        QORUnicodeString toEntity("was"), toProperty("was");
-        const HRESULT result = services->GetCustomMapping(entity, property, scope, toEntity, toProperty);
-        EXPECT_TRUE(result == IFC_MAPPING_MAPPED || result == IFC_MAPPING_NONE) << result;
-        return std::string(result == IFC_MAPPING_MAPPED ? "mapped " : "none ") +
-               std::string((toEntity + " " + toProperty).utf8());
+    std::string mapping(const std::string& entity, const std::string& property, const std::string& scope) const {
+        return answer<2>([&](auto& toEntity, auto& toProperty) {
+            return services->GetCustomMapping(entity.c_str(), property.c_str(), scope.c_str(), toEntity, toProperty);
+        });
     }
 
     const QORIExchangeIFCCustomMappingServices_var services =
@@ -60,141 +58,135 @@ protected:
 } // namespace
 
 TEST_F(CustomMapping, MapsByScopeAndDirection) {
-    document(custom("A.P", "Custom.Q", "Wall") + standard("A.P", "Standard.Q", "Wall;Slab") +
-             standard("A.", "", "Wall") + standard("B.P", "First.X", "Wall") + standard("b.p", "Later.Y", "WALL") +
-             custom("C.P", "Pset_c.Q", "Wall") + custom("D.P", "PSET_C.q", "Wall") + standard("E.P", "F.Q", "") +
-             "<StandardMapping fromEntity='E' toEntity='F'/>" + standard("E.P", "F.Q", ";;Beam;; Roof ;") + "<Deep>" +
-             standard("G.P", "H.P", "Wall") + "</Deep>" +
-             "<standardMapping fromEntity='G' toEntity='H' scope='Wall'/>" + standard("IFCKEY5151.", "One.", "Wall") +
-             standard("IFCKEY59133.", "Two.", "Wall"));
-    struct Case {
-        const char* entity;
-        const char* property;
-        const char* scope;
-        const char* answer;
-    };
-    for (const Case& c :
-         {Case{"A", "P", "Wall_Import", "mapped Custom Q"}, Case{"a", "p", "WALL_import", "mapped Custom Q"},
-          Case{"A", "P", "Slab_Import", "mapped Standard Q"}, Case{"Custom", "Q", "Wall_Export", "mapped A P"},
-          Case{"Standard", "Q", "Wall_Export", none}, Case{"Standard", "Q", "Slab_Export", none},
-          Case{"A", "P", "Wall_Export", none}, Case{"A", "P", "Wall", none}, Case{"A", "P", "", none},
-          Case{"A", "", "Wall_Import", "mapped  "}, Case{"", "AP", "Wall_Import", "mapped Custom Q"},
-          Case{"B", "P", "wall_Import", "mapped Later Y"}, Case{"Pset_C", "Q", "Wall_Export", "mapped D P"},
-          Case{"C", "P", "Wall_Import", "mapped Pset_c Q"}, Case{"E", "P", "_Import", none},
-          Case{"E", "", "_Import", none}, Case{"E", "P", "Beam_Import", "mapped F Q"},
-          Case{"E", "P", " Roof _Import", "mapped F Q"}, Case{"G", "P", "Wall_Import", none},
-          Case{"G", "", "Wall_Import", none},
-          // Two texts with one hash are one element: the later one.
-          Case{"IFCKEY5151", "", "Wall_Import", "mapped Two "},
-          Case{"IFCKEY59133", "", "Wall_Import", "mapped Two "}}) {
-        EXPECT_EQ(mapping(c.entity, c.property, c.scope), c.answer) << c.entity << '.' << c.property << ' ' << c.scope;
+    document(lines(R"(CustomMapping Wall: A.P -> Custom.Q | C.P -> Pset_c.Q | D.P -> PSET_C.q
+        StandardMapping Wall;Slab: A.P -> Standard.Q
+        StandardMapping Wall: A. -> . | B.P -> First.X | IFCKEY5151. -> One. | IFCKEY59133. -> Two.
+        StandardMapping WALL: b.p -> Later.Y
+        StandardMapping : E.P -> F.Q
+        StandardMapping ;;Beam;; Roof ;: E.P -> F.Q
+        standardMapping Wall: G. -> H.)") +
+             "<StandardMapping fromEntity='E' toEntity='F'/><Deep>" + lines("StandardMapping Wall: G.P -> H.P") +
+             "</Deep>");
+    // Two texts with one hash are one element: the later one.
+    for (const auto& [scope, from, to] :
+         casesOf(R"(Wall_Import: A.P -> 1002 Custom Q | A. -> 1002   | .AP -> 1002 Custom Q
+        Wall_Import: C.P -> 1002 Pset_c Q | G.P -> 1003 was was | G. -> 1003 was was
+        Wall_Import: IFCKEY5151. -> 1002 Two  | IFCKEY59133. -> 1002 Two 
+        WALL_import: a.p -> 1002 Custom Q
+        wall_Import: B.P -> 1002 Later Y
+        Slab_Import: A.P -> 1002 Standard Q
+        Wall_Export: Custom.Q -> 1002 A P | Pset_C.Q -> 1002 D P | Standard.Q -> 1003 was was | A.P -> 1003 was was
+        Slab_Export: Standard.Q -> 1003 was was
+        Wall: A.P -> 1003 was was
+        : A.P -> 1003 was was
+        _Import: E.P -> 1003 was was | E. -> 1003 was was
+        Beam_Import: E.P -> 1002 F Q)")) {
+        const std::size_t dot = from.find('.');
+        EXPECT_EQ(mapping(from.substr(0, dot), from.substr(dot + 1), scope), to) << from << ' ' << scope;
     }
+    EXPECT_EQ(mapping("E", "P", " Roof _Import"), "1002 F Q") << "blanks are part of a scope";
     EXPECT_EQ(objectmodeler::assertionCount(), 0U);
 }
 
 TEST_F(CustomMapping, TakesScopesForTypesOfBuildings) {
     using knowledge::TypeKind;
-    const auto addType = [](const char* name, TypeKind kind = TypeKind::Knowledge, bool isAbstract = false) {
-        knowledge::addType({name, kind, "", isAbstract});
-    };
-    const std::string text = custom("A.P", "B.Q", "Known;None;Abstract;Special;AbstractSpecial;known");
-    const auto known = [&](const char* scope) { return mapping("A", "P", scope) == "mapped B Q"; };
+    const std::string text = lines("CustomMapping Known;None;Abstract;Special;AbstractSpecial;known: A.P -> B.Q");
+    const auto known = [&](const std::string& scope) { return mapping("A", "P", scope + "_Import") != none; };
     for (const char* name : {"Some", "ifcAtTheStart", "AECAtTheStart"}) {
-        addType(name);
+        knowledge::addType({name, TypeKind::Knowledge, "", false});
         document(text);
-        EXPECT_TRUE(known("None_Import")) << name << ": no type of buildings, names are as they are written";
+        EXPECT_TRUE(known("None")) << name << ": no type of buildings, names are as they are written";
     }
-    addType("Abstract", TypeKind::Knowledge, true);
-    addType("Known");
-    addType("Special", TypeKind::Specialization);
-    addType("AbstractSpecial", TypeKind::Specialization, true);
+    knowledge::addType({"Abstract", TypeKind::Knowledge, "", true});
+    knowledge::addType({"Known", TypeKind::Knowledge, "", false});
+    knowledge::addType({"Special", TypeKind::Specialization, "", false});
+    knowledge::addType({"AbstractSpecial", TypeKind::Specialization, "", true});
     for (const char* name : {"MyIFCWall", "MyAecWall"}) {
-        addType(name);
+        knowledge::addType({name, TypeKind::Knowledge, "", false});
         document(text);
-        EXPECT_TRUE(known("Known_Import")) << name;
-        EXPECT_TRUE(known("Special_Import"));
-        EXPECT_EQ(mapping("B", "Q", "Special_Export"), "mapped A P");
-        for (const char* scope : {"None_Import", "Abstract_Import", "AbstractSpecial_Import"})
-            EXPECT_FALSE(known(scope)) << scope;
+        for (const char* scope : {"Known", "Special"}) EXPECT_TRUE(known(scope)) << name << scope;
+        EXPECT_EQ(mapping("B", "Q", "Special_Export"), "1002 A P");
+        for (const char* scope : {"None", "Abstract", "AbstractSpecial"}) EXPECT_FALSE(known(scope)) << scope;
     }
 }
 
 TEST_F(CustomMapping, AnnouncesSetsThatUsersMapTo) {
     const std::string text =
-        custom("A.P", "Pset_Mine.Q", "Wall") + custom("A.R", "", "Wall") + standard("A.S", "Pset_Standard.Q", "Wall");
+        lines("CustomMapping Wall: A.P -> Pset_Mine.Q | A.R -> .\nStandardMapping Wall: A.S -> Pset_Standard.Q");
     QORIFCPSetQtoValidationService& validation = *QORIFCPSetQtoValidationService::getInstance();
     document(text);
-    EXPECT_EQ(mapping("A", "P", "Wall_Import"), "mapped Pset_Mine Q");
+    EXPECT_EQ(mapping("A", "P", "Wall_Import"), "1002 Pset_Mine Q");
     EXPECT_FALSE(validation.IsCustomPsetQto("PSET_MINE"));
     unsigned char on = 1;
     validation.SetIfcPsetQtoValidation(on);
-    EXPECT_EQ(mapping("A", "P", "Wall_Import"), "mapped Pset_Mine Q") << "as it was built";
+    EXPECT_EQ(mapping("A", "P", "Wall_Import"), "1002 Pset_Mine Q") << "as it was built";
     document(text);
     EXPECT_FALSE(validation.IsCustomPsetQto("PSET_MINE")) << "the first lookup builds";
-    EXPECT_EQ(mapping("A", "P", "Wall_Import"), "mapped PSET_MINE Q");
-    EXPECT_EQ(mapping("A", "S", "Wall_Import"), "mapped Pset_Standard Q");
+    EXPECT_EQ(mapping("A", "P", "Wall_Import"), "1002 PSET_MINE Q");
+    EXPECT_EQ(mapping("A", "S", "Wall_Import"), "1002 Pset_Standard Q");
     EXPECT_TRUE(validation.IsCustomPsetQto("PSET_MINE"));
     for (const char* name : {"", "PSET_STANDARD"}) EXPECT_FALSE(validation.IsCustomPsetQto(name)) << name;
 }
 
 TEST_F(CustomMapping, KnowsNothingUnlessADocumentWasLoaded) {
-    const std::string text = standard("A.P", "B.Q", "Wall");
-    const auto answer = [&] { return mapping("A", "P", "Wall_Import"); };
-    EXPECT_EQ(answer(), none) << "before any load";
+    const std::string text = lines("StandardMapping Wall: A.P -> B.Q");
+    const auto found = [&] { return mapping("A", "P", "Wall_Import"); };
+    EXPECT_EQ(found(), none) << "before any load";
     EXPECT_EQ(services->LoadCustomMapping(), E_UNEXPECTED);
-    EXPECT_EQ(answer(), none);
+    EXPECT_EQ(found(), none);
 
     // The one file of the collection standard; two are none.
     folder.add("a/ifcCustomMapping", {"map.xmlx"}, "<IfcMapping>" + text + "</IfcMapping>");
-    variables.set("QORDefaultCollectionStandard", (folder / "a").c_str());
-    EXPECT_EQ(answer(), none) << "a lookup does not load";
+    standard({}, folder / "a");
+    EXPECT_EQ(found(), none) << "a lookup does not load";
     EXPECT_EQ(services->LoadCustomMapping(), S_OK);
-    EXPECT_EQ(answer(), "mapped B Q");
+    EXPECT_EQ(found(), "1002 B Q");
     // Another instance has the same table.
-    QORUnicodeString entity, property;
-    const auto other = extension<QORIExchangeIFCCustomMappingServices>();
-    EXPECT_EQ(other->GetCustomMapping("A", "P", "Wall_Import", entity, property), IFC_MAPPING_MAPPED);
+    EXPECT_EQ(answer<2>([](auto& entity, auto& property) {
+                  return extension<QORIExchangeIFCCustomMappingServices>()->GetCustomMapping("A", "P", "Wall_Import",
+                                                                                             entity, property);
+              }),
+              "1002 B Q");
 
     QORIFCOptionsFromXCAD::GetInstance()->SetXCADConversionOptionForIFC("IFC_Disable_Version_Mapping", "yes");
-    EXPECT_EQ(answer(), none);
+    EXPECT_EQ(found(), none);
     QORIFCOptionsFromXCAD::DeleteInstance();
-    EXPECT_EQ(answer(), "mapped B Q");
+    EXPECT_EQ(found(), "1002 B Q");
 
     folder.add("a/ifcCustomMapping", {"other.xml"}, "<IfcMapping/>");
     EXPECT_EQ(services->LoadCustomMapping(), E_UNEXPECTED);
-    EXPECT_EQ(answer(), none) << "a load that fails leaves nothing";
+    EXPECT_EQ(found(), none) << "a load that fails leaves nothing";
     document(text); // not asked before it goes
     setupData(key, {folder.file("broken.xml", "<IfcMapping>")});
     EXPECT_LT(services->LoadCustomMapping(), 0);
-    EXPECT_EQ(answer(), none);
+    EXPECT_EQ(found(), none);
 
     document(text);
-    EXPECT_EQ(answer(), "mapped B Q");
+    EXPECT_EQ(found(), "1002 B Q");
     document("<Other/>");
     const auto before = objectmodeler::assertionCount();
-    EXPECT_EQ(answer(), none);
+    EXPECT_EQ(found(), none);
     EXPECT_EQ(objectmodeler::assertionCount(), before + 1) << "a document without mappings is reported";
-    EXPECT_EQ(answer(), none);
+    EXPECT_EQ(found(), none);
     EXPECT_EQ(objectmodeler::assertionCount(), before + 1) << "once, since nothing is built a second time";
     setupData(key, {folder.file("root.xml", "<Other>" + text + "</Other>")});
     EXPECT_EQ(services->LoadCustomMapping(), S_OK);
-    EXPECT_EQ(answer(), none) << "another root";
+    EXPECT_EQ(found(), none) << "another root";
 }
 
 namespace {
 
-/// Counts what is alive and what is called.
+/// Notes what is called.
 struct CountedElement : CustoMappingElement {
     explicit CountedElement(const char* entity) : CustoMappingElement(entity, "", "", "", "", 1) {}
     int call() {
-        called.emplace_back(GetFromEntity().utf8());
-        return GetFromEntity() == stopAt ? 7 : 0;
+        called += GetFromEntity().utf8();
+        return GetFromEntity() == stopAt.c_str() ? 7 : 0;
     }
     int callConst() const { return const_cast<CountedElement*>(this)->call(); }
     static int callGlobal(CustoMappingElement* element) { return static_cast<CountedElement*>(element)->call(); }
 
-    static inline std::vector<std::string> called;
-    static inline QORUnicodeString stopAt;
+    static inline std::string called, stopAt;
 };
 
 QORHashTabCustoMappingElement makeTable() {
@@ -264,38 +256,33 @@ TEST(CustomMappingTable, TellsElementsApartByTheirHashAlone) {
 }
 
 TEST(CustomMappingTable, AppliesUntilAnAnswerIsNotZero) {
-    CountedElement a("a"), b("b"), c("c"), absent("absent");
+    CountedElement elements[] = {CountedElement("a"), CountedElement("b"), CountedElement("c"), CountedElement("d")};
     QORHashTabCustoMappingElement table = makeTable();
-    for (CountedElement* element : {&a, &b, &c}) table.Insert(element);
+    for (int i = 0; i < 3; ++i) table.Insert(&elements[i]);
     const auto member = static_cast<int (CustoMappingElement::*)()>(&CountedElement::call);
     const auto constMember = static_cast<int (CustoMappingElement::*)() const>(&CountedElement::callConst);
-    struct Case {
-        CustoMappingElement* start;
-        const char* stopAt;
-        std::vector<std::string> called;
-        CustoMappingElement* last;
-        int result;
-    };
-    for (const Case& k : {Case{nullptr, "", {"a", "b", "c"}, &c, 0}, Case{nullptr, "b", {"a", "b"}, &b, 7},
-                          Case{&b, "", {"b", "c"}, &c, 0}, Case{&b, "a", {"b", "c"}, &c, 0},
-                          Case{&c, "c", {"c"}, &c, 7}, Case{&absent, "", {}, &absent, 5}}) {
+    // Where it starts and stops; what is called, the last of them and the result.
+    for (const auto& [from, stopAt, expected] : casesOf(R"(:  -> abc c 0 | b -> ab b 7
+        b:  -> bc c 0 | a -> bc c 0
+        c: c -> c c 7
+        d:  ->  d 5)")) {
+        CustoMappingElement* start = from.empty() ? nullptr : &elements[from[0] - 'a'];
         for (const int kind : {0, 1, 2}) {
-            SCOPED_TRACE(std::string(k.stopAt) + std::to_string(kind));
             const auto apply = [&](CustoMappingElement** last, int* result) {
                 CountedElement::called.clear();
-                CountedElement::stopAt = k.stopAt;
-                return kind == 0   ? table.ApplyMemberFunct(member, k.start, last, result)
-                       : kind == 1 ? table.ApplyMemberFunctConst(constMember, k.start, last, result)
-                                   : table.ApplyGlobalFunct(CountedElement::callGlobal, k.start, last, result);
+                CountedElement::stopAt = stopAt;
+                return kind == 0   ? table.ApplyMemberFunct(member, start, last, result)
+                       : kind == 1 ? table.ApplyMemberFunctConst(constMember, start, last, result)
+                                   : table.ApplyGlobalFunct(CountedElement::callGlobal, start, last, result);
             };
-            CustoMappingElement* last = &absent;
+            CustoMappingElement* last = &elements[3];
             int result = 5;
-            EXPECT_EQ(apply(&last, &result), static_cast<int>(k.called.size()));
-            EXPECT_EQ(CountedElement::called, k.called);
-            EXPECT_EQ(last, k.last);
-            EXPECT_EQ(result, k.result);
-            EXPECT_EQ(apply(nullptr, nullptr), static_cast<int>(k.called.size()));
-            EXPECT_EQ(CountedElement::called, k.called);
+            const int calls = apply(&last, &result);
+            const std::string called = CountedElement::called;
+            EXPECT_EQ(called + ' ' + last->GetFromEntity().ConvertToChar() + ' ' + std::to_string(result), expected);
+            EXPECT_EQ(calls, called.size());
+            EXPECT_EQ(apply(nullptr, nullptr), calls);
+            EXPECT_EQ(CountedElement::called, called);
         }
     }
 }

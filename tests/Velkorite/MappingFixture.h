@@ -1,6 +1,7 @@
-/// What the tests of the mapping components share: components as a host gets them, and places for their documents.
+/// What the tests of resources share: places for documents, and components as a host gets them.
 #pragma once
 
+#include "Cases.h"
 #include "files/QORISetupDataFinder.h"
 #include "knowledge/KnowledgeObjects.h"
 #include "objectmodeler/Assertion.h"
@@ -8,8 +9,10 @@
 #include "TemporaryFolder.h"
 #include "Variables.h"
 
+#include <array>
 #include <dlfcn.h>
 #include <gmock/gmock.h>
+#include <tuple>
 
 namespace velkor::test {
 
@@ -43,6 +46,11 @@ protected:
         data->set(key, list);
         files::setSetupDataFinder(data);
     }
+    /// Search folders of the collection standard.
+    void standard(const std::string& folders, const std::string& defaultFolders = {}) const {
+        variables.set("QORCollectionStandard", folders.c_str());
+        variables.set("QORDefaultCollectionStandard", defaultFolders.c_str());
+    }
     template <class Interface>
     static QORInterface_var<Interface> component(const char* name) {
         const QORInterface_var<Interface> made = objectmodeler::createComponent(name);
@@ -60,6 +68,16 @@ protected:
         std::vector<std::string> result;
         for (const QORUnicodeString& item : list) result.emplace_back(item.utf8());
         return result;
+    }
+    /// Result, in hexadecimal, and outputs; "was" stands for one that was left alone.
+    template <std::size_t count = 1, class Ask>
+    static std::string answer(Ask ask) {
+        std::array<QORUnicodeString, count> outputs;
+        outputs.fill("was");
+        std::ostringstream text;
+        text << std::hex << static_cast<unsigned>(std::apply(ask, outputs));
+        for (const QORUnicodeString& output : outputs) text << ' ' << output.utf8();
+        return text.str();
     }
 
     const Variables variables{"QORCollectionStandard", "QORDefaultCollectionStandard"};

@@ -24,9 +24,9 @@ protected:
         return folder.file(name, "<IfcPLMMappingAttr>" + content + "</IfcPLMMappingAttr>");
     }
     /// Set and property, or "none" when the outputs were rightly left alone.
-    std::string property(const char* type, const char* attribute) const {
+    std::string property(const std::string& type, const std::string& attribute) const {
         QORUnicodeString set("was"), name("was");
-        const HRESULT result = services->GetIFCPropertyFromPLMAttribute(type, attribute, set, name);
+        const HRESULT result = services->GetIFCPropertyFromPLMAttribute(type.c_str(), attribute.c_str(), set, name);
         std::string text((set + "." + name).utf8());
         return result == S_OK ? text : result == E_FAIL && text == "was.was" ? "none" : "failed with " + text;
     }
@@ -66,21 +66,16 @@ TEST_F(PLMAttributesMapping, TakesLinesThatCountForExport) {
                 mapping("IfcKey5151", line("Wall_Import", "One")) + mapping("IfcKey59133", line("Wall_Import", "Two")) +
                 "<Deep>" + mapping("Wall", line("J", "Deep")) + "</Deep>")});
     load();
-    struct Case {
-        const char* type;
-        const char* attribute;
-        const char* answer;
-    };
-    for (const Case& c :
-         {Case{"Wall", "A", "Set.Prop"}, Case{"WALL", "a", "Set.Prop"}, Case{"Wall", "B", "Both.Prop"},
-          Case{"Wall", "C", "Out.Prop"}, Case{"Wall", "D", "Empty.Prop"}, Case{"Wall", "E", "none"},
-          Case{"Wall", "F", "none"}, Case{"Wall", "G", "none"}, Case{"Wall", "H", "."}, Case{"Wall", "", "S.P"},
-          Case{"Wall", "I", "More.Prop"}, Case{"Wall", "J", "none"}, Case{"Slab", "A", "none"}, Case{"", "A", "none"},
-          // One hash does not make them one, nor does one text.
-          Case{"", "WallA", "No type.Prop"}, Case{"Wal", "lA", "none"}, Case{"IfcKey5151", "Wall_Import", "One.Prop"},
-          Case{"IfcKey59133", "Wall_Import", "Two.Prop"}}) {
-        EXPECT_EQ(property(c.type, c.attribute), c.answer) << c.type << '.' << c.attribute;
-    }
+    // One hash does not make two one, nor does one text.
+    for (const auto& [type, attribute, answer] : casesOf(R"(Wall: A -> Set.Prop | B -> Both.Prop | C -> Out.Prop
+        Wall: D -> Empty.Prop | E -> none | F -> none | G -> none | H -> . |  -> S.P | I -> More.Prop | J -> none
+        WALL: a -> Set.Prop
+        Slab: A -> none
+        : A -> none | WallA -> No type.Prop
+        Wal: lA -> none
+        IfcKey5151: Wall_Import -> One.Prop
+        IfcKey59133: Wall_Import -> Two.Prop)"))
+        EXPECT_EQ(property(type, attribute), answer) << type << '.' << attribute;
 }
 
 TEST_F(PLMAttributesMapping, BringsInGroups) {
@@ -92,34 +87,30 @@ TEST_F(PLMAttributesMapping, BringsInGroups) {
                        group("Self", include("self") + include("First") + line("O", "own")) +
                        group("First", line("I", "an id counts once")) +
                        group("Alike", line("ı", "dotless") + line("i", "dotted") + line("I", "refused"));
-    struct Case {
-        const char* group;
-        const char* answers; ///< to F, S, L, Z, Y, O, I
-    };
-    const Case cases[] = {{"First", "first first later none none none none"},
-                          {"second", "first second later none none none none"},
-                          // Whatever an include names, all groups above come with it.
-                          {"Nothing", "first first later none none none none"},
-                          {"Later", "first first later last again none none"},
-                          {"Last", "none none none last none none none"},
-                          {"Self", "first first later last again own none"},
-                          {"Import", "none none none none none none none"},
-                          {"Alike", "none none none none none none dotted"},
-                          {"Nobody", "none none none none none none none"}};
-    for (const Case& c : cases) text += mapping(std::string("T") + c.group, include(c.group));
+    // Answers to F, S, L, Z, Y, O, I. Whatever an include names, all groups above come with it.
+    const std::vector<Case> cases = casesOf(R"(First:  -> first first later none none none none
+        second:  -> first second later none none none none
+        Nothing:  -> first first later none none none none
+        Later:  -> first first later last again none none
+        Last:  -> none none none last none none none
+        Self:  -> first first later last again own none
+        Import:  -> none none none none none none none
+        Alike:  -> none none none none none none dotted
+        Nobody:  -> none none none none none none none)");
+    for (const Case& c : cases) text += mapping("T" + c.subject, include(c.subject));
     text += mapping("Mixed", line("f", "mine") + include("First") + line("L", "too late"));
     setupData(key, {document("map.xml", text)});
     load();
     const auto answers = [&](const std::string& type) {
         std::string result;
         for (const char* attribute : {"F", "S", "L", "Z", "Y", "O", "I"}) {
-            const std::string answer = property(type.c_str(), attribute);
+            const std::string answer = property(type, attribute);
             result += answer.substr(0, answer.find('.')) + ' ';
         }
         result.pop_back();
         return result;
     };
-    for (const Case& c : cases) EXPECT_EQ(answers(std::string("T") + c.group), c.answers) << c.group;
+    for (const Case& c : cases) EXPECT_EQ(answers("T" + c.subject), c.expected) << c.subject;
     EXPECT_EQ(property("TAlike", "ı"), "dotless.Prop") << "in upper case the two are the same";
     EXPECT_EQ(answers("Mixed"), "mine first later none none none none");
 }
@@ -130,7 +121,7 @@ TEST_F(PLMAttributesMapping, ReadsAllFilesOnceAndEachForItself) {
                    mapping("Wall", line("C", "late") + line("D", "new")) + mapping("Slab", include("G")) +
                    mapping("Door", include("Alone")) + mapping("Piping_RigidPipe", line("V_WallThickness", "file")) +
                    "</IfcPLMMappingAttr>");
-    variables.set("QORCollectionStandard", folder.path.c_str());
+    standard(folder.path);
     setupData(key, {document("1.xml", group("G", line("A", "one")) + mapping("Wall", include("G") + line("C", "one"))),
                     folder.file("broken.xml", "<IfcPLMMappingAttr>"), document("2.xml", group("Alone", line("E", "s"))),
                     folder / "none.xml", document("4.xml", mapping("Roof", include("G")))});
@@ -153,16 +144,14 @@ TEST_F(PLMAttributesMapping, ReadsAllFilesOnceAndEachForItself) {
     unload();
     load();
     EXPECT_EQ(property("Wall", "A"), "four.Prop") << "and forgotten with the library";
-    QORUnicodeString set, name;
-    EXPECT_EQ(extension<QORIExchangeIFCPLMAttributesMappingServices>()->GetIFCPropertyFromPLMAttribute("Wall", "C", set,
-                                                                                                       name),
-              S_OK);
+    services = extension<QORIExchangeIFCPLMAttributesMappingServices>();
+    EXPECT_EQ(property("Wall", "C"), "late.Prop") << "another instance has the same";
 }
 
 TEST_F(PLMAttributesMapping, KnowsTheWallThicknessOfPipesByItself) {
     folder.add("IfcPLMAttributesMapping", {"1.xml"},
                "<IfcPLMMappingAttr>" + mapping("Wall", line("A", "s")) + "</IfcPLMMappingAttr>");
-    variables.set("QORCollectionStandard", folder.path.c_str());
+    standard(folder.path);
     for (const bool hasFinder : {false, true}) {
         if (hasFinder) setupData("another key", {});
         load();

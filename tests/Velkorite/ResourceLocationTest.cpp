@@ -1,11 +1,7 @@
-#include "files/QORISetupDataFinder.h"
-#include "objectmodeler/Assertion.h"
+#include "MappingFixture.h"
 #include "QORIFCDXDataSetupServices.h"
 #include "QORIFCDXFileServices.h"
-#include "TemporaryFolder.h"
-#include "Variables.h"
 
-#include <gmock/gmock.h>
 #include <optional>
 
 namespace velkor::test {
@@ -38,29 +34,8 @@ VELKOR_IMPLEMENT_CLASS(FaultyFinder, QORISetupDataFinder, nullptr, "Host")
 
 namespace {
 
-Texts texts(const QORListValQORUnicodeString& list) {
-    Texts result;
-    for (const QORUnicodeString& item : list) result.emplace_back(item.utf8());
-    return result;
-}
-
-class ResourceLocation : public testing::Test {
+class ResourceLocation : public MappingFixture {
 protected:
-    ResourceLocation() { objectmodeler::clearAssertionReports(); }
-    ~ResourceLocation() override { files::setSetupDataFinder({}); }
-
-    void standard(const std::string& folders, const std::string& defaultFolders = {}) const {
-        variables.set("QORCollectionStandard", folders.c_str());
-        variables.set("QORDefaultCollectionStandard", defaultFolders.c_str());
-    }
-    /// Makes the paths the setup data's for the key of these tests.
-    static void setupData(const Texts& paths) {
-        QORListValQORUnicodeString list;
-        for (const std::string& path : paths) list.Append(path.c_str());
-        const auto data = QORInterface_var<files::SetupData>::adopt(new files::SetupData);
-        data->set("Set|Category", list);
-        files::setSetupDataFinder(data);
-    }
     HRESULT find(const char* nameText) { return QORIFCDXFileServices::FindResourceFiles("sub", nameText, found); }
     HRESULT path(const char* subFolder) {
         return QORIFCDXDataSetupServices::GetResourcePath("Set", "Category", subFolder, onePath);
@@ -78,7 +53,7 @@ protected:
         return units;
     }
 
-    const Variables variables{"QORCollectionStandard", "QORDefaultCollectionStandard"};
+    static constexpr const char* key = "Set|Category";
     const TemporaryFolder folderA, folderB, folderC;
     const std::string A = folderA.path, B = folderB.path, C = folderC.path;
     QORListValQORUnicodeString found;
@@ -126,27 +101,27 @@ TEST_F(ResourceLocation, FindsWhatNoEarlierFolderHides) {
 }
 
 TEST_F(ResourceLocation, OfOneFileAsksTheSetupDataFirst) {
-    struct Case {
+    struct Expected {
         std::optional<Texts> setup; ///< none: no finder
-        Texts files;
+        int files;
         const char* subFolder;
         std::string path; ///< empty: a failure
         Texts assertions;
     };
     const std::string only = A + "\\sub\\0.xml";
-    const Texts none, one = {"0.xml"}, two = {"0.xml", "1.xml"};
-    for (const Case& c :
-         {Case{Texts{"/set.xml"}, one, "sub", "/set.xml", {}}, Case{Texts{"/set.xml"}, none, "", "/set.xml", {}},
-          Case{{}, one, "sub", only, {}}, Case{none, one, "sub", only, {}}, Case{two, one, "sub", only, {}},
-          Case{{}, one, "", "before", {}}, Case{two, one, "", "before", {}}, Case{none, none, "sub", "", byBoth},
-          Case{{}, none, "sub", "", byBoth}, Case{{}, two, "sub", "", byDataSetup},
-          Case{two, two, "sub", "", byDataSetup}}) {
-        SCOPED_TRACE(c.path + ' ' + c.subFolder + ' ' + std::to_string(c.files.size()));
+    const Texts none, one = {"/set.xml"}, two = {"0.xml", "1.xml"};
+    for (const Expected& c :
+         {Expected{one, 1, "sub", "/set.xml", {}}, Expected{one, 0, "", "/set.xml", {}},
+          Expected{{}, 1, "sub", only, {}}, Expected{none, 1, "sub", only, {}}, Expected{two, 1, "sub", only, {}},
+          Expected{{}, 1, "", "before", {}}, Expected{two, 1, "", "before", {}}, Expected{none, 0, "sub", "", byBoth},
+          Expected{{}, 0, "sub", "", byBoth}, Expected{{}, 2, "sub", "", byDataSetup},
+          Expected{two, 2, "sub", "", byDataSetup}}) {
+        SCOPED_TRACE(c.path + ' ' + c.subFolder + ' ' + std::to_string(c.files));
         std::filesystem::remove_all(A + "/sub");
-        folderA.add("sub", c.files);
+        for (int i = 0; i < c.files; ++i) folderA.add("sub", {std::to_string(i) + ".xml"});
         standard(A);
         files::setSetupDataFinder({});
-        if (c.setup) setupData(*c.setup);
+        if (c.setup) setupData(key, *c.setup);
         onePath = "before";
         EXPECT_EQ(path(c.subFolder), c.path.empty() ? E_UNEXPECTED : S_OK);
         EXPECT_EQ(onePath.utf8(), c.path.empty() ? "before" : c.path);
@@ -163,7 +138,7 @@ TEST_F(ResourceLocation, OfAllFilesPutsThoseOfTheSetupDataFirst) {
     EXPECT_EQ(found.Size(), 0);
     EXPECT_EQ(assertions(), byDataSetup);
 
-    setupData({"/b", file, "/a"});
+    setupData(key, {"/b", file, "/a"});
     EXPECT_EQ(paths("sub"), S_OK);
     EXPECT_THAT(texts(found), ElementsAre("/b", file, "/a", file));
     EXPECT_EQ(paths(""), S_OK);
@@ -172,7 +147,7 @@ TEST_F(ResourceLocation, OfAllFilesPutsThoseOfTheSetupDataFirst) {
     EXPECT_EQ(paths("none"), E_UNEXPECTED);
     EXPECT_THAT(texts(found), ElementsAre("/b", file, "/a")) << "kept";
     EXPECT_EQ(assertions(), byBoth);
-    setupData({});
+    setupData(key, {});
     EXPECT_EQ(paths("sub"), S_OK);
     EXPECT_THAT(texts(found), ElementsAre(file));
     EXPECT_EQ(assertions(), Texts());

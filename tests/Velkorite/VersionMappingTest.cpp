@@ -28,13 +28,11 @@ protected:
         ASSERT_EQ(services->LoadVersionMappingDocument(), S_OK) << text;
         ASSERT_EQ(services->ResetVersionMappingTable(), S_OK);
     }
-    /// Status, entity and property; "was" stands for an output that was left alone.
-    std::string mapping(const char* entity, const char* property, int from = release2x3, int to = release4) const {
-        QORUnicodeString toEntity("was"), toProperty("was");
-        const HRESULT result = services->GetVersionMapping(from, to, entity, property, toEntity, toProperty);
-        std::ostringstream text;
-        text << std::hex << static_cast<unsigned>(result) << ' ' << toEntity.utf8() << ' ' << toProperty.utf8();
-        return text.str();
+    std::string mapping(const std::string& entity, const std::string& property, int from = release2x3,
+                        int to = release4) const {
+        return answer<2>([&](auto& toEntity, auto& toProperty) {
+            return services->GetVersionMapping(from, to, entity.c_str(), property.c_str(), toEntity, toProperty);
+        });
     }
     /// Result and name.
     std::string renamed(const char* entity, int from = release2x3, int to = release4) const {
@@ -83,23 +81,18 @@ TEST_F(VersionMapping, TellsWhatBecomesOfAnEntityOrAProperty) {
         <Introduction entity="IfcWallN" property="ame"/><Deprecation entity="IfcWallName"/>
         <Deprecation entity="ifcstraße"/><Deprecation entity="IfcKey97217"/><Introduction entity="IfcKey108386"/>
       </Version></Deeper><Version from="2x3" to="4"> <Deprecation entity="NotThis"/></Version></Any>)");
-    struct Case {
-        const char* entity;
-        const char* property;
-        const char* answer;
-    };
-    for (const Case& c :
-         {Case{"IfcA", "P", "1002 IfcB Q"}, Case{"IFCa", "p", "1002 IfcB Q"}, Case{"iFcA", "KEEP", "1002 iFcA Keep"},
-          Case{"IfcA", "Empty", "1002 IfcA "}, Case{"IfcOld", "", none}, Case{"", "NoEntity", none},
-          Case{"IfcGone", "", "1004 was was"}, Case{"IfcA", "Gone", "1005 was was"}, Case{"IfcX", "", "1005 was was"},
-          Case{"IfcFresh", "", "1006 was was"}, Case{"IfcA", "Fresh", "1007 was was"}, Case{"NotThis", "", none},
-          Case{"IfcLow", "P", none}, Case{"IfcA", "", none}, Case{"", "", none},
-          // No separator: all of these are one key, and the first in the document keeps it.
-          Case{"IfcWall", "Name", "1002 First Name"}, Case{"IfcWallName", "", "1002 First Name"},
-          Case{"IfcWal", "lName", "1002 First Name"}, Case{"IFCSTRAßE", "", "1004 was was"},
-          // Two texts with one hash are one key as well.
-          Case{"IfcKey97217", "", "1004 was was"}, Case{"IfcKey108386", "", "1004 was was"}}) {
-        EXPECT_EQ(mapping(c.entity, c.property), c.answer) << c.entity << '.' << c.property;
+    // No separator: all of "IfcWall" and "Name" are one key, and the first in the document keeps it.
+    // Two texts with one hash are one key as well.
+    for (const auto& [status, names, to] : casesOf(R"(1002: IfcA.P -> IfcB Q | IFCa.p -> IfcB Q | iFcA.KEEP -> iFcA Keep
+        1002: IfcA.Empty -> IfcA  | IfcWall.Name -> First Name | IfcWallName. -> First Name | IfcWal.lName -> First Name
+        1003: IfcOld. -> was was | .NoEntity -> was was | NotThis. -> was was | IfcLow.P -> was was
+        1003: IfcA. -> was was | . -> was was
+        1004: IfcGone. -> was was | IFCSTRAßE. -> was was | IfcKey97217. -> was was | IfcKey108386. -> was was
+        1005: IfcA.Gone -> was was | IfcX. -> was was
+        1006: IfcFresh. -> was was
+        1007: IfcA.Fresh -> was was)")) {
+        const std::size_t dot = names.find('.');
+        EXPECT_EQ(mapping(names.substr(0, dot), names.substr(dot + 1)), status + ' ' + to) << names;
     }
     EXPECT_EQ(QORUnicodeString("IFCKEY97217").ComputeHashKey(), QORUnicodeString("IFCKEY108386").ComputeHashKey());
     EXPECT_EQ(objectmodeler::assertionCount(), 0U);
@@ -171,9 +164,9 @@ TEST_F(VersionMapping, AnswersForItsFirstPairUntilReset) {
     EXPECT_EQ(mapping("A", "", release4, release4x2), "1004 was was");
     EXPECT_EQ(mapping("A", "", 0, 99), "1004 was was") << "once there is a table, releases are not looked at";
     // Another instance has the same table.
-    QORUnicodeString entity, property;
+    QORUnicodeString text;
     const auto other = extension<QORIExchangeIFCMappingServices>();
-    EXPECT_EQ(other->GetVersionMapping(release4, release4x2, "A", "", entity, property), IFC_MAPPING_DEPRECATED_ENTITY);
+    EXPECT_EQ(other->GetVersionMapping(release4, release4x2, "A", "", text, text), IFC_MAPPING_DEPRECATED_ENTITY);
     folder.file("map.xml", "<V><Version from='2x3' to='4'> <Introduction entity='A'/></Version></V>");
     EXPECT_EQ(services->LoadVersionMappingDocument(), S_OK);
     EXPECT_THAT(deprecated(), IsEmpty());
@@ -228,9 +221,9 @@ TEST_F(VersionMapping, FindsItsDocument) {
     folder.add("one/ifc", {"a.xml.bak"}, version("Bak"));
     folder.add("one/ifc", {"0.XML", "1xml"}, version("Other"));
     folder.add("two/ifc", {"a.xml", "0.xml"}, version("Two"));
-    variables.set("QORCollectionStandard", (folder / "one" + ';' + folder / "two").c_str());
+    standard(folder / "one" + ';' + folder / "two");
     EXPECT_THAT(deprecated(), ElementsAre("BAK")) << "of several the first; a failure is not kept";
-    variables.set("QORCollectionStandard", (folder / "two").c_str());
+    standard(folder / "two");
     EXPECT_THAT(deprecated(), ElementsAre("BAK")) << "read once";
     setupData("another key", {folder / "one/ifc/1xml"});
     EXPECT_EQ(services->LoadVersionMappingDocument(), S_OK);

@@ -1,49 +1,23 @@
 // Documents that the input holds: parsed, walked, queried, changed and written. The first line says
 // what is changed, the second is an XPath expression, the rest is the document.
 
-#include "xml/QORIDOMDocument.h"
+#include "FuzzSupport.h"
 #include "xml/QORIDOMDocumentTraversal.h"
 #include "xml/QORIDOMDocumentType.h"
-#include "xml/QORIDOMElement.h"
 #include "xml/QORIDOMNodeFilter.h"
 #include "xml/QORIDOMNodeIterator.h"
-#include "xml/QORIDOMNodeList.h"
-#include "xml/QORIXMLDOMDocumentBuilder.h"
 #include "xml/QORIXMLXPathFactory.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
 namespace {
 
+using namespace velkor::test;
+
 using Nodes = std::vector<QORIDOMNode_var>;
-
-void require(bool condition, int line = __builtin_LINE()) {
-    if (condition) return;
-    std::fprintf(stderr, "line %d does not hold\n", line);
-    std::abort();
-}
-
-QORIXMLDOMDocumentBuilder_var builder() {
-    QORIXMLDOMDocumentBuilder_var result;
-    require(CreateQORIXMLDOMDocumentBuilder(CLSID_XML4C5_DOM, result) == S_OK);
-    return result;
-}
-
-QORIDOMDocument_var parsed(std::string_view text) {
-    QORIXMLSAX2Factory_var factory;
-    QORIXMLInputSource_var source;
-    QORIDOMDocument_var document;
-    require(CreateQORIXMLSAX2Factory(CLSID_XML4C5_SAX, factory) == S_OK);
-    require(factory->CreateInputSourceFromText(text, "fuzz", source) == S_OK);
-    const HRESULT result = builder()->Parse(source, document, {}, {}, {}, {});
-    require(SUCCEEDED(result) != document.IsNull());
-    return document;
-}
 
 /// Empty when the document cannot be written.
 std::string written(const QORIDOMDocument_var& document, const char* indentation) {
@@ -90,12 +64,12 @@ void ask(const QORIDOMNode_var& node) {
     const QORIDOMElement_var element = node;
     if (element.IsNull()) return;
     QORIDOMNodeList_var attributes;
-    require(element->GetAttributes(attributes) == S_OK && attributes->GetLength(length) == S_OK);
-    for (unsigned int i = 0; i < length; ++i) {
+    require(element->GetAttributes(attributes) == S_OK);
+    forEach(attributes, [&](const QORIDOMNode_var& one) {
         QORUnicodeString name, value, again;
-        require(attributes->Item(i, listed) == S_OK && listed->GetNodeName(name) == S_OK);
-        require(listed->GetNodeValue(value) == S_OK && element->GetAttribute(name, again) == S_OK && again == value);
-    }
+        require(one->GetNodeName(name) == S_OK && one->GetNodeValue(value) == S_OK);
+        require(element->GetAttribute(name, again) == S_OK && again == value);
+    });
 }
 
 void select(const QORIDOMDocument_var& document, const std::string& xpath) {
@@ -104,13 +78,7 @@ void select(const QORIDOMDocument_var& document, const std::string& xpath) {
     QORIDOMNodeList_var nodes;
     if (FAILED(factory->CreateXPathExpression(QORUnicodeString(std::string_view(xpath)), expression))) return;
     if (FAILED(expression->Evaluate(nodes))) return;
-    unsigned int length = 0;
-    require(nodes->GetLength(length) == S_OK);
-    for (unsigned int i = 0; i < length; ++i) {
-        QORIDOMNode_var node;
-        require(nodes->Item(i, node) == S_OK && !node.IsNull());
-        ask(node);
-    }
+    forEach(nodes, ask);
 }
 
 /// Two characters each: what to do, and to which node. Refusals are fine, crashes are not.
@@ -122,41 +90,19 @@ void change(const QORIDOMDocument_var& document, Nodes nodes, std::string_view c
     for (std::size_t i = 0; i + 1 < commands.size(); i += 2) {
         const QORIDOMNode_var node = nodes[static_cast<unsigned char>(commands[i + 1]) % nodes.size()];
         const QORIDOMElement_var element = node;
+        const QORUnicodeString rest(commands.substr(i));
         QORIDOMNode_var parent, made;
-        switch (commands[i]) {
-        case 'a':
-            current->AppendChild(node);
-            break;
-        case 'c':
-            current = node;
-            break;
-        case 'i':
-            current->InsertBefore(nodes.back(), node);
-            break;
-        case 'n':
-            iterator->NextNode(visited);
-            break;
-        case 'p':
-            iterator->PreviousNode(visited);
-            break;
-        case 'r':
-            if (node->GetParentNode(parent) == S_OK && !parent.IsNull()) parent->RemoveChild(node);
-            break;
-        case 's':
-            node->SetNodeValue(QORUnicodeString(commands));
-            break;
-        case 't':
-            document->CreateTextNode(QORUnicodeString(commands.substr(i)), made);
-            break;
-        case 'x':
-            if (!element.IsNull()) element->SetAttribute(QORUnicodeString(commands.substr(i + 1, 3)), "v");
-            break;
-        case 'y':
-            if (!element.IsNull()) element->RemoveAttribute(QORUnicodeString(commands.substr(i + 1, 1)));
-            break;
-        default:
-            break;
-        }
+        const char command = commands[i];
+        if (command == 'a') current->AppendChild(node);
+        if (command == 'c') current = node;
+        if (command == 'i') current->InsertBefore(nodes.back(), node);
+        if (command == 'n') iterator->NextNode(visited);
+        if (command == 'p') iterator->PreviousNode(visited);
+        if (command == 'r' && node->GetParentNode(parent) == S_OK && !parent.IsNull()) parent->RemoveChild(node);
+        if (command == 's') node->SetNodeValue(rest);
+        if (command == 't') document->CreateTextNode(rest, made);
+        if (command == 'x' && !element.IsNull()) element->SetAttribute(rest.SubString(1, 3), "v");
+        if (command == 'y' && !element.IsNull()) element->RemoveAttribute(rest.SubString(1, 1));
         if (!made.IsNull()) nodes.push_back(made);
     }
 }

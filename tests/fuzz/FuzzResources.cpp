@@ -1,70 +1,71 @@
-// The input as a document of one of the mapping components: the first byte says which, the rest is the document.
-// What a document says must be answered, by the rules of its kind.
+// The input as a resource file: the first byte says of which service, the rest is the file. What a file says must
+// be answered, and what is not answered must leave the caller's texts alone.
 
 #include "files/QORISetupDataFinder.h"
+#include "files/QORSysRTVWalker.h"
+#include "FuzzSupport.h"
+#include "IFCAttributeList.h"
 #include "knowledge/KnowledgeObjects.h"
 #include "knowledge/QORIExchangeAECServices.h"
 #include "knowledge/QORIExchangeIFCCustomMappingServices.h"
 #include "knowledge/QORIExchangeIFCMappingServices.h"
 #include "objectmodeler/ClassDictionary.h"
+#include "PrivateOperation.h"
 #include "QORIFCDXXMLServices.h"
+#include "QORIFCPSetQtoValidationService.h"
+#include "settings/QORDXEnvironmentVariable.h"
 #include "text/QORToken.h"
-#include "xml/QORIDOMDocument.h"
-#include "xml/QORIDOMElement.h"
-#include "xml/QORIDOMNodeList.h"
 
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <string>
-#include <string_view>
 #include <unistd.h>
-#include <utility>
-#include <vector>
 
 namespace {
 
+using namespace velkor::test;
+
+constexpr const char* set = "Pset_Fuzz";
+// Nested levels make the entries of a file count as often as there are levels around them.
 constexpr std::size_t longestInput = 1 << 13;
 constexpr int release2x3 = 3, release4 = 4;
 
-void require(bool condition, int line = __builtin_LINE()) {
-    if (condition) return;
-    std::fprintf(stderr, "line %d does not hold\n", line);
-    std::abort();
-}
-
-/// One file, in memory where the system allows, that all components take for theirs.
-class Document {
+/// One file, in memory where the system allows, that all services take for theirs.
+class File {
 public:
-    Document() {
-        std::filesystem::create_directories(_folder);
-        QORListValQORUnicodeString paths;
-        paths.Append(path());
+    File() {
+        const auto definitions = _folder / "resources" / "standard" / "IFCPsetQset";
+        std::filesystem::create_directories(definitions);
+        std::filesystem::create_directory_symlink(definitions, _folder / "IFCAttributes");
+        _path = definitions / (std::string(set) + ".xml");
+        QORListValQORUnicodeString paths, folders;
+        paths.Append(_path.c_str());
+        folders.Append(_folder.c_str());
         const auto data = QORInterface_var<velkor::files::SetupData>::adopt(new velkor::files::SetupData);
         for (const char* key :
              {"IFCDataExchangeResources|IFCDataExchange", "QORAECDataExchangeResources|IFCCustomMapping",
               "QORAECDataExchangeResources|AECDataExchange"})
             data->set(key, paths);
         velkor::files::setSetupDataFinder(data);
+        velkor::files::setRuntimeView(folders);
+        velkor::settings::setVariable("QORCollectionStandard", _folder.c_str());
+        velkor::settings::removeVariable("QORDefaultCollectionStandard");
     }
-    ~Document() { std::filesystem::remove_all(_folder); }
-    Document(const Document&) = delete;
-    Document& operator=(const Document&) = delete;
+    ~File() { std::filesystem::remove_all(_folder); }
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
 
-    QORUnicodeString path() const { return (_folder / "document.xml").c_str(); }
     void write(std::string_view text) const {
-        std::ofstream(path().ConvertToChar(), std::ios::binary)
-            .write(text.data(), static_cast<std::streamsize>(text.size()));
+        std::ofstream(_path, std::ios::binary).write(text.data(), static_cast<std::streamsize>(text.size()));
     }
 
 private:
     static std::filesystem::path place() {
         return std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : std::filesystem::temp_directory_path();
     }
-    std::filesystem::path _folder = place() / ("velkor-fuzz-mapping-" + std::to_string(getpid()));
+    std::filesystem::path _folder = place() / ("velkor-fuzz-" + std::to_string(getpid()));
+    std::filesystem::path _path;
 };
 
 template <class Interface>
@@ -72,29 +73,6 @@ QORInterface_var<Interface> component(const char* name) {
     const QORInterface_var<Interface> made = velkor::objectmodeler::createComponent(name);
     require(!made.IsNull());
     return made;
-}
-
-QORUnicodeString attribute(const QORIDOMElement_var& element, const char* name) {
-    QORUnicodeString value;
-    require(element->GetAttribute(name, value) == S_OK);
-    return value;
-}
-
-template <class Use>
-void forEach(const QORIDOMNodeList_var& nodes, Use use) {
-    unsigned int length = 0;
-    require(nodes->GetLength(length) == S_OK);
-    for (unsigned int i = 0; i < length; ++i) {
-        QORIDOMNode_var node;
-        require(nodes->Item(i, node) == S_OK);
-        use(QORIDOMElement_var(node));
-    }
-}
-template <class Use>
-void forEachElement(const QORIDOMDocument_var& document, const char* tag, Use use) {
-    QORIDOMNodeList_var nodes;
-    require(document->GetElementsByTagName(tag, nodes) == S_OK);
-    forEach(nodes, use);
 }
 
 void checkVersions(const QORIDOMDocument_var& document, std::string_view text) {
@@ -108,7 +86,7 @@ void checkVersions(const QORIDOMDocument_var& document, std::string_view text) {
             services->GetVersionMapping(release2x3, release4, entity, property, toEntity, toProperty);
         require(result == E_FAIL || (result >= IFC_MAPPING_MAPPED && result <= IFC_MAPPING_INTRODUCED_PROPERTY));
         require(result == IFC_MAPPING_MAPPED || (toEntity == "was" && toProperty == "was"));
-        return result;
+        return result != E_FAIL && result != IFC_MAPPING_NONE;
     };
     QORListValQORUnicodeString deprecated, entities, properties, values;
     const HRESULT found = services->GetDeprecatedEntities(release2x3, release4, deprecated);
@@ -117,10 +95,8 @@ void checkVersions(const QORIDOMDocument_var& document, std::string_view text) {
     // A processing instruction can bear the name of an element and ends a walk early.
     if (text.find("<?") != std::string_view::npos) return;
     require(found == same && (found == S_OK || found == S_FALSE));
-    const auto isKnown = [](HRESULT result) { return result != E_FAIL && result != IFC_MAPPING_NONE; };
-    for (const QORUnicodeString& entity : deprecated) require(isKnown(ask(entity, "")));
-    for (int i = 1; i <= entities.Size(); ++i)
-        require(entities[i].IsEmpty() || isKnown(ask(entities[i], properties[i])));
+    for (const QORUnicodeString& entity : deprecated) require(ask(entity, ""));
+    for (int i = 1; i <= entities.Size(); ++i) require(entities[i].IsEmpty() || ask(entities[i], properties[i]));
     forEachElement(document, "Mapping", [&](const QORIDOMElement_var& element) {
         QORUnicodeString entity = attribute(element, "fromEntity");
         ask(entity, attribute(element, "fromProperty"));
@@ -132,42 +108,28 @@ void checkCustom(const QORIDOMDocument_var& document) {
     static const auto services = component<QORIExchangeIFCCustomMappingServices>("ExchangeIFCCustomMappingServices");
     require(SUCCEEDED(services->LoadCustomMapping()) == !document.IsNull());
     if (document.IsNull()) return;
-    using Names = std::pair<QORUnicodeString, QORUnicodeString>;
-    struct Question {
-        Names names;
-        QORUnicodeString scope;
+    const auto isMapped = [](const QORUnicodeString& entity, const QORUnicodeString& property,
+                             const QORUnicodeString& scope) {
+        QORUnicodeString toEntity("was"), toProperty("was");
+        const HRESULT result = services->GetCustomMapping(entity, property, scope, toEntity, toProperty);
+        require(result == IFC_MAPPING_MAPPED || (result == IFC_MAPPING_NONE && toEntity == "was"));
+        return result == IFC_MAPPING_MAPPED;
     };
-    std::map<QORUnicodeString, Names> answers;
-    std::vector<Question> questions;
-    const auto expect = [&](const Names& from, const Names& to, const QORUnicodeString& scope) {
-        QORUnicodeString key = from.first + from.second + scope;
-        key.ToUpper();
-        answers[key] = to;
-        questions.push_back({from, scope});
-    };
-    for (const char* section : {"IfcMapping/StandardMapping", "IfcMapping/CustomMapping"}) {
+    for (const std::string_view section : {"IfcMapping/StandardMapping", "IfcMapping/CustomMapping"}) {
         QORIDOMNodeList_var nodes;
-        require(QORIFCDXXMLServices::GetNodeList(document, section, nodes) == S_OK);
+        require(QORIFCDXXMLServices::GetNodeList(document, section.data(), nodes) == S_OK);
         forEach(nodes, [&](const QORIDOMElement_var& element) {
-            const Names from(attribute(element, "fromEntity"), attribute(element, "fromProperty"));
-            const Names to(attribute(element, "toEntity"), attribute(element, "toProperty"));
+            const auto is = [&](const char* side, const QORUnicodeString& scope) {
+                const std::string entity = side + std::string("Entity"), property = side + std::string("Property");
+                return isMapped(attribute(element, entity.c_str()), attribute(element, property.c_str()), scope);
+            };
             QORToken scopes(attribute(element, "scope"));
             for (auto scope = scopes.GetNextToken(";"); !scope.IsEmpty(); scope = scopes.GetNextToken(";")) {
-                expect(from, to, scope + "_Import");
-                if (std::string_view(section).ends_with("CustomMapping")) expect(to, from, scope + "_Export");
+                require(is("from", scope + "_Import") && !is("from", scope));
+                require(is("to", scope + "_Export") || section.ends_with("StandardMapping"));
             }
         });
     }
-    for (const Question& question : questions) {
-        QORUnicodeString key = question.names.first + question.names.second + question.scope, entity, property;
-        key.ToUpper();
-        require(services->GetCustomMapping(question.names.first, question.names.second, question.scope, entity,
-                                           property) == IFC_MAPPING_MAPPED);
-        require(answers[key] == Names(entity, property));
-    }
-    QORUnicodeString entity("was"), property("was");
-    if (answers.contains("NO_IMPORT")) return;
-    require(services->GetCustomMapping("", "", "no_Import", entity, property) == IFC_MAPPING_NONE && entity == "was");
 }
 
 void checkAec(const QORIDOMDocument_var& document) {
@@ -188,10 +150,9 @@ void checkAec(const QORIDOMDocument_var& document) {
     forEachElement(document, "IFC", [&](const QORIDOMElement_var& element) {
         const QORUnicodeString name = attribute(element, "Name");
         for (const char* value : {"", "yes"}) {
-            QORUnicodeString type, again;
+            QORUnicodeString type;
             const HRESULT result = services->GetPLMTypeFromIFCType(name, value, type);
             require(result == S_OK || (FAILED(result) && type == "DEFAULT"));
-            require(services->GetPLMTypeFromIFCType(name, value, again) == result && type == again);
             const QORBaseUnknown_var object = velkor::knowledge::makeExchangeObject(
                 {"", "", std::string(name.utf8()), "", "", 0}, {{"kind", value}, {"other", "no"}});
             const HRESULT classified = services->GetNeutralIDFromIFCObject(object, type);
@@ -200,24 +161,56 @@ void checkAec(const QORIDOMDocument_var& document) {
     });
 }
 
+QORUnicodeString textOf(const QORIDOMElement_var& element) {
+    QORIDOMNode_var child;
+    QORUnicodeString text;
+    require(element->GetFirstChild(child) == S_OK);
+    if (!child.IsNull()) child->GetNodeValue(text);
+    return text;
+}
+
+void checkCatalogues(const QORIDOMDocument_var& document, std::string_view text) {
+    // Both services read anew, by what the library does when it is unloaded.
+    for (const char* callback : {"_ZN16IFCAttributeList10DeleteInstEi", "_ZN30QORIFCPSetQtoValidationService6OnExitEi"})
+        privateOperation<int(int)>(callback)(1);
+    QORIFCPSetQtoValidationService& service = *QORIFCPSetQtoValidationService::getInstance();
+    require(SUCCEEDED(service.Initialize(set)) == !document.IsNull());
+    require(FAILED(service.Initialize(QORUnicodeString(text.substr(0, 20)))));
+    if (document.IsNull()) return;
+    DXSdaiAppInstance* none = nullptr;
+    forEachElement(document, "ClassName", [&](const QORIDOMElement_var& element) {
+        QORUnicodeString name = textOf(element);
+        if (const int end = name.SearchSubString("/"); end > 0) name = name.SubString(0, end);
+        require(name.IsEmpty() || service.IsClassSupported(set, name, none));
+    });
+    bool isFirst = true;
+    forEachElement(document, "Name", [&](const QORIDOMElement_var& element) {
+        const QORUnicodeString name = textOf(element);
+        require(std::exchange(isFirst, false) || name.IsEmpty() || service.IsPropertySupported(set, name));
+    });
+    require(!service.IsPropertySupported(set, "") && !service.IsClassSupported(set, "", none));
+    forEachElement(document, "AttributeID", [&](const QORIDOMElement_var& entry) {
+        for (const IfcLevel level : {IfcLevelGeneral, IfcLevel2X3, IfcLevel4AndAbove}) {
+            QORUnicodeString value("what it held");
+            const HRESULT result = IFCAttributeList::GetInstance()->GetAttributeValue(
+                attribute(entry, "Name"), attribute(entry, "Entity"), attribute(entry, "PropertySet"), level, value);
+            require(result == (value.IsEmpty() ? E_FAIL : S_OK));
+        }
+    });
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0 || size > longestInput) return 0;
-    static const Document file;
+    static const File file;
     const std::string_view text(reinterpret_cast<const char*>(data) + 1, size - 1);
     file.write(text);
-    QORIDOMDocument_var document;
-    if (QORIFCDXXMLServices::GetDOMDocument(file.path(), document) != S_OK) document = {};
-    switch (data[0] % 3) {
-    case 0:
-        checkVersions(document, text);
-        break;
-    case 1:
-        checkCustom(document);
-        break;
-    default:
-        checkAec(document);
-    }
+    const QORIDOMDocument_var document = parsed(text);
+    const int service = data[0] % 4;
+    if (service == 0) checkVersions(document, text);
+    if (service == 1) checkCustom(document);
+    if (service == 2) checkAec(document);
+    if (service == 3) checkCatalogues(document, text);
     return 0;
 }
