@@ -37,7 +37,7 @@ void setLog(QORExchangeErr* log) {
 }
 
 QORISetupDataFinder_var finder(const Configuration& configuration) {
-    auto* data = new files::SetupData;
+    auto* data = objectmodeler::newComponent<files::SetupData>();
     for (const auto& resource : configuration.setupData) data->set(unicode(resource.key), list(resource.paths));
     return QORISetupDataFinder_var::adopt(data);
 }

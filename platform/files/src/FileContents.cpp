@@ -1,7 +1,9 @@
 #include "files/FileContents.h"
 
+#include "files/InputFile.h"
 #include "files/Paths.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
@@ -63,6 +65,24 @@ int writeBeside(const std::string& path, std::string_view bytes, const mode_t* m
 }
 
 } // namespace
+
+tl::expected<std::string, std::string> readFile(const std::string& path, std::size_t most) {
+    auto file = InputFile::open(path);
+    if (!file) return tl::unexpected(file.error());
+    std::string bytes;
+    std::size_t size = 0;
+    while (size < most) {
+        constexpr std::size_t block = 64 << 10;
+        // Doubled, so that the time stays linear.
+        if (size == bytes.size()) bytes.resize(std::min(most, std::max(block, 2 * size)));
+        const std::ptrdiff_t count = file->read(bytes.data() + size, bytes.size() - size);
+        if (count < 0) return tl::unexpected(std::string(std::strerror(errno)));
+        if (count == 0) break;
+        size += static_cast<std::size_t>(count);
+    }
+    bytes.resize(size);
+    return bytes;
+}
 
 std::string replaceFile(const QORUnicodeString& path, std::string_view bytes) {
     const std::string target = linkTarget(nativePath(path));

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <dirent.h>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -28,6 +29,7 @@ struct CloseStream {
 HRESULT QOROpenDirectory(const QORUnicodeString& path, QORDirectory*& directory) {
     directory = nullptr;
     const std::unique_ptr<DIR, CloseStream> stream(opendir(velkor::files::nativePath(path).c_str()));
+    if (stream == nullptr && errno == ENOMEM) throw std::bad_alloc();
     if (stream == nullptr) return E_FAIL;
     auto read = std::make_unique<QORDirectory>();
     errno = 0;

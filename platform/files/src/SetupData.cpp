@@ -25,7 +25,8 @@ HRESULT SetupData::GetResourceSubItems(const QORUnicodeString& key, QORListValQO
     if (found == _resources.end() || found->second.Size() == 0) return E_FAIL;
     const QORListValQORUnicodeString& paths = found->second;
     const int count = limit < 0 ? paths.Size() : std::min(limit, paths.Size());
-    for (int i = 1; i <= count; ++i) items.Append(QORIKweAppResourceSubItem_var::adopt(new SetupDataItem(paths[i])));
+    for (int i = 1; i <= count; ++i)
+        items.Append(QORIKweAppResourceSubItem_var::adopt(objectmodeler::newComponent<SetupDataItem>(paths[i])));
     return S_OK;
 }
 

@@ -48,12 +48,12 @@ class QOREXMLSAX2Factory final : public QORIXMLSAX2Factory {
 public:
     HRESULT CreateInputSource(const QORUnicodeString& path, const QORUnicodeString& publicId,
                               QORIXMLInputSource_var& source) override {
-        source = QORIXMLInputSource_var::adopt(new QOREXMLInputSource(path, publicId));
+        source = QORIXMLInputSource_var::adopt(objectmodeler::newComponent<QOREXMLInputSource>(path, publicId));
         return S_OK;
     }
     HRESULT CreateInputSourceFromText(std::string_view bytes, const QORUnicodeString& systemId,
                                       QORIXMLInputSource_var& source) override {
-        source = QORIXMLInputSource_var::adopt(new QOREXMLInputSource(bytes, systemId));
+        source = QORIXMLInputSource_var::adopt(objectmodeler::newComponent<QOREXMLInputSource>(bytes, systemId));
         return S_OK;
     }
 };
@@ -111,7 +111,7 @@ class QOREXMLDOMDocumentBuilder final : public QORIXMLDOMDocumentBuilder {
 
 public:
     HRESULT CreateDocument(QORIDOMDocument_var& document) override {
-        document = wrapDocument(xmlNewDoc(xmlText("1.0")), "new document");
+        document = wrapDocument(newDocument(), "new document");
         return S_OK;
     }
     HRESULT GetDOMImplementation(QORIDOMImplementation_var& implementation) override {
@@ -160,7 +160,7 @@ private:
         if (!acceptAll(names, values, isParserOption)) return E_INVALIDARG;
         DocumentPointer read = parse(input, handler);
         if (read == nullptr) return E_FAIL;
-        document = wrapDocument(read.release(), std::string(input.systemId.utf8()));
+        document = wrapDocument(std::move(read), std::string(input.systemId.utf8()));
         return S_OK;
     }
 
@@ -191,13 +191,16 @@ VELKOR_IMPLEMENT_CLASS(QOREXMLDOMDocumentBuilder, QORIXMLDOMDocumentBuilder, nul
 HRESULT CreateQORIXMLDOMDocumentBuilder(const IID& implementation, QORIXMLDOMDocumentBuilder_var& builder) {
     builder = {};
     if (implementation != CLSID_XML4C_DOM && implementation != CLSID_XML4C5_DOM) return E_INVALIDARG;
-    builder = QORIXMLDOMDocumentBuilder_var::adopt(new velkor::xml::QOREXMLDOMDocumentBuilder);
+    // Whatever is done with documents begins here.
+    velkor::xml::initialize();
+    builder = QORIXMLDOMDocumentBuilder_var::adopt(
+        velkor::objectmodeler::newComponent<velkor::xml::QOREXMLDOMDocumentBuilder>());
     return S_OK;
 }
 
 HRESULT CreateQORIXMLSAX2Factory(const IID& implementation, QORIXMLSAX2Factory_var& factory) {
     factory = {};
     if (implementation != CLSID_XML4C5_SAX) return E_INVALIDARG;
-    factory = QORIXMLSAX2Factory_var::adopt(new velkor::xml::QOREXMLSAX2Factory);
+    factory = QORIXMLSAX2Factory_var::adopt(velkor::objectmodeler::newComponent<velkor::xml::QOREXMLSAX2Factory>());
     return S_OK;
 }

@@ -1,18 +1,19 @@
 #include "DocumentStore.h"
 
+#include "Messages.h"
 #include "Nodes.h"
 #include "text/Unicode.h"
 #include "Traversal.h"
 
 #include <libxml/chvalid.h>
 #include <libxml/tree.h>
+#include <new>
 
 namespace velkor::xml {
 
 DocumentStore::~DocumentStore() {
     // While the document is there: the nodes' names may stand in its dictionary.
     for (const xmlNodePtr node : _detached) xmlFreeNode(node);
-    xmlFreeDoc(_document);
 }
 
 QORIDOMNode_var DocumentStore::wrap(xmlNodePtr node) {
@@ -22,10 +23,17 @@ QORIDOMNode_var DocumentStore::wrap(xmlNodePtr node) {
 }
 
 void DocumentStore::detach(xmlNodePtr node) {
-    for (NodeIterator* iterator : _iterators) iterator->leave(node);
-    xmlUnlinkNode(node);
     _detached.insert(node);
-    if (node->type == XML_ELEMENT_NODE) xmlReconciliateNs(_document, node);
+    for (NodeIterator* iterator : _iterators) iterator->leave(node);
+    const xmlNodePtr parent = node->parent, next = node->next;
+    xmlUnlinkNode(node);
+    if (node->type == XML_ELEMENT_NODE) {
+        MessageCapture capture;
+        if (xmlReconciliateNs(document(), node) < 0 || capture.hasFailed()) {
+            attach(node, parent, next);
+            throw std::bad_alloc();
+        }
+    }
     noteChange();
 }
 
@@ -59,10 +67,9 @@ std::string attributeText(const xmlAttr* attribute) {
     if (text == nullptr) return {};
     // One text nearly always; a reference to an unknown entity splits it.
     if (text->next == nullptr && text->type == XML_TEXT_NODE) return std::string(view(text->content));
-    xmlChar* joined = xmlNodeListGetString(attribute->doc, attribute->children, 1);
-    std::string result(view(joined));
-    xmlFree(joined);
-    return result;
+    std::string joined;
+    for (; text != nullptr; text = text->next) joined += view(text->content);
+    return joined;
 }
 
 xmlAttrPtr findAttribute(const xmlNode* element, std::string_view name) noexcept {

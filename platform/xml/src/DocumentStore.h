@@ -15,24 +15,33 @@ namespace velkor::xml {
 
 class NodeIterator;
 
+struct Discard {
+    void operator()(xmlDocPtr document) const noexcept { xmlFreeDoc(document); }
+    void operator()(xmlNodePtr node) const noexcept { xmlFreeNode(node); }
+    void operator()(xmlAttrPtr attribute) const noexcept { xmlRemoveProp(attribute); }
+};
+using DocumentPointer = std::unique_ptr<xmlDoc, Discard>;
+using NodePointer = std::unique_ptr<xmlNode, Discard>;
+
 /// Elements nest no deeper, read or written.
 inline constexpr int maximumDepth = 256;
 
 class DocumentStore : public std::enable_shared_from_this<DocumentStore> {
 public:
     /// Takes over the document. `name` is what messages call it.
-    DocumentStore(xmlDocPtr document, std::string name) : _document(document), _name(std::move(name)) {}
+    DocumentStore(DocumentPointer document, std::string name)
+        : _document(std::move(document)), _name(std::move(name)) {}
     ~DocumentStore();
     DocumentStore(const DocumentStore&) = delete;
     DocumentStore& operator=(const DocumentStore&) = delete;
 
-    xmlDocPtr document() const noexcept { return _document; }
+    xmlDocPtr document() const noexcept { return _document.get(); }
     const std::string& name() const noexcept { return _name; }
 
     /// The one wrapper of a node, made when there is none; empty for null.
     QORIDOMNode_var wrap(xmlNodePtr node);
     QORIDOMNode_var wrap(xmlAttrPtr attribute) { return wrap(reinterpret_cast<xmlNodePtr>(attribute)); }
-    QORIDOMNode_var wrapDocument() { return wrap(reinterpret_cast<xmlNodePtr>(_document)); }
+    QORIDOMNode_var wrapDocument() { return wrap(reinterpret_cast<xmlNodePtr>(document())); }
 
     /// Number of changes of the tree so far: lists that follow the document compare it.
     unsigned long changes() const noexcept { return _changes; }
@@ -40,7 +49,12 @@ public:
 
     /// Nodes outside the tree are freed with the document.
     void keepDetached(xmlNodePtr node) { _detached.insert(node); }
-    /// Takes a node out of the tree, iterators past it, and makes its namespaces its own.
+    void keepDetached(NodePointer node) {
+        _detached.insert(node.get());
+        static_cast<void>(node.release());
+    }
+    /// Takes a node out of the tree, iterators past it, and makes its namespaces its own. Without memory it
+    /// stays in its place.
     void detach(xmlNodePtr node);
     /// Links a detached or attached node as a child before `reference`, last for null.
     void attach(xmlNodePtr node, xmlNodePtr parent, xmlNodePtr reference);
@@ -49,7 +63,7 @@ public:
     void removeIterator(NodeIterator& iterator) { std::erase(_iterators, &iterator); }
 
 private:
-    xmlDocPtr _document;
+    DocumentPointer _document;
     std::string _name;
     unsigned long _changes = 0;
     std::unordered_set<xmlNodePtr> _detached;

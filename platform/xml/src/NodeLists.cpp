@@ -49,11 +49,13 @@ VELKOR_IMPLEMENT_CLASS(QOREDOMNodeList, QORIDOMNodeList, nullptr, "XMLParser")
 } // namespace
 
 QORIDOMNodeList_var fixedList(std::shared_ptr<DocumentStore> store, Nodes nodes) {
-    return QORIDOMNodeList_var::adopt(new QOREDOMNodeList(std::move(store), std::move(nodes), nullptr));
+    return QORIDOMNodeList_var::adopt(
+        objectmodeler::newComponent<QOREDOMNodeList>(std::move(store), std::move(nodes), nullptr));
 }
 
 QORIDOMNodeList_var liveList(std::shared_ptr<DocumentStore> store, std::function<Nodes()> collect) {
-    return QORIDOMNodeList_var::adopt(new QOREDOMNodeList(std::move(store), {}, std::move(collect)));
+    return QORIDOMNodeList_var::adopt(
+        objectmodeler::newComponent<QOREDOMNodeList>(std::move(store), Nodes(), std::move(collect)));
 }
 
 QORIDOMNodeList_var elementsByTagName(std::shared_ptr<DocumentStore> store, xmlNodePtr root, std::string name) {

@@ -1,5 +1,6 @@
 #include "Nodes.h"
 
+#include "Messages.h"
 #include "NodeLists.h"
 #include "Traversal.h"
 #include "xml/QORIDOMAttr.h"
@@ -81,13 +82,51 @@ bool mayHold(xmlElementType type, std::string_view text) noexcept {
     }
 }
 
+NodePointer newText(xmlDocPtr document, const std::string& text) {
+    return NodePointer(made([&] { return xmlNewDocText(document, xmlText(text)); }, Discard()));
+}
+
 void setAttributeText(xmlAttrPtr attribute, const std::string& text) {
-    const bool isId = attribute->atype == XML_ATTRIBUTE_ID;
-    if (isId) xmlRemoveID(attribute->doc, attribute);
+    NodePointer content = newText(attribute->doc, text);
+    bool isId = attribute->atype == XML_ATTRIBUTE_ID;
+    if (isId && text != attributeText(attribute)) {
+        // The new one first: the one that goes needs no memory.
+        const MessageCapture capture;
+        isId = xmlAddID(nullptr, attribute->doc, xmlText(text), attribute) != nullptr;
+        capture.check();
+        xmlRemoveID(attribute->doc, attribute);
+        if (isId) attribute->atype = XML_ATTRIBUTE_ID;
+    }
     xmlFreeNodeList(attribute->children);
-    attribute->children = attribute->last = xmlNewDocText(attribute->doc, xmlText(text));
-    attribute->children->parent = reinterpret_cast<xmlNodePtr>(attribute);
-    if (isId) xmlAddID(nullptr, attribute->doc, xmlText(text), attribute);
+    content->parent = reinterpret_cast<xmlNodePtr>(attribute);
+    attribute->children = attribute->last = content.release();
+}
+
+/// Null, and no attribute, when its name or text is not there for want of memory.
+xmlAttrPtr whole(xmlAttrPtr attribute) noexcept {
+    if (attribute == nullptr ||
+        (attribute->name != nullptr && attribute->children != nullptr && attribute->children->content != nullptr)) {
+        return attribute;
+    }
+    xmlRemoveProp(attribute);
+    return nullptr;
+}
+xmlNodePtr whole(xmlNodePtr node) noexcept {
+    // Sections have no name, all others have one.
+    if (node == nullptr || node->name != nullptr || node->type == XML_CDATA_SECTION_NODE) return node;
+    xmlFreeNode(node);
+    return nullptr;
+}
+
+/// Swaps texts with a new node, so that the one that goes is freed as what it is.
+void setText(xmlNodePtr node, const std::string& text) {
+    const NodePointer source = newText(node->doc, text);
+    // libxml2 keeps a short text in a place of the node itself.
+    if (node->content == reinterpret_cast<xmlChar*>(&node->properties)) {
+        node->content = nullptr;
+        node->properties = nullptr;
+    }
+    std::swap(node->content, source->content);
 }
 
 /// Whether a node may become a child of another, before one of its children or last.
@@ -134,7 +173,7 @@ public:
         if (node->type == XML_ATTRIBUTE_NODE)
             setAttributeText(reinterpret_cast<xmlAttrPtr>(node), text);
         else
-            xmlNodeSetContent(node, xmlText(text));
+            setText(node, text);
         return S_OK;
     }
     HRESULT GetTextContent(QORUnicodeString& text) override {
@@ -292,16 +331,16 @@ public:
             if (prefixNamespace == nullptr) return E_INVALIDARG;
         }
         const std::string localName = attributeName.substr(colon == std::string::npos ? 0 : colon + 1);
-        xmlNewNsProp(node, prefixNamespace, xmlText(localName), xmlText(text));
+        made([&] { return whole(xmlNewNsProp(node, prefixNamespace, xmlText(localName), xmlText(text))); }, Discard());
         store->noteChange();
         return S_OK;
     }
     HRESULT RemoveAttribute(const QORUnicodeString& name) override {
         const xmlAttrPtr attribute = findAttribute(node, name.utf8());
         if (attribute == nullptr) return S_OK;
+        store->keepDetached(reinterpret_cast<xmlNodePtr>(attribute));
         if (attribute->atype == XML_ATTRIBUTE_ID) xmlRemoveID(attribute->doc, attribute);
         xmlUnlinkNode(reinterpret_cast<xmlNodePtr>(attribute));
-        store->keepDetached(reinterpret_cast<xmlNodePtr>(attribute));
         store->noteChange();
         return S_OK;
     }
@@ -344,17 +383,20 @@ public:
 VELKOR_IMPLEMENT_CLASS(QOREDOMDocumentType, QORIDOMDocumentType, nullptr, "XMLParser")
 
 /// An element that declares its namespace itself; null for a name that is none.
-xmlNodePtr newElement(xmlDocPtr document, const QORUnicodeString& uri, const QORUnicodeString& name) {
+NodePointer newElement(xmlDocPtr document, const QORUnicodeString& uri, const QORUnicodeString& name) {
     const std::string full(name.utf8()), href(uri.utf8());
     const std::size_t colon = full.find(':');
     if (!isQualifiedName(full) || !isXmlText(href) || (colon != std::string::npos && href.empty())) return nullptr;
     const std::string prefix = colon == std::string::npos ? std::string() : full.substr(0, colon);
     const std::string local = colon == std::string::npos ? full : full.substr(colon + 1);
     if (prefix == "xmlns" || (prefix == "xml" && href != view(XML_XML_NAMESPACE))) return nullptr;
-    xmlNodePtr element = xmlNewDocNode(document, nullptr, xmlText(local), nullptr);
+    NodePointer element(made([&] { return xmlNewDocNode(document, nullptr, xmlText(local), nullptr); }, Discard()));
     if (!href.empty()) {
-        element->ns = prefix == "xml" ? xmlSearchNs(document, element, xmlText(prefix))
-                                      : xmlNewNs(element, xmlText(href), prefix.empty() ? nullptr : xmlText(prefix));
+        const auto declared = [&] {
+            return prefix == "xml" ? xmlSearchNs(document, element.get(), xmlText(prefix))
+                                   : xmlNewNs(element.get(), xmlText(href), prefix.empty() ? nullptr : xmlText(prefix));
+        };
+        element->ns = made(declared, [](xmlNsPtr) {});
     }
     return element;
 }
@@ -437,17 +479,19 @@ private:
         return extension != nullptr ? S_OK : E_NOINTERFACE;
     }
     template <class Node>
-    HRESULT keep(xmlNodePtr made, QORInterface_var<Node>& result) {
+    HRESULT keep(NodePointer node, QORInterface_var<Node>& result) {
         result = {};
-        if (made == nullptr) return E_INVALIDARG;
-        store->keepDetached(made);
-        return give(made, result);
+        if (node == nullptr) return E_INVALIDARG;
+        const xmlNodePtr kept = node.get();
+        store->keepDetached(std::move(node));
+        return give(kept, result);
     }
     template <class Make>
     HRESULT create(xmlElementType type, const QORUnicodeString& text, QORIDOMNode_var& result, Make make) {
         result = {};
         if (!mayHold(type, text.utf8())) return E_INVALIDARG;
-        return keep(make(xmlText(std::string(text.utf8()))), result);
+        const std::string content(text.utf8());
+        return keep(NodePointer(made([&] { return whole(make(xmlText(content))); }, Discard())), result);
     }
 };
 
@@ -460,18 +504,18 @@ public:
     HRESULT CreateDocument(const QORUnicodeString& uri, const QORUnicodeString& qualifiedName,
                            const QORIDOMDocumentType_var& type, QORIDOMDocument_var& document) override {
         document = {};
-        const xmlDocPtr made = xmlNewDoc(xmlText("1.0"));
+        DocumentPointer fresh = newDocument();
         if (const NodeHandle* declared = handleOf(type)) {
             const auto* copied = reinterpret_cast<const xmlDtd*>(declared->node);
-            xmlCreateIntSubset(made, copied->name, copied->ExternalID, copied->SystemID);
+            const auto copy = [&] {
+                return xmlCreateIntSubset(fresh.get(), copied->name, copied->ExternalID, copied->SystemID);
+            };
+            made(copy, [](xmlDtdPtr) {});
         }
-        const xmlNodePtr element = newElement(made, uri, qualifiedName);
-        if (element == nullptr) {
-            xmlFreeDoc(made);
-            return E_INVALIDARG;
-        }
-        xmlDocSetRootElement(made, element);
-        document = wrapDocument(made, "new document");
+        NodePointer element = newElement(fresh.get(), uri, qualifiedName);
+        if (element == nullptr) return E_INVALIDARG;
+        xmlDocSetRootElement(fresh.get(), element.release());
+        document = wrapDocument(std::move(fresh), "new document");
         return S_OK;
     }
 };
@@ -488,15 +532,15 @@ QORIDOMNode* makeWrapper(std::shared_ptr<DocumentStore> store, xmlNodePtr node) 
     const auto make = [&]() -> QORIDOMNode* {
         switch (node->type) {
         case XML_ELEMENT_NODE:
-            return new QOREDOMElement(std::move(store), node);
+            return objectmodeler::newComponent<QOREDOMElement>(std::move(store), node);
         case XML_ATTRIBUTE_NODE:
-            return new QOREDOMAttr(std::move(store), node);
+            return objectmodeler::newComponent<QOREDOMAttr>(std::move(store), node);
         case XML_DOCUMENT_NODE:
-            return new QOREDOMDocument(std::move(store), node);
+            return objectmodeler::newComponent<QOREDOMDocument>(std::move(store), node);
         case XML_DTD_NODE:
-            return new QOREDOMDocumentType(std::move(store), node);
+            return objectmodeler::newComponent<QOREDOMDocumentType>(std::move(store), node);
         default:
-            return new QOREDOMNode(std::move(store), node);
+            return objectmodeler::newComponent<QOREDOMNode>(std::move(store), node);
         }
     };
     QORIDOMNode* wrapper = make();
@@ -504,12 +548,16 @@ QORIDOMNode* makeWrapper(std::shared_ptr<DocumentStore> store, xmlNodePtr node) 
     return wrapper;
 }
 
-QORIDOMDocument_var wrapDocument(xmlDocPtr document, std::string name) {
-    return std::make_shared<DocumentStore>(document, std::move(name))->wrapDocument();
+DocumentPointer newDocument() {
+    return DocumentPointer(made([] { return xmlNewDoc(xmlText("1.0")); }, Discard()));
+}
+
+QORIDOMDocument_var wrapDocument(DocumentPointer document, std::string name) {
+    return std::make_shared<DocumentStore>(std::move(document), std::move(name))->wrapDocument();
 }
 
 QORIDOMImplementation_var domImplementation() {
-    return QORIDOMImplementation_var::adopt(new QOREDOMImplementation);
+    return QORIDOMImplementation_var::adopt(objectmodeler::newComponent<QOREDOMImplementation>());
 }
 
 } // namespace velkor::xml

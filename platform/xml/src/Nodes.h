@@ -26,8 +26,10 @@ NodeHandle* handleOf(const QORBaseUnknown_var& node);
 /// A new wrapper with one reference, noted in the node.
 QORIDOMNode* makeWrapper(std::shared_ptr<DocumentStore> store, xmlNodePtr node);
 
-/// The wrapper of a new document, which it takes over.
-QORIDOMDocument_var wrapDocument(xmlDocPtr document, std::string name);
+/// A document without anything in it.
+DocumentPointer newDocument();
+/// The wrapper of a new document.
+QORIDOMDocument_var wrapDocument(DocumentPointer document, std::string name);
 
 /// The maker of documents.
 QORIDOMImplementation_var domImplementation();

@@ -1,18 +1,17 @@
 #include "Parser.h"
 
 #include "DocumentStore.h"
+#include "files/InputFile.h"
 #include "files/Paths.h"
 #include "Messages.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <fcntl.h>
+#include <functional>
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 #include <libxml/SAX2.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <new>
 #include <utility>
 
 namespace velkor::xml {
@@ -23,29 +22,48 @@ namespace {
 constexpr int maximumMessages = 20;
 /// Bytes that a document type may add to the attributes of its document by defaults.
 constexpr std::size_t maximumDefaults = 16U << 20U;
+/// What an attribute takes beside its text.
+constexpr std::size_t attributeSize = sizeof(xmlAttr) + sizeof(xmlNode);
+/// libxml2 compares every attribute of an element with every other, and looks for namespaces one by one.
+constexpr int maximumAttributes = 1000;
+constexpr int maximumNamespaces = 1000;
+/// Attributes that a document type declares: each may be a default of the same element.
+constexpr int maximumDeclarations = 10000;
+/// Bytes of an entity that has markup.
+constexpr int longestMarkup = 64 << 10;
 
 class Parse {
 public:
     Parse(std::string name, const QORIXMLErrorHandler_var& handler)
         : _name(std::move(name)), _handler(handler), _capture([this](const std::string& text) { other(text); }) {
-        static const bool isReady = (xmlInitParser(), true);
-        static_cast<void>(isReady);
-        _context = xmlNewParserCtxt();
+        if (_context == nullptr) throw std::bad_alloc();
         _context->_private = this;
         // A parser context has handlers of its own, so that nothing process-wide is touched.
         xmlSAXHandler& sax = *_context->sax;
-        sax.serror = [](void* context, xmlErrorPtr error) { of(context).report(*error); };
+        sax.serror = [](void* context, xmlErrorPtr error) {
+            of(context)._capture.guard([&] { of(context).report(*error); });
+        };
         sax.getEntity = [](void* context, const xmlChar* name) {
-            return of(context).refuseExternal(context, xmlSAX2GetEntity(context, name));
+            return of(context).boundEntity(context, xmlSAX2GetEntity(context, name));
         };
         sax.getParameterEntity = [](void* context, const xmlChar* name) {
-            return of(context).refuseExternal(context, xmlSAX2GetParameterEntity(context, name));
+            return of(context).boundEntity(context, xmlSAX2GetParameterEntity(context, name));
+        };
+        sax.entityDecl = [](void* context, const xmlChar* name, int type, const xmlChar* publicId,
+                            const xmlChar* systemId, xmlChar* content) {
+            xmlSAX2EntityDecl(context, name, type, publicId, systemId, content);
+            of(context).checkDeclared(context, name, type);
         };
         sax.externalSubset = [](void*, const xmlChar*, const xmlChar*, const xmlChar*) {};
+        sax.attributeDecl = [](void* context, const xmlChar* element, const xmlChar* name, int type, int use,
+                               const xmlChar* value, xmlEnumerationPtr values) {
+            of(context).step(context, [&] { of(context).boundDeclarations(context); });
+            xmlSAX2AttributeDecl(context, element, name, type, use, value, values);
+        };
         sax.startElementNs = [](void* context, const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri,
                                 int namespaceCount, const xmlChar** namespaces, int count, int defaulted,
                                 const xmlChar** attributes) {
-            of(context).boundElement(context, attributes, count, defaulted);
+            of(context).step(context, [&] { of(context).boundElement(context, attributes, count, defaulted); });
             xmlSAX2StartElementNs(context, localName, prefix, uri, namespaceCount, namespaces, count, defaulted,
                                   attributes);
         };
@@ -56,16 +74,17 @@ public:
 
     DocumentPointer fromBytes(std::string_view bytes) {
         if (bytes.size() > maximumBytes) return refuse("is larger than 2 GB");
-        return take(
-            xmlCtxtReadMemory(_context, bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr, options));
+        return take([&](char* buffer, std::size_t size) {
+            const std::size_t count = bytes.copy(buffer, size);
+            bytes.remove_prefix(count);
+            return static_cast<std::ptrdiff_t>(count);
+        });
     }
 
     DocumentPointer fromFile(const QORUnicodeString& path) {
-        const int file = open(files::nativePath(path).c_str(), O_RDONLY | O_CLOEXEC);
-        struct stat status {};
-        if (file < 0 || fstat(file, &status) != 0) return close(file, refuse(cannotRead(errno)));
-        if (S_ISDIR(status.st_mode)) return close(file, refuse(cannotRead(EISDIR)));
-        return close(file, take(xmlCtxtReadFd(_context, file, nullptr, nullptr, options)));
+        auto file = files::InputFile::open(files::nativePath(path));
+        if (!file) return refuse("cannot be read: " + file.error());
+        return take([&](char* buffer, std::size_t size) { return file->read(buffer, size); });
     }
 
 private:
@@ -75,10 +94,31 @@ private:
     static constexpr int options = XML_PARSE_NOENT | XML_PARSE_DTDATTR | XML_PARSE_NONET | XML_PARSE_BIG_LINES;
 
     static Parse& of(void* context) { return *static_cast<Parse*>(static_cast<xmlParserCtxtPtr>(context)->_private); }
-    static std::string cannotRead(int error) { return std::string("cannot be read: ") + std::strerror(error); }
-    static DocumentPointer close(int file, DocumentPointer document) {
-        if (file >= 0) ::close(file);
-        return document;
+
+    /// Runs a step of a handler. When the parse has failed, nothing more is parsed.
+    template <class Step>
+    void step(void* context, Step run) noexcept {
+        _capture.guard(run);
+        if (_capture.hasFailed()) halt(context);
+    }
+    static void halt(void* context) noexcept {
+        // Else what a handler refuses is looked up all the same.
+        static_cast<xmlParserCtxtPtr>(context)->wellFormed = 0;
+        xmlStopParser(static_cast<xmlParserCtxtPtr>(context));
+    }
+
+    /// Hands a part of the input to the parser, which may not be stopped meanwhile: the input ends.
+    int feed(char* buffer, int size) {
+        int count = 0;
+        _capture.guard([&] {
+            if (!_isStopped) boundTag();
+            if (_isStopped || _capture.hasFailed()) return;
+            const std::ptrdiff_t read = _read(buffer, static_cast<std::size_t>(size));
+            if (read < 0) refuse(std::string("cannot be read: ") + std::strerror(errno));
+            _isStopped = read < 0;
+            count = static_cast<int>(read);
+        });
+        return count;
     }
 
     DocumentPointer refuse(const std::string& reason) {
@@ -86,8 +126,13 @@ private:
         return nullptr;
     }
 
-    DocumentPointer take(xmlDocPtr read) {
-        DocumentPointer document(read);
+    DocumentPointer take(std::function<std::ptrdiff_t(char*, std::size_t)> read) {
+        _read = std::move(read);
+        DocumentPointer document(xmlCtxtReadIO(
+            _context,
+            [](void* parse, char* buffer, int size) { return static_cast<Parse*>(parse)->feed(buffer, size); }, nullptr,
+            this, nullptr, nullptr, options));
+        _capture.check();
         const bool isGood = _context->wellFormed != 0 && _context->nsWellFormed != 0 && !_isStopped;
         if (document == nullptr || !isGood) {
             if (!_isTold) tell(true, "is no XML document", 0, 0);
@@ -103,7 +148,7 @@ private:
 
     void report(const xmlError& error) {
         // What follows from stopping is no news.
-        if (_isStopped) return;
+        if (_capture.isOfMemory(error) || _isStopped) return;
         // Positions inside an entity mean nothing to a reader of the file.
         const xmlParserInput* file = _context->inputNr > 0 ? _context->inputTab[0] : nullptr;
         tell(error.level != XML_ERR_WARNING, messageText(error), file != nullptr ? file->line : error.line,
@@ -111,36 +156,78 @@ private:
     }
 
     // The content of an entity is parsed in a context of its own, which is the one to be stopped.
-    xmlEntityPtr refuseExternal(void* context, xmlEntityPtr entity) {
-        if (entity == nullptr ||
-            (entity->etype != XML_EXTERNAL_GENERAL_PARSED_ENTITY && entity->etype != XML_EXTERNAL_PARAMETER_ENTITY)) {
-            return entity;
-        }
-        stop(context, "the external entity \"" + std::string(view(entity->name)) + "\" is not read");
+    xmlEntityPtr boundEntity(void* context, xmlEntityPtr entity) noexcept {
+        const Fault fault = entity == nullptr ? Fault() : faultOf(*entity);
+        if (fault.kind == nullptr) return entity;
+        step(context,
+             [&] { stop(context, fault.kind + (" \"" + std::string(view(entity->name)) + "\" ") + fault.reason); });
         return nullptr;
+    }
+    struct Fault {
+        const char* kind = nullptr;
+        const char* reason = nullptr;
+    };
+    static Fault faultOf(const xmlEntity& entity) noexcept {
+        if (entity.etype == XML_EXTERNAL_GENERAL_PARSED_ENTITY || entity.etype == XML_EXTERNAL_PARAMETER_ENTITY)
+            return {"the external entity", "is not read"};
+        // Its elements are bounded only when they have been read.
+        if (entity.etype == XML_INTERNAL_GENERAL_ENTITY && entity.length > longestMarkup &&
+            view(entity.content).find('<') != std::string_view::npos)
+            return {"the entity", "has more than 64 KB with elements"};
+        return {};
+    }
+
+    // libxml2 does not tell that it lacks memory for an entity; it would be told as one that is not defined.
+    void checkDeclared(void* context, const xmlChar* name, int type) noexcept {
+        const bool isParameter = type == XML_INTERNAL_PARAMETER_ENTITY || type == XML_EXTERNAL_PARAMETER_ENTITY;
+        if ((isParameter ? xmlSAX2GetParameterEntity(context, name) : xmlSAX2GetEntity(context, name)) != nullptr)
+            return;
+        step(context, [] { throw std::bad_alloc(); });
+    }
+
+    void boundDeclarations(void* context) {
+        if (++_declarations == maximumDeclarations + 1) {
+            stop(context, "more than " + std::to_string(maximumDeclarations) + " attributes are declared");
+        }
     }
 
     void boundElement(void* context, const xmlChar** attributes, int count, int defaulted) {
-        if (static_cast<xmlParserCtxtPtr>(context)->nameNr >= maximumDepth) {
-            stop(context, "elements nest deeper than " + std::to_string(maximumDepth));
-        }
+        const xmlParserCtxt& parser = *static_cast<xmlParserCtxtPtr>(context);
+        if (parser.nameNr >= maximumDepth) stop(context, "elements nest deeper than " + std::to_string(maximumDepth));
+        if (count > maximumAttributes) stop(context, tooManyAttributes());
+        if (parser.nsNr / 2 > maximumNamespaces) stop(context, tooManyNamespaces());
         for (int i = count - defaulted; i < count; ++i) {
             // Five pointers each: local name, prefix, namespace, begin and end of the value.
             const xmlChar** attribute = attributes + static_cast<std::ptrdiff_t>(i) * 5;
-            _defaults += static_cast<std::size_t>(attribute[4] - attribute[3]);
+            _defaults += static_cast<std::size_t>(attribute[4] - attribute[3]) + attributeSize;
         }
         if (_defaults > maximumDefaults) stop(context, "the defaults of attributes add more than 16 MB");
     }
 
-    void stop(void* context, const std::string& reason) {
-        if (!_isStopped) {
-            const xmlParserInput* file = _context->inputNr > 0 ? _context->inputTab[0] : nullptr;
-            tell(true, reason, file != nullptr ? file->line : 0, file != nullptr ? file->col : 0);
-        }
+    // While a tag is being read: at its end the work is done already. There is room for twice as many attributes
+    // as have been needed.
+    void boundTag() {
+        const bool hasAttributes = _context->maxatts > 2 * 5 * (maximumAttributes + 1);
+        if (!hasAttributes && _context->nsNr / 2 <= maximumNamespaces) return;
+        tellHere(hasAttributes ? tooManyAttributes() : tooManyNamespaces());
         _isStopped = true;
-        // Else what a handler refuses is looked up all the same.
-        static_cast<xmlParserCtxtPtr>(context)->wellFormed = 0;
-        xmlStopParser(static_cast<xmlParserCtxtPtr>(context));
+    }
+    static std::string tooManyAttributes() {
+        return "an element has more than " + std::to_string(maximumAttributes) + " attributes";
+    }
+    static std::string tooManyNamespaces() {
+        return "more than " + std::to_string(maximumNamespaces) + " namespaces are in force";
+    }
+
+    void stop(void* context, const std::string& reason) {
+        if (!_isStopped) tellHere(reason);
+        _isStopped = true;
+        halt(context);
+    }
+
+    void tellHere(const std::string& reason) {
+        const xmlParserInput* file = _context->inputNr > 0 ? _context->inputTab[0] : nullptr;
+        tell(true, reason, file != nullptr ? file->line : 0, file != nullptr ? file->col : 0);
     }
 
     void tell(bool isError, const std::string& text, int line, int column) {
@@ -160,8 +247,10 @@ private:
     std::string _name;
     QORIXMLErrorHandler_var _handler;
     MessageCapture _capture;
-    xmlParserCtxtPtr _context = nullptr;
+    xmlParserCtxtPtr _context = xmlNewParserCtxt();
+    std::function<std::ptrdiff_t(char*, std::size_t)> _read;
     std::size_t _defaults = 0;
+    int _declarations = 0;
     int _messages = 0;
     bool _isTold = false;
     bool _isStopped = false;

@@ -1,20 +1,14 @@
 /// Reads an XML document with libxml2, safely.
 #pragma once
 
+#include "DocumentStore.h"
 #include "xml/QORIXMLErrorHandler.h"
 
-#include <libxml/tree.h>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace velkor::xml {
-
-struct FreeDocument {
-    void operator()(xmlDocPtr document) const { xmlFreeDoc(document); }
-};
-using DocumentPointer = std::unique_ptr<xmlDoc, FreeDocument>;
 
 /// What is to be read: a file, or bytes that are there already.
 struct Input {

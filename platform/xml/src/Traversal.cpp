@@ -20,7 +20,8 @@ public:
         iterator = {};
         const NodeHandle* handle = handleOf(root);
         if (handle == nullptr || handle->store != _store) return E_INVALIDARG;
-        iterator = QORIDOMNodeIterator_var::adopt(new NodeIterator(_store, handle->node, whatToShow, filter));
+        iterator = QORIDOMNodeIterator_var::adopt(
+            objectmodeler::newComponent<NodeIterator>(_store, handle->node, whatToShow, filter));
         return S_OK;
     }
 
@@ -118,7 +119,8 @@ HRESULT NodeIterator::accept(xmlNodePtr candidate, QORIDOMNode_var& node, bool& 
 }
 
 IUnknown* traversalOf(QORBaseUnknown& document, std::shared_ptr<DocumentStore> store) {
-    const auto traversal = QORBaseUnknown_var::adopt(new QOREDOMDocumentTraversal(std::move(store)));
+    const auto traversal =
+        QORBaseUnknown_var::adopt(objectmodeler::newComponent<QOREDOMDocumentTraversal>(std::move(store)));
     return ToCreateBOA(&document, traversal.get(), QOREDOMDocumentTraversal::MetaObject(),
                        QORIDOMDocumentTraversal::ClassId(), objectmodeler::createNothing);
 }

@@ -1,6 +1,7 @@
 #include "Writer.h"
 
 #include "DocumentStore.h"
+#include "Messages.h"
 
 #include <memory>
 #include <string_view>
@@ -174,8 +175,11 @@ private:
     }
 
     void writeDeclaration(xmlNodePtr declaration) {
-        const std::unique_ptr<xmlBuffer, void (*)(xmlBufferPtr)> buffer(xmlBufferCreate(), xmlBufferFree);
+        const std::unique_ptr<xmlBuffer, void (*)(xmlBufferPtr)> buffer(made(xmlBufferCreate, xmlBufferFree),
+                                                                        xmlBufferFree);
+        const MessageCapture capture;
         xmlNodeDump(buffer.get(), declaration->doc, declaration, 0, 0);
+        capture.check();
         writeVerbatim({}, view(xmlBufferContent(buffer.get())), {});
     }
 

@@ -7,6 +7,7 @@
 #include <libxml/xpath.h>
 #include <libxml/xpathInternals.h>
 #include <memory>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -18,6 +19,7 @@ struct Free {
     void operator()(xmlXPathContextPtr context) const { xmlXPathFreeContext(context); }
     void operator()(xmlXPathCompExprPtr expression) const { xmlXPathFreeCompExpr(expression); }
     void operator()(xmlXPathObjectPtr object) const { xmlXPathFreeObject(object); }
+    void operator()(xmlXPathParserContextPtr parser) const { xmlXPathFreeParserContext(parser); }
 };
 using Context = std::unique_ptr<xmlXPathContext, Free>;
 using Compiled = std::unique_ptr<xmlXPathCompExpr, Free>;
@@ -28,17 +30,22 @@ class QOREXMLXPathExpression final : public QORIXMLXPathExpression {
 
 public:
     QOREXMLXPathExpression(std::shared_ptr<DocumentStore> store, std::string text)
-        : _store(std::move(store)), _text(std::move(text)), _context(xmlXPathNewContext(_store->document())) {
+        : _store(std::move(store)), _text(std::move(text)),
+          _context(made([this] { return xmlXPathNewContext(_store->document()); }, Free())) {
         const MessageCapture capture([this](const std::string& message) { report(message); });
-        _compiled.reset(xmlXPathCtxtCompile(_context.get(), xmlText(_text)));
+        _isCompiled = Compiled(xmlXPathCtxtCompile(_context.get(), xmlText(_text))) != nullptr;
+        check(capture);
     }
-    bool isCompiled() const noexcept { return _compiled != nullptr; }
+    bool isCompiled() const noexcept { return _isCompiled; }
 
     HRESULT SetNamespaces(const QORListValQORUnicodeString& prefixes, const QORListValQORUnicodeString& uris) override {
         if (prefixes.Size() != uris.Size()) return E_INVALIDARG;
+        const MessageCapture capture;
         for (int i = 1; i <= prefixes.Size(); ++i) {
             const std::string prefix(prefixes[i].utf8()), uri(uris[i].utf8());
-            if (xmlXPathRegisterNs(_context.get(), xmlText(prefix), xmlText(uri)) != 0) return E_INVALIDARG;
+            if (prefix.empty()) return E_INVALIDARG;
+            if (xmlXPathRegisterNs(_context.get(), xmlText(prefix), xmlText(uri)) != 0) throw std::bad_alloc();
+            capture.check();
         }
         return S_OK;
     }
@@ -48,7 +55,8 @@ public:
         _context->node = reinterpret_cast<xmlNodePtr>(_store->document());
         _isReported = false;
         const MessageCapture capture([this](const std::string& message) { report(message); });
-        const Object result(xmlXPathCompiledEval(_compiled.get(), _context.get()));
+        const Object result(evaluated());
+        check(capture);
         if (result == nullptr) return E_FAIL;
         if (result->type != XPATH_NODESET) {
             report("the expression gives no nodes");
@@ -67,6 +75,25 @@ public:
     }
 
 private:
+    // In single steps: the functions of libxml2 that do it all use, or free twice, what they get no memory for.
+    xmlXPathObjectPtr evaluated() const {
+        constexpr int stackSize = 10;
+        const std::unique_ptr<xmlXPathParserContext, Free> parser(
+            xmlXPathNewParserContext(xmlText(_text), _context.get()));
+        if (parser == nullptr) throw std::bad_alloc();
+        parser->valueTab = static_cast<xmlXPathObjectPtr*>(xmlMalloc(stackSize * sizeof(xmlXPathObjectPtr)));
+        if (parser->valueTab == nullptr) throw std::bad_alloc();
+        parser->valueMax = stackSize;
+        xmlXPathEvalExpr(parser.get());
+        return parser->error == XPATH_EXPRESSION_OK ? valuePop(parser.get()) : nullptr;
+    }
+
+    // What lacks memory may look like an expression that is wrong. The context keeps to itself that it does.
+    void check(const MessageCapture& capture) const {
+        capture.check();
+        if (_context->lastError.code == XML_ERR_NO_MEMORY) throw std::bad_alloc();
+    }
+
     // The first message says what is wrong, later ones what came of it.
     void report(const std::string& message) {
         if (std::exchange(_isReported, true)) return;
@@ -76,7 +103,7 @@ private:
     std::shared_ptr<DocumentStore> _store;
     std::string _text;
     Context _context;
-    Compiled _compiled;
+    bool _isCompiled = false;
     bool _isReported = false;
 };
 
@@ -90,7 +117,7 @@ public:
 
     HRESULT CreateXPathExpression(const QORUnicodeString& text, QORIXMLXPathExpression_var& expression) override {
         expression = {};
-        auto* made = new QOREXMLXPathExpression(_store, std::string(text.utf8()));
+        auto* made = objectmodeler::newComponent<QOREXMLXPathExpression>(_store, std::string(text.utf8()));
         const auto held = QORIXMLXPathExpression_var::adopt(made);
         if (!made->isCompiled()) return E_FAIL;
         expression = held;
@@ -106,7 +133,7 @@ VELKOR_IMPLEMENT_CLASS(QOREXMLXPathFactory, QORIXMLXPathFactory, nullptr, "XMLPa
 } // namespace
 
 IUnknown* xpathFactoryOf(QORBaseUnknown& document, std::shared_ptr<DocumentStore> store) {
-    const auto factory = QORBaseUnknown_var::adopt(new QOREXMLXPathFactory(std::move(store)));
+    const auto factory = QORBaseUnknown_var::adopt(objectmodeler::newComponent<QOREXMLXPathFactory>(std::move(store)));
     return ToCreateBOA(&document, factory.get(), QOREXMLXPathFactory::MetaObject(), QORIXMLXPathFactory::ClassId(),
                        objectmodeler::createNothing);
 }

@@ -13,8 +13,18 @@
 
 #include <atomic>
 #include <new>
+#include <utility>
 
 namespace velkor::objectmodeler {
+
+/// A component with one reference. The object modeler's storage gives null when there is no memory left; this
+/// throws std::bad_alloc, as everything else does.
+template <class Implementation, class... Arguments>
+Implementation* newComponent(Arguments&&... arguments) {
+    auto* made = new Implementation(std::forward<Arguments>(arguments)...);
+    if (made == nullptr) throw std::bad_alloc();
+    return made;
+}
 
 /// Makes a component in the object modeler's storage; null when there is none left.
 template <class Implementation>
