@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <thread>
 
 namespace velkor::xml::test {
 
@@ -128,20 +130,34 @@ TEST(Parser, BoundsWhatATextGrowsTo) {
     laughs += "]>";
     const std::string longEntity = "<!DOCTYPE a [<!ENTITY e '" + std::string(100000, 'x') + "'>]>";
     const std::string longDefault = "<!DOCTYPE a [<!ATTLIST b x CDATA '" + std::string(100000, 'x') + "'>]>";
+    const auto numbered = [](const std::string& before, const std::string& behind, int count) {
+        std::string result;
+        for (int i = 0; i < count; ++i) result += before + std::to_string(i) + behind;
+        return result;
+    };
+    const std::string crowded = numbered(" a", "=''", 300000);
+    const std::string unlike = "<!DOCTYPE a [" + numbered("<!ATTLIST b a", " CDATA ''>", 9000) + "]>";
     const long before = peakMegabytes();
-    for (const auto& [bytes, reason] : {std::pair{laughs + "<a>&l20;</a>", "entity"},
-                                        {laughs + "<a x='&l20;'/>", "entity"},
-                                        {longEntity + "<a>" + repeated("&e;", 50000) + "</a>", "entity"},
-                                        {longDefault + "<a>" + repeated("<b/>", 50000) + "</a>", "defaults"},
-                                        {"<!DOCTYPE a [<!ENTITY e '&e;'>]><a>&e;</a>", "entity"},
-                                        {repeated("<a>", 100000), "deeper than 256"},
-                                        {repeated("<a>", 257) + repeated("</a>", 257), "deeper than 256"}}) {
+    // Unbounded, those of many attributes take minutes.
+    for (const auto& [bytes, reason] :
+         {std::pair{laughs + "<a>&l20;</a>", "entity"},
+          {laughs + "<a x='&l20;'/>", "entity"},
+          {longEntity + "<a>" + repeated("&e;", 50000) + "</a>", "entity"},
+          {longDefault + "<a>" + repeated("<b/>", 50000) + "</a>", "defaults"},
+          {"<!DOCTYPE a [<!ENTITY e '&e;'>]><a>&e;</a>", "entity"},
+          {"<a>\n<b" + crowded + "/></a>", "1000 attributes"},
+          {"<a" + numbered(" xmlns:a", "='u'", 300000) + "/>", "1000 namespaces"},
+          {"<!DOCTYPE a [<!ENTITY e \"<b" + crowded + "/>\">]><a>&e;</a>", "64 KB"},
+          {unlike + "<a><b/></a>", "1000 attributes"},
+          {"<!DOCTYPE a [<!ATTLIST b" + numbered(" a", " CDATA ''", 300000) + ">]><b/>", "10000 attributes"},
+          {repeated("<a>", 100000), "deeper than 256"},
+          {repeated("<a>", 257) + repeated("</a>", 257), "deeper than 256"}}) {
         const auto messages = messagesAbout(bytes);
         ASSERT_THAT(messages, Not(IsEmpty())) << reason;
         EXPECT_THAT(messages.front(), AllOf(StartsWith("text:"), HasSubstr(reason)));
     }
     EXPECT_LT(peakMegabytes() - before, 500) << "unbounded, each of them takes gigabytes";
-    EXPECT_FALSE(read(repeated("<a>", 256) + repeated("</a>", 256)).IsNull());
+    EXPECT_FALSE(read(repeated("<a" + numbered(" a", "='1'", 1000) + ">", 256) + repeated("</a>", 256)).IsNull());
 }
 
 TEST(Parser, ReadsFilesByEitherSeparator) {
@@ -169,6 +185,22 @@ TEST(Parser, ReadsFilesByEitherSeparator) {
         EXPECT_THAT(log.texts().front(), StartsWith(bad + ':'));
     }
     EXPECT_THAT(log.texts(), ElementsAre(": cannot be read: No such file or directory"));
+    // A pipe that nobody writes to is not waited for; a file that breaks off is no text with a fault.
+    const std::string pipe = folder.path + "/pipe.xml";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    for (const auto& [bad, reason] :
+         {std::pair{pipe, "is no regular file"}, {std::string("/proc/self/mem"), "Input/output error"}}) {
+        log.clear();
+        EXPECT_EQ(parse(bad, document), E_FAIL);
+        EXPECT_THAT(log.texts(), ElementsAre(bad + ": cannot be read: " + reason));
+    }
+}
+
+// Run by itself, as the tests of a build tree are, this is the first use of all.
+TEST(Parser, MayBeUsedFirstByTwoThreads) {
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 2; ++i) threads.emplace_back([] { EXPECT_EQ(name(root(read("<a><b/></a>"))), "a"); });
+    for (std::thread& thread : threads) thread.join();
 }
 
 TEST(Parser, TakesTheOptionsItKnows) {
