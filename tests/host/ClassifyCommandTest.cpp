@@ -204,32 +204,7 @@ TEST_F(ClassifyCommandTest, NeedsADocument) {
     EXPECT_THAT(broken.err, HasSubstr("entries.xml: cannot be read\n"));
 }
 
-TEST_F(ClassifyCommandTest, TheShippedDocumentNamesWhatThereIs) {
-    std::set<std::string> names;
-    for (const QORIDOMNode_var& node : nodes(shippedDocument, "//NeutralID"))
-        EXPECT_TRUE(names.insert(attribute(node, "Name")).second) << attribute(node, "Name");
-    EXPECT_GT(names.size(), 100U);
-    std::size_t predefined = 0;
-    for (const QORIDOMNode_var& node : nodes(shippedDocument, "//IFC")) {
-        const std::string type = attribute(node, "Name");
-        const std::string path = "//IFC[@Name='" + type + "']/Condition[@Attribute='PredefinedType']";
-        bool isKnown = false;
-        std::set<std::string> values;
-        for (const char* release : {"IFC2X3", "IFC4", "IFC4X3_ADD2", "IFC4X4"}) {
-            const auto* entity = (*DXSdaiDictionaryRepo::TheOne().schema(release))->entity(type);
-            isKnown = isKnown || entity != nullptr;
-            const sdai::Attribute* attribute = entity == nullptr ? nullptr : entity->attribute("PREDEFINEDTYPE");
-            const auto* enumeration = attribute == nullptr ? nullptr : attribute->type().resolved().asEnumeration();
-            if (enumeration != nullptr) values.insert(enumeration->values().begin(), enumeration->values().end());
-        }
-        EXPECT_TRUE(isKnown) << type;
-        for (const QORIDOMNode_var& condition : nodes(shippedDocument, path)) {
-            ++predefined;
-            EXPECT_TRUE(values.contains(attribute(condition, "Value"))) << type << ' ' << attribute(condition, "Value");
-        }
-    }
-    EXPECT_GT(predefined, 0U);
-
+TEST_F(ClassifyCommandTest, TheShippedDocumentCoversEveryProduct) {
     // Every class of product has an entry, its own or a supertype's, that holds for all of it.
     std::set<std::string> always;
     for (const QORIDOMNode_var& node : nodes(shippedDocument, "//IFC[not(Condition)]"))
@@ -246,7 +221,10 @@ TEST_F(ClassifyCommandTest, TheShippedDocumentNamesWhatThereIs) {
     // Both sides of each can be had from the services.
     classified(example("road-ifc4x3.ifc"), Done);
     const QORIExchangeAECServices_var services = objectmodeler::createComponent("ExchangeAECServices");
-    for (const std::string& name : names) {
+    const auto entries = nodes(shippedDocument, "//NeutralID");
+    EXPECT_GT(entries.size(), 100U);
+    for (const QORIDOMNode_var& entry : entries) {
+        const std::string name = attribute(entry, "Name");
         QORUnicodeString ifcType, plmType;
         EXPECT_EQ(services->GetIFCTypeFromNeutralID(name.c_str(), ifcType), S_OK) << name;
         EXPECT_EQ(services->GetPLMTypeFromNeutralID(name.c_str(), plmType), S_OK) << name;

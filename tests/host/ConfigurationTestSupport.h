@@ -2,6 +2,7 @@
 #pragma once
 
 #include "configuration/ConfigurationTable.h"
+#include "ResourceKinds.h"
 #include "settings/QORDXEnvironmentVariable.h"
 #include "TemporaryFolder.h"
 #include "TestSupport.h"
@@ -56,6 +57,15 @@ inline nlohmann::json answer(std::vector<std::string> words, int expectedStatus 
     const Outcome outcome = runHost(words);
     EXPECT_EQ(outcome.status, expectedStatus) << outcome.err;
     return nlohmann::json::parse(outcome.out, nullptr, false);
+}
+
+/// What is told of one kind of resource.
+inline nlohmann::json resourceOf(const nlohmann::json& answered, const ResourceKind& kind) {
+    for (const nlohmann::json& candidate : answered["resources"]) {
+        if (candidate["name"] == kind.name) return candidate;
+    }
+    ADD_FAILURE() << "no resource " << kind.name;
+    return {};
 }
 
 } // namespace velkor::host

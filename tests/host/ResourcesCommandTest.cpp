@@ -29,11 +29,7 @@ protected:
     static json resource(const ResourceKind& kind, const std::string& configuration) {
         const json answered = answer({"resources", "--config", configuration}, Findings);
         EXPECT_EQ(answered["resources"].size(), std::size(resourceKinds));
-        for (const json& candidate : answered["resources"]) {
-            if (candidate["name"] == kind.name) return candidate;
-        }
-        ADD_FAILURE() << "no resource " << kind.name;
-        return {};
+        return resourceOf(answered, kind);
     }
 
     std::vector<std::string> used(const json& resource) const {
@@ -177,22 +173,17 @@ TEST_F(ResourcesCommandTest, SaysWhyThereIsNothingAndWhatHelps) {
     folder.file("two/xcad/folder.xml/x");
     folder.file("file/ifc");
     const std::string help = "; set collection_standard in the configuration or QORCollectionStandard";
-    const json two{{"collection_standard", {"two"}}};
+    const std::string unreadable =
+        "no folder of the collection standard has a sub-folder \"ifc\" that can be read" + help;
+    const auto standard = [](const std::string& name) { return json{{"collection_standard", {name}}}; };
+    const json two = standard("two");
     const std::tuple<json, ResourceKind, std::string, json> cases[] = {
         {json::object(), versionMappingResource, "the collection standard has no folders" + help, nullptr},
-        {{{"collection_standard", {"gone"}}},
-         customMappingResource,
-         "no folder of the collection standard has a sub-folder \"ifcCustomMapping\"" + help,
-         "missing"},
-        {{{"collection_standard", {"file"}}},
-         versionMappingResource,
-         "no folder of the collection standard has a sub-folder \"ifc\" that can be read" + help,
-         "is_no_folder"},
+        {standard("gone"), customMappingResource,
+         "no folder of the collection standard has a sub-folder \"ifcCustomMapping\"" + help, "missing"},
+        {standard("file"), versionMappingResource, unreadable, "is_no_folder"},
         // Too long for a name: the system refuses, as it does without a right to read.
-        {{{"collection_standard", {std::string(300, 'x')}}},
-         versionMappingResource,
-         "no folder of the collection standard has a sub-folder \"ifc\" that can be read" + help,
-         "forbidden"},
+        {standard(std::string(300, 'x')), versionMappingResource, unreadable, "forbidden"},
         {two, versionMappingResource,
          "no sub-folder \"ifc\" of the collection standard has a file whose name contains \".xml\"; put one there",
          "readable"},
