@@ -40,9 +40,14 @@ std::size_t characterLength(std::string_view text) noexcept {
     return decode(text, code);
 }
 
-std::string mapped(std::string_view text, char (*ascii)(char) noexcept, utf8proc_int32_t (*unicode)(utf8proc_int32_t)) {
-    std::string result;
-    result.reserve(text.size());
+template <char (*ascii)(char) noexcept>
+std::string mapped(std::string_view text, utf8proc_int32_t (*unicode)(utf8proc_int32_t)) {
+    // What is ASCII up to the first character that is not, most often all, in one go.
+    std::string result(text);
+    auto behind = std::find_if_not(result.begin(), result.end(), [](char c) { return isAscii(c); });
+    std::transform(result.begin(), behind, result.begin(), ascii);
+    text.remove_prefix(static_cast<std::size_t>(behind - result.begin()));
+    result.erase(behind, result.end());
     while (!text.empty()) {
         if (isAscii(text.front())) {
             result.push_back(ascii(text.front()));
@@ -107,11 +112,11 @@ std::size_t byteOffset(std::string_view utf8, std::size_t character) noexcept {
 }
 
 std::string toUpper(std::string_view utf8) {
-    return mapped(utf8, asciiUpper, utf8proc_toupper);
+    return mapped<asciiUpper>(utf8, utf8proc_toupper);
 }
 
 std::string toLower(std::string_view utf8) {
-    return mapped(utf8, asciiLower, utf8proc_tolower);
+    return mapped<asciiLower>(utf8, utf8proc_tolower);
 }
 
 bool equalIgnoringCase(std::string_view a, std::string_view b) noexcept {

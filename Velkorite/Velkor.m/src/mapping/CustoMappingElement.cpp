@@ -10,7 +10,10 @@ CustoMappingElement::CustoMappingElement(const QORUnicodeString& iFromEntity, co
                                          unsigned int iInheritanceRank)
     : FromEntity(iFromEntity), FromProperty(iFromProperty), FromType(iFromType), ToEntity(iToEntity),
       ToProperty(iToProperty), Scope(iScope), InheritanceRank(iInheritanceRank) {
-    QORUnicodeString key = FromEntity + FromProperty + Scope;
+    std::string joined;
+    joined.reserve(FromEntity.utf8().size() + FromProperty.utf8().size() + Scope.utf8().size());
+    joined.append(FromEntity.utf8()).append(FromProperty.utf8()).append(Scope.utf8());
+    QORUnicodeString key(std::move(joined));
     key.ToUpper();
     HashKey = key.ComputeHashKey();
 }
