@@ -1,14 +1,15 @@
 // What the questions of an importer cost on a large open model: its units, what an instance is, the value
 // of an attribute.
 
+#include "CpuTime.h"
 #include "LargeStructure.h"
 #include "QORIFCUnitServices.h"
 #include "sdai/Model.h"
 
 #include <benchmark/benchmark.h>
-#include <chrono>
 
 using namespace velkor::sdai;
+using velkor::bench::CpuTimer;
 using velkor::bench::LargeStructure;
 
 namespace {
@@ -30,14 +31,14 @@ void unitsOfAModel(benchmark::State& state) {
         // What the first instance brings with it, whichever it is, is not the units'.
         model->instanceAt(model->file().instanceCount() - 1);
         const std::size_t before = model->memoryUse();
-        const auto start = std::chrono::steady_clock::now();
+        const CpuTimer timer;
         const auto assignments = model->numbersOf("IFCUNITASSIGNMENT");
         QORIFCUnitServices::SetSchema(model->schema().name() == "IFC2X3" ? FileschemaIFC2X3 : FileschemaIFC4);
         double millimetres = 0.0, radians = 0.0;
         const bool isDone = !assignments.empty() &&
                             QORIFCUnitServices::StoreGlobalUnits(model->instanceAt(assignments.front())) >= 0 &&
                             QORIFCUnitServices::GetSIConversionFactorforGeometry(millimetres, radians) >= 0;
-        state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+        state.SetIterationTime(timer.seconds());
         if (!isDone) return state.SkipWithError("the model has no units");
         const auto size = static_cast<double>(model->file().text().size());
         state.counters["memoryPerByte"] = static_cast<double>(model->memoryUse()) / size;
@@ -98,9 +99,9 @@ void firstAttributeOfAnInstance(benchmark::State& state) {
         const auto model = openModel(state);
         if (!model) return;
         const std::uint32_t last = std::min<std::uint32_t>(model->file().instanceCount(), 100'000);
-        const auto start = std::chrono::steady_clock::now();
+        const CpuTimer timer;
         for (std::uint32_t i = 0; i < last; ++i) benchmark::DoNotOptimize(model->instanceAt(i)->attribute(0));
-        state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+        state.SetIterationTime(timer.seconds());
         count += last;
     }
     state.SetItemsProcessed(count);

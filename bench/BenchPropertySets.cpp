@@ -94,14 +94,14 @@ void readSets(benchmark::State& state) {
     state.SetBytesProcessed(state.iterations() * bytes);
 }
 
-/// A question about one of the sets read after the other. The answer is yes.
+/// A question about one set after the other, of the first range(1) of the range(0) read. The answer is yes.
 template <typename Ask>
 void ask(benchmark::State& state, Ask question) {
     definitions();
     QORIFCPSetQtoValidationService* service = Definitions::service(state.range(0));
     if (service == nullptr) return state.SkipWithError("a set was not read");
     std::vector<QORUnicodeString> sets;
-    for (std::int64_t set = 0; set < state.range(0); ++set) sets.emplace_back(setName(set).c_str());
+    for (std::int64_t set = 0; set < state.range(1); ++set) sets.emplace_back(setName(set).c_str());
     std::size_t next = 0;
     for (auto _ : state) {
         if (!question(*service, sets[next++ % sets.size()])) return state.SkipWithError("a wrong answer");
@@ -141,6 +141,8 @@ void isPropertySupported(benchmark::State& state) {
 } // namespace
 
 BENCHMARK(readSets)->Unit(benchmark::kMillisecond);
-BENCHMARK(isClassSupported)->Arg(10)->Arg(setCount);
-BENCHMARK(isSubtypeSupported)->Arg(10)->Arg(setCount);
-BENCHMARK(isPropertySupported)->Arg(10)->Arg(setCount);
+// Sets read, and sets asked about: the first must not matter, the second does as soon as they outgrow a cache.
+#define VELKOR_QUESTION(name) BENCHMARK(name)->Args({10, 10})->Args({setCount, 10})->Args({setCount, setCount})
+VELKOR_QUESTION(isClassSupported);
+VELKOR_QUESTION(isSubtypeSupported);
+VELKOR_QUESTION(isPropertySupported);

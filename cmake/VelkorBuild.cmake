@@ -85,5 +85,5 @@ function(velkor_benchmark NAME)
   add_executable(${NAME} ${ARG_SOURCES})
   target_link_libraries(${NAME} PRIVATE ${ARG_LIBRARIES} benchmark::benchmark_main)
   target_compile_definitions(${NAME} PRIVATE VELKOR_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
-                                             VELKOR_LIB_DIR="${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
+    VELKOR_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" VELKOR_LIB_DIR="${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
 endfunction()
