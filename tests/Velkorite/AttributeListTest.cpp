@@ -1,20 +1,18 @@
 #include "IFCAttributeList.h"
 
+#include "MappingFixture.h"
 #include "PrivateOperation.h"
-#include "TemporaryFolder.h"
-#include "Variables.h"
-
-#include <gmock/gmock.h>
 
 namespace velkor::test {
 
 namespace {
 
+using testing::_;
 using testing::ElementsAre;
 using Key = std::array<const char*, 3>;
 
 /// The list reads its catalogue once in a process; here it goes after each test as it does at unload.
-class AttributeList : public testing::Test {
+class AttributeList : public MappingFixture {
 protected:
     ~AttributeList() override { forget(); }
 
@@ -36,9 +34,6 @@ protected:
         for (const int level : {0, 1, 2, 3, -1}) result.push_back(value(level, key));
         return result;
     }
-
-    const Variables variables{"QORCollectionStandard", "QORDefaultCollectionStandard"};
-    const TemporaryFolder folder;
 };
 
 std::string entry(const Key& key, const std::string& value) {
@@ -65,7 +60,7 @@ TEST_F(AttributeList, AnswersByLevelThenInGeneral) {
         entry({"AB", "C", ""}, "AB.C") + entry({"", "FireRating43404", ""}, "1") +
         entry({"", "FireRating195726", ""}, "2") + "</Level></AnyRoot>";
     folder.file("standard/IFCAttributes/attributes.xml", catalogue);
-    variables.set("QORCollectionStandard", (folder / "standard").c_str());
+    standard(folder / "standard");
 
     EXPECT_THAT(values(both), ElementsAre("any", "2X3", "4", "any", "any"));
     EXPECT_THAT(values({"Old", "IfcWall", "Pset"}), ElementsAre("", "old", "", "", "")) << "levels know no other";
@@ -94,23 +89,22 @@ TEST_F(AttributeList, AnswersByLevelThenInGeneral) {
 TEST_F(AttributeList, ReadsTheFirstFileAloneAndOnce) {
     const auto catalogue = [](const char* value) { return "<A><Level>" + entry(both, value) + "</Level></A>"; };
     const std::string first = folder / "first", second = folder / "second";
-    const auto standard = [&](const std::string& folders, const std::string& defaults) {
+    const auto valueOf = [&](const std::string& folders, const std::string& defaults) {
         forget();
-        variables.set("QORCollectionStandard", folders.c_str());
-        variables.set("QORDefaultCollectionStandard", defaults.c_str());
+        standard(folders, defaults);
         return value(0, both);
     };
-    EXPECT_EQ(standard("", ""), "") << "no catalogue at all";
-    EXPECT_EQ(standard(folder / "none", first), "") << "no folder";
+    EXPECT_EQ(valueOf("", ""), "") << "no catalogue at all";
+    EXPECT_EQ(valueOf(folder / "none", first), "") << "no folder";
     folder.file("first/IFCAttributes/read.me", catalogue("no catalogue"));
     folder.file("second/IFCAttributes/b.xml", catalogue("b"));
-    EXPECT_EQ(standard(first + ';' + folder / "none", ';' + second), "b");
+    EXPECT_EQ(valueOf(first + ';' + folder / "none", ';' + second), "b");
     folder.file("first/IFCAttributes/z.xml.bak", catalogue("z"));
     EXPECT_EQ(value(0, both), "b") << "read once";
-    EXPECT_EQ(standard(first, second), "z") << "a name that contains the text";
-    EXPECT_EQ(standard(second, first), "b");
+    EXPECT_EQ(valueOf(first, second), "z") << "a name that contains the text";
+    EXPECT_EQ(valueOf(second, first), "b");
     folder.file("first/IFCAttributes/a.xml", "<A><Level>");
-    EXPECT_EQ(standard(first, second), "") << "a file that cannot be read hides all others";
+    EXPECT_EQ(valueOf(first, second), "") << "a file that cannot be read hides all others";
 
     QORListValQORUnicodeString files;
     files.Append("what it held");
@@ -121,18 +115,14 @@ TEST_F(AttributeList, ReadsTheFirstFileAloneAndOnce) {
                   "_ZN16IFCAttributeList15ListFileFromRTVER26QORListValQORUnicodeString")(list, files),
               S_OK);
     const std::string start = "\\IFCAttributes\\";
-    EXPECT_THAT(std::vector(files.begin(), files.end()),
-                ElementsAre(QORUnicodeString((first + start + "a.xml").c_str()),
-                            QORUnicodeString((first + start + "z.xml.bak").c_str()),
-                            QORUnicodeString((second + start + "b.xml").c_str())));
+    EXPECT_THAT(texts(files),
+                ElementsAre(first + start + "a.xml", first + start + "z.xml.bak", second + start + "b.xml"));
     const auto& give =
         privateOperation<HRESULT(IFCAttributeList*, const char*, const char*, QORListValQORUnicodeString&)>(
             "_ZN16IFCAttributeList20GiveFilesInDirectoryEPKcS1_R26QORListValQORUnicodeString");
     EXPECT_EQ(give(list, (first + start).c_str(), ".", files), S_OK);
     EXPECT_EQ(give(list, (first + start + "none").c_str(), ".", files), 1);
-    ASSERT_EQ(files.Size(), 6) << "behind what the list held";
-    EXPECT_EQ(files[4], "a.xml");
-    EXPECT_EQ(files[5], "read.me");
+    EXPECT_THAT(texts(files), ElementsAre(_, _, _, "a.xml", "read.me", "z.xml.bak")) << "behind what it held";
 }
 
 } // namespace velkor::test

@@ -1,43 +1,30 @@
 #include "QORIFCExportServices.h"
 
-#include <cstdint>
 #include <cstdlib>
 #include <ctime>
-#include <gmock/gmock.h>
-#include <set>
-#include <string>
+#include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
-constexpr const char* alphabet = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_$";
-
-std::string generated() {
-    QORUnicodeString guid("what it held");
-    QORIFCExportServices::GenerateIFCGUID(guid);
-    return std::string(guid.utf8());
-}
-
-/// A GUID of the C library's generator: its bytes as they are told, one in two digits, then three in four each.
-std::string ofSeed(std::uint32_t seed) {
-    std::srand(seed);
-    std::string bytes;
-    for (int drawn = 0; drawn < 8; ++drawn) {
-        const int number = std::rand() >> 16;
-        const char high = static_cast<char>(number >> 8), low = static_cast<char>(number & 0xFF);
-        bytes += drawn < 4 ? std::string{high, low} : std::string{low, high};
-    }
-    std::string digits;
-    std::uint32_t bits = 0;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        bits = bits << 8 | static_cast<unsigned char>(bytes[i]);
-        if (i % 3 != 0) continue;
-        for (int shift = i == 0 ? 6 : 18; shift >= 0; shift -= 6) digits += alphabet[bits >> shift & 63U];
-        bits = 0;
-    }
-    return digits;
-}
+/// What the program's own clock and generator of random numbers say, which stand in for those of the C library.
+std::time_t clockTime = 0;
+std::vector<unsigned int> seeds;
+std::vector<int> numbers;
 
 } // namespace
+
+std::time_t time(std::time_t*) noexcept {
+    return clockTime;
+}
+void srand(unsigned int seed) noexcept {
+    seeds.push_back(seed);
+}
+int rand() noexcept {
+    const int number = numbers.back();
+    numbers.pop_back();
+    return number;
+}
 
 TEST(ExportServices, DeriveAnIdentifierFromAPlmId) {
     // Computed by another program with an implementation of its own of the hash.
@@ -68,27 +55,28 @@ TEST(ExportServices, DeriveAnIdentifierFromAPlmId) {
 }
 
 TEST(ExportServices, GenerateIdentifiersFromTimeAndCount) {
-    // How many were generated before is not known, so it is sought with the first one.
-    const auto now = [] { return static_cast<std::uint32_t>(std::time(nullptr)); };
-    const std::uint32_t before = now();
-    std::string guid = generated();
-    std::uint32_t count = 1;
-    while (count < 10000 && ofSeed(before + count) != guid) ++count;
-    ASSERT_LT(count, 10000U) << guid << " comes from no seed near the time";
-
-    std::set<std::string> guids{guid};
-    for (int i = 0; i < 200; ++i) {
-        const std::uint32_t start = now();
-        guid = generated();
-        ++count;
-        // The second may have changed meanwhile, here or when the count was sought.
-        EXPECT_THAT(guid, testing::AnyOf(ofSeed(start + count), ofSeed(start + count + 1), ofSeed(start + count - 1)));
-        EXPECT_EQ(guid.size(), 22U);
-        EXPECT_EQ(guid.find_first_not_of(alphabet), std::string::npos) << guid;
-        EXPECT_THAT(guid[0], testing::AnyOf('0', '1')) << guid;
-        guids.insert(guid);
+    // Of the numbers, drawn from the last to the first, the upper 15 bits count.
+    const std::pair<std::vector<int>, const char*> vectors[] = {
+        {{0x44CCBBAA, 0x33221100, 0x55AA1234, 0x0F1E2D3C, 0x6A5B4C3D, 0x00010203, 0x7FFFFFFF, 0x12345678},
+         "0ID7$$005gMnuFgbKYCyn4"},
+        {std::vector<int>(8, 0xFFFF), "0000000000000000000000"},
+        {std::vector<int>(8, RAND_MAX), "1$$t$$V$z$$$z$$t$$V$z$"}};
+    clockTime = 0xFFFFFFFE;
+    for (const auto& [drawn, expected] : vectors) {
+        numbers = drawn;
+        QORUnicodeString guid("what it held");
+        QORIFCExportServices::GenerateIFCGUID(guid);
+        EXPECT_EQ(guid, expected);
+        EXPECT_TRUE(numbers.empty());
     }
-    EXPECT_GE(guids.size(), 199U) << "calls of one second are kept apart";
+    // Calls of one second are kept apart; the seed wraps.
+    EXPECT_EQ(seeds[1], seeds[0] + 1);
+    EXPECT_EQ(seeds[2], seeds[0] + 2);
+    clockTime += 1000;
+    numbers = vectors[0].first;
+    QORUnicodeString guid;
+    QORIFCExportServices::GenerateIFCGUID(guid);
+    EXPECT_EQ(seeds[3], seeds[0] + 1003);
 }
 
 TEST(ExportServices, KeepOneParent) {

@@ -80,9 +80,9 @@ TEST_F(MessageLogging, FailsAsLongAsTheHostHasNoLog) {
 }
 
 TEST_F(MessageLogging, WritesWhatTheLogsCurrentLevelLetsThrough) {
-    for (const auto& [current, level, written] :
-         {std::array{2, 2, 1}, std::array{2, 3, 0}, std::array{2, 1, 1}, std::array{-1, 0, 0}, std::array{-1, -1, 1},
-          std::array{100000, 32767, 1}, std::array{-100000, -32768, 0}}) {
+    constexpr int cases[][3] = {{2, 2, 1},   {2, 3, 0},          {2, 1, 1},           {-1, 0, 0},
+                                {-1, -1, 1}, {100000, 32767, 1}, {-100000, -32768, 0}};
+    for (const auto& [current, level, written] : cases) {
         SCOPED_TRACE(testing::Message() << "log " << current << ", message " << level);
         StrictLog log(current);
         Services::SetLogError();

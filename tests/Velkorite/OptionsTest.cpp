@@ -1,17 +1,20 @@
 #include "QORIFCOptions.h"
 
+#include "Cases.h"
 #include "OptionsFixture.h"
 #include "PrivateOperation.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCOptionsServices.h"
 
+#include <array>
+#include <cstdlib>
 #include <gmock/gmock.h>
-#include <tuple>
+#include <sstream>
 
 namespace velkor::test {
 
 using Options = QORIFCOptions;
-using Values = std::tuple<int, int, int>;
+using Values = std::array<int, 3>;
 
 namespace {
 
@@ -20,6 +23,9 @@ protected:
     /// Profile, geometry mode and structure exposure in effect.
     Values values() const {
         return {options.GetExchangeProfile(), options.GetGeometryMode(), options.GetStructureExposure()};
+    }
+    static std::string text(const Values& values) {
+        return std::to_string(values[0]) + ' ' + std::to_string(values[1]) + ' ' + std::to_string(values[2]);
     }
     Values afterSetting(int profile, int geometry, int exposure) {
         options.SetExchangeProfile(static_cast<Options::ExchangeProfile>(profile));
@@ -33,49 +39,37 @@ protected:
 } // namespace
 
 TEST_F(ExchangeOptions, AreForcedOrImpliedByTheEnvironment) {
-    struct Case {
-        const char *profile, *geometry, *exposure;
-        Values inEffect;
-        /// After the setters asked for 1, 0 and 1: what is forced stays.
-        Values afterSetting;
-        const char* profileVariable;
-    };
-    constexpr const char* none = nullptr;
-    for (const Case& c : {
-             Case{none, none, none, {0, 1, 0}, {1, 0, 1}, none},
-             Case{"0", none, none, {0, 1, 0}, {0, 0, 1}, "0"},
-             Case{"1", none, none, {1, 1, 1}, {1, 0, 1}, "1"},
-             Case{"2", none, none, {2, 2, 0}, {2, 0, 1}, "2"},
-             Case{"7", none, none, {0, 1, 0}, {0, 0, 1}, "7"},
-             Case{"-1", none, none, {0, 1, 0}, {0, 0, 1}, "-1"},
-             Case{"1", "0", none, {1, 0, 1}, {1, 0, 1}, "1"},
-             Case{"2", "1", "1", {2, 1, 1}, {2, 1, 1}, "2"},
-             Case{"0", "3", "2", {0, 1, 0}, {0, 1, 0}, "0"},
-             Case{"1", "-1", "-1", {1, 1, 0}, {1, 1, 0}, "1"},
-             // Exposure and geometry without a profile amount to one.
-             Case{none, "1", "0", {0, 1, 0}, {0, 1, 0}, "0"},
-             Case{none, "0", "0", {2, 0, 0}, {2, 0, 0}, "2"},
-             Case{none, "5", "0", {2, 1, 0}, {2, 1, 0}, "2"},
-             Case{none, "text", "0", {0, 1, 0}, {1, 0, 0}, none},
-             Case{none, none, "0", {0, 1, 0}, {1, 0, 0}, none},
-             Case{none, none, "1", {1, 1, 1}, {1, 0, 1}, "1"},
-             Case{none, "2", "1", {1, 2, 1}, {1, 2, 1}, "1"},
-             Case{none, "1", "2", {0, 1, 0}, {1, 1, 0}, none},
-             Case{none, "2", none, {0, 2, 0}, {1, 2, 1}, none},
-             // A profile that is there without a number forces nothing, and none is put in its place.
-             Case{"text", "1", "0", {0, 1, 0}, {1, 1, 0}, "text"},
-             Case{"", none, "1", {0, 1, 1}, {1, 0, 1}, ""},
-         }) {
-        SCOPED_TRACE(testing::PrintToString(std::tuple(c.profile, c.geometry, c.exposure)));
-        variables.set(Options::_envvar_exchange_profile, c.profile);
-        variables.set(Options::_envvar_geometry_mode, c.geometry);
-        variables.set(Options::_envvar_structure_exposure, c.exposure);
+    constexpr const char* names[] = {Options::_envvar_exchange_profile, Options::_envvar_geometry_mode,
+                                     Options::_envvar_structure_exposure};
+    // What is in effect with the three variables ("-": not set); then after the setters asked for 1, 0 and 1, where
+    // what is forced stays, and the variable of the profile: exposure and geometry without a profile amount to one.
+    // A profile that is there without a number forces nothing, and none is put in its place.
+    for (const auto& [inEffect, environment, expected] : casesOf(R"(
+        0 1 0: - - - -> 1 0 1 - | 0 - - -> 0 0 1 0 | 7 - - -> 0 0 1 7 | -1 - - -> 0 0 1 -1 | 0 3 2 -> 0 1 0 0
+        0 1 0: - 1 0 -> 0 1 0 0 | - text 0 -> 1 0 0 - | - - 0 -> 1 0 0 - | - 1 2 -> 1 1 0 - | text 1 0 -> 1 1 0 text
+        0 1 1: '' - 1 -> 1 0 1 ''
+        0 2 0: - 2 - -> 1 2 1 -
+        1 0 1: 1 0 - -> 1 0 1 1
+        1 1 0: 1 -1 -1 -> 1 1 0 1
+        1 1 1: 1 - - -> 1 0 1 1 | - - 1 -> 1 0 1 1
+        1 2 1: - 2 1 -> 1 2 1 1
+        2 0 0: - 0 0 -> 2 0 0 2
+        2 1 0: - 5 0 -> 2 1 0 2
+        2 1 1: 2 1 1 -> 2 1 1 2
+        2 2 0: 2 - - -> 2 0 1 2)")) {
+        SCOPED_TRACE(environment);
+        variables.removeAll();
+        std::istringstream given(environment);
+        for (const char* name : names) {
+            std::string value;
+            given >> value;
+            if (value != "-") variables.set(name, value == "''" ? "" : value.c_str());
+        }
         Options::Reset();
-        EXPECT_EQ(values(), c.inEffect);
-        EXPECT_EQ(afterSetting(1, 0, 1), c.afterSetting);
-        EXPECT_EQ(QORDXEnvironmentVariable::HasBeenSet(Options::_envvar_exchange_profile),
-                  c.profileVariable != nullptr);
-        EXPECT_EQ(QORGetEnv(Options::_envvar_exchange_profile), QORUnicodeString(c.profileVariable));
+        EXPECT_EQ(text(values()), inEffect);
+        const std::string after = text(afterSetting(1, 0, 1));
+        const char* profile = std::getenv(names[0]);
+        EXPECT_EQ(after + ' ' + (profile == nullptr ? "-" : *profile == 0 ? "''" : profile), expected);
     }
 }
 
@@ -85,26 +79,26 @@ TEST_F(ExchangeOptions, FollowTheUsersSettingsUnlessSet) {
     settings::repository("IFC");
     EXPECT_EQ(Options::GetSettingValue("FullyExposed", value), S_FALSE) << "no such setting";
     EXPECT_EQ(value, 99);
-    EXPECT_EQ(values(), Values(0, 1, 0));
+    EXPECT_EQ(values(), (Values{0, 1, 0}));
     for (const short number : {0, 1, 2, 3, 5, 255, -1, -32768}) {
         for (const char* name : {"ImportProfileMode", "ImportRepPreferedMode", "FullyExposed"}) setting(name, number);
         EXPECT_EQ(Options::GetSettingValue("FullyExposed", value), S_OK);
         EXPECT_EQ(value, number);
         const bool inRange = number >= 0 && number <= 2;
-        EXPECT_EQ(values(), inRange ? Values(number, number, number == 1) : Values(0, 1, 0)) << number;
+        EXPECT_EQ(values(), (inRange ? Values{number, number, number == 1} : Values{0, 1, 0})) << number;
     }
     setting("ImportProfileMode", 2);
     setting("ImportRepPreferedMode", 0);
     setting("FullyExposed", 1);
-    EXPECT_EQ(afterSetting(0, 2, 0), Values(0, 2, 0));
-    EXPECT_EQ(afterSetting(3, 3, 2), Values(2, 0, 1)) << "not given";
+    EXPECT_EQ(afterSetting(0, 2, 0), (Values{0, 2, 0}));
+    EXPECT_EQ(afterSetting(3, 3, 2), (Values{2, 0, 1})) << "not given";
     afterSetting(1, 1, 0);
     Options::Reset();
-    EXPECT_EQ(values(), Values(2, 0, 1)) << "what was set is lost";
+    EXPECT_EQ(values(), (Values{2, 0, 1})) << "what was set is lost";
     variables.set(Options::_envvar_exchange_profile, "1");
-    EXPECT_EQ(values(), Values(2, 0, 1)) << "Reset alone reads the environment";
+    EXPECT_EQ(values(), (Values{2, 0, 1})) << "Reset alone reads the environment";
     Options::Reset();
-    EXPECT_EQ(values(), Values(1, 0, 1)) << "fully exposed implies no geometry";
+    EXPECT_EQ(values(), (Values{1, 0, 1})) << "fully exposed implies no geometry";
 }
 
 TEST_F(ExchangeOptions, SwitchAttributesOffByTheVariablesPresence) {
@@ -112,12 +106,11 @@ TEST_F(ExchangeOptions, SwitchAttributesOffByTheVariablesPresence) {
         EXPECT_TRUE(options.ExchangeWithAttributes());
         variables.set(Options::_envvar_no_attributes, text);
         Options::Reset();
-        EXPECT_FALSE(options.ExchangeWithAttributes()) << text;
-        options.ToggleExchangeWithAttributes();
-        EXPECT_TRUE(options.ExchangeWithAttributes()) << text;
-        options.ToggleExchangeWithAttributes();
+        for (const bool isOn : {false, true, false}) {
+            EXPECT_EQ(options.ExchangeWithAttributes(), isOn) << text;
+            options.ToggleExchangeWithAttributes();
+        }
         variables.removeAll();
-        EXPECT_FALSE(options.ExchangeWithAttributes());
         Options::Reset();
     }
 }

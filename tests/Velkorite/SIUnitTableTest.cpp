@@ -1,5 +1,6 @@
 #include "QORIFC_SIUnit_HashTable.h"
 
+#include "ModelText.h"
 #include "PrivateOperation.h"
 #include "sdai/Model.h"
 
@@ -14,18 +15,17 @@ using velkor::sdai::Model;
 class SIUnitTable : public testing::TestWithParam<const char*> {
 protected:
     SIUnitTable() {
-        text = std::string("ISO-10303-21;HEADER;FILE_DESCRIPTION((''),'2;1');FILE_NAME('','',(''),(''),'','','');"
-                           "FILE_SCHEMA(('") +
-               GetParam() +
-               "'));ENDSEC;DATA;#1=IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.);#2=IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.);"
-               "#3=IFCSIUNIT(*,.AREAUNIT.,.CENTI.,.SQUARE_METRE.);#4=IFCSIUNIT(*,.LENGTHUNIT.,.CENTI.,.METRE.);"
-               "#5=IFCSIUNIT(*,.MASSUNIT.,.KILO.,$);#6=IFCSIUNIT(*,.TIMEUNIT.,.NOSUCH.,.SECOND.);"
-               "#7=IFCDERIVEDUNIT((#12),.VOLUMETRICFLOWRATEUNIT.,$);#8=IFCDERIVEDUNIT((#12),.USERDEFINED.,'LITRE');"
-               "#9=IFCDERIVEDUNIT((#12),$,$);#10=IFCMONETARYUNIT($);"
-               "#11=IFCCONVERSIONBASEDUNIT($,.LENGTHUNIT.,'METRE',$);#12=IFCDERIVEDUNITELEMENT(#4,2);"
-               "#13=IFCDERIVEDUNITELEMENT(#4,-1);#14=IFCDERIVEDUNITELEMENT($,3);#15=IFCDERIVEDUNITELEMENT(#11,4);"
-               "#16=IFCDERIVEDUNITELEMENT(#6,105455);#17=IFCDERIVEDUNITELEMENT(#2,105515);"
-               "#18=IFCSIUNIT(*,$,.MILLI.,.METRE.);ENDSEC;END-ISO-10303-21;";
+        text = velkor::test::modelText(
+            GetParam(),
+            "#1=IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.);#2=IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.);"
+            "#3=IFCSIUNIT(*,.AREAUNIT.,.CENTI.,.SQUARE_METRE.);#4=IFCSIUNIT(*,.LENGTHUNIT.,.CENTI.,.METRE.);"
+            "#5=IFCSIUNIT(*,.MASSUNIT.,.KILO.,$);#6=IFCSIUNIT(*,.TIMEUNIT.,.NOSUCH.,.SECOND.);"
+            "#7=IFCDERIVEDUNIT((#12),.VOLUMETRICFLOWRATEUNIT.,$);#8=IFCDERIVEDUNIT((#12),.USERDEFINED.,'LITRE');"
+            "#9=IFCDERIVEDUNIT((#12),$,$);#10=IFCMONETARYUNIT($);"
+            "#11=IFCCONVERSIONBASEDUNIT($,.LENGTHUNIT.,'METRE',$);#12=IFCDERIVEDUNITELEMENT(#4,2);"
+            "#13=IFCDERIVEDUNITELEMENT(#4,-1);#14=IFCDERIVEDUNITELEMENT($,3);#15=IFCDERIVEDUNITELEMENT(#11,4);"
+            "#16=IFCDERIVEDUNITELEMENT(#6,105455);#17=IFCDERIVEDUNITELEMENT(#2,105515);"
+            "#18=IFCSIUNIT(*,$,.MILLI.,.METRE.);");
         auto opened = Model::fromText(text, "units.ifc");
         EXPECT_TRUE(opened) << opened.error();
         model = std::move(*opened);

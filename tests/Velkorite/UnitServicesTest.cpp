@@ -1,5 +1,6 @@
 #include "QORIFCUnitServices.h"
 
+#include "ModelText.h"
 #include "objectmodeler/Assertion.h"
 #include "sdai/Model.h"
 
@@ -81,9 +82,7 @@ protected:
 
     // A model that stays open until the test ends.
     const Model& open(const std::string& release, const std::string& data) {
-        texts.push_back("ISO-10303-21;HEADER;FILE_DESCRIPTION((''),'2;1');FILE_NAME('','',(''),(''),'','','');"
-                        "FILE_SCHEMA(('" +
-                        release + "'));ENDSEC;DATA;" + data + "ENDSEC;END-ISO-10303-21;");
+        texts.push_back(velkor::test::modelText(release, data));
         auto model = Model::fromText(texts.back(), "units.ifc");
         EXPECT_TRUE(model) << model.error();
         models.push_back(std::move(*model));
