@@ -5,6 +5,8 @@
 #include "settings/QORDXEnvironmentVariable.h"
 #include "text/QORToken.h"
 
+#include <memory>
+#include <string_view>
 #include <unordered_set>
 #include <utility>
 
@@ -13,18 +15,26 @@ namespace {
 const QORUnicodeString pathListSeparator = ";";
 const QORUnicodeString folderSeparator = "\\";
 
-/// Reads the folder's directory. `found` are the names of earlier folders, and of this one afterwards.
+struct CloseDirectory {
+    void operator()(QORDirectory* directory) const {
+        if (FAILED(QORCloseDirectory(directory))) VELKOR_ASSERTION_FAILED();
+    }
+};
+
+/// Reads the folder's directory. `found` are the names of earlier folders, and of this one afterwards: they are
+/// those of the lists, which may be moved but not be copied.
 void search(QORIFCDXFileServices::SearchedFolder& folder, const QORUnicodeString& nameText,
-            std::unordered_set<QORUnicodeString>& found) {
+            std::unordered_set<std::string_view>& found) {
     QORDirectory* directory = nullptr;
     if (FAILED(QOROpenDirectory(folder.path, directory))) return;
+    const std::unique_ptr<QORDirectory, CloseDirectory> open(directory);
     folder.isReadable = true;
     QORUnicodeString name;
     while (QORReadDirectory(directory, name) == S_OK) {
         if (name.SearchSubString(nameText) < 0) continue;
-        (found.insert(name).second ? folder.names : folder.hiddenNames).Append(name);
+        (found.contains(name.utf8()) ? folder.hiddenNames : folder.names).Append(std::move(name));
     }
-    if (FAILED(QORCloseDirectory(directory))) VELKOR_ASSERTION_FAILED();
+    for (const QORUnicodeString& counted : folder.names) found.insert(counted.utf8());
 }
 
 } // namespace
@@ -32,7 +42,7 @@ void search(QORIFCDXFileServices::SearchedFolder& folder, const QORUnicodeString
 std::vector<QORIFCDXFileServices::SearchedFolder>
 QORIFCDXFileServices::SearchFolders(const QORUnicodeString& subFolder, const QORUnicodeString& nameText) {
     std::vector<SearchedFolder> folders;
-    std::unordered_set<QORUnicodeString> found;
+    std::unordered_set<std::string_view> found;
     for (const char* variable : CollectionStandardVariables) {
         QORToken list(QORGetEnv(variable));
         for (QORUnicodeString piece = list.GetNextToken(pathListSeparator); !piece.IsEmpty();
@@ -50,11 +60,16 @@ QORIFCDXFileServices::SearchFolders(const QORUnicodeString& subFolder, const QOR
 HRESULT QORIFCDXFileServices::FindResourceFiles(const QORUnicodeString& subFolder, const QORUnicodeString& extension,
                                                 QORListValQORUnicodeString& files) {
     files.RemoveAll();
+    bool hasSeparator = false;
     for (const SearchedFolder& folder : SearchFolders(subFolder, extension)) {
         const QORUnicodeString start = folder.path + folderSeparator;
-        for (const QORUnicodeString& name : folder.names) files.Append(start + name);
+        for (const QORUnicodeString& name : folder.names) {
+            files.Append(start + name);
+            hasSeparator |= name.utf8().find(folderSeparator.utf8()) != std::string_view::npos;
+        }
     }
-    files.RemoveDuplicates();
+    // A name counts once, so that paths can be equal only when a name reads like a folder and a name.
+    if (hasSeparator) files.RemoveDuplicates();
     if (files.Size() == 0) {
         VELKOR_ASSERTION_FAILED();
         return E_UNEXPECTED;

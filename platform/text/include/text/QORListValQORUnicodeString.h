@@ -3,12 +3,14 @@
 
 #include "text/QORUnicodeString.h"
 
+#include <utility>
 #include <vector>
 
 class QORListValQORUnicodeString {
 public:
     int Size() const noexcept { return static_cast<int>(_items.size()); }
     void Append(const QORUnicodeString& value) { _items.push_back(value); }
+    void Append(QORUnicodeString&& value) { _items.push_back(std::move(value)); }
     void Append(const QORListValQORUnicodeString& other);
 
     /// The item at a position from 1 to Size(); a position outside is a fault of the caller and
