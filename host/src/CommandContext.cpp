@@ -40,7 +40,9 @@ void CommandContext::complete(CLI::App& command, std::function<void()> run, cons
     command.add_option("--format", format, "text for people, json for programs; text unless told")
         ->option_text("text|json" + (thirdFormat.empty() ? "" : '|' + thirdFormat))
         ->check(CLI::IsMember(formats));
-    command.add_option("--config", configurationFile, "Configuration file; the one VELKOR_CONFIG names unless told")
+    command
+        .add_option("--config", configurationFile,
+                    "Configuration file, - for standard input; the one VELKOR_CONFIG names unless told")
         ->option_text("FILE");
     command.callback([this, &command, run = std::move(run)] {
         // A subcommand has answered in its place.
@@ -56,7 +58,7 @@ bool CommandContext::readConfiguration() {
         configuration.shippedResources = shippedResources;
         return true;
     }
-    ConfigurationReading reading = host::readConfiguration(path);
+    ConfigurationReading reading = host::readConfiguration(path, in);
     for (const std::string& error : reading.errors) reportUnreadable(printable(error));
     if (!reading.errors.empty() && configurationFile.empty())
         reportUnreadable(std::string(configurationVariable) + " names that configuration");

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <gmock/gmock.h>
 #include <set>
+#include <sys/stat.h>
 
 namespace velkor::host {
 
@@ -12,6 +13,7 @@ using nlohmann::json;
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 namespace {
 
@@ -320,8 +322,23 @@ TEST_F(ResourcesCheckTest, FilesThatAreNone) {
     file = check(folder / "page.xml", Findings, {"--kind", "custom-mapping"})["files"][0];
     EXPECT_EQ(findingsOf(file), "1 unknown-element");
     EXPECT_EQ(runHost({"resources", "check", folder / "gone.xml"}).status, Unreadable);
-    EXPECT_EQ(runHost({"resources", "check", folder.path}).err,
-              "velkor: " + folder.path + ": cannot be read: is a folder\n");
+    // A pipe is not waited for, and a file that breaks off is no XML with a fault.
+    const std::string pipe = folder / "pipe.xml";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    for (const auto& [path, reason] : {std::pair{folder.path, "is a folder, expected a file"},
+                                       {pipe, "is no regular file"},
+                                       {std::string("/proc/self/mem"), "Input/output error"}}) {
+        for (const auto& words :
+             {std::vector<std::string>{"resources", "check", path}, {"options", "--config", path}}) {
+            const Outcome outcome = runHost(words);
+            EXPECT_EQ(outcome.err, "velkor: " + path + ": cannot be read: " + reason + "\n");
+            EXPECT_EQ(outcome.status, Unreadable);
+        }
+    }
+    const Outcome piped = runHost({"resources", "check", "-"}, false, {}, "<IfcMapping>\n<a></b>");
+    EXPECT_EQ(piped.status, Findings);
+    EXPECT_THAT(piped.out, StartsWith("-:2: error: "));
+    EXPECT_THAT(runHost({"options", "--config", "-"}, false, {}, "\n{").err, StartsWith("velkor: -:2:"));
     EXPECT_EQ(runHost({"resources", "check", "--kind", "aec"}).status, BadUsage);
     EXPECT_EQ(runHost({"resources", "check", "a.xml", "--kind", "house"}).status, BadUsage);
 }

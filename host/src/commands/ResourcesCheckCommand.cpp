@@ -115,7 +115,7 @@ void runCheck(CommandContext& context, const Options& options) {
         files = checkUsed(context, check);
     } else {
         const LinterKind* kind = lint::linterKind(options.kind);
-        for (const std::string& path : options.paths) files.push_back(check.file(path, kind));
+        for (const std::string& path : options.paths) files.push_back(check.file(path, kind, context.in));
     }
     Counts total;
     for (const CheckedFile& file : files) {
@@ -140,8 +140,8 @@ void addResourcesCheckCommand(CLI::App& resources, CommandContext& context) {
     const auto options = std::make_shared<Options>();
     std::vector<std::string> words;
     for (const LinterKind& kind : lint::linterKinds()) words.emplace_back(kind.word);
-    CLI::Option* paths =
-        command->add_option("FILE", options->paths, "Resource files; the ones that are used unless told");
+    CLI::Option* paths = command->add_option(
+        "FILE", options->paths, "Resource files, - for standard input; the ones that are used unless told");
     command->add_option("--kind", options->kind, "What the files are; seen from their content unless told")
         ->option_text("KIND")
         ->check(CLI::IsMember(words))

@@ -58,7 +58,8 @@ std::string useText(const ResourceSearch& search, const Entry& entry) {
 }
 
 const char* inWords(PathState state) {
-    constexpr const char* words[] = {"", "does not exist", "is a folder", "is no folder", "may not be read"};
+    constexpr const char* words[] = {
+        "", "does not exist", "is a folder", "is no folder", "is no regular file", "may not be read"};
     return words[static_cast<std::size_t>(state)];
 }
 

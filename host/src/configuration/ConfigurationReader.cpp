@@ -3,16 +3,14 @@
 #include "configuration/ConfigurationTable.h"
 #include "configuration/JsonTree.h"
 #include "files/Paths.h"
+#include "InputText.h"
 #include "NearestNames.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
-#include <fstream>
 #include <limits>
 #include <map>
 #include <nlohmann/json.hpp>
-#include <system_error>
 #include <unordered_map>
 
 namespace velkor::host {
@@ -279,22 +277,11 @@ private:
 
 } // namespace
 
-ConfigurationReading readConfiguration(const std::string& path) {
-    const auto unreadable = [&](const std::string& reason) {
-        return ConfigurationReading{{}, {path + ": cannot be read: " + reason}};
-    };
-    std::error_code none;
-    if (std::filesystem::is_directory(path, none)) return unreadable("Is a directory");
-    errno = 0;
-    std::ifstream file(path, std::ios::binary);
-    std::string text(mostBytes + 1, '\0');
-    if (file) file.read(text.data(), static_cast<std::streamsize>(text.size()));
-    if (!file.is_open() || file.bad()) {
-        return unreadable(errno == 0 ? "unknown reason" : std::generic_category().message(errno));
-    }
-    text.resize(static_cast<std::size_t>(file.gcount()));
-    if (text.size() > mostBytes) return unreadable("it is larger than 1 MiB");
-    return parseConfiguration(text, path);
+ConfigurationReading readConfiguration(const std::string& path, std::istream* standardInput) {
+    const auto text = readInput(path, standardInput, mostBytes + 1);
+    const std::string reason = !text ? text.error() : text->size() > mostBytes ? "it is larger than 1 MiB" : "";
+    if (!reason.empty()) return {{}, {path + ": cannot be read: " + reason}};
+    return parseConfiguration(*text, path);
 }
 
 ConfigurationReading parseConfiguration(std::string_view text, const std::string& path) {

@@ -3,6 +3,7 @@
 
 #include "configuration/Configuration.h"
 
+#include <iosfwd>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,8 +17,9 @@ struct ConfigurationReading {
     std::vector<std::string> errors;
 };
 
-/// Paths in the configuration that are relative are so to the file's folder.
-ConfigurationReading readConfiguration(const std::string& path);
+/// Reads a file or, for "-", standard input, null for an empty one. Paths in the configuration that are relative
+/// are so to the file's folder.
+ConfigurationReading readConfiguration(const std::string& path, std::istream* standardInput);
 
 /// The same over a text; `path` stands in messages and decides about relative paths.
 ConfigurationReading parseConfiguration(std::string_view text, const std::string& path);

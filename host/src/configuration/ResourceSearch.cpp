@@ -27,7 +27,8 @@ std::string inQuotes(const std::string& text) {
 }
 
 const char* inWords(PathState state) {
-    constexpr const char* words[] = {"is readable", "does not exist", "is a folder", "is no folder", "may not be read"};
+    constexpr const char* words[] = {"is readable",  "does not exist",     "is a folder",
+                                     "is no folder", "is no regular file", "may not be read"};
     return words[static_cast<std::size_t>(state)];
 }
 
@@ -40,6 +41,7 @@ PathState fileState(const std::string& path) {
     const auto status = std::filesystem::status(path, none);
     if (status.type() == std::filesystem::file_type::not_found) return PathState::Missing;
     if (std::filesystem::is_directory(status)) return PathState::IsFolder;
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) return PathState::IsNoRegularFile;
     return isReadable(path) ? PathState::Readable : PathState::Forbidden;
 }
 
@@ -244,7 +246,8 @@ void remark(ResourceSearch& search) {
 } // namespace
 
 const char* name(PathState state) {
-    constexpr const char* names[] = {"readable", "missing", "is_folder", "is_no_folder", "forbidden"};
+    constexpr const char* names[] = {"readable",           "missing",  "is_folder", "is_no_folder",
+                                     "is_no_regular_file", "forbidden"};
     return names[static_cast<std::size_t>(state)];
 }
 

@@ -14,9 +14,9 @@
 
 namespace velkor::host {
 
-enum class PathState { Readable, Missing, IsFolder, IsNoFolder, Forbidden };
+enum class PathState { Readable, Missing, IsFolder, IsNoFolder, IsNoRegularFile, Forbidden };
 
-/// "readable", "missing", "is_folder", "is_no_folder", "forbidden".
+/// "readable", "missing", "is_folder", "is_no_folder", "is_no_regular_file", "forbidden".
 const char* name(PathState state);
 
 /// Paths have the system's separator.

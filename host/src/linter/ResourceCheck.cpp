@@ -1,5 +1,6 @@
 #include "linter/ResourceCheck.h"
 
+#include "InputText.h"
 #include "linter/AECLinter.h"
 #include "linter/AttributeListLinter.h"
 #include "linter/CustomMappingLinter.h"
@@ -8,10 +9,6 @@
 #include "linter/VersionMappingLinter.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 
 namespace velkor::host::lint {
 
@@ -44,18 +41,18 @@ const LinterKind* recognized(const XmlElement& root) {
     return isVersionMapping(root) ? linterKind("version-mapping") : nullptr;
 }
 
-// Why a file cannot be opened; empty when it can.
-std::string obstacle(const std::string& path) {
-    std::error_code none;
-    if (std::filesystem::is_directory(path, none)) return "is a folder";
-    errno = 0;
-    return std::ifstream(path) ? std::string() : std::strerror(errno);
-}
+// More than the parser takes.
+constexpr std::size_t mostBytes = std::size_t{2} << 30;
 
-CheckedFile judged(const std::string& path, const LinterKind* kind, Linter* linter, Dictionaries& dictionaries) {
-    CheckedFile file{path, kind, obstacle(path)};
-    if (!file.unreadable.empty()) return file;
-    XmlReading reading = readXml(path);
+CheckedFile judged(const std::string& path, const LinterKind* kind, Linter* linter, Dictionaries& dictionaries,
+                   std::istream* standardInput) {
+    CheckedFile file{path, kind, {}};
+    const auto text = readInput(path, standardInput, mostBytes);
+    if (!text) {
+        file.unreadable = text.error();
+        return file;
+    }
+    XmlReading reading = readXml(*text, path);
     if (reading.root == nullptr) {
         file.judgement.findings = std::move(reading.findings);
         return file;
@@ -98,14 +95,14 @@ const LinterKind* linterKind(std::string_view word) {
     return found == linterKinds().end() ? nullptr : &*found;
 }
 
-CheckedFile ResourceCheck::file(const std::string& path, const LinterKind* kind) {
-    return judged(path, kind, nullptr, _dictionaries);
+CheckedFile ResourceCheck::file(const std::string& path, const LinterKind* kind, std::istream* standardInput) {
+    return judged(path, kind, nullptr, _dictionaries, standardInput);
 }
 
 std::vector<CheckedFile> ResourceCheck::files(const std::vector<std::string>& paths, const LinterKind& kind) {
     const auto linter = kind.make(_dictionaries);
     std::vector<CheckedFile> result;
-    for (const std::string& path : paths) result.push_back(judged(path, &kind, linter.get(), _dictionaries));
+    for (const std::string& path : paths) result.push_back(judged(path, &kind, linter.get(), _dictionaries, nullptr));
     return result;
 }
 

@@ -1,12 +1,13 @@
 /// Resource files judged by their linters.
 ///
 ///     ResourceCheck check;
-///     CheckedFile file = check.file("mine.xml", nullptr);
+///     CheckedFile file = check.file("mine.xml", nullptr, nullptr);
 #pragma once
 
 #include "configuration/ResourceSearch.h"
 #include "linter/Linter.h"
 
+#include <iosfwd>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -37,8 +38,8 @@ struct CheckedFile {
 
 class ResourceCheck {
 public:
-    /// Judges one file by itself; without a kind as what its content looks like.
-    CheckedFile file(const std::string& path, const LinterKind* kind);
+    /// Judges one file or, for "-", standard input by itself; without a kind as what its content looks like.
+    CheckedFile file(const std::string& path, const LinterKind* kind, std::istream* standardInput);
     /// Judges the files of one kind in the order in which the services read them.
     std::vector<CheckedFile> files(const std::vector<std::string>& paths, const LinterKind& kind);
 

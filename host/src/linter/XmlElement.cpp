@@ -85,14 +85,18 @@ bool XmlElement::contains(std::string_view wanted) const {
            std::ranges::any_of(children, [&](const XmlElement& child) { return child.contains(wanted); });
 }
 
-XmlReading readXml(const std::string& path) {
+XmlReading readXml(std::string_view bytes, const std::string& path) {
     XmlReading reading;
     QORIXMLDOMDocumentBuilder_var builder;
     CreateQORIXMLDOMDocumentBuilder(CLSID_XML4C5_DOM, builder);
-    const auto handler = QORIXMLErrorHandler_var::adopt(new Messages(reading.findings));
+    const auto handler = QORIXMLErrorHandler_var::adopt(objectmodeler::newComponent<Messages>(reading.findings));
     QORIDOMDocument_var document;
     QORIDOMElement_var root;
-    builder->Parse(QORUnicodeString(std::string_view(path)), document, {}, {}, {}, handler);
+    QORIXMLSAX2Factory_var factory;
+    CreateQORIXMLSAX2Factory(CLSID_XML4C5_SAX, factory);
+    QORIXMLInputSource_var source;
+    factory->CreateInputSourceFromText(bytes, QORUnicodeString(std::string_view(path)), source);
+    builder->Parse(source, document, {}, {}, {}, handler);
     if (!document.IsNull()) document->GetDocumentElement(root);
     if (root.IsNull()) {
         if (reading.findings.empty())

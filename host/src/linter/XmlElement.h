@@ -55,7 +55,7 @@ struct XmlReading {
     std::vector<Finding> findings;
 };
 
-/// Reads a file that can be opened.
-XmlReading readXml(const std::string& path);
+/// Reads the bytes of a file.
+XmlReading readXml(std::string_view bytes, const std::string& path);
 
 } // namespace velkor::host::lint
