@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <CLI/CLI.hpp>
+#include <new>
 #include <ostream>
 
 namespace velkor::host {
@@ -79,7 +80,9 @@ std::unique_ptr<sdai::Model> CommandContext::openModel(const std::string& path) 
     return nullptr;
 }
 
-int run(std::vector<std::string> words, CommandContext& context) {
+namespace {
+
+int runCommand(std::vector<std::string> words, CommandContext& context) {
     CLI::App app("Services for building models in IFC (ISO 16739).", "velkor");
     app.set_version_flag("--version", "velkor " VELKOR_VERSION, "Print the version");
     app.set_help_flag("-h,--help", "Print this help");
@@ -94,13 +97,23 @@ int run(std::vector<std::string> words, CommandContext& context) {
         app.parse(words);
     } catch (const CLI::ParseError& error) {
         return app.exit(error, context.out, context.err) == 0 ? Done : BadUsage;
-    } catch (const std::exception& error) {
-        context.err << "velkor: " << error.what() << '\n';
-        return Unreadable;
     }
     if (app.get_subcommands().empty()) {
         context.err << app.help();
         return BadUsage;
+    }
+    return context.status;
+}
+
+} // namespace
+
+int run(std::vector<std::string> words, CommandContext& context) {
+    try {
+        return runCommand(std::move(words), context);
+    } catch (const std::bad_alloc&) {
+        context.reportUnreadable("out of memory");
+    } catch (const std::exception& error) {
+        context.reportUnreadable(error.what());
     }
     return context.status;
 }

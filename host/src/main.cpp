@@ -1,11 +1,13 @@
 #include "CommandContext.h"
 #include "configuration/ConfigurationTable.h"
+#include "LastWords.h"
 #include "settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <iostream>
+#include <new>
 #include <poll.h>
 #include <unistd.h>
 
@@ -25,11 +27,18 @@ std::string shippedResources() {
     return !program.empty() && std::filesystem::is_directory(folder, none) ? folder.string() : std::string();
 }
 
+// Libraries allocate memory when they are loaded, before any constructor of the program could install this.
+[[gnu::no_sanitize("address", "undefined", "thread")]] void installNewHandler() {
+    std::set_new_handler(velkor::host::endOutOfMemory);
+}
+[[gnu::section(".preinit_array"), gnu::used]] void (*const beforeAll)() = installNewHandler;
+
 } // namespace
 
 int main(int argc, char** argv) {
     using namespace velkor::host;
     std::signal(SIGPIPE, SIG_IGN);
+    endWithUnreadableMappings();
     std::ios::sync_with_stdio(false);
 
     const bool capable = QORGetEnv(terminalVariable).utf8() != "dumb";

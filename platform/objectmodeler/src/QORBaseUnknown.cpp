@@ -3,7 +3,7 @@
 #include "ComponentAccess.h"
 #include "objectmodeler/ClassDictionary.h"
 
-#include <cstdlib>
+#include <new>
 
 using namespace velkor::objectmodeler;
 
@@ -113,9 +113,10 @@ const IID& QORBaseUnknown::ClassId() {
 }
 
 void* QORBaseUnknown::operator new(std::size_t size) noexcept {
-    return std::malloc(size);
+    // What a host has installed as new-handler hears of it.
+    return ::operator new(size, std::nothrow);
 }
 
 void QORBaseUnknown::operator delete(void* object) noexcept {
-    std::free(object);
+    ::operator delete(object);
 }

@@ -25,7 +25,8 @@ class Model {
 public:
     /// The error is one line that names the file and says why it cannot be read, or which schemas there
     /// are when the file's is none of them.
-    static tl::expected<std::unique_ptr<Model>, std::string> open(const std::string& path);
+    static tl::expected<std::unique_ptr<Model>, std::string>
+    open(const std::string& path, Part21File::Access access = Part21File::Access::Mapped);
     /// The same over text that the caller keeps alive; `name` stands for the file in messages.
     static tl::expected<std::unique_ptr<Model>, std::string> fromText(std::string_view text, std::string name);
     /// The same over a file that is open already.

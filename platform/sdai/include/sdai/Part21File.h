@@ -1,4 +1,4 @@
-/// An exchange structure (ISO 10303-21) mapped into memory, with its header and an index of
+/// An exchange structure (ISO 10303-21) in memory, with its header and an index of
 /// its instances. Nothing but the index is built at opening; instances are decoded from
 /// the text when asked for.
 ///
@@ -12,6 +12,7 @@
 
 #include "sdai/Problem.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -47,10 +48,17 @@ public:
     /// Keyword number when a file has more different keywords than numbers; the text tells.
     static constexpr std::uint16_t unlistedKeyword = 0xFFFF;
 
-    /// Maps and indexes a file. The error is one line that names the file and says why it
-    /// cannot be read as an exchange structure at all.
-    static tl::expected<std::unique_ptr<Part21File>, std::string> open(const std::string& path,
-                                                                       ScanPath scanPath = ScanPath::Automatic);
+    /// How the text of a file comes into memory. `Mapped` costs no memory of its own, but who makes a file shorter
+    /// while it is mapped ends the process with SIGBUS when the text behind its new end is looked at. `Read` copies
+    /// the file, which nobody can change then.
+    enum class Access : std::uint8_t { Mapped, Read };
+    /// Files with fewer bytes are read in any case.
+    static constexpr std::size_t mappedFrom = 1 << 20;
+
+    /// Indexes a file. The error is one line that names the file and says why it cannot be read as an
+    /// exchange structure at all.
+    static tl::expected<std::unique_ptr<Part21File>, std::string>
+    open(const std::string& path, ScanPath scanPath = ScanPath::Automatic, Access access = Access::Mapped);
     /// The same over text that the caller keeps alive; `name` stands for the file in messages.
     static tl::expected<std::unique_ptr<Part21File>, std::string> fromText(std::string_view text, std::string name,
                                                                            ScanPath scanPath = ScanPath::Automatic);
@@ -90,7 +98,7 @@ public:
     /// the full count.
     std::span<const Problem> problems() const noexcept;
     std::uint64_t problemCount() const noexcept;
-    /// Bytes held beside the mapped text.
+    /// Bytes held beside the text.
     std::size_t memoryUse() const noexcept;
 
 protected:

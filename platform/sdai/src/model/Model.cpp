@@ -47,8 +47,8 @@ Model::Model(std::unique_ptr<Part21File> file, DXSdaiDictionaryRepo::SchemaPoint
 
 Model::~Model() = default;
 
-tl::expected<std::unique_ptr<Model>, std::string> Model::open(const std::string& path) {
-    return Part21File::open(path).and_then(over);
+tl::expected<std::unique_ptr<Model>, std::string> Model::open(const std::string& path, Part21File::Access access) {
+    return Part21File::open(path, ScanPath::Automatic, access).and_then(over);
 }
 
 tl::expected<std::unique_ptr<Model>, std::string> Model::fromText(std::string_view text, std::string name) {

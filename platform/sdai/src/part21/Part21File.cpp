@@ -1,6 +1,6 @@
 #include "sdai/Part21File.h"
 
-#include "part21/MappedFile.h"
+#include "part21/FileText.h"
 #include "part21/Separators.h"
 #include "part21/StructureReader.h"
 
@@ -12,10 +12,10 @@ namespace velkor::sdai {
 using namespace part21;
 
 struct Part21File::State {
-    State(MappedFile file_, std::string_view text, std::string name_)
+    State(FileText file_, std::string_view text, std::string name_)
         : file(std::move(file_)), structure(text), name(std::move(name_)) {}
 
-    MappedFile file;
+    FileText file;
     Structure structure;
     std::string name;
 };
@@ -66,8 +66,9 @@ std::string foreignFormat(std::string_view text) {
 Part21File::Part21File() = default;
 Part21File::~Part21File() = default;
 
-tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::open(const std::string& path, ScanPath scanPath) {
-    auto file = MappedFile::open(path);
+tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::open(const std::string& path, ScanPath scanPath,
+                                                                        Access access) {
+    auto file = FileText::open(path, access);
     if (!file) return tl::unexpected(path + ": cannot be read: " + file.error());
     if (file->text().empty()) return tl::unexpected(path + ": is empty, " + std::string(expected));
     const std::string_view text = file->text();
@@ -76,13 +77,13 @@ tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::open(const st
 
 tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::fromText(std::string_view text, std::string name,
                                                                             ScanPath scanPath) {
-    return read(std::make_unique<State>(MappedFile(), text, std::move(name)), scanPath);
+    return read(std::make_unique<State>(FileText(), text, std::move(name)), scanPath);
 }
 
 tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::read(std::unique_ptr<State> state, ScanPath path) {
     struct Opened : Part21File {};
     Structure& structure = state->structure;
-    MappedFile& mapped = state->file;
+    FileText& mapped = state->file;
     const BlockClassifier classifier = blockClassifier(path);
     if (classifier == nullptr) {
         return tl::unexpected(state->name + ": the processor lacks the instructions of the scan path asked for");

@@ -130,13 +130,22 @@ TEST(Reader, MoreKeywordsAndProblemsThanAreKeptStayReadable) {
 TEST(Reader, ReadsAFileAsItReadsText) {
     const std::string path = testing::TempDir() + "velkor reader.ifc";
     const std::string text = "\xEF\xBB\xBF" + withData("#1=A();\n");
-    std::ofstream(path, std::ios::binary) << text;
-    const auto file = Part21File::open(path);
-    ASSERT_TRUE(file) << file.error();
-    EXPECT_EQ((*file)->name(), path);
-    EXPECT_EQ((*file)->text(), text);
-    EXPECT_EQ((*file)->offset(0), text.find("#1"));
-    EXPECT_THAT((*file)->problems(), IsEmpty());
+    using Access = Part21File::Access;
+    for (const auto& [access, size, isCopied] : {std::tuple(Access::Mapped, Part21File::mappedFrom - 1, true),
+                                                 {Access::Mapped, Part21File::mappedFrom, false},
+                                                 {Access::Read, Part21File::mappedFrom, true}}) {
+        const std::string whole = text + std::string(size - text.size(), '\n');
+        std::ofstream(path, std::ios::binary) << whole;
+        const auto file = Part21File::open(path, ScanPath::Automatic, access);
+        ASSERT_TRUE(file) << file.error();
+        EXPECT_EQ((*file)->name(), path);
+        EXPECT_EQ((*file)->text(), whole);
+        EXPECT_EQ((*file)->offset(0), text.find("#1"));
+        EXPECT_THAT((*file)->problems(), IsEmpty());
+        // What others write into the file shows in a mapping alone.
+        std::fstream(path, std::ios::binary | std::ios::in | std::ios::out) << "I";
+        EXPECT_EQ((*file)->text() == whole, isCopied);
+    }
     std::filesystem::remove(path);
 
     std::ofstream(path).close();
