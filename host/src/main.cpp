@@ -28,7 +28,7 @@ std::string shippedResources() {
 }
 
 // Libraries allocate memory when they are loaded, before any constructor of the program could install this.
-[[gnu::no_sanitize("address", "undefined", "thread")]] void installNewHandler() {
+__attribute__((no_sanitize("address", "undefined", "thread"))) void installNewHandler() {
     std::set_new_handler(velkor::host::endOutOfMemory);
 }
 [[gnu::section(".preinit_array"), gnu::used]] void (*const beforeAll)() = installNewHandler;
