@@ -91,12 +91,12 @@ TEST_F(MessageLogging, WritesWhatTheLogsCurrentLevelLetsThrough) {
         EXPECT_THAT(put(level), Each(written == 1 ? S_OK : E_FAIL));
         EXPECT_THAT(builds, SizeIs(written)) << "a text that is left out is not built";
     }
-    StrictLog log(2);
+    StrictLog log(69999);
     Services::SetLogError();
     EXPECT_CALL(log, PutMsgErr(_, _, _, _, 70000, _, _));
-    for (const auto& [current, result] : {std::pair{2, E_FAIL}, std::pair{70000, S_OK}, std::pair{69999, E_FAIL}}) {
-        log.level = current;
-        EXPECT_EQ(Services::PutMsg(nullptr, nullptr, "a", "b", 70000, nullptr, nullptr), result) << current;
+    for (const HRESULT result : {E_FAIL, S_OK}) {
+        EXPECT_EQ(Services::PutMsg(nullptr, nullptr, "a", "b", 70000, nullptr, nullptr), result);
+        log.level = 70000;
     }
 }
 
