@@ -259,11 +259,11 @@ TEST(CustomMappingTable, AppliesUntilAnAnswerIsNotZero) {
         b:  -> bc c 0 | a -> bc c 0
         c: c -> c c 7
         d:  ->  d 5)")) {
+        CountedElement::stopAt = stopAt;
         CustoMappingElement* start = from.empty() ? nullptr : &elements[from[0] - 'a'];
         for (const int kind : {0, 1, 2}) {
             const auto apply = [&](CustoMappingElement** last, int* result) {
                 CountedElement::called.clear();
-                CountedElement::stopAt = stopAt;
                 return kind == 0   ? table.ApplyMemberFunct(member, start, last, result)
                        : kind == 1 ? table.ApplyMemberFunctConst(constMember, start, last, result)
                                    : table.ApplyGlobalFunct(CountedElement::callGlobal, start, last, result);

@@ -256,24 +256,25 @@ TEST_F(XmlServices, SelectsNodes) {
 TEST_F(XmlServices, ReadsValues) {
     const QORIDOMDocument_var r = document(sample);
     // Of an element the first child alone counts, whatever it is.
-    for (const auto& [unused, xpath, expected] : casesOf(R"(: r/p -> 0 0 text | r/q[1]/@k -> 0 0 v | r/q[1] -> 0 0 c
+    for (const Case& c : casesOf(R"(: r/p -> 0 0 text | r/q[1]/@k -> 0 0 v | r/q[1] -> 0 0 c
         : r/s -> 0 0 a | r/s/text()[2] -> 0 0 b | r/u -> 0 0  | / -> 0 0 
         : r/q -> 80070057 0 | r/none -> 80070057 0 | r/gml:p -> 8000ffff 1 | r/ -> 80004005 3)")) {
         QORUnicodeString value;
-        std::string found = outcome([&] { return Services::GetNodeValue(r, xpath.c_str(), value); });
+        std::string found = outcome([&] { return Services::GetNodeValue(r, c.text.c_str(), value); });
         if (found == "0 0") found += ' ' + std::string(value.utf8());
-        EXPECT_EQ(found, expected) << xpath;
+        EXPECT_EQ(found, c.expected) << c.text;
     }
-    for (const auto& [name, xpath, expected] : casesOf(R"(k: r/q[1] -> 0 0 v | r/q -> 80070057 1 | r/none -> 80070057 1
+    for (const Case& c : casesOf(R"(k: r/q[1] -> 0 0 v | r/q -> 80070057 1 | r/none -> 80070057 1
         k: r/p/text() -> 8000ffff 2 | / -> 8000ffff 2
         K: r/q[1] -> 0 0 )")) {
         QORUnicodeString value;
-        std::string found = outcome([&] { return Services::GetAttributeValue(r, xpath.c_str(), name.c_str(), value); });
-        if (xpath == "r/none") {
-            EXPECT_EQ(objectmodeler::assertionReports().back().message, xpath);
+        std::string found =
+            outcome([&] { return Services::GetAttributeValue(r, c.text.c_str(), c.subject.c_str(), value); });
+        if (c.text == "r/none") {
+            EXPECT_EQ(objectmodeler::assertionReports().back().message, c.text);
         }
         if (found == "0 0") found += ' ' + std::string(value.utf8());
-        EXPECT_EQ(found, expected) << xpath;
+        EXPECT_EQ(found, c.expected) << c.text;
     }
     QORIDOMNode_var node;
     QORUnicodeString value;
