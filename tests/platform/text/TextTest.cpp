@@ -1,3 +1,4 @@
+#include "text/Printable.h"
 #include "text/QORDXUnicodeString.h"
 #include "text/QORListValQORUnicodeString.h"
 #include "text/QORToken.h"
@@ -111,6 +112,23 @@ TEST(QORListValQORUnicodeString, countsPositionsFromOne) {
     EXPECT_EQ(list[2], "B");
     EXPECT_EQ(list[0], "");
     EXPECT_EQ(list[6], "");
+}
+
+TEST(Printable, escapesWhatActsOnATerminal) {
+    for (const auto& [text, shown] : {std::pair("Grüße, 建物 🏗️ \\u", "Grüße, 建物 🏗️ \\u"),
+                                      {"\x1B[31m\r\n\t", "\\u001b[31m\\u000d\\u000a\\u0009"},
+                                      {"\x7F\u0080\u009F\u00A0", "\\u007f\\u0080\\u009f\u00A0"},
+                                      {"\u2027\u2028\u202E\u202F", "\u2027\\u2028\\u202e\u202F"},
+                                      {"\u2065\u2066\u2069\u206A", "\u2065\\u2066\\u2069\u206A"},
+                                      // The bytes of a name stay but for those that are controls in 8-bit sets.
+                                      {"caf\xE9 \x80\x9F\xA0\xFF", "caf\xE9 \\x80\\x9f\xA0\xFF"},
+                                      {"\xE2\x80 \xC2", "\xE2\\x80 \xC2"}}) {
+        EXPECT_EQ(velkor::text::printable(text), shown);
+        EXPECT_EQ(velkor::text::printable(shown), shown);
+    }
+    EXPECT_EQ(velkor::text::printable(std::string_view("\0", 1)), "\\u0000");
+    EXPECT_EQ(velkor::text::excerpt("ab\n", 3), "ab\\u000a");
+    EXPECT_EQ(velkor::text::excerpt("a梁柱", 5), "a梁…");
 }
 
 TEST(QORToken, passesOverEmptyPieces) {

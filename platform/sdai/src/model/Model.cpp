@@ -1,12 +1,16 @@
 #include "sdai/Model.h"
 
 #include "model/ComplexInstance.h"
+#include "text/Printable.h"
 
 #include <algorithm>
 
 namespace velkor::sdai {
 
 namespace {
+
+// Of what a message shows of the file, in bytes.
+constexpr std::size_t longestExcerpt = 200;
 
 std::string joined(const std::vector<std::string>& names, std::string_view separator) {
     std::string result;
@@ -59,10 +63,11 @@ tl::expected<std::unique_ptr<Model>, std::string> Model::over(std::unique_ptr<Pa
     const std::string registered = registeredSchema(schemaNames(*file));
     if (registered.empty()) {
         const Problem problem = *schemaProblem(*file);
-        return tl::unexpected(file->name() + ":" + std::to_string(problem.line) + ": " + problem.message);
+        return tl::unexpected(text::printable(file->name()) + ":" + std::to_string(problem.line) + ": " +
+                              problem.message);
     }
     auto schema = DXSdaiDictionaryRepo::TheOne().schema(registered);
-    if (!schema) return tl::unexpected(file->name() + ": " + schema.error());
+    if (!schema) return tl::unexpected(text::printable(file->name()) + ": " + schema.error());
     return std::unique_ptr<Model>(new Model(std::move(file), std::move(*schema)));
 }
 
@@ -75,9 +80,10 @@ std::optional<Problem> Model::schemaProblem(const Part21File& file) {
     problem.offset = found == std::string_view::npos ? 0 : found;
     problem.line = file.line(problem.offset);
     problem.code = "schema-unknown";
-    problem.message = "expected a supported schema in FILE_SCHEMA, found " +
-                      (written.empty() ? "none" : '"' + joined(written, "\", \"") + '"') +
-                      "; supported: " + joined(DXSdaiDictionaryRepo::TheOne().names(), ", ");
+    problem.message =
+        "expected a supported schema in FILE_SCHEMA, found " +
+        (written.empty() ? "none" : '"' + text::excerpt(joined(written, "\", \""), longestExcerpt) + '"') +
+        "; supported: " + joined(DXSdaiDictionaryRepo::TheOne().names(), ", ");
     return problem;
 }
 

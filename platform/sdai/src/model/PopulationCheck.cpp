@@ -2,6 +2,7 @@
 
 #include "model/ComplexInstance.h"
 #include "model/PopulationChecker.h"
+#include "text/Printable.h"
 #include "text/Unicode.h"
 
 #include <algorithm>
@@ -26,10 +27,7 @@ constexpr std::uint32_t progressStep = 1 << 14;
 std::string excerpt(const Token& token) {
     constexpr std::size_t longest = 40;
     if (token.kind == TokenKind::End) return "the end of the instance";
-    std::string text(token.text.substr(0, longest));
-    std::ranges::replace_if(
-        text, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
-    return token.text.size() > longest ? text + "…" : text;
+    return text::excerpt(token.text, longest);
 }
 
 bool isValue(const Token& token) {

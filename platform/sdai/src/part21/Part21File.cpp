@@ -3,6 +3,7 @@
 #include "part21/FileText.h"
 #include "part21/Separators.h"
 #include "part21/StructureReader.h"
+#include "text/Printable.h"
 
 #include <algorithm>
 #include <array>
@@ -69,8 +70,8 @@ Part21File::~Part21File() = default;
 tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::open(const std::string& path, ScanPath scanPath,
                                                                         Access access) {
     auto file = FileText::open(path, access);
-    if (!file) return tl::unexpected(path + ": cannot be read: " + file.error());
-    if (file->text().empty()) return tl::unexpected(path + ": is empty, " + std::string(expected));
+    if (!file) return tl::unexpected(text::printable(path) + ": cannot be read: " + file.error());
+    if (file->text().empty()) return tl::unexpected(text::printable(path) + ": is empty, " + std::string(expected));
     const std::string_view text = file->text();
     return read(std::make_unique<State>(std::move(*file), text, path), scanPath);
 }
@@ -86,15 +87,17 @@ tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::read(std::uni
     FileText& mapped = state->file;
     const BlockClassifier classifier = blockClassifier(path);
     if (classifier == nullptr) {
-        return tl::unexpected(state->name + ": the processor lacks the instructions of the scan path asked for");
+        return tl::unexpected(text::printable(state->name) +
+                              ": the processor lacks the instructions of the scan path asked for");
     }
     mapped.expectReading(0);
     if (const std::string format = foreignFormat(structure.text); !format.empty()) {
-        return tl::unexpected(state->name + ": " + std::string(expected) + ", " + format);
+        return tl::unexpected(text::printable(state->name) + ": " + std::string(expected) + ", " + format);
     }
     StructureReader(structure, classifier).read([&mapped](std::uint64_t position) { mapped.expectReading(position); });
     if (structure.tooManyInstances) {
-        return tl::unexpected(state->name + ": has more than " + std::to_string(InstanceIndex::maximumCount) +
+        return tl::unexpected(text::printable(state->name) + ": has more than " +
+                              std::to_string(InstanceIndex::maximumCount) +
                               " instances, which is the most that can be read");
     }
     std::unique_ptr<Part21File> opened = std::make_unique<Opened>();

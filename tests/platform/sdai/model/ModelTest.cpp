@@ -36,7 +36,11 @@ TEST_F(ModelOfSample, SaysWhyAFileIsNoModel) {
                 AllOf(StartsWith("dir/x.ifc:4: "), HasSubstr("found \"IFC9\", \"X\""), HasSubstr("supported: SAMPLE")));
     EXPECT_THAT(Model::fromText(withSchemas(""), "x.ifc").error(), HasSubstr("found none; supported: SAMPLE"));
     EXPECT_THAT(Model::fromText("<xml/>", "x.ifc").error(), AllOf(StartsWith("x.ifc: "), HasSubstr("XML")));
-    EXPECT_THAT(Model::open("/none.ifc").error(), HasSubstr("none.ifc: cannot be read"));
+    EXPECT_THAT(Model::open("/no\n\x1Bne.ifc").error(), StartsWith("/no\\u000a\\u001bne.ifc: cannot be read"));
+    EXPECT_THAT(
+        Model::fromText(withSchemas("FILE_SCHEMA(('\\X\\1B\\X\\0AEVIL" + std::string(300, 'x') + "'));\n"), "x\n.ifc")
+            .error(),
+        AllOf(StartsWith("x\\u000a.ifc:"), HasSubstr("found \"\\u001b\\u000aEVILxx"), HasSubstr("xx…\"")));
 }
 
 TEST_F(ModelOfSample, AnInstanceHasOneAddressAndItsEntity) {
