@@ -2,14 +2,14 @@
 
 #include "configuration/ConfigurationReader.h"
 #include "configuration/ConfigurationTable.h"
-#include "DisplayText.h"
 #include "sdai/Model.h"
 #include "settings/QORDXEnvironmentVariable.h"
+#include "text/Printable.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>
 #include <new>
-#include <ostream>
+#include <sstream>
 
 namespace velkor::host {
 
@@ -30,7 +30,16 @@ std::string failureMessage(const CLI::App* app, const CLI::Error& error) {
     if (const auto extras = app->remaining(); !extras.empty() && app->get_subcommands().empty()) {
         reason = (extras.front().starts_with('-') ? "unknown option " : "unknown command ") + extras.front();
     }
-    return "velkor: " + reason + "\nSee \"" + usedCommand(app) + " --help\".\n";
+    return "velkor: " + text::printable(reason) + "\nSee \"" + usedCommand(app) + " --help\".\n";
+}
+
+// Help and version, or what is wrong with the command line.
+int answer(const CLI::App& app, const CLI::ParseError& error, const CommandContext& context) {
+    std::ostringstream out, err;
+    const int code = app.exit(error, out, err);
+    context.out.lines(out.str());
+    context.err.lines(err.str());
+    return code == 0 ? Done : BadUsage;
 }
 
 } // namespace
@@ -60,7 +69,7 @@ bool CommandContext::readConfiguration() {
         return true;
     }
     ConfigurationReading reading = host::readConfiguration(path, in);
-    for (const std::string& error : reading.errors) reportUnreadable(printable(error));
+    for (const std::string& error : reading.errors) reportUnreadable(error);
     if (!reading.errors.empty() && configurationFile.empty())
         reportUnreadable(std::string(configurationVariable) + " names that configuration");
     configuration = std::move(reading.configuration);
@@ -96,10 +105,10 @@ int runCommand(std::vector<std::string> words, CommandContext& context) {
         std::ranges::reverse(words);
         app.parse(words);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error, context.out, context.err) == 0 ? Done : BadUsage;
+        return answer(app, error, context);
     }
     if (app.get_subcommands().empty()) {
-        context.err << app.help();
+        context.err.lines(app.help());
         return BadUsage;
     }
     return context.status;

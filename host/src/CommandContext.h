@@ -2,6 +2,7 @@
 #pragma once
 
 #include "configuration/Configuration.h"
+#include "TextSink.h"
 
 #include <functional>
 #include <iosfwd>
@@ -28,8 +29,8 @@ enum ExitStatus : int {
 };
 
 struct CommandContext {
-    std::ostream& out;
-    std::ostream& err;
+    TextSink out;
+    TextSink err;
     /// True when `err` is a terminal that may show progress.
     bool interactive = false;
     /// True when `out` may be coloured: a terminal, and NO_COLOR is not set.

@@ -1,4 +1,4 @@
-/// Text that comes from files, made fit for a page that people read on a terminal.
+/// Text laid out for a page that people read on a terminal.
 #pragma once
 
 #include <cstdint>
@@ -8,15 +8,14 @@
 
 namespace velkor::host {
 
-/// UTF-8 that cannot act on a terminal: line ends and tabs become blanks; other control
-/// characters, marks that turn the writing direction, and bytes that are not UTF-8 become
-/// U+FFFD.
-std::string printable(std::string_view text);
-
 /// Columns that printable text takes on a terminal.
 std::size_t displayWidth(std::string_view text);
 
-/// Printable text in lines of at most `width` columns, broken at blanks where that is possible and
+/// Text made printable, its end cut off and "…" in its place when it takes more columns than `width`. A text of any
+/// length costs no more than what is seen of it.
+std::string shortened(std::string_view text, std::size_t width);
+
+/// Text made printable, in lines of at most `width` columns, broken at blanks where that is possible and
 /// never inside what a reader sees as one character. What does not fit into `maxLines` is cut
 /// off, and "…" tells so. Empty text gives no line.
 std::vector<std::string> wrapped(std::string_view text, std::size_t width, std::size_t maxLines);

@@ -3,15 +3,17 @@
 /// include <nlohmann/json.hpp> themselves; it costs seconds to compile.
 #pragma once
 
-#include <iosfwd>
+#include "TextSink.h"
+
 #include <nlohmann/json_fwd.hpp>
 
 namespace velkor::host {
 
 using Json = nlohmann::ordered_json;
 
-/// Writes a value and a line end. Infinities and NaN, which JSON lacks, become null; text that is
-/// not UTF-8 has its bad bytes replaced.
-void writeJson(std::ostream& out, const Json& value);
+/// Writes a value and a line end. Infinities and NaN, which JSON lacks, become null. A text that is not UTF-8, such as
+/// the name of a file, has its bad bytes replaced by U+FFFD; behind such a member stands one with "_bytes" added to its
+/// name that holds the text percent-encoded (RFC 3986). Of a list of texts it holds all of them so.
+void writeJson(TextSink out, const Json& value);
 
 } // namespace velkor::host

@@ -1,7 +1,6 @@
 #include "LastWords.h"
 
 #include "CommandContext.h"
-#include "DisplayText.h"
 
 #include <charconv>
 #include <csignal>
@@ -53,9 +52,10 @@ void onBusError(int, siginfo_t* info, void*) {
     struct stat status {};
     const bool isThere = stat(place->file.c_str(), &status) == 0;
     const bool isShorter = isThere && static_cast<std::uint64_t>(status.st_size) <= place->offset;
-    std::cerr << "velkor: " << printable(place->file)
-              << (isShorter ? ": was truncated while it was read\n" : ": cannot be read: Input/output error\n")
-              << std::flush;
+    const TextSink err(std::cerr);
+    err << "velkor: " << place->file
+        << (isShorter ? ": was truncated while it was read" : ": cannot be read: Input/output error") << '\n';
+    err.flush();
     _exit(Unreadable);
 }
 

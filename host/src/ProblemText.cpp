@@ -4,14 +4,13 @@
 #include "report/ProblemSummary.h"
 
 #include <nlohmann/json.hpp>
-#include <ostream>
 
 namespace velkor::host {
 
-void writeProblem(std::ostream& out, const std::string& file, const sdai::Problem& problem) {
+void writeProblem(TextSink out, const std::string& file, const sdai::Problem& problem) {
     out << file << ':' << problem.line << ": " << name(problem.severity) << ": ";
     if (problem.instance != 0) out << '#' << problem.instance << ": ";
-    out << printable(problem.message) << " [" << problem.code << "]\n";
+    out << shortened(problem.message, longestMessage) << " [" << problem.code << "]\n";
 }
 
 Json problemJson(const sdai::Problem& problem) {

@@ -4,13 +4,15 @@
 #include "Json.h"
 #include "sdai/Problem.h"
 
-#include <iosfwd>
 #include <string>
 
 namespace velkor::host {
 
-/// One line as compilers write it, so that editors jump to the place. `file` is printable already.
-void writeProblem(std::ostream& out, const std::string& file, const sdai::Problem& problem);
+/// The widest line of a message that people are shown; it is cut there.
+inline constexpr std::size_t longestMessage = 1000;
+
+/// One line as compilers write it, so that editors jump to the place.
+void writeProblem(TextSink out, const std::string& file, const sdai::Problem& problem);
 
 Json problemJson(const sdai::Problem& problem);
 

@@ -2,8 +2,6 @@
 
 #include "report/Page.h"
 
-#include <ostream>
-
 namespace velkor::host {
 
 namespace {
@@ -18,7 +16,9 @@ Progress::Progress(CommandContext& context, std::string what)
     : _context(context), _what(std::move(what)), _next(Clock::now() + quietTime) {}
 
 Progress::~Progress() {
-    if (_isShown) _context.err << "\r\033[K" << std::flush;
+    if (!_isShown) return;
+    _context.err << "\r\033[K";
+    _context.err.flush();
 }
 
 void Progress::show(std::uint64_t done, std::uint64_t total) {
@@ -29,7 +29,8 @@ void Progress::show(std::uint64_t done, std::uint64_t total) {
     _isShown = true;
     const double part = static_cast<double>(done) / static_cast<double>(total);
     _context.err << '\r' << _what << "  " << padded(bar(part, barWidth), barWidth) << ' '
-                 << static_cast<int>(part * 100.0) << " %\033[K" << std::flush;
+                 << static_cast<int>(part * 100.0) << " %\033[K";
+    _context.err.flush();
 }
 
 } // namespace velkor::host

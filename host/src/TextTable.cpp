@@ -4,11 +4,15 @@
 #include "report/Page.h"
 
 #include <algorithm>
-#include <ostream>
 
 namespace velkor::host {
 
-void TextTable::write(std::ostream& out, const std::string& indent) const {
+void TextTable::add(const std::vector<std::string_view>& cells) {
+    std::vector<std::string>& row = _rows.emplace_back();
+    for (const std::string_view cell : cells) row.push_back(shortened(cell, widest));
+}
+
+void TextTable::write(TextSink out, const std::string& indent) const {
     std::vector<std::string> headings;
     std::vector<std::size_t> widths;
     for (std::size_t i = 0; i < _columns.size(); ++i) {

@@ -51,7 +51,7 @@ int main(int argc, char** argv) {
     const int status = run({argv + std::min(argc, 1), argv + argc}, context);
     std::cout.flush();
     if (!std::cout && !isReaderGone()) {
-        std::cerr << "velkor: the results could not be written to standard output\n";
+        context.err << "velkor: the results could not be written to standard output\n";
         return Unreadable;
     }
     return status;

@@ -114,8 +114,13 @@ TEST(CheckCommand, ListsNoMoreThanTheLimit) {
     EXPECT_THAT(checkJson(model.path(), {"--limit", "0"})["problems"], IsEmpty());
     EXPECT_EQ(checkJson(model.path(), {"--limit", "0", "--syntax"})["total"], 1500);
     EXPECT_EQ(checkJson(model.path())["problems"].size(), 3000U);
-    for (const char* bad : {"-1", "many", "1.5", ""})
-        EXPECT_EQ(check(model.path(), {"--limit", bad}).status, BadUsage) << bad;
+    for (const char* bad : {"-1", "many", "1.5", ""}) {
+        const Outcome outcome = check(model.path(), {"--limit", bad});
+        EXPECT_EQ(outcome.status, BadUsage) << bad;
+        EXPECT_THAT(outcome.err, StartsWith("velkor: --limit: expected a whole number, 0 or more, found \"" +
+                                            std::string(bad) + "\"\n"));
+    }
+    EXPECT_EQ(check(model.path(), {"--limit", "99999999999999999999"}).status, Findings) << "no limit at all";
 }
 
 TEST(CheckCommand, JudgesTheStructureOfAFileOfAnUnknownSchema) {

@@ -231,7 +231,7 @@ TEST_F(ConfigurationTest, TheLogOfTheServicesGoesToStandardError) {
         const PlatformSetup setup({}, err);
         EXPECT_EQ(QORIFCMsgLoggingServices::PutUnicodeMessage("no \x1B[31mwall", 1, 0), S_OK);
         EXPECT_EQ(QORIFCMsgLoggingServices::PutUnicodeMessage("step by step", 2, 0), E_FAIL);
-        EXPECT_EQ(err.str(), "velkor: no \uFFFD[31mwall\n") << "at once";
+        EXPECT_EQ(err.str(), "velkor: no \\u001b[31mwall\n") << "at once";
         EXPECT_FALSE(QORSetupDataGlobalFunctions::GetSetupDataFinder().IsNull()) << "without any setup data";
         QORIFCOptionsServices::getInstance()->SetEnableCustomPropertySets(false);
     }

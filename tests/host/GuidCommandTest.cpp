@@ -91,7 +91,7 @@ TEST(GuidCommand, ExpandsAndCompresses) {
         identifiers += identifier + std::string("\n");
         uuids += uuid + std::string("\n");
     }
-    EXPECT_EQ(guid::compressed("01234567-89AB-CDEF-FEDC-BA9876543210"), pairs[2].first) << "in any letter case";
+    EXPECT_EQ(guid::compressed("{01234567-89AB-CDEF-FEDC-BA9876543210}"), pairs[2].first) << "in any letter case";
     EXPECT_EQ(runHost(expand).out, uuids);
     EXPECT_EQ(runHost(compress).out, identifiers);
     EXPECT_EQ(jsonOf({"guid", "expand", pairs[1].first})["identifiers"],
@@ -118,6 +118,7 @@ TEST(GuidCommand, BadTextsAreSaidToBe) {
           {"expand", "00000000000000000000\x1B[2", "expected 22 characters, found 23"},
           {"compress", "0123456789abcdeffedcba9876543210", "expected 32 hexadecimal digits as 8-4-4-4-12, found 32"},
           {"compress", "{1234567-89ab-cdef-fedc-ba9876543210", "found \"{\""},
+          {"compress", "{}", "found 2 characters"},
           {"compress", "012345678-9ab-cdef-fedc-ba9876543210", "found \"8\""},
           {"compress", "01234567-89ab-cdef-fedc-ba9876543g10", "found \"g\""}}) {
         const Outcome outcome = runHost({"guid", command, "0000000000000000000000", text});

@@ -201,7 +201,7 @@ TEST_F(OptionsCommandTest, WritesAPageForPeople) {
               ContainsRegex("\nexchange profile +1  fully exposed +environment: ProfilePrefered_FORCETST +yes\n"),
               HasSubstr("environment: ProfilePrefered_FORCETST (derived from the forced profile)  no\n"),
               HasSubstr("\ngeometry mode: the setting ImportRepPreferedMode is 3, expected 0 to 2; 1 is used\n"),
-              ContainsRegex("\nCol\uFFFDour +red +kept\n")));
+              ContainsRegex("\nCol.u[0-9a-f]{4}our +red +kept\n")));
     EXPECT_THAT(runHost({"options"}).out, HasSubstr("no configuration\n"));
 
     const json listed = answer({"options", "--list-variables"})["variables"];

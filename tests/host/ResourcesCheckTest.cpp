@@ -117,6 +117,13 @@ TEST_F(ResourcesCheckTest, VersionMappings) {
          "4 unknown-element: did you mean \"Version\"?, 5 misplaced-element"}};
     EXPECT_EQ(QORUnicodeString("IFCWALLP74686").ComputeHashKey(), QORUnicodeString("IFCWALLP122330").ComputeHashKey());
     for (const Case& expected : cases) expect("version-mapping", expected);
+    const std::string path = folder.file("limited.xml", block("<Maping/>\n<Maping/>\n<Maping/>"));
+    const json limited = check(path, Findings, {path, "--limit", "4"});
+    EXPECT_EQ(limited["files"][0]["findings"].size(), 3U);
+    EXPECT_EQ(limited["files"][1]["findings"].size(), 1U);
+    EXPECT_EQ(limited["warnings"], 6) << "those beyond the limit of all files count";
+    EXPECT_THAT(runHost({"resources", "check", path, "--limit", "2"}).out,
+                HasSubstr(" 0 errors, 3 warnings\nthe first 2 of 3 findings are listed (--limit shows more)\n"));
     EXPECT_THAT(text(block(wall + "\n\n" + wall)),
                 AllOf(HasSubstr("document.xml:4: warning: \"IfcWall\" \"Tag\" has an entry in line 2 already, which "
                                 "counts [duplicate-key]\n"),

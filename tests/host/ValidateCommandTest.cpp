@@ -92,7 +92,7 @@ TEST_F(ValidateCommandTest, FindsWhatIsWrongWithItsPlaceAndAHint) {
         {":20: warning: #13: ",
          "\"Qto_WallBaseQuantities\" has no quantity \"Hight\"; did you mean \"Height\"? [property-unknown]"},
         {": ", "5 findings; 3 of 7 sets and 5 of 10 properties and quantities checked"},
-        {": ", "no definition for sets without a name, Acme \uFFFD[2J, Pset_SiteCommon"}};
+        {": ", "no definition for sets without a name, Acme \\u001b[2J, Pset_SiteCommon"}};
     std::string text;
     for (const auto& [place, message] : lines) text += model.path() + place + message + '\n';
     const Outcome outcome = validate(model.path());

@@ -3,19 +3,17 @@
 #include "CommandContext.h"
 #include "DisplayText.h"
 #include "Json.h"
+#include "LimitOption.h"
 #include "ModelCheck.h"
 #include "ProblemText.h"
 #include "report/ProblemSummary.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
-#include <ostream>
 
 namespace velkor::host {
 
 namespace {
-
-constexpr std::size_t defaultLimit = 100'000;
 
 struct Options {
     std::string path;
@@ -24,14 +22,13 @@ struct Options {
 };
 
 void writeText(CommandContext& context, const std::string& file, const CheckResult& result) {
-    const std::string shown = printable(file);
-    for (const sdai::Problem& problem : result.problems) writeProblem(context.out, shown, problem);
+    for (const sdai::Problem& problem : result.problems) writeProblem(context.out, file, problem);
     if (result.total == 0) {
-        context.out << shown << ": no problems found\n";
+        context.out << file << ": no problems found\n";
         return;
     }
     const ProblemSummary summary = summarized(result.problems, result.total);
-    context.out << shown << ": " << counted(summary.errors, "error", "errors") << ", "
+    context.out << file << ": " << counted(summary.errors, "error", "errors") << ", "
                 << counted(summary.warnings, "warning", "warnings");
     if (summary.total > summary.listed()) {
         context.out << " among the first " << grouped(summary.listed()) << " of " << grouped(summary.total)
@@ -74,9 +71,7 @@ void addCheckCommand(CLI::App& app, CommandContext& context) {
     const auto options = std::make_shared<Options>();
     command->add_option("MODEL", options->path, "IFC file")->required();
     command->add_flag("--syntax", options->syntaxOnly, "Judge the exchange structure (ISO 10303-21) alone");
-    command->add_option("--limit", options->limit, "List at most N problems; 100000 unless told")
-        ->option_text("N")
-        ->check(CLI::NonNegativeNumber);
+    addLimitOption(*command, options->limit, "problems");
     command->footer("Example:\n  velkor check house.ifc\n\nExit status 1 when there are problems.");
     context.complete(*command, [&context, options] { runCheck(context, *options); });
 }

@@ -4,9 +4,11 @@
 #include "CommandContext.h"
 #include "configuration/PlatformSetup.h"
 #include "configuration/ResourceSearch.h"
+#include "Csv.h"
 #include "DisplayText.h"
 #include "Json.h"
 #include "knowledge/QORIExchangeAECServices.h"
+#include "LimitOption.h"
 #include "objectmodeler/ClassDictionary.h"
 #include "TextTable.h"
 
@@ -14,13 +16,10 @@
 #include <CLI/CLI.hpp>
 #include <map>
 #include <nlohmann/json.hpp>
-#include <ostream>
 
 namespace velkor::host {
 
 namespace {
-
-constexpr std::size_t defaultLimit = 100'000;
 
 using Decision = Classification::Decision;
 using Entry = Correspondences::Entry;
@@ -66,11 +65,11 @@ std::string explanation(const Decision& decision) {
     const Entry& entry = *decision.entry;
     std::string text = entry.ifcType + ", priority " + std::to_string(entry.priority);
     if (entry.condition) text += ", " + entry.condition->attribute + " is \"" + entry.condition->value + '"';
-    return printable(text + " (line " + std::to_string(entry.line) + ')');
+    return text + " (line " + std::to_string(entry.line) + ')';
 }
 
 std::string orDash(const std::string& text) {
-    return text.empty() ? "-" : printable(text);
+    return text.empty() ? "-" : text;
 }
 
 /// Calls with each product that is to be listed.
@@ -83,13 +82,12 @@ void eachListed(const sdai::Model& model, const Classification& classification, 
     }
 }
 
-void writeText(std::ostream& out, const sdai::Model& model, const Result& result, std::size_t limit) {
+void writeText(TextSink out, const sdai::Model& model, const Result& result, std::size_t limit) {
     const Classification& classification = result.classification;
     TextTable products({{"product", TextTable::Right}, {"entity"}, {"name"}, {"neutral id"}, {"PLM type"}, {"entry"}});
     eachListed(model, classification, limit, [&](const DXSdaiAppInstance& product, const Decision& decision) {
-        products.add({'#' + std::to_string(product.id()), entityName(decision),
-                      printable(product.GetAttr("NAME").asString()), orDash(decision.neutralId),
-                      orDash(decision.plmType), explanation(decision)});
+        products.add({'#' + std::to_string(product.id()), entityName(decision), product.GetAttr("NAME").asString(),
+                      orDash(decision.neutralId), orDash(decision.plmType), explanation(decision)});
     });
     if (!products.empty()) {
         products.write(out);
@@ -105,10 +103,10 @@ void writeText(std::ostream& out, const sdai::Model& model, const Result& result
         out << '\n';
     }
     const std::size_t total = classification.products.size();
-    out << printable(model.file().name()) << ": " << counted(total, "product", "products");
+    out << model.file().name() << ": " << counted(total, "product", "products");
     if (total > limit) out << ", the first " << grouped(limit) << " are listed (--limit shows more)";
     if (classification.unclassified > 0) out << "; " << grouped(classification.unclassified) << " without neutral id";
-    out << "\nby " << printable(result.documentPath) << '\n';
+    out << "\nby " << result.documentPath << '\n';
 }
 
 Json textOrNull(const std::string& text) {
@@ -153,17 +151,6 @@ Json resultJson(const sdai::Model& model, const Result& result, std::size_t limi
             {"products", std::move(products)}};
 }
 
-// A field as RFC 4180 has it.
-std::string field(std::string_view text) {
-    if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
-    std::string quoted = "\"";
-    for (const char c : text) {
-        if (c == '"') quoted += '"';
-        quoted += c;
-    }
-    return quoted + '"';
-}
-
 void writeCsv(CommandContext& context, const sdai::Model& model, const Classification& classification,
               std::size_t limit) {
     context.out << "instance,global_id,entity,name,neutral_id,plm_type,ifc_type,priority,condition_attribute,"
@@ -172,12 +159,12 @@ void writeCsv(CommandContext& context, const sdai::Model& model, const Classific
         const Entry* entry = decision.entry;
         const Correspondences::Condition condition =
             entry != nullptr && entry->condition ? *entry->condition : Correspondences::Condition();
-        context.out << product.id() << ',' << field(product.GetAttr("GLOBALID").asString()) << ','
-                    << field(entityName(decision)) << ',' << field(product.GetAttr("NAME").asString()) << ','
-                    << field(decision.neutralId) << ',' << field(decision.plmType) << ','
-                    << (entry == nullptr ? "" : field(entry->ifcType)) << ','
-                    << (entry == nullptr ? "" : std::to_string(entry->priority)) << ',' << field(condition.attribute)
-                    << ',' << field(condition.value) << "\r\n";
+        context.out << product.id() << ',' << csvField(product.GetAttr("GLOBALID").asString()) << ','
+                    << csvField(entityName(decision)) << ',' << csvField(product.GetAttr("NAME").asString()) << ','
+                    << csvField(decision.neutralId) << ',' << csvField(decision.plmType) << ','
+                    << (entry == nullptr ? "" : csvField(entry->ifcType)) << ','
+                    << (entry == nullptr ? "" : std::to_string(entry->priority)) << ',' << csvField(condition.attribute)
+                    << ',' << csvField(condition.value) << "\r\n";
     });
     const std::size_t total = classification.products.size();
     if (total > limit) {
@@ -195,7 +182,7 @@ void runClassify(CommandContext& context, const Options& options) {
     Result result{search.used.front().path, {}, {}};
     const QORIExchangeAECServices_var services = objectmodeler::createComponent("ExchangeAECServices");
     auto document = FAILED(services->LoadAECResource()) ? std::nullopt : Correspondences::read(result.documentPath);
-    if (!document) return context.reportUnreadable(printable(result.documentPath) + ": cannot be read");
+    if (!document) return context.reportUnreadable(result.documentPath + ": cannot be read");
     result.document = std::move(*document);
     result.classification = classify(context, *model, result.document);
     context.status = result.classification.unclassified == 0 ? Done : Findings;
@@ -214,9 +201,7 @@ void addClassifyCommand(CLI::App& app, CommandContext& context) {
         app.add_subcommand("classify", "The neutral identifier and the PLM type of every product of a model");
     const auto options = std::make_shared<Options>();
     command->add_option("MODEL", options->path, "IFC file")->required();
-    command->add_option("--limit", options->limit, "List at most N products; 100000 unless told")
-        ->option_text("N")
-        ->check(CLI::NonNegativeNumber);
+    addLimitOption(*command, options->limit, "products");
     command->footer("Example:\n  velkor classify house.ifc --format csv\n\n"
                     "Exit status 1 when a product has no neutral identifier.");
     context.complete(

@@ -12,7 +12,6 @@
 #include <array>
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
-#include <ostream>
 #include <string>
 
 namespace velkor::host {
@@ -40,8 +39,8 @@ SchemaPointer chooseSchema(CommandContext& context, const std::string& release) 
     std::string name = repository.match(release);
     if (name.empty()) name = repository.match("IFC" + release);
     if (name.empty()) {
-        context.err << "velkor: unknown release \"" << printable(release)
-                    << "\"; supported: " << joined(repository.names()) << '\n';
+        context.err << "velkor: unknown release \"" << release << "\"; supported: " << joined(repository.names())
+                    << '\n';
         context.status = BadUsage;
         return nullptr;
     }
@@ -86,7 +85,7 @@ void runList(CommandContext& context) {
             cells.push_back(std::to_string(count));
             entry[column.member] = count;
         }
-        table.add(std::move(cells));
+        table.add({cells.begin(), cells.end()});
         schemas.push_back(std::move(entry));
     }
     if (context.json())
@@ -148,11 +147,11 @@ Json entityJson(const EntityDefinition& entity) {
             {"uniqueness_rules", std::move(rules)}};
 }
 
-void writeEntity(std::ostream& out, const EntityDefinition& entity) {
+void writeEntity(TextSink out, const EntityDefinition& entity) {
     const auto names = [&](const char* title, const std::vector<std::string>& texts) {
         if (!texts.empty()) out << title << joined(texts) << '\n';
     };
-    out << entity.name() << " of " << entity.schema().name() << (entity.isAbstract() ? ", abstract\n" : "\n");
+    out << entity.name() << " of " << entity.schema().name() << (entity.isAbstract() ? ", abstract" : "") << '\n';
     names("supertypes: ", supertypes(entity));
     names("subtypes: ", subtypes(entity));
 
@@ -195,7 +194,7 @@ void runEntity(CommandContext& context, const std::string& release, const std::s
                     << " is a type, not an entity: " << type->underlying().expressText() << '\n';
         return;
     }
-    context.err << "velkor: " << schema->name() << " has no entity \"" << printable(name) << '"';
+    context.err << "velkor: " << schema->name() << " has no entity \"" << name << '"';
     std::vector<std::string_view> known;
     for (const EntityDefinition* entity : schema->entities()) known.push_back(entity->name());
     const auto nearest = nearestNames(known, name, 5, "IFC");
@@ -241,19 +240,19 @@ Json diffJson(const SchemaDefinition& before, const SchemaDefinition& after, con
             {"types", {{"added", diff.addedTypes}, {"removed", diff.removedTypes}, {"changed", types}}}};
 }
 
-void writeNames(std::ostream& out, const char* title, const std::vector<std::string_view>& names) {
+void writeNames(TextSink out, const char* title, const std::vector<std::string_view>& names) {
     if (names.empty()) return;
     out << '\n' << title << '\n';
     for (const std::string_view name : names) out << "  " << name << '\n';
 }
 
-void writeChanges(std::ostream& out, const std::vector<DictionaryDiff::Change>& changes) {
+void writeChanges(TextSink out, const std::vector<DictionaryDiff::Change>& changes) {
     for (const auto& change : changes) {
         out << "    ~ " << change.name << ": " << change.before << " -> " << change.after << '\n';
     }
 }
 
-void writeDiff(std::ostream& out, const SchemaDefinition& before, const SchemaDefinition& after,
+void writeDiff(TextSink out, const SchemaDefinition& before, const SchemaDefinition& after,
                const DictionaryDiff& diff) {
     out << before.name() << " -> " << after.name() << '\n'
         << "entities: " << diff.addedEntities.size() << " added, " << diff.removedEntities.size() << " removed, "
@@ -322,13 +321,13 @@ void runAsMapping(CommandContext& context, const std::string& first, const std::
     for (const std::string& other : others) {
         const std::size_t colon = other.find(':');
         if (colon == std::string::npos) {
-            context.err << "velkor: --also: expected BEFORE:AFTER, found \"" << printable(other) << "\"\n";
+            context.err << "velkor: --also: expected BEFORE:AFTER, found \"" << other << "\"\n";
             context.status = BadUsage;
             return;
         }
         if (!addPair(context, other.substr(0, colon), other.substr(colon + 1), pairs, schemas)) return;
     }
-    context.out << versionMappingDocument(pairs);
+    context.out.lines(versionMappingDocument(pairs));
 }
 
 /// What the user typed for one of the subcommands.

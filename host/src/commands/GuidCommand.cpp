@@ -5,6 +5,7 @@
 #include "guid/GuidCheck.h"
 #include "guid/GuidText.h"
 #include "Json.h"
+#include "LimitOption.h"
 #include "ProblemText.h"
 #include "QORIFCExportServices.h"
 
@@ -12,13 +13,11 @@
 #include <CLI/CLI.hpp>
 #include <istream>
 #include <nlohmann/json.hpp>
-#include <ostream>
 
 namespace velkor::host {
 
 namespace {
 
-constexpr std::size_t defaultLimit = 100'000;
 constexpr std::size_t mostNew = 1'000'000;
 
 struct Arguments {
@@ -87,10 +86,9 @@ void runFromPlm(CommandContext& context, std::vector<std::string> ids) {
 }
 
 void writeText(CommandContext& context, const std::string& file, const guid::GuidCheck& check) {
-    const std::string shown = printable(file);
     const CheckResult& result = check.result;
-    for (const sdai::Problem& problem : result.problems) writeProblem(context.out, shown, problem);
-    context.out << shown << ": " << counted(check.count, "identifier", "identifiers");
+    for (const sdai::Problem& problem : result.problems) writeProblem(context.out, file, problem);
+    context.out << file << ": " << counted(check.count, "identifier", "identifiers");
     if (result.total == 0 && check.count > 0) context.out << ", all well-formed and unique";
     if (result.total > 0) context.out << ", " << counted(result.total, "problem", "problems");
     if (result.total > result.problems.size())
@@ -123,7 +121,7 @@ void runConversion(CommandContext& context, const std::vector<std::string>& text
     for (const std::string& text : texts) {
         const auto converted = convert(text);
         if (!converted) {
-            context.err << "velkor: " << printable(converted.error()) << '\n';
+            context.err << "velkor: " << converted.error() << '\n';
             context.status = BadUsage;
             continue;
         }
@@ -134,7 +132,7 @@ void runConversion(CommandContext& context, const std::vector<std::string>& text
     if (context.json())
         writeJson(context.out, {{"identifiers", std::move(conversions)}});
     else
-        context.out << lines;
+        context.out.lines(lines);
 }
 
 CLI::App* addSubcommand(CLI::App& guid, const char* name, const char* description, const char* example) {
@@ -153,7 +151,10 @@ void addConversions(CLI::App& guid, CommandContext& context, const std::shared_p
 
     CLI::App* compress = addSubcommand(guid, "compress", "Hexadecimal text as identifiers of 22 characters",
                                        "velkor guid compress 3f81e10a-25b0-49ff-9520-63f2a763150a");
-    compress->add_option("UUID", arguments->texts, "32 hexadecimal digits each, as 8-4-4-4-12")->required();
+    compress
+        ->add_option("UUID", arguments->texts,
+                     "32 hexadecimal digits each, as 8-4-4-4-12; braces around them are no matter")
+        ->required();
     context.complete(*compress, [&context, arguments] {
         runConversion(context, arguments->texts, guid::compressed, "uuid", "identifier");
     });
@@ -170,7 +171,7 @@ void addGuidCommand(CLI::App& app, CommandContext& context) {
     CLI::App* fresh = addSubcommand(*guid, "new", "New identifiers", "velkor guid new -n 100");
     fresh->add_option("-n", arguments->count, "How many, at most 1000000; 1 unless told")
         ->option_text("N")
-        ->check(CLI::Range(std::size_t{1}, mostNew));
+        ->transform(wholeNumber(1, mostNew));
     context.complete(*fresh, [&context, arguments] { runNew(context, arguments->count); });
 
     CLI::App* fromPlm = addSubcommand(*guid, "from-plm", "The identifier of each PLM object, always the same one",
@@ -181,9 +182,7 @@ void addGuidCommand(CLI::App& app, CommandContext& context) {
     CLI::App* check = addSubcommand(*guid, "check", "Whether the identifiers of a model are well-formed and unique",
                                     "velkor guid check house.ifc\n\nExit status 1 when there are problems.");
     check->add_option("MODEL", arguments->model, "IFC file")->required();
-    check->add_option("--limit", arguments->limit, "List at most N problems; 100000 unless told")
-        ->option_text("N")
-        ->check(CLI::NonNegativeNumber);
+    addLimitOption(*check, arguments->limit, "problems");
     context.complete(*check, [&context, arguments] { runCheck(context, *arguments); });
 
     addConversions(*guid, context, arguments);

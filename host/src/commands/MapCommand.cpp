@@ -16,7 +16,6 @@
 #include <algorithm>
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
-#include <ostream>
 
 namespace velkor::host {
 
@@ -109,11 +108,11 @@ void writeAnswer(CommandContext& context, const Answer& answer, Json question) {
         question["documents"] = answer.documents;
         return writeJson(context.out, question);
     }
-    std::ostream& out = context.out;
-    out << printable(answer.question) << '\n';
+    const TextSink& out = context.out;
+    out << answer.question << '\n';
     const auto line = [&](std::string label, const std::string& said) {
         label.resize(14, ' ');
-        if (!said.empty()) out << "  " << label << printable(said) << '\n';
+        if (!said.empty()) out << "  " << label << said << '\n';
     };
     line("status", hexadecimal(answer.status) + "  " + answer.meaning.words);
     for (const auto& [label, name] : answer.names) {
@@ -145,7 +144,7 @@ std::string switchRemark() {
 int releaseCode(CommandContext& context, const std::string& release) {
     const auto found = std::ranges::find(releases, release);
     if (found != std::end(releases)) return static_cast<int>(found - std::begin(releases)) + 1;
-    context.err << "velkor: unknown release \"" << printable(release) << "\"; expected one of ";
+    context.err << "velkor: unknown release \"" << release << "\"; expected one of ";
     for (const char* known : releases) context.err << (known == releases[0] ? "" : ", ") << known;
     context.err << '\n';
     context.status = BadUsage;
@@ -169,7 +168,7 @@ public:
         const auto document = documentOf(_context, versionMappingResource, setup);
         if (!document) return;
         if (FAILED(_services->LoadVersionMappingDocument()))
-            return _context.reportUnreadable(printable(*document) + ": cannot be read");
+            return _context.reportUnreadable(*document + ": cannot be read");
         _document = *document;
         if (_arguments.deprecated)
             listDeprecated();
@@ -215,7 +214,7 @@ private:
         Json listed = Json::array();
         for (const QORUnicodeString& entity : entities) listed.push_back(text(entity));
         if (begin(status, entities.Size())) {
-            for (const QORUnicodeString& entity : entities) _context.out << "  " << printable(text(entity)) << '\n';
+            for (const QORUnicodeString& entity : entities) _context.out << "  " << text(entity) << '\n';
             return;
         }
         end(status, "deprecated_entities", std::move(listed));
@@ -229,7 +228,7 @@ private:
         for (int i = 1; i <= entities.Size(); ++i) {
             const std::string entity = text(entities[i]), property = text(properties[i]), value = text(values[i]);
             listed.push_back({{"entity", entity}, {"property", property}, {"value", value}});
-            table.add({printable(entity), printable(property), printable(value)});
+            table.add({entity, property, value});
         }
         if (begin(status, entities.Size())) {
             if (!table.empty()) table.write(_context.out, "  ");
@@ -287,15 +286,14 @@ bool isScope(const std::string& scope) {
 void runCustom(CommandContext& context, const Arguments& arguments) {
     if (!isScope(arguments.scope)) {
         return badUsage(context, "--scope: expected the name of a type followed by _Import or _Export, found \"" +
-                                     printable(arguments.scope) + '"');
+                                     arguments.scope + '"');
     }
     const PlatformSetup setup(context.configuration, context.err);
     const auto document = documentOf(context, customMappingResource, setup);
     if (!document) return;
     const QORIExchangeIFCCustomMappingServices_var services =
         objectmodeler::createComponent("ExchangeIFCCustomMappingServices");
-    if (FAILED(services->LoadCustomMapping()))
-        return context.reportUnreadable(printable(*document) + ": cannot be read");
+    if (FAILED(services->LoadCustomMapping())) return context.reportUnreadable(*document + ": cannot be read");
     QORUnicodeString entity, property;
     Answer answer{};
     answer.status = services->GetCustomMapping(unicode(arguments.entity), unicode(arguments.property),

@@ -5,12 +5,12 @@
 #include "configuration/EffectiveOptions.h"
 #include "DisplayText.h"
 #include "Json.h"
+#include "ProblemText.h"
 #include "TextTable.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
-#include <ostream>
 
 namespace velkor::host {
 
@@ -30,29 +30,29 @@ std::string originText(const EffectiveOption& option) {
     std::string text = spaced(name(option.origin));
     for (std::size_t i = 0; i < option.sources.size(); ++i) text += (i == 0 ? ": " : ", ") + option.sources[i];
     if (option.isDerived) text += " (derived from the forced profile)";
-    return printable(text);
+    return text;
 }
 
 void writeText(CommandContext& context, const PlatformSetup& setup, const std::vector<EffectiveOption>& options) {
-    std::ostream& out = context.out;
+    const TextSink& out = context.out;
     const std::string& path = context.configuration.path;
-    out << (path.empty() ? "no configuration" : "configuration " + printable(path)) << "\n\n";
+    out << (path.empty() ? "no configuration" : "configuration " + path) << "\n\n";
     TextTable table({{"option"}, {"value", TextTable::Right}, {"meaning"}, {"origin"}, {"forced"}});
     for (const EffectiveOption& option : options) {
         table.add({option.name, std::to_string(option.value), option.meaning, originText(option),
                    option.isForced ? "yes" : "no"});
     }
     table.write(out);
-    bool first = true;
+    TextSink::Literal before = "\n";
     for (const EffectiveOption& option : options) {
         for (const std::string& remark : option.remarks) {
-            out << (first ? "\n" : "") << option.name << ": " << remark << '\n';
-            first = false;
+            out << before << option.name << ": " << shortened(remark, longestMessage) << '\n';
+            before = "";
         }
     }
     TextTable given({{"conversion option"}, {"value"}, {"outcome"}});
     for (const auto& option : setup.conversionOptions()) {
-        given.add({printable(option.name), printable(option.value), spaced(outcomeName(option, options))});
+        given.add({option.name, option.value, spaced(outcomeName(option, options))});
     }
     if (given.empty()) return;
     out << '\n';

@@ -5,13 +5,15 @@
 #include "configuration/ResourceSearch.h"
 #include "DisplayText.h"
 #include "Json.h"
+#include "LimitOption.h"
 #include "linter/ResourceCheck.h"
+#include "ProblemText.h"
 #include "report/ProblemSummary.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
-#include <ostream>
+#include <unordered_set>
 
 namespace velkor::host {
 
@@ -24,6 +26,7 @@ using lint::LinterKind;
 struct Options {
     std::vector<std::string> paths;
     std::string kind;
+    std::size_t limit = defaultLimit;
 };
 
 struct Counts {
@@ -31,12 +34,14 @@ struct Counts {
     std::size_t entries = 0;
     std::size_t errors = 0;
     std::size_t warnings = 0;
+    std::size_t listed = 0;
 
     void add(const CheckedFile& file) {
         ++files;
         entries += file.judgement.entries;
-        for (const Finding& finding : file.judgement.findings)
-            ++(finding.severity == lint::Severity::Error ? errors : warnings);
+        errors += file.errors;
+        warnings += file.warnings;
+        listed += file.judgement.findings.size();
     }
     std::size_t findings() const { return errors + warnings; }
 };
@@ -47,9 +52,10 @@ std::vector<CheckedFile> checkUsed(CommandContext& context, lint::ResourceCheck&
     std::vector<CheckedFile> result;
     for (const LinterKind& kind : lint::linterKinds()) {
         std::vector<std::string> paths;
+        std::unordered_set<std::string> known;
         for (const auto& used : searchResource(*kind.resource, setup).used) {
             // Setup data may name a file that the collection standard has as well.
-            if (std::ranges::find(paths, used.path) == paths.end()) paths.push_back(used.path);
+            if (known.insert(used.path).second) paths.push_back(used.path);
         }
         std::ranges::move(check.files(paths, kind), std::back_inserter(result));
     }
@@ -63,12 +69,12 @@ std::string summary(const Counts& counts) {
            counted(counts.warnings, "warning", "warnings");
 }
 
-void writeText(CommandContext& context, const std::vector<CheckedFile>& files, bool isSearched) {
+void writeText(CommandContext& context, const std::vector<CheckedFile>& files, const Counts& total, bool isSearched) {
     for (const CheckedFile& file : files) {
         for (const Finding& finding : file.judgement.findings) {
-            context.out << printable(file.path) << ':' << finding.line << ": " << name(finding.severity) << ": "
-                        << printable(finding.message) << (finding.hint.empty() ? "" : "; ") << printable(finding.hint)
-                        << " [" << finding.code << "]\n";
+            context.out << file.path << ':' << finding.line << ": " << name(finding.severity) << ": "
+                        << shortened(finding.message, longestMessage) << (finding.hint.empty() ? "" : "; ")
+                        << shortened(finding.hint, longestMessage) << " [" << finding.code << "]\n";
         }
     }
     for (const LinterKind& kind : lint::linterKinds()) {
@@ -81,6 +87,9 @@ void writeText(CommandContext& context, const std::vector<CheckedFile>& files, b
         else if (isSearched)
             context.out << kind.resource->name << ": no file that can be read; \"velkor resources\" says why\n";
     }
+    if (total.listed == total.findings()) return;
+    context.out << "the first " << grouped(total.listed) << " of " << counted(total.findings(), "finding", "findings")
+                << " are listed (--limit shows more)\n";
 }
 
 Json findingsJson(const std::vector<Finding>& findings) {
@@ -108,7 +117,7 @@ void writeFiles(CommandContext& context, const std::vector<CheckedFile>& files, 
 }
 
 void runCheck(CommandContext& context, const Options& options) {
-    lint::ResourceCheck check;
+    lint::ResourceCheck check(options.limit);
     std::vector<CheckedFile> files;
     const bool isSearched = options.paths.empty();
     if (isSearched) {
@@ -122,14 +131,14 @@ void runCheck(CommandContext& context, const Options& options) {
         if (file.unreadable.empty())
             total.add(file);
         else
-            context.reportUnreadable(printable(file.path) + ": cannot be read: " + file.unreadable);
+            context.reportUnreadable(file.path + ": cannot be read: " + file.unreadable);
     }
     if (files.empty()) context.reportUnreadable("no resource file is found; \"velkor resources\" says why");
     if (context.status == Done && total.findings() > 0) context.status = Findings;
     if (context.json())
         writeFiles(context, files, total);
     else
-        writeText(context, files, isSearched);
+        writeText(context, files, total, isSearched);
 }
 
 } // namespace
@@ -146,6 +155,7 @@ void addResourcesCheckCommand(CLI::App& resources, CommandContext& context) {
         ->option_text("KIND")
         ->check(CLI::IsMember(words))
         ->needs(paths);
+    addLimitOption(*command, options->limit, "findings");
     command->footer("Example:\n  velkor resources check walls.xml --kind custom-mapping\n\n"
                     "Exit status 1 when there are findings.");
     context.complete(*command, [&context, options] { runCheck(context, *options); });

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
-#include <ostream>
 
 namespace velkor::host {
 
@@ -52,7 +51,7 @@ const char* notUsedBecause(const ResourceSearch& search) {
 }
 
 std::string useText(const ResourceSearch& search, const Entry& entry) {
-    if (entry.use == Entry::Use::Hidden) return "hidden by the one in " + printable(entry.hiddenBy);
+    if (entry.use == Entry::Use::Hidden) return "hidden by the one in " + entry.hiddenBy;
     if (entry.use == Entry::Use::Used) return "used";
     return search.used.empty() ? "not used" : notUsedBecause(search);
 }
@@ -64,14 +63,13 @@ const char* inWords(PathState state) {
 }
 
 std::string withState(const std::string& path, PathState state) {
-    return printable(path) + (state == PathState::Readable ? "" : std::string(": ") + inWords(state));
+    return path + (state == PathState::Readable ? "" : std::string(": ") + inWords(state));
 }
 
 // What a folder has, the first ones by name.
 void writeEntries(Page& page, const ResourceSearch& search, const std::vector<Entry>& entries) {
     const std::size_t shown = entries.size() > mostShown ? mostShown - 1 : entries.size();
-    for (std::size_t i = 0; i < shown; ++i)
-        page.line("  " + printable(entries[i].name) + ": " + useText(search, entries[i]));
+    for (std::size_t i = 0; i < shown; ++i) page.line("  " + entries[i].name + ": " + useText(search, entries[i]));
     if (shown == entries.size()) return;
     std::string rest;
     for (const Entry::Use use : {Entry::Use::Used, Entry::Use::NotUsed, Entry::Use::Hidden}) {
@@ -101,9 +99,8 @@ void writeText(Page& page, const ResourceSearch& search) {
         page.line("-> " + grouped(search.used.size()) + " files");
     else
         for (const auto& file : search.used) page.line("-> " + withState(file.path, file.state));
-    for (const std::string& remark : search.remarks)
-        page.line(page.styled("note: " + printable(remark), Page::Style::Doubtful));
-    if (!search.isUsable()) page.line(page.styled(printable(search.reason), Page::Style::Bad));
+    for (const std::string& remark : search.remarks) page.line({"note: " + remark, Page::Style::Doubtful});
+    if (!search.isUsable()) page.line({search.reason, Page::Style::Bad});
 }
 
 Json filesJson(const std::vector<ResourceSearch::File>& files) {

@@ -9,14 +9,13 @@
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
-#include <ostream>
 
 namespace velkor::host {
 
 namespace {
 
-void writeText(std::ostream& out, const sdai::Model& model, const UnitReport& report) {
-    out << printable(model.file().name()) << ", " << model.schema().name() << '\n';
+void writeText(TextSink out, const sdai::Model& model, const UnitReport& report) {
+    out << model.file().name() << ", " << model.schema().name() << '\n';
     if (report.assignment)
         out << "\nUnits of #" << *report.assignment << '\n';
     else
@@ -28,7 +27,7 @@ void writeText(std::ostream& out, const sdai::Model& model, const UnitReport& re
                      {"slot", TextTable::Right},
                      {"SI factor"}});
     for (const UnitReport::Unit& unit : report.units) {
-        units.add({'#' + std::to_string(unit.id), unit.entity, unit.type, printable(unit.name),
+        units.add({'#' + std::to_string(unit.id), unit.entity, unit.type, unit.name,
                    unit.slot ? std::to_string(*unit.slot) : "-", shortest(unit.factor)});
     }
     if (!units.empty()) units.write(out, "  ");
@@ -36,7 +35,7 @@ void writeText(std::ostream& out, const sdai::Model& model, const UnitReport& re
     out << "\nGeometry\n  1 length unit = " << shortest(report.lengthFactor)
         << " mm\n  1 plane angle unit = " << shortest(report.angleFactor) << " rad\n";
     if (!report.lengthUnitName.empty()) {
-        out << "  document length unit: " << printable(report.lengthUnitName) << ", factor "
+        out << "  document length unit: " << shortened(report.lengthUnitName, TextTable::widest) << ", factor "
             << shortest(report.lengthUnitFactor) << '\n';
     }
     out << "\nFactor to SI by measure type\n";

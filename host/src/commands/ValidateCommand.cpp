@@ -4,19 +4,18 @@
 #include "configuration/PlatformSetup.h"
 #include "DisplayText.h"
 #include "Json.h"
+#include "LimitOption.h"
 #include "ProblemText.h"
 #include "validation/PropertySetCheck.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
-#include <ostream>
 
 namespace velkor::host {
 
 namespace {
 
-constexpr std::size_t defaultLimit = 100'000;
-/// Names without a definition that people are shown.
+/// Names without a definition that people are file.
 constexpr std::size_t mostNames = 8;
 
 struct Options {
@@ -24,17 +23,16 @@ struct Options {
     std::size_t limit = defaultLimit;
 };
 
-void writeText(std::ostream& out, const std::string& file, const PropertySetCheck& check) {
-    const std::string shown = printable(file);
-    for (const SetFinding& finding : check.findings) writeProblem(out, shown, finding.problem);
-    out << shown << ": " << (check.total == 0 ? "no findings" : counted(check.total, "finding", "findings"));
+void writeText(TextSink out, const std::string& file, const PropertySetCheck& check) {
+    for (const SetFinding& finding : check.findings) writeProblem(out, file, finding.problem);
+    out << file << ": " << (check.total == 0 ? "no findings" : counted(check.total, "finding", "findings"));
     if (check.total > check.findings.size())
         out << ", the first " << grouped(check.findings.size()) << " are listed (--limit shows more)";
     out << "; " << grouped(check.checkedSets) << " of " << counted(check.sets, "set", "sets") << " and "
         << grouped(check.checkedProperties) << " of "
         << counted(check.properties, "property or quantity", "properties and quantities") << " checked\n";
-    if (check.customSets > 0) out << shown << ": " << counted(check.customSets, "set", "sets") << " of your own\n";
-    if (check.uncheckedSets() > 0) out << shown << ": no definition for " << undefinedText(check, mostNames) << '\n';
+    if (check.customSets > 0) out << file << ": " << counted(check.customSets, "set", "sets") << " of your own\n";
+    if (check.uncheckedSets() > 0) out << file << ": no definition for " << undefinedText(check, mostNames) << '\n';
 }
 
 Json findingJson(const SetFinding& finding) {
@@ -75,7 +73,7 @@ void runValidate(CommandContext& context, const Options& options) {
     context.status = check.total == 0 ? Done : Findings;
     writeResult(context, *model, check);
     for (const auto& [name, count] : check.unreadable)
-        context.reportUnreadable("the definition of " + printable(name) + " cannot be read");
+        context.reportUnreadable("the definition of " + name + " cannot be read");
 }
 
 } // namespace
@@ -85,9 +83,7 @@ void addValidateCommand(CLI::App& app, CommandContext& context) {
         app.add_subcommand("validate", "The property sets and quantity sets of a model against their definitions");
     const auto options = std::make_shared<Options>();
     command->add_option("MODEL", options->path, "IFC file")->required();
-    command->add_option("--limit", options->limit, "List at most N findings; 100000 unless told")
-        ->option_text("N")
-        ->check(CLI::NonNegativeNumber);
+    addLimitOption(*command, options->limit, "findings");
     command->footer("Example:\n  velkor validate house.ifc\n\nExit status 1 when there are findings.");
     context.complete(*command, [&context, options] { runValidate(context, *options); });
 }

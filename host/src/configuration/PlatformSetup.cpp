@@ -1,7 +1,6 @@
 #include "configuration/PlatformSetup.h"
 
 #include "configuration/ConfigurationTable.h"
-#include "DisplayText.h"
 #include "files/QORSysRTVWalker.h"
 #include "knowledge/TypeDictionary.h"
 #include "QORIFCMsgLoggingServices.h"
@@ -11,7 +10,6 @@
 #include "settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
-#include <ostream>
 
 namespace velkor::host {
 
@@ -44,7 +42,7 @@ QORISetupDataFinder_var finder(const Configuration& configuration) {
 
 } // namespace
 
-PlatformSetup::PlatformSetup(const Configuration& configuration, std::ostream& err)
+PlatformSetup::PlatformSetup(const Configuration& configuration, TextSink err)
     : _log(err), _logBefore(GetExchangeErr()), _finderBefore(QORSetupDataGlobalFunctions::GetSetupDataFinder()),
       _runtimeViewBefore(files::runtimeView()) {
     setLog(&_log);
@@ -149,7 +147,7 @@ void PlatformSetup::setConversionOptions(const Configuration& configuration) {
     }
 }
 
-PlatformSetup::Log::Log(std::ostream& err) : MessageLog(logLevel), _err(err) {}
+PlatformSetup::Log::Log(TextSink err) : MessageLog(logLevel), _err(err) {}
 
 int PlatformSetup::Log::PutMsgErr(QORUnicodeString* text, int* code, QORString first, QORString second, int level,
                                   QORUnicodeString* extra, int* extraCode) {
@@ -165,7 +163,7 @@ int PlatformSetup::Log::PutUnicodeMessage(const QORUnicodeString& message, short
 }
 
 void PlatformSetup::Log::write() {
-    for (const exchangelog::Message& message : messages()) _err << "velkor: " << printable(message.text) << '\n';
+    for (const exchangelog::Message& message : messages()) _err << "velkor: " << message.text << '\n';
     clear();
 }
 

@@ -11,8 +11,8 @@
 #include "exchangelog/MessageLog.h"
 #include "files/QORISetupDataFinder.h"
 #include "settings/QORSettingRepository.h"
+#include "TextSink.h"
 
-#include <iosfwd>
 #include <optional>
 #include <string>
 #include <utility>
@@ -32,7 +32,7 @@ public:
 
     /// The services' messages of level 0 and 1 go to `err`, a line each. A setup-data finder is there afterwards
     /// whatever the configuration says: some services look nowhere else without one.
-    PlatformSetup(const Configuration& configuration, std::ostream& err);
+    PlatformSetup(const Configuration& configuration, TextSink err);
     ~PlatformSetup();
     PlatformSetup(const PlatformSetup&) = delete;
     PlatformSetup& operator=(const PlatformSetup&) = delete;
@@ -48,14 +48,14 @@ public:
 private:
     class Log : public exchangelog::MessageLog {
     public:
-        explicit Log(std::ostream& err);
+        explicit Log(TextSink err);
         int PutMsgErr(QORUnicodeString* text, int* code, QORString first, QORString second, int level,
                       QORUnicodeString* extra, int* extraCode) override;
         int PutUnicodeMessage(const QORUnicodeString& message, short level, short kind) override;
 
     private:
         void write();
-        std::ostream& _err;
+        TextSink _err;
     };
 
     void setFolders(const char* variable, const std::optional<std::vector<std::string>>& folders);

@@ -109,10 +109,13 @@ tl::expected<std::string, std::string> expanded(std::string_view identifier) {
     return uuid;
 }
 
-tl::expected<std::string, std::string> compressed(std::string_view uuid) {
+tl::expected<std::string, std::string> compressed(std::string_view text) {
     const auto fault = [&](const std::string& found) {
-        return tl::unexpected("expected 32 hexadecimal digits as 8-4-4-4-12, found " + found + " in " + inQuotes(uuid));
+        return tl::unexpected("expected 32 hexadecimal digits as 8-4-4-4-12, found " + found + " in " + inQuotes(text));
     };
+    // As registries and tools write it.
+    const bool isBraced = text.size() > 2 && text.front() == '{' && text.back() == '}';
+    const std::string_view uuid = isBraced ? text.substr(1, text.size() - 2) : text;
     if (const std::size_t length = characters(uuid); length != uuidLength)
         return fault(std::to_string(length) + " characters");
     Bytes bytes{};

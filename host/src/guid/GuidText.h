@@ -26,7 +26,7 @@ std::optional<Fault> faultOf(std::string_view identifier);
 /// 22 characters as hexadecimal text in lower case, or what was expected.
 tl::expected<std::string, std::string> expanded(std::string_view identifier);
 
-/// Hexadecimal text, in any letter case, as 22 characters, or what was expected.
-tl::expected<std::string, std::string> compressed(std::string_view uuid);
+/// Hexadecimal text, in any letter case and with or without braces around it, as 22 characters, or what was expected.
+tl::expected<std::string, std::string> compressed(std::string_view text);
 
 } // namespace velkor::host::guid

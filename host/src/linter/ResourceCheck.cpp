@@ -96,14 +96,28 @@ const LinterKind* linterKind(std::string_view word) {
 }
 
 CheckedFile ResourceCheck::file(const std::string& path, const LinterKind* kind, std::istream* standardInput) {
-    return judged(path, kind, nullptr, _dictionaries, standardInput);
+    return counted(judged(path, kind, nullptr, _dictionaries, standardInput));
 }
 
 std::vector<CheckedFile> ResourceCheck::files(const std::vector<std::string>& paths, const LinterKind& kind) {
     const auto linter = kind.make(_dictionaries);
     std::vector<CheckedFile> result;
-    for (const std::string& path : paths) result.push_back(judged(path, &kind, linter.get(), _dictionaries, nullptr));
+    for (const std::string& path : paths)
+        result.push_back(counted(judged(path, &kind, linter.get(), _dictionaries, nullptr)));
     return result;
+}
+
+CheckedFile ResourceCheck::counted(CheckedFile file) {
+    auto& findings = file.judgement.findings;
+    const auto errors = std::ranges::count(findings, Severity::Error, &Finding::severity);
+    file.errors = static_cast<std::size_t>(errors);
+    file.warnings = findings.size() - file.errors;
+    if (findings.size() > _limit) {
+        findings.resize(_limit);
+        findings.shrink_to_fit();
+    }
+    _limit -= findings.size();
+    return file;
 }
 
 } // namespace velkor::host::lint

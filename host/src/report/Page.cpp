@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <ostream>
 
 namespace velkor::host {
 
@@ -14,7 +13,7 @@ namespace {
 constexpr std::size_t labelWidth = 16;
 constexpr std::size_t maxLines = 4;
 
-const char* escape(Page::Style style) {
+TextSink::Literal escape(Page::Style style) {
     switch (style) {
     case Page::Style::Plain:
         return "";
@@ -40,12 +39,16 @@ std::string blanks(std::size_t width, std::string_view text) {
 } // namespace
 
 void Page::title(std::string_view text) {
-    for (const std::string& line : wrapped(text, width, maxLines)) _out << styled(line, Style::Bold) << '\n';
+    paragraph(text, 0, Style::Bold);
 }
 
 void Page::section(std::string_view heading, std::string_view remark, Style remarkStyle) {
-    _out << '\n' << styled(heading, Style::Bold);
-    if (!remark.empty()) _out << "  " << styled(remark, remarkStyle);
+    _out << '\n';
+    write({std::string(heading), Style::Bold});
+    if (!remark.empty()) {
+        _out << "  ";
+        write({std::string(remark), remarkStyle});
+    }
     _out << '\n';
 }
 
@@ -53,25 +56,35 @@ void Page::entry(std::string_view label, std::string_view text) {
     constexpr std::size_t indent = 2 + labelWidth;
     _out << "  " << padded(label, labelWidth);
     const auto lines = wrapped(text, width - indent, maxLines);
-    if (lines.empty()) _out << styled("not stated", Style::Dim) << '\n';
+    if (lines.empty()) {
+        write({"not stated", Style::Dim});
+        _out << '\n';
+    }
     for (std::size_t i = 0; i < lines.size(); ++i) {
         _out << (i == 0 ? "" : std::string(indent, ' ')) << lines[i] << '\n';
     }
 }
 
-void Page::line(std::string_view text) {
-    _out << "  " << text << '\n';
+void Page::line(const std::vector<Span>& spans) {
+    _out << "  ";
+    for (const Span& span : spans) write(span);
+    _out << '\n';
 }
 
 void Page::paragraph(std::string_view text, std::size_t indent, Style style) {
     for (const std::string& line : wrapped(text, width - indent, maxLines)) {
-        _out << std::string(indent, ' ') << styled(line, style) << '\n';
+        _out << std::string(indent, ' ');
+        write({line, style});
+        _out << '\n';
     }
 }
 
-std::string Page::styled(std::string_view text, Style style) const {
-    if (!_color || style == Style::Plain) return std::string(text);
-    return std::string(escape(style)).append(text).append("\033[0m");
+void Page::write(const Span& span) {
+    if (!_color || span.style == Style::Plain) {
+        _out << span.text;
+        return;
+    }
+    _out << escape(span.style) << span.text << "\033[0m";
 }
 
 std::string padded(std::string_view text, std::size_t width) {

@@ -6,9 +6,11 @@
 ///     page.entry("Name", name);
 #pragma once
 
-#include <iosfwd>
+#include "TextSink.h"
+
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velkor::host {
 
@@ -17,7 +19,7 @@ public:
     static constexpr std::size_t width = 96;
     enum class Style { Plain, Bold, Dim, Good, Doubtful, Bad };
 
-    Page(std::ostream& out, bool color) noexcept : _out(out), _color(color) {}
+    Page(TextSink out, bool color) noexcept : _out(out), _color(color) {}
 
     void title(std::string_view text);
     /// A heading after an empty line, and what is to be said beside it.
@@ -25,15 +27,22 @@ public:
     /// A label and its text, which may go on over a few lines. A text that is empty reads
     /// "not stated".
     void entry(std::string_view label, std::string_view text);
-    /// An indented line of its own, not wrapped; the text is printable already.
-    void line(std::string_view text);
+    /// A text in one style.
+    struct Span {
+        std::string text;
+        Style style = Style::Plain;
+        Span(std::string text_, Style style_ = Style::Plain) : text(std::move(text_)), style(style_) {}
+        Span(const char* text_, Style style_ = Style::Plain) : text(text_), style(style_) {}
+    };
+    /// An indented line of its own, not wrapped.
+    void line(const std::vector<Span>& spans);
+    void line(Span span) { line(std::vector{std::move(span)}); }
     /// Text that may go on over a few lines, `indent` columns from the left.
     void paragraph(std::string_view text, std::size_t indent = 2, Style style = Style::Plain);
 
-    std::string styled(std::string_view text, Style style) const;
-
 private:
-    std::ostream& _out;
+    void write(const Span& span);
+    TextSink _out;
     bool _color;
 };
 

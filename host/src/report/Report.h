@@ -7,8 +7,6 @@
 #include "UnitReport.h"
 #include "validation/PropertySetCheck.h"
 
-#include <iosfwd>
-
 namespace velkor::host {
 
 struct Report {
@@ -23,7 +21,7 @@ struct Report {
     ProblemSummary setFindings;
 };
 
-void writeReportPage(std::ostream& out, bool color, const Report& report);
+void writeReportPage(TextSink out, bool color, const Report& report);
 
 Json reportJson(const Report& report);
 

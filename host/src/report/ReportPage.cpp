@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <charconv>
 #include <filesystem>
-#include <ostream>
 
 namespace velkor::host {
 
@@ -135,8 +134,9 @@ void writeInstances(Page& page, const ModelFacts& facts) {
     for (std::size_t i = 0; i < shown; ++i) {
         const auto count = static_cast<double>(facts.keywords[i].count);
         const std::string share = shareText(count / static_cast<double>(facts.instanceCount));
-        page.line(padded(names[i], nameWidth) + "  " + rightAligned(counts[i], countWidth) + "  " +
-                  rightAligned(share, 7) + "  " + page.styled(bar(count / most, 24), Style::Dim));
+        page.line({padded(names[i], nameWidth) + "  " + rightAligned(counts[i], countWidth) + "  " +
+                       rightAligned(share, 7) + "  ",
+                   {bar(count / most, 24), Style::Dim}});
     }
     std::uint64_t others = 0;
     for (std::size_t i = shown; i < facts.keywords.size(); ++i) others += facts.keywords[i].count;
@@ -173,15 +173,15 @@ void writeKinds(Page& page, const ProblemSummary& problems, const std::string& c
     for (std::size_t i = 0; i < shown; ++i) {
         const ProblemSummary::Kind& kind = problems.kinds[i];
         const bool isError = kind.severity == sdai::Severity::Error;
-        page.line(page.styled(isError ? "error  " : "warning", isError ? Style::Bad : Style::Doubtful) + "  " +
-                  kind.code + (kind.count > 1 ? ", " + grouped(kind.count) + " times, first" : "") + " in " +
-                  placeText(kind.first));
+        page.line({{isError ? "error  " : "warning", isError ? Style::Bad : Style::Doubtful},
+                   "  " + kind.code + (kind.count > 1 ? ", " + grouped(kind.count) + " times, first" : "") + " in " +
+                       placeText(kind.first)});
         page.paragraph(kind.first.message, 11);
     }
     if (problems.kinds.size() > shown) {
         page.line("and " + counted(problems.kinds.size() - shown, "kind more", "kinds more"));
     }
-    page.line(page.styled("All of them: velkor " + command + ' ' + printable(quoted(path)), Style::Dim));
+    page.line({"All of them: velkor " + command + ' ' + quoted(path), Style::Dim});
 }
 
 void writeIdentifiers(Page& page, const Report& report) {
@@ -231,7 +231,7 @@ void writeProblems(Page& page, const Report& report) {
 
 } // namespace
 
-void writeReportPage(std::ostream& out, bool color, const Report& report) {
+void writeReportPage(TextSink out, bool color, const Report& report) {
     Page page(out, color);
     writeTitle(page, report);
     writeFile(page, report.facts);

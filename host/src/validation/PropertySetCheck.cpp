@@ -18,6 +18,8 @@ namespace {
 constexpr std::uint64_t progressStep = 256;
 /// A longer text is no name, and many sets may have the same one.
 constexpr std::size_t longestName = 1000;
+/// Of a name that people are shown, in columns.
+constexpr std::size_t widestName = 80;
 
 bool isTooLong(const sdai::Primitive& name) {
     return name.encoded().size() > longestName;
@@ -267,8 +269,8 @@ std::string undefinedText(const PropertySetCheck& check, std::size_t most) {
     std::string text;
     const std::size_t shown = names.size() <= most ? names.size() : most;
     for (std::size_t i = 0; i < shown; ++i) {
-        text +=
-            (text.empty() ? "" : ", ") + (names[i].first.empty() ? "sets without a name" : printable(names[i].first));
+        text += (text.empty() ? "" : ", ") +
+                (names[i].first.empty() ? "sets without a name" : shortened(names[i].first, widestName));
         if (names[i].second > 1) text += " (" + grouped(names[i].second) + ')';
     }
     if (names.size() > shown) text += ", " + counted(names.size() - shown, "other", "others");
