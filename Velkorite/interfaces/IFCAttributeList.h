@@ -59,6 +59,6 @@ private:
     /// Adds the names of a directory's entries that contain `iPattern`. S_OK; S_FALSE when it cannot be opened.
     HRESULT GiveFilesInDirectory(const char* iDirectory, const char* iPattern, QORListValQORUnicodeString& oFiles);
 
-    IFCAttributeTables* _tables;
+    IFCAttributeTables* _tables = nullptr;
     static IFCAttributeList* _pInstance;
 };

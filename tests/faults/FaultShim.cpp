@@ -4,8 +4,9 @@
 //     VELKOR_FAULTS=ORDERS:ANSWERS   two descriptors, of a pipe to read orders from and of one to answer to
 //     order    ALLOCATION WHICH READ MODE SECONDS
 //              which allocation and which read fails, counted from 1, 0 for none; WHICH is "once" or "on", that one
-//              alone or it and all behind it; MODE is "once", "again", which runs main() a second time undisturbed,
-//              or "cut", which makes each file that is mapped shorter behind the program's back
+//              alone or it and all behind it; MODE is "once", "again", which does without the program's new-handler, as
+//              other hosts do, and runs main() a second time undisturbed, or "cut", which makes each file that is
+//              mapped shorter behind the program's back
 //     answer   WAITSTATUS ALLOCATIONS READS
 //
 // Without orders, VELKOR_FAULTS_AT=N fails the N-th allocation of the process, load time included, and all behind.
@@ -17,6 +18,7 @@
 #include <cstring>
 #include <dlfcn.h>
 #include <initializer_list>
+#include <new>
 #include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/time.h>
@@ -95,10 +97,18 @@ struct Order {
     failsOn = std::strcmp(order.which, "on") == 0;
     failingRead = order.read;
     cutsMapped = std::strcmp(order.mode, "cut") == 0;
+    const bool runsAgain = std::strcmp(order.mode, "again") == 0;
+    if (runsAgain) std::set_new_handler(nullptr);
     failingAllocation = order.allocation;
-    int status = programMain(argc, argv, environment);
-    if (std::strcmp(order.mode, "again") == 0) {
+    int status = 0;
+    try {
+        status = programMain(argc, argv, environment);
+    } catch (const std::bad_alloc&) {
+        status = 3;
+    }
+    if (runsAgain) {
         failingAllocation = failingRead = 0;
+        lseek(STDIN_FILENO, 0, SEEK_SET);
         for (const int output : {STDOUT_FILENO, STDERR_FILENO}) {
             if (ftruncate(output, 0) == 0) lseek(output, 0, SEEK_SET);
         }

@@ -59,6 +59,10 @@ bool readPlmIds(CommandContext& context, std::vector<std::string>& ids) {
             if (line.ends_with('\r')) line.pop_back();
             ids.push_back(line);
         }
+        if (context.in->bad()) {
+            context.reportUnreadable("standard input: cannot be read: reading failed");
+            return false;
+        }
     }
     // Without characters, different objects would have the same identifier.
     for (std::size_t i = 0; i < ids.size(); ++i) {

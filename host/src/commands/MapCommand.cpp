@@ -325,6 +325,11 @@ void runPlm(CommandContext& context, const Arguments& arguments) {
     const ResourceSearch search = searchResource(plmAttributesMappingResource, setup);
     if (FAILED(answer.status) && !search.isUsable())
         return context.reportUnreadable(std::string("no ") + search.kind.name + ": " + search.reason);
+    // What is in a file that could not be read may be the answer; why it could not has been told.
+    if (FAILED(answer.status) && setup.hasToldErrors()) {
+        context.status = Unreadable;
+        return;
+    }
     answer.meaning = meaningOf(answer.status, true);
     if (answer.status == S_OK) answer.meaning = meanings[0];
     answer.names = {{"set", text(set)}, {"property", text(property)}};

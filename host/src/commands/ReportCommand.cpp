@@ -40,6 +40,7 @@ void runReport(CommandContext& context, const std::string& path) {
         writeJson(context.out, reportJson(report));
     else
         writeReportPage(context.out, context.color, report);
+    reportUnreadableDefinitions(context, report.propertySets);
 }
 
 } // namespace

@@ -72,8 +72,7 @@ void runValidate(CommandContext& context, const Options& options) {
     }
     context.status = check.total == 0 ? Done : Findings;
     writeResult(context, *model, check);
-    for (const auto& [name, count] : check.unreadable)
-        context.reportUnreadable("the definition of " + name + " cannot be read");
+    reportUnreadableDefinitions(context, check);
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
+#include <new>
 
 namespace velkor::host {
 
@@ -69,21 +70,31 @@ PlatformSetup::PlatformSetup(const Configuration& configuration, TextSink err)
 }
 
 PlatformSetup::~PlatformSetup() {
+    // What lacks the memory to be taken back stays; nothing else suffers from it.
+    const auto takeBack = [](auto step) {
+        try {
+            step();
+        } catch (const std::bad_alloc&) {
+            return;
+        }
+    };
     QORIFCOptionsFromXCAD::DeleteInstance();
-    QORIFCOptionsServices::getInstance()->Clear();
+    takeBack([] { QORIFCOptionsServices::getInstance()->Clear(); });
     if (_hasKnowledgeTypes) knowledge::removeTypes();
-    files::setRuntimeView(_runtimeViewBefore);
+    takeBack([this] { files::setRuntimeView(_runtimeViewBefore); });
     files::setSetupDataFinder(_finderBefore);
     for (const auto& [name, before] : _repositoriesBefore) {
-        if (before)
-            settings::repository(unicode(name)) = *before;
-        else
-            settings::removeRepository(unicode(name));
+        takeBack([&, &name = name, &before = before] {
+            if (before)
+                settings::repository(unicode(name)) = *before;
+            else
+                settings::removeRepository(unicode(name));
+        });
     }
-    for (const std::string& variable : _variables) settings::removeVariable(unicode(variable));
-    QORIFCOptions::Reset();
+    for (const std::string& variable : _variables) takeBack([&] { settings::removeVariable(unicode(variable)); });
+    takeBack([] { QORIFCOptions::Reset(); });
     // The reset may have derived it as well.
-    if (_profileVariableIsDerived) settings::removeVariable(QORIFCOptions::_envvar_exchange_profile);
+    if (_profileVariableIsDerived) takeBack([] { settings::removeVariable(QORIFCOptions::_envvar_exchange_profile); });
     setLog(_logBefore);
 }
 
@@ -163,6 +174,7 @@ int PlatformSetup::Log::PutUnicodeMessage(const QORUnicodeString& message, short
 }
 
 void PlatformSetup::Log::write() {
+    _hasWritten |= !messages().empty();
     for (const exchangelog::Message& message : messages()) _err << "velkor: " << message.text << '\n';
     clear();
 }

@@ -39,6 +39,8 @@ public:
 
     /// In the order of the configuration.
     const std::vector<ConversionOption>& conversionOptions() const noexcept { return _conversionOptions; }
+    /// True when the services have told of a fault, such as a resource file that cannot be read.
+    bool hasToldErrors() const noexcept { return _log.hasWritten(); }
     /// True when the services, not the user, have put the exchange profile into the environment.
     bool isProfileVariableDerived() const noexcept { return _profileVariableIsDerived; }
     /// The folders of shipped resources that are in force; empty when something else has been configured.
@@ -53,9 +55,12 @@ private:
                       QORUnicodeString* extra, int* extraCode) override;
         int PutUnicodeMessage(const QORUnicodeString& message, short level, short kind) override;
 
+        bool hasWritten() const noexcept { return _hasWritten; }
+
     private:
         void write();
         TextSink _err;
+        bool _hasWritten = false;
     };
 
     void setFolders(const char* variable, const std::optional<std::vector<std::string>>& folders);

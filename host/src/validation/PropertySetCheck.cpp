@@ -252,6 +252,11 @@ PropertySetCheck checkPropertySets(CommandContext& context, const sdai::Model& m
     return Checker(model, limit).check(progress);
 }
 
+void reportUnreadableDefinitions(CommandContext& context, const PropertySetCheck& check) {
+    for (const auto& [name, count] : check.unreadable)
+        context.reportUnreadable("the definition of " + name + " cannot be read");
+}
+
 Json coverageJson(const PropertySetCheck& check) {
     Json names = Json::array();
     for (const auto& [name, count] : uncheckedNames(check)) names.push_back({{"set", name}, {"count", count}});

@@ -57,6 +57,9 @@ struct PropertySetCheck {
 /// the name of the whole counts.
 PropertySetCheck checkPropertySets(CommandContext& context, const sdai::Model& model, std::size_t limit);
 
+/// Reports definitions that cannot be read as input that cannot.
+void reportUnreadableDefinitions(CommandContext& context, const PropertySetCheck& check);
+
 /// The counts: "sets", "properties" and "without_definition".
 Json coverageJson(const PropertySetCheck& check);
 

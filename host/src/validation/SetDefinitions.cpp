@@ -33,10 +33,10 @@ std::string upperCase(std::string_view text) {
 // Whether the service has read a set. It refuses one that it has read already, so each is asked for once in the
 // life of the process, as the service keeps it.
 bool isRead(const std::string& setName) {
-    static std::unordered_map<std::string, bool> answers;
-    const auto [answer, isNew] = answers.try_emplace(setName);
-    if (isNew) answer->second = SUCCEEDED(QORIFCPSetQtoValidationService::getInstance()->Initialize(unicode(setName)));
-    return answer->second;
+    static std::unordered_map<std::string, std::optional<bool>> answers;
+    std::optional<bool>& answer = answers[setName];
+    if (!answer) answer = SUCCEEDED(QORIFCPSetQtoValidationService::getInstance()->Initialize(unicode(setName)));
+    return *answer;
 }
 
 // What a type object describes: "IFCDOOR" for both "IFCDOORTYPE" and "IFCDOORSTYLE".

@@ -1,12 +1,12 @@
 #include "files/QORDirectory.h"
 
 #include "files/Paths.h"
+#include "objectmodeler/OutOfMemory.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <dirent.h>
 #include <memory>
-#include <new>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -29,7 +29,7 @@ struct CloseStream {
 HRESULT QOROpenDirectory(const QORUnicodeString& path, QORDirectory*& directory) {
     directory = nullptr;
     const std::unique_ptr<DIR, CloseStream> stream(opendir(velkor::files::nativePath(path).c_str()));
-    if (stream == nullptr && errno == ENOMEM) throw std::bad_alloc();
+    if (stream == nullptr && errno == ENOMEM) velkor::objectmodeler::outOfMemory();
     if (stream == nullptr) return E_FAIL;
     auto read = std::make_unique<QORDirectory>();
     errno = 0;

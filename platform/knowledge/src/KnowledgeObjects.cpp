@@ -76,7 +76,8 @@ public:
     HRESULT QueryInterface(const IID& interfaceId, void** interface) override {
         if (interface == nullptr || interfaceId != QORIVleObject::ClassId())
             return Interface::QueryInterface(interfaceId, interface);
-        return offer(*this, QORBaseUnknown_var::adopt(new AttributeReader(_attributes)), interfaceId, interface);
+        return offer(*this, QORBaseUnknown_var::adopt(objectmodeler::newComponent<AttributeReader>(_attributes)),
+                     interfaceId, interface);
     }
 
 private:
@@ -153,7 +154,8 @@ public:
     HRESULT QueryInterface(const IID& interfaceId, void** interface) override {
         if (interface == nullptr || interfaceId != QORIExchangeUserProperties::ClassId())
             return QORIExchangeObject::QueryInterface(interfaceId, interface);
-        return offer(*this, QORBaseUnknown_var::adopt(new UserProperties(_properties)), interfaceId, interface);
+        return offer(*this, QORBaseUnknown_var::adopt(objectmodeler::newComponent<UserProperties>(_properties)),
+                     interfaceId, interface);
     }
     HRESULT GetIdentifier(QORUnicodeString& identifier) override { return give(_description.identifier, identifier); }
     HRESULT GetName(QORUnicodeString& name) override { return give(_description.name, name); }
@@ -189,7 +191,7 @@ namespace {
 
 QORIType_var typeOrStranger(const std::string& name) {
     QORIType_var known = typeNamed(name);
-    return known.IsNull() ? QORIType_var::adopt(new StrangeType(name)) : known;
+    return known.IsNull() ? QORIType_var::adopt(objectmodeler::newComponent<StrangeType>(name)) : known;
 }
 
 } // namespace
@@ -197,12 +199,13 @@ QORIType_var typeOrStranger(const std::string& name) {
 QORBaseUnknown_var makeOccurrence(const std::string& typeName, Attributes attributes) {
     auto table = std::make_shared<AttributeTable>();
     for (auto& [name, value] : attributes) table->try_emplace(std::move(name), std::move(value));
-    auto object = QORBaseUnknown_var::adopt(new PLMInstance(typeName, table));
-    return QORBaseUnknown_var::adopt(new PLMOccurrence(std::move(object), std::move(table)));
+    auto object = QORBaseUnknown_var::adopt(objectmodeler::newComponent<PLMInstance>(typeName, table));
+    return QORBaseUnknown_var::adopt(objectmodeler::newComponent<PLMOccurrence>(std::move(object), std::move(table)));
 }
 
 QORBaseUnknown_var makeExchangeObject(ExchangeDescription description, Attributes properties) {
-    return QORBaseUnknown_var::adopt(new ExchangeObject(std::move(description), std::move(properties)));
+    return QORBaseUnknown_var::adopt(
+        objectmodeler::newComponent<ExchangeObject>(std::move(description), std::move(properties)));
 }
 
 } // namespace velkor::knowledge

@@ -4,6 +4,7 @@
 #include "knowledge/QORVleTypeServices.h"
 
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace velkor::knowledge {
@@ -67,10 +68,16 @@ public:
 VELKOR_IMPLEMENT_CLASS(KnownTypes, QORITypeDictionary, nullptr, "Knowledge")
 
 bool addType(const TypeDescription& type) {
-    const auto [place, isNew] = types().byName.try_emplace(type.name);
-    if (!isNew) return false;
-    place->second = QORInterface_var<KnownType>::adopt(new KnownType(type));
-    types().names.push_back(type.name);
+    Types& known = types();
+    if (known.byName.contains(type.name)) return false;
+    auto made = QORInterface_var<KnownType>::adopt(objectmodeler::newComponent<KnownType>(type));
+    known.names.push_back(type.name);
+    try {
+        known.byName.emplace(type.name, std::move(made));
+    } catch (...) {
+        known.names.pop_back();
+        throw;
+    }
     return true;
 }
 
@@ -96,7 +103,8 @@ bool isDerivedFrom(std::string_view type, std::string_view ancestor) {
 using namespace velkor::knowledge;
 
 QORITypeDictionary_var QORGlobalFunctions::GetTypeDictionary() {
-    return types().names.empty() ? QORITypeDictionary_var() : QORITypeDictionary_var::adopt(new KnownTypes);
+    return types().names.empty() ? QORITypeDictionary_var()
+                                 : QORITypeDictionary_var::adopt(velkor::objectmodeler::newComponent<KnownTypes>());
 }
 
 HRESULT QORVlePLMNavPublicServices::RetrieveKnowledgeType(const char* name, QORIType_var& type) {

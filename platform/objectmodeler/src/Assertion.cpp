@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <deque>
 #include <mutex>
+#include <new>
 
 namespace {
 
@@ -22,12 +23,15 @@ Reports& reports() {
 
 } // namespace
 
-void __OmyAssertionFailed(const char* sourceUnit, int line, const char* message) {
+// A report never stops anything: without memory it is counted, but not kept.
+void __OmyAssertionFailed(const char* sourceUnit, int line, const char* message) try {
     Reports& all = reports();
     const std::scoped_lock lock(all.mutex);
     ++all.count;
     if (all.kept.size() == MostKept) all.kept.pop_front();
     all.kept.push_back({sourceUnit ? sourceUnit : "", line, message ? message : ""});
+} catch (const std::bad_alloc&) {
+    return;
 }
 
 namespace velkor::objectmodeler {

@@ -34,13 +34,29 @@ struct Dictionary {
             unread.erase(unread.begin());
             // A registration function that asks a question may have another module read meanwhile.
             const QOROMModule* outer = std::exchange(current, module);
-            const QOROMModuleInfo& info = module->info();
-            for (const QOROMRegistration* entry = info.leadingEntry; entry <= info.trailingEntry; ++entry) {
-                if (*entry != nullptr && (*entry)() != module) recordCall("registration without its module's address");
+            try {
+                read(*module);
+            } catch (...) {
+                // The next question has it read anew. The room for it is still there.
+                current = outer;
+                forget(module);
+                unread.insert(unread.begin(), module);
+                throw;
             }
-            if (*info.leadingEntry != nullptr || *info.trailingEntry != nullptr) recordCall("unbounded table");
             current = outer;
         }
+    }
+
+    void forget(const QOROMModule* module) {
+        std::erase_if(registrations, [module](const Registration& r) { return r.module == module; });
+    }
+
+    static void read(const QOROMModule& module) {
+        const QOROMModuleInfo& info = module.info();
+        for (const QOROMRegistration* entry = info.leadingEntry; entry <= info.trailingEntry; ++entry) {
+            if (*entry != nullptr && (*entry)() != &module) recordCall("registration without its module's address");
+        }
+        if (*info.leadingEntry != nullptr || *info.trailingEntry != nullptr) recordCall("unbounded table");
     }
 
     template <typename Fits>
@@ -146,5 +162,5 @@ QOROMModule::~QOROMModule() {
     const std::scoped_lock lock(dictionary().mutex);
     recordCall("module destroyed");
     std::erase(dictionary().unread, this);
-    std::erase_if(dictionary().registrations, [this](const Registration& r) { return r.module == this; });
+    dictionary().forget(this);
 }

@@ -52,8 +52,9 @@ QORMetaClass* retrieve(std::string name, ENUMTypeOfClass kind, QORMetaClass* par
     std::unique_ptr<QORMetaClass>& entry = metaClasses().byName[name];
     const bool isNew = !entry;
     if (isNew) {
-        entry = MetaClassMaker::make(std::move(name), kind, parent, framework);
-        complete(*entry);
+        auto made = MetaClassMaker::make(std::move(name), kind, parent, framework);
+        complete(*made);
+        entry = std::move(made);
     }
     if (objectmodeler::isRecording()) {
         objectmodeler::recordCall(std::string(isNew ? "metaclass made: " : "metaclass retrieved: ") +

@@ -1,5 +1,7 @@
 #include "settings/QORDXEnvironmentVariable.h"
+#include "objectmodeler/OutOfMemory.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <limits>
 
@@ -28,7 +30,7 @@ QORUnicodeString QORGetEnv(const QORUnicodeString& name) {
 namespace velkor::settings {
 
 void setVariable(const QORUnicodeString& name, const QORUnicodeString& value) {
-    setenv(name.ConvertToChar(), value.ConvertToChar(), 1);
+    if (setenv(name.ConvertToChar(), value.ConvertToChar(), 1) != 0 && errno == ENOMEM) objectmodeler::outOfMemory();
 }
 
 void removeVariable(const QORUnicodeString& name) {

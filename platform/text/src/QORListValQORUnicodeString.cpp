@@ -12,8 +12,9 @@ void QORListValQORUnicodeString::Append(const QORListValQORUnicodeString& other)
 }
 
 QORUnicodeString& QORListValQORUnicodeString::operator[](int position) noexcept {
-    static thread_local QORUnicodeString outside;
     if (has(position)) return _items[static_cast<std::size_t>(position - 1)];
+    // Behind the usual way: making it in a thread takes memory, and without that the process ends.
+    static thread_local QORUnicodeString outside;
     outside = QORUnicodeString();
     return outside;
 }

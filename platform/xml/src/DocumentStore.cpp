@@ -2,12 +2,12 @@
 
 #include "Messages.h"
 #include "Nodes.h"
+#include "objectmodeler/OutOfMemory.h"
 #include "text/Unicode.h"
 #include "Traversal.h"
 
 #include <libxml/chvalid.h>
 #include <libxml/tree.h>
-#include <new>
 
 namespace velkor::xml {
 
@@ -31,7 +31,7 @@ void DocumentStore::detach(xmlNodePtr node) {
         MessageCapture capture;
         if (xmlReconciliateNs(document(), node) < 0 || capture.hasFailed()) {
             attach(node, parent, next);
-            throw std::bad_alloc();
+            objectmodeler::outOfMemory();
         }
     }
     noteChange();

@@ -1,6 +1,7 @@
 #include "Messages.h"
 
 #include "exchangelog/QORExchangeErr.h"
+#include "objectmodeler/OutOfMemory.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -61,7 +62,7 @@ bool MessageCapture::isOfMemory(const xmlError& error) noexcept {
 }
 
 void MessageCapture::check() const {
-    if (_lacksMemory) throw std::bad_alloc();
+    if (_lacksMemory) objectmodeler::outOfMemory();
     if (_thrown != nullptr) std::rethrow_exception(_thrown);
 }
 

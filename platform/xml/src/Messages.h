@@ -1,10 +1,11 @@
 /// How the parser speaks to people: through the exchange log, never by itself.
 #pragma once
 
+#include "objectmodeler/OutOfMemory.h"
+
 #include <exception>
 #include <functional>
 #include <libxml/xmlerror.h>
-#include <new>
 #include <string>
 
 namespace velkor::xml {
@@ -69,7 +70,7 @@ auto made(Make make, Discard discard) {
     auto* result = make();
     if (result != nullptr && !capture.hasFailed()) return result;
     if (result != nullptr) discard(result);
-    throw std::bad_alloc();
+    objectmodeler::outOfMemory();
 }
 
 } // namespace velkor::xml

@@ -4,6 +4,7 @@
 #include "files/InputFile.h"
 #include "files/Paths.h"
 #include "Messages.h"
+#include "objectmodeler/OutOfMemory.h"
 
 #include <cerrno>
 #include <cstring>
@@ -11,7 +12,6 @@
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 #include <libxml/SAX2.h>
-#include <new>
 #include <utility>
 
 namespace velkor::xml {
@@ -36,7 +36,7 @@ class Parse {
 public:
     Parse(std::string name, const QORIXMLErrorHandler_var& handler)
         : _name(std::move(name)), _handler(handler), _capture([this](const std::string& text) { other(text); }) {
-        if (_context == nullptr) throw std::bad_alloc();
+        if (_context == nullptr) objectmodeler::outOfMemory();
         _context->_private = this;
         // A parser context has handlers of its own, so that nothing process-wide is touched.
         xmlSAXHandler& sax = *_context->sax;
@@ -182,7 +182,7 @@ private:
         const bool isParameter = type == XML_INTERNAL_PARAMETER_ENTITY || type == XML_EXTERNAL_PARAMETER_ENTITY;
         if ((isParameter ? xmlSAX2GetParameterEntity(context, name) : xmlSAX2GetEntity(context, name)) != nullptr)
             return;
-        step(context, [] { throw std::bad_alloc(); });
+        step(context, [] { objectmodeler::outOfMemory(); });
     }
 
     void boundDeclarations(void* context) {

@@ -2,12 +2,12 @@
 
 #include "Messages.h"
 #include "NodeLists.h"
+#include "objectmodeler/OutOfMemory.h"
 #include "xml/QORIXMLXPathFactory.h"
 
 #include <libxml/xpath.h>
 #include <libxml/xpathInternals.h>
 #include <memory>
-#include <new>
 #include <string>
 #include <utility>
 
@@ -44,7 +44,7 @@ public:
         for (int i = 1; i <= prefixes.Size(); ++i) {
             const std::string prefix(prefixes[i].utf8()), uri(uris[i].utf8());
             if (prefix.empty()) return E_INVALIDARG;
-            if (xmlXPathRegisterNs(_context.get(), xmlText(prefix), xmlText(uri)) != 0) throw std::bad_alloc();
+            if (xmlXPathRegisterNs(_context.get(), xmlText(prefix), xmlText(uri)) != 0) objectmodeler::outOfMemory();
             capture.check();
         }
         return S_OK;
@@ -78,11 +78,13 @@ private:
     // In single steps: the functions of libxml2 that do it all use, or free twice, what they get no memory for.
     xmlXPathObjectPtr evaluated() const {
         constexpr int stackSize = 10;
+        // Bare paths are matched in another way, which tells nobody of memory that it lacks.
+        const std::string inBrackets = '(' + _text + ')';
         const std::unique_ptr<xmlXPathParserContext, Free> parser(
-            xmlXPathNewParserContext(xmlText(_text), _context.get()));
-        if (parser == nullptr) throw std::bad_alloc();
+            xmlXPathNewParserContext(xmlText(inBrackets), _context.get()));
+        if (parser == nullptr) objectmodeler::outOfMemory();
         parser->valueTab = static_cast<xmlXPathObjectPtr*>(xmlMalloc(stackSize * sizeof(xmlXPathObjectPtr)));
-        if (parser->valueTab == nullptr) throw std::bad_alloc();
+        if (parser->valueTab == nullptr) objectmodeler::outOfMemory();
         parser->valueMax = stackSize;
         xmlXPathEvalExpr(parser.get());
         return parser->error == XPATH_EXPRESSION_OK ? valuePop(parser.get()) : nullptr;
@@ -91,7 +93,7 @@ private:
     // What lacks memory may look like an expression that is wrong. The context keeps to itself that it does.
     void check(const MessageCapture& capture) const {
         capture.check();
-        if (_context->lastError.code == XML_ERR_NO_MEMORY) throw std::bad_alloc();
+        if (_context->lastError.code == XML_ERR_NO_MEMORY) objectmodeler::outOfMemory();
     }
 
     // The first message says what is wrong, later ones what came of it.

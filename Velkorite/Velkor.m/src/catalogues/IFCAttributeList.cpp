@@ -8,6 +8,8 @@
 #include "ResourceKinds.h"
 #include "xml/QORIDOMElement.h"
 
+#include <memory>
+
 namespace {
 
 // Every unit that deals with resource paths has its own pair; the list of folders is split by the file services.
@@ -72,10 +74,12 @@ HRESULT IFCAttributeList::GetAttributeValue(const QORUnicodeString& iName, const
     return oValue.IsEmpty() ? E_FAIL : S_OK;
 }
 
-IFCAttributeList::IFCAttributeList() : _tables(new IFCAttributeTables) {
+IFCAttributeList::IFCAttributeList() {
+    auto tables = std::make_unique<IFCAttributeTables>();
     QORListValQORUnicodeString files;
     ListFileFromRTV(files);
-    if (files.Size() > 0) readAttributeFile(files[1], *_tables);
+    if (files.Size() > 0) readAttributeFile(files[1], *tables);
+    _tables = tables.release();
 }
 
 IFCAttributeList::~IFCAttributeList() {

@@ -4,14 +4,12 @@
 #include "TableEntries.h"
 
 #include <memory>
-#include <new>
 
 QORSysSimpleHashTable* QORIFCHTableOfMapProperty::_pHListOfMapProperty = nullptr;
 
 HRESULT QORIFCHTableOfMapProperty::Initialize() {
     if (_pHListOfMapProperty == nullptr)
-        _pHListOfMapProperty =
-            new (std::nothrow) QORSysSimpleHashTable(0, QORIFCMapProperty::GetHashKey, QORIFCMapProperty::Compare);
+        _pHListOfMapProperty = velkor::library::makeTable(QORIFCMapProperty::GetHashKey, QORIFCMapProperty::Compare);
     return S_OK;
 }
 
@@ -23,8 +21,10 @@ HRESULT QORIFCHTableOfMapProperty::AddAttribute(const QORUnicodeString& name, co
     if (_pHListOfMapProperty == nullptr) return E_FAIL;
 
     auto made = std::make_unique<QORIFCMapProperty>(name);
+    const HRESULT result = made->AppendAttribute(a1, a2, a3, a4, a5);
     if (_pHListOfMapProperty->Insert(made.get()) != 1) return E_FAIL;
-    return made.release()->AppendAttribute(a1, a2, a3, a4, a5);
+    static_cast<void>(made.release());
+    return result;
 }
 
 HRESULT QORIFCHTableOfMapProperty::Locate(const QORUnicodeString& name, QORIFCMapProperty*& record) {

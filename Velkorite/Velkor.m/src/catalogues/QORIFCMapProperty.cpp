@@ -1,5 +1,7 @@
 #include "QORIFCMapProperty.h"
 
+#include <utility>
+
 QORIFCMapProperty::QORIFCMapProperty(const QORUnicodeString& name) : _name(name) {}
 QORIFCMapProperty::~QORIFCMapProperty() = default;
 
@@ -10,11 +12,18 @@ QORUnicodeString QORIFCMapProperty::GetName() const {
 HRESULT QORIFCMapProperty::AppendAttribute(const QORUnicodeString& a1, const QORUnicodeString& a2,
                                            const QORUnicodeString& a3, const QORUnicodeString& a4,
                                            const QORUnicodeString& a5) {
-    _attributes1.Append(a1);
-    _attributes2.Append(a2);
-    _attributes3.Append(a3);
-    _attributes4.Append(a4);
-    _attributes5.Append(a5);
+    using Column = std::pair<QORListValQORUnicodeString&, const QORUnicodeString&>;
+    const Column columns[] = {
+        {_attributes1, a1}, {_attributes2, a2}, {_attributes3, a3}, {_attributes4, a4}, {_attributes5, a5}};
+    const int before = GetNumberOfAttributes();
+    try {
+        for (const auto& [list, value] : columns) list.Append(value);
+    } catch (...) {
+        for (const auto& [list, value] : columns) {
+            if (list.Size() > before) list.RemovePosition(list.Size());
+        }
+        throw;
+    }
     return S_OK;
 }
 

@@ -88,11 +88,16 @@ HRESULT QORIFCPSetQtoValidationService::GetFilePath() {
     for (QORUnicodeString folder = folders.GetNextToken("/"); !folder.IsEmpty(); folder = folders.GetNextToken("/"))
         walker.AppendRTVSubDir(folder);
     walker.SetPattern(velkor::propertySetResource.nameText);
-    for (QORUnicodeString path, directory, name; SUCCEEDED(walker.GetNext(path));) {
-        if (FAILED(QORSplitPath(path, directory, name))) continue;
-        _directory = directory;
-        _fileNames.Append(name);
+    QORListValQORUnicodeString names;
+    QORUnicodeString directory;
+    for (QORUnicodeString path, folder, name; SUCCEEDED(walker.GetNext(path));) {
+        if (FAILED(QORSplitPath(path, folder, name))) continue;
+        directory = folder;
+        names.Append(name);
     }
+    // All at once: a list that is there is taken for the whole.
+    if (names.Size() > 0) _directory = std::move(directory);
+    _fileNames = std::move(names);
     return S_OK;
 }
 

@@ -18,7 +18,7 @@ HRESULT CreateElementIterator(const QORIDOMElement_var& root, const char* tag, Q
     if (FAILED(result)) return result;
     const QORIDOMDocumentTraversal_var traversal = document;
     if (traversal.IsNull()) return E_UNEXPECTED;
-    const auto filter = QORBaseUnknown_var::adopt(new QORXCADNodeFilter(tag, ""));
+    const auto filter = QORBaseUnknown_var::adopt(objectmodeler::newComponent<QORXCADNodeFilter>(tag, ""));
     result =
         traversal->CreateNodeIterator(root, QORDOMNodeFilterType::SHOW_ELEMENT | QORDOMNodeFilterType::SHOW_ATTRIBUTE,
                                       QORIDOMNodeFilter_var(filter), true, iterator);
@@ -66,9 +66,7 @@ HRESULT AECDocument::index(const char* tag, Index*& result) {
         result = &filled->second;
         return S_OK;
     }
-    const auto place = _byTag.try_emplace(tag).first;
-    result = &place->second;
-    Index& filled = place->second;
+    Index filled;
     const auto fill = [&] {
         QORIDOMElement_var root;
         QORIDOMNodeIterator_var iterator;
@@ -87,10 +85,10 @@ HRESULT AECDocument::index(const char* tag, Index*& result) {
         return step;
     };
     const HRESULT outcome = fill();
-    if (FAILED(outcome)) {
+    if (FAILED(outcome))
         VELKOR_ASSERTION_FAILED();
-        _byTag.erase(place);
-    }
+    else
+        result = &_byTag.emplace(tag, std::move(filled)).first->second;
     return outcome;
 }
 

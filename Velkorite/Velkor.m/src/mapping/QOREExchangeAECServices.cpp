@@ -11,6 +11,7 @@
 #include "VelkorComponents.h"
 
 #include <cstdio>
+#include <new>
 #include <optional>
 
 VELKOR_IMPLEMENT_CLASS(QOREExchangeAECServices, QORIExchangeAECServices, "QORnull", "Velkorite")
@@ -115,7 +116,9 @@ void sortCandidates(AECDocument::Entry& entry) {
     QORListValQORBaseUnknown_var sorted;
     for (const QORIDOMElement_var& element : entry.elements) sorted.Append(element);
     sorted.QuickSort(CompareByPriority);
-    for (const QORBaseUnknown_var& element : sorted) entry.candidates.push_back({element, {}, {}, {}});
+    std::vector<AECDocument::Candidate> candidates;
+    for (const QORBaseUnknown_var& element : sorted) candidates.push_back({element, {}, {}, {}});
+    entry.candidates = std::move(candidates);
 }
 
 /// The first candidate, by priority, whose test gives 0; E_UNEXPECTED when there is none.
@@ -134,8 +137,9 @@ HRESULT choose(AECDocument::Entry& entry, Test test, AECDocument::Candidate*& ch
 template <class Find>
 HRESULT remembered(std::optional<AECDocument::Answer>& answer, QORUnicodeString& output, Find find) {
     if (!answer) {
-        answer = AECDocument::Answer{S_OK, {}};
-        answer->result = find(answer->text);
+        AECDocument::Answer found{S_OK, {}};
+        found.result = find(found.text);
+        answer = std::move(found);
     } else if (FAILED(answer->result)) {
         REPORTED(answer->result);
     }
@@ -254,25 +258,33 @@ HRESULT childAt(const QORIDOMNode_var& parent, unsigned int index, QORIDOMNode_v
 
 } // namespace
 
-HRESULT QOREExchangeAECServices::LoadAECResource() {
-    return aecDocument.load();
+// No exception leaves these operations.
+
+HRESULT QOREExchangeAECServices::LoadAECResource() try { return aecDocument.load(); } catch (const std::bad_alloc&) {
+    return REPORTED(E_FAIL);
 }
 
-HRESULT QOREExchangeAECServices::GetPLMTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oPLMType) {
+HRESULT QOREExchangeAECServices::GetPLMTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oPLMType) try {
     return GetSystemTypeName(iNeutralID, plmTag, &AECDocument::Entry::plmName, oPLMType);
+} catch (const std::bad_alloc&) {
+    return REPORTED(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetPLMValuationFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oAttribute,
-                                                              QORUnicodeString& oValue) {
+                                                              QORUnicodeString& oValue) try {
     return GetSystemValuation(iNeutralID, plmTag, oAttribute, oValue);
+} catch (const std::bad_alloc&) {
+    return REPORTED(E_FAIL);
 }
 
-HRESULT QOREExchangeAECServices::GetIFCTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oIFCType) {
+HRESULT QOREExchangeAECServices::GetIFCTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oIFCType) try {
     return GetSystemTypeName(iNeutralID, ifcTag, &AECDocument::Entry::ifcName, oIFCType);
+} catch (const std::bad_alloc&) {
+    return REPORTED(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetNeutralIDFromPLMObject(const QORBaseUnknown_var& iObject,
-                                                           QORUnicodeString& oNeutralID) {
+                                                           QORUnicodeString& oNeutralID) try {
     oNeutralID = defaultAnswer;
     const QORIPLMNavOccurrence_var occurrence = iObject;
     if (occurrence.IsNull()) return REPORTED(E_UNEXPECTED);
@@ -300,10 +312,12 @@ HRESULT QOREExchangeAECServices::GetNeutralIDFromPLMObject(const QORBaseUnknown_
         *candidates, [&](AECDocument::Candidate& candidate) { return CheckConditionOnObject(candidate, iObject); },
         chosen);
     return FAILED(result) ? result : neutralIdOf(*chosen, oNeutralID);
+} catch (const std::bad_alloc&) {
+    return REPORTED(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetNeutralIDFromIFCObject(const QORBaseUnknown_var& iObject,
-                                                           QORUnicodeString& oNeutralID) {
+                                                           QORUnicodeString& oNeutralID) try {
     oNeutralID = defaultAnswer;
     const QORIExchangeObject_var object = iObject;
     if (object.IsNull()) return REPORTED(E_UNEXPECTED);
@@ -326,11 +340,13 @@ HRESULT QOREExchangeAECServices::GetNeutralIDFromIFCObject(const QORBaseUnknown_
         [&](AECDocument::Candidate& candidate) { return CheckConditionOnUserProperties(candidate, names, values); },
         chosen);
     return FAILED(result) ? result : neutralIdOf(*chosen, oNeutralID);
+} catch (const std::bad_alloc&) {
+    return REPORTED(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetPLMTypeFromIFCType(const QORUnicodeString& iIFCType,
                                                        const QORUnicodeString& iConditionValue,
-                                                       QORUnicodeString& oPLMType) {
+                                                       QORUnicodeString& oPLMType) try {
     oPLMType = defaultAnswer;
     AECDocument::Entry* candidates = nullptr;
     HRESULT result = collect(ifcTag, iIFCType, candidates);
@@ -342,10 +358,12 @@ HRESULT QOREExchangeAECServices::GetPLMTypeFromIFCType(const QORUnicodeString& i
         *candidates, [&](AECDocument::Candidate& candidate) { return CheckConditionOnValue(candidate, upperValue); },
         chosen);
     return FAILED(result) ? result : plmTypeOf(*chosen, oPLMType);
+} catch (const std::bad_alloc&) {
+    return REPORTED(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetObjectTypeFromNeutralID(const QORString& iNeutralID,
-                                                            QORUnicodeString& oObjectType) {
+                                                            QORUnicodeString& oObjectType) try {
     AECDocument::Entry* neutral = nullptr;
     HRESULT result = findNeutral(iNeutralID, neutral);
     if (result != S_OK) return result;
@@ -365,4 +383,6 @@ HRESULT QOREExchangeAECServices::GetObjectTypeFromNeutralID(const QORString& iNe
     if (name != "ObjectType") return S_FALSE;
     oObjectType = value;
     return S_OK;
+} catch (const std::bad_alloc&) {
+    return REPORTED(E_FAIL);
 }

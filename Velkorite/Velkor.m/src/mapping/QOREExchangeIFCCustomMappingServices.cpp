@@ -66,6 +66,13 @@ bool replace(std::unique_ptr<CustoMappingElement> element, unsigned int rank) {
     return true;
 }
 
+void dropTable() {
+    if (customMappingTable == nullptr) return;
+    customMappingTable->ApplyDelete();
+    delete customMappingTable;
+    customMappingTable = nullptr;
+}
+
 /// A set that users map to is one that validation must let pass.
 void announce(QORUnicodeString& toEntity) {
     QORIFCPSetQtoValidationService* validation = QORIFCPSetQtoValidationService::getInstance();
@@ -81,11 +88,7 @@ void announce(QORUnicodeString& toEntity) {
 
 HRESULT QOREExchangeIFCCustomMappingServices::LoadCustomMapping() {
     customMappingDocument = {};
-    if (customMappingTable != nullptr) {
-        customMappingTable->ApplyDelete();
-        delete customMappingTable;
-        customMappingTable = nullptr;
-    }
+    dropTable();
     const velkor::ResourceKind& kind = velkor::customMappingResource;
     QORUnicodeString path;
     HRESULT result = QORIFCDXDataSetupServices::GetResourcePath(kind.resourceSet, kind.category, kind.subFolder, path);
@@ -142,9 +145,15 @@ HRESULT QOREExchangeIFCCustomMappingServices::BuildCustomMappingTable() {
     customMappingTable =
         new QORHashTabCustoMappingElement(QORHTAB_ComputeKeyCustoMappingElement, QORHTAB_CompareCustoMappingElement,
                                           static_cast<int>(standardCount + customCount));
-    const bool isResolving = scopesAreTypes();
-    addMappings(standard, standardSection, isResolving);
-    addMappings(custom, customSection, isResolving);
+    try {
+        const bool isResolving = scopesAreTypes();
+        addMappings(standard, standardSection, isResolving);
+        addMappings(custom, customSection, isResolving);
+    } catch (...) {
+        // Without memory there is no table rather than a part of it.
+        dropTable();
+        throw;
+    }
     return S_OK;
 }
 

@@ -264,17 +264,21 @@ HRESULT BuildVersionMappingTable(int iFromVersion, int iToVersion) {
     result = childrenOf(version, children, length);
     if (FAILED(result)) return result;
     if (length == 0) return S_OK;
-    versionMappingTable = new VersionMappingTable(static_cast<int>(length));
+    auto table = std::make_unique<VersionMappingTable>(static_cast<int>(length));
     const auto wants = [](const QORUnicodeString& name) {
         return name == deprecationName() || name == introductionName() || name == mappingName();
     };
-    return walkChildren(children, length, wants, [](const QORIDOMElement_var& element, const QORUnicodeString& name) {
+    const auto visit = [&table](const QORIDOMElement_var& element, const QORUnicodeString& name) {
         std::unique_ptr<VersionMappingEntry> entry;
         const HRESULT read =
             name == mappingName() ? mapEntry(element, entry) : changeEntry(element, name == deprecationName(), entry);
-        if (entry != nullptr) versionMappingTable->insert(std::move(entry));
+        if (entry != nullptr) table->insert(std::move(entry));
         return read;
-    });
+    };
+    // Of a walk that fails, the entries before stay.
+    result = walkChildren(children, length, wants, visit);
+    versionMappingTable = table.release();
+    return result;
 }
 
 HRESULT statusOf(const QORUnicodeString& kind) {

@@ -6,6 +6,8 @@
 #include "ResourceKinds.h"
 #include "VelkorComponents.h"
 
+#include <memory>
+#include <new>
 #include <utility>
 
 VELKOR_IMPLEMENT_CLASS(QOREExchangeIFCPLMAttributesMappingServices, QORIExchangeIFCPLMAttributesMappingServices,
@@ -26,27 +28,31 @@ int ReleaseMappingStore(int) {
 
 PLMAttributesMappingStore* GetMappingStore() {
     if (mappingStore != nullptr) return mappingStore;
-    auto* store = new PLMAttributesMappingStore;
+    auto store = std::make_unique<PLMAttributesMappingStore>();
     const velkor::ResourceKind& kind = velkor::plmAttributesMappingResource;
     QORListValQORUnicodeString paths;
     // Of a failure the paths found so far are kept.
     QORIFCDXDataSetupServices::GetResourcePaths(kind.resourceSet, kind.category, kind.subFolder, paths);
     for (const QORUnicodeString& path : paths) store->load(path);
-    mappingStore = store;
     velkor::library::callAtUnload(ReleaseMappingStore, 1);
+    mappingStore = store.release();
     return mappingStore;
 }
 
 } // namespace
 
-HRESULT QOREExchangeIFCPLMAttributesMappingServices::LoadMapping() {
+// No exception leaves these operations. What has not been loaded for want of memory is loaded by the next of them.
+
+HRESULT QOREExchangeIFCPLMAttributesMappingServices::LoadMapping() try {
     GetMappingStore();
+    return S_OK;
+} catch (const std::bad_alloc&) {
     return S_OK;
 }
 
 HRESULT QOREExchangeIFCPLMAttributesMappingServices::GetIFCPropertyFromPLMAttribute(
     const QORUnicodeString& iPLMType, const QORUnicodeString& iPLMAttribute, QORUnicodeString& oPropertySetName,
-    QORUnicodeString& oIFCProperty) {
+    QORUnicodeString& oIFCProperty) try {
     const PLMAttributesMappingStore* store = GetMappingStore();
     if (store == nullptr) return E_FAIL;
     if (const auto* record = store->find(iPLMType, iPLMAttribute)) {
@@ -60,5 +66,7 @@ HRESULT QOREExchangeIFCPLMAttributesMappingServices::GetIFCPropertyFromPLMAttrib
         oIFCProperty = "InnerDiameter";
         return S_OK;
     }
+    return E_FAIL;
+} catch (const std::bad_alloc&) {
     return E_FAIL;
 }

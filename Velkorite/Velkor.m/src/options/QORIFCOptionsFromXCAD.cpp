@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <new>
 
 VELKOR_IMPLEMENT_CLASS(QORIFCOptionsFromXCAD, QORBaseUnknown, "QORNull", "Velkorite")
 
@@ -27,6 +28,7 @@ QORIFCOptionsFromXCAD* QORIFCOptionsFromXCAD::_Instance = nullptr;
 
 QORIFCOptionsFromXCAD* QORIFCOptionsFromXCAD::GetInstance() {
     if (_Instance == nullptr) _Instance = new QORIFCOptionsFromXCAD;
+    if (_Instance == nullptr) throw std::bad_alloc();
     return _Instance;
 }
 
@@ -46,7 +48,12 @@ HRESULT QORIFCOptionsFromXCAD::SetXCADConversionOptionForIFC(const QORUnicodeStr
         _optionValues[position] = value;
     } else {
         _optionNames.Append(name);
-        _optionValues.Append(value);
+        try {
+            _optionValues.Append(value);
+        } catch (...) {
+            _optionNames.RemovePosition(_optionNames.Size());
+            throw;
+        }
     }
 
     // Asked for anew: another exchange may be under way than the one before.

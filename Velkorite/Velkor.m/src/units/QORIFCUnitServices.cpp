@@ -5,7 +5,9 @@
 #include "UnitEvaluation.h"
 #include "UnitPositions.h"
 
+#include <algorithm>
 #include <span>
+#include <vector>
 
 using velkor::library::unitPosition;
 using velkor::sdai::Aggregate;
@@ -110,14 +112,10 @@ HRESULT QORIFCUnitServices::SetSchema(Fileschema schema) {
 }
 
 HRESULT QORIFCUnitServices::StoreGlobalUnits(DXSdaiAppInstance* unitAssignment) {
-    std::span<double> factors;
-    if (_schema == FileschemaIFC2X3) {
-        _IFC2x3_globalSIUnitsFactors.fill(1.0);
-        factors = _IFC2x3_globalSIUnitsFactors;
-    } else if (_schema == FileschemaIFC4) {
-        _IFC4_globalSIUnitsFactors.fill(1.0);
-        factors = _IFC4_globalSIUnitsFactors;
-    }
+    std::span<double> stored;
+    if (_schema == FileschemaIFC2X3) stored = _IFC2x3_globalSIUnitsFactors;
+    if (_schema == FileschemaIFC4) stored = _IFC4_globalSIUnitsFactors;
+    std::vector<double> factors(stored.size(), 1.0);
 
     HRESULT result = E_FAIL;
     for (AggregateIterator it(unitsOf(unitAssignment)); it.next();) {
@@ -132,6 +130,7 @@ HRESULT QORIFCUnitServices::StoreGlobalUnits(DXSdaiAppInstance* unitAssignment) 
         factors[slot] = GetUnitConversionFactor(unit);
         result = S_OK;
     }
+    std::ranges::copy(factors, stored.begin());
     return result;
 }
 

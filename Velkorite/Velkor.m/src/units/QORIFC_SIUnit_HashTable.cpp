@@ -2,8 +2,7 @@
 
 #include "containers/QORSysSimpleHashTable.h"
 #include "sdai/DXSdaiAppInstance.h"
-
-#include <new>
+#include "TableEntries.h"
 
 namespace {
 
@@ -37,8 +36,7 @@ QORIFC_SIUnit_HashTable::QORIFC_SIUnit_HashTable() = default;
 QORIFC_SIUnit_HashTable::~QORIFC_SIUnit_HashTable() = default;
 
 HRESULT QORIFC_SIUnit_HashTable::Initialize() {
-    if (_pSIUnit_HashTable == nullptr)
-        _pSIUnit_HashTable = new (std::nothrow) QORSysSimpleHashTable(0, GetHashKey, Compare);
+    if (_pSIUnit_HashTable == nullptr) _pSIUnit_HashTable = velkor::library::makeTable(GetHashKey, Compare);
     return _pSIUnit_HashTable != nullptr ? S_OK : E_FAIL;
 }
 

@@ -26,10 +26,20 @@ Implementation* newComponent(Arguments&&... arguments) {
     return made;
 }
 
-/// Makes a component in the object modeler's storage; null when there is none left.
+/// What a factory makes; null when there is no memory left.
+template <class Make>
+auto madeOrNull(Make make) -> decltype(make()) {
+    try {
+        return make();
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+/// Makes a component in the object modeler's storage; null when there is no memory left.
 template <class Implementation>
 QORBaseUnknown* createInstance() {
-    return new Implementation;
+    return madeOrNull([]() -> QORBaseUnknown* { return new Implementation; });
 }
 
 /// The creation function of classes that are not made this way.
@@ -97,8 +107,10 @@ private:                                                                        
 #define VELKOR_IMPLEMENT_BOA(visibility, Interface, Implementation)                                                    \
     extern "C" visibility IUnknown* CreateBOA##Interface##Implementation(QORBaseUnknown* object,                       \
                                                                          QORBaseUnknown* second) {                     \
-        return ToCreateBOA(object, second, Implementation::MetaObject(), Interface::ClassId(),                         \
-                           velkor::objectmodeler::createNothing);                                                      \
+        return velkor::objectmodeler::madeOrNull([&] {                                                                 \
+            return ToCreateBOA(object, second, Implementation::MetaObject(), Interface::ClassId(),                     \
+                               velkor::objectmodeler::createNothing);                                                  \
+        });                                                                                                            \
     }
 
 /// Opens the TIE class of an interface on an implementation that derives from QORBaseUnknown. The
@@ -141,8 +153,10 @@ private:                                                                        
     }                                                                                                                  \
     extern "C" visibility IUnknown* CreateTIE##Interface##Implementation(QORBaseUnknown* object,                       \
                                                                          QORBaseUnknown* second) {                     \
-        auto* tie = new TIE##Interface##Implementation(object, second);                                                \
-        if (tie == nullptr || tie->GetImpl() != tie) return tie;                                                       \
-        tie->Release();                                                                                                \
-        return nullptr;                                                                                                \
+        return velkor::objectmodeler::madeOrNull([&]() -> IUnknown* {                                                  \
+            auto* tie = new TIE##Interface##Implementation(object, second);                                            \
+            if (tie == nullptr || tie->GetImpl() != tie) return tie;                                                   \
+            tie->Release();                                                                                            \
+            return nullptr;                                                                                            \
+        });                                                                                                            \
     }

@@ -121,9 +121,9 @@ void DXSdaiDictionaryRepo::State::waitForOtherThreads(const EntryPointer& entry,
 }
 
 void DXSdaiDictionaryRepo::State::load(const EntryPointer& entry, std::unique_lock<std::mutex>& lock) {
+    loading.push_back(entry);
     entry->phase = Phase::Loading;
     entry->loadingThread = std::this_thread::get_id();
-    loading.push_back(entry);
     const auto finish = [&](Phase phase) {
         lock.lock();
         std::erase(loading, entry);

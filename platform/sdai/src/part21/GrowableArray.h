@@ -2,10 +2,11 @@
 /// library moves large blocks by remapping their pages.
 #pragma once
 
+#include "objectmodeler/OutOfMemory.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <new>
 #include <sys/mman.h>
 #include <type_traits>
 #include <utility>
@@ -33,7 +34,7 @@ public:
             std::free(std::exchange(_data, nullptr));
         } else {
             void* moved = std::realloc(_data, capacity * sizeof(T));
-            if (moved == nullptr) throw std::bad_alloc();
+            if (moved == nullptr) objectmodeler::outOfMemory();
             _data = static_cast<T*>(moved);
             expectFilling(capacity * sizeof(T));
         }
@@ -43,7 +44,7 @@ public:
     void resetToZero(std::size_t capacity) {
         resize(0);
         _data = static_cast<T*>(std::calloc(capacity, sizeof(T)));
-        if (_data == nullptr) throw std::bad_alloc();
+        if (_data == nullptr) objectmodeler::outOfMemory();
         _capacity = capacity;
         expectFilling(capacity * sizeof(T));
     }

@@ -9,7 +9,7 @@ namespace velkor::sdai::part21 {
 
 class LineTable {
 public:
-    explicit LineTable(std::string_view text) noexcept : _text(text) {}
+    explicit LineTable(std::string_view text) : _text(text) {}
 
     /// Line of a byte position, counted from 1. The first call reads the text once up to the
     /// position; later calls read at most one block.

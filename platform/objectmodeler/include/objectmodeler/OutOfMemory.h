@@ -1,0 +1,9 @@
+/// Memory that others than operator new do not get.
+#pragma once
+
+namespace velkor::objectmodeler {
+
+/// Does what operator new does: tells the new-handler of the process, where there is one, and throws std::bad_alloc.
+[[noreturn]] void outOfMemory();
+
+} // namespace velkor::objectmodeler
