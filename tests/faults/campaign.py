@@ -23,13 +23,14 @@ MAPPED = 2 << 20  # a model of this size is mapped, not read
 RESOURCES = {
     'ifc/VersionMapping.xml': '''<IfcVersionMapping><Version from="2x3" to="4">
 <Mapping fromEntity="IFCACTIONREQUEST" fromProperty="REQUESTID" toProperty="IDENTIFICATION"/>
-<Deprecated entity="IFCBEZIERCURVE"/></Version></IfcVersionMapping>''',
+<Deprecation entity="IFCBEZIERCURVE"/>
+</Version></IfcVersionMapping>''',
     'ifcCustomMapping/CustomMapping.xml': '''<IfcMapping>
 <CustomMapping fromEntity="Pset_WallCommon" fromProperty="FireRating" toEntity="Fire" toProperty="Class" scope="Wall"/>
 </IfcMapping>''',
     'IfcPLMAttributesMapping/PLMAttributes.xml': '''<IfcPLMMappingAttr><PLMAttrIncluded id="Wall">
 <fromAttributes plmProp="V_Fire" propSetName="Pset_WallCommon" ifcProp="FireRating" propExpose="Both"/>
-</PLMAttrIncluded><IfcPLMMapping plmType="Wall" IncludedId="Wall"/></IfcPLMMappingAttr>''',
+</PLMAttrIncluded><IfcPLMMapping Name="Wall"><PLMAttrInclude IncludedId="Wall"/></IfcPLMMapping></IfcPLMMappingAttr>''',
     'xcad/AECCorrespondences.xml': '''<AECCorrespondences>
 <NeutralID Name="ExternalWall">
 <IFC Name="IfcWall" Priority="20">
@@ -58,6 +59,9 @@ MODEL_COMMANDS = [
     ['classify', 'model.ifc', '--format', 'csv'], ['guid', 'check', 'model.ifc'], ['units', 'model.ifc'],
     ['units', 'model.ifc', '--format', 'json'],
 ]
+VERSION_MAPPING = ['map', 'version', '--from', '2x3', '--to', '4', 'IfcActionRequest', 'RequestID']
+CUSTOM_MAPPING = ['map', 'custom', 'Pset_WallCommon', 'FireRating', '--scope', 'Wall_Import']
+PLM_MAPPING = ['map', 'plm', 'Wall', 'V_Fire']
 OTHER_COMMANDS = [
     ['--version'], ['map', '--help'], ['rapport'], ['report'], ['report', 'missing.ifc'],
     ['guid', 'new'], ['guid', 'from-plm'], ['guid', 'expand', '0$WU4A9R19$vKWO$AdOnKA'],
@@ -65,24 +69,26 @@ OTHER_COMMANDS = [
     ['dictionary', 'list'], ['dictionary', 'show', '2x3', '--declarations'],
     ['dictionary', 'entity', '4', 'IfcWall'], ['dictionary', 'entity', '4', 'IfcWal'],
     ['dictionary', 'diff', '4x2', '4'], ['dictionary', 'diff', '2x3', '4', '--as-mapping'],
-    ['map', 'version', '--from', '2x3', '--to', '4', 'IfcActionRequest', 'RequestID'],
+    VERSION_MAPPING,
     ['map', 'version', '--from', '2x3', '--to', '4', '--deprecated'],
-    ['map', 'custom', 'Pset_WallCommon', 'FireRating', '--scope', 'Wall_Import'],
-    ['map', 'plm', 'Wall', 'V_Fire'], ['options'], ['options', '--list-variables'], ['resources'],
+    CUSTOM_MAPPING, PLM_MAPPING, ['options'], ['options', '--list-variables'], ['resources'],
     ['resources', 'check'], ['resources', 'check', '--format', 'json'],
 ]
-# Commands that may go on when memory runs out: trees of JSON allocate when they are destroyed, which ends others, and
-# standard input is read once.
-GOING_ON = [words for words in MODEL_COMMANDS + OTHER_COMMANDS
-            if 'json' not in words and words[0] not in ('map', 'dictionary', 'options') and words[1:] != ['from-plm']
-            or '--deprecated' in words or 'custom' in words]
+# What is not answered with status 0 when nothing fails.
+STATUSES = {'rapport': 2, 'report': 2, 'report missing.ifc': 3, 'dictionary entity 4 IfcWal': 1,
+            'classify model.ifc': 1, 'classify model.ifc --format csv': 1}
+# Commands that make trees of JSON. Those allocate when they are destroyed, which ends a process that goes on without
+# memory.
+JSON_TREES = [words for words in MODEL_COMMANDS + OTHER_COMMANDS
+              if 'json' in words or words[0] in ('map', 'dictionary', 'options')
+              or words[0] == 'guid' and words[1] != 'check']
 # Which commands read a kind of input.
 INPUTS = {
     'model.ifc': MODEL_COMMANDS[::2],
     'velkor.json': [['options']],
-    'standard/ifc/VersionMapping.xml': [OTHER_COMMANDS[15]],
-    'standard/ifcCustomMapping/CustomMapping.xml': [['map', 'custom', 'Pset_WallCommon', 'FireRating', '--scope', 'Wall_Import']],
-    'standard/IfcPLMAttributesMapping/PLMAttributes.xml': [['map', 'plm', 'Wall', 'V_Fire']],
+    'standard/ifc/VersionMapping.xml': [VERSION_MAPPING],
+    'standard/ifcCustomMapping/CustomMapping.xml': [CUSTOM_MAPPING],
+    'standard/IfcPLMAttributesMapping/PLMAttributes.xml': [PLM_MAPPING],
     'standard/xcad/AECCorrespondences.xml': [['classify', 'model.ifc']],
     'standard/IFCAttributes/IFCAttributes.xml': [],
     SETS + '/Pset_WallCommon.xml': [['validate', 'model.ifc']],
@@ -100,8 +106,8 @@ class Server:
         self.err = tempfile.TemporaryFile()
         orders, self.orders = os.pipe()
         self.answers, answers = os.pipe()
-        environment = {'PATH': '/usr/bin:/bin', 'LANG': 'C.UTF-8', 'VELKOR_CONFIG': 'velkor.json', 'LD_PRELOAD': tools.shim,
-                       'VELKOR_FAULTS': f'{orders}:{answers}'}
+        environment = {'PATH': '/usr/bin:/bin', 'LANG': 'C.UTF-8', 'VELKOR_CONFIG': 'velkor.json',
+                       'LD_PRELOAD': tools.shim, 'VELKOR_FAULTS': f'{orders}:{answers}'}
         with open(os.path.join(self.folder, 'words.txt'), 'rb') as words_file:
             self.process = subprocess.Popen([tools.program, *words], cwd=self.folder, stdin=words_file, stdout=self.out,
                                             stderr=self.err, env=environment, pass_fds=(orders, answers))
@@ -141,6 +147,9 @@ class Outcome:
 
     def same(self, other):
         return (self.signal, self.status, self.out, self.err) == (other.signal, other.status, other.out, other.err)
+
+    def exhausted(self):
+        return self.signal == 0 and self.status == 3 and self.err.endswith(b'velkor: out of memory\n')
 
     def ended(self):
         return self.signal == 0 and self.status <= 3
@@ -192,18 +201,33 @@ class Findings:
 def failing_allocations(tools, words):
     findings, server = Findings(), Server(tools, words)
     right = server.run()
-    findings.judge(right.ended(), words, 'undisturbed', right)
+    findings.judge(right.signal == 0 and right.status == STATUSES.get(' '.join(words), 0), words, 'undisturbed', right)
     for which in ('once', 'on'):
         for number in sample(right.allocations, 60, tools):
             outcome = server.run(number, which)
-            exhausted = outcome.status == 3 and outcome.err.endswith(b'velkor: out of memory\n')
-            findings.judge(outcome.signal == 0 and (exhausted or outcome.same(right)), words,
+            findings.judge(outcome.exhausted() or outcome.same(right), words,
                            f'allocation {number} fails {which}', outcome)
-    # What a failure leaves behind in a process that goes on.
-    for number in sample(right.allocations, 60, tools) if words in GOING_ON else []:
+    # What a failure leaves behind in a process that goes on. The first few are those of the standard streams, which
+    # cannot be used afterwards.
+    for number in sample(right.allocations, 60, tools):
+        if number <= 3:
+            continue
         outcome = server.run(number, mode='again')
-        findings.judge(outcome.same(right), words, f'after allocation {number} failed', outcome)
+        ended = words in JSON_TREES and outcome.signal == signal.SIGABRT
+        findings.judge(ended or outcome.same(right), words, f'after allocation {number} failed', outcome)
     server.close()
+    return findings
+
+
+def failing_load(tools, words):
+    """Allocations of the start, before main() begins, in processes of their own."""
+    findings = Findings()
+    for number in sample(120, 12, tools):
+        environment = {'PATH': '/usr/bin:/bin', 'LD_PRELOAD': tools.shim, 'VELKOR_FAULTS_AT': str(number)}
+        done = subprocess.run([tools.program, *words], env=environment, capture_output=True)
+        status = -done.returncode if done.returncode < 0 else done.returncode << 8
+        outcome = Outcome(status, done.stdout, done.stderr, 0, 0)
+        findings.judge(outcome.exhausted(), words, f'allocation {number} of the process fails on', outcome)
     return findings
 
 
@@ -249,6 +273,7 @@ def truncated_mapping(tools, words):
 
 
 def jobs(tools):
+    yield failing_load, (['--version'],)
     for words in MODEL_COMMANDS:
         yield truncated_mapping, (words,)
     for words in MODEL_COMMANDS + OTHER_COMMANDS:
