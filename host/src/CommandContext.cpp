@@ -98,7 +98,7 @@ int runCommand(std::vector<std::string> words, CommandContext& context) {
     app.failure_message(failureMessage);
     app.footer("Example:\n  velkor report house.ifc\n\n"
                "Exit status: 0 done, 1 the answer is \"no\" or findings exist, 2 bad usage,\n"
-               "3 input could not be read.");
+               "3 input could not be read, or memory ran out.");
     addCommands(app, context);
     context.words = words;
     try {
