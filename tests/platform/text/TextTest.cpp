@@ -139,7 +139,7 @@ TEST(QORToken, passesOverEmptyPieces) {
                                                      {"abc", "", {"abc"}}}) {
         Pieces pieces;
         QORToken token{QORUnicodeString(text)};
-        const auto next = [&] { return token.GetNextToken(separators); };
+        const auto next = [&token, pieceEnds = separators] { return token.GetNextToken(pieceEnds); };
         for (auto piece = next(); !piece.IsEmpty(); piece = next()) pieces.emplace_back(piece.utf8());
         EXPECT_EQ(pieces, expected) << text;
     }
