@@ -56,12 +56,6 @@ std::string useText(const ResourceSearch& search, const Entry& entry) {
     return search.used.empty() ? "not used" : notUsedBecause(search);
 }
 
-const char* inWords(PathState state) {
-    constexpr const char* words[] = {
-        "", "does not exist", "is a folder", "is no folder", "is no regular file", "may not be read"};
-    return words[static_cast<std::size_t>(state)];
-}
-
 std::string withState(const std::string& path, PathState state) {
     return path + (state == PathState::Readable ? "" : std::string(": ") + inWords(state));
 }

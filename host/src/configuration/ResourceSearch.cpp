@@ -26,12 +26,6 @@ std::string inQuotes(const std::string& text) {
     return '"' + text + '"';
 }
 
-const char* inWords(PathState state) {
-    constexpr const char* words[] = {"is readable",  "does not exist",     "is a folder",
-                                     "is no folder", "is no regular file", "may not be read"};
-    return words[static_cast<std::size_t>(state)];
-}
-
 bool isReadable(const std::string& path) {
     return access(path.c_str(), R_OK) == 0;
 }
@@ -244,6 +238,12 @@ void remark(ResourceSearch& search) {
 }
 
 } // namespace
+
+const char* inWords(PathState state) {
+    constexpr const char* words[] = {"is readable",  "does not exist",     "is a folder",
+                                     "is no folder", "is no regular file", "may not be read"};
+    return words[static_cast<std::size_t>(state)];
+}
 
 const char* name(PathState state) {
     constexpr const char* names[] = {"readable",           "missing",  "is_folder", "is_no_folder",

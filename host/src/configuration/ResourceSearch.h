@@ -16,6 +16,9 @@ namespace velkor::host {
 
 enum class PathState { Readable, Missing, IsFolder, IsNoFolder, IsNoRegularFile, Forbidden };
 
+/// As it goes on behind a path: "does not exist".
+const char* inWords(PathState state);
+
 /// "readable", "missing", "is_folder", "is_no_folder", "is_no_regular_file", "forbidden".
 const char* name(PathState state);
 
