@@ -139,8 +139,6 @@ TEST_F(MapCommandTest, RefusesWhatItCannotAnswer) {
     folder.add("site/ifcCustomMapping", {"a.xml"}, "<broken");
     expect({"version", "--from", "2x3", "--to", "4", "--introduced"}, Unreadable, "a.xml: cannot be read");
     expect({"custom", "IfcWall", "--scope", "Wall_Import"}, Unreadable, "a.xml: cannot be read");
-    folder.add("site/IfcPLMAttributesMapping", {"a.xml"}, "<broken");
-    expect({"plm", "Wall", "V_FireRating"}, Unreadable, "a.xml:1:");
 }
 
 TEST_F(MapCommandTest, EveryShippedCustomMappingAnswersForItsTypes) {

@@ -1,3 +1,5 @@
+#include "TemporaryFolder.h"
+
 #include <array>
 #include <cstdio>
 #include <gmock/gmock.h>
@@ -73,6 +75,13 @@ TEST(Program, WhatCannotBeReadIsStatus3) {
         EXPECT_THAT(shell("velkor report " + path + " 2>&1"),
                     testing::Field(&Outcome::text, MatchesRegex("velkor: [^\n]*" + path + "[^\n]*\n")));
     }
+    // Here, since a process reads its PLM attributes once.
+    const velkor::test::TemporaryFolder folder;
+    folder.file("site/IfcPLMAttributesMapping/a.xml", "<broken");
+    const std::string site = folder.file("site.json", R"({"collection_standard": ["site"]})");
+    const Outcome plm = shell("velkor map plm Wall V_FireRating --config '" + site + "' 2>&1");
+    EXPECT_EQ(plm.status, 3);
+    EXPECT_THAT(plm.text, HasSubstr("a.xml:1:"));
 }
 
 TEST(Program, ResultsThatCannotBeWrittenAreNoSuccess) {
