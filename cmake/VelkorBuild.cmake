@@ -15,6 +15,9 @@ set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 add_compile_options(-Wall -Wextra -Wpedantic -Werror -fno-semantic-interposition -fvisibility-inlines-hidden)
 # Assertion reports name source units by their path in the project.
 add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
+# A compiler cache may hand over paths as seen from the build tree.
+file(RELATIVE_PATH _source ${CMAKE_BINARY_DIR} ${CMAKE_SOURCE_DIR})
+add_compile_options(-fmacro-prefix-map=${_source}=)
 add_link_options(-Wl,--as-needed -Wl,-O1)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # A unique symbol would keep the library in the process after dlclose.
