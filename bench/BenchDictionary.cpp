@@ -1,7 +1,7 @@
 // The largest dictionary: its first use, and the look-ups that decoding a model consists of.
 
 #include "CpuTime.h"
-#include "sdai/DXSdaiDictionaryRepo.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include <benchmark/benchmark.h>
 #include <dlfcn.h>

@@ -1,15 +1,15 @@
 // The mapping components: an answer once they have read their documents, the first answer with documents of
 // 10 MB beside parsing these alone, and the classification of a large model.
 
-#include "files/QORISetupDataFinder.h"
-#include "knowledge/KnowledgeObjects.h"
-#include "knowledge/QORIExchangeAECServices.h"
-#include "knowledge/QORIExchangeIFCCustomMappingServices.h"
-#include "knowledge/QORIExchangeIFCMappingServices.h"
-#include "knowledge/QORIExchangeIFCPLMAttributesMappingServices.h"
-#include "objectmodeler/ClassDictionary.h"
 #include "QORIFCDXXMLServices.h"
-#include "xml/QORIDOMDocument.h"
+#include "velkor/exchangeservices/QORIExchangeAECServices.h"
+#include "velkor/exchangeservices/QORIExchangeIFCCustomMappingServices.h"
+#include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
+#include "velkor/exchangeservices/QORIExchangeIFCPLMAttributesMappingServices.h"
+#include "velkor/files/QORISetupDataFinder.h"
+#include "velkor/knowledge/KnowledgeObjects.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
+#include "velkor/xml/QORIDOMDocument.h"
 
 #include <benchmark/benchmark.h>
 #include <filesystem>

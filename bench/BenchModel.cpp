@@ -4,7 +4,7 @@
 #include "CpuTime.h"
 #include "LargeStructure.h"
 #include "QORIFCUnitServices.h"
-#include "sdai/Model.h"
+#include "velkor/sdai/Model.h"
 
 #include <benchmark/benchmark.h>
 

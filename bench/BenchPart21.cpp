@@ -4,7 +4,7 @@
 #include "CpuTime.h"
 #include "LargeStructure.h"
 #include "part21/BlockClassifier.h"
-#include "sdai/Part21File.h"
+#include "velkor/sdai/Part21File.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
 // Definitions of property sets, as many and as large as those of the standard: reading all of them, and asking
 // whether a class or a property belongs to a set, with few and with all of them read.
 
-#include "files/QORSysRTVWalker.h"
 #include "QORIFCPSetQtoValidationService.h"
-#include "sdai/Model.h"
+#include "velkor/files/QORSysRTVWalker.h"
+#include "velkor/sdai/Model.h"
 
 #include <benchmark/benchmark.h>
 #include <dlfcn.h>

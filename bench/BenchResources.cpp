@@ -2,7 +2,7 @@
 // with the same names, so that the first folder hides all others. The time has to grow with the number of folders.
 
 #include "QORIFCDXFileServices.h"
-#include "settings/QORDXEnvironmentVariable.h"
+#include "velkor/settings/QORDXEnvironmentVariable.h"
 
 #include <benchmark/benchmark.h>
 #include <filesystem>

@@ -3,8 +3,8 @@
 
 #include "configuration/PlatformSetup.h"
 #include "guid/GuidCheck.h"
-#include "sdai/Model.h"
 #include "validation/PropertySetCheck.h"
+#include "velkor/sdai/Model.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>

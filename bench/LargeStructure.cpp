@@ -1,8 +1,8 @@
 #include "LargeStructure.h"
 
-#include "sdai/Part21File.h"
-#include "sdai/Part21Lexer.h"
-#include "settings/QORDXEnvironmentVariable.h"
+#include "velkor/sdai/Part21File.h"
+#include "velkor/sdai/Part21Lexer.h"
+#include "velkor/settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
 #include <fstream>

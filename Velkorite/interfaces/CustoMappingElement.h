@@ -3,7 +3,7 @@
 
 #include "VelkorExport.h"
 
-#include "text/QORUnicodeString.h"
+#include "velkor/text/QORUnicodeString.h"
 
 class VELKOR_API CustoMappingElement {
 public:

@@ -21,9 +21,9 @@
 
 #include "VelkorExport.h"
 
-#include "objectmodeler/ResultCode.h"
-#include "text/QORListValQORUnicodeString.h"
-#include "text/QORUnicodeString.h"
+#include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/text/QORListValQORUnicodeString.h"
+#include "velkor/text/QORUnicodeString.h"
 
 class IFCAttributeTables;
 

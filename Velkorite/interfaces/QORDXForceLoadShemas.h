@@ -4,7 +4,7 @@
 
 #include "VelkorExport.h"
 
-#include "objectmodeler/ResultCode.h"
+#include "velkor/objectmodeler/ResultCode.h"
 
 /// The host's knowledge dictionary; none of the entries touches it.
 class LoxDictionary;

@@ -5,7 +5,7 @@
 #include "CustoMappingElement.h"
 #include "VelkorExport.h"
 
-#include "containers/QORHashTable.h"
+#include "velkor/containers/QORHashTable.h"
 
 class VELKOR_API QORHashTabCustoMappingElement {
 public:

@@ -16,10 +16,10 @@
 
 #include "VelkorExport.h"
 
-#include "text/QORUnicodeString.h"
-#include "xml/QORIDOMDocument.h"
-#include "xml/QORIDOMElement.h"
-#include "xml/QORIDOMNodeList.h"
+#include "velkor/text/QORUnicodeString.h"
+#include "velkor/xml/QORIDOMDocument.h"
+#include "velkor/xml/QORIDOMElement.h"
+#include "velkor/xml/QORIDOMNodeList.h"
 
 class VELKOR_API QORIFCDXXMLServices {
 public:

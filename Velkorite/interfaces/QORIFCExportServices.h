@@ -9,7 +9,7 @@
 
 #include "VelkorExport.h"
 
-#include "text/QORUnicodeString.h"
+#include "velkor/text/QORUnicodeString.h"
 
 class VELKOR_API QORIFCExportServices {
 public:

@@ -3,8 +3,8 @@
 
 #include "VelkorExport.h"
 
-#include "objectmodeler/ResultCode.h"
-#include "text/QORListValQORUnicodeString.h"
+#include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/text/QORListValQORUnicodeString.h"
 
 class VELKOR_API QORIFCMapProperty {
 public:

@@ -11,9 +11,9 @@
 
 #include "VelkorExport.h"
 
-#include "objectmodeler/QORBaseUnknown.h"
-#include "text/QORString.h"
-#include "text/QORUnicodeString.h"
+#include "velkor/objectmodeler/QORBaseUnknown.h"
+#include "velkor/text/QORString.h"
+#include "velkor/text/QORUnicodeString.h"
 
 class QORExchangeErr;
 

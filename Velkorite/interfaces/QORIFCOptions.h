@@ -13,8 +13,8 @@
 
 #include "VelkorExport.h"
 
-#include "objectmodeler/ComponentMacros.h"
-#include "text/QORDXUnicodeString.h"
+#include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/text/QORDXUnicodeString.h"
 
 #include <cstdint>
 

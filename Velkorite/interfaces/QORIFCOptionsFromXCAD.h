@@ -18,8 +18,8 @@
 
 #include "VelkorExport.h"
 
-#include "objectmodeler/ComponentMacros.h"
-#include "text/QORListValQORUnicodeString.h"
+#include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/text/QORListValQORUnicodeString.h"
 
 class VELKOR_API QORIFCOptionsFromXCAD : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS

@@ -3,7 +3,7 @@
 
 #include "VelkorExport.h"
 
-#include "objectmodeler/ResultCode.h"
+#include "velkor/objectmodeler/ResultCode.h"
 
 class VELKOR_API QORIFCOptionsServices {
 public:

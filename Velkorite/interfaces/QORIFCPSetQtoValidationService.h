@@ -17,9 +17,9 @@
 
 #include "VelkorExport.h"
 
-#include "objectmodeler/ResultCode.h"
-#include "text/QORDXUnicodeString.h"
-#include "text/QORListValQORUnicodeString.h"
+#include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/text/QORDXUnicodeString.h"
+#include "velkor/text/QORListValQORUnicodeString.h"
 
 #include <memory>
 #include <unordered_map>

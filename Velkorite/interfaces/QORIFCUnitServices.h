@@ -15,9 +15,9 @@
 #include "Fileschema.h"
 #include "VelkorExport.h"
 
-#include "objectmodeler/ResultCode.h"
-#include "text/QORString.h"
-#include "text/QORUnicodeString.h"
+#include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/text/QORString.h"
+#include "velkor/text/QORUnicodeString.h"
 
 #include <array>
 

@@ -20,8 +20,8 @@
 
 #include "VelkorExport.h"
 
-#include "objectmodeler/ResultCode.h"
-#include "text/QORUnicodeString.h"
+#include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/text/QORUnicodeString.h"
 
 class DXSdaiAppInstance;
 class QORSysSimpleHashTable;

@@ -7,9 +7,9 @@
 
 #include "VelkorExport.h"
 
-#include "objectmodeler/ComponentMacros.h"
-#include "objectmodeler/QORBaseUnknown_var.h"
-#include "text/QORUnicodeString.h"
+#include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/text/QORUnicodeString.h"
 
 class DXSdaiAppInstance;
 

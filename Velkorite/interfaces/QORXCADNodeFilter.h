@@ -6,9 +6,9 @@
 
 #include "VelkorExport.h"
 
-#include "objectmodeler/ComponentMacros.h"
-#include "text/QORUnicodeString.h"
-#include "xml/QORIDOMNodeFilter.h"
+#include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/text/QORUnicodeString.h"
+#include "velkor/xml/QORIDOMNodeFilter.h"
 
 class VELKOR_API QORXCADNodeFilter : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS

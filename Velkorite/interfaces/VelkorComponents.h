@@ -9,7 +9,7 @@
 
 #include "VelkorExport.h"
 
-#include "objectmodeler/QORBaseUnknown.h"
+#include "velkor/objectmodeler/QORBaseUnknown.h"
 
 extern "C" {
 VELKOR_API IUnknown* CreateBOAQORIExchangeAECServicesQOREExchangeAECServices(QORBaseUnknown* object,

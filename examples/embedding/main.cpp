@@ -1,6 +1,6 @@
 // Tells how long one unit of length in an IFC model is.
 #include "QORIFCUnitServices.h"
-#include "sdai/Model.h"
+#include "velkor/sdai/Model.h"
 
 #include <cstdio>
 

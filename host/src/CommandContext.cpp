@@ -2,9 +2,9 @@
 
 #include "configuration/ConfigurationReader.h"
 #include "configuration/ConfigurationTable.h"
-#include "sdai/Model.h"
-#include "settings/QORDXEnvironmentVariable.h"
-#include "text/Printable.h"
+#include "velkor/sdai/Model.h"
+#include "velkor/settings/QORDXEnvironmentVariable.h"
+#include "velkor/text/Printable.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>

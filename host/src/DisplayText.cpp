@@ -1,7 +1,7 @@
 #include "DisplayText.h"
 
-#include "text/Printable.h"
-#include "text/Unicode.h"
+#include "velkor/text/Printable.h"
+#include "velkor/text/Unicode.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,6 +1,6 @@
 #include "InputText.h"
 
-#include "files/FileContents.h"
+#include "velkor/files/FileContents.h"
 
 #include <algorithm>
 #include <istream>

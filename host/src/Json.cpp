@@ -1,6 +1,6 @@
 #include "Json.h"
 
-#include "text/Unicode.h"
+#include "velkor/text/Unicode.h"
 
 #include <algorithm>
 #include <array>

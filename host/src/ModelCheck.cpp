@@ -1,8 +1,8 @@
 #include "ModelCheck.h"
 
 #include "Progress.h"
-#include "sdai/PopulationCheck.h"
-#include "sdai/SyntaxCheck.h"
+#include "velkor/sdai/PopulationCheck.h"
+#include "velkor/sdai/SyntaxCheck.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "CommandContext.h"
-#include "sdai/Model.h"
+#include "velkor/sdai/Model.h"
 
 #include <cstdint>
 #include <vector>

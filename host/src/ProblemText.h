@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Json.h"
-#include "sdai/Problem.h"
+#include "velkor/sdai/Problem.h"
 
 #include <string>
 

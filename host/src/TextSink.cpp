@@ -1,6 +1,6 @@
 #include "TextSink.h"
 
-#include "text/Printable.h"
+#include "velkor/text/Printable.h"
 
 #include <ostream>
 

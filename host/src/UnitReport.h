@@ -3,7 +3,7 @@
 
 #include "Json.h"
 #include "report/Page.h"
-#include "sdai/Model.h"
+#include "velkor/sdai/Model.h"
 
 #include <cstdint>
 #include <optional>

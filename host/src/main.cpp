@@ -1,7 +1,7 @@
 #include "CommandContext.h"
 #include "configuration/ConfigurationTable.h"
 #include "LastWords.h"
-#include "settings/QORDXEnvironmentVariable.h"
+#include "velkor/settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
 #include <csignal>

@@ -1,7 +1,7 @@
-#include "knowledge/QORIExchangeAECServices.h"
-#include "knowledge/QORIExchangeObject.h"
-#include "knowledge/QORIPLMNavOccurrence.h"
 #include "MappingFixture.h"
+#include "velkor/exchangeservices/QORIExchangeAECServices.h"
+#include "velkor/knowledge/QORIExchangeObject.h"
+#include "velkor/knowledge/QORIPLMNavOccurrence.h"
 
 namespace velkor::test {
 

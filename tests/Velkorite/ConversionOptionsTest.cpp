@@ -1,8 +1,8 @@
 #include "QORIFCOptionsFromXCAD.h"
 
-#include "exchangelog/MessageLog.h"
 #include "OptionsFixture.h"
 #include "PrivateOperation.h"
+#include "velkor/exchangelog/MessageLog.h"
 
 #include <gmock/gmock.h>
 

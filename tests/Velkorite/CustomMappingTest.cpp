@@ -1,11 +1,11 @@
-#include "knowledge/QORIExchangeIFCCustomMappingServices.h"
-#include "knowledge/QORIExchangeIFCMappingServices.h"
-#include "knowledge/TypeDictionary.h"
 #include "MappingFixture.h"
 #include "PrivateOperation.h"
 #include "QORHashTabCustoMappingElement.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCPSetQtoValidationService.h"
+#include "velkor/exchangeservices/QORIExchangeIFCCustomMappingServices.h"
+#include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
+#include "velkor/knowledge/TypeDictionary.h"
 
 namespace velkor::test {
 

@@ -1,4 +1,4 @@
-#include "sdai/DXSdaiDictionaryRepo.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include <algorithm>
 #include <array>

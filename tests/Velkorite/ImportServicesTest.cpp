@@ -1,7 +1,7 @@
 #include "QORIIFCImportServices.h"
 
-#include "objectmodeler/ClassDictionary.h"
-#include "objectmodeler/QOROMModule.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
+#include "velkor/objectmodeler/QOROMModule.h"
 
 #include <gmock/gmock.h>
 

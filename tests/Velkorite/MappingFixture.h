@@ -2,12 +2,12 @@
 #pragma once
 
 #include "Cases.h"
-#include "files/QORISetupDataFinder.h"
-#include "knowledge/KnowledgeObjects.h"
-#include "objectmodeler/Assertion.h"
-#include "objectmodeler/ClassDictionary.h"
 #include "TemporaryFolder.h"
 #include "Variables.h"
+#include "velkor/files/QORISetupDataFinder.h"
+#include "velkor/knowledge/KnowledgeObjects.h"
+#include "velkor/objectmodeler/Assertion.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
 
 #include <array>
 #include <dlfcn.h>

@@ -1,8 +1,8 @@
 #include "QORIFCMsgLoggingServices.h"
 
-#include "exchangelog/QORExchangeErr.h"
-#include "exchangelog/QORMsgCatalog.h"
-#include "objectmodeler/CallRecorder.h"
+#include "velkor/exchangelog/QORExchangeErr.h"
+#include "velkor/exchangelog/QORMsgCatalog.h"
+#include "velkor/objectmodeler/CallRecorder.h"
 
 #include <array>
 #include <gmock/gmock.h>

@@ -1,13 +1,13 @@
-#include "knowledge/KnowledgeObjects.h"
-#include "knowledge/QORIExchangeAECServices.h"
-#include "knowledge/QORIExchangeIFCCustomMappingServices.h"
-#include "knowledge/QORIExchangeIFCMappingServices.h"
-#include "knowledge/QORIExchangeIFCPLMAttributesMappingServices.h"
-#include "objectmodeler/CallRecorder.h"
-#include "objectmodeler/ClassDictionary.h"
-#include "sdai/QORDXSdaiSchemaRestore.h"
 #include "Variables.h"
-#include "xml/QORIDOMNodeFilter.h"
+#include "velkor/exchangeservices/QORIExchangeAECServices.h"
+#include "velkor/exchangeservices/QORIExchangeIFCCustomMappingServices.h"
+#include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
+#include "velkor/exchangeservices/QORIExchangeIFCPLMAttributesMappingServices.h"
+#include "velkor/knowledge/KnowledgeObjects.h"
+#include "velkor/objectmodeler/CallRecorder.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
+#include "velkor/sdai/QORDXSdaiSchemaRestore.h"
+#include "velkor/xml/QORIDOMNodeFilter.h"
 
 #include <algorithm>
 #include <array>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "QORIFCOptions.h"
-#include "settings/QORSettingRepository.h"
 #include "Variables.h"
+#include "velkor/settings/QORSettingRepository.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "knowledge/QORIExchangeIFCPLMAttributesMappingServices.h"
 #include "MappingFixture.h"
+#include "velkor/exchangeservices/QORIExchangeIFCPLMAttributesMappingServices.h"
 
 #include <optional>
 

@@ -1,10 +1,10 @@
 #include "QORIFCPSetQtoValidationService.h"
 
-#include "files/QORSysRTVWalker.h"
 #include "ModelText.h"
 #include "PrivateOperation.h"
-#include "sdai/Model.h"
 #include "TemporaryFolder.h"
+#include "velkor/files/QORSysRTVWalker.h"
+#include "velkor/sdai/Model.h"
 
 #include <gmock/gmock.h>
 

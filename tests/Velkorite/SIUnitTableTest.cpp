@@ -2,7 +2,7 @@
 
 #include "ModelText.h"
 #include "PrivateOperation.h"
-#include "sdai/Model.h"
+#include "velkor/sdai/Model.h"
 
 #include <gtest/gtest.h>
 #include <memory>

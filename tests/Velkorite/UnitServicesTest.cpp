@@ -1,8 +1,8 @@
 #include "QORIFCUnitServices.h"
 
 #include "ModelText.h"
-#include "objectmodeler/Assertion.h"
-#include "sdai/Model.h"
+#include "velkor/objectmodeler/Assertion.h"
+#include "velkor/sdai/Model.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
-#include "knowledge/QORIExchangeIFCMappingServices.h"
 #include "MappingFixture.h"
 #include "QORIFCOptionsFromXCAD.h"
+#include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
 
 namespace velkor::test {
 

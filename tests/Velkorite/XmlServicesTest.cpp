@@ -1,15 +1,15 @@
 #include "Cases.h"
-#include "exchangelog/MessageLog.h"
-#include "objectmodeler/Assertion.h"
 #include "QORIFCDXXMLServices.h"
 #include "QORXCADNodeFilter.h"
 #include "TemporaryFolder.h"
-#include "xml/QORIDOMDocumentTraversal.h"
-#include "xml/QORIDOMDocumentType.h"
-#include "xml/QORIDOMImplementation.h"
-#include "xml/QORIDOMNodeIterator.h"
-#include "xml/QORIXMLDOMDocumentBuilder.h"
-#include "xml/QORIXMLXPathFactory.h"
+#include "velkor/exchangelog/MessageLog.h"
+#include "velkor/objectmodeler/Assertion.h"
+#include "velkor/xml/QORIDOMDocumentTraversal.h"
+#include "velkor/xml/QORIDOMDocumentType.h"
+#include "velkor/xml/QORIDOMImplementation.h"
+#include "velkor/xml/QORIDOMNodeIterator.h"
+#include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
+#include "velkor/xml/QORIXMLXPathFactory.h"
 
 #include <dlfcn.h>
 #include <gmock/gmock.h>

@@ -3,7 +3,7 @@
 
 #include "DictionaryLists.h"
 #include "ExpressReader.h"
-#include "sdai/QORDXSdaiSchemaRestore.h"
+#include "velkor/sdai/QORDXSdaiSchemaRestore.h"
 
 #include <cstdint>
 #include <cstdio>

@@ -4,10 +4,10 @@
 // host can ask of a model is asked.
 
 #include "../platform/sdai/model/ModelSchema.h"
-#include "sdai/Part21Lexer.h"
-#include "sdai/PopulationCheck.h"
-#include "sdai/QORDXSdaiSchemaDecl.h"
-#include "text/Unicode.h"
+#include "velkor/sdai/Part21Lexer.h"
+#include "velkor/sdai/PopulationCheck.h"
+#include "velkor/sdai/QORDXSdaiSchemaDecl.h"
+#include "velkor/text/Unicode.h"
 
 #include <algorithm>
 #include <cstdint>

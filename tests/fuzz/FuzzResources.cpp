@@ -1,20 +1,20 @@
 // The input as a resource file: the first byte says of which service, the rest is the file. What a file says must
 // be answered, and what is not answered must leave the caller's texts alone.
 
-#include "files/QORISetupDataFinder.h"
-#include "files/QORSysRTVWalker.h"
 #include "FuzzSupport.h"
 #include "IFCAttributeList.h"
-#include "knowledge/KnowledgeObjects.h"
-#include "knowledge/QORIExchangeAECServices.h"
-#include "knowledge/QORIExchangeIFCCustomMappingServices.h"
-#include "knowledge/QORIExchangeIFCMappingServices.h"
-#include "objectmodeler/ClassDictionary.h"
 #include "PrivateOperation.h"
 #include "QORIFCDXXMLServices.h"
 #include "QORIFCPSetQtoValidationService.h"
-#include "settings/QORDXEnvironmentVariable.h"
-#include "text/QORToken.h"
+#include "velkor/exchangeservices/QORIExchangeAECServices.h"
+#include "velkor/exchangeservices/QORIExchangeIFCCustomMappingServices.h"
+#include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
+#include "velkor/files/QORISetupDataFinder.h"
+#include "velkor/files/QORSysRTVWalker.h"
+#include "velkor/knowledge/KnowledgeObjects.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
+#include "velkor/settings/QORDXEnvironmentVariable.h"
+#include "velkor/text/QORToken.h"
 
 #include <cstdint>
 #include <filesystem>

@@ -1,7 +1,7 @@
 // The restore on lists that the input writes line by line, an empty line between the two. What
 // is restored is then asked everything, so that a wrong reference inside it is found.
 
-#include "sdai/QORDXSdaiSchemaRestore.h"
+#include "velkor/sdai/QORDXSdaiSchemaRestore.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,10 +1,10 @@
 /// What several fuzz targets share.
 #pragma once
 
-#include "xml/QORIDOMDocument.h"
-#include "xml/QORIDOMElement.h"
-#include "xml/QORIDOMNodeList.h"
-#include "xml/QORIXMLDOMDocumentBuilder.h"
+#include "velkor/xml/QORIDOMDocument.h"
+#include "velkor/xml/QORIDOMElement.h"
+#include "velkor/xml/QORIDOMNodeList.h"
+#include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -2,11 +2,11 @@
 // what is changed, the second is an XPath expression, the rest is the document.
 
 #include "FuzzSupport.h"
-#include "xml/QORIDOMDocumentTraversal.h"
-#include "xml/QORIDOMDocumentType.h"
-#include "xml/QORIDOMNodeFilter.h"
-#include "xml/QORIDOMNodeIterator.h"
-#include "xml/QORIXMLXPathFactory.h"
+#include "velkor/xml/QORIDOMDocumentTraversal.h"
+#include "velkor/xml/QORIDOMDocumentType.h"
+#include "velkor/xml/QORIDOMNodeFilter.h"
+#include "velkor/xml/QORIDOMNodeIterator.h"
+#include "velkor/xml/QORIXMLXPathFactory.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,9 +1,9 @@
 #include "classification/Correspondences.h"
 #include "ConfigurationTestSupport.h"
 #include "DocumentTestSupport.h"
-#include "knowledge/QORIExchangeAECServices.h"
-#include "objectmodeler/ClassDictionary.h"
-#include "sdai/DXSdaiDictionaryRepo.h"
+#include "velkor/exchangeservices/QORIExchangeAECServices.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include <gmock/gmock.h>
 

@@ -2,13 +2,13 @@
 #include "configuration/JsonTree.h"
 #include "configuration/PlatformSetup.h"
 #include "ConfigurationTestSupport.h"
-#include "exchangelog/QORExchangeErr.h"
-#include "files/QORISetupDataFinder.h"
-#include "files/QORSysRTVWalker.h"
 #include "QORIFCMsgLoggingServices.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCOptionsServices.h"
-#include "settings/QORSettingRepository.h"
+#include "velkor/exchangelog/QORExchangeErr.h"
+#include "velkor/files/QORISetupDataFinder.h"
+#include "velkor/files/QORSysRTVWalker.h"
+#include "velkor/settings/QORSettingRepository.h"
 
 #include <gmock/gmock.h>
 #include <iterator>

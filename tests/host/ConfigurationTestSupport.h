@@ -3,9 +3,9 @@
 
 #include "configuration/ConfigurationTable.h"
 #include "ResourceKinds.h"
-#include "settings/QORDXEnvironmentVariable.h"
 #include "TemporaryFolder.h"
 #include "TestSupport.h"
+#include "velkor/settings/QORDXEnvironmentVariable.h"
 
 #include <map>
 #include <nlohmann/json.hpp>

@@ -1,6 +1,6 @@
 #include "ConfigurationTestSupport.h"
 #include "DocumentTestSupport.h"
-#include "knowledge/QORITypeDictionary.h"
+#include "velkor/knowledge/QORITypeDictionary.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 #include "ConfigurationTestSupport.h"
 
-#include "text/QORUnicodeString.h"
+#include "velkor/text/QORUnicodeString.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>

@@ -1,7 +1,7 @@
 #include "ConfigurationTestSupport.h"
 
-#include "objectmodeler/ResultCode.h"
 #include "ResourceKinds.h"
+#include "velkor/objectmodeler/ResultCode.h"
 
 #include <gmock/gmock.h>
 

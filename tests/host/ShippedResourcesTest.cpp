@@ -2,8 +2,8 @@
 #include "ConfigurationTestSupport.h"
 #include "DocumentTestSupport.h"
 #include "ResourceKinds.h"
-#include "sdai/DXSdaiDictionaryRepo.h"
 #include "validation/SetDefinitions.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include <gmock/gmock.h>
 #include <set>

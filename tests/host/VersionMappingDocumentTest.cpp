@@ -1,6 +1,6 @@
 #include "dictionary/ReleaseRenames.h"
-#include "sdai/DXSdaiDictionaryRepo.h"
 #include "TestSupport.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include <gmock/gmock.h>
 #include <iterator>

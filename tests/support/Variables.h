@@ -1,7 +1,7 @@
 /// Environment variables of a test: not there before it, and gone afterwards.
 #pragma once
 
-#include "settings/QORDXEnvironmentVariable.h"
+#include "velkor/settings/QORDXEnvironmentVariable.h"
 
 #include <vector>
 

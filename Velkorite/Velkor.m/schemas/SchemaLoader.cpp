@@ -1,6 +1,6 @@
 #include "SchemaLoader.h"
 
-#include "sdai/QORDXSdaiSchemaRestore.h"
+#include "velkor/sdai/QORDXSdaiSchemaRestore.h"
 
 #include <memory>
 

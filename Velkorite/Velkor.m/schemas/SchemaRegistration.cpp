@@ -3,8 +3,8 @@
 
 #include "QORDXForceLoadShemas.h"
 #include "SchemaLoader.h"
-#include "sdai/DXSdaiDictionaryRepo.h"
-#include "sdai/QORDXSdaiSchemaDecl.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
+#include "velkor/sdai/QORDXSdaiSchemaDecl.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "classification/Classification.h"
 
 #include "classification/ProductProperties.h"
-#include "knowledge/QORIExchangeAECServices.h"
-#include "objectmodeler/ClassDictionary.h"
 #include "Progress.h"
+#include "velkor/exchangeservices/QORIExchangeAECServices.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
 
 #include <map>
 #include <tuple>

@@ -3,7 +3,7 @@
 
 #include "classification/Correspondences.h"
 #include "CommandContext.h"
-#include "sdai/Model.h"
+#include "velkor/sdai/Model.h"
 
 #include <cstdint>
 #include <string>

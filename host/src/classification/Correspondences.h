@@ -6,7 +6,7 @@
 ///     const Correspondences::Entry* entry = document->deciding("IFCWALL", {{"IsExternal", "TRUE"}});
 #pragma once
 
-#include "knowledge/KnowledgeObjects.h"
+#include "velkor/knowledge/KnowledgeObjects.h"
 
 #include <optional>
 #include <set>

@@ -1,8 +1,8 @@
 /// What the products of a model say about themselves in words: how a host presents them to the services.
 #pragma once
 
-#include "knowledge/KnowledgeObjects.h"
-#include "sdai/Model.h"
+#include "velkor/knowledge/KnowledgeObjects.h"
+#include "velkor/sdai/Model.h"
 
 #include <cstdint>
 #include <set>

@@ -7,10 +7,10 @@
 #include "Csv.h"
 #include "DisplayText.h"
 #include "Json.h"
-#include "knowledge/QORIExchangeAECServices.h"
 #include "LimitOption.h"
-#include "objectmodeler/ClassDictionary.h"
 #include "TextTable.h"
+#include "velkor/exchangeservices/QORIExchangeAECServices.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>

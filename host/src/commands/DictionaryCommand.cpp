@@ -6,8 +6,8 @@
 #include "DisplayText.h"
 #include "Json.h"
 #include "NearestNames.h"
-#include "sdai/DXSdaiDictionaryRepo.h"
 #include "TextTable.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include <array>
 #include <CLI/CLI.hpp>

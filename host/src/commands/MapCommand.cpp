@@ -6,12 +6,12 @@
 #include "configuration/ResourceSearch.h"
 #include "DisplayText.h"
 #include "Json.h"
-#include "knowledge/QORIExchangeIFCCustomMappingServices.h"
-#include "knowledge/QORIExchangeIFCMappingServices.h"
-#include "knowledge/QORIExchangeIFCPLMAttributesMappingServices.h"
-#include "objectmodeler/ClassDictionary.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "TextTable.h"
+#include "velkor/exchangeservices/QORIExchangeIFCCustomMappingServices.h"
+#include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
+#include "velkor/exchangeservices/QORIExchangeIFCPLMAttributesMappingServices.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>

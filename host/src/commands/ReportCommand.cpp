@@ -5,7 +5,7 @@
 #include "guid/GuidCheck.h"
 #include "ModelCheck.h"
 #include "report/Report.h"
-#include "sdai/Model.h"
+#include "velkor/sdai/Model.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>

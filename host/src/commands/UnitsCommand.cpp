@@ -3,9 +3,9 @@
 #include "CommandContext.h"
 #include "DisplayText.h"
 #include "Json.h"
-#include "sdai/Model.h"
 #include "TextTable.h"
 #include "UnitReport.h"
+#include "velkor/sdai/Model.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>

@@ -2,9 +2,9 @@
 
 #include "configuration/ConfigurationTable.h"
 #include "configuration/JsonTree.h"
-#include "files/Paths.h"
 #include "InputText.h"
 #include "NearestNames.h"
+#include "velkor/files/Paths.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -3,7 +3,7 @@
 #include "configuration/ConfigurationTable.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCOptionsServices.h"
-#include "settings/QORDXEnvironmentVariable.h"
+#include "velkor/settings/QORDXEnvironmentVariable.h"
 
 #include <iterator>
 #include <optional>

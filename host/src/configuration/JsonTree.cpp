@@ -1,6 +1,6 @@
 #include "configuration/JsonTree.h"
 
-#include "text/Unicode.h"
+#include "velkor/text/Unicode.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,13 +1,13 @@
 #include "configuration/PlatformSetup.h"
 
 #include "configuration/ConfigurationTable.h"
-#include "files/QORSysRTVWalker.h"
-#include "knowledge/TypeDictionary.h"
 #include "QORIFCMsgLoggingServices.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCOptionsServices.h"
 #include "QORIFCPSetQtoValidationService.h"
-#include "settings/QORDXEnvironmentVariable.h"
+#include "velkor/files/QORSysRTVWalker.h"
+#include "velkor/knowledge/TypeDictionary.h"
+#include "velkor/settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
 #include <new>

@@ -8,10 +8,10 @@
 #pragma once
 
 #include "configuration/Configuration.h"
-#include "exchangelog/MessageLog.h"
-#include "files/QORISetupDataFinder.h"
-#include "settings/QORSettingRepository.h"
 #include "TextSink.h"
+#include "velkor/exchangelog/MessageLog.h"
+#include "velkor/files/QORISetupDataFinder.h"
+#include "velkor/settings/QORSettingRepository.h"
 
 #include <optional>
 #include <string>

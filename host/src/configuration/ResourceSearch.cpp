@@ -1,12 +1,12 @@
 #include "configuration/ResourceSearch.h"
 
 #include "configuration/ConfigurationTable.h"
-#include "files/Paths.h"
-#include "files/QORDirectory.h"
-#include "files/QORISetupDataFinder.h"
-#include "files/QORSysRTVWalker.h"
 #include "QORIFCDXDataSetupServices.h"
-#include "text/QORToken.h"
+#include "velkor/files/Paths.h"
+#include "velkor/files/QORDirectory.h"
+#include "velkor/files/QORISetupDataFinder.h"
+#include "velkor/files/QORSysRTVWalker.h"
+#include "velkor/text/QORToken.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -5,8 +5,8 @@
 #pragma once
 
 #include "configuration/PlatformSetup.h"
-#include "objectmodeler/ResultCode.h"
 #include "ResourceKinds.h"
+#include "velkor/objectmodeler/ResultCode.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 /// What changed from one schema to another.
 #pragma once
 
-#include "sdai/Dictionary.h"
+#include "velkor/sdai/Dictionary.h"
 
 #include <string>
 #include <string_view>

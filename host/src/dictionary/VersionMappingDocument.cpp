@@ -2,7 +2,7 @@
 
 #include "dictionary/ReleaseRenames.h"
 #include "QORIFCDXXMLServices.h"
-#include "xml/QORIXMLDOMDocumentBuilder.h"
+#include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
 
 #include <algorithm>
 #include <array>

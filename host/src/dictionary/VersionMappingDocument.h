@@ -1,7 +1,7 @@
 /// The document that the version mapping reads, made from two dictionaries or more.
 #pragma once
 
-#include "sdai/Dictionary.h"
+#include "velkor/sdai/Dictionary.h"
 
 #include <string>
 #include <string_view>

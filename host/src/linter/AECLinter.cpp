@@ -1,6 +1,6 @@
 #include "linter/AECLinter.h"
 
-#include "text/QORUnicodeString.h"
+#include "velkor/text/QORUnicodeString.h"
 
 #include <algorithm>
 #include <map>

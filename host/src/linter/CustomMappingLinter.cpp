@@ -1,6 +1,6 @@
 #include "linter/CustomMappingLinter.h"
 
-#include "text/QORToken.h"
+#include "velkor/text/QORToken.h"
 
 namespace velkor::host::lint {
 

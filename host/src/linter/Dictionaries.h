@@ -1,7 +1,7 @@
 /// What the dictionaries of the IFC releases know of a name. Dictionaries are restored as they are needed.
 #pragma once
 
-#include "sdai/DXSdaiDictionaryRepo.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include <map>
 #include <string>

@@ -1,7 +1,7 @@
 /// One thing found wrong in a resource file.
 #pragma once
 
-#include "sdai/Problem.h"
+#include "velkor/sdai/Problem.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "linter/Linter.h"
 
 #include "NearestNames.h"
-#include "text/QORUnicodeString.h"
+#include "velkor/text/QORUnicodeString.h"
 
 #include <algorithm>
 #include <utility>

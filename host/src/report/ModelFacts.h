@@ -1,7 +1,7 @@
 /// What a model's header and index tell without decoding its instances, the project apart.
 #pragma once
 
-#include "sdai/Model.h"
+#include "velkor/sdai/Model.h"
 
 #include <cstdint>
 #include <optional>

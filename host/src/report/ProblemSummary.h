@@ -1,7 +1,7 @@
 /// Problems counted by kind.
 #pragma once
 
-#include "sdai/Problem.h"
+#include "velkor/sdai/Problem.h"
 
 #include <cstdint>
 #include <span>

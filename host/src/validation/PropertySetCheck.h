@@ -3,8 +3,8 @@
 
 #include "CommandContext.h"
 #include "Json.h"
-#include "sdai/Model.h"
-#include "sdai/Problem.h"
+#include "velkor/sdai/Model.h"
+#include "velkor/sdai/Problem.h"
 
 #include <cstdint>
 #include <map>

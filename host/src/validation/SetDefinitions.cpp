@@ -1,14 +1,14 @@
 #include "validation/SetDefinitions.h"
 
-#include "files/Paths.h"
-#include "files/QORSysRTVWalker.h"
 #include "NearestNames.h"
 #include "QORIFCDXXMLServices.h"
 #include "QORIFCPSetQtoValidationService.h"
 #include "ResourceKinds.h"
-#include "sdai/DXSdaiAppInstance.h"
-#include "sdai/Model.h"
-#include "text/QORToken.h"
+#include "velkor/files/Paths.h"
+#include "velkor/files/QORSysRTVWalker.h"
+#include "velkor/sdai/DXSdaiAppInstance.h"
+#include "velkor/sdai/Model.h"
+#include "velkor/text/QORToken.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 /// beside that to tell a person what was probably meant. What was asked once is remembered.
 #pragma once
 
-#include "sdai/Dictionary.h"
-#include "text/QORUnicodeString.h"
+#include "velkor/sdai/Dictionary.h"
+#include "velkor/text/QORUnicodeString.h"
 
 #include <cstdint>
 #include <optional>

@@ -2,7 +2,7 @@
 /// by it, and the types that hold it.
 #pragma once
 
-#include "sdai/Model.h"
+#include "velkor/sdai/Model.h"
 
 #include <cstdint>
 #include <functional>

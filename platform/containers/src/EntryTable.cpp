@@ -1,4 +1,4 @@
-#include "containers/EntryTable.h"
+#include "velkor/containers/EntryTable.h"
 
 #include <algorithm>
 #include <bit>

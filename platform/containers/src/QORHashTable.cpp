@@ -1,4 +1,4 @@
-#include "containers/QORHashTable.h"
+#include "velkor/containers/QORHashTable.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "containers/QORSysSimpleHashTable.h"
+#include "velkor/containers/QORSysSimpleHashTable.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "exchangelog/MessageLog.h"
+#include "velkor/exchangelog/MessageLog.h"
 
 namespace velkor::exchangelog {
 

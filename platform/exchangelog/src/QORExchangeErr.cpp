@@ -1,6 +1,6 @@
-#include "exchangelog/QORExchangeErr.h"
+#include "velkor/exchangelog/QORExchangeErr.h"
 
-#include "objectmodeler/CallRecorder.h"
+#include "velkor/objectmodeler/CallRecorder.h"
 
 #include <atomic>
 

@@ -1,4 +1,4 @@
-#include "exchangelog/QORMsgCatalog.h"
+#include "velkor/exchangelog/QORMsgCatalog.h"
 
 #include <charconv>
 #include <map>

@@ -1,7 +1,7 @@
-#include "files/FileContents.h"
+#include "velkor/files/FileContents.h"
 
-#include "files/InputFile.h"
-#include "files/Paths.h"
+#include "velkor/files/InputFile.h"
+#include "velkor/files/Paths.h"
 
 #include <algorithm>
 #include <cerrno>

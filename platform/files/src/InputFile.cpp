@@ -1,4 +1,4 @@
-#include "files/InputFile.h"
+#include "velkor/files/InputFile.h"
 
 #include <cerrno>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "files/Paths.h"
+#include "velkor/files/Paths.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "files/QORDirectory.h"
+#include "velkor/files/QORDirectory.h"
 
-#include "files/Paths.h"
-#include "objectmodeler/OutOfMemory.h"
+#include "velkor/files/Paths.h"
+#include "velkor/objectmodeler/OutOfMemory.h"
 
 #include <algorithm>
 #include <cerrno>

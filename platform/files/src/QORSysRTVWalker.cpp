@@ -1,6 +1,6 @@
-#include "files/QORSysRTVWalker.h"
+#include "velkor/files/QORSysRTVWalker.h"
 
-#include "files/QORDirectory.h"
+#include "velkor/files/QORDirectory.h"
 
 #include <unordered_set>
 

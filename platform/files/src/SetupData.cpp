@@ -1,4 +1,4 @@
-#include "files/QORISetupDataFinder.h"
+#include "velkor/files/QORISetupDataFinder.h"
 
 #include "SetupDataItem.h"
 

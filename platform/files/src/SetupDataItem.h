@@ -1,7 +1,7 @@
 /// A resource of the setup data whose path is known.
 #pragma once
 
-#include "files/QORISetupDataFinder.h"
+#include "velkor/files/QORISetupDataFinder.h"
 
 namespace velkor::files {
 

@@ -1,15 +1,11 @@
 // The metaclasses of the interfaces.
 
-#include "knowledge/QORIExchangeAECServices.h"
-#include "knowledge/QORIExchangeIFCCustomMappingServices.h"
-#include "knowledge/QORIExchangeIFCMappingServices.h"
-#include "knowledge/QORIExchangeIFCPLMAttributesMappingServices.h"
-#include "knowledge/QORIExchangeObject.h"
-#include "knowledge/QORIInstance.h"
-#include "knowledge/QORIPLMNavOccurrence.h"
-#include "knowledge/QORIType.h"
-#include "knowledge/QORITypeDictionary.h"
-#include "knowledge/QORIVleObject.h"
+#include "velkor/knowledge/QORIExchangeObject.h"
+#include "velkor/knowledge/QORIInstance.h"
+#include "velkor/knowledge/QORIPLMNavOccurrence.h"
+#include "velkor/knowledge/QORIType.h"
+#include "velkor/knowledge/QORITypeDictionary.h"
+#include "velkor/knowledge/QORIVleObject.h"
 
 namespace {
 
@@ -23,10 +19,6 @@ constexpr IID occurrenceId = {0xDDD9B6FD, 0x7387, 0x4FB7, {0x89, 0x13, 0x3A, 0xF
 constexpr IID vleObjectId = {0xEB374DDE, 0xBC3B, 0x4581, {0x8F, 0x34, 0x2F, 0xF8, 0x20, 0x32, 0x07, 0x4C}};
 constexpr IID exchangeObjectId = {0x98901D8B, 0x6CCF, 0x4A78, {0xA3, 0x65, 0x40, 0x13, 0x40, 0x91, 0xD3, 0xA6}};
 constexpr IID userPropertiesId = {0xCD3F3408, 0x2441, 0x4AF5, {0x8C, 0x86, 0x99, 0x10, 0xDD, 0x11, 0x1F, 0x78}};
-constexpr IID versionMappingId = {0x06BFC97F, 0x95FD, 0x4E48, {0xB3, 0xED, 0x57, 0xDF, 0x3D, 0x14, 0x29, 0xAB}};
-constexpr IID customMappingId = {0xBA82B8A1, 0x821E, 0x48D7, {0xB6, 0xAC, 0xE2, 0x9F, 0x79, 0xFF, 0x36, 0x71}};
-constexpr IID plmAttributesId = {0x3E3D2C85, 0x9161, 0x4335, {0x9D, 0x1F, 0x4F, 0xD5, 0xE2, 0x8E, 0xD1, 0x51}};
-constexpr IID aecId = {0x4C53F4C9, 0x86C6, 0x41FF, {0xBE, 0xE3, 0x9E, 0x08, 0x84, 0x33, 0x3E, 0xDA}};
 
 } // namespace
 
@@ -37,7 +29,3 @@ VELKOR_IMPLEMENT_INTERFACE(QORIPLMNavOccurrence, QORBaseUnknown, occurrenceId, k
 VELKOR_IMPLEMENT_INTERFACE(QORIVleObject, QORBaseUnknown, vleObjectId, knowledge)
 VELKOR_IMPLEMENT_INTERFACE(QORIExchangeObject, QORBaseUnknown, exchangeObjectId, exchange)
 VELKOR_IMPLEMENT_INTERFACE(QORIExchangeUserProperties, QORBaseUnknown, userPropertiesId, exchange)
-VELKOR_IMPLEMENT_INTERFACE(QORIExchangeIFCMappingServices, QORBaseUnknown, versionMappingId, exchange)
-VELKOR_IMPLEMENT_INTERFACE(QORIExchangeIFCCustomMappingServices, QORBaseUnknown, customMappingId, exchange)
-VELKOR_IMPLEMENT_INTERFACE(QORIExchangeIFCPLMAttributesMappingServices, QORBaseUnknown, plmAttributesId, exchange)
-VELKOR_IMPLEMENT_INTERFACE(QORIExchangeAECServices, QORBaseUnknown, aecId, exchange)

@@ -1,10 +1,10 @@
-#include "knowledge/KnowledgeObjects.h"
+#include "velkor/knowledge/KnowledgeObjects.h"
 
-#include "knowledge/QORIExchangeObject.h"
-#include "knowledge/QORIInstance.h"
-#include "knowledge/QORIPLMNavOccurrence.h"
-#include "knowledge/QORIVleObject.h"
-#include "knowledge/TypeDictionary.h"
+#include "velkor/knowledge/QORIExchangeObject.h"
+#include "velkor/knowledge/QORIInstance.h"
+#include "velkor/knowledge/QORIPLMNavOccurrence.h"
+#include "velkor/knowledge/QORIVleObject.h"
+#include "velkor/knowledge/TypeDictionary.h"
 
 #include <memory>
 #include <unordered_map>

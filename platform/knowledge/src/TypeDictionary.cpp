@@ -1,7 +1,7 @@
-#include "knowledge/TypeDictionary.h"
+#include "velkor/knowledge/TypeDictionary.h"
 
-#include "knowledge/QORITypeDictionary.h"
-#include "knowledge/QORVleTypeServices.h"
+#include "velkor/knowledge/QORITypeDictionary.h"
+#include "velkor/knowledge/QORVleTypeServices.h"
 
 #include <unordered_map>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "objectmodeler/Assertion.h"
+#include "velkor/objectmodeler/Assertion.h"
 
 #include <cstddef>
 #include <deque>

@@ -1,4 +1,4 @@
-#include "objectmodeler/CallRecorder.h"
+#include "velkor/objectmodeler/CallRecorder.h"
 
 #include <atomic>
 #include <mutex>

@@ -1,8 +1,8 @@
-#include "objectmodeler/ClassDictionary.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
 
-#include "objectmodeler/CallRecorder.h"
-#include "objectmodeler/QORFillDictionary.h"
-#include "objectmodeler/QOROMModule.h"
+#include "velkor/objectmodeler/CallRecorder.h"
+#include "velkor/objectmodeler/QORFillDictionary.h"
+#include "velkor/objectmodeler/QOROMModule.h"
 
 #include <algorithm>
 #include <mutex>

@@ -1,7 +1,7 @@
 /// What the object modeler itself may do to a component.
 #pragma once
 
-#include "objectmodeler/QORBaseUnknown.h"
+#include "velkor/objectmodeler/QORBaseUnknown.h"
 
 struct ComponentAccess {
     /// Puts an object behind a component, with a reference of its own.

@@ -1,6 +1,6 @@
-#include "objectmodeler/ExitCallback.h"
+#include "velkor/objectmodeler/ExitCallback.h"
 
-#include "objectmodeler/CallRecorder.h"
+#include "velkor/objectmodeler/CallRecorder.h"
 
 #include <algorithm>
 #include <string>

@@ -1,6 +1,6 @@
-#include "objectmodeler/IID.h"
+#include "velkor/objectmodeler/IID.h"
 
-#include "text/Unicode.h"
+#include "velkor/text/Unicode.h"
 
 #include <cstdio>
 

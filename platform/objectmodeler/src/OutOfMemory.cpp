@@ -1,4 +1,4 @@
-#include "objectmodeler/OutOfMemory.h"
+#include "velkor/objectmodeler/OutOfMemory.h"
 
 #include <new>
 

@@ -1,7 +1,7 @@
-#include "objectmodeler/QORBaseUnknown.h"
+#include "velkor/objectmodeler/QORBaseUnknown.h"
 
 #include "ComponentAccess.h"
-#include "objectmodeler/ClassDictionary.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
 
 #include <new>
 

@@ -1,4 +1,4 @@
-#include "objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/objectmodeler/QORBaseUnknown_var.h"
 
 void* QORBaseUnknown_var::CastTo(const IID& interfaceId) const {
     void* interface = nullptr;

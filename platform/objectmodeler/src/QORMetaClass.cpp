@@ -1,7 +1,7 @@
-#include "objectmodeler/QORMetaClass.h"
+#include "velkor/objectmodeler/QORMetaClass.h"
 
-#include "objectmodeler/CallRecorder.h"
-#include "text/Unicode.h"
+#include "velkor/objectmodeler/CallRecorder.h"
+#include "velkor/text/Unicode.h"
 
 #include <map>
 #include <memory>

@@ -1,8 +1,8 @@
-#include "objectmodeler/Tie.h"
+#include "velkor/objectmodeler/Tie.h"
 
 #include "ComponentAccess.h"
-#include "objectmodeler/Assertion.h"
-#include "objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/objectmodeler/Assertion.h"
+#include "velkor/objectmodeler/QORBaseUnknown_var.h"
 
 IUnknown* ToCreateBOA(QORBaseUnknown* object, QORBaseUnknown* second, QORMetaClass* implementation,
                       const IID& interfaceId, QORCreationFunction create) {

@@ -1,5 +1,5 @@
-#include "settings/QORDXEnvironmentVariable.h"
-#include "objectmodeler/OutOfMemory.h"
+#include "velkor/settings/QORDXEnvironmentVariable.h"
+#include "velkor/objectmodeler/OutOfMemory.h"
 
 #include <cerrno>
 #include <cstdlib>

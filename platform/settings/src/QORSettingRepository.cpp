@@ -1,4 +1,4 @@
-#include "settings/QORSettingRepository.h"
+#include "velkor/settings/QORSettingRepository.h"
 
 #include <algorithm>
 

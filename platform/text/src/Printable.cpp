@@ -1,6 +1,6 @@
-#include "text/Printable.h"
+#include "velkor/text/Printable.h"
 
-#include "text/Unicode.h"
+#include "velkor/text/Unicode.h"
 
 #include <cstdint>
 

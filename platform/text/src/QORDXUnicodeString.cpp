@@ -1,6 +1,6 @@
-#include "text/QORDXUnicodeString.h"
+#include "velkor/text/QORDXUnicodeString.h"
 
-#include "text/Unicode.h"
+#include "velkor/text/Unicode.h"
 
 QORDXUnicodeString::QORDXUnicodeString() : QORDXUnicodeString(QORUnicodeString()) {}
 

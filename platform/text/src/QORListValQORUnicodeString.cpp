@@ -1,4 +1,4 @@
-#include "text/QORListValQORUnicodeString.h"
+#include "velkor/text/QORListValQORUnicodeString.h"
 
 #include <algorithm>
 #include <cstddef>

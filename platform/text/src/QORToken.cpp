@@ -1,6 +1,6 @@
-#include "text/QORToken.h"
+#include "velkor/text/QORToken.h"
 
-#include "text/Unicode.h"
+#include "velkor/text/Unicode.h"
 
 namespace {
 

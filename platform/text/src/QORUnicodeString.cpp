@@ -1,6 +1,6 @@
-#include "text/QORUnicodeString.h"
+#include "velkor/text/QORUnicodeString.h"
 
-#include "text/Unicode.h"
+#include "velkor/text/Unicode.h"
 
 #include <algorithm>
 #include <charconv>

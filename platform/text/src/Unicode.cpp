@@ -1,4 +1,4 @@
-#include "text/Unicode.h"
+#include "velkor/text/Unicode.h"
 
 #define XXH_INLINE_ALL
 #include <utf8proc.h>

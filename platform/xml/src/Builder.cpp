@@ -1,12 +1,12 @@
 #include "DocumentStore.h"
-#include "files/FileContents.h"
 #include "Messages.h"
 #include "Nodes.h"
 #include "Parser.h"
+#include "velkor/files/FileContents.h"
+#include "velkor/xml/QORIDOMDocument.h"
+#include "velkor/xml/QORIDOMImplementation.h"
+#include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
 #include "Writer.h"
-#include "xml/QORIDOMDocument.h"
-#include "xml/QORIDOMImplementation.h"
-#include "xml/QORIXMLDOMDocumentBuilder.h"
 
 #include <charconv>
 #include <string>

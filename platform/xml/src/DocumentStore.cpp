@@ -2,9 +2,9 @@
 
 #include "Messages.h"
 #include "Nodes.h"
-#include "objectmodeler/OutOfMemory.h"
-#include "text/Unicode.h"
 #include "Traversal.h"
+#include "velkor/objectmodeler/OutOfMemory.h"
+#include "velkor/text/Unicode.h"
 
 #include <libxml/chvalid.h>
 #include <libxml/tree.h>

@@ -1,8 +1,8 @@
 /// A libxml2 document with what the DOM keeps beside it. Every wrapper of a node holds on to it.
 #pragma once
 
-#include "text/QORUnicodeString.h"
-#include "xml/DomTypes.h"
+#include "velkor/text/QORUnicodeString.h"
+#include "velkor/xml/DomTypes.h"
 
 #include <libxml/tree.h>
 #include <memory>

@@ -1,19 +1,19 @@
 // The metaclasses of the interfaces.
 
-#include "xml/QORIDOMAttr.h"
-#include "xml/QORIDOMDocument.h"
-#include "xml/QORIDOMDocumentTraversal.h"
-#include "xml/QORIDOMDocumentType.h"
-#include "xml/QORIDOMElement.h"
-#include "xml/QORIDOMImplementation.h"
-#include "xml/QORIDOMNode.h"
-#include "xml/QORIDOMNodeFilter.h"
-#include "xml/QORIDOMNodeIterator.h"
-#include "xml/QORIDOMNodeList.h"
-#include "xml/QORIXMLDOMDocumentBuilder.h"
-#include "xml/QORIXMLErrorHandler.h"
-#include "xml/QORIXMLInputSource.h"
-#include "xml/QORIXMLXPathFactory.h"
+#include "velkor/xml/QORIDOMAttr.h"
+#include "velkor/xml/QORIDOMDocument.h"
+#include "velkor/xml/QORIDOMDocumentTraversal.h"
+#include "velkor/xml/QORIDOMDocumentType.h"
+#include "velkor/xml/QORIDOMElement.h"
+#include "velkor/xml/QORIDOMImplementation.h"
+#include "velkor/xml/QORIDOMNode.h"
+#include "velkor/xml/QORIDOMNodeFilter.h"
+#include "velkor/xml/QORIDOMNodeIterator.h"
+#include "velkor/xml/QORIDOMNodeList.h"
+#include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
+#include "velkor/xml/QORIXMLErrorHandler.h"
+#include "velkor/xml/QORIXMLInputSource.h"
+#include "velkor/xml/QORIXMLXPathFactory.h"
 
 const IID IID_QORIDOMNodeFilter = {0xD1B6E0C4, 0x7B0E, 0x4C57, {0x9A, 0x86, 0x3C, 0x3E, 0x1C, 0x0B, 0x9B, 0x57}};
 const IID CLSID_XML4C_DOM = {0x6497E3D0, 0xFE00, 0x425C, {0xA1, 0x30, 0xB4, 0x3B, 0x76, 0x22, 0x34, 0xA1}};

@@ -1,7 +1,7 @@
 #include "Messages.h"
 
-#include "exchangelog/QORExchangeErr.h"
-#include "objectmodeler/OutOfMemory.h"
+#include "velkor/exchangelog/QORExchangeErr.h"
+#include "velkor/objectmodeler/OutOfMemory.h"
 
 #include <cstdarg>
 #include <cstdio>

@@ -1,7 +1,7 @@
 /// How the parser speaks to people: through the exchange log, never by itself.
 #pragma once
 
-#include "objectmodeler/OutOfMemory.h"
+#include "velkor/objectmodeler/OutOfMemory.h"
 
 #include <exception>
 #include <functional>

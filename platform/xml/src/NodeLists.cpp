@@ -1,7 +1,7 @@
 #include "NodeLists.h"
 
-#include "xml/QORIDOMNode.h"
-#include "xml/QORIDOMNodeList.h"
+#include "velkor/xml/QORIDOMNode.h"
+#include "velkor/xml/QORIDOMNodeList.h"
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "DocumentStore.h"
-#include "xml/QORIDOMNode.h"
+#include "velkor/xml/QORIDOMNode.h"
 
 namespace velkor::xml {
 

@@ -1,10 +1,10 @@
 #include "Parser.h"
 
 #include "DocumentStore.h"
-#include "files/InputFile.h"
-#include "files/Paths.h"
 #include "Messages.h"
-#include "objectmodeler/OutOfMemory.h"
+#include "velkor/files/InputFile.h"
+#include "velkor/files/Paths.h"
+#include "velkor/objectmodeler/OutOfMemory.h"
 
 #include <cerrno>
 #include <cstring>

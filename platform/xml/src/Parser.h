@@ -2,7 +2,7 @@
 #pragma once
 
 #include "DocumentStore.h"
-#include "xml/QORIXMLErrorHandler.h"
+#include "velkor/xml/QORIXMLErrorHandler.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #include "Traversal.h"
 
 #include "Nodes.h"
-#include "xml/QORIDOMDocumentTraversal.h"
+#include "velkor/xml/QORIDOMDocumentTraversal.h"
 
 #include <utility>
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "DocumentStore.h"
-#include "xml/QORIDOMNodeFilter.h"
-#include "xml/QORIDOMNodeIterator.h"
+#include "velkor/xml/QORIDOMNodeFilter.h"
+#include "velkor/xml/QORIDOMNodeIterator.h"
 
 namespace velkor::xml {
 

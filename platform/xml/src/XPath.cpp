@@ -2,8 +2,8 @@
 
 #include "Messages.h"
 #include "NodeLists.h"
-#include "objectmodeler/OutOfMemory.h"
-#include "xml/QORIXMLXPathFactory.h"
+#include "velkor/objectmodeler/OutOfMemory.h"
+#include "velkor/xml/QORIXMLXPathFactory.h"
 
 #include <libxml/xpath.h>
 #include <libxml/xpathInternals.h>

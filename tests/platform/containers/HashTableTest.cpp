@@ -1,6 +1,6 @@
-#include "containers/QORHashTable.h"
-#include "containers/QORListVal.h"
-#include "containers/QORSysSimpleHashTable.h"
+#include "velkor/containers/QORHashTable.h"
+#include "velkor/containers/QORListVal.h"
+#include "velkor/containers/QORSysSimpleHashTable.h"
 
 #include <gtest/gtest.h>
 

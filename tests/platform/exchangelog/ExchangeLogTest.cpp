@@ -1,5 +1,5 @@
-#include "exchangelog/MessageLog.h"
-#include "exchangelog/QORMsgCatalog.h"
+#include "velkor/exchangelog/MessageLog.h"
+#include "velkor/exchangelog/QORMsgCatalog.h"
 
 #include <array>
 #include <gmock/gmock.h>

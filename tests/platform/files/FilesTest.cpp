@@ -1,8 +1,8 @@
-#include "files/Paths.h"
-#include "files/QORDirectory.h"
-#include "files/QORISetupDataFinder.h"
-#include "files/QORSysRTVWalker.h"
 #include "TemporaryFolder.h"
+#include "velkor/files/Paths.h"
+#include "velkor/files/QORDirectory.h"
+#include "velkor/files/QORISetupDataFinder.h"
+#include "velkor/files/QORSysRTVWalker.h"
 
 #include <array>
 #include <gmock/gmock.h>

@@ -1,11 +1,11 @@
-#include "knowledge/KnowledgeObjects.h"
-#include "knowledge/QORIExchangeObject.h"
-#include "knowledge/QORIInstance.h"
-#include "knowledge/QORIPLMNavOccurrence.h"
-#include "knowledge/QORITypeDictionary.h"
-#include "knowledge/QORIVleObject.h"
-#include "knowledge/QORVleTypeServices.h"
-#include "knowledge/TypeDictionary.h"
+#include "velkor/knowledge/KnowledgeObjects.h"
+#include "velkor/knowledge/QORIExchangeObject.h"
+#include "velkor/knowledge/QORIInstance.h"
+#include "velkor/knowledge/QORIPLMNavOccurrence.h"
+#include "velkor/knowledge/QORITypeDictionary.h"
+#include "velkor/knowledge/QORIVleObject.h"
+#include "velkor/knowledge/QORVleTypeServices.h"
+#include "velkor/knowledge/TypeDictionary.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
-#include "objectmodeler/Assertion.h"
-#include "objectmodeler/ClassDictionary.h"
 #include "TestComponents.h"
+#include "velkor/objectmodeler/Assertion.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
 
 #include <gmock/gmock.h>
 

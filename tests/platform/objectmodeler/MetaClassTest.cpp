@@ -1,5 +1,5 @@
-#include "objectmodeler/CallRecorder.h"
 #include "TestComponents.h"
+#include "velkor/objectmodeler/CallRecorder.h"
 
 #include <array>
 #include <barrier>

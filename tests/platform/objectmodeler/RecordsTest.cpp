@@ -1,6 +1,6 @@
-#include "objectmodeler/Assertion.h"
-#include "objectmodeler/CallRecorder.h"
-#include "objectmodeler/ExitCallback.h"
+#include "velkor/objectmodeler/Assertion.h"
+#include "velkor/objectmodeler/CallRecorder.h"
+#include "velkor/objectmodeler/ExitCallback.h"
 
 #include <gmock/gmock.h>
 #include <utility>

@@ -1,9 +1,9 @@
 /// A small library of components: an extension, a TIE, and the table that registers them.
 #pragma once
 
-#include "objectmodeler/ComponentMacros.h"
-#include "objectmodeler/QORBaseUnknown_var.h"
-#include "objectmodeler/QOROMModule.h"
+#include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/objectmodeler/QOROMModule.h"
 
 #include <span>
 

@@ -1,5 +1,5 @@
-#include "settings/QORSettingRepository.h"
 #include "Variables.h"
+#include "velkor/settings/QORSettingRepository.h"
 
 #include <array>
 #include <cstdlib>

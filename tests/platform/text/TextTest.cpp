@@ -1,8 +1,8 @@
-#include "text/Printable.h"
-#include "text/QORDXUnicodeString.h"
-#include "text/QORListValQORUnicodeString.h"
-#include "text/QORToken.h"
-#include "text/QORUnicodeString.h"
+#include "velkor/text/Printable.h"
+#include "velkor/text/QORDXUnicodeString.h"
+#include "velkor/text/QORListValQORUnicodeString.h"
+#include "velkor/text/QORToken.h"
+#include "velkor/text/QORUnicodeString.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "objectmodeler/CallRecorder.h"
-#include "xml/QORIDOMDocumentTraversal.h"
-#include "xml/QORIDOMImplementation.h"
+#include "velkor/objectmodeler/CallRecorder.h"
+#include "velkor/xml/QORIDOMDocumentTraversal.h"
+#include "velkor/xml/QORIDOMImplementation.h"
 #include "XmlSupport.h"
 
 #include <array>

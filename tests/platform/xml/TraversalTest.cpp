@@ -1,6 +1,6 @@
-#include "xml/QORIDOMDocumentTraversal.h"
-#include "xml/QORIDOMNodeFilter.h"
-#include "xml/QORIDOMNodeIterator.h"
+#include "velkor/xml/QORIDOMDocumentTraversal.h"
+#include "velkor/xml/QORIDOMNodeFilter.h"
+#include "velkor/xml/QORIDOMNodeIterator.h"
 #include "XmlSupport.h"
 
 #include <functional>

@@ -1,14 +1,14 @@
 /// Short forms of what the tests ask of documents again and again.
 #pragma once
 
-#include "exchangelog/MessageLog.h"
-#include "xml/QORIDOMAttr.h"
-#include "xml/QORIDOMDocument.h"
-#include "xml/QORIDOMDocumentType.h"
-#include "xml/QORIDOMElement.h"
-#include "xml/QORIDOMNodeList.h"
-#include "xml/QORIXMLDOMDocumentBuilder.h"
-#include "xml/QORIXMLXPathFactory.h"
+#include "velkor/exchangelog/MessageLog.h"
+#include "velkor/xml/QORIDOMAttr.h"
+#include "velkor/xml/QORIDOMDocument.h"
+#include "velkor/xml/QORIDOMDocumentType.h"
+#include "velkor/xml/QORIDOMElement.h"
+#include "velkor/xml/QORIDOMNodeList.h"
+#include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
+#include "velkor/xml/QORIXMLXPathFactory.h"
 
 #include <gmock/gmock.h>
 #include <string>

@@ -1,8 +1,8 @@
 #include "CatalogueDocument.h"
 
-#include "text/QORListValQORUnicodeString.h"
-#include "xml/QORIXMLDOMDocumentBuilder.h"
-#include "xml/QORIXMLInputSource.h"
+#include "velkor/text/QORListValQORUnicodeString.h"
+#include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
+#include "velkor/xml/QORIXMLInputSource.h"
 
 HRESULT velkor::library::readCatalogue(const QORUnicodeString& path, QORIDOMDocument_var& document) {
     QORIXMLSAX2Factory_var factory;

@@ -1,10 +1,10 @@
 /// The XML documents of the property catalogues.
 #pragma once
 
-#include "objectmodeler/ResultCode.h"
-#include "text/QORUnicodeString.h"
-#include "xml/QORIDOMDocument.h"
-#include "xml/QORIDOMNodeList.h"
+#include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/text/QORUnicodeString.h"
+#include "velkor/xml/QORIDOMDocument.h"
+#include "velkor/xml/QORIDOMNodeList.h"
 
 namespace velkor::library {
 

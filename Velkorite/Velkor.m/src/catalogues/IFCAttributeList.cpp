@@ -2,11 +2,11 @@
 
 #include "CatalogueDocument.h"
 #include "ExitCallbacks.h"
-#include "files/QORDirectory.h"
 #include "IFCAttributeTables.h"
 #include "QORIFCDXFileServices.h"
 #include "ResourceKinds.h"
-#include "xml/QORIDOMElement.h"
+#include "velkor/files/QORDirectory.h"
+#include "velkor/xml/QORIDOMElement.h"
 
 #include <memory>
 

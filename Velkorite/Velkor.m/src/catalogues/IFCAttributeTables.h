@@ -1,9 +1,9 @@
 /// The entries of attribute catalogues, one table per level.
 #pragma once
 
-#include "containers/QORSysSimpleHashTable.h"
 #include "IFCAttributeList.h"
-#include "text/QORUnicodeString.h"
+#include "velkor/containers/QORSysSimpleHashTable.h"
+#include "velkor/text/QORUnicodeString.h"
 
 /// One entry. Name, property set and entity are its key.
 struct IFCAttributeRecord {

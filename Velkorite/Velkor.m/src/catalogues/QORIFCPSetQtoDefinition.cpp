@@ -1,7 +1,7 @@
 #include "QORIFCPSetQtoDefinition.h"
 
 #include "CatalogueDocument.h"
-#include "sdai/DXSdaiAppInstance.h"
+#include "velkor/sdai/DXSdaiAppInstance.h"
 
 #include <algorithm>
 

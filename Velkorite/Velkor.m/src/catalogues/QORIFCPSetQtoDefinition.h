@@ -1,9 +1,9 @@
 /// What a definition file says about one property set or quantity set.
 #pragma once
 
-#include "objectmodeler/ResultCode.h"
-#include "text/QORDXUnicodeString.h"
-#include "text/QORListValQORUnicodeString.h"
+#include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/text/QORDXUnicodeString.h"
+#include "velkor/text/QORListValQORUnicodeString.h"
 
 #include <unordered_map>
 

@@ -1,11 +1,11 @@
 #include "QORIFCPSetQtoValidationService.h"
 
 #include "ExitCallbacks.h"
-#include "files/Paths.h"
-#include "files/QORSysRTVWalker.h"
 #include "QORIFCPSetQtoDefinition.h"
 #include "ResourceKinds.h"
-#include "text/QORToken.h"
+#include "velkor/files/Paths.h"
+#include "velkor/files/QORSysRTVWalker.h"
+#include "velkor/text/QORToken.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 /// The entries of a table whose user owns them.
 #pragma once
 
-#include "containers/QORSysSimpleHashTable.h"
+#include "velkor/containers/QORSysSimpleHashTable.h"
 
 #include <memory>
 #include <new>

@@ -1,7 +1,7 @@
 /// How the library's process-wide objects are released when it is unloaded.
 #pragma once
 
-#include "objectmodeler/ExitCallback.h"
+#include "velkor/objectmodeler/ExitCallback.h"
 
 namespace velkor::library {
 

@@ -1,7 +1,7 @@
 #include "QORIFCMsgLoggingServices.h"
 
-#include "exchangelog/QORExchangeErr.h"
-#include "exchangelog/QORMsgCatalog.h"
+#include "velkor/exchangelog/QORExchangeErr.h"
+#include "velkor/exchangelog/QORMsgCatalog.h"
 
 #include <utility>
 

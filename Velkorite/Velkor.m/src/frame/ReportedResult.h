@@ -1,8 +1,8 @@
 /// Failures that are reported where they show.
 #pragma once
 
-#include "objectmodeler/Assertion.h"
-#include "objectmodeler/ResultCode.h"
+#include "velkor/objectmodeler/Assertion.h"
+#include "velkor/objectmodeler/ResultCode.h"
 
 namespace velkor::library {
 

@@ -2,14 +2,14 @@
 // of registration functions, and the list of exit callbacks.
 
 #include "ExitCallbacks.h"
-#include "objectmodeler/QORFillDictionary.h"
-#include "objectmodeler/QOROMModule.h"
 #include "QOREExchangeAECServices.h"
 #include "QOREExchangeIFCCustomMappingServices.h"
 #include "QOREExchangeIFCMappingServices.h"
 #include "QOREExchangeIFCPLMAttributesMappingServices.h"
 #include "QORIIFCImportServices.h"
 #include "QORXCADNodeFilter.h"
+#include "velkor/objectmodeler/QORFillDictionary.h"
+#include "velkor/objectmodeler/QOROMModule.h"
 #include "VelkorComponents.h"
 
 #include <cxxabi.h>

@@ -1,11 +1,11 @@
 #include "AECDocument.h"
 
 #include "FirstResource.h"
-#include "objectmodeler/Assertion.h"
 #include "QORIFCDXXMLServices.h"
 #include "QORXCADNodeFilter.h"
-#include "xml/QORIDOMDocumentTraversal.h"
-#include "xml/QORIDOMNodeIterator.h"
+#include "velkor/objectmodeler/Assertion.h"
+#include "velkor/xml/QORIDOMDocumentTraversal.h"
+#include "velkor/xml/QORIDOMNodeIterator.h"
 
 namespace velkor::library {
 

@@ -1,10 +1,10 @@
 /// The document of correspondences, and its elements by name.
 #pragma once
 
-#include "objectmodeler/ResultCode.h"
-#include "text/QORUnicodeString.h"
-#include "xml/DomTypes.h"
-#include "xml/QORIDOMElement.h"
+#include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/text/QORUnicodeString.h"
+#include "velkor/xml/DomTypes.h"
+#include "velkor/xml/QORIDOMElement.h"
 
 #include <functional>
 #include <map>

@@ -1,10 +1,10 @@
 /// The records that answer under which property a PLM attribute is written.
 #pragma once
 
-#include "containers/QORSysSimpleHashTable.h"
-#include "objectmodeler/ResultCode.h"
-#include "text/QORListValQORUnicodeString.h"
-#include "xml/DomTypes.h"
+#include "velkor/containers/QORSysSimpleHashTable.h"
+#include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/text/QORListValQORUnicodeString.h"
+#include "velkor/xml/DomTypes.h"
 
 #include <memory>
 #include <unordered_set>

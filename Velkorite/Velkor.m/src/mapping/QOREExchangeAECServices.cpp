@@ -1,13 +1,13 @@
 #include "QOREExchangeAECServices.h"
 
 #include "AECDocument.h"
-#include "knowledge/QORIExchangeObject.h"
-#include "knowledge/QORIInstance.h"
-#include "knowledge/QORIPLMNavOccurrence.h"
-#include "knowledge/QORIVleObject.h"
-#include "objectmodeler/Assertion.h"
 #include "QORIFCDXXMLServices.h"
 #include "ReportedResult.h"
+#include "velkor/knowledge/QORIExchangeObject.h"
+#include "velkor/knowledge/QORIInstance.h"
+#include "velkor/knowledge/QORIPLMNavOccurrence.h"
+#include "velkor/knowledge/QORIVleObject.h"
+#include "velkor/objectmodeler/Assertion.h"
 #include "VelkorComponents.h"
 
 #include <cstdio>

@@ -1,7 +1,7 @@
 /// Neutral identifiers, IFC types and PLM types, translated by one document per process.
 #pragma once
 
-#include "knowledge/QORIExchangeAECServices.h"
+#include "velkor/exchangeservices/QORIExchangeAECServices.h"
 
 class QOREExchangeAECServices final : public QORIExchangeAECServices {
     VELKOR_DECLARE_CLASS

@@ -1,18 +1,18 @@
 #include "QOREExchangeIFCCustomMappingServices.h"
 
-#include "knowledge/QORIExchangeIFCMappingServices.h"
-#include "knowledge/QORITypeDictionary.h"
-#include "knowledge/QORVleTypeServices.h"
-#include "objectmodeler/Assertion.h"
 #include "QORHashTabCustoMappingElement.h"
 #include "QORIFCDXDataSetupServices.h"
 #include "QORIFCDXXMLServices.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCPSetQtoValidationService.h"
 #include "ResourceKinds.h"
-#include "text/QORToken.h"
+#include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
+#include "velkor/knowledge/QORITypeDictionary.h"
+#include "velkor/knowledge/QORVleTypeServices.h"
+#include "velkor/objectmodeler/Assertion.h"
+#include "velkor/text/QORToken.h"
+#include "velkor/xml/QORIDOMElement.h"
 #include "VelkorComponents.h"
-#include "xml/QORIDOMElement.h"
 
 #include <memory>
 

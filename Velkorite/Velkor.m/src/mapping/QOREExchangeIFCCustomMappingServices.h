@@ -1,8 +1,8 @@
 /// The custom mappings, from one document per process, expanded by type and direction.
 #pragma once
 
-#include "knowledge/QORIExchangeIFCCustomMappingServices.h"
-#include "xml/DomTypes.h"
+#include "velkor/exchangeservices/QORIExchangeIFCCustomMappingServices.h"
+#include "velkor/xml/DomTypes.h"
 
 class QOREExchangeIFCCustomMappingServices final : public QORIExchangeIFCCustomMappingServices {
     VELKOR_DECLARE_CLASS

@@ -1,16 +1,16 @@
 #include "QOREExchangeIFCMappingServices.h"
 
-#include "containers/QORHashTable.h"
 #include "FirstResource.h"
-#include "objectmodeler/Assertion.h"
 #include "QORIFCDXXMLServices.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "ReportedResult.h"
+#include "velkor/containers/QORHashTable.h"
+#include "velkor/objectmodeler/Assertion.h"
+#include "velkor/xml/QORIDOMAttr.h"
+#include "velkor/xml/QORIDOMDocumentTraversal.h"
+#include "velkor/xml/QORIDOMNodeFilter.h"
+#include "velkor/xml/QORIDOMNodeIterator.h"
 #include "VelkorComponents.h"
-#include "xml/QORIDOMAttr.h"
-#include "xml/QORIDOMDocumentTraversal.h"
-#include "xml/QORIDOMNodeFilter.h"
-#include "xml/QORIDOMNodeIterator.h"
 
 #include <iterator>
 #include <memory>

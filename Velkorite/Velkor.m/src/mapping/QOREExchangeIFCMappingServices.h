@@ -4,8 +4,8 @@
 /// for and answers for every later one until it is reset.
 #pragma once
 
-#include "knowledge/QORIExchangeIFCMappingServices.h"
-#include "xml/DomTypes.h"
+#include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
+#include "velkor/xml/DomTypes.h"
 
 class QOREExchangeIFCMappingServices final : public QORIExchangeIFCMappingServices {
     VELKOR_DECLARE_CLASS

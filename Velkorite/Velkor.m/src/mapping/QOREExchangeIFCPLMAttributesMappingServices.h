@@ -1,7 +1,7 @@
 /// The mapping of PLM attributes to properties, from all its documents, read once per process.
 #pragma once
 
-#include "knowledge/QORIExchangeIFCPLMAttributesMappingServices.h"
+#include "velkor/exchangeservices/QORIExchangeIFCPLMAttributesMappingServices.h"
 
 class QOREExchangeIFCPLMAttributesMappingServices final : public QORIExchangeIFCPLMAttributesMappingServices {
     VELKOR_DECLARE_CLASS

@@ -1,7 +1,7 @@
 #include "QORIFCOptions.h"
 
-#include "settings/QORDXEnvironmentVariable.h"
-#include "settings/QORSettingRepository.h"
+#include "velkor/settings/QORDXEnvironmentVariable.h"
+#include "velkor/settings/QORSettingRepository.h"
 
 VELKOR_IMPLEMENT_CLASS(QORIFCOptions, QORBaseUnknown, "QORNull", "Velkorite")
 

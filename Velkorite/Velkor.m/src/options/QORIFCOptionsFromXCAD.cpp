@@ -1,7 +1,7 @@
 #include "QORIFCOptionsFromXCAD.h"
 
-#include "exchangelog/QORExchangeErr.h"
 #include "QORIFCOptions.h"
+#include "velkor/exchangelog/QORExchangeErr.h"
 
 #include <algorithm>
 #include <iterator>

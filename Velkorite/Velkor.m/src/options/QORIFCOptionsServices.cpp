@@ -1,7 +1,7 @@
 #include "QORIFCOptionsServices.h"
 
 #include "ExitCallbacks.h"
-#include "text/QORUnicodeString.h"
+#include "velkor/text/QORUnicodeString.h"
 
 namespace {
 

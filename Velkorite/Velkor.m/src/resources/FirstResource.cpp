@@ -1,8 +1,8 @@
 #include "FirstResource.h"
 
-#include "files/QORISetupDataFinder.h"
-#include "objectmodeler/Assertion.h"
 #include "QORIFCDXFileServices.h"
+#include "velkor/files/QORISetupDataFinder.h"
+#include "velkor/objectmodeler/Assertion.h"
 
 HRESULT velkor::library::findFirstResource(const ResourceKind& kind, QORUnicodeString& path) {
     const QORISetupDataFinder_var finder = QORSetupDataGlobalFunctions::GetSetupDataFinder();

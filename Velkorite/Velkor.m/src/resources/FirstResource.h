@@ -3,8 +3,8 @@
 
 #include "ResourceKinds.h"
 
-#include "objectmodeler/ResultCode.h"
-#include "text/QORUnicodeString.h"
+#include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/text/QORUnicodeString.h"
 
 namespace velkor::library {
 

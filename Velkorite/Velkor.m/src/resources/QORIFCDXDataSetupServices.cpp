@@ -1,8 +1,8 @@
 #include "QORIFCDXDataSetupServices.h"
 
-#include "files/QORISetupDataFinder.h"
-#include "objectmodeler/Assertion.h"
 #include "QORIFCDXFileServices.h"
+#include "velkor/files/QORISetupDataFinder.h"
+#include "velkor/objectmodeler/Assertion.h"
 
 namespace {
 

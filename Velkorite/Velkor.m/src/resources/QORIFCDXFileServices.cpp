@@ -1,9 +1,9 @@
 #include "QORIFCDXFileServices.h"
 
-#include "files/QORDirectory.h"
-#include "objectmodeler/Assertion.h"
-#include "settings/QORDXEnvironmentVariable.h"
-#include "text/QORToken.h"
+#include "velkor/files/QORDirectory.h"
+#include "velkor/objectmodeler/Assertion.h"
+#include "velkor/settings/QORDXEnvironmentVariable.h"
+#include "velkor/text/QORToken.h"
 
 #include <memory>
 #include <string_view>

@@ -1,12 +1,12 @@
 #include "QORIFCDXXMLServices.h"
 
-#include "objectmodeler/Assertion.h"
 #include "ReportedResult.h"
-#include "text/QORListValQORUnicodeString.h"
-#include "xml/QORIDOMDocumentType.h"
-#include "xml/QORIDOMImplementation.h"
-#include "xml/QORIXMLDOMDocumentBuilder.h"
-#include "xml/QORIXMLXPathFactory.h"
+#include "velkor/objectmodeler/Assertion.h"
+#include "velkor/text/QORListValQORUnicodeString.h"
+#include "velkor/xml/QORIDOMDocumentType.h"
+#include "velkor/xml/QORIDOMImplementation.h"
+#include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
+#include "velkor/xml/QORIXMLXPathFactory.h"
 
 #include <initializer_list>
 

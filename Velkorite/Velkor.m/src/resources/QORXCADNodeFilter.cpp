@@ -1,7 +1,7 @@
 #include "QORXCADNodeFilter.h"
 
 #include "ReportedResult.h"
-#include "xml/QORIDOMElement.h"
+#include "velkor/xml/QORIDOMElement.h"
 
 VELKOR_IMPLEMENT_CLASS(QORXCADNodeFilter, QORBaseUnknown, "QORnull", "Velkorite")
 

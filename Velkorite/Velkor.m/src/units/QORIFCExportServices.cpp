@@ -1,6 +1,6 @@
 #include "QORIFCExportServices.h"
 
-#include "text/Unicode.h"
+#include "velkor/text/Unicode.h"
 
 #include <array>
 #include <bit>

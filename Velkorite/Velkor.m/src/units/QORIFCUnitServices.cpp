@@ -1,9 +1,9 @@
 #include "QORIFCUnitServices.h"
 
-#include "sdai/DXSdaiAppInstance.h"
-#include "text/Unicode.h"
 #include "UnitEvaluation.h"
 #include "UnitPositions.h"
+#include "velkor/sdai/DXSdaiAppInstance.h"
+#include "velkor/text/Unicode.h"
 
 #include <algorithm>
 #include <span>

@@ -1,8 +1,8 @@
 #include "QORIFC_SIUnit_HashTable.h"
 
-#include "containers/QORSysSimpleHashTable.h"
-#include "sdai/DXSdaiAppInstance.h"
 #include "TableEntries.h"
+#include "velkor/containers/QORSysSimpleHashTable.h"
+#include "velkor/sdai/DXSdaiAppInstance.h"
 
 namespace {
 

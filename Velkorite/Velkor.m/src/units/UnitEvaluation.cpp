@@ -1,8 +1,8 @@
 #include "UnitEvaluation.h"
 
-#include "objectmodeler/Assertion.h"
 #include "QORIFCUnitServices.h"
 #include "UnitPositions.h"
+#include "velkor/objectmodeler/Assertion.h"
 
 #include <cmath>
 

@@ -3,7 +3,7 @@
 
 #include "Fileschema.h"
 
-#include "sdai/DXSdaiAppInstance.h"
+#include "velkor/sdai/DXSdaiAppInstance.h"
 
 #include <unordered_map>
 

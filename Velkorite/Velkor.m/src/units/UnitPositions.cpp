@@ -1,6 +1,6 @@
 #include "UnitPositions.h"
 
-#include "sdai/DXSdaiDictionaryRepo.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 int velkor::library::unitPosition(const sdai::Enumeration& value, Fileschema schema) {
     if (value.type == nullptr) return -1;

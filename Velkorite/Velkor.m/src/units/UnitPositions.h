@@ -3,7 +3,7 @@
 
 #include "Fileschema.h"
 
-#include "sdai/Value.h"
+#include "velkor/sdai/Value.h"
 
 namespace velkor::library {
 

@@ -1,9 +1,9 @@
-#include "sdai/DXSdaiDictionaryRepo.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include "dictionary/Names.h"
 #include "dictionary/RepositoryState.h"
 #include "dictionary/SchemaName.h"
-#include "objectmodeler/CallRecorder.h"
+#include "velkor/objectmodeler/CallRecorder.h"
 
 #include <algorithm>
 #include <utility>

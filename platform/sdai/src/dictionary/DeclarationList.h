@@ -3,7 +3,7 @@
 #pragma once
 
 #include "dictionary/TextReader.h"
-#include "sdai/Dictionary.h"
+#include "velkor/sdai/Dictionary.h"
 
 #include <cstdint>
 #include <span>

@@ -1,7 +1,7 @@
 /// Look-up of schema names, which are short and ASCII, with letter case ignored.
 #pragma once
 
-#include "sdai/Dictionary.h"
+#include "velkor/sdai/Dictionary.h"
 
 #include <bit>
 #include <cstdint>

@@ -1,6 +1,6 @@
-#include "sdai/QORDXSdaiSchemaDecl.h"
+#include "velkor/sdai/QORDXSdaiSchemaDecl.h"
 
-#include "sdai/DXSdaiDictionaryRepo.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 QORDXSdaiSchemaDecl::~QORDXSdaiSchemaDecl() {
     if (_handle != 0) DXSdaiDictionaryRepo::TheOne().withdraw(_handle);

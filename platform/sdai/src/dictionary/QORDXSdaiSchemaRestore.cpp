@@ -1,10 +1,10 @@
-#include "sdai/QORDXSdaiSchemaRestore.h"
+#include "velkor/sdai/QORDXSdaiSchemaRestore.h"
 
 #include "dictionary/DeclarationList.h"
 #include "dictionary/RepositoryState.h"
 #include "dictionary/SchemaBuilder.h"
 #include "dictionary/StatementList.h"
-#include "objectmodeler/CallRecorder.h"
+#include "velkor/objectmodeler/CallRecorder.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 /// What the dictionary repository holds, guarded by one lock.
 #pragma once
 
-#include "sdai/DXSdaiDictionaryRepo.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include <condition_variable>
 #include <memory>

@@ -5,7 +5,7 @@
 #include "dictionary/Arena.h"
 #include "dictionary/DeclarationList.h"
 #include "dictionary/StatementList.h"
-#include "sdai/Dictionary.h"
+#include "velkor/sdai/Dictionary.h"
 
 #include <memory>
 #include <span>

@@ -1,7 +1,7 @@
 /// The partial entities of an instance in external mapping: "(A(1)B('x'))".
 #pragma once
 
-#include "sdai/Part21Lexer.h"
+#include "velkor/sdai/Part21Lexer.h"
 
 #include <string_view>
 

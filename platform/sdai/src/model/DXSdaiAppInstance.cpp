@@ -1,7 +1,7 @@
-#include "sdai/DXSdaiAppInstance.h"
+#include "velkor/sdai/DXSdaiAppInstance.h"
 
 #include "model/ComplexInstance.h"
-#include "sdai/Model.h"
+#include "velkor/sdai/Model.h"
 
 using namespace velkor::sdai;
 

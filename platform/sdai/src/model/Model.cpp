@@ -1,7 +1,7 @@
-#include "sdai/Model.h"
+#include "velkor/sdai/Model.h"
 
 #include "model/ComplexInstance.h"
-#include "text/Printable.h"
+#include "velkor/text/Printable.h"
 
 #include <algorithm>
 

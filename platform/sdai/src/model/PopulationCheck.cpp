@@ -1,9 +1,9 @@
-#include "sdai/PopulationCheck.h"
+#include "velkor/sdai/PopulationCheck.h"
 
 #include "model/ComplexInstance.h"
 #include "model/PopulationChecker.h"
-#include "text/Printable.h"
-#include "text/Unicode.h"
+#include "velkor/text/Printable.h"
+#include "velkor/text/Unicode.h"
 
 #include <algorithm>
 #include <array>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "part21/ProblemList.h"
-#include "sdai/Part21Lexer.h"
-#include "sdai/PopulationCheck.h"
+#include "velkor/sdai/Part21Lexer.h"
+#include "velkor/sdai/PopulationCheck.h"
 
 #include <string>
 #include <string_view>

@@ -1,7 +1,7 @@
-#include "sdai/Value.h"
+#include "velkor/sdai/Value.h"
 
-#include "sdai/Model.h"
-#include "sdai/Part21Lexer.h"
+#include "velkor/sdai/Model.h"
+#include "velkor/sdai/Part21Lexer.h"
 
 #include <cmath>
 

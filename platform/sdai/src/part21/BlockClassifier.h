@@ -2,7 +2,7 @@
 /// time, in the widest instructions that the processor has.
 #pragma once
 
-#include "sdai/Part21File.h"
+#include "velkor/sdai/Part21File.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 /// The text of a file, mapped into memory or read into it.
 #pragma once
 
-#include "sdai/Part21File.h"
+#include "velkor/sdai/Part21File.h"
 
 #include <cstdint>
 #include <memory>

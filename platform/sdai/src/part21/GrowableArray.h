@@ -2,7 +2,7 @@
 /// library moves large blocks by remapping their pages.
 #pragma once
 
-#include "objectmodeler/OutOfMemory.h"
+#include "velkor/objectmodeler/OutOfMemory.h"
 
 #include <cstddef>
 #include <cstdint>

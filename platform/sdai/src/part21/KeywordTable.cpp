@@ -1,7 +1,7 @@
 #include "part21/KeywordTable.h"
 
-#include "part21/Separators.h"
-#include "sdai/Part21File.h"
+#include "tokens/Separators.h"
+#include "velkor/sdai/Part21File.h"
 
 #include <algorithm>
 

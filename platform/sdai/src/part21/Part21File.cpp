@@ -1,9 +1,9 @@
-#include "sdai/Part21File.h"
+#include "velkor/sdai/Part21File.h"
 
 #include "part21/FileText.h"
-#include "part21/Separators.h"
 #include "part21/StructureReader.h"
-#include "text/Printable.h"
+#include "tokens/Separators.h"
+#include "velkor/text/Printable.h"
 
 #include <algorithm>
 #include <array>

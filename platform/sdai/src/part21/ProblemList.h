@@ -2,7 +2,7 @@
 #pragma once
 
 #include "part21/LineTable.h"
-#include "sdai/Problem.h"
+#include "velkor/sdai/Problem.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
 #include "part21/StatementScanner.h"
 
-#include "part21/Separators.h"
+#include "tokens/Separators.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,8 +1,8 @@
 #include "part21/StructureReader.h"
 
-#include "part21/Separators.h"
 #include "part21/TextParameters.h"
-#include "sdai/Part21Lexer.h"
+#include "tokens/Separators.h"
+#include "velkor/sdai/Part21Lexer.h"
 
 #include <algorithm>
 #include <bit>

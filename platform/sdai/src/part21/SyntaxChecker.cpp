@@ -1,6 +1,6 @@
 #include "part21/SyntaxChecker.h"
 
-#include "part21/Separators.h"
+#include "tokens/Separators.h"
 #include "tokens/StringDecoder.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "part21/TextParameters.h"
 
-#include "part21/Separators.h"
-#include "sdai/Part21Lexer.h"
+#include "tokens/Separators.h"
+#include "velkor/sdai/Part21Lexer.h"
 
 namespace velkor::sdai::part21 {
 

@@ -1,7 +1,7 @@
 /// The text parameters of header entities and of DATA sections.
 #pragma once
 
-#include "sdai/Part21File.h"
+#include "velkor/sdai/Part21File.h"
 
 #include <string>
 #include <string_view>

@@ -1,5 +1,5 @@
-#include "part21/Separators.h"
-#include "sdai/Part21Lexer.h"
+#include "tokens/Separators.h"
+#include "velkor/sdai/Part21Lexer.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "sdai/Part21Lexer.h"
+#include "velkor/sdai/Part21Lexer.h"
 
 #include "tokens/Characters.h"
 

@@ -1,8 +1,8 @@
 #include "tokens/StringDecoder.h"
 
-#include "sdai/Part21Lexer.h"
 #include "tokens/Alphabets.h"
 #include "tokens/Characters.h"
+#include "velkor/sdai/Part21Lexer.h"
 
 #include <charconv>
 #include <cstdio>

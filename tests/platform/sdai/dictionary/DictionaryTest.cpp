@@ -1,4 +1,4 @@
-#include "sdai/Dictionary.h"
+#include "velkor/sdai/Dictionary.h"
 
 #include "SampleSchema.h"
 

@@ -1,7 +1,7 @@
-#include "sdai/DXSdaiDictionaryRepo.h"
+#include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include "SampleSchema.h"
-#include "sdai/QORDXSdaiSchemaDecl.h"
+#include "velkor/sdai/QORDXSdaiSchemaDecl.h"
 
 #include <atomic>
 #include <gmock/gmock.h>

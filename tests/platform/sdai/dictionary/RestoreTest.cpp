@@ -1,4 +1,4 @@
-#include "sdai/QORDXSdaiSchemaRestore.h"
+#include "velkor/sdai/QORDXSdaiSchemaRestore.h"
 
 #include "Cases.h"
 #include "SampleSchema.h"

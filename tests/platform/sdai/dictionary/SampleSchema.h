@@ -1,7 +1,7 @@
 /// A small schema with one of everything that the lists can say, for tests of the restore.
 #pragma once
 
-#include "sdai/QORDXSdaiSchemaRestore.h"
+#include "velkor/sdai/QORDXSdaiSchemaRestore.h"
 
 #include <algorithm>
 #include <string>

@@ -1,4 +1,4 @@
-#include "sdai/PopulationCheck.h"
+#include "velkor/sdai/PopulationCheck.h"
 #include "SampleModel.h"
 
 namespace velkor::sdai::test {

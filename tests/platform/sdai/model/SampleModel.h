@@ -3,8 +3,8 @@
 
 #include "Cases.h"
 #include "ModelSchema.h"
-#include "sdai/Model.h"
-#include "sdai/QORDXSdaiSchemaDecl.h"
+#include "velkor/sdai/Model.h"
+#include "velkor/sdai/QORDXSdaiSchemaDecl.h"
 
 #include <gmock/gmock.h>
 #include <stdexcept>

@@ -1,8 +1,8 @@
 /// Exchange structures for tests: a sound frame around the part that a test is about.
 #pragma once
 
-#include "sdai/Part21File.h"
-#include "sdai/SyntaxCheck.h"
+#include "velkor/sdai/Part21File.h"
+#include "velkor/sdai/SyntaxCheck.h"
 
 #include <gmock/gmock.h>
 #include <string>

@@ -1,5 +1,5 @@
 #include "ExchangeText.h"
-#include "sdai/Part21Lexer.h"
+#include "velkor/sdai/Part21Lexer.h"
 
 namespace velkor::sdai::test {
 

@@ -1,0 +1,14 @@
+/// Types of the host's knowledge: PLM types and their specializations.
+#pragma once
+
+#include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/text/QORUnicodeString.h"
+
+class QORIType : public QORBaseUnknown {
+    VELKOR_DECLARE_CLASS
+
+public:
+    virtual HRESULT GetName(QORUnicodeString& name) = 0;
+};
+using QORIType_var = QORInterface_var<QORIType>;

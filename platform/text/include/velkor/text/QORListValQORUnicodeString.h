@@ -1,0 +1,35 @@
+/// A list of strings whose positions count from 1.
+#pragma once
+
+#include "velkor/text/QORUnicodeString.h"
+
+#include <utility>
+#include <vector>
+
+class QORListValQORUnicodeString {
+public:
+    int Size() const noexcept { return static_cast<int>(_items.size()); }
+    void Append(const QORUnicodeString& value) { _items.push_back(value); }
+    void Append(QORUnicodeString&& value) { _items.push_back(std::move(value)); }
+    void Append(const QORListValQORUnicodeString& other);
+
+    /// The item at a position from 1 to Size(); a position outside is a fault of the caller and
+    /// gives an empty text that is not part of the list.
+    QORUnicodeString& operator[](int position) noexcept;
+    const QORUnicodeString& operator[](int position) const noexcept;
+
+    /// First position at or behind `from` whose item is exactly equal; 0 when there is none.
+    int Locate(const QORUnicodeString& value, int from = 1) const noexcept;
+    /// Keeps the first of exactly equal items, in their order. Linear in the number of items.
+    void RemoveDuplicates();
+    /// Removes the item at a position; nothing when there is none.
+    void RemovePosition(int position);
+    void RemoveAll() noexcept { _items.clear(); }
+
+    auto begin() const noexcept { return _items.begin(); }
+    auto end() const noexcept { return _items.end(); }
+
+private:
+    bool has(int position) const noexcept { return position >= 1 && position <= Size(); }
+    std::vector<QORUnicodeString> _items;
+};

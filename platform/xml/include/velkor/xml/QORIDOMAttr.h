@@ -1,0 +1,15 @@
+/// An attribute.
+#pragma once
+
+#include "velkor/xml/QORIDOMNode.h"
+
+class QORIDOMAttr : public QORIDOMNode {
+    VELKOR_DECLARE_CLASS
+
+public:
+    virtual HRESULT GetName(QORUnicodeString& name) = 0;
+    virtual HRESULT GetValue(QORUnicodeString& value) = 0;
+    virtual HRESULT SetValue(const QORUnicodeString& value) = 0;
+    /// Empty for an attribute that was removed.
+    virtual HRESULT GetOwnerElement(QORIDOMElement_var& element) = 0;
+};

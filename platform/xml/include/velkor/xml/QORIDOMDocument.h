@@ -1,0 +1,28 @@
+/// A document. It also offers QORIDOMDocumentTraversal and QORIXMLXPathFactory, to be had by query.
+#pragma once
+
+#include "velkor/xml/QORIDOMNode.h"
+
+class QORIDOMDocument : public QORIDOMNode {
+    VELKOR_DECLARE_CLASS
+
+public:
+    virtual HRESULT GetDocumentElement(QORIDOMElement_var& element) = 0;
+    /// Empty for a document without document type.
+    virtual HRESULT GetDoctype(QORIDOMDocumentType_var& type) = 0;
+    virtual HRESULT GetImplementation(QORIDOMImplementation_var& implementation) = 0;
+    /// Elements of the whole document with a name, prefix included; "*" means all.
+    virtual HRESULT GetElementsByTagName(const QORUnicodeString& name, QORIDOMNodeList_var& elements) = 0;
+
+    /// New nodes of this document, to be put into it by AppendChild or InsertBefore. E_INVALIDARG for
+    /// a name or text that XML does not allow there.
+    virtual HRESULT CreateElement(const QORUnicodeString& name, QORIDOMElement_var& element) = 0;
+    /// An element that declares its namespace itself. A prefix needs a namespace.
+    virtual HRESULT CreateElementNS(const QORUnicodeString& uri, const QORUnicodeString& qualifiedName,
+                                    QORIDOMElement_var& element) = 0;
+    virtual HRESULT CreateTextNode(const QORUnicodeString& text, QORIDOMNode_var& node) = 0;
+    virtual HRESULT CreateCDATASection(const QORUnicodeString& text, QORIDOMNode_var& node) = 0;
+    virtual HRESULT CreateComment(const QORUnicodeString& text, QORIDOMNode_var& node) = 0;
+    virtual HRESULT CreateProcessingInstruction(const QORUnicodeString& target, const QORUnicodeString& text,
+                                                QORIDOMNode_var& node) = 0;
+};
