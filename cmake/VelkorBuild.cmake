@@ -36,20 +36,30 @@ endif()
 
 find_package(Threads REQUIRED)
 
-# velkor_platform_area(NAME SOURCES … DEPENDS area … LIBRARIES target …)
-# One folder of platform/: its headers are seen only by areas that name it in DEPENDS.
-function(velkor_platform_area NAME)
+# velkor_area(LIBRARY NAME SOURCES … DEPENDS area … LIBRARIES target …)
+# One folder of a library that is built of areas: its headers are seen only by areas that name it in DEPENDS.
+# velkor_library() puts the areas together.
+function(velkor_area LIBRARY NAME)
   cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LIBRARIES" ${ARGN})
-  add_library(velkor_${NAME} OBJECT ${ARG_SOURCES})
-  target_include_directories(velkor_${NAME} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
-                                            PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/src)
-  foreach(area IN LISTS ARG_DEPENDS)
-    target_link_libraries(velkor_${NAME} PUBLIC velkor_${area})
-  endforeach()
-  target_link_libraries(velkor_${NAME} PUBLIC ${ARG_LIBRARIES})
-  set_property(GLOBAL APPEND PROPERTY VELKOR_PLATFORM_AREAS ${NAME})
-  set_property(GLOBAL APPEND PROPERTY VELKOR_PLATFORM_LIBRARIES ${ARG_LIBRARIES})
-  set_property(GLOBAL APPEND PROPERTY VELKOR_PLATFORM_INCLUDES ${CMAKE_CURRENT_SOURCE_DIR}/include)
+  set(target ${LIBRARY}_${NAME})
+  add_library(${target} OBJECT ${ARG_SOURCES})
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
+                                       PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/src)
+  list(TRANSFORM ARG_DEPENDS PREPEND ${LIBRARY}_)
+  target_link_libraries(${target} PUBLIC ${ARG_DEPENDS} ${ARG_LIBRARIES})
+  set_property(GLOBAL APPEND PROPERTY ${LIBRARY}_areas ${target})
+  set_property(GLOBAL APPEND PROPERTY ${LIBRARY}_includes ${CMAKE_CURRENT_SOURCE_DIR}/include)
+endfunction()
+
+# velkor_library(LIBRARY)
+# The shared library of all areas declared so far. Who links it sees the public headers of all of them.
+function(velkor_library LIBRARY)
+  add_library(${LIBRARY} SHARED)
+  set_target_properties(${LIBRARY} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  get_property(areas GLOBAL PROPERTY ${LIBRARY}_areas)
+  target_link_libraries(${LIBRARY} PRIVATE ${areas})
+  get_property(includes GLOBAL PROPERTY ${LIBRARY}_includes)
+  target_include_directories(${LIBRARY} INTERFACE "$<BUILD_INTERFACE:${includes}>")
 endfunction()
 
 # velkor_test(NAME SOURCES … LIBRARIES target … DEFINITIONS …)

@@ -10,21 +10,22 @@ set(_package ${CMAKE_INSTALL_LIBDIR}/cmake/Velkor)
 find_package(tl-expected REQUIRED)
 target_link_libraries(velkorplatform INTERFACE tl::expected)
 
-# Build trees see each area's own folder; an installed platform has one.
-get_property(_includes GLOBAL PROPERTY VELKOR_PLATFORM_INCLUDES)
-set_target_properties(velkorplatform PROPERTIES INTERFACE_INCLUDE_DIRECTORIES "$<BUILD_INTERFACE:${_includes}>")
-target_include_directories(velkorplatform INTERFACE $<INSTALL_INTERFACE:${_headers}>)
-target_include_directories(velkor INTERFACE $<INSTALL_INTERFACE:${_headers}>)
+# Build trees see each area's own folder; an installed library has one.
+target_include_directories(velkorplatform INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+target_include_directories(velkor INTERFACE $<INSTALL_INTERFACE:${_headers}/interfaces>)
 
 # The libraries lie side by side, wherever the prefix is.
-set_target_properties(velkor velkorplatform PROPERTIES INSTALL_RPATH "$ORIGIN")
+set_target_properties(velkor velkorplatform velkortoolkit PROPERTIES INSTALL_RPATH "$ORIGIN")
 target_compile_features(velkorplatform INTERFACE cxx_std_20)
 
-install(TARGETS velkorplatform velkor EXPORT VelkorTargets)
+install(TARGETS velkorplatform velkor velkortoolkit EXPORT VelkorTargets)
 install(TARGETS velkor_program)
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/Velkorite/interfaces/ DESTINATION ${_headers} FILES_MATCHING PATTERN "*.h")
-foreach(_include IN LISTS _includes)
-  install(DIRECTORY ${_include}/ DESTINATION ${_headers} FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/Velkorite/interfaces/ DESTINATION ${_headers}/interfaces FILES_MATCHING PATTERN "*.h")
+foreach(_library velkorplatform velkortoolkit)
+  get_property(_includes GLOBAL PROPERTY ${_library}_includes)
+  foreach(_include IN LISTS _includes)
+    install(DIRECTORY ${_include}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+  endforeach()
 endforeach()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/velkor
         FILES_MATCHING PATTERN "*.xml")

@@ -1,7 +1,8 @@
 #include "CommandContext.h"
 
-#include "configuration/ConfigurationReader.h"
-#include "configuration/ConfigurationTable.h"
+#include "terminal/ProgressBar.h"
+#include "velkor/configuration/ConfigurationReader.h"
+#include "velkor/configuration/ConfigurationTable.h"
 #include "velkor/sdai/Model.h"
 #include "velkor/settings/QORDXEnvironmentVariable.h"
 #include "velkor/text/Printable.h"
@@ -68,7 +69,7 @@ bool CommandContext::readConfiguration() {
         configuration.shippedResources = shippedResources;
         return true;
     }
-    ConfigurationReading reading = host::readConfiguration(path, in);
+    ConfigurationReading reading = velkor::readConfiguration(path, in);
     for (const std::string& error : reading.errors) reportUnreadable(error);
     if (!reading.errors.empty() && configurationFile.empty())
         reportUnreadable(std::string(configurationVariable) + " names that configuration");
@@ -80,6 +81,17 @@ bool CommandContext::readConfiguration() {
 void CommandContext::reportUnreadable(const std::string& reason) {
     err << "velkor: " << reason << '\n';
     status = Unreadable;
+}
+
+Progress CommandContext::progress() const {
+    return [bar = std::make_shared<ProgressBar>(err, interactive)](const ProgressStep& step) {
+        bar->show(step.work, step.done, step.total);
+        return true;
+    };
+}
+
+PlatformSetup::Tell CommandContext::tell() const {
+    return [sink = err](const std::string& message) { sink << "velkor: " << message << '\n'; };
 }
 
 std::unique_ptr<sdai::Model> CommandContext::openModel(const std::string& path) {

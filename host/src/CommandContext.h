@@ -1,8 +1,9 @@
 /// What every command of the host shares: where results and messages go, and the exit status.
 #pragma once
 
-#include "configuration/Configuration.h"
-#include "TextSink.h"
+#include "terminal/TextSink.h"
+#include "velkor/configuration/PlatformSetup.h"
+#include "velkor/model/CheckResult.h"
 
 #include <functional>
 #include <iosfwd>
@@ -60,6 +61,13 @@ struct CommandContext {
 
     /// Writes why input cannot be read to `err` and sets the status Unreadable.
     void reportUnreadable(const std::string& reason);
+
+    /// Shows work on the terminal, until the last copy is gone.
+    Progress progress() const;
+    CheckOptions checkOptions(std::size_t limit) const { return {limit, progress()}; }
+
+    /// Takes what the services tell of faults to `err`.
+    PlatformSetup::Tell tell() const;
 
     /// Opens a model; null after reporting why it cannot be read.
     std::unique_ptr<sdai::Model> openModel(const std::string& path);

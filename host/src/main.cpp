@@ -1,6 +1,6 @@
 #include "CommandContext.h"
-#include "configuration/ConfigurationTable.h"
-#include "LastWords.h"
+#include "terminal/LastWords.h"
+#include "velkor/configuration/ConfigurationTable.h"
 #include "velkor/settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
@@ -36,6 +36,7 @@ __attribute__((no_sanitize("address", "undefined", "thread"))) void installNewHa
 } // namespace
 
 int main(int argc, char** argv) {
+    using namespace velkor;
     using namespace velkor::host;
     std::signal(SIGPIPE, SIG_IGN);
     endWithUnreadableMappings();

@@ -1,6 +1,6 @@
-#include "classification/Correspondences.h"
 #include "ConfigurationTestSupport.h"
 #include "DocumentTestSupport.h"
+#include "velkor/classification/Correspondences.h"
 #include "velkor/exchangeservices/QORIExchangeAECServices.h"
 #include "velkor/objectmodeler/ClassDictionary.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"

@@ -1,10 +1,10 @@
-#include "configuration/ConfigurationReader.h"
-#include "configuration/JsonTree.h"
-#include "configuration/PlatformSetup.h"
 #include "ConfigurationTestSupport.h"
+#include "JsonTree.h"
 #include "QORIFCMsgLoggingServices.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCOptionsServices.h"
+#include "velkor/configuration/ConfigurationReader.h"
+#include "velkor/configuration/PlatformSetup.h"
 #include "velkor/exchangelog/QORExchangeErr.h"
 #include "velkor/files/QORISetupDataFinder.h"
 #include "velkor/files/QORSysRTVWalker.h"
@@ -228,7 +228,7 @@ TEST_F(ConfigurationTest, NothingOfARunStays) {
 TEST_F(ConfigurationTest, TheLogOfTheServicesGoesToStandardError) {
     std::ostringstream err;
     {
-        const PlatformSetup setup({}, err);
+        const PlatformSetup setup({}, [&](const std::string& line) { err << line << "\n"; });
         EXPECT_EQ(QORIFCMsgLoggingServices::PutUnicodeMessage("no \x1B[31mwall", 1, 0), S_OK);
         EXPECT_EQ(QORIFCMsgLoggingServices::PutUnicodeMessage("step by step", 2, 0), E_FAIL);
         EXPECT_EQ(err.str(), "velkor: no \\u001b[31mwall\n") << "at once";

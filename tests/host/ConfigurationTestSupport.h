@@ -1,10 +1,10 @@
 /// What the tests of configured commands share: an environment of their own.
 #pragma once
 
-#include "configuration/ConfigurationTable.h"
 #include "ResourceKinds.h"
 #include "TemporaryFolder.h"
 #include "TestSupport.h"
+#include "velkor/configuration/ConfigurationTable.h"
 #include "velkor/settings/QORDXEnvironmentVariable.h"
 
 #include <map>

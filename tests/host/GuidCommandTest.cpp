@@ -1,6 +1,6 @@
 #include "TestSupport.h"
 
-#include "guid/GuidText.h"
+#include "velkor/identifiers/GuidText.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>

@@ -1,7 +1,8 @@
-#include "DisplayText.h"
-#include "Json.h"
+#include "output/Json.h"
 #include "TemporaryFolder.h"
+#include "terminal/DisplayText.h"
 #include "TestSupport.h"
+#include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -151,12 +152,12 @@ TEST(DisplayText, WrapsAtBlanksAndCutsAtWholeCharacters) {
 }
 
 TEST(DisplayText, GroupsDigits) {
-    EXPECT_EQ(grouped(0), "0");
-    EXPECT_EQ(grouped(999), "999");
-    EXPECT_EQ(grouped(1000), "1,000");
-    EXPECT_EQ(grouped(std::numeric_limits<std::uint64_t>::max()), "18,446,744,073,709,551,615");
-    EXPECT_EQ(counted(1, "error", "errors"), "1 error");
-    EXPECT_EQ(counted(1200, "error", "errors"), "1,200 errors");
+    EXPECT_EQ(text::grouped(0), "0");
+    EXPECT_EQ(text::grouped(999), "999");
+    EXPECT_EQ(text::grouped(1000), "1,000");
+    EXPECT_EQ(text::grouped(std::numeric_limits<std::uint64_t>::max()), "18,446,744,073,709,551,615");
+    EXPECT_EQ(text::counted(1, "error", "errors"), "1 error");
+    EXPECT_EQ(text::counted(1200, "error", "errors"), "1,200 errors");
 }
 
 } // namespace velkor::host

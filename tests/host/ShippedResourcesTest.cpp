@@ -1,8 +1,8 @@
-#include "configuration/PlatformSetup.h"
 #include "ConfigurationTestSupport.h"
 #include "DocumentTestSupport.h"
 #include "ResourceKinds.h"
-#include "validation/SetDefinitions.h"
+#include "SetDefinitions.h"
+#include "velkor/configuration/PlatformSetup.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include <gmock/gmock.h>
@@ -39,7 +39,7 @@ protected:
 
 // What else they name is judged as any file's is, with the other resources.
 TEST_F(ShippedResourcesTest, DefinitionsAreReadAndHaveWhatTheAttributeCatalogueNames) {
-    const PlatformSetup setup(configuration, std::cerr);
+    const PlatformSetup setup(configuration, [&](const std::string& line) { std::cerr << line << "\n"; });
     SetDefinitions definitions;
     std::size_t files = 0, named = 0;
     for (const auto& file : std::filesystem::directory_iterator(definitionFolder)) {

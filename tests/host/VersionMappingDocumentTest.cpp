@@ -1,5 +1,5 @@
-#include "dictionary/ReleaseRenames.h"
 #include "TestSupport.h"
+#include "velkor/dictionaries/ReleaseRenames.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include <gmock/gmock.h>

@@ -1,12 +1,13 @@
 // velkor check
 
 #include "CommandContext.h"
-#include "DisplayText.h"
-#include "Json.h"
-#include "LimitOption.h"
-#include "ModelCheck.h"
-#include "ProblemText.h"
-#include "report/ProblemSummary.h"
+#include "commands/LimitOption.h"
+#include "output/Json.h"
+#include "output/ProblemText.h"
+#include "terminal/DisplayText.h"
+#include "velkor/check/ModelCheck.h"
+#include "velkor/check/ProblemSummary.h"
+#include "velkor/text/Wording.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
@@ -28,10 +29,10 @@ void writeText(CommandContext& context, const std::string& file, const CheckResu
         return;
     }
     const ProblemSummary summary = summarized(result.problems, result.total);
-    context.out << file << ": " << counted(summary.errors, "error", "errors") << ", "
-                << counted(summary.warnings, "warning", "warnings");
+    context.out << file << ": " << text::counted(summary.errors, "error", "errors") << ", "
+                << text::counted(summary.warnings, "warning", "warnings");
     if (summary.total > summary.listed()) {
-        context.out << " among the first " << grouped(summary.listed()) << " of " << grouped(summary.total)
+        context.out << " among the first " << text::grouped(summary.listed()) << " of " << text::grouped(summary.total)
                     << " problems (--limit shows more)";
     }
     context.out << '\n';
@@ -53,14 +54,14 @@ void runCheck(CommandContext& context, const Options& options) {
     if (!file) return context.reportUnreadable(file.error());
     const auto schemaProblem = options.syntaxOnly ? std::nullopt : sdai::Model::schemaProblem(**file);
     if (options.syntaxOnly || schemaProblem) {
-        CheckResult result = checkStructure(context, **file, options.limit);
+        CheckResult result = checkStructure(**file, context.checkOptions(options.limit));
         if (schemaProblem) result.add({*schemaProblem}, 1, options.limit);
         return finish(context, (*file)->name(), {}, result);
     }
     const auto model = sdai::Model::over(std::move(*file));
     if (!model) return context.reportUnreadable(model.error());
     finish(context, (*model)->file().name(), std::string((*model)->schema().name()),
-           checkModel(context, **model, options.limit));
+           checkModel(**model, context.checkOptions(options.limit)));
 }
 
 } // namespace

@@ -1,16 +1,17 @@
 // velkor classify
 
-#include "classification/Classification.h"
 #include "CommandContext.h"
-#include "configuration/PlatformSetup.h"
-#include "configuration/ResourceSearch.h"
-#include "Csv.h"
-#include "DisplayText.h"
-#include "Json.h"
-#include "LimitOption.h"
-#include "TextTable.h"
+#include "commands/LimitOption.h"
+#include "output/Csv.h"
+#include "output/Json.h"
+#include "terminal/DisplayText.h"
+#include "terminal/TextTable.h"
+#include "velkor/classification/Classification.h"
+#include "velkor/configuration/PlatformSetup.h"
 #include "velkor/exchangeservices/QORIExchangeAECServices.h"
 #include "velkor/objectmodeler/ClassDictionary.h"
+#include "velkor/resources/ResourceSearch.h"
+#include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>
@@ -96,21 +97,19 @@ void writeText(TextSink out, const sdai::Model& model, const Result& result, std
     TextTable classes({{"entity"}, {"neutral id"}, {"PLM type"}, {"count", TextTable::Right}});
     for (const Group& group : groupsOf(classification)) {
         const Decision& decision = *group.decision;
-        classes.add({entityName(decision), orDash(decision.neutralId), orDash(decision.plmType), grouped(group.count)});
+        classes.add(
+            {entityName(decision), orDash(decision.neutralId), orDash(decision.plmType), text::grouped(group.count)});
     }
     if (!classes.empty()) {
         classes.write(out);
         out << '\n';
     }
     const std::size_t total = classification.products.size();
-    out << model.file().name() << ": " << counted(total, "product", "products");
-    if (total > limit) out << ", the first " << grouped(limit) << " are listed (--limit shows more)";
-    if (classification.unclassified > 0) out << "; " << grouped(classification.unclassified) << " without neutral id";
+    out << model.file().name() << ": " << text::counted(total, "product", "products");
+    if (total > limit) out << ", the first " << text::grouped(limit) << " are listed (--limit shows more)";
+    if (classification.unclassified > 0)
+        out << "; " << text::grouped(classification.unclassified) << " without neutral id";
     out << "\nby " << result.documentPath << '\n';
-}
-
-Json textOrNull(const std::string& text) {
-    return text.empty() ? Json() : Json(text);
 }
 
 Json entryJson(const Entry* entry) {
@@ -168,7 +167,7 @@ void writeCsv(CommandContext& context, const sdai::Model& model, const Classific
     });
     const std::size_t total = classification.products.size();
     if (total > limit) {
-        context.err << "velkor: the first " << grouped(limit) << " of " << grouped(total)
+        context.err << "velkor: the first " << text::grouped(limit) << " of " << text::grouped(total)
                     << " products are listed (--limit shows more)\n";
     }
 }
@@ -176,7 +175,7 @@ void writeCsv(CommandContext& context, const sdai::Model& model, const Classific
 void runClassify(CommandContext& context, const Options& options) {
     const auto model = context.openModel(options.path);
     if (!model) return;
-    const PlatformSetup setup(context.configuration, context.err);
+    const PlatformSetup setup(context.configuration, context.tell());
     const ResourceSearch search = searchResource(aecMappingResource, setup);
     if (!search.isUsable()) return context.reportUnreadable("no document of correspondences: " + search.reason);
     Result result{search.used.front().path, {}, {}};
@@ -184,7 +183,7 @@ void runClassify(CommandContext& context, const Options& options) {
     auto document = FAILED(services->LoadAECResource()) ? std::nullopt : Correspondences::read(result.documentPath);
     if (!document) return context.reportUnreadable(result.documentPath + ": cannot be read");
     result.document = std::move(*document);
-    result.classification = classify(context, *model, result.document);
+    result.classification = classify(*model, result.document, context.progress());
     context.status = result.classification.unclassified == 0 ? Done : Findings;
     if (context.json())
         writeJson(context.out, resultJson(*model, result, options.limit));

@@ -1,13 +1,13 @@
 // velkor dictionary list|show|entity|diff
 
 #include "CommandContext.h"
-#include "dictionary/DictionaryDiff.h"
-#include "dictionary/VersionMappingDocument.h"
-#include "DisplayText.h"
-#include "Json.h"
-#include "NearestNames.h"
-#include "TextTable.h"
+#include "output/Json.h"
+#include "terminal/DisplayText.h"
+#include "terminal/TextTable.h"
+#include "velkor/dictionaries/DictionaryDiff.h"
+#include "velkor/dictionaries/VersionMappingDocument.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
+#include "velkor/text/NearestNames.h"
 
 #include <array>
 #include <CLI/CLI.hpp>
@@ -197,7 +197,7 @@ void runEntity(CommandContext& context, const std::string& release, const std::s
     context.err << "velkor: " << schema->name() << " has no entity \"" << name << '"';
     std::vector<std::string_view> known;
     for (const EntityDefinition* entity : schema->entities()) known.push_back(entity->name());
-    const auto nearest = nearestNames(known, name, 5, "IFC");
+    const auto nearest = text::nearestNames(known, name, 5, "IFC");
     if (!nearest.empty()) context.err << "; nearest: " << joined(nearest);
     context.err << '\n';
 }

@@ -1,13 +1,14 @@
 // velkor guid
 
 #include "CommandContext.h"
-#include "DisplayText.h"
-#include "guid/GuidCheck.h"
-#include "guid/GuidText.h"
-#include "Json.h"
-#include "LimitOption.h"
-#include "ProblemText.h"
+#include "commands/LimitOption.h"
+#include "output/Json.h"
+#include "output/ProblemText.h"
 #include "QORIFCExportServices.h"
+#include "terminal/DisplayText.h"
+#include "velkor/identifiers/GuidCheck.h"
+#include "velkor/identifiers/GuidText.h"
+#include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>
@@ -92,18 +93,18 @@ void runFromPlm(CommandContext& context, std::vector<std::string> ids) {
 void writeText(CommandContext& context, const std::string& file, const guid::GuidCheck& check) {
     const CheckResult& result = check.result;
     for (const sdai::Problem& problem : result.problems) writeProblem(context.out, file, problem);
-    context.out << file << ": " << counted(check.count, "identifier", "identifiers");
+    context.out << file << ": " << text::counted(check.count, "identifier", "identifiers");
     if (result.total == 0 && check.count > 0) context.out << ", all well-formed and unique";
-    if (result.total > 0) context.out << ", " << counted(result.total, "problem", "problems");
+    if (result.total > 0) context.out << ", " << text::counted(result.total, "problem", "problems");
     if (result.total > result.problems.size())
-        context.out << ", the first " << grouped(result.problems.size()) << " are listed (--limit shows more)";
+        context.out << ", the first " << text::grouped(result.problems.size()) << " are listed (--limit shows more)";
     context.out << '\n';
 }
 
 void runCheck(CommandContext& context, const Arguments& arguments) {
     const auto model = context.openModel(arguments.model);
     if (!model) return;
-    const guid::GuidCheck check = guid::checkGuids(context, *model, arguments.limit);
+    const guid::GuidCheck check = guid::checkGuids(*model, context.checkOptions(arguments.limit));
     context.status = check.result.total == 0 ? Done : Findings;
     if (!context.json()) return writeText(context, model->file().name(), check);
     Json problems = Json::array();

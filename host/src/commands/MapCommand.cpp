@@ -1,17 +1,18 @@
 // velkor map
 
 #include "CommandContext.h"
-#include "configuration/ConfigurationTable.h"
-#include "configuration/PlatformSetup.h"
-#include "configuration/ResourceSearch.h"
-#include "DisplayText.h"
-#include "Json.h"
+#include "output/Json.h"
 #include "QORIFCOptionsFromXCAD.h"
-#include "TextTable.h"
+#include "terminal/DisplayText.h"
+#include "terminal/TextTable.h"
+#include "velkor/configuration/ConfigurationTable.h"
+#include "velkor/configuration/PlatformSetup.h"
 #include "velkor/exchangeservices/QORIExchangeIFCCustomMappingServices.h"
 #include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
 #include "velkor/exchangeservices/QORIExchangeIFCPLMAttributesMappingServices.h"
 #include "velkor/objectmodeler/ClassDictionary.h"
+#include "velkor/resources/ResourceSearch.h"
+#include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>
@@ -48,10 +49,6 @@ std::string upper(const std::string& name) {
     QORUnicodeString result = unicode(name);
     result.ToUpper();
     return text(result);
-}
-
-Json textOrNull(const std::string& text) {
-    return text.empty() ? Json() : Json(text);
 }
 
 /// A status of a mapping service and what it means.
@@ -242,7 +239,7 @@ private:
         _context.status = count == 0 ? Findings : Done;
         if (_context.json()) return false;
         _context.out << pair() << "  " << hexadecimal(status) << "  "
-                     << (status == S_OK ? counted(static_cast<std::uint64_t>(count), "entry", "entries")
+                     << (status == S_OK ? text::counted(static_cast<std::uint64_t>(count), "entry", "entries")
                                         : meaningOf(status, false).words)
                      << '\n';
         return true;
@@ -271,7 +268,7 @@ void runVersion(CommandContext& context, const Arguments& arguments) {
     const int asked =
         (arguments.entity.empty() ? 0 : 1) + (arguments.deprecated ? 1 : 0) + (arguments.introduced ? 1 : 0);
     if (asked != 1) return badUsage(context, "expected one of ENTITY, --deprecated and --introduced");
-    const PlatformSetup setup(context.configuration, context.err);
+    const PlatformSetup setup(context.configuration, context.tell());
     VersionMapping(context, arguments, from, to).run(setup);
 }
 
@@ -288,7 +285,7 @@ void runCustom(CommandContext& context, const Arguments& arguments) {
         return badUsage(context, "--scope: expected the name of a type followed by _Import or _Export, found \"" +
                                      arguments.scope + '"');
     }
-    const PlatformSetup setup(context.configuration, context.err);
+    const PlatformSetup setup(context.configuration, context.tell());
     const auto document = documentOf(context, customMappingResource, setup);
     if (!document) return;
     const QORIExchangeIFCCustomMappingServices_var services =
@@ -313,7 +310,7 @@ void runCustom(CommandContext& context, const Arguments& arguments) {
 // --- PLM attributes --------------------------------------------------------------------------------
 
 void runPlm(CommandContext& context, const Arguments& arguments) {
-    const PlatformSetup setup(context.configuration, context.err);
+    const PlatformSetup setup(context.configuration, context.tell());
     const QORIExchangeIFCPLMAttributesMappingServices_var services =
         objectmodeler::createComponent("ExchangeIFCPLMAttributesMappingServices");
     services->LoadMapping();

@@ -1,12 +1,12 @@
 // velkor options
 
 #include "CommandContext.h"
-#include "configuration/ConfigurationTable.h"
-#include "configuration/EffectiveOptions.h"
-#include "DisplayText.h"
-#include "Json.h"
-#include "ProblemText.h"
-#include "TextTable.h"
+#include "output/Json.h"
+#include "output/ProblemText.h"
+#include "terminal/DisplayText.h"
+#include "terminal/TextTable.h"
+#include "velkor/configuration/ConfigurationTable.h"
+#include "velkor/configuration/EffectiveOptions.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>
@@ -95,7 +95,7 @@ void listVariables(CommandContext& context) {
 
 void runOptions(CommandContext& context, bool list) {
     if (list) return listVariables(context);
-    const PlatformSetup setup(context.configuration, context.err);
+    const PlatformSetup setup(context.configuration, context.tell());
     const std::vector<EffectiveOption> options = effectiveOptions(setup);
     if (context.json())
         writeJson(context.out, optionsJson(context.configuration.path, setup, options));

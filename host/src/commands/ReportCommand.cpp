@@ -1,10 +1,12 @@
 // velkor report
 
 #include "CommandContext.h"
-#include "configuration/PlatformSetup.h"
-#include "guid/GuidCheck.h"
-#include "ModelCheck.h"
-#include "report/Report.h"
+#include "output/PropertySetText.h"
+#include "output/Report.h"
+#include "output/UnitText.h"
+#include "velkor/check/ModelCheck.h"
+#include "velkor/configuration/PlatformSetup.h"
+#include "velkor/identifiers/GuidCheck.h"
 #include "velkor/sdai/Model.h"
 
 #include <CLI/CLI.hpp>
@@ -18,7 +20,7 @@ namespace {
 constexpr std::size_t mostProblems = 10'000;
 
 void addPropertySets(CommandContext& context, const sdai::Model& model, Report& report) {
-    report.propertySets = checkPropertySets(context, model, mostProblems);
+    report.propertySets = checkPropertySets(model, context.checkOptions(mostProblems));
     std::vector<sdai::Problem> problems;
     for (SetFinding& finding : report.propertySets.findings) problems.push_back(std::move(finding.problem));
     report.propertySets.findings.clear();
@@ -28,11 +30,11 @@ void addPropertySets(CommandContext& context, const sdai::Model& model, Report& 
 void runReport(CommandContext& context, const std::string& path) {
     const auto model = context.openModel(path);
     if (!model) return;
-    const PlatformSetup setup(context.configuration, context.err);
+    const PlatformSetup setup(context.configuration, context.tell());
     Report report{modelFacts(*model), unitReport(*model), {}, 0, {}, {}, {}};
-    const CheckResult check = checkModel(context, *model, mostProblems);
+    const CheckResult check = checkModel(*model, context.checkOptions(mostProblems));
     report.problems = summarized(check.problems, check.total);
-    const guid::GuidCheck guids = guid::checkGuids(context, *model, mostProblems);
+    const guid::GuidCheck guids = guid::checkGuids(*model, context.checkOptions(mostProblems));
     report.identifierCount = guids.count;
     report.identifiers = summarized(guids.result.problems, guids.result.total);
     addPropertySets(context, *model, report);

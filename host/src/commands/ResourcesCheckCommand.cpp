@@ -1,14 +1,15 @@
 // velkor resources check
 
 #include "CommandContext.h"
-#include "configuration/PlatformSetup.h"
-#include "configuration/ResourceSearch.h"
-#include "DisplayText.h"
-#include "Json.h"
-#include "LimitOption.h"
-#include "linter/ResourceCheck.h"
-#include "ProblemText.h"
-#include "report/ProblemSummary.h"
+#include "commands/LimitOption.h"
+#include "output/Json.h"
+#include "output/ProblemText.h"
+#include "terminal/DisplayText.h"
+#include "velkor/check/ProblemSummary.h"
+#include "velkor/configuration/PlatformSetup.h"
+#include "velkor/resources/ResourceCheck.h"
+#include "velkor/resources/ResourceSearch.h"
+#include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>
@@ -48,7 +49,7 @@ struct Counts {
 
 // The files that the services use, kind by kind.
 std::vector<CheckedFile> checkUsed(CommandContext& context, lint::ResourceCheck& check) {
-    const PlatformSetup setup(context.configuration, context.err);
+    const PlatformSetup setup(context.configuration, context.tell());
     std::vector<CheckedFile> result;
     for (const LinterKind& kind : lint::linterKinds()) {
         std::vector<std::string> paths;
@@ -63,10 +64,11 @@ std::vector<CheckedFile> checkUsed(CommandContext& context, lint::ResourceCheck&
 }
 
 std::string summary(const Counts& counts) {
-    std::string result = counted(counts.files, "file", "files") + ", " + counted(counts.entries, "entry", "entries");
+    std::string result =
+        text::counted(counts.files, "file", "files") + ", " + text::counted(counts.entries, "entry", "entries");
     if (counts.findings() == 0) return result + ", no findings";
-    return result + ", " + counted(counts.errors, "error", "errors") + ", " +
-           counted(counts.warnings, "warning", "warnings");
+    return result + ", " + text::counted(counts.errors, "error", "errors") + ", " +
+           text::counted(counts.warnings, "warning", "warnings");
 }
 
 void writeText(CommandContext& context, const std::vector<CheckedFile>& files, const Counts& total, bool isSearched) {
@@ -88,8 +90,8 @@ void writeText(CommandContext& context, const std::vector<CheckedFile>& files, c
             context.out << kind.resource->name << ": no file that can be read; \"velkor resources\" says why\n";
     }
     if (total.listed == total.findings()) return;
-    context.out << "the first " << grouped(total.listed) << " of " << counted(total.findings(), "finding", "findings")
-                << " are listed (--limit shows more)\n";
+    context.out << "the first " << text::grouped(total.listed) << " of "
+                << text::counted(total.findings(), "finding", "findings") << " are listed (--limit shows more)\n";
 }
 
 Json findingsJson(const std::vector<Finding>& findings) {

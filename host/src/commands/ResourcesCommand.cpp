@@ -1,11 +1,12 @@
 // velkor resources
 
 #include "CommandContext.h"
-#include "configuration/PlatformSetup.h"
-#include "configuration/ResourceSearch.h"
-#include "DisplayText.h"
-#include "Json.h"
-#include "report/Page.h"
+#include "output/Json.h"
+#include "terminal/DisplayText.h"
+#include "terminal/Page.h"
+#include "velkor/configuration/PlatformSetup.h"
+#include "velkor/resources/ResourceSearch.h"
+#include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>
@@ -71,10 +72,10 @@ void writeEntries(Page& page, const ResourceSearch& search, const std::vector<En
                                          [&](const Entry& entry) { return entry.use == use; });
         constexpr const char* words[] = {" used", " not used", " hidden"};
         if (count == 0) continue;
-        rest += (rest.empty() ? "" : ", ") + grouped(static_cast<std::uint64_t>(count)) +
+        rest += (rest.empty() ? "" : ", ") + text::grouped(static_cast<std::uint64_t>(count)) +
                 words[static_cast<std::size_t>(use)];
     }
-    page.line("  " + grouped(entries.size() - shown) + " others: " + rest);
+    page.line("  " + text::grouped(entries.size() - shown) + " others: " + rest);
 }
 
 void writeText(Page& page, const ResourceSearch& search) {
@@ -90,7 +91,7 @@ void writeText(Page& page, const ResourceSearch& search) {
         writeEntries(page, search, folder.entries);
     }
     if (search.used.size() > mostShown)
-        page.line("-> " + grouped(search.used.size()) + " files");
+        page.line("-> " + text::grouped(search.used.size()) + " files");
     else
         for (const auto& file : search.used) page.line("-> " + withState(file.path, file.state));
     for (const std::string& remark : search.remarks) page.line({"note: " + remark, Page::Style::Doubtful});
@@ -130,7 +131,7 @@ Json searchJson(const ResourceSearch& search) {
 }
 
 void runResources(CommandContext& context) {
-    const PlatformSetup setup(context.configuration, context.err);
+    const PlatformSetup setup(context.configuration, context.tell());
     Json resources = Json::array();
     Page page(context.out, context.color);
     const std::string& path = context.configuration.path;

@@ -1,11 +1,12 @@
 // velkor units
 
 #include "CommandContext.h"
-#include "DisplayText.h"
-#include "Json.h"
-#include "TextTable.h"
-#include "UnitReport.h"
+#include "output/Json.h"
+#include "output/UnitText.h"
+#include "terminal/DisplayText.h"
+#include "terminal/TextTable.h"
 #include "velkor/sdai/Model.h"
+#include "velkor/text/Wording.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
@@ -28,19 +29,19 @@ void writeText(TextSink out, const sdai::Model& model, const UnitReport& report)
                      {"SI factor"}});
     for (const UnitReport::Unit& unit : report.units) {
         units.add({'#' + std::to_string(unit.id), unit.entity, unit.type, unit.name,
-                   unit.slot ? std::to_string(*unit.slot) : "-", shortest(unit.factor)});
+                   unit.slot ? std::to_string(*unit.slot) : "-", text::shortest(unit.factor)});
     }
     if (!units.empty()) units.write(out, "  ");
 
-    out << "\nGeometry\n  1 length unit = " << shortest(report.lengthFactor)
-        << " mm\n  1 plane angle unit = " << shortest(report.angleFactor) << " rad\n";
+    out << "\nGeometry\n  1 length unit = " << text::shortest(report.lengthFactor)
+        << " mm\n  1 plane angle unit = " << text::shortest(report.angleFactor) << " rad\n";
     if (!report.lengthUnitName.empty()) {
         out << "  document length unit: " << shortened(report.lengthUnitName, TextTable::widest) << ", factor "
-            << shortest(report.lengthUnitFactor) << '\n';
+            << text::shortest(report.lengthUnitFactor) << '\n';
     }
     out << "\nFactor to SI by measure type\n";
     TextTable measures({{"measure type"}, {"factor"}});
-    for (const auto& [name, factor] : report.measures) measures.add({name, shortest(factor)});
+    for (const auto& [name, factor] : report.measures) measures.add({name, text::shortest(factor)});
     measures.write(out, "  ");
 }
 

@@ -1,12 +1,14 @@
 // velkor validate
 
 #include "CommandContext.h"
-#include "configuration/PlatformSetup.h"
-#include "DisplayText.h"
-#include "Json.h"
-#include "LimitOption.h"
-#include "ProblemText.h"
-#include "validation/PropertySetCheck.h"
+#include "commands/LimitOption.h"
+#include "output/Json.h"
+#include "output/ProblemText.h"
+#include "output/PropertySetText.h"
+#include "terminal/DisplayText.h"
+#include "velkor/configuration/PlatformSetup.h"
+#include "velkor/propertysets/PropertySetCheck.h"
+#include "velkor/text/Wording.h"
 
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
@@ -25,18 +27,17 @@ struct Options {
 
 void writeText(TextSink out, const std::string& file, const PropertySetCheck& check) {
     for (const SetFinding& finding : check.findings) writeProblem(out, file, finding.problem);
-    out << file << ": " << (check.total == 0 ? "no findings" : counted(check.total, "finding", "findings"));
+    out << file << ": " << (check.total == 0 ? "no findings" : text::counted(check.total, "finding", "findings"));
     if (check.total > check.findings.size())
-        out << ", the first " << grouped(check.findings.size()) << " are listed (--limit shows more)";
-    out << "; " << grouped(check.checkedSets) << " of " << counted(check.sets, "set", "sets") << " and "
-        << grouped(check.checkedProperties) << " of "
-        << counted(check.properties, "property or quantity", "properties and quantities") << " checked\n";
-    if (check.customSets > 0) out << file << ": " << counted(check.customSets, "set", "sets") << " of your own\n";
+        out << ", the first " << text::grouped(check.findings.size()) << " are listed (--limit shows more)";
+    out << "; " << text::grouped(check.checkedSets) << " of " << text::counted(check.sets, "set", "sets") << " and "
+        << text::grouped(check.checkedProperties) << " of "
+        << text::counted(check.properties, "property or quantity", "properties and quantities") << " checked\n";
+    if (check.customSets > 0) out << file << ": " << text::counted(check.customSets, "set", "sets") << " of your own\n";
     if (check.uncheckedSets() > 0) out << file << ": no definition for " << undefinedText(check, mostNames) << '\n';
 }
 
 Json findingJson(const SetFinding& finding) {
-    const auto textOrNull = [](const std::string& text) { return text.empty() ? Json() : Json(text); };
     const Json object =
         finding.object == 0
             ? Json()
@@ -64,8 +65,8 @@ void writeResult(CommandContext& context, const sdai::Model& model, const Proper
 void runValidate(CommandContext& context, const Options& options) {
     const auto model = context.openModel(options.path);
     if (!model) return;
-    const PlatformSetup setup(context.configuration, context.err);
-    const PropertySetCheck check = checkPropertySets(context, *model, options.limit);
+    const PlatformSetup setup(context.configuration, context.tell());
+    const PropertySetCheck check = checkPropertySets(*model, context.checkOptions(options.limit));
     if (!check.hasDefinitions) {
         return context.reportUnreadable(
             "there are no definitions of property sets to check by; velkor resources says where they are looked for");

@@ -64,14 +64,13 @@ PopulationChecker::PopulationChecker(const Model& model, const PopulationCheckOp
 void PopulationChecker::check() {
     const std::uint32_t count = _model.file().instanceCount();
     for (std::uint32_t number = 0; number < count; ++number) {
-        if (_options.progress && number % progressStep == 0) {
-            _options.progress(_model.file().offset(number), _model.file().text().size());
-        }
+        if (_options.progress && number % progressStep == 0 &&
+            !_options.progress(_model.file().offset(number), _model.file().text().size()))
+            break;
         checkInstance(number);
     }
     std::ranges::stable_sort(_problems.problems(), {}, &Problem::offset);
     for (Problem& problem : _problems.problems()) problem.line = _model.file().line(problem.offset);
-    if (_options.progress) _options.progress(_model.file().text().size(), _model.file().text().size());
 }
 
 void PopulationChecker::checkInstance(std::uint32_t number) {

@@ -101,7 +101,6 @@ void SyntaxChecker::check() {
         error(_begin + text.size(), inSection ? "endsec-missing" : "end-missing",
               std::string("expected ") + expectedAt[static_cast<std::size_t>(_place)] + ", found the end of the text");
     }
-    if (_progress) _progress(text.size(), text.size());
 
     const LineTable lines(text);
     _problems.finish(lines);
@@ -480,7 +479,7 @@ void SyntaxChecker::report(Severity severity, const char* at, const char* code, 
 void SyntaxChecker::showProgress(std::uint64_t done) {
     if (!_progress || done - _shown < progressStep) return;
     _shown = done;
-    _progress(done, _file.text().size());
+    if (!_progress(done, _file.text().size())) _stopped = true;
 }
 
 } // namespace part21

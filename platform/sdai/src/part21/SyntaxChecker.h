@@ -56,6 +56,7 @@ private:
     bool unexpected(const Token& token, const char* expected);
     void error(const char* at, const char* code, std::string message);
     void report(Severity severity, const char* at, const char* code, std::string message);
+    /// Stops when the caller wants no more.
     void showProgress(std::uint64_t done);
 
     const Part21File& _file;

@@ -7,8 +7,8 @@
 
 namespace velkor::sdai {
 
-/// Called now and then with the bytes done.
-using Progress = std::function<void(std::uint64_t done, std::uint64_t total)>;
+/// Called now and then with the bytes done; false ends the work, and what has been found so far is the answer.
+using Progress = std::function<bool(std::uint64_t done, std::uint64_t total)>;
 
 /// One pass over the whole text: header entities (FILE_DESCRIPTION, FILE_NAME, FILE_SCHEMA,
 /// each once, in order, with their arity), section structure, instance ids above 0 and

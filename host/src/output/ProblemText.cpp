@@ -1,0 +1,25 @@
+#include "output/ProblemText.h"
+
+#include "terminal/DisplayText.h"
+#include "velkor/check/ProblemSummary.h"
+
+#include <nlohmann/json.hpp>
+
+namespace velkor::host {
+
+void writeProblem(TextSink out, const std::string& file, const sdai::Problem& problem) {
+    out << file << ':' << problem.line << ": " << name(problem.severity) << ": ";
+    if (problem.instance != 0) out << '#' << problem.instance << ": ";
+    out << shortened(problem.message, longestMessage) << " [" << problem.code << "]\n";
+}
+
+Json problemJson(const sdai::Problem& problem) {
+    return {{"severity", name(problem.severity)},
+            {"line", problem.line},
+            {"offset", problem.offset},
+            {"instance", problem.instance == 0 ? Json() : Json(problem.instance)},
+            {"code", problem.code},
+            {"message", problem.message}};
+}
+
+} // namespace velkor::host

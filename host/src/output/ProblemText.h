@@ -1,0 +1,19 @@
+/// Problems of a model as lines for people and as JSON.
+#pragma once
+
+#include "output/Json.h"
+#include "velkor/sdai/Problem.h"
+
+#include <string>
+
+namespace velkor::host {
+
+/// The widest line of a message that people are shown; it is cut there.
+inline constexpr std::size_t longestMessage = 1000;
+
+/// One line as compilers write it, so that editors jump to the place.
+void writeProblem(TextSink out, const std::string& file, const sdai::Problem& problem);
+
+Json problemJson(const sdai::Problem& problem);
+
+} // namespace velkor::host

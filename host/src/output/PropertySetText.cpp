@@ -1,0 +1,48 @@
+#include "output/PropertySetText.h"
+
+#include "terminal/DisplayText.h"
+#include "velkor/text/Wording.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+
+namespace velkor::host {
+
+namespace {
+
+/// Of a name that people are shown, in columns.
+constexpr std::size_t widestName = 80;
+
+} // namespace
+
+void reportUnreadableDefinitions(CommandContext& context, const PropertySetCheck& check) {
+    for (const auto& [name, count] : check.unreadable)
+        context.reportUnreadable("the definition of " + name + " cannot be read");
+}
+
+Json coverageJson(const PropertySetCheck& check) {
+    Json names = Json::array();
+    for (const auto& [name, count] : check.uncheckedNames()) names.push_back({{"set", name}, {"count", count}});
+    return {{"sets",
+             {{"total", check.sets},
+              {"checked", check.checkedSets},
+              {"custom", check.customSets},
+              {"not_checked", check.uncheckedSets()}}},
+            {"properties", {{"total", check.properties}, {"checked", check.checkedProperties}}},
+            {"without_definition", std::move(names)}};
+}
+
+std::string undefinedText(const PropertySetCheck& check, std::size_t most) {
+    const auto names = check.uncheckedNames();
+    std::string text;
+    const std::size_t shown = std::min(names.size(), most);
+    for (std::size_t i = 0; i < shown; ++i) {
+        const auto& [name, count] = names[i];
+        text += (text.empty() ? "" : ", ") + (name.empty() ? "sets without a name" : shortened(name, widestName));
+        if (count > 1) text += " (" + text::grouped(count) + ')';
+    }
+    if (names.size() > shown) text += ", " + text::counted(names.size() - shown, "other", "others");
+    return text;
+}
+
+} // namespace velkor::host

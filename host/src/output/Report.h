@@ -1,0 +1,28 @@
+/// What `velkor report` tells about a model, as a page and as JSON.
+#pragma once
+
+#include "output/Json.h"
+#include "velkor/check/ProblemSummary.h"
+#include "velkor/model/ModelFacts.h"
+#include "velkor/propertysets/PropertySetCheck.h"
+#include "velkor/units/UnitReport.h"
+
+namespace velkor::host {
+
+struct Report {
+    ModelFacts facts;
+    UnitReport units;
+    ProblemSummary problems;
+    /// Instances with an identifier, and what is wrong with those.
+    std::uint64_t identifierCount = 0;
+    ProblemSummary identifiers;
+    /// What the sets' definitions cover, without the findings, and those by kind.
+    PropertySetCheck propertySets;
+    ProblemSummary setFindings;
+};
+
+void writeReportPage(TextSink out, bool color, const Report& report);
+
+Json reportJson(const Report& report);
+
+} // namespace velkor::host

@@ -1,0 +1,38 @@
+/// Problems counted by kind.
+#pragma once
+
+#include "velkor/sdai/Problem.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace velkor {
+
+struct ProblemSummary {
+    struct Kind {
+        std::string code;
+        sdai::Severity severity;
+        std::uint64_t count;
+        /// The first in the file.
+        sdai::Problem first;
+    };
+
+    /// Errors before warnings, the most frequent first.
+    std::vector<Kind> kinds;
+    /// Of the problems listed; `total` counts those beyond the limit of the check as well.
+    std::uint64_t errors = 0;
+    std::uint64_t warnings = 0;
+    std::uint64_t total = 0;
+
+    std::uint64_t listed() const noexcept { return errors + warnings; }
+};
+
+/// "error" or "warning".
+const char* name(sdai::Severity severity);
+
+/// `problems` in file order.
+ProblemSummary summarized(std::span<const sdai::Problem> problems, std::uint64_t total);
+
+} // namespace velkor

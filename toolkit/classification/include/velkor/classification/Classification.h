@@ -1,0 +1,52 @@
+/// The products of a model, each with the neutral identifier and the PLM type that the services give it.
+#pragma once
+
+#include "velkor/classification/Correspondences.h"
+#include "velkor/model/Progress.h"
+#include "velkor/sdai/Model.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace velkor {
+
+struct Classification {
+    /// What all products of one entity for which the same entry decides have in common.
+    struct Decision {
+        /// Null for complex instances.
+        const sdai::EntityDefinition* entity = nullptr;
+        /// Empty when the services give none.
+        std::string neutralId;
+        /// Empty when there is none.
+        std::string plmType;
+        /// The type as which the product was presented when the services answered; empty when they did not.
+        std::string ifcType;
+        /// The entry that decided, in the document; null without one.
+        const Correspondences::Entry* entry = nullptr;
+        /// Why there is no neutral identifier; empty when there is one.
+        std::string reason;
+        std::uint64_t count = 0;
+    };
+    struct Product {
+        /// Of the instance, in file order.
+        std::uint32_t number;
+        /// Position in `decisions`.
+        std::uint32_t decision;
+    };
+
+    std::vector<Decision> decisions;
+    /// In file order.
+    std::vector<Product> products;
+    std::uint64_t unclassified = 0;
+    /// False when the caller has ended the work before its end.
+    bool isComplete = true;
+};
+
+/// Asks the services about every IFCPRODUCT. A product is presented as its own entity, and as long as there is no
+/// answer as the next supertype. In a release that has no entity for a class but a type, a product of that type is
+/// presented as the class first: a pump of IFC2X3 as IFCPUMP. The platform must have been set up, the services must
+/// have the document, which stays where it is.
+Classification classify(const sdai::Model& model, const Correspondences& document, const Progress& progress = {});
+
+} // namespace velkor

@@ -1,0 +1,124 @@
+#include "velkor/classification/Classification.h"
+
+#include "ProductProperties.h"
+#include "velkor/exchangeservices/QORIExchangeAECServices.h"
+#include "velkor/objectmodeler/ClassDictionary.h"
+
+#include <map>
+#include <tuple>
+
+namespace velkor {
+
+namespace {
+
+constexpr std::uint64_t progressStep = 256;
+
+// What the services answer when nothing fits.
+constexpr const char* noAnswer = "DEFAULT";
+constexpr std::string_view typeSuffix = "TYPE";
+
+class Classifier {
+public:
+    Classifier(const sdai::Model& model, const Correspondences& document)
+        : _model(model), _document(document), _properties(model, document.conditionNames()),
+          _services(objectmodeler::createComponent("ExchangeAECServices")) {}
+
+    Classification run(const Progress& progress) {
+        const std::vector<std::uint32_t> numbers = _model.numbersOf("IFCPRODUCT");
+        _result.products.reserve(numbers.size());
+        for (std::uint64_t i = 0; i < numbers.size(); ++i) {
+            if (i % progressStep == 0 && !goesOn(progress, {"Classifying the products", i, numbers.size()})) {
+                _result.isComplete = false;
+                break;
+            }
+            const std::uint32_t decision = decide(*_model.instanceAt(numbers[i]));
+            _result.products.push_back({numbers[i], decision});
+            if (++_result.decisions[decision].count; _result.decisions[decision].neutralId.empty())
+                ++_result.unclassified;
+        }
+        return std::move(_result);
+    }
+
+private:
+    std::uint32_t decide(const DXSdaiAppInstance& product) {
+        Classification::Decision decision;
+        decision.entity = product.entity();
+        const knowledge::Attributes properties = _properties.of(product);
+        bool isKnown = false;
+        for (const std::string& ifcType : typesOf(product)) {
+            isKnown = isKnown || _document.knows(ifcType);
+            std::string answer = neutralId(product, ifcType, properties);
+            if (answer.empty()) continue;
+            decision.neutralId = std::move(answer);
+            decision.ifcType = ifcType;
+            // The services' word counts: an entry that says something else explains nothing.
+            decision.entry = _document.deciding(ifcType, properties);
+            if (decision.entry != nullptr && decision.entry->neutralId != decision.neutralId) decision.entry = nullptr;
+            break;
+        }
+        if (decision.neutralId.empty())
+            decision.reason = isKnown ? "no condition of its entries holds" : "no entry for it or its supertypes";
+        return place(std::move(decision));
+    }
+
+    // The names as which a product is presented, in that order.
+    std::vector<std::string> typesOf(const DXSdaiAppInstance& product) const {
+        std::vector<std::string> types;
+        if (const DXSdaiAppInstance* type = _properties.typeOf(product); type != nullptr && type->entity() != nullptr) {
+            std::string_view name = type->entity()->name();
+            if (type->entity()->isKindOf("IFCELEMENTTYPE") && name.ends_with(typeSuffix)) {
+                name.remove_suffix(typeSuffix.size());
+                if (_model.schema().entity(name) == nullptr) types.emplace_back(name);
+            }
+        }
+        for (const sdai::EntityDefinition* entity = product.entity(); entity != nullptr; entity = entity->supertype())
+            types.emplace_back(entity->name());
+        return types;
+    }
+
+    std::string neutralId(const DXSdaiAppInstance& product, const std::string& ifcType,
+                          const knowledge::Attributes& properties) const {
+        const QORBaseUnknown_var object = knowledge::makeExchangeObject(
+            {product.GetAttr("GLOBALID").asString(), product.GetAttr("NAME").asString(), ifcType,
+             product.GetAttr("DESCRIPTION").asString(), _model.file().name(), static_cast<int>(product.id())},
+            properties);
+        QORUnicodeString answer;
+        const HRESULT result = _services->GetNeutralIDFromIFCObject(object, answer);
+        return FAILED(result) || answer == noAnswer ? std::string() : std::string(answer.utf8());
+    }
+
+    std::string plmType(const std::string& neutralId) const {
+        QORUnicodeString type;
+        if (_services->GetPLMTypeFromNeutralID(QORString(std::string_view(neutralId)), type) != S_OK) return {};
+        return std::string(type.utf8());
+    }
+
+    // Position of the decision, which is made known unless it is.
+    std::uint32_t place(Classification::Decision decision) {
+        const auto [known, isNew] = _places.try_emplace(
+            {decision.entity, decision.entry, decision.neutralId, decision.ifcType, decision.reason},
+            static_cast<std::uint32_t>(_result.decisions.size()));
+        if (!isNew) return known->second;
+        if (!decision.neutralId.empty()) decision.plmType = plmType(decision.neutralId);
+        _result.decisions.push_back(std::move(decision));
+        return known->second;
+    }
+
+    using Key =
+        std::tuple<const sdai::EntityDefinition*, const Correspondences::Entry*, std::string, std::string, std::string>;
+
+    const sdai::Model& _model;
+    const Correspondences& _document;
+    ProductProperties _properties;
+    QORIExchangeAECServices_var _services;
+    std::map<Key, std::uint32_t> _places;
+    Classification _result;
+};
+
+} // namespace
+
+Classification classify(const sdai::Model& model, const Correspondences& document, const Progress& progress) {
+    return Classifier(model, document).run(progress);
+}
+
+} // namespace velkor

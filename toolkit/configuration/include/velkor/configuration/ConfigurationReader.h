@@ -1,0 +1,27 @@
+/// Reads the configuration file.
+#pragma once
+
+#include "velkor/configuration/Configuration.h"
+
+#include <iosfwd>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velkor {
+
+struct ConfigurationReading {
+    Configuration configuration;
+    /// One line each, with the file, the line, the key and what was expected. With any of them
+    /// the configuration is not to be used.
+    std::vector<std::string> errors;
+};
+
+/// Reads a file or, for "-", standard input, null for an empty one. Paths in the configuration that are relative
+/// are so to the file's folder.
+ConfigurationReading readConfiguration(const std::string& path, std::istream* standardInput);
+
+/// The same over a text; `path` stands in messages and decides about relative paths.
+ConfigurationReading parseConfiguration(std::string_view text, const std::string& path);
+
+} // namespace velkor

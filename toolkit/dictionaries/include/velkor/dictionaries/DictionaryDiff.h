@@ -1,0 +1,63 @@
+/// What changed from one schema to another.
+#pragma once
+
+#include "velkor/sdai/Dictionary.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velkor {
+
+struct DictionaryDiff {
+    /// Something with a description that is another in the second schema.
+    struct Change {
+        std::string name;
+        std::string before;
+        std::string after;
+    };
+    struct Item {
+        std::string name;
+        std::string description;
+    };
+    /// What an entity declares itself; inherited changes stand with the supertype.
+    struct Entity {
+        std::string_view name;
+        /// "supertype", "abstract", "uniqueness rules".
+        std::vector<Change> properties;
+        std::vector<Item> addedAttributes;
+        std::vector<Item> removedAttributes;
+        std::vector<Change> changedAttributes;
+        /// The attributes in both stand in another order.
+        bool reordered = false;
+    };
+    struct Type {
+        std::string_view name;
+        /// "enumeration", "select" or "type": what it is in the second schema.
+        const char* kind = "type";
+        /// Enumerators or select items.
+        std::vector<std::string> added;
+        std::vector<std::string> removed;
+        /// The enumerators in both stand in another order: positions cannot be carried from one
+        /// schema to the other. The order of a select's items means nothing.
+        bool reordered = false;
+        /// Set when neither is an enumeration or neither a select.
+        std::vector<Change> definition;
+    };
+
+    std::vector<std::string_view> addedEntities;
+    std::vector<std::string_view> removedEntities;
+    std::vector<Entity> changedEntities;
+    std::vector<std::string_view> addedTypes;
+    std::vector<std::string_view> removedTypes;
+    std::vector<Type> changedTypes;
+};
+
+/// Everything in alphabetical order; names are views into the schemas' texts.
+DictionaryDiff compareDictionaries(const sdai::SchemaDefinition& before, const sdai::SchemaDefinition& after);
+
+/// An attribute as EXPRESS writes it behind its name: "OPTIONAL IFCLABEL"; a derived one begins
+/// with "DERIVED".
+std::string attributeText(const sdai::Attribute& attribute);
+
+} // namespace velkor

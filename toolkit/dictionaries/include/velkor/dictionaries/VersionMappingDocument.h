@@ -1,0 +1,23 @@
+/// The document that the version mapping reads, made from two dictionaries or more.
+#pragma once
+
+#include "velkor/sdai/Dictionary.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace velkor {
+
+using ReleasePair = std::pair<const sdai::SchemaDefinition*, const sdai::SchemaDefinition*>;
+
+/// How the document names a release: "2x3"; empty for one that it has no name for.
+std::string_view mappingReleaseText(std::string_view schemaName);
+
+/// One block per pair, from the first release to the second: mappings where a rename is known, deprecations of
+/// what is gone, introductions of what is new. Attributes are listed for every entity that has them, inherited
+/// ones too, since that is what is asked for. Both releases have a name.
+std::string versionMappingDocument(const std::vector<ReleasePair>& pairs);
+
+} // namespace velkor

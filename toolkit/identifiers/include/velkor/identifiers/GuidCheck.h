@@ -1,0 +1,19 @@
+/// The identifiers of a model: every GlobalId well-formed and used once.
+#pragma once
+
+#include "velkor/model/CheckResult.h"
+#include "velkor/sdai/Model.h"
+
+namespace velkor::guid {
+
+struct GuidCheck {
+    /// Instances that have a GlobalId.
+    std::uint64_t count = 0;
+    /// With the codes of Fault, "guid-missing" and "guid-duplicate".
+    CheckResult result;
+};
+
+/// Checks every instance of IFCROOT. Memory is in proportion to their number.
+GuidCheck checkGuids(const sdai::Model& model, const CheckOptions& options = {});
+
+} // namespace velkor::guid

@@ -1,0 +1,30 @@
+/// What checks of a model are asked for and answer.
+#pragma once
+
+#include "velkor/model/Progress.h"
+#include "velkor/sdai/Problem.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace velkor {
+
+struct CheckOptions {
+    /// How many findings are listed at most; all are counted.
+    std::size_t limit = 100'000;
+    Progress progress = {};
+};
+
+struct CheckResult {
+    /// In file order, bounded by the limit asked for; `total` is the full count.
+    std::vector<sdai::Problem> problems;
+    std::uint64_t total = 0;
+    /// False when the caller has ended the check before its end.
+    bool isComplete = true;
+
+    /// Puts more problems, `count` of them with those beyond the limit, in their places.
+    void add(const std::vector<sdai::Problem>& more, std::uint64_t count, std::size_t limit);
+};
+
+} // namespace velkor

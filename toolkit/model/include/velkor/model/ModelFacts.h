@@ -1,0 +1,55 @@
+/// What a model's header and index tell without decoding its instances, the project apart.
+#pragma once
+
+#include "velkor/sdai/Model.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velkor {
+
+struct ProjectFacts {
+    std::uint64_t id = 0;
+    std::string name;
+    std::string longName;
+    std::string description;
+    std::string phase;
+};
+
+/// A kind of thing that people ask a model for, with its number.
+struct ContentCount {
+    std::string_view entity;
+    std::string_view singular;
+    std::string_view plural;
+    std::uint64_t count = 0;
+};
+
+struct ModelFacts {
+    std::string path;
+    std::uint64_t bytes = 0;
+    /// The dictionary used, and the names in FILE_SCHEMA when they are other than that.
+    std::string release;
+    std::vector<std::string> fileSchemas;
+    bool isReleaseAsWritten = false;
+
+    sdai::FileHeader header;
+    /// Entries of the description that name a model view; the others.
+    std::vector<std::string> views;
+    std::vector<std::string> descriptions;
+
+    /// The first project of the file.
+    std::optional<ProjectFacts> project;
+    std::uint64_t projectCount = 0;
+
+    std::uint64_t instanceCount = 0;
+    /// Most frequent first.
+    std::vector<sdai::Model::KeywordCount> keywords;
+    /// What the model holds at least one of.
+    std::vector<ContentCount> contents;
+};
+
+ModelFacts modelFacts(const sdai::Model& model);
+
+} // namespace velkor

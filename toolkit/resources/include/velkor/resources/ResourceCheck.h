@@ -1,0 +1,72 @@
+/// Resource files judged by their linters.
+///
+///     ResourceCheck check(1000);
+///     CheckedFile file = check.file("mine.xml", nullptr, nullptr);
+#pragma once
+
+#include "ResourceKinds.h"
+#include "velkor/resources/Finding.h"
+
+#include <cstddef>
+#include <iosfwd>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velkor::lint {
+
+struct LinterKind {
+    /// Short stable word for it: "version-mapping".
+    const char* word;
+    const ResourceKind* resource;
+};
+
+/// In the order of the resource kinds.
+std::span<const LinterKind> linterKinds();
+/// Null when there is none of the word.
+const LinterKind* linterKind(std::string_view word);
+
+struct Judgement {
+    /// How many entries the services read, or would if they were right.
+    std::size_t entries = 0;
+    /// In the order of the file.
+    std::vector<Finding> findings;
+};
+
+struct CheckedFile {
+    std::string path;
+    /// Null when it is none of the six.
+    const LinterKind* kind = nullptr;
+    /// Why the file could not be read; nothing has then been judged.
+    std::string unreadable = {};
+    /// Findings beyond the limit of the check are counted alone.
+    Judgement judgement = {};
+    std::size_t errors = 0;
+    std::size_t warnings = 0;
+};
+
+/// Remembers the dictionaries that files were judged by.
+class ResourceCheck {
+public:
+    /// Keeps at most `limit` findings of all files together.
+    explicit ResourceCheck(std::size_t limit);
+    ~ResourceCheck();
+    ResourceCheck(const ResourceCheck&) = delete;
+    ResourceCheck& operator=(const ResourceCheck&) = delete;
+
+    /// Judges one file or, for "-", standard input by itself; without a kind as what its content looks like.
+    CheckedFile file(const std::string& path, const LinterKind* kind, std::istream* standardInput);
+    /// Judges the files of one kind in the order in which the services read them.
+    std::vector<CheckedFile> files(const std::vector<std::string>& paths, const LinterKind& kind);
+
+private:
+    CheckedFile counted(CheckedFile file);
+
+    std::unique_ptr<class Dictionaries> _dictionaries;
+    // How many findings may still be kept.
+    std::size_t _limit;
+};
+
+} // namespace velkor::lint

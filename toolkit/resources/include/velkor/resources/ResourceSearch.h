@@ -1,0 +1,67 @@
+/// Where the services look for a kind of resource file, what is there, and which files they use.
+///
+///     const PlatformSetup setup(configuration, err);
+///     for (const ResourceKind& kind : resourceKinds) show(searchResource(kind, setup));
+#pragma once
+
+#include "ResourceKinds.h"
+#include "velkor/configuration/PlatformSetup.h"
+#include "velkor/objectmodeler/ResultCode.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velkor {
+
+enum class PathState { Readable, Missing, IsFolder, IsNoFolder, IsNoRegularFile, Forbidden };
+
+/// As it goes on behind a path: "does not exist".
+const char* inWords(PathState state);
+
+/// "readable", "missing", "is_folder", "is_no_folder", "is_no_regular_file", "forbidden".
+const char* name(PathState state);
+
+/// Paths have the system's separator.
+struct ResourceSearch {
+    struct File {
+        std::string path;
+        PathState state;
+    };
+    struct Entry {
+        enum class Use { Used, NotUsed, Hidden };
+        std::string name;
+        Use use = Use::NotUsed;
+        /// The folder whose file of the same name hides this one.
+        std::string hiddenBy;
+    };
+    struct Folder {
+        /// The variable or the configuration key that it comes from, or "shipped with the program".
+        std::string source;
+        std::string path;
+        PathState state;
+        /// Names that are those of resource files.
+        std::vector<Entry> entries;
+    };
+
+    ResourceKind kind;
+    /// What the setup data are asked for and name; empty where they are not asked.
+    std::string setupKey;
+    std::vector<File> setupPaths;
+    /// In the order of the search.
+    std::vector<Folder> folders;
+    /// What the services answer, for the kinds that have a service to ask.
+    std::optional<HRESULT> result;
+    std::vector<File> used;
+    /// Why nothing can be used, and what helps; empty when something can.
+    std::string reason;
+    /// What is not as it seems though it does no harm here.
+    std::vector<std::string> remarks;
+
+    bool isUsable() const { return reason.empty(); }
+};
+
+/// What the setup has put in force is searched; folders of shipped resources are named as such.
+ResourceSearch searchResource(const ResourceKind& kind, const PlatformSetup& setup);
+
+} // namespace velkor

@@ -1,0 +1,155 @@
+#include "AECLinter.h"
+
+#include "velkor/text/QORUnicodeString.h"
+
+#include <algorithm>
+#include <map>
+
+namespace velkor::lint {
+
+namespace {
+
+constexpr const char* neutralTag = "NeutralID";
+constexpr const char* ifcTag = "IFC";
+constexpr const char* plmTag = "NORVEL";
+constexpr const char* conditionTag = "Condition";
+constexpr const char* valuateTag = "Valuate";
+
+const Format& format() {
+    static const Format result{nullptr,
+                               {{neutralTag, {}, {"Name"}},
+                                {ifcTag, {neutralTag}, {"Name"}, {"Priority"}},
+                                {plmTag, {neutralTag}, {"Name"}, {"Priority"}},
+                                {conditionTag, {ifcTag, plmTag}, {}, {"Attribute", "Value"}, true},
+                                {valuateTag, {ifcTag, plmTag}, {"Attribute"}, {"Value"}}}};
+    return result;
+}
+
+/// One side of an entry as a candidate for its type.
+struct Candidate {
+    const XmlElement* side;
+    int priority;
+    /// Attribute and value; empty when it holds for every object.
+    std::string condition;
+};
+
+std::vector<const XmlElement*> conditionsOf(const XmlElement& side) {
+    std::vector<const XmlElement*> result;
+    side.visitNamed(conditionTag, [&](const XmlElement& condition) { result.push_back(&condition); });
+    return result;
+}
+
+bool readPriority(const XmlElement& side, int& priority) {
+    return QORUnicodeString(std::string_view(side.attribute("Priority"))).ConvertToNum(priority);
+}
+
+Candidate candidate(const XmlElement& side) {
+    Candidate result{&side, 0, {}};
+    readPriority(side, result.priority);
+    const auto conditions = conditionsOf(side);
+    if (conditions.empty() || conditions.front()->attribute("Attribute").empty()) return result;
+    // Letter case of a property's name does not count on the IFC side.
+    const std::string& attribute = conditions.front()->attribute("Attribute");
+    result.condition =
+        (side.name == ifcTag ? upper(attribute) : attribute) + '\n' + conditions.front()->attribute("Value");
+    return result;
+}
+
+} // namespace
+
+AECLinter::AECLinter(Dictionaries& dictionaries) : Linter(format(), dictionaries) {}
+
+void AECLinter::judgeEntries(const XmlElement& root) {
+    std::map<std::string, int> names;
+    root.visitNamed(neutralTag, [&](const XmlElement& neutral) {
+        countEntry();
+        const std::string& name = neutral.attribute("Name");
+        const auto [first, isNew] = names.try_emplace(upper(name), neutral.line);
+        if (!isNew && !name.empty()) {
+            warn(neutral.line, "duplicate-key",
+                 quoted(name) + " has an entry " + inLine(first->second) + " already, which alone answers for it");
+        }
+        judgeNeutral(neutral);
+    });
+    judgeOrder(root, ifcTag);
+    judgeOrder(root, plmTag);
+}
+
+void AECLinter::judgeNeutral(const XmlElement& neutral) {
+    for (const char* tag : {ifcTag, plmTag}) {
+        const XmlElement* first = nullptr;
+        for (const XmlElement& side : neutral.children) {
+            if (side.name != tag) continue;
+            judgePlace(side);
+            judgeSide(side);
+            if (side.index == 0) continue;
+            if (first != nullptr) {
+                warn(side.line, "duplicate-side",
+                     quoted(neutral.attribute("Name")) + " has another " + tag + ' ' + inLine(first->line) +
+                         ", which alone answers for it");
+            } else {
+                first = &side;
+            }
+        }
+    }
+}
+
+void AECLinter::judgeSide(const XmlElement& side) {
+    if (side.name == ifcTag) judgeEntity(side.line, side.attribute("Name"), {});
+    int priority = 0;
+    if (side.hasAttribute("Priority") && !readPriority(side, priority)) {
+        warn(side.line, "bad-priority",
+             "expected a whole number as \"Priority\", found " + quoted(side.attribute("Priority")) +
+                 ", which counts as 0");
+    }
+    for (const XmlElement& child : side.children) {
+        if (child.name == valuateTag) judgePlace(child);
+    }
+    judgeCondition(side);
+}
+
+void AECLinter::judgeCondition(const XmlElement& side) {
+    const auto conditions = conditionsOf(side);
+    for (std::size_t i = 1; i < conditions.size(); ++i) {
+        warn(conditions[i]->line, "condition-ignored",
+             "the first condition of an entry alone counts, the one " + inLine(conditions.front()->line));
+    }
+    if (conditions.empty()) return;
+    const XmlElement& condition = *conditions.front();
+    const std::string& attribute = condition.attribute("Attribute");
+    if (attribute.empty()) {
+        warn(condition.line, "condition-ignored", "a condition without \"Attribute\" always holds");
+        return;
+    }
+    if (!condition.hasAttribute("Value"))
+        error(condition.line, "missing-value", std::string(conditionTag) + " has no \"Value\"");
+    if (side.name != ifcTag) return;
+    const std::string& entity = side.attribute("Name");
+    judgeProperty(condition.line, entity, attribute, {});
+    judgeEnumerator(condition.line, entity, attribute, condition.attribute("Value"), {}, true);
+}
+
+// Candidates of a type are tried from the highest priority down, those of equal priority as they stand.
+void AECLinter::judgeOrder(const XmlElement& root, const char* tag) {
+    std::map<std::string, std::vector<Candidate>> types;
+    root.visitNamed(tag, [&](const XmlElement& side) {
+        if (!side.attribute("Name").empty()) types[upper(side.attribute("Name"))].push_back(candidate(side));
+    });
+    for (auto& [type, candidates] : types) {
+        std::ranges::stable_sort(candidates, std::greater<>(), &Candidate::priority);
+        // By condition; one without any decides whatever follows.
+        std::map<std::string, const XmlElement*> seen;
+        for (const Candidate& current : candidates) {
+            const auto always = seen.find("");
+            const auto [same, isNew] = seen.try_emplace(current.condition, current.side);
+            if (always == seen.end() && isNew) continue;
+            const auto& [condition, first] = always == seen.end() ? *same : *always;
+            warn(current.side->line, "unreachable",
+                 quoted(current.side->attribute("Name")) + " is always decided by the entry " + inLine(first->line) +
+                     (condition.empty() ? ", which comes first and has no condition"
+                                        : ", which comes first with the same condition"));
+        }
+    }
+}
+
+} // namespace velkor::lint

@@ -1,0 +1,20 @@
+/// Judges correspondences of neutral identifiers, IFC types and PLM types.
+#pragma once
+
+#include "Linter.h"
+
+namespace velkor::lint {
+
+class AECLinter : public Linter {
+public:
+    explicit AECLinter(Dictionaries& dictionaries);
+
+private:
+    void judgeEntries(const XmlElement& root) override;
+    void judgeNeutral(const XmlElement& neutral);
+    void judgeSide(const XmlElement& side);
+    void judgeCondition(const XmlElement& side);
+    void judgeOrder(const XmlElement& root, const char* tag);
+};
+
+} // namespace velkor::lint

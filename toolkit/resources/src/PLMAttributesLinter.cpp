@@ -1,0 +1,227 @@
+#include "PLMAttributesLinter.h"
+
+#include <algorithm>
+
+namespace velkor::lint {
+
+namespace {
+
+constexpr const char* lineTag = "fromAttributes";
+constexpr const char* includeTag = "PLMAttrInclude";
+constexpr const char* groupTag = "PLMAttrIncluded";
+constexpr const char* mappingTag = "IfcPLMMapping";
+constexpr const char* rootTag = "IfcPLMMappingAttr";
+/// Lines for the other direction, which nobody reads.
+constexpr const char* importOnly = "Import_Only";
+
+const Format& format() {
+    static const Format result{
+        rootTag,
+        {{rootTag, {""}, {}},
+         {groupTag, {rootTag}, {"id"}},
+         {mappingTag, {rootTag}, {"Name"}},
+         {lineTag, {groupTag, mappingTag}, {"plmProp", "propSetName", "ifcProp"}, {"propExpose"}},
+         {includeTag, {groupTag, mappingTag}, {"IncludedId"}}}};
+    return result;
+}
+
+bool isExported(const XmlElement& line) {
+    const std::string& direction = line.attribute("propExpose");
+    return direction.empty() || direction == "Both" || direction == "Export_Only";
+}
+
+std::string targetOf(const XmlElement& line) {
+    return line.attribute("propSetName") + '\n' + line.attribute("ifcProp");
+}
+
+} // namespace
+
+const XmlElement* PLMAttributesLinter::Group::add(const XmlElement& line) {
+    const auto [place, isNew] = byAttribute.try_emplace(upper(line.attribute("plmProp")), &line);
+    if (isNew) lines.push_back(&line);
+    return place->second;
+}
+
+PLMAttributesLinter::PLMAttributesLinter(Dictionaries& dictionaries) : Linter(format(), dictionaries) {}
+
+void PLMAttributesLinter::judgeEntries(const XmlElement& root) {
+    _groups.clear();
+    _complete.clear();
+    if (root.name != rootTag || !root.namespaceUri.empty()) return;
+    for (const XmlElement& part : root.children) {
+        for (const XmlElement& line : part.children) {
+            if (line.name == lineTag) judgeLine(line);
+        }
+    }
+    buildGroups(root);
+    bool hasMapping = false;
+    for (const XmlElement& mapping : root.children) {
+        if (mapping.name != mappingTag) continue;
+        hasMapping = true;
+        judgeMapping(mapping);
+    }
+    if (!hasMapping) return warn(root.line, "no-entries", std::string("the document has no ") + mappingTag);
+    tellUnused();
+}
+
+void PLMAttributesLinter::judgeLine(const XmlElement& line) {
+    countEntry();
+    const std::string& direction = line.attribute("propExpose");
+    if (isExported(line)) return;
+    warn(line.line, "line-dropped",
+         quoted(line.attribute("plmProp")) + " is not exported, since its \"propExpose\" is " + quoted(direction),
+         direction == importOnly ? std::string() : didYouMean({"Both", "Export_Only", importOnly}, direction));
+}
+
+void PLMAttributesLinter::buildGroups(const XmlElement& root) {
+    for (const XmlElement& element : root.children) {
+        if (element.name == groupTag) _groups.push_back({element.attribute("id"), &element, {}, {}, {}, false});
+    }
+    for (std::size_t i = 0; i < _groups.size(); ++i) buildGroup(i);
+}
+
+void PLMAttributesLinter::buildGroup(std::size_t index) {
+    Group& group = _groups[index];
+    for (const XmlElement& child : group.element->children) {
+        if (child.name == includeTag) include(index, child);
+        if (child.name != lineTag || !isExported(child)) continue;
+        const XmlElement* counts = group.add(child);
+        if (counts != &child && targetOf(*counts) != targetOf(child)) {
+            warn(child.line, "duplicate-key",
+                 quoted(child.attribute("plmProp")) + " of the group " + quoted(group.id) + " has a line " +
+                     inLine(counts->line) + " already, which counts");
+        }
+    }
+    if (group.id.empty()) return;
+    if (const auto first = _complete.find(upper(group.id)); first != _complete.end()) {
+        error(group.element->line, "duplicate-key",
+              "the group " + quoted(group.id) + ' ' + inLine(_groups[first->second].element->line) + " alone counts");
+        group.isUsed = true; // one finding will do
+    } else if (group.lines.empty()) {
+        warn(group.element->line, "empty-group", "the group " + quoted(group.id) + " has no line that is exported");
+    } else {
+        _complete.emplace(upper(group.id), index);
+    }
+}
+
+// The services take in every group that is complete already, whichever is named, and of one further down its own
+// lines.
+void PLMAttributesLinter::include(std::size_t index, const XmlElement& include) {
+    Group& current = _groups[index];
+    const std::string wanted = upper(include.attribute("IncludedId"));
+    if (wanted.empty()) return;
+    std::set<std::size_t> taken;
+    for (std::size_t k = 0; k < _groups.size(); ++k) {
+        const Group& other = _groups[k];
+        if (const auto complete = _complete.find(upper(other.id)); complete != _complete.end()) {
+            for (const XmlElement* line : _groups[complete->second].lines) current.add(*line);
+            taken.insert(complete->second);
+        } else if (upper(other.id) == wanted) {
+            for (const XmlElement& child : other.element->children) {
+                if (child.name == lineTag && isExported(child)) current.add(child);
+            }
+            if (k != index) taken.insert(k);
+        }
+    }
+    judgeInclude(index, include, taken);
+    current.sources.insert(taken.begin(), taken.end());
+}
+
+void PLMAttributesLinter::judgeInclude(std::size_t index, const XmlElement& include,
+                                       const std::set<std::size_t>& taken) {
+    const std::string& id = include.attribute("IncludedId");
+    const std::size_t named = groupNamed(id);
+    if (named == _groups.size() || (named < index && !_complete.contains(upper(id)))) return tellUnresolved(include);
+    const auto hasIncludes = [](const XmlElement& group) {
+        return std::ranges::find(group.children, includeTag, &XmlElement::name) != group.children.end();
+    };
+    if (named == index) {
+        error(include.line, "include-incomplete", "the group " + quoted(id) + " includes itself");
+    } else if (named > index && hasIncludes(*_groups[named].element)) {
+        error(include.line, "include-incomplete",
+              "the group " + quoted(id) + " stands further down and comes without what it includes itself",
+              "move it above");
+    }
+    std::string others;
+    for (const std::size_t other : taken) {
+        const auto& known = _groups[named].sources;
+        if (other == named || known.contains(other) || _groups[index].sources.contains(other)) continue;
+        others += (others.empty() ? "" : ", ") + quoted(_groups[other].id);
+    }
+    if (!others.empty()) {
+        warn(include.line, "include-takes-more",
+             "the include of " + quoted(id) + " takes in all groups above, also " + others);
+    }
+}
+
+void PLMAttributesLinter::judgeMapping(const XmlElement& mapping) {
+    for (const XmlElement& child : mapping.children) {
+        if (child.name == includeTag) takeIn(mapping, child);
+        if (child.name != lineTag || !isExported(child)) continue;
+        const Place* counts = addKey(mapping, child, child.line);
+        if (counts == nullptr) continue;
+        warn(child.line, "duplicate-key",
+             quoted(child.attribute("plmProp")) + " of " + quoted(mapping.attribute("Name")) + " has a line " +
+                 shown(*counts) + " already, which counts");
+    }
+}
+
+// The same line by two ways is no matter.
+void PLMAttributesLinter::takeIn(const XmlElement& mapping, const XmlElement& include) {
+    const std::string& id = include.attribute("IncludedId");
+    if (id.empty()) return;
+    const auto found = _complete.find(upper(id));
+    if (found == _complete.end()) return tellUnresolved(include);
+    Group& group = _groups[found->second];
+    group.isUsed = true;
+    for (const std::size_t source : group.sources) _groups[source].isUsed = true;
+    std::vector<std::string> refused;
+    std::string where;
+    for (const XmlElement* line : group.lines) {
+        const Place* counts = addKey(mapping, *line, include.line);
+        if (counts == nullptr || counts->target == targetOf(*line)) continue;
+        if (refused.empty()) where = shown(*counts);
+        refused.push_back(line->attribute("plmProp"));
+    }
+    if (refused.empty()) return;
+    const std::string more = refused.size() > 1 ? " and " + std::to_string(refused.size() - 1) + " more" : "";
+    warn(include.line, "duplicate-key",
+         quoted(refused.front()) + more + " of group " + quoted(id) + ": " + quoted(mapping.attribute("Name")) +
+             " has a line " + where + " already, which counts");
+}
+
+const PLMAttributesLinter::Place* PLMAttributesLinter::addKey(const XmlElement& mapping, const XmlElement& line,
+                                                              int number) {
+    const std::string key = keyText({mapping.attribute("Name"), line.attribute("plmProp")});
+    const auto [place, isNew] = _keys.try_emplace(key, Place{path(), targetOf(line), number});
+    return isNew ? nullptr : &place->second;
+}
+
+void PLMAttributesLinter::tellUnresolved(const XmlElement& include) {
+    const std::string& id = include.attribute("IncludedId");
+    const bool exists = groupNamed(id) != _groups.size();
+    std::vector<std::string_view> known;
+    for (const auto& [name, index] : _complete) known.emplace_back(_groups[index].id);
+    error(include.line, "unresolved-include",
+          exists ? "the group " + quoted(id) + " has no line that is exported" : "there is no group " + quoted(id),
+          exists ? std::string() : didYouMean(known, id));
+}
+
+void PLMAttributesLinter::tellUnused() {
+    for (const Group& group : _groups) {
+        if (group.isUsed || group.lines.empty() || group.id.empty()) continue;
+        warn(group.element->line, "unused-group", "no mapping includes the group " + quoted(group.id));
+    }
+}
+
+std::size_t PLMAttributesLinter::groupNamed(const std::string& id) const {
+    const std::string wanted = upper(id);
+    const auto found = std::ranges::find_if(_groups, [&](const Group& group) { return upper(group.id) == wanted; });
+    return static_cast<std::size_t>(found - _groups.begin());
+}
+
+std::string PLMAttributesLinter::shown(const Place& place) const {
+    return inLine(place.number) + (place.path == path() ? "" : " of " + place.path);
+}
+
+} // namespace velkor::lint

@@ -1,0 +1,135 @@
+#include "velkor/resources/ResourceCheck.h"
+
+#include "AECLinter.h"
+#include "AttributeListLinter.h"
+#include "CustomMappingLinter.h"
+#include "DefinitionLinter.h"
+#include "PLMAttributesLinter.h"
+#include "velkor/files/InputText.h"
+#include "VersionMappingLinter.h"
+
+#include <algorithm>
+
+namespace velkor::lint {
+
+namespace {
+
+using Make = std::unique_ptr<Linter> (*)(Dictionaries&);
+
+template <class Kind>
+std::unique_ptr<Linter> make(Dictionaries& dictionaries) {
+    return std::make_unique<Kind>(dictionaries);
+}
+
+constexpr LinterKind kinds[] = {
+    {"version-mapping", &versionMappingResource},      {"custom-mapping", &customMappingResource},
+    {"plm-attributes", &plmAttributesMappingResource}, {"aec", &aecMappingResource},
+    {"attribute-list", &attributeListResource},        {"definition", &propertySetResource}};
+// In the same order.
+constexpr Make makers[] = {make<VersionMappingLinter>, make<CustomMappingLinter>,
+                           make<PLMAttributesLinter>,  make<AECLinter>,
+                           make<AttributeListLinter>,  make<DefinitionLinter>};
+static_assert(std::size(kinds) == std::size(makers));
+
+std::unique_ptr<Linter> linterOf(const LinterKind& kind, Dictionaries& dictionaries) {
+    return makers[&kind - kinds](dictionaries);
+}
+
+bool isVersionMapping(const XmlElement& root) {
+    bool result = false;
+    root.visitNamed("Version", [&](const XmlElement& version) {
+        result |= version.hasAttribute("from") || version.hasAttribute("to") || version.contains("Mapping") ||
+                  version.contains("Deprecation") || version.contains("Introduction");
+    });
+    return result;
+}
+
+bool isAttributeList(const XmlElement& root) {
+    return root.contains("AttributeID") && root.contains("Level");
+}
+
+const LinterKind* recognized(const XmlElement& root) {
+    if (root.name == "IfcMapping") return linterKind("custom-mapping");
+    if (root.name == "IfcPLMMappingAttr") return linterKind("plm-attributes");
+    if (root.name == "PropertySetDef" || root.name == "QtoSetDef") return linterKind("definition");
+    if (root.contains("NeutralID")) return linterKind("aec");
+    if (isAttributeList(root)) return linterKind("attribute-list");
+    return isVersionMapping(root) ? linterKind("version-mapping") : nullptr;
+}
+
+// More than the parser takes.
+constexpr std::size_t mostBytes = std::size_t{2} << 30;
+
+CheckedFile judged(const std::string& path, const LinterKind* kind, Linter* linter, Dictionaries& dictionaries,
+                   std::istream* standardInput) {
+    CheckedFile file{path, kind, {}};
+    const auto text = files::readInput(path, standardInput, mostBytes);
+    if (!text) {
+        file.unreadable = text.error();
+        return file;
+    }
+    XmlReading reading = readXml(*text, path);
+    if (reading.root == nullptr) {
+        file.judgement.findings = std::move(reading.findings);
+        return file;
+    }
+    std::unique_ptr<Linter> own;
+    if (linter == nullptr) {
+        if (file.kind == nullptr) file.kind = recognized(*reading.root);
+        if (file.kind == nullptr) {
+            file.judgement.findings = {
+                {Severity::Error, reading.root->line, "kind-unknown",
+                 "nothing here tells what kind of resource file it is, root element " + reading.root->name,
+                 "name it with --kind"}};
+            return file;
+        }
+        own = linterOf(*file.kind, dictionaries);
+        linter = own.get();
+    }
+    file.judgement = linter->judge(path, *reading.root);
+    auto& findings = file.judgement.findings;
+    findings.insert(findings.begin(), reading.findings.begin(), reading.findings.end());
+    std::ranges::stable_sort(findings, {}, &Finding::line);
+    return file;
+}
+
+} // namespace
+
+std::span<const LinterKind> linterKinds() {
+    return kinds;
+}
+
+const LinterKind* linterKind(std::string_view word) {
+    const auto* const found = std::ranges::find(kinds, word, &LinterKind::word);
+    return found == std::end(kinds) ? nullptr : found;
+}
+
+ResourceCheck::ResourceCheck(std::size_t limit) : _dictionaries(std::make_unique<Dictionaries>()), _limit(limit) {}
+ResourceCheck::~ResourceCheck() = default;
+
+CheckedFile ResourceCheck::file(const std::string& path, const LinterKind* kind, std::istream* standardInput) {
+    return counted(judged(path, kind, nullptr, *_dictionaries, standardInput));
+}
+
+std::vector<CheckedFile> ResourceCheck::files(const std::vector<std::string>& paths, const LinterKind& kind) {
+    const auto linter = linterOf(kind, *_dictionaries);
+    std::vector<CheckedFile> result;
+    for (const std::string& path : paths)
+        result.push_back(counted(judged(path, &kind, linter.get(), *_dictionaries, nullptr)));
+    return result;
+}
+
+CheckedFile ResourceCheck::counted(CheckedFile file) {
+    auto& findings = file.judgement.findings;
+    const auto errors = std::ranges::count(findings, Severity::Error, &Finding::severity);
+    file.errors = static_cast<std::size_t>(errors);
+    file.warnings = findings.size() - file.errors;
+    if (findings.size() > _limit) {
+        findings.resize(_limit);
+        findings.shrink_to_fit();
+    }
+    _limit -= findings.size();
+    return file;
+}
+
+} // namespace velkor::lint

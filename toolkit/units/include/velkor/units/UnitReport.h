@@ -1,0 +1,45 @@
+/// What the unit services say about a model.
+#pragma once
+
+#include "velkor/sdai/Model.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace velkor {
+
+struct UnitReport {
+    struct Unit {
+        std::uint64_t id = 0;
+        std::string entity;
+        /// Enumerator of the unit type; empty for units without one.
+        std::string type;
+        /// "MILLIMETRE", "INCH", "KILOGRAM METRE^-3".
+        std::string name;
+        /// Place in the library's table of global factors.
+        std::optional<int> slot;
+        /// SI base units in one of the unit.
+        double factor = 1.0;
+    };
+
+    /// The IFCUNITASSIGNMENT of the project, or the first of the file.
+    std::optional<std::uint64_t> assignment;
+    std::vector<Unit> units;
+    /// Millimetres per length unit, radians per plane angle unit.
+    double lengthFactor = 0.0;
+    double angleFactor = 0.0;
+    int geometryResult = 0;
+    /// Empty when the model has no length unit.
+    std::string lengthUnitName;
+    double lengthUnitFactor = 0.0;
+    /// Factor by measure type.
+    std::vector<std::pair<std::string, double>> measures;
+};
+
+/// Asks the library. The unit services keep the model's factors afterwards.
+UnitReport unitReport(const sdai::Model& model);
+
+} // namespace velkor
