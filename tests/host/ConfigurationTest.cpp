@@ -226,9 +226,9 @@ TEST_F(ConfigurationTest, NothingOfARunStays) {
 }
 
 TEST_F(ConfigurationTest, TheLogOfTheServicesGoesToStandardError) {
-    std::ostringstream err;
+    std::ostringstream out, err;
     {
-        const PlatformSetup setup({}, [&](const std::string& line) { err << line << "\n"; });
+        const PlatformSetup setup({}, CommandContext{out, err}.tell());
         EXPECT_EQ(QORIFCMsgLoggingServices::PutUnicodeMessage("no \x1B[31mwall", 1, 0), S_OK);
         EXPECT_EQ(QORIFCMsgLoggingServices::PutUnicodeMessage("step by step", 2, 0), E_FAIL);
         EXPECT_EQ(err.str(), "velkor: no \\u001b[31mwall\n") << "at once";
