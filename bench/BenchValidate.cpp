@@ -11,7 +11,7 @@
 #include <iostream>
 #include <string>
 
-using namespace velkor::host;
+using namespace velkor;
 using velkor::sdai::Model;
 
 namespace {
@@ -64,13 +64,12 @@ void eachModel(benchmark::State& state, bool isWrong, Check check) {
     Configuration configuration;
     configuration.shippedResources = VELKOR_SOURCE_DIR "/resources";
     const PlatformSetup setup(configuration, [](const std::string& line) { std::cerr << line << '\n'; });
-    CommandContext context{std::cout, std::cerr};
     for (auto _ : state) {
         state.PauseTiming();
         auto model = Model::fromText(structureText(isWrong), "bench");
         if (!model) return state.SkipWithError(model.error().c_str());
         state.ResumeTiming();
-        if (!check(context, **model)) return state.SkipWithError("the model was not checked as expected");
+        if (!check(**model)) return state.SkipWithError("the model was not checked as expected");
         state.PauseTiming();
         model->reset();
         state.ResumeTiming();
@@ -79,20 +78,18 @@ void eachModel(benchmark::State& state, bool isWrong, Check check) {
 }
 
 void rightSets(benchmark::State& state) {
-    eachModel(state, false, [](CommandContext& context, const Model& model) {
+    eachModel(state, false, [](const Model& model) {
         const PropertySetCheck check = checkPropertySets(model, {});
         return check.total == 0 && check.checkedProperties == wallCount * std::size(properties);
     });
 }
 
 void wrongSets(benchmark::State& state) {
-    eachModel(state, true, [](CommandContext& context, const Model& model) {
-        return checkPropertySets(model, {}).total == 2 * wallCount;
-    });
+    eachModel(state, true, [](const Model& model) { return checkPropertySets(model, {}).total == 2 * wallCount; });
 }
 
 void identifiers(benchmark::State& state) {
-    eachModel(state, false, [](CommandContext& context, const Model& model) {
+    eachModel(state, false, [](const Model& model) {
         const guid::GuidCheck check = guid::checkGuids(model, {});
         return check.result.total == 0 && check.count == 3 * wallCount;
     });
