@@ -1,24 +1,18 @@
 #include "CatalogueDocument.h"
 
-#include "velkor/text/QORListValQORUnicodeString.h"
+#include "ParserOptions.h"
+#include "Results.h"
 #include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
 #include "velkor/xml/QORIXMLInputSource.h"
 
 HRESULT velkor::library::readCatalogue(const QORUnicodeString& path, QORIDOMDocument_var& document) {
     QORIXMLSAX2Factory_var factory;
-    HRESULT result = CreateQORIXMLSAX2Factory(CLSID_XML4C5_SAX, factory);
-    if (FAILED(result)) return result;
+    RETURN_IF_FAILED(CreateQORIXMLSAX2Factory(CLSID_XML4C5_SAX, factory));
     QORIXMLDOMDocumentBuilder_var builder;
-    result = CreateQORIXMLDOMDocumentBuilder(CLSID_XML4C5_DOM, builder);
-    if (FAILED(result)) return result;
+    RETURN_IF_FAILED(CreateQORIXMLDOMDocumentBuilder(CLSID_XML4C5_DOM, builder));
     QORIXMLInputSource_var source;
-    result = factory->CreateInputSource(path, "myPublicId", source);
-    if (FAILED(result)) return result;
-
-    QORListValQORUnicodeString names, values;
-    names.Append("QORDoValidation");
-    values.Append("false");
-    names.Append("QOREnableNameSpaces");
-    values.Append("true");
-    return builder->Parse(source, document, names, values, QORIXMLEntityResolver_var(), QORIXMLErrorHandler_var());
+    RETURN_IF_FAILED(factory->CreateInputSource(path, "myPublicId", source));
+    const ParallelLists options(parserOptions);
+    return builder->Parse(source, document, options.first, options.second, QORIXMLEntityResolver_var(),
+                          QORIXMLErrorHandler_var());
 }

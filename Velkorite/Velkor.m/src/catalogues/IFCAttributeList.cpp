@@ -6,21 +6,17 @@
 #include "QORIFCDXFileServices.h"
 #include "ResourceKinds.h"
 #include "velkor/files/QORDirectory.h"
-#include "velkor/xml/QORIDOMElement.h"
+#include "XmlNodes.h"
 
 #include <memory>
 
 namespace {
 
+using namespace velkor::library;
+
 // Every unit that deals with resource paths has its own pair; the list of folders is split by the file services.
 [[maybe_unused]] const QORUnicodeString pathListSeparator = ";";
 const QORUnicodeString folderSeparator = "\\";
-
-QORUnicodeString attribute(const QORIDOMElement_var& element, const char* name) {
-    QORUnicodeString value;
-    element->GetAttribute(name, value);
-    return value;
-}
 
 IfcLevel levelOf(const QORUnicodeString& id) {
     if (id.Compare("2X3") != 0) return IfcLevel2X3;
@@ -30,24 +26,20 @@ IfcLevel levelOf(const QORUnicodeString& id) {
 
 HRESULT readAttributeFile(const QORUnicodeString& path, IFCAttributeTables& tables) {
     QORIDOMDocument_var document;
-    const HRESULT result = velkor::library::readCatalogue(path, document);
+    const HRESULT result = readCatalogue(path, document);
     if (FAILED(result) || document.IsNull()) return result;
 
-    QORIDOMNodeList_var levels;
-    document->GetElementsByTagName("Level", levels);
-    velkor::library::forEachNode(levels, [&](const QORIDOMElement_var& levelElement) {
+    for (const QORIDOMElement_var& levelElement : ElementRange(elementsTagged("Level", document))) {
         const IfcLevel level = levelOf(attribute(levelElement, "ID"));
-        QORIDOMNodeList_var entries;
-        levelElement->GetElementsByTagName("AttributeID", entries);
-        velkor::library::forEachNode(entries, [&](const QORIDOMElement_var& entry) {
+        for (const QORIDOMElement_var& entry : ElementRange(elementsTagged("AttributeID", levelElement))) {
             tables.insert({{},
                            attribute(entry, "PropertySet"),
                            attribute(entry, "Entity"),
                            attribute(entry, "Name"),
                            attribute(entry, "Value")},
                           level);
-        });
-    });
+        }
+    }
     return result;
 }
 
@@ -58,7 +50,7 @@ IFCAttributeList* IFCAttributeList::_pInstance = nullptr;
 IFCAttributeList* IFCAttributeList::GetInstance() {
     if (_pInstance == nullptr) {
         _pInstance = new IFCAttributeList;
-        velkor::library::callAtUnload(DeleteInst, 1);
+        callAtUnload(DeleteInst, 1);
     }
     return _pInstance;
 }

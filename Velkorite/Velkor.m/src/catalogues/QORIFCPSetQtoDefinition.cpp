@@ -2,26 +2,20 @@
 
 #include "CatalogueDocument.h"
 #include "velkor/sdai/DXSdaiAppInstance.h"
+#include "XmlNodes.h"
 
 #include <algorithm>
 
 namespace {
 
-/// The node's value; an element has none, and that of its first child stands for it.
-QORUnicodeString valueOf(const QORIDOMNode_var& node) {
-    QORUnicodeString value;
-    node->GetNodeValue(value);
-    if (!value.IsEmpty()) return value;
-    QORIDOMNode_var child;
-    node->GetFirstChild(child);
-    if (!child.IsNull()) child->GetNodeValue(value);
-    return value;
-}
+using namespace velkor::library;
 
-QORIDOMNodeList_var elements(const QORIDOMDocument_var& document, const char* name) {
-    QORIDOMNodeList_var nodes;
-    document->GetElementsByTagName(name, nodes);
-    return nodes;
+/// The text of an element in upper case; empty for one that has none.
+QORUnicodeString upperText(const QORIDOMNode_var& element) {
+    QORUnicodeString text;
+    if (FAILED(nodeValue(element, text))) return {};
+    text.ToUpper();
+    return text;
 }
 
 } // namespace
@@ -30,23 +24,20 @@ QORIFCPSetQtoDefinition::~QORIFCPSetQtoDefinition() = default;
 
 HRESULT QORIFCPSetQtoDefinition::read(const QORUnicodeString& path) {
     QORIDOMDocument_var document;
-    const HRESULT result = velkor::library::readCatalogue(path, document);
+    const HRESULT result = readCatalogue(path, document);
     if (FAILED(result) || document.IsNull()) return result;
 
-    velkor::library::forEachNode(elements(document, "ClassName"), [&](const QORIDOMNode_var& element) {
-        QORUnicodeString name = valueOf(element);
+    for (const QORIDOMElement_var& element : ElementRange(elementsTagged("ClassName", document))) {
+        QORUnicodeString name = upperText(element);
         const int suffix = name.SearchSubString("/");
         if (suffix > 0) name = name.SubString(0, suffix);
-        name.ToUpper();
         if (!name.IsEmpty()) _applicableClasses.Append(name);
-    });
+    }
     // The first name is the set's own.
-    const auto addProperty = [&](const QORIDOMNode_var& element) {
-        QORUnicodeString name = valueOf(element);
-        name.ToUpper();
+    for (const QORIDOMElement_var& element : ElementRange(elementsTagged("Name", document).behindFirst())) {
+        const QORUnicodeString name = upperText(element);
         if (!name.IsEmpty()) _propertyNames.try_emplace(name, name);
-    };
-    velkor::library::forEachNode(elements(document, "Name"), addProperty, 1);
+    }
     return result;
 }
 

@@ -2,6 +2,7 @@
 
 #include "QORIFCDXXMLServices.h"
 #include "TableEntries.h"
+#include "XmlNodes.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,8 +11,6 @@
 namespace velkor::library {
 
 namespace {
-
-using Services = QORIFCDXXMLServices;
 
 constexpr const char* mappingPath = "IfcPLMMappingAttr/IfcPLMMapping";
 constexpr const char* linePath = "IfcPLMMappingAttr/IfcPLMMapping/fromAttributes";
@@ -54,56 +53,45 @@ const Entry* insert(QORSysSimpleHashTable& table, std::unique_ptr<Entry> entry) 
     return table.Insert(entry.get()) == 1 ? entry.release() : nullptr;
 }
 
-unsigned int select(const QORIDOMDocument_var& document, const char* xpath, QORIDOMNodeList_var& nodes) {
-    unsigned int length = 0;
-    if (SUCCEEDED(Services::GetNodeList(document, xpath, nodes)) && !nodes.IsNull()) nodes->GetLength(length);
-    return length;
-}
 unsigned int count(const QORIDOMDocument_var& document, const char* xpath) {
-    QORIDOMNodeList_var nodes;
-    return select(document, xpath, nodes);
+    return select(document, xpath).length();
 }
 
-QORUnicodeString attribute(const QORIDOMNode_var& node, const char* name) {
-    QORUnicodeString value;
-    Services::GetAttributeValue(node, name, value);
-    return value;
+/// An attribute that cannot be had is reported and counts as absent.
+QORUnicodeString value(const QORIDOMNode_var& node, const char* name) {
+    QORUnicodeString text;
+    QORIDOMElement_var element;
+    if (FAILED(asElement(node, element)) || FAILED(attribute(element, name, text))) return {};
+    return text;
 }
 
 /// Calls `visit` with each child element and its tag name.
 template <class Visit>
 void visitElements(const QORIDOMNode_var& parent, Visit visit) {
-    QORIDOMNodeList_var children;
-    unsigned int length = 0;
-    if (parent.IsNull() || FAILED(parent->GetChildNodes(children)) || children.IsNull()) return;
-    children->GetLength(length);
-    for (unsigned int i = 0; i < length; ++i) {
-        QORIDOMNode_var child;
-        children->Item(i, child);
-        const QORIDOMElement_var element = child;
+    for (const QORIDOMElement_var& element : childElements(parent)) {
         QORUnicodeString tag;
-        if (!element.IsNull() && SUCCEEDED(element->GetTagName(tag))) visit(child, tag);
+        if (SUCCEEDED(element->GetTagName(tag))) visit(element, tag);
     }
 }
 
 /// A line that counts for export; else E_FAIL and untouched outputs.
-HRESULT ReadExposedAttribute(const QORIDOMNode_var& line, QORUnicodeString& plmProperty, QORUnicodeString& set,
+HRESULT ReadExposedAttribute(const QORIDOMElement_var& line, QORUnicodeString& plmProperty, QORUnicodeString& set,
                              QORUnicodeString& property) {
-    const QORUnicodeString exposed = attribute(line, "propExpose");
+    const QORUnicodeString exposed = value(line, "propExpose");
     if (exposed != "Both" && exposed != "Export_Only" && !exposed.IsEmpty()) return E_FAIL;
-    plmProperty = attribute(line, "plmProp");
-    set = attribute(line, "propSetName");
-    property = attribute(line, "ifcProp");
+    plmProperty = value(line, "plmProp");
+    set = value(line, "propSetName");
+    property = value(line, "ifcProp");
     return S_OK;
 }
 
-void appendLine(const QORIDOMNode_var& line, PLMAttrIncludedGroup& group) {
+void appendLine(const QORIDOMElement_var& line, PLMAttrIncludedGroup& group) {
     QORUnicodeString plmProperty, set, property;
     if (FAILED(ReadExposedAttribute(line, plmProperty, set, property))) return;
     group.append(plmProperty, set, property);
 }
 void appendLines(const QORIDOMNode_var& parent, PLMAttrIncludedGroup& group) {
-    visitElements(parent, [&](const QORIDOMNode_var& child, const QORUnicodeString& tag) {
+    visitElements(parent, [&](const QORIDOMElement_var& child, const QORUnicodeString& tag) {
         if (tag == "fromAttributes") appendLine(child, group);
     });
 }
@@ -132,7 +120,7 @@ PLMAttributesMappingStore::~PLMAttributesMappingStore() {
 HRESULT PLMAttributesMappingStore::load(const QORUnicodeString& path) {
     // Forgotten first, so that a file that cannot be read does not bring the one before once more.
     _document = {};
-    Services::GetDOMDocument(path, _document);
+    QORIFCDXXMLServices::GetDOMDocument(path, _document);
     const HRESULT result = LoadMappingDocument();
     // An id means a group of its own file.
     release<PLMAttrIncludedGroup>(_groups);
@@ -148,9 +136,8 @@ const PLMAttrMappingRecord* PLMAttributesMappingStore::find(const QORUnicodeStri
 
 HRESULT PLMAttributesMappingStore::LoadMappingDocument() {
     if (_document.IsNull()) return E_FAIL;
-    QORIDOMNodeList_var mappings;
-    const unsigned int mappingCount = select(_document, mappingPath, mappings);
-    if (mappingCount == 0) return E_FAIL;
+    const NodeRange mappings = select(_document, mappingPath);
+    if (mappings.length() == 0) return E_FAIL;
     const unsigned int lines = count(_document, linePath);
     const unsigned int includedLines = count(_document, includedLinePath);
     const unsigned int includes = count(_document, includePath);
@@ -162,25 +149,23 @@ HRESULT PLMAttributesMappingStore::LoadMappingDocument() {
                                                            hashKey<PLMAttrMappingRecord>, isSameRecord);
     }
     HRESULT result = E_FAIL;
-    for (unsigned int i = 0; i < mappingCount; ++i) {
-        QORIDOMNode_var mapping;
-        mappings->Item(i, mapping);
-        if (addMapping(mapping) == S_OK) result = S_OK;
+    for (const ListedNode& mapping : mappings) {
+        if (addMapping(mapping.node) == S_OK) result = S_OK;
     }
     return result;
 }
 
 HRESULT PLMAttributesMappingStore::addMapping(const QORIDOMNode_var& mapping) {
     HRESULT result = E_FAIL;
-    const QORUnicodeString name = attribute(mapping, "Name");
-    visitElements(mapping, [&](const QORIDOMNode_var& child, const QORUnicodeString& tag) {
+    const QORUnicodeString name = value(mapping, "Name");
+    visitElements(mapping, [&](const QORIDOMElement_var& child, const QORUnicodeString& tag) {
         if (tag == "fromAttributes") {
             QORUnicodeString plmProperty, set, property;
             if (FAILED(ReadExposedAttribute(child, plmProperty, set, property))) return;
             add(name, plmProperty, set, property);
             result = S_OK;
         } else if (tag == "PLMAttrInclude") {
-            const PLMAttrIncludedGroup* included = group(attribute(child, "IncludedId"));
+            const PLMAttrIncludedGroup* included = group(value(child, "IncludedId"));
             if (included == nullptr) return;
             for (int k = 1; k <= included->PLMProperties.Size(); ++k) {
                 add(name, included->PLMProperties[k], included->PropertySetNames[k], included->IFCProperties[k]);
@@ -192,32 +177,31 @@ HRESULT PLMAttributesMappingStore::addMapping(const QORIDOMNode_var& mapping) {
 }
 
 void PLMAttributesMappingStore::BuildIncludedGroups() {
-    QORIDOMNodeList_var nodes;
-    const unsigned int length = select(_document, groupPath, nodes);
-    if (nodes.IsNull()) return;
-    _groups =
-        std::make_unique<QORSysSimpleHashTable>(static_cast<int>(length), hashKey<PLMAttrIncludedGroup>, isSameGroup);
-    std::vector<QORIDOMNode_var> groups(length);
+    const NodeRange nodes = select(_document, groupPath);
+    if (FAILED(nodes.result())) return;
+    _groups = std::make_unique<QORSysSimpleHashTable>(static_cast<int>(nodes.length()), hashKey<PLMAttrIncludedGroup>,
+                                                      isSameGroup);
+    std::vector<QORIDOMNode_var> groups;
     std::vector<QORUnicodeString> ids;
-    for (unsigned int i = 0; i < length; ++i) {
-        nodes->Item(i, groups[i]);
-        ids.push_back(attribute(groups[i], "id"));
+    for (const ListedNode& listed : nodes) {
+        groups.push_back(listed.node);
+        ids.push_back(value(listed.node, "id"));
     }
     // All lines of the groups that are complete: an include brings them in, whatever it names.
     PLMAttrIncludedGroup complete;
-    for (unsigned int i = 0; i < length; ++i) {
+    for (std::size_t i = 0; i < groups.size(); ++i) {
         auto made = std::make_unique<PLMAttrIncludedGroup>();
         made->Id = ids[i];
         made->HashKey = hashOf(made->Id);
         bool hasComplete = false;
-        visitElements(groups[i], [&](const QORIDOMNode_var& child, const QORUnicodeString& tag) {
+        visitElements(groups[i], [&](const QORIDOMElement_var& child, const QORUnicodeString& tag) {
             if (tag == "fromAttributes") appendLine(child, *made);
             if (tag != "PLMAttrInclude") return;
             if (!hasComplete) made->append(complete);
             hasComplete = true;
             // Of a group that is not complete, only its own lines come.
-            const QORUnicodeString wanted = attribute(child, "IncludedId");
-            for (unsigned int k = i; k < length; ++k) {
+            const QORUnicodeString wanted = value(child, "IncludedId");
+            for (std::size_t k = i; k < groups.size(); ++k) {
                 if (ids[k].Compare(wanted) != 0 && group(ids[k]) == nullptr) appendLines(groups[k], *made);
             }
         });

@@ -1,14 +1,13 @@
 #include "QOREExchangeAECServices.h"
 
 #include "AECDocument.h"
-#include "QORIFCDXXMLServices.h"
-#include "ReportedResult.h"
+#include "Results.h"
 #include "velkor/knowledge/QORIExchangeObject.h"
 #include "velkor/knowledge/QORIInstance.h"
 #include "velkor/knowledge/QORIPLMNavOccurrence.h"
 #include "velkor/knowledge/QORIVleObject.h"
-#include "velkor/objectmodeler/Assertion.h"
 #include "VelkorComponents.h"
+#include "XmlNodes.h"
 
 #include <cstdio>
 #include <new>
@@ -19,7 +18,7 @@ VELKOR_IMPLEMENT_BOA(VELKOR_API, QORIExchangeAECServices, QOREExchangeAECService
 
 namespace {
 
-using velkor::library::AECDocument;
+using namespace velkor::library;
 
 // Every unit that deals with resource paths has its own pair; the search that reads them is shared.
 [[maybe_unused]] const QORUnicodeString pathListSeparator = ";";
@@ -36,15 +35,9 @@ HRESULT GetAECDocument() {
     return aecDocument.isLoaded() ? S_OK : aecDocument.load();
 }
 
-HRESULT attribute(const QORIDOMElement_var& element, const char* name, QORUnicodeString& value) {
-    return REPORTED(element->GetAttribute(name, value));
-}
-
 int priority(const QORBaseUnknown_var& candidate) {
-    const QORIDOMElement_var element = candidate;
-    QORUnicodeString text;
     int value = 0;
-    if (SUCCEEDED(element->GetAttribute("Priority", text))) text.ConvertToNum(value);
+    attribute(candidate, "Priority").ConvertToNum(value);
     return value;
 }
 
@@ -58,7 +51,7 @@ int CompareByPriority(const QORBaseUnknown_var& a, const QORBaseUnknown_var& b) 
 AECDocument::Condition readCondition(const QORIDOMElement_var& candidate) {
     AECDocument::Condition read{S_OK, {}, {}, {}};
     QORIDOMElement_var condition;
-    read.result = velkor::library::firstElement(candidate, "Condition", condition);
+    read.result = firstElement(candidate, "Condition", condition);
     if (FAILED(read.result) || condition.IsNull()) return read;
     read.result = attribute(condition, "Attribute", read.attribute);
     if (FAILED(read.result) || read.attribute.IsEmpty()) return read;
@@ -73,7 +66,7 @@ template <class Holds>
 HRESULT checkCondition(AECDocument::Candidate& candidate, Holds holds) {
     if (!candidate.condition) candidate.condition = readCondition(candidate.element);
     const AECDocument::Condition& condition = *candidate.condition;
-    if (FAILED(condition.result)) return REPORTED(condition.result);
+    RETURN_IF_FAILED(reported(condition.result));
     return condition.attribute.IsEmpty() ? S_OK : holds(condition);
 }
 
@@ -86,7 +79,7 @@ HRESULT CheckConditionOnValue(AECDocument::Candidate& candidate, const QORUnicod
 HRESULT CheckConditionOnObject(AECDocument::Candidate& candidate, const QORBaseUnknown_var& object) {
     return checkCondition(candidate, [&](const AECDocument::Condition& condition) -> HRESULT {
         const QORIVleObject_var readable = object;
-        if (readable.IsNull()) return REPORTED(E_UNEXPECTED);
+        if (readable.IsNull()) return reported(E_UNEXPECTED);
         QORUnicodeString read;
         if (FAILED(QORVleObjectAttrReadServices::GetValueAsString(readable, condition.attribute, read))) return S_FALSE;
         return condition.value == read ? S_OK : S_FALSE;
@@ -106,10 +99,8 @@ HRESULT CheckConditionOnUserProperties(AECDocument::Candidate& candidate, const 
 /// All elements of a tag with a name; null when there is none.
 HRESULT collect(const char* tag, const QORUnicodeString& name, AECDocument::Entry*& candidates) {
     candidates = nullptr;
-    HRESULT result = GetAECDocument();
-    if (FAILED(result)) return REPORTED(result);
-    result = aecDocument.entry(tag, name, candidates);
-    return REPORTED(result);
+    RETURN_IF_FAILED(reported(GetAECDocument()));
+    return reported(aecDocument.entry(tag, name, candidates));
 }
 
 void sortCandidates(AECDocument::Entry& entry) {
@@ -121,16 +112,15 @@ void sortCandidates(AECDocument::Entry& entry) {
     entry.candidates = std::move(candidates);
 }
 
-/// The first candidate, by priority, whose test gives 0; E_UNEXPECTED when there is none.
+/// Answers with the first candidate, by priority, whose test gives 0; E_UNEXPECTED when there is none.
 template <class Test>
-HRESULT choose(AECDocument::Entry& entry, Test test, AECDocument::Candidate*& chosen) {
+HRESULT choose(AECDocument::Entry& entry, Test test, HRESULT (*answer)(AECDocument::Candidate&, QORUnicodeString&),
+               QORUnicodeString& output) {
     if (entry.candidates.empty()) sortCandidates(entry);
     for (AECDocument::Candidate& candidate : entry.candidates) {
-        if (test(candidate) != S_OK) continue;
-        chosen = &candidate;
-        return S_OK;
+        if (test(candidate) == S_OK) return answer(candidate, output);
     }
-    return REPORTED(E_UNEXPECTED);
+    return reported(E_UNEXPECTED);
 }
 
 /// Hands an answer out that is looked for once; of a failure the output is left alone.
@@ -140,8 +130,8 @@ HRESULT remembered(std::optional<AECDocument::Answer>& answer, QORUnicodeString&
         AECDocument::Answer found{S_OK, {}};
         found.result = find(found.text);
         answer = std::move(found);
-    } else if (FAILED(answer->result)) {
-        REPORTED(answer->result);
+    } else {
+        RETURN_IF_FAILED(reported(answer->result));
     }
     if (SUCCEEDED(answer->result)) output = answer->text;
     return answer->result;
@@ -150,33 +140,20 @@ HRESULT remembered(std::optional<AECDocument::Answer>& answer, QORUnicodeString&
 /// Name of the neutral identifier that an element belongs to.
 HRESULT nameOfParent(const QORIDOMElement_var& element, QORUnicodeString& name) {
     QORIDOMNode_var parent;
-    const HRESULT result = element->GetParentNode(parent);
-    if (FAILED(result)) return REPORTED(result);
-    const QORIDOMElement_var neutral = parent;
-    if (neutral.IsNull()) return REPORTED(E_UNEXPECTED);
+    RETURN_IF_FAILED(reported(element->GetParentNode(parent)));
+    QORIDOMElement_var neutral;
+    RETURN_IF_FAILED(asElement(parent, neutral));
     return attribute(neutral, "Name", name);
 }
 
-/// The first child with a name, from the second node on: the first is never looked at. Empty when there is
-/// none; `count` gets the number of child nodes.
-HRESULT childNamed(const QORIDOMNode_var& parent, const char* name, QORIDOMElement_var& found, unsigned int& count) {
-    QORIDOMNodeList_var children;
-    HRESULT result = parent->GetChildNodes(children);
-    if (FAILED(result)) return REPORTED(result);
-    if (children.IsNull()) return REPORTED(E_UNEXPECTED);
-    result = children->GetLength(count);
-    if (FAILED(result)) return REPORTED(result);
-    for (unsigned int i = 1; i < count; ++i) {
-        QORIDOMNode_var child;
-        result = children->Item(i, child);
-        if (FAILED(result)) return REPORTED(result);
-        if (child.IsNull()) return REPORTED(E_UNEXPECTED);
+/// The first child with a name that counts; empty when there is none.
+HRESULT childNamed(const QORIDOMNode_var& parent, const char* name, QORIDOMElement_var& found) {
+    const NodeRange children = childrenBehindFirst(parent);
+    RETURN_IF_FAILED(children.result());
+    for (const ListedNode& child : children) {
         QORUnicodeString text;
-        result = child->GetNodeName(text);
-        if (FAILED(result)) return REPORTED(result);
-        if (text != name) continue;
-        found = child;
-        return found.IsNull() ? REPORTED(E_UNEXPECTED) : S_OK;
+        RETURN_IF_FAILED(nodeName(child, text));
+        if (text == name) return asElement(child.node, found);
     }
     return S_OK;
 }
@@ -188,32 +165,25 @@ HRESULT neutralIdOf(AECDocument::Candidate& candidate, QORUnicodeString& name) {
 
 /// Name of the PLM side beside an IFC side.
 HRESULT plmTypeOf(AECDocument::Candidate& candidate, QORUnicodeString& name) {
-    return remembered(candidate.plmType, name, [&](QORUnicodeString& text) {
+    return remembered(candidate.plmType, name, [&](QORUnicodeString& text) -> HRESULT {
         QORIDOMNode_var parent;
-        HRESULT result = candidate.element->GetParentNode(parent);
-        if (FAILED(result)) return REPORTED(result);
-        if (parent.IsNull()) return REPORTED(E_UNEXPECTED);
+        RETURN_IF_FAILED(reported(given(candidate.element->GetParentNode(parent), parent)));
         QORIDOMElement_var system;
-        unsigned int count = 0;
-        result = childNamed(parent, plmTag, system, count);
-        if (FAILED(result)) return result;
-        if (count < 2 || system.IsNull()) return REPORTED(E_FAIL);
-        return attribute(system, "Name", text);
+        RETURN_IF_FAILED(childNamed(parent, plmTag, system));
+        return system.IsNull() ? reported(E_FAIL) : attribute(system, "Name", text);
     });
 }
 
 /// The entry of a neutral identifier, of which the first element counts; S_FALSE when the document has none.
 HRESULT findNeutral(const QORString& neutralId, AECDocument::Entry*& neutral) {
-    const HRESULT result = collect(neutralTag, neutralId.CastToCharPtr(), neutral);
-    return FAILED(result) ? result : neutral == nullptr ? S_FALSE : S_OK;
+    RETURN_IF_FAILED(collect(neutralTag, neutralId.CastToCharPtr(), neutral));
+    return neutral == nullptr ? S_FALSE : S_OK;
 }
 
 /// The side of a neutral identifier that a system knows.
 HRESULT findSystem(const AECDocument::Entry& neutral, const char* tag, QORIDOMElement_var& system) {
-    unsigned int count = 0;
-    const HRESULT result = childNamed(neutral.elements.front(), tag, system, count);
-    if (FAILED(result)) return result;
-    return system.IsNull() ? REPORTED(E_UNEXPECTED) : S_OK;
+    RETURN_IF_FAILED(childNamed(neutral.elements.front(), tag, system));
+    return reported(given(S_OK, system));
 }
 
 HRESULT GetSystemTypeName(const QORString& neutralId, const char* tag,
@@ -221,10 +191,10 @@ HRESULT GetSystemTypeName(const QORString& neutralId, const char* tag,
     AECDocument::Entry* neutral = nullptr;
     const HRESULT result = findNeutral(neutralId, neutral);
     if (result != S_OK) return result;
-    return remembered(neutral->*known, name, [&](QORUnicodeString& text) {
+    return remembered(neutral->*known, name, [&](QORUnicodeString& text) -> HRESULT {
         QORIDOMElement_var system;
-        const HRESULT step = findSystem(*neutral, tag, system);
-        return FAILED(step) ? step : attribute(system, "Name", text);
+        RETURN_IF_FAILED(findSystem(*neutral, tag, system));
+        return attribute(system, "Name", text);
     });
 }
 
@@ -233,27 +203,34 @@ HRESULT GetSystemValuation(const QORString& neutralId, const char* tag, QORUnico
     name = QORUnicodeString();
     value = QORUnicodeString();
     AECDocument::Entry* neutral = nullptr;
-    HRESULT result = findNeutral(neutralId, neutral);
-    if (result != S_OK) return result;
+    if (const HRESULT result = findNeutral(neutralId, neutral); result != S_OK) return result;
     QORIDOMElement_var system, valuation;
-    result = findSystem(*neutral, tag, system);
-    if (FAILED(result)) return result;
-    unsigned int count = 0;
-    result = childNamed(system, "Valuate", valuation, count);
-    if (FAILED(result) || valuation.IsNull()) return result;
-    result = attribute(valuation, "Attribute", name);
-    return FAILED(result) ? result : attribute(valuation, "Value", value);
+    RETURN_IF_FAILED(findSystem(*neutral, tag, system));
+    RETURN_IF_FAILED(childNamed(system, "Valuate", valuation));
+    if (valuation.IsNull()) return S_OK;
+    RETURN_IF_FAILED(attribute(valuation, "Attribute", name));
+    return attribute(valuation, "Value", value);
 }
 
 /// The child at a place; E_UNEXPECTED when there is none.
 HRESULT childAt(const QORIDOMNode_var& parent, unsigned int index, QORIDOMNode_var& child) {
-    QORIDOMNodeList_var children;
-    HRESULT result = parent->GetChildNodes(children);
-    if (FAILED(result)) return REPORTED(result);
-    if (children.IsNull()) return REPORTED(E_UNEXPECTED);
-    result = children->Item(index, child);
-    if (FAILED(result)) return REPORTED(result);
-    return child.IsNull() ? REPORTED(E_UNEXPECTED) : S_OK;
+    const NodeRange children = childrenOf(parent);
+    RETURN_IF_FAILED(children.result());
+    const ListedNode listed = children[index];
+    child = listed.node;
+    return reported(listed.result);
+}
+
+/// Name of the type of the instance that an occurrence stands for.
+HRESULT typeNameOf(const QORIPLMNavOccurrence_var& occurrence, QORUnicodeString& name) {
+    if (occurrence.IsNull()) return reported(E_UNEXPECTED);
+    QORBaseUnknown_var related;
+    RETURN_IF_FAILED(reported(occurrence->GetRelatedObject(related)));
+    const QORIInstance_var instance = related;
+    if (instance.IsNull()) return reported(E_UNEXPECTED);
+    QORIType_var type;
+    RETURN_IF_FAILED(reported(given(instance->GetType(type), type)));
+    return reported(type->GetName(name));
 }
 
 } // namespace
@@ -261,87 +238,67 @@ HRESULT childAt(const QORIDOMNode_var& parent, unsigned int index, QORIDOMNode_v
 // No exception leaves these operations.
 
 HRESULT QOREExchangeAECServices::LoadAECResource() try { return aecDocument.load(); } catch (const std::bad_alloc&) {
-    return REPORTED(E_FAIL);
+    return reported(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetPLMTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oPLMType) try {
     return GetSystemTypeName(iNeutralID, plmTag, &AECDocument::Entry::plmName, oPLMType);
 } catch (const std::bad_alloc&) {
-    return REPORTED(E_FAIL);
+    return reported(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetPLMValuationFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oAttribute,
                                                               QORUnicodeString& oValue) try {
     return GetSystemValuation(iNeutralID, plmTag, oAttribute, oValue);
 } catch (const std::bad_alloc&) {
-    return REPORTED(E_FAIL);
+    return reported(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetIFCTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oIFCType) try {
     return GetSystemTypeName(iNeutralID, ifcTag, &AECDocument::Entry::ifcName, oIFCType);
 } catch (const std::bad_alloc&) {
-    return REPORTED(E_FAIL);
+    return reported(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetNeutralIDFromPLMObject(const QORBaseUnknown_var& iObject,
                                                            QORUnicodeString& oNeutralID) try {
     oNeutralID = defaultAnswer;
-    const QORIPLMNavOccurrence_var occurrence = iObject;
-    if (occurrence.IsNull()) return REPORTED(E_UNEXPECTED);
-    QORBaseUnknown_var related;
-    HRESULT result = occurrence->GetRelatedObject(related);
-    if (FAILED(result)) return REPORTED(result);
-    const QORIInstance_var instance = related;
-    if (instance.IsNull()) return REPORTED(E_UNEXPECTED);
-    QORIType_var type;
-    result = instance->GetType(type);
-    if (FAILED(result)) return REPORTED(result);
-    if (type.IsNull()) return REPORTED(E_UNEXPECTED);
     QORUnicodeString typeName;
-    result = type->GetName(typeName);
-    if (FAILED(result)) return REPORTED(result);
-
+    RETURN_IF_FAILED(typeNameOf(iObject, typeName));
     // Hosts read these two lines.
     std::printf("### GOT TYPE [%s]\n", typeName.ConvertToChar());
     AECDocument::Entry* candidates = nullptr;
-    result = collect(plmTag, typeName, candidates);
+    const HRESULT result = collect(plmTag, typeName, candidates);
     std::printf("### GOT NB NODES = %d\n", candidates != nullptr ? static_cast<int>(candidates->elements.size()) : 0);
     if (FAILED(result) || candidates == nullptr) return result;
-    AECDocument::Candidate* chosen = nullptr;
-    result = choose(
-        *candidates, [&](AECDocument::Candidate& candidate) { return CheckConditionOnObject(candidate, iObject); },
-        chosen);
-    return FAILED(result) ? result : neutralIdOf(*chosen, oNeutralID);
+    const auto test = [&](AECDocument::Candidate& candidate) { return CheckConditionOnObject(candidate, iObject); };
+    return choose(*candidates, test, neutralIdOf, oNeutralID);
 } catch (const std::bad_alloc&) {
-    return REPORTED(E_FAIL);
+    return reported(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetNeutralIDFromIFCObject(const QORBaseUnknown_var& iObject,
                                                            QORUnicodeString& oNeutralID) try {
     oNeutralID = defaultAnswer;
     const QORIExchangeObject_var object = iObject;
-    if (object.IsNull()) return REPORTED(E_UNEXPECTED);
+    if (object.IsNull()) return reported(E_UNEXPECTED);
     QORUnicodeString identifier, name, ifcType, description, fileName;
     int number = 0;
-    HRESULT result = object->GetDescription(identifier, name, ifcType, description, fileName, number);
-    if (FAILED(result)) return REPORTED(result);
+    RETURN_IF_FAILED(reported(object->GetDescription(identifier, name, ifcType, description, fileName, number)));
     AECDocument::Entry* candidates = nullptr;
-    result = collect(ifcTag, ifcType, candidates);
-    if (FAILED(result) || candidates == nullptr) return result;
+    RETURN_IF_FAILED(collect(ifcTag, ifcType, candidates));
+    if (candidates == nullptr) return S_OK;
 
     const QORIExchangeUserProperties_var properties = iObject;
-    if (properties.IsNull()) return REPORTED(E_UNEXPECTED);
+    if (properties.IsNull()) return reported(E_UNEXPECTED);
     QORListValQORUnicodeString names, values, types, units;
-    result = properties->GetUserProperties(names, values, types, units);
-    if (FAILED(result)) return REPORTED(result);
-    AECDocument::Candidate* chosen = nullptr;
-    result = choose(
-        *candidates,
-        [&](AECDocument::Candidate& candidate) { return CheckConditionOnUserProperties(candidate, names, values); },
-        chosen);
-    return FAILED(result) ? result : neutralIdOf(*chosen, oNeutralID);
+    RETURN_IF_FAILED(reported(properties->GetUserProperties(names, values, types, units)));
+    const auto test = [&](AECDocument::Candidate& candidate) {
+        return CheckConditionOnUserProperties(candidate, names, values);
+    };
+    return choose(*candidates, test, neutralIdOf, oNeutralID);
 } catch (const std::bad_alloc&) {
-    return REPORTED(E_FAIL);
+    return reported(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetPLMTypeFromIFCType(const QORUnicodeString& iIFCType,
@@ -349,40 +306,32 @@ HRESULT QOREExchangeAECServices::GetPLMTypeFromIFCType(const QORUnicodeString& i
                                                        QORUnicodeString& oPLMType) try {
     oPLMType = defaultAnswer;
     AECDocument::Entry* candidates = nullptr;
-    HRESULT result = collect(ifcTag, iIFCType, candidates);
-    if (FAILED(result) || candidates == nullptr) return result;
+    RETURN_IF_FAILED(collect(ifcTag, iIFCType, candidates));
+    if (candidates == nullptr) return S_OK;
     QORUnicodeString upperValue = iConditionValue;
     upperValue.ToUpper();
-    AECDocument::Candidate* chosen = nullptr;
-    result = choose(
-        *candidates, [&](AECDocument::Candidate& candidate) { return CheckConditionOnValue(candidate, upperValue); },
-        chosen);
-    return FAILED(result) ? result : plmTypeOf(*chosen, oPLMType);
+    const auto test = [&](AECDocument::Candidate& candidate) { return CheckConditionOnValue(candidate, upperValue); };
+    return choose(*candidates, test, plmTypeOf, oPLMType);
 } catch (const std::bad_alloc&) {
-    return REPORTED(E_FAIL);
+    return reported(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetObjectTypeFromNeutralID(const QORString& iNeutralID,
                                                             QORUnicodeString& oObjectType) try {
     AECDocument::Entry* neutral = nullptr;
-    HRESULT result = findNeutral(iNeutralID, neutral);
-    if (result != S_OK) return result;
+    if (const HRESULT result = findNeutral(iNeutralID, neutral); result != S_OK) return result;
     // By place alone: the second element of the entry's first element, in an indented file.
     QORIDOMNode_var first, second;
-    result = childAt(neutral->elements.front(), 1, first);
-    if (FAILED(result)) return result;
-    result = childAt(first, 3, second);
-    if (FAILED(result)) return result;
+    RETURN_IF_FAILED(childAt(neutral->elements.front(), 1, first));
+    RETURN_IF_FAILED(childAt(first, 3, second));
     const QORIDOMElement_var valuation = second;
     if (valuation.IsNull()) return S_FALSE;
     QORUnicodeString name, value;
-    result = attribute(valuation, "Attribute", name);
-    if (FAILED(result)) return result;
-    result = attribute(valuation, "Value", value);
-    if (FAILED(result)) return result;
+    RETURN_IF_FAILED(attribute(valuation, "Attribute", name));
+    RETURN_IF_FAILED(attribute(valuation, "Value", value));
     if (name != "ObjectType") return S_FALSE;
     oObjectType = value;
     return S_OK;
 } catch (const std::bad_alloc&) {
-    return REPORTED(E_FAIL);
+    return reported(E_FAIL);
 }

@@ -1,17 +1,15 @@
 #include "QOREExchangeIFCCustomMappingServices.h"
 
 #include "QORHashTabCustoMappingElement.h"
-#include "QORIFCDXDataSetupServices.h"
-#include "QORIFCDXXMLServices.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCPSetQtoValidationService.h"
-#include "ResourceKinds.h"
+#include "ResourceDocument.h"
+#include "Results.h"
 #include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
 #include "velkor/knowledge/QORITypeDictionary.h"
 #include "velkor/knowledge/QORVleTypeServices.h"
 #include "velkor/objectmodeler/Assertion.h"
 #include "velkor/text/QORToken.h"
-#include "velkor/xml/QORIDOMElement.h"
 #include "VelkorComponents.h"
 
 #include <memory>
@@ -22,6 +20,8 @@ VELKOR_IMPLEMENT_BOA(VELKOR_API, QORIExchangeIFCCustomMappingServices, QOREExcha
 
 namespace {
 
+using namespace velkor::library;
+
 constexpr const char* standardSection = "StandardMapping";
 constexpr const char* customSection = "CustomMapping";
 constexpr unsigned int importRank = 1;
@@ -29,16 +29,6 @@ constexpr unsigned int importRank = 1;
 QORIDOMDocument_var customMappingDocument;
 QORHashTabCustoMappingElement* customMappingTable = nullptr;
 bool TableBuilt = false;
-
-/// All nodes of a path, and how many.
-HRESULT select(const QORIDOMDocument_var& document, const char* xpath, QORIDOMNodeList_var& nodes,
-               unsigned int& length) {
-    HRESULT result = QORIFCDXXMLServices::GetNodeList(document, xpath, nodes);
-    if (FAILED(result)) return result;
-    if (nodes.IsNull()) return E_UNEXPECTED;
-    result = nodes->GetLength(length);
-    return FAILED(result) ? result : S_OK;
-}
 
 /// Whether scopes are names of types: the host's dictionary knows types of buildings.
 bool scopesAreTypes() {
@@ -87,22 +77,8 @@ void announce(QORUnicodeString& toEntity) {
 } // namespace
 
 HRESULT QOREExchangeIFCCustomMappingServices::LoadCustomMapping() {
-    customMappingDocument = {};
     dropTable();
-    const velkor::ResourceKind& kind = velkor::customMappingResource;
-    QORUnicodeString path;
-    HRESULT result = QORIFCDXDataSetupServices::GetResourcePath(kind.resourceSet, kind.category, kind.subFolder, path);
-    if (FAILED(result)) {
-        VELKOR_ASSERTION_FAILED();
-        return result;
-    }
-    QORIDOMDocument_var document;
-    result = QORIFCDXXMLServices::GetDOMDocument(path, document);
-    if (FAILED(result)) {
-        VELKOR_ASSERTION_FAILED();
-        return result;
-    }
-    customMappingDocument = document;
+    RETURN_IF_FAILED(reported(readResource(velkor::customMappingResource, customMappingDocument)));
     TableBuilt = false;
     return S_OK;
 }
@@ -128,23 +104,15 @@ HRESULT QOREExchangeIFCCustomMappingServices::GetCustomMapping(const QORUnicodeS
 
 HRESULT QOREExchangeIFCCustomMappingServices::BuildCustomMappingTable() {
     const QORIDOMDocument_var document = customMappingDocument;
-    if (document.IsNull()) {
-        VELKOR_ASSERTION_FAILED();
-        return E_UNEXPECTED;
-    }
-    QORIDOMNodeList_var standard, custom;
-    unsigned int standardCount = 0, customCount = 0;
-    HRESULT result = select(document, "IfcMapping/StandardMapping", standard, standardCount);
-    if (FAILED(result)) return result;
-    result = select(document, "IfcMapping/CustomMapping", custom, customCount);
-    if (FAILED(result)) return result;
-    if (standardCount + customCount == 0) {
-        VELKOR_ASSERTION_FAILED();
-        return E_UNEXPECTED;
-    }
-    customMappingTable =
-        new QORHashTabCustoMappingElement(QORHTAB_ComputeKeyCustoMappingElement, QORHTAB_CompareCustoMappingElement,
-                                          static_cast<int>(standardCount + customCount));
+    if (document.IsNull()) return reported(E_UNEXPECTED);
+    const NodeRange standard = select(document, "IfcMapping/StandardMapping");
+    RETURN_IF_FAILED(standard.result());
+    const NodeRange custom = select(document, "IfcMapping/CustomMapping");
+    RETURN_IF_FAILED(custom.result());
+    const unsigned int count = standard.length() + custom.length();
+    if (count == 0) return reported(E_UNEXPECTED);
+    customMappingTable = new QORHashTabCustoMappingElement(QORHTAB_ComputeKeyCustoMappingElement,
+                                                           QORHTAB_CompareCustoMappingElement, static_cast<int>(count));
     try {
         const bool isResolving = scopesAreTypes();
         addMappings(standard, standardSection, isResolving);
@@ -157,26 +125,18 @@ HRESULT QOREExchangeIFCCustomMappingServices::BuildCustomMappingTable() {
     return S_OK;
 }
 
-void QOREExchangeIFCCustomMappingServices::addMappings(const QORIDOMNodeList_var& nodes, const char* section,
-                                                       bool isResolving) {
-    unsigned int length = 0;
-    nodes->GetLength(length);
-    for (unsigned int i = 0; i < length; ++i) {
+void QOREExchangeIFCCustomMappingServices::addMappings(const NodeRange& nodes, const char* section, bool isResolving) {
+    for (const ListedNode& listed : nodes) {
         CurrentSection = section;
-        QORIDOMNode_var node;
-        nodes->Item(i, node);
-        const QORIDOMElement_var element = node;
+        QORIDOMElement_var element;
         QORUnicodeString fromEntity, toEntity, fromProperty, toProperty, scope;
         const auto read = [&](const char* name, QORUnicodeString& value) {
-            return SUCCEEDED(element->GetAttribute(name, value));
+            return SUCCEEDED(attribute(element, name, value));
         };
-        const bool isRead = !element.IsNull() && read("fromEntity", fromEntity) && read("toEntity", toEntity) &&
-                            read("fromProperty", fromProperty) && read("toProperty", toProperty) &&
-                            read("scope", scope);
-        if (!isRead) {
-            VELKOR_ASSERTION_FAILED();
-            continue;
-        }
+        const bool isRead = SUCCEEDED(asElement(listed.node, element)) && read("fromEntity", fromEntity) &&
+                            read("toEntity", toEntity) && read("fromProperty", fromProperty) &&
+                            read("toProperty", toProperty) && read("scope", scope);
+        if (!isRead) continue;
         if (CurrentSection == customSection) announce(toEntity);
         addScopes(scope, isResolving, fromEntity, toEntity, fromProperty, toProperty);
     }

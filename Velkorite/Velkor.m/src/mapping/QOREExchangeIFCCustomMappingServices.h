@@ -2,7 +2,7 @@
 #pragma once
 
 #include "velkor/exchangeservices/QORIExchangeIFCCustomMappingServices.h"
-#include "velkor/xml/DomTypes.h"
+#include "XmlNodes.h"
 
 class QOREExchangeIFCCustomMappingServices final : public QORIExchangeIFCCustomMappingServices {
     VELKOR_DECLARE_CLASS
@@ -15,7 +15,7 @@ public:
 
 private:
     HRESULT BuildCustomMappingTable();
-    void addMappings(const QORIDOMNodeList_var& nodes, const char* section, bool isResolving);
+    void addMappings(const velkor::library::NodeRange& nodes, const char* section, bool isResolving);
     void addScopes(const QORUnicodeString& scopes, bool isResolving, const QORUnicodeString& fromEntity,
                    const QORUnicodeString& toEntity, const QORUnicodeString& fromProperty,
                    const QORUnicodeString& toProperty);

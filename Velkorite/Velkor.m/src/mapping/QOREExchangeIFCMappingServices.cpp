@@ -1,24 +1,22 @@
 #include "QOREExchangeIFCMappingServices.h"
 
-#include "FirstResource.h"
-#include "QORIFCDXXMLServices.h"
 #include "QORIFCOptionsFromXCAD.h"
-#include "ReportedResult.h"
+#include "ResourceDocument.h"
+#include "Results.h"
 #include "velkor/containers/QORHashTable.h"
-#include "velkor/objectmodeler/Assertion.h"
-#include "velkor/xml/QORIDOMAttr.h"
-#include "velkor/xml/QORIDOMDocumentTraversal.h"
-#include "velkor/xml/QORIDOMNodeFilter.h"
-#include "velkor/xml/QORIDOMNodeIterator.h"
 #include "VelkorComponents.h"
+#include "XmlNodes.h"
 
 #include <iterator>
 #include <memory>
+#include <optional>
 
 VELKOR_IMPLEMENT_CLASS(QOREExchangeIFCMappingServices, QORIExchangeIFCMappingServices, "QORNull", "Velkorite")
 VELKOR_IMPLEMENT_BOA(VELKOR_API, QORIExchangeIFCMappingServices, QOREExchangeIFCMappingServices)
 
 namespace {
+
+using namespace velkor::library;
 
 // Every unit that deals with resource paths has its own pair; the search that reads them is shared.
 [[maybe_unused]] const QORUnicodeString pathListSeparator = ";";
@@ -77,26 +75,13 @@ VersionMappingTable* versionMappingTable = nullptr;
 
 HRESULT VersionCodeToText(int code, QORUnicodeString& text) {
     constexpr const char* texts[] = {"2x1", "2x2", "2x3", "4", "2x5", "4x2"};
-    if (code < 1 || code > static_cast<int>(std::size(texts))) return REPORTED(E_FAIL);
+    if (code < 1 || code > static_cast<int>(std::size(texts))) return reported(E_FAIL);
     text = texts[code - 1];
     return S_OK;
 }
 
 HRESULT loadDocument() {
-    versionMappingDocument = {};
-    QORUnicodeString path;
-    const HRESULT result = velkor::library::findFirstResource(velkor::versionMappingResource, path);
-    if (FAILED(result)) return REPORTED(result);
-    return QORIFCDXXMLServices::GetDOMDocument(path, versionMappingDocument);
-}
-
-HRESULT GetVersionMappingDocument(QORIDOMDocument_var& document) {
-    if (versionMappingDocument.IsNull()) {
-        const HRESULT result = loadDocument();
-        if (FAILED(result)) return result;
-    }
-    document = versionMappingDocument;
-    return document.IsNull() ? REPORTED(E_UNEXPECTED) : S_OK;
+    return reported(readResource(velkor::versionMappingResource, versionMappingDocument));
 }
 
 const QORUnicodeString& mappingName() {
@@ -115,38 +100,24 @@ const QORUnicodeString& introductionName() {
 /// The first Version element from one release to another; S_FALSE when there is none.
 HRESULT FindVersionElement(int iFromVersion, int iToVersion, QORIDOMElement_var& version) {
     QORUnicodeString from, to;
-    HRESULT result = VersionCodeToText(iFromVersion, from);
-    if (FAILED(result)) return result;
-    QORIDOMDocument_var document;
-    result = GetVersionMappingDocument(document);
-    if (FAILED(result)) return result;
+    RETURN_IF_FAILED(VersionCodeToText(iFromVersion, from));
+    if (versionMappingDocument.IsNull()) RETURN_IF_FAILED(loadDocument());
     QORIDOMElement_var root;
-    result = document->GetDocumentElement(root);
-    if (FAILED(result)) return REPORTED(result);
-    const QORIDOMDocumentTraversal_var traversal = document;
-    if (traversal.IsNull()) return REPORTED(E_UNEXPECTED);
+    RETURN_IF_FAILED(reported(versionMappingDocument->GetDocumentElement(root)));
     QORIDOMNodeIterator_var iterator;
-    result =
-        traversal->CreateNodeIterator(root, QORDOMNodeFilterType::SHOW_ELEMENT | QORDOMNodeFilterType::SHOW_ATTRIBUTE,
-                                      QORIDOMNodeFilter_var(), true, iterator);
-    if (FAILED(result)) return REPORTED(result);
-    if (iterator.IsNull()) return REPORTED(E_UNEXPECTED);
-    result = VersionCodeToText(iToVersion, to);
-    if (FAILED(result)) return result;
+    RETURN_IF_FAILED(elementIterator(versionMappingDocument, root, {}, iterator));
+    RETURN_IF_FAILED(VersionCodeToText(iToVersion, to));
 
     QORIDOMNode_var node;
     while (SUCCEEDED(iterator->NextNode(node)) && !node.IsNull()) {
         const QORIDOMElement_var element = node;
         if (element.IsNull()) continue;
         QORUnicodeString text;
-        result = element->GetTagName(text);
-        if (FAILED(result)) return REPORTED(result);
+        RETURN_IF_FAILED(tagName(element, text));
         if (text != "Version") continue;
-        result = element->GetAttribute("from", text);
-        if (FAILED(result)) return REPORTED(result);
+        RETURN_IF_FAILED(attribute(element, "from", text));
         if (text != from) continue;
-        result = element->GetAttribute("to", text);
-        if (FAILED(result)) return REPORTED(result);
+        RETURN_IF_FAILED(attribute(element, "to", text));
         if (text != to) continue;
         version = element;
         return S_OK;
@@ -154,117 +125,73 @@ HRESULT FindVersionElement(int iFromVersion, int iToVersion, QORIDOMElement_var&
     return S_FALSE;
 }
 
-/// Goes through the children from the second one on; the first is never looked at. `visit` gets an element
-/// that has one of the names, and ends the walk with a failure.
+/// Goes through the children that count. `visit` gets an element that has one of the names, and ends the walk with a
+/// failure.
 template <class Wants, class Visit>
-HRESULT walkChildren(const QORIDOMNodeList_var& children, unsigned int length, Wants wants, Visit visit) {
-    for (unsigned int i = 1; i < length; ++i) {
-        QORIDOMNode_var child;
-        if (FAILED(children->Item(i, child)) || child.IsNull()) {
-            REPORTED(E_UNEXPECTED);
-            continue;
-        }
+HRESULT walk(const NodeRange& children, Wants wants, Visit visit) {
+    for (const ListedNode& child : children) {
         QORUnicodeString name;
-        if (FAILED(child->GetNodeName(name))) {
-            REPORTED(E_UNEXPECTED);
-            continue;
-        }
-        if (!wants(name)) continue;
-        const QORIDOMElement_var element = child;
-        if (element.IsNull()) return REPORTED(E_UNEXPECTED);
-        const HRESULT result = visit(element, name);
-        if (FAILED(result)) return result;
+        if (FAILED(nodeName(child, name)) || !wants(name)) continue;
+        QORIDOMElement_var element;
+        RETURN_IF_FAILED(asElement(child.node, element));
+        RETURN_IF_FAILED(visit(element, name));
     }
     return S_OK;
-}
-
-HRESULT childrenOf(const QORIDOMElement_var& version, QORIDOMNodeList_var& children, unsigned int& length) {
-    HRESULT result = version->GetChildNodes(children);
-    if (FAILED(result)) return REPORTED(result);
-    if (children.IsNull()) return REPORTED(E_UNEXPECTED);
-    result = children->GetLength(length);
-    return FAILED(result) ? REPORTED(result) : S_OK;
 }
 
 /// The search and the walk of the three operations that read the document at every call.
 template <class Visit>
 HRESULT visitChanges(int iFromVersion, int iToVersion, const QORUnicodeString& wanted, Visit visit) {
     QORIDOMElement_var version;
-    HRESULT result = FindVersionElement(iFromVersion, iToVersion, version);
-    if (result != S_OK) return result;
-    QORIDOMNodeList_var children;
-    unsigned int length = 0;
-    result = childrenOf(version, children, length);
-    if (FAILED(result)) return result;
-    return walkChildren(
-        children, length, [&](const QORUnicodeString& name) { return name == wanted; },
+    if (const HRESULT found = FindVersionElement(iFromVersion, iToVersion, version); found != S_OK) return found;
+    const NodeRange children = childrenBehindFirst(version);
+    RETURN_IF_FAILED(children.result());
+    return walk(
+        children, [&](const QORUnicodeString& name) { return name == wanted; },
         [&](const QORIDOMElement_var& element, const QORUnicodeString&) { return visit(element); });
-}
-
-HRESULT read(const QORIDOMElement_var& element, const char* name, QORUnicodeString& value) {
-    const HRESULT result = element->GetAttribute(name, value);
-    return FAILED(result) ? REPORTED(result) : S_OK;
-}
-
-/// An attribute that may be absent. False after a failing read, which has been reported.
-bool readOptional(const QORIDOMElement_var& element, const char* name, bool& isPresent, QORUnicodeString& value) {
-    QORIDOMAttr_var attribute;
-    isPresent = false;
-    if (FAILED(element->GetAttributeNode(name, attribute))) {
-        REPORTED(E_UNEXPECTED);
-        return false;
-    }
-    if (attribute.IsNull()) return true;
-    isPresent = true;
-    if (SUCCEEDED(attribute->GetValue(value))) return true;
-    REPORTED(E_UNEXPECTED);
-    return false;
 }
 
 /// A deprecated or introduced entity or property.
 HRESULT changeEntry(const QORIDOMElement_var& element, bool isDeprecation,
                     std::unique_ptr<VersionMappingEntry>& entry) {
-    QORUnicodeString entity, property;
-    const HRESULT result = read(element, "entity", entity);
-    if (FAILED(result) || entity.IsEmpty()) return result;
-    bool isPresent = false;
-    if (!readOptional(element, "property", isPresent, property)) return S_OK;
+    QORUnicodeString entity;
+    RETURN_IF_FAILED(attribute(element, "entity", entity));
+    std::optional<QORUnicodeString> property;
+    if (entity.IsEmpty() || FAILED(attribute(element, "property", property))) return S_OK;
     entry = std::make_unique<VersionMappingEntry>();
-    entry->Key = isPresent ? entity + property : entity;
+    entry->Key = property ? entity + *property : entity;
     if (isDeprecation)
-        entry->Kind = isPresent ? "DEPRECATED_PROPERTY" : "DEPRECATED_ENTITY";
+        entry->Kind = property ? "DEPRECATED_PROPERTY" : "DEPRECATED_ENTITY";
     else
-        entry->Kind = isPresent ? "INTRODUCED_PROPERTY" : "INTRODUCED_ENTITY";
+        entry->Kind = property ? "INTRODUCED_PROPERTY" : "INTRODUCED_ENTITY";
     return S_OK;
 }
 
 /// A renamed property. Renames of entities alone are no entries: GetMappedEntityName serves them.
 HRESULT mapEntry(const QORIDOMElement_var& element, std::unique_ptr<VersionMappingEntry>& entry) {
-    QORUnicodeString fromEntity, fromProperty;
-    const HRESULT result = read(element, "fromEntity", fromEntity);
-    if (FAILED(result) || fromEntity.IsEmpty()) return result;
-    bool isPresent = false;
-    if (!readOptional(element, "fromProperty", isPresent, fromProperty) || fromProperty.IsEmpty()) return S_OK;
-    auto made = std::make_unique<VersionMappingEntry>();
-    if (!readOptional(element, "toEntity", isPresent, made->ToEntity)) return S_OK;
-    if (!readOptional(element, "toProperty", isPresent, made->ToProperty)) return S_OK;
-    if (!isPresent) made->ToProperty = fromProperty;
-    made->Key = fromEntity + fromProperty;
-    made->Kind = "MAP";
-    entry = std::move(made);
+    QORUnicodeString fromEntity;
+    RETURN_IF_FAILED(attribute(element, "fromEntity", fromEntity));
+    if (fromEntity.IsEmpty()) return S_OK;
+    std::optional<QORUnicodeString> fromProperty, toEntity, toProperty;
+    if (FAILED(attribute(element, "fromProperty", fromProperty)) || !fromProperty || fromProperty->IsEmpty())
+        return S_OK;
+    if (FAILED(attribute(element, "toEntity", toEntity)) || FAILED(attribute(element, "toProperty", toProperty)))
+        return S_OK;
+    entry = std::make_unique<VersionMappingEntry>();
+    entry->Key = fromEntity + *fromProperty;
+    entry->Kind = "MAP";
+    entry->ToEntity = toEntity.value_or(QORUnicodeString());
+    entry->ToProperty = toProperty.value_or(*fromProperty);
     return S_OK;
 }
 
 HRESULT BuildVersionMappingTable(int iFromVersion, int iToVersion) {
     QORIDOMElement_var version;
-    HRESULT result = FindVersionElement(iFromVersion, iToVersion, version);
-    if (result != S_OK) return result;
-    QORIDOMNodeList_var children;
-    unsigned int length = 0;
-    result = childrenOf(version, children, length);
-    if (FAILED(result)) return result;
-    if (length == 0) return S_OK;
-    auto table = std::make_unique<VersionMappingTable>(static_cast<int>(length));
+    if (const HRESULT found = FindVersionElement(iFromVersion, iToVersion, version); found != S_OK) return found;
+    const NodeRange children = childrenBehindFirst(version);
+    RETURN_IF_FAILED(children.result());
+    if (children.length() == 0) return S_OK;
+    auto table = std::make_unique<VersionMappingTable>(static_cast<int>(children.length()));
     const auto wants = [](const QORUnicodeString& name) {
         return name == deprecationName() || name == introductionName() || name == mappingName();
     };
@@ -276,7 +203,7 @@ HRESULT BuildVersionMappingTable(int iFromVersion, int iToVersion) {
         return read;
     };
     // Of a walk that fails, the entries before stay.
-    result = walkChildren(children, length, wants, visit);
+    const HRESULT result = walk(children, wants, visit);
     versionMappingTable = table.release();
     return result;
 }
@@ -314,49 +241,48 @@ HRESULT QOREExchangeIFCMappingServices::GetIntroducedPropertyValues(int iFromVer
                                                                     QORListValQORUnicodeString& oEntities,
                                                                     QORListValQORUnicodeString& oProperties,
                                                                     QORListValQORUnicodeString& oPropertyValues) {
-    return visitChanges(iFromVersion, iToVersion, introductionName(), [&](const QORIDOMElement_var& element) {
-        QORUnicodeString entity, property, value;
-        const HRESULT result = read(element, "entity", entity);
-        if (FAILED(result)) return result;
-        bool isPresent = false;
-        if (!readOptional(element, "property", isPresent, property) || property.IsEmpty()) return S_OK;
-        if (!readOptional(element, "propertyValue", isPresent, value) || value.IsEmpty()) return S_OK;
+    const auto visit = [&](const QORIDOMElement_var& element) -> HRESULT {
+        QORUnicodeString entity;
+        RETURN_IF_FAILED(attribute(element, "entity", entity));
+        std::optional<QORUnicodeString> property, value;
+        if (FAILED(attribute(element, "property", property)) || !property || property->IsEmpty()) return S_OK;
+        if (FAILED(attribute(element, "propertyValue", value)) || !value || value->IsEmpty()) return S_OK;
         oEntities.Append(entity);
-        oProperties.Append(property);
-        oPropertyValues.Append(value);
+        oProperties.Append(*property);
+        oPropertyValues.Append(*value);
         return S_OK;
-    });
+    };
+    return visitChanges(iFromVersion, iToVersion, introductionName(), visit);
 }
 
 HRESULT QOREExchangeIFCMappingServices::GetDeprecatedEntities(int iFromVersion, int iToVersion,
                                                               QORListValQORUnicodeString& oEntities) {
-    return visitChanges(iFromVersion, iToVersion, deprecationName(), [&](const QORIDOMElement_var& element) {
-        QORUnicodeString entity, property;
-        const HRESULT result = read(element, "entity", entity);
-        if (FAILED(result)) return result;
-        bool isPresent = false;
-        if (!readOptional(element, "property", isPresent, property) || isPresent || entity.IsEmpty()) return S_OK;
+    const auto visit = [&](const QORIDOMElement_var& element) -> HRESULT {
+        QORUnicodeString entity;
+        RETURN_IF_FAILED(attribute(element, "entity", entity));
+        std::optional<QORUnicodeString> property;
+        if (FAILED(attribute(element, "property", property)) || property || entity.IsEmpty()) return S_OK;
         entity.ToUpper();
         oEntities.Append(entity);
         return S_OK;
-    });
+    };
+    return visitChanges(iFromVersion, iToVersion, deprecationName(), visit);
 }
 
 HRESULT QOREExchangeIFCMappingServices::GetMappedEntityName(int iFromVersion, int iToVersion,
                                                             QORUnicodeString& ioEntity) {
-    return visitChanges(iFromVersion, iToVersion, mappingName(), [&](const QORIDOMElement_var& element) {
+    const auto visit = [&](const QORIDOMElement_var& element) -> HRESULT {
         QORUnicodeString from, to;
-        HRESULT result = read(element, "fromEntity", from);
-        if (FAILED(result)) return result;
+        RETURN_IF_FAILED(attribute(element, "fromEntity", from));
         from.ToUpper();
         ioEntity.ToUpper();
         if (from != ioEntity) return S_OK;
-        result = read(element, "toEntity", to);
-        if (FAILED(result)) return result;
+        RETURN_IF_FAILED(attribute(element, "toEntity", to));
         // Renames go on in the order of the document.
         if (!to.IsEmpty()) ioEntity = to;
         return S_OK;
-    });
+    };
+    return visitChanges(iFromVersion, iToVersion, mappingName(), visit);
 }
 
 HRESULT QOREExchangeIFCMappingServices::LoadVersionMappingDocument() {

@@ -1,23 +1,16 @@
 #include "QORIFCDXXMLServices.h"
 
-#include "ReportedResult.h"
-#include "velkor/objectmodeler/Assertion.h"
-#include "velkor/text/QORListValQORUnicodeString.h"
+#include "ParserOptions.h"
+#include "Results.h"
 #include "velkor/xml/QORIDOMDocumentType.h"
 #include "velkor/xml/QORIDOMImplementation.h"
 #include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
 #include "velkor/xml/QORIXMLXPathFactory.h"
-
-#include <initializer_list>
+#include "XmlNodes.h"
 
 namespace {
 
-struct Pair {
-    const char* first;
-    const char* second;
-};
-
-constexpr Pair parserOptions[] = {{"QORDoValidation", "false"}, {"QOREnableNameSpaces", "true"}};
+using namespace velkor::library;
 
 constexpr Pair writerOptions[] = {
     {"QOREncoding", "UTF-8"}, {"QORLineSeparator", "\r\n"}, {"QORIndentation", "2"}, {"QORIndentationCharacter", " "}};
@@ -27,131 +20,85 @@ constexpr Pair namespaces[] = {{"gml", "http://www.opengis.net/gml/3.2"},
                                {"gmd", "http://www.isotc211.org/2005/gmd"},
                                {"gco", "http://www.isotc211.org/2005/gco"}};
 
-/// Pairs as the two parallel lists that the parser takes.
-struct ParallelLists {
-    template <std::size_t count>
-    explicit ParallelLists(const Pair (&pairs)[count]) {
-        for (const Pair& pair : pairs) {
-            first.Append(pair.first);
-            second.Append(pair.second);
-        }
-    }
-    QORListValQORUnicodeString first;
-    QORListValQORUnicodeString second;
-};
+/// The builder that reads and writes; whether making it succeeded counts less than whether it is there.
+HRESULT makeBuilder(QORIXMLDOMDocumentBuilder_var& builder) {
+    CreateQORIXMLDOMDocumentBuilder(CLSID_XML4C5_DOM, builder);
+    return reported(given(S_OK, builder));
+}
 
 } // namespace
 
 HRESULT QORIFCDXXMLServices::CreateDOMDocument(const QORUnicodeString& rootName, QORIDOMDocument_var& document) {
     QORIXMLDOMDocumentBuilder_var builder;
-    HRESULT result = CreateQORIXMLDOMDocumentBuilder(CLSID_XML4C_DOM, builder);
-    if (FAILED(result)) return REPORTED(result);
-    if (builder.IsNull()) return REPORTED(E_UNEXPECTED);
-
-    result = builder->CreateDocument(document);
-    if (FAILED(result)) return REPORTED(result);
-    if (document.IsNull()) return REPORTED(E_UNEXPECTED);
+    RETURN_IF_FAILED(reported(given(CreateQORIXMLDOMDocumentBuilder(CLSID_XML4C_DOM, builder), builder)));
+    RETURN_IF_FAILED(reported(given(builder->CreateDocument(document), document)));
 
     QORIDOMImplementation_var implementation;
     builder->GetDOMImplementation(implementation);
-    if (implementation.IsNull()) return REPORTED(E_UNEXPECTED);
+    RETURN_IF_FAILED(reported(given(S_OK, implementation)));
     implementation->CreateDocument("", rootName, QORIDOMDocumentType_var(), document);
-    return document.IsNull() ? REPORTED(E_UNEXPECTED) : S_OK;
+    return reported(given(S_OK, document));
 }
 
 HRESULT QORIFCDXXMLServices::GetDOMDocument(const QORUnicodeString& path, QORIDOMDocument_var& document) {
     QORIXMLDOMDocumentBuilder_var builder;
-    CreateQORIXMLDOMDocumentBuilder(CLSID_XML4C5_DOM, builder);
-    if (builder.IsNull()) return REPORTED(E_UNEXPECTED);
-
+    RETURN_IF_FAILED(makeBuilder(builder));
     const ParallelLists options(parserOptions);
     const HRESULT result = builder->Parse(path, document, options.first, options.second, QORIXMLEntityResolver_var(),
                                           QORIXMLErrorHandler_var());
-    if (FAILED(result)) return REPORTED(result);
-    return document.IsNull() ? REPORTED(E_UNEXPECTED) : S_OK;
+    return reported(given(result, document));
 }
 
 HRESULT QORIFCDXXMLServices::WriteDOMDocument(const QORIDOMDocument_var& document, const QORUnicodeString& path) {
     QORIXMLDOMDocumentBuilder_var builder;
-    CreateQORIXMLDOMDocumentBuilder(CLSID_XML4C5_DOM, builder);
-    if (builder.IsNull()) return REPORTED(E_UNEXPECTED);
-
+    RETURN_IF_FAILED(makeBuilder(builder));
     const ParallelLists options(writerOptions);
-    const HRESULT result = builder->Write(document, path, options.first, options.second);
-    return FAILED(result) ? REPORTED(result) : S_OK;
+    RETURN_IF_FAILED(reported(builder->Write(document, path, options.first, options.second)));
+    return S_OK;
 }
 
 HRESULT QORIFCDXXMLServices::GetNodeList(const QORIDOMDocument_var& document, const char* xpath,
                                          QORIDOMNodeList_var& nodes) {
     const QORIXMLXPathFactory_var factory = document;
     QORIXMLXPathExpression_var expression;
-    HRESULT result = factory->CreateXPathExpression(xpath, expression);
-    if (FAILED(result)) return REPORTED(result);
-    if (expression.IsNull()) return REPORTED(E_UNEXPECTED);
-
+    RETURN_IF_FAILED(reported(given(factory->CreateXPathExpression(xpath, expression), expression)));
     const ParallelLists bound(namespaces);
-    result = expression->SetNamespaces(bound.first, bound.second);
-    if (FAILED(result)) return REPORTED(result);
-    result = expression->Evaluate(nodes);
-    if (FAILED(result)) return REPORTED(result);
-    return nodes.IsNull() ? REPORTED(E_UNEXPECTED) : S_OK;
+    RETURN_IF_FAILED(reported(expression->SetNamespaces(bound.first, bound.second)));
+    return reported(given(expression->Evaluate(nodes), nodes));
 }
 
 HRESULT QORIFCDXXMLServices::GetNode(const QORIDOMDocument_var& document, const char* xpath, QORIDOMNode_var& node) {
-    QORIDOMNodeList_var nodes;
-    HRESULT result = GetNodeList(document, xpath, nodes);
-    if (FAILED(result)) return REPORTED(result);
-    if (nodes.IsNull()) return REPORTED(E_UNEXPECTED);
-    unsigned int length = 0;
-    result = nodes->GetLength(length);
-    if (FAILED(result)) return REPORTED(result);
-    if (length != 1) return E_INVALIDARG;
-    result = nodes->Item(0, node);
-    if (FAILED(result)) return REPORTED(result);
-    return node.IsNull() ? REPORTED(E_UNEXPECTED) : S_OK;
+    const NodeRange nodes = select(document, xpath);
+    RETURN_IF_FAILED(reported(nodes.result()));
+    if (nodes.length() != 1) return E_INVALIDARG;
+    const ListedNode only = nodes[0];
+    node = only.node;
+    return reported(only.result);
 }
 
 HRESULT QORIFCDXXMLServices::GetNodeValue(const QORIDOMDocument_var& document, const char* xpath,
                                           QORUnicodeString& value) {
     QORIDOMNode_var node;
-    HRESULT result = GetNode(document, xpath, node);
-    if (result == E_INVALIDARG) return E_INVALIDARG;
-    if (FAILED(result)) return REPORTED(result);
-    if (node.IsNull()) return REPORTED(E_UNEXPECTED);
-
+    const HRESULT result = GetNode(document, xpath, node);
+    if (result == E_INVALIDARG) return result;
+    RETURN_IF_FAILED(reported(given(result, node)));
     QORUnicodeString name;
-    result = node->GetNodeName(name);
-    if (FAILED(result)) return REPORTED(result);
-    result = node->GetNodeValue(value);
-    if (FAILED(result)) return REPORTED(result);
-    if (value.GetLengthInChar() >= 1) return S_OK;
-
-    // An element has no value of its own; that of its first child stands for it.
-    QORIDOMNode_var child;
-    result = node->GetFirstChild(child);
-    if (FAILED(result)) return REPORTED(result);
-    if (child.IsNull()) return REPORTED(E_UNEXPECTED);
-    result = child->GetNodeValue(value);
-    return FAILED(result) ? REPORTED(result) : S_OK;
+    RETURN_IF_FAILED(reported(node->GetNodeName(name)));
+    RETURN_IF_FAILED(reported(nodeValue(node, value)));
+    return S_OK;
 }
 
 HRESULT QORIFCDXXMLServices::GetAttributeValue(const QORIDOMDocument_var& document, const char* xpath,
                                                const QORUnicodeString& attributeName, QORUnicodeString& value) {
     QORIDOMNode_var node;
-    HRESULT result = GetNode(document, xpath, node);
-    if (FAILED(result)) {
-        __OmyAssertionFailed(VELKOR_SOURCE_UNIT, __LINE__, xpath);
-        return result;
-    }
-    result = GetAttributeValue(node, attributeName, value);
-    return FAILED(result) ? REPORTED(result) : S_OK;
+    RETURN_IF_FAILED(reported(GetNode(document, xpath, node), SourcePlace::here(), xpath));
+    return reported(GetAttributeValue(node, attributeName, value));
 }
 
 HRESULT QORIFCDXXMLServices::GetAttributeValue(const QORIDOMNode_var& node, const QORUnicodeString& attributeName,
                                                QORUnicodeString& value) {
-    if (node.IsNull()) return REPORTED(E_UNEXPECTED);
-    const QORIDOMElement_var element = node;
-    if (element.IsNull()) return REPORTED(E_UNEXPECTED);
-    const HRESULT result = element->GetAttribute(attributeName, value);
-    return FAILED(result) ? REPORTED(result) : S_OK;
+    QORIDOMElement_var element;
+    RETURN_IF_FAILED(asElement(node, element));
+    RETURN_IF_FAILED(reported(element->GetAttribute(attributeName, value)));
+    return S_OK;
 }

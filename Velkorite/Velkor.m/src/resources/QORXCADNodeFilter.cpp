@@ -1,7 +1,8 @@
 #include "QORXCADNodeFilter.h"
 
-#include "ReportedResult.h"
-#include "velkor/xml/QORIDOMElement.h"
+#include "XmlNodes.h"
+
+using namespace velkor::library;
 
 VELKOR_IMPLEMENT_CLASS(QORXCADNodeFilter, QORBaseUnknown, "QORnull", "Velkorite")
 
@@ -14,21 +15,18 @@ QORXCADNodeFilter::~QORXCADNodeFilter() = default;
 
 HRESULT QORXCADNodeFilter::acceptNode(const QORIDOMNode_var& node, unsigned int& answer) {
     answer = QORDOMNodeFilterType::FILTER_SKIP;
-    if (node.IsNull()) return REPORTED(E_UNEXPECTED);
+    if (node.IsNull()) return reported(E_UNEXPECTED);
     unsigned short type = 0;
-    HRESULT result = node->GetNodeType(type);
-    if (FAILED(result)) return REPORTED(result);
+    RETURN_IF_FAILED(reported(node->GetNodeType(type)));
     if (type != QORIDOMNode::ELEMENT_NODE) return S_OK;
-    const QORIDOMElement_var element = node;
-    if (element.IsNull()) return REPORTED(E_UNEXPECTED);
+    QORIDOMElement_var element;
+    RETURN_IF_FAILED(asElement(node, element));
 
     QORUnicodeString text;
-    result = element->GetTagName(text);
-    if (FAILED(result)) return REPORTED(result);
+    RETURN_IF_FAILED(tagName(element, text));
     if (text != _tagName) return S_OK;
     if (!_name.IsEmpty()) {
-        result = element->GetAttribute("Name", text);
-        if (FAILED(result)) return REPORTED(result);
+        RETURN_IF_FAILED(attribute(element, "Name", text));
         text.ToUpper();
         if (text != _name) return S_OK;
     }
