@@ -1,6 +1,7 @@
 // velkor map
 
 #include "CommandContext.h"
+#include "MappingReleases.h"
 #include "output/Json.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "terminal/DisplayText.h"
@@ -17,6 +18,8 @@
 #include <algorithm>
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
+#include <ranges>
+#include <span>
 
 namespace velkor::host {
 
@@ -33,8 +36,6 @@ struct Arguments {
     bool introduced = false;
 };
 
-// By release code, counted from 1.
-constexpr const char* releases[] = {"2x1", "2x2", "2x3", "4", "2x5", "4x2"};
 constexpr const char* scopeEndings[] = {"_Import", "_Export"};
 
 QORUnicodeString unicode(const std::string& text) {
@@ -137,20 +138,25 @@ std::string switchRemark() {
     return isSwitchedOff() ? std::string(disableVersionMappingOption) + " switches it off" : std::string();
 }
 
-/// Code of a release; 0 after reporting that it is none.
-int releaseCode(CommandContext& context, const std::string& release) {
-    const auto found = std::ranges::find(releases, release);
-    if (found != std::end(releases)) return static_cast<int>(found - std::begin(releases)) + 1;
-    context.err << "velkor: unknown release \"" << release << "\"; expected one of ";
-    for (const char* known : releases) context.err << (known == releases[0] ? "" : ", ") << known;
-    context.err << '\n';
-    context.status = BadUsage;
-    return 0;
-}
-
 void badUsage(CommandContext& context, const std::string& reason) {
     context.err << "velkor: " << reason << '\n';
     context.status = BadUsage;
+}
+
+/// All releases, with another separator before the last one.
+std::string releaseTexts(std::string_view lastSeparator) {
+    const std::span releases(mappingReleases);
+    const auto texts = std::views::transform(&MappingRelease::text);
+    return text::joined(releases.first(releases.size() - 1) | texts, ", ")
+        .append(lastSeparator)
+        .append(releases.back().text);
+}
+
+/// Code of a release; 0 after reporting that it is none.
+int releaseCode(CommandContext& context, const std::string& release) {
+    if (const auto* known = findMappingRelease<std::string_view>(&MappingRelease::text, release)) return known->code;
+    badUsage(context, "unknown release \"" + release + "\"; expected one of " + releaseTexts(", "));
+    return 0;
 }
 
 // --- between releases ------------------------------------------------------------------------------
@@ -354,7 +360,7 @@ void addMapCommand(CLI::App& app, CommandContext& context) {
                                       "velkor map version --from 2x3 --to 4 IfcActionRequest RequestID");
     version->add_option("ENTITY", arguments->entity, "Name of the entity");
     version->add_option("PROPERTY", arguments->property, "Name of one of its properties");
-    version->add_option("--from", arguments->from, "Release of the names: 2x1, 2x2, 2x3, 4, 2x5 or 4x2")
+    version->add_option("--from", arguments->from, "Release of the names: " + releaseTexts(" or "))
         ->option_text("RELEASE")
         ->required();
     version->add_option("--to", arguments->to, "Release to map them to")->option_text("RELEASE")->required();

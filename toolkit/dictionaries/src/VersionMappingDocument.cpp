@@ -1,11 +1,11 @@
 #include "velkor/dictionaries/VersionMappingDocument.h"
 
+#include "MappingReleases.h"
 #include "QORIFCDXXMLServices.h"
 #include "velkor/dictionaries/ReleaseRenames.h"
 #include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
 
 #include <algorithm>
-#include <array>
 
 namespace velkor {
 
@@ -16,25 +16,13 @@ using sdai::AttributeSlot;
 using sdai::EntityDefinition;
 using sdai::SchemaDefinition;
 
-struct ReleaseName {
-    std::string_view schema;
-    std::string_view text;
-};
-// In the order of the releases.
-constexpr std::array<ReleaseName, 3> releaseNames{{{"IFC2X3", "2x3"}, {"IFC4", "4"}, {"IFC4X2", "4x2"}}};
-
-std::size_t releaseOrder(std::string_view schemaName) {
-    const auto found = std::ranges::find(releaseNames, schemaName, &ReleaseName::schema);
-    return static_cast<std::size_t>(found - releaseNames.begin());
-}
-
-/// Renames are told from IFC2X3 to what follows; in the other direction they are read backwards.
+/// Renames are told from one release to what follows; in the other direction they are read backwards.
 enum class Direction { None, Forwards, Backwards };
 
 Direction renameDirection(const SchemaDefinition& before, const SchemaDefinition& after) {
-    const std::size_t from = releaseOrder(before.name()), to = releaseOrder(after.name());
-    if (from == 0 && to > 0) return Direction::Forwards;
-    return from > 0 && to == 0 ? Direction::Backwards : Direction::None;
+    const bool isFrom = before.name() == renamedRelease, isTo = after.name() == renamedRelease;
+    if (isFrom == isTo) return Direction::None;
+    return isFrom ? Direction::Forwards : Direction::Backwards;
 }
 
 bool hasExplicit(const EntityDefinition& entity, std::string_view name) {
@@ -162,8 +150,8 @@ private:
 } // namespace
 
 std::string_view mappingReleaseText(std::string_view schemaName) {
-    const std::size_t order = releaseOrder(schemaName);
-    return order < releaseNames.size() ? releaseNames[order].text : std::string_view();
+    const MappingRelease* release = findMappingRelease(&MappingRelease::dictionary, schemaName);
+    return release != nullptr ? release->text : std::string_view();
 }
 
 std::string versionMappingDocument(const std::vector<ReleasePair>& pairs) {

@@ -1,6 +1,9 @@
 #include "VersionMappingLinter.h"
 
-#include <algorithm>
+#include "MappingReleases.h"
+#include "velkor/text/Wording.h"
+
+#include <ranges>
 
 namespace velkor::lint {
 
@@ -14,14 +17,6 @@ const Format& format() {
                                 {"Introduction", {"Version"}, {"entity"}, {"property", "propertyValue"}}}};
     return result;
 }
-
-struct Release {
-    std::string_view text;
-    /// Its dictionary; empty when there is none.
-    std::string_view dictionary;
-};
-constexpr Release releases[] = {{"2x1", ""},   {"2x2", ""}, {"2x3", "IFC2X3"},
-                                {"4", "IFC4"}, {"2x5", ""}, {"4x2", "IFC4X2"}};
 
 } // namespace
 
@@ -44,19 +39,18 @@ void VersionMappingLinter::judgeEntries(const XmlElement& root) {
 
 Dictionaries::Releases VersionMappingLinter::judgeRelease(const XmlElement& version, const char* attribute) {
     const std::string& text = version.attribute(attribute);
-    const auto found = std::ranges::find(releases, text, &Release::text);
-    if (found != std::end(releases)) {
-        if (found->dictionary.empty()) return {};
-        return {std::string(found->dictionary)};
+    if (const auto* known = findMappingRelease<std::string_view>(&MappingRelease::text, text)) {
+        if (known->dictionary.empty()) return {};
+        return {std::string(known->dictionary)};
     }
+    if (text.empty()) return {};
     // The dictionary's name is what one thinks of first.
-    const auto meant =
-        std::ranges::find(releases, upper(text.starts_with("IFC") ? text : "IFC" + text), &Release::dictionary);
-    if (!text.empty()) {
-        error(version.line, "unknown-release",
-              "expected a release (2x1, 2x2, 2x3, 4, 2x5, 4x2) in " + quoted(attribute) + ", found " + quoted(text),
-              meant == std::end(releases) ? "" : "did you mean " + quoted(meant->text) + '?');
-    }
+    const auto* meant = findMappingRelease<std::string_view>(&MappingRelease::dictionary,
+                                                             upper(text.starts_with("IFC") ? text : "IFC" + text));
+    const auto texts = std::views::transform(mappingReleases, &MappingRelease::text);
+    error(version.line, "unknown-release",
+          "expected a release (" + text::joined(texts, ", ") + ") in " + quoted(attribute) + ", found " + quoted(text),
+          meant == nullptr ? "" : "did you mean " + quoted(meant->text) + '?');
     return {};
 }
 

@@ -1,5 +1,6 @@
 #include "QOREExchangeIFCMappingServices.h"
 
+#include "MappingReleases.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "ResourceDocument.h"
 #include "Results.h"
@@ -7,7 +8,6 @@
 #include "VelkorComponents.h"
 #include "XmlNodes.h"
 
-#include <iterator>
 #include <memory>
 #include <optional>
 
@@ -74,9 +74,9 @@ QORIDOMDocument_var versionMappingDocument;
 VersionMappingTable* versionMappingTable = nullptr;
 
 HRESULT VersionCodeToText(int code, QORUnicodeString& text) {
-    constexpr const char* texts[] = {"2x1", "2x2", "2x3", "4", "2x5", "4x2"};
-    if (code < 1 || code > static_cast<int>(std::size(texts))) return reported(E_FAIL);
-    text = texts[code - 1];
+    const velkor::MappingRelease* release = velkor::findMappingRelease(&velkor::MappingRelease::code, code);
+    if (release == nullptr) return reported(E_FAIL);
+    text = QORUnicodeString(release->text);
     return S_OK;
 }
 

@@ -4,6 +4,7 @@
 #include "dictionary/RepositoryState.h"
 #include "dictionary/SchemaName.h"
 #include "velkor/objectmodeler/CallRecorder.h"
+#include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,12 +18,6 @@ namespace {
 // released by this library's termination, which comes after every static object of those
 // that depend on it, so that registrations can still be withdrawn there.
 DXSdaiDictionaryRepo* theOne = nullptr;
-
-std::string join(const std::vector<std::string>& names) {
-    std::string result;
-    for (const std::string& name : names) result += (result.empty() ? "" : ", ") + name;
-    return result.empty() ? "none" : result;
-}
 
 } // namespace
 
@@ -77,7 +72,9 @@ tl::expected<DXSdaiDictionaryRepo::SchemaPointer, std::string> DXSdaiDictionaryR
     std::unique_lock lock(_state->mutex);
     const State::EntryPointer entry = _state->find(name);
     if (!entry) {
-        return tl::unexpected("unknown schema \"" + std::string(name) + "\"; known: " + join(_state->names()));
+        const std::vector<std::string> known = _state->names();
+        return tl::unexpected("unknown schema \"" + std::string(name) +
+                              "\"; known: " + (known.empty() ? "none" : velkor::text::joined(known, ", ")));
     }
     _state->waitForOtherThreads(entry, lock);
     if (entry->phase == State::Phase::Waiting) _state->load(entry, lock);

@@ -2,6 +2,7 @@
 
 #include "model/ComplexInstance.h"
 #include "velkor/text/Printable.h"
+#include "velkor/text/Wording.h"
 
 #include <algorithm>
 
@@ -11,12 +12,6 @@ namespace {
 
 // Of what a message shows of the file, in bytes.
 constexpr std::size_t longestExcerpt = 200;
-
-std::string joined(const std::vector<std::string>& names, std::string_view separator) {
-    std::string result;
-    for (const std::string& name : names) (result.empty() ? result : result += separator) += name;
-    return result;
-}
 
 /// The schemas that a file names, in its header and for single sections.
 std::vector<std::string> schemaNames(const Part21File& file) {
@@ -82,8 +77,8 @@ std::optional<Problem> Model::schemaProblem(const Part21File& file) {
     problem.code = "schema-unknown";
     problem.message =
         "expected a supported schema in FILE_SCHEMA, found " +
-        (written.empty() ? "none" : '"' + text::excerpt(joined(written, "\", \""), longestExcerpt) + '"') +
-        "; supported: " + joined(DXSdaiDictionaryRepo::TheOne().names(), ", ");
+        (written.empty() ? "none" : '"' + text::excerpt(text::joined(written, "\", \""), longestExcerpt) + '"') +
+        "; supported: " + text::joined(DXSdaiDictionaryRepo::TheOne().names(), ", ");
     return problem;
 }
 

@@ -1,7 +1,7 @@
 /// What becomes of entities and properties from one IFC release to another. A library implements it; a host
 /// asks any object for it, or makes the component "ExchangeIFCMappingServices".
 ///
-/// Releases are codes: 1 "2x1", 2 "2x2", 3 "2x3", 4 "4", 5 "2x5", 6 "4x2".
+/// Releases are codes; which ones there are, the library that implements it says.
 #pragma once
 
 #include "velkor/objectmodeler/ComponentMacros.h"

@@ -16,4 +16,17 @@ std::string counted(std::uint64_t number, std::string_view singular, std::string
 /// The shortest decimal text that reads back as the same double.
 std::string shortest(double value);
 
+/// Texts in their order with a separator between each two.
+template <class Texts>
+std::string joined(const Texts& texts, std::string_view separator) {
+    std::string result;
+    bool isFirst = true;
+    for (const std::string_view text : texts) {
+        if (!isFirst) result += separator;
+        isFirst = false;
+        result += text;
+    }
+    return result;
+}
+
 } // namespace velkor::text

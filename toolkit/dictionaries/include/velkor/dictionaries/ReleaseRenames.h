@@ -2,7 +2,12 @@
 /// that the one is the other: this table does. Sources are the change logs of the releases.
 #pragma once
 
+#include <string_view>
+
 namespace velkor {
+
+/// The release that the names before are of; those after are of IFC4 and what follows.
+inline constexpr std::string_view renamedRelease = "IFC2X3";
 
 /// Entities. Several may become one; the way back is then left out.
 struct EntityRename {
@@ -18,7 +23,6 @@ struct AttributeRename {
     const char* after;
 };
 
-/// IFC2X3 to IFC4.
 inline constexpr EntityRename entityRenames[] = {
     {"IFCELECTRICALCIRCUIT", "IFCDISTRIBUTIONCIRCUIT", true},
     {"IFCELECTRICDISTRIBUTIONPOINT", "IFCELECTRICDISTRIBUTIONBOARD", true},
@@ -53,7 +57,6 @@ inline constexpr EntityRename entityRenames[] = {
     {"IFCSTRUCTURALSTEELPROFILEPROPERTIES", "IFCPROFILEPROPERTIES", false},
 };
 
-/// IFC2X3 to IFC4.
 inline constexpr AttributeRename attributeRenames[] = {
     {"IFCACTIONREQUEST", "REQUESTID", "IDENTIFICATION"},
     {"IFCASSET", "ASSETID", "IDENTIFICATION"},
