@@ -33,7 +33,7 @@ void unitsOfAModel(benchmark::State& state) {
         const std::size_t before = model->memoryUse();
         const CpuTimer timer;
         const auto assignments = model->numbersOf("IFCUNITASSIGNMENT");
-        QORIFCUnitServices::SetSchema(model->schema().name() == "IFC2X3" ? FileschemaIFC2X3 : FileschemaIFC4);
+        QORIFCUnitServices::SetSchema(velkor::fileschemaOf(model->schema().name()));
         double millimetres = 0.0, radians = 0.0;
         const bool isDone = !assignments.empty() &&
                             QORIFCUnitServices::StoreGlobalUnits(model->instanceAt(assignments.front())) >= 0 &&

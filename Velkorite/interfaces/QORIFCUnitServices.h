@@ -36,6 +36,10 @@ public:
     /// for another instance, none, no units, or a schema without a table.
     static HRESULT StoreGlobalUnits(DXSdaiAppInstance* unitAssignment);
 
+    /// Slot of a unit's factor in the table of the schema (UnitSlots.h), by its unit type; -1 for an instance that
+    /// is no named or derived unit or has none of the types. `unit` must not be null.
+    static int GetUnitSlot(const DXSdaiAppInstance* unit);
+
     /// Factor of one unit: an IFCSIUNIT by prefix and unit type, an IFCCONVERSIONBASEDUNIT by its conversion
     /// factor, an IFCDERIVEDUNIT by its elements; 1.0 for all others. `unit` must not be null. What is
     /// missing counts as 1.0; so does a unit that is defined by itself or over more than a thousand

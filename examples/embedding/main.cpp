@@ -22,9 +22,8 @@ int main(int argc, char** argv) {
         return 1;
     }
 
-    // The services keep one model's units per process: IFC2X3 counts as schema 0, every later
-    // release as schema 1.
-    QORIFCUnitServices::SetSchema(Fileschema((*model)->schema().name() == "IFC2X3" ? 0 : 1));
+    // The services keep one model's units per process.
+    QORIFCUnitServices::SetSchema(velkor::fileschemaOf((*model)->schema().name()));
     QORIFCUnitServices::StoreGlobalUnits(assignments.front());
     double millimetres = 0.0, radians = 0.0;
     if (QORIFCUnitServices::GetSIConversionFactorforGeometry(millimetres, radians) < 0) {

@@ -1,14 +1,15 @@
 #include "QORIFCUnitServices.h"
 
 #include "ModelText.h"
+#include "UnitSlots.h"
 #include "velkor/objectmodeler/Assertion.h"
 #include "velkor/sdai/Model.h"
 
-#include <algorithm>
 #include <array>
 #include <deque>
 #include <gmock/gmock.h>
 #include <limits>
+#include <regex>
 #include <sstream>
 #include <tuple>
 
@@ -213,28 +214,23 @@ TEST_F(UnitServices, StaySmallOnUnitsBuiltToBeEndless) {
 
 TEST_F(UnitServices, FindTheUnitOfEveryMeasure) {
     // Measures and units have the same names but for those that bound a measure.
-    std::istringstream named("LENGTH AREA VOLUME PLANEANGLE TIME MASS ENERGY THERMODYNAMICTEMPERATURE MAGNETICFLUX "
-                             "PRESSURE POWER ILLUMINANCE SOLIDANGLE ELECTRICCURRENT AMOUNTOFSUBSTANCE "
-                             "LUMINOUSINTENSITY");
-    constexpr std::array derived{"VOLUMETRICFLOWRATE", "LINEARVELOCITY",  "MASSDENSITY",
-                                 "AREADENSITY",        "HEATFLUXDENSITY", "THERMALTRANSMITTANCE"};
-    std::vector<std::pair<std::string, std::string>> measures{{"IFCPOSITIVELENGTHMEASURE", "LENGTH"},
-                                                              {"IFCNONNEGATIVELENGTHMEASURE", "LENGTH"},
-                                                              {"IFCPOSITIVEPLANEANGLEMEASURE", "PLANEANGLE"},
-                                                              {"ifcAreaMeasure", "AREA"}};
-    for (std::string name; named >> name;) measures.emplace_back("IFC" + name + "MEASURE", name);
-    for (const std::string name : derived) measures.emplace_back("IFC" + name + "MEASURE", name);
+    std::vector<std::tuple<std::string, std::string, bool>> measures{{"ifcAreaMeasure", "AREA", false}};
+    const std::regex words("IFC(?:POSITIVE|NONNEGATIVE)?(\\w+)MEASURE");
+    for (const velkor::MeasureSlots& measure : velkor::measureSlots) {
+        measures.emplace_back(measure.name, std::regex_replace(measure.name, words, "$1"),
+                              measure.ifc4 >= velkor::firstDerivedSlot);
+    }
+    ASSERT_EQ(measures.size(), 26U);
     const std::string shared = "#3=IFCMEASUREWITHUNIT(IFCREAL(7.),$);#4=IFCDERIVEDUNITELEMENT(#5,1);"
                                "#5=IFCCONVERSIONBASEDUNIT($,.USERDEFINED.,'B',#3);";
     for (const std::string release : {"IFC2X3", "IFC4", "IFC4X3_ADD2"}) {
         for (const Fileschema schema : {FileschemaIFC2X3, FileschemaIFC4}) {
-            for (const auto& [measure, name] : measures) {
+            for (const auto& [measure, name, isDerived] : measures) {
                 const bool isKnown = name != "AREADENSITY" || (schema == FileschemaIFC4 && release != "IFC2X3");
-                const bool isDerived = std::ranges::find(derived, name) != derived.end();
                 const std::string unit = isDerived ? "#2=IFCDERIVEDUNIT((#4),." + name + "UNIT.,$);"
                                                    : "#2=IFCCONVERSIONBASEDUNIT($,." + name + "UNIT.,'A',#3);";
                 EXPECT_EQ(store(schema, release, "#2", unit + shared), isKnown ? S_OK : E_FAIL) << release << name;
-                for (const auto& [asked, meant] : measures) {
+                for (const auto& [asked, meant, _] : measures) {
                     EXPECT_EQ(measured(asked.c_str()), isKnown && meant == name ? 7.0 : 1.0) << release << asked;
                 }
             }

@@ -1,49 +1,16 @@
 #include "velkor/units/UnitReport.h"
 
 #include "QORIFCUnitServices.h"
+#include "UnitSlots.h"
 
-#include <array>
 #include <unordered_set>
 
 namespace velkor {
 
 namespace {
 
-constexpr std::array measureNames{
-    "IFCLENGTHMEASURE",
-    "IFCPOSITIVELENGTHMEASURE",
-    "IFCNONNEGATIVELENGTHMEASURE",
-    "IFCAREAMEASURE",
-    "IFCVOLUMEMEASURE",
-    "IFCPLANEANGLEMEASURE",
-    "IFCPOSITIVEPLANEANGLEMEASURE",
-    "IFCTIMEMEASURE",
-    "IFCMASSMEASURE",
-    "IFCENERGYMEASURE",
-    "IFCTHERMODYNAMICTEMPERATUREMEASURE",
-    "IFCMAGNETICFLUXMEASURE",
-    "IFCPRESSUREMEASURE",
-    "IFCPOWERMEASURE",
-    "IFCILLUMINANCEMEASURE",
-    "IFCVOLUMETRICFLOWRATEMEASURE",
-    "IFCLINEARVELOCITYMEASURE",
-    "IFCMASSDENSITYMEASURE",
-    "IFCAREADENSITYMEASURE",
-    "IFCTHERMALTRANSMITTANCEMEASURE",
-    "IFCHEATFLUXDENSITYMEASURE",
-    "IFCSOLIDANGLEMEASURE",
-    "IFCELECTRICCURRENTMEASURE",
-    "IFCAMOUNTOFSUBSTANCEMEASURE",
-    "IFCLUMINOUSINTENSITYMEASURE",
-};
-
 // A unit made of more elements is not spelled out.
 constexpr std::size_t mostElementsNamed = 8;
-
-/// The schema as the unit services know it: every release after IFC2X3 shares the table of IFC4.
-Fileschema fileSchema(const sdai::SchemaDefinition& schema) {
-    return schema.name() == "IFC2X3" ? FileschemaIFC2X3 : FileschemaIFC4;
-}
 
 DXSdaiAppInstance* findAssignment(const sdai::Model& model) {
     for (const char* context : {"IFCPROJECT", "IFCCONTEXT"}) {
@@ -85,21 +52,6 @@ std::string derivedUnitName(const DXSdaiAppInstance& unit) {
     return result;
 }
 
-/// Where the unit services keep the factor of a unit: by its type's position in the dictionary of the schema
-/// set, derived units from 29 on.
-std::optional<int> slotOf(const DXSdaiAppInstance& unit) {
-    const bool isDerived = unit.IsKindOf("IFCDERIVEDUNIT");
-    if (!isDerived && !unit.IsKindOf("IFCNAMEDUNIT")) return std::nullopt;
-    const char* reference = fileSchema(unit.model().schema()) == FileschemaIFC2X3 ? "IFC2X3" : "IFC4";
-    const auto schema = DXSdaiDictionaryRepo::TheOne().schema(reference);
-    const auto* type = schema ? (*schema)->definedType(isDerived ? "IFCDERIVEDUNITENUM" : "IFCUNITENUM") : nullptr;
-    const auto* enumeration = type != nullptr ? type->resolved().asEnumeration() : nullptr;
-    const int position =
-        enumeration != nullptr ? enumeration->position(unit.GetAttr("UNITTYPE").asEnumeration().text()) : -1;
-    if (position < 0) return std::nullopt;
-    return isDerived ? position + 29 : position;
-}
-
 UnitReport::Unit describe(DXSdaiAppInstance& unit) {
     UnitReport::Unit result;
     result.id = unit.id();
@@ -108,7 +60,7 @@ UnitReport::Unit describe(DXSdaiAppInstance& unit) {
     result.name = unit.IsKindOf("IFCDERIVEDUNIT")    ? derivedUnitName(unit)
                   : unit.IsKindOf("IFCMONETARYUNIT") ? textOf(unit, "CURRENCY")
                                                      : namedUnitName(unit);
-    result.slot = slotOf(unit);
+    if (const int slot = QORIFCUnitServices::GetUnitSlot(&unit); slot != noSlot) result.slot = slot;
     result.factor = QORIFCUnitServices::GetUnitConversionFactor(&unit);
     return result;
 }
@@ -118,7 +70,7 @@ UnitReport::Unit describe(DXSdaiAppInstance& unit) {
 UnitReport unitReport(const sdai::Model& model) {
     UnitReport report;
     DXSdaiAppInstance* assignment = findAssignment(model);
-    QORIFCUnitServices::SetSchema(fileSchema(model.schema()));
+    QORIFCUnitServices::SetSchema(fileschemaOf(model.schema().name()));
     // Also without an assignment, so that no other model's factors are left.
     QORIFCUnitServices::StoreGlobalUnits(assignment);
     if (assignment != nullptr) {
@@ -135,9 +87,9 @@ UnitReport unitReport(const sdai::Model& model) {
     QORUnicodeString name;
     QORIFCUnitServices::GetDocumentLengthUnit(assignment, name, report.lengthUnitFactor);
     report.lengthUnitName = name.utf8();
-    for (const char* measure : measureNames) {
-        QORUnicodeString measureName(measure);
-        report.measures.emplace_back(measure, QORIFCUnitServices::GetGlobalUnitConversionFactor(measureName));
+    for (const MeasureSlots& measure : measureSlots) {
+        QORUnicodeString measureName(measure.name);
+        report.measures.emplace_back(measure.name, QORIFCUnitServices::GetGlobalUnitConversionFactor(measureName));
     }
     return report;
 }

@@ -2,6 +2,7 @@
 
 #include "UnitEvaluation.h"
 #include "UnitPositions.h"
+#include "UnitSlots.h"
 #include "velkor/sdai/DXSdaiAppInstance.h"
 #include "velkor/text/Unicode.h"
 
@@ -28,43 +29,6 @@ namespace {
 // In the order of IFCSIPREFIX, EXA to ATTO.
 constexpr std::array<double, 16> prefixFactors{1e18, 1e15, 1e12, 1e9,  1e6,  1e3,   1e2,   1e1,
                                                1e-1, 1e-2, 1e-3, 1e-6, 1e-9, 1e-12, 1e-15, 1e-18};
-
-constexpr int noSlot = -1;
-
-/// Where the factor of a measure type stands in the tables of the two schemas.
-struct MeasureSlots {
-    const char* name;
-    int ifc2x3;
-    int ifc4;
-};
-
-constexpr MeasureSlots measureSlots[] = {
-    {"IFCLENGTHMEASURE", 15, 15},
-    {"IFCPOSITIVELENGTHMEASURE", 15, 15},
-    {"IFCNONNEGATIVELENGTHMEASURE", 15, 15},
-    {"IFCAREAMEASURE", 2, 2},
-    {"IFCVOLUMEMEASURE", 28, 28},
-    {"IFCPLANEANGLEMEASURE", 21, 21},
-    {"IFCPOSITIVEPLANEANGLEMEASURE", 21, 21},
-    {"IFCTIMEMEASURE", 27, 27},
-    {"IFCMASSMEASURE", 20, 20},
-    {"IFCENERGYMEASURE", 10, 10},
-    {"IFCTHERMODYNAMICTEMPERATUREMEASURE", 26, 26},
-    {"IFCMAGNETICFLUXMEASURE", 19, 19},
-    {"IFCPRESSUREMEASURE", 23, 23},
-    {"IFCPOWERMEASURE", 22, 22},
-    {"IFCILLUMINANCEMEASURE", 13, 13},
-    {"IFCVOLUMETRICFLOWRATEMEASURE", 47, 48},
-    {"IFCLINEARVELOCITYMEASURE", 36, 37},
-    {"IFCMASSDENSITYMEASURE", 37, 38},
-    {"IFCAREADENSITYMEASURE", noSlot, 30},
-    {"IFCTHERMALTRANSMITTANCEMEASURE", 45, 46},
-    {"IFCHEATFLUXDENSITYMEASURE", 32, 33},
-    {"IFCSOLIDANGLEMEASURE", 25, 25},
-    {"IFCELECTRICCURRENTMEASURE", 7, 7},
-    {"IFCAMOUNTOFSUBSTANCEMEASURE", 1, 1},
-    {"IFCLUMINOUSINTENSITYMEASURE", 17, 17},
-};
 
 /// A length unit that lengths in millimetres may be written in.
 struct AlternativeLengthUnit {
@@ -121,17 +85,21 @@ HRESULT QORIFCUnitServices::StoreGlobalUnits(DXSdaiAppInstance* unitAssignment) 
     for (AggregateIterator it(unitsOf(unitAssignment)); it.next();) {
         DXSdaiAppInstance* unit = it.current().asInstance();
         if (unit == nullptr) continue;
-        const bool isDerived = unit->IsKindOf("IFCDERIVEDUNIT");
-        if (!isDerived && !unit->IsKindOf("IFCNAMEDUNIT")) continue;
-
-        const int position = unitPosition(unit->GetAttr("UNITTYPE").asEnumeration(), _schema);
-        const auto slot = static_cast<std::size_t>(isDerived ? position + velkor::library::firstDerivedSlot : position);
-        if (position < 0 || slot >= factors.size()) continue;
-        factors[slot] = GetUnitConversionFactor(unit);
+        const int slot = GetUnitSlot(unit);
+        if (slot == velkor::noSlot || static_cast<std::size_t>(slot) >= factors.size()) continue;
+        factors[static_cast<std::size_t>(slot)] = GetUnitConversionFactor(unit);
         result = S_OK;
     }
     std::ranges::copy(factors, stored.begin());
     return result;
+}
+
+int QORIFCUnitServices::GetUnitSlot(const DXSdaiAppInstance* unit) {
+    const bool isDerived = unit->IsKindOf("IFCDERIVEDUNIT");
+    if (!isDerived && !unit->IsKindOf("IFCNAMEDUNIT")) return velkor::noSlot;
+    const int position = unitPosition(unit->GetAttr("UNITTYPE").asEnumeration(), _schema);
+    if (position < 0) return velkor::noSlot;
+    return isDerived ? position + velkor::firstDerivedSlot : position;
 }
 
 double QORIFCUnitServices::GetUnitConversionFactor(DXSdaiAppInstance* unit) {
@@ -144,9 +112,9 @@ double QORIFCUnitServices::GetPrefixValue(int prefixIndex) {
 }
 
 double QORIFCUnitServices::GetGlobalUnitConversionFactor(QORUnicodeString& measureTypeName) {
-    for (const MeasureSlots& measure : measureSlots) {
+    for (const velkor::MeasureSlots& measure : velkor::measureSlots) {
         if (!velkor::text::equalIgnoringCase(measureTypeName.utf8(), measure.name)) continue;
-        if (_schema == FileschemaIFC2X3 && measure.ifc2x3 != noSlot)
+        if (_schema == FileschemaIFC2X3 && measure.ifc2x3 != velkor::noSlot)
             return _IFC2x3_globalSIUnitsFactors[measure.ifc2x3];
         if (_schema == FileschemaIFC4) return _IFC4_globalSIUnitsFactors[measure.ifc4];
         return 1.0;
@@ -155,8 +123,8 @@ double QORIFCUnitServices::GetGlobalUnitConversionFactor(QORUnicodeString& measu
 }
 
 HRESULT QORIFCUnitServices::GetSIConversionFactorforGeometry(double& lengthFactor, double& angleFactor) {
-    using velkor::library::LengthUnit;
-    using velkor::library::PlaneAngleUnit;
+    using velkor::LengthUnit;
+    using velkor::PlaneAngleUnit;
     if (_schema == FileschemaIFC2X3) {
         lengthFactor = _IFC2x3_globalSIUnitsFactors[LengthUnit] * 1000.0;
         angleFactor = _IFC2x3_globalSIUnitsFactors[PlaneAngleUnit];
@@ -172,7 +140,7 @@ HRESULT QORIFCUnitServices::GetDocumentLengthUnit(DXSdaiAppInstance* unitAssignm
     for (AggregateIterator it(unitsOf(unitAssignment)); it.next();) {
         DXSdaiAppInstance* unit = it.current().asInstance();
         if (unit == nullptr || !(unit->IsKindOf("IFCCONVERSIONBASEDUNIT") || unit->IsKindOf("IFCSIUNIT"))) continue;
-        if (unitPosition(unit->GetAttr("UNITTYPE").asEnumeration(), _schema) != velkor::library::LengthUnit) continue;
+        if (unitPosition(unit->GetAttr("UNITTYPE").asEnumeration(), _schema) != velkor::LengthUnit) continue;
         factor = GetUnitConversionFactor(unit);
         if (lengthUnitName(*unit, unitName)) break;
     }

@@ -2,6 +2,7 @@
 
 #include "QORIFCUnitServices.h"
 #include "UnitPositions.h"
+#include "UnitSlots.h"
 #include "velkor/objectmodeler/Assertion.h"
 
 #include <cmath>

@@ -4,7 +4,7 @@
 
 int velkor::library::unitPosition(const sdai::Enumeration& value, Fileschema schema) {
     if (value.type == nullptr) return -1;
-    const std::string_view reference = schema == FileschemaIFC2X3 ? "IFC2X3" : "IFC4";
+    const std::string_view reference = unitDictionary(schema);
     if (value.type->schema().name() == reference) return value.value;
 
     const auto dictionary = DXSdaiDictionaryRepo::TheOne().schema(reference);
