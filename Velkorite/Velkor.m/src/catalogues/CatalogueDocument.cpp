@@ -1,9 +1,9 @@
 #include "CatalogueDocument.h"
 
-#include "ParserOptions.h"
-#include "Results.h"
+#include "foundation/Results.h"
 #include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
 #include "velkor/xml/QORIXMLInputSource.h"
+#include "xml/ParserOptions.h"
 
 HRESULT velkor::library::readCatalogue(const QORUnicodeString& path, QORIDOMDocument_var& document) {
     QORIXMLSAX2Factory_var factory;

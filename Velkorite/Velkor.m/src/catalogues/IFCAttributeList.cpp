@@ -1,12 +1,12 @@
 #include "IFCAttributeList.h"
 
 #include "CatalogueDocument.h"
-#include "ExitCallbacks.h"
+#include "foundation/ExitCallbacks.h"
 #include "IFCAttributeTables.h"
 #include "QORIFCDXFileServices.h"
 #include "ResourceKinds.h"
 #include "velkor/files/QORDirectory.h"
-#include "XmlNodes.h"
+#include "xml/XmlNodes.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "IFCAttributeTables.h"
 
-#include "TableEntries.h"
+#include "foundation/TableEntries.h"
 
 #include <memory>
 

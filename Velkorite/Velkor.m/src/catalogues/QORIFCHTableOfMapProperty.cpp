@@ -1,7 +1,7 @@
 #include "QORIFCHTableOfMapProperty.h"
 
+#include "foundation/TableEntries.h"
 #include "QORIFCMapProperty.h"
-#include "TableEntries.h"
 
 #include <memory>
 

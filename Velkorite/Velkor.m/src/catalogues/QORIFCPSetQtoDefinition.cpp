@@ -2,7 +2,7 @@
 
 #include "CatalogueDocument.h"
 #include "velkor/sdai/DXSdaiAppInstance.h"
-#include "XmlNodes.h"
+#include "xml/XmlNodes.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "QORIFCPSetQtoValidationService.h"
 
-#include "ExitCallbacks.h"
+#include "foundation/ExitCallbacks.h"
 #include "QORIFCPSetQtoDefinition.h"
 #include "ResourceKinds.h"
 #include "velkor/files/Paths.h"

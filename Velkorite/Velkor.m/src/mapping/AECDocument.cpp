@@ -1,9 +1,9 @@
 #include "AECDocument.h"
 
+#include "foundation/Results.h"
 #include "QORXCADNodeFilter.h"
-#include "ResourceDocument.h"
-#include "Results.h"
-#include "XmlNodes.h"
+#include "resources/ResourceDocument.h"
+#include "xml/XmlNodes.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #include "PLMAttributesMappingStore.h"
 
+#include "foundation/TableEntries.h"
 #include "QORIFCDXXMLServices.h"
-#include "TableEntries.h"
-#include "XmlNodes.h"
+#include "xml/XmlNodes.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,13 +1,13 @@
-#include "QOREExchangeAECServices.h"
+#include "mapping/QOREExchangeAECServices.h"
 
 #include "AECDocument.h"
-#include "Results.h"
+#include "foundation/Results.h"
 #include "velkor/knowledge/QORIExchangeObject.h"
 #include "velkor/knowledge/QORIInstance.h"
 #include "velkor/knowledge/QORIPLMNavOccurrence.h"
 #include "velkor/knowledge/QORIVleObject.h"
 #include "VelkorComponents.h"
-#include "XmlNodes.h"
+#include "xml/XmlNodes.h"
 
 #include <cstdio>
 #include <new>

@@ -1,10 +1,10 @@
-#include "QOREExchangeIFCCustomMappingServices.h"
+#include "mapping/QOREExchangeIFCCustomMappingServices.h"
 
+#include "foundation/Results.h"
 #include "QORHashTabCustoMappingElement.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCPSetQtoValidationService.h"
-#include "ResourceDocument.h"
-#include "Results.h"
+#include "resources/ResourceDocument.h"
 #include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
 #include "velkor/knowledge/QORITypeDictionary.h"
 #include "velkor/knowledge/QORVleTypeServices.h"

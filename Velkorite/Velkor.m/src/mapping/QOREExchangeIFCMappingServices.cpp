@@ -1,12 +1,12 @@
-#include "QOREExchangeIFCMappingServices.h"
+#include "mapping/QOREExchangeIFCMappingServices.h"
 
+#include "foundation/Results.h"
 #include "MappingReleases.h"
 #include "QORIFCOptionsFromXCAD.h"
-#include "ResourceDocument.h"
-#include "Results.h"
+#include "resources/ResourceDocument.h"
 #include "velkor/containers/QORHashTable.h"
 #include "VelkorComponents.h"
-#include "XmlNodes.h"
+#include "xml/XmlNodes.h"
 
 #include <memory>
 #include <optional>

@@ -1,6 +1,6 @@
-#include "QOREExchangeIFCPLMAttributesMappingServices.h"
+#include "mapping/QOREExchangeIFCPLMAttributesMappingServices.h"
 
-#include "ExitCallbacks.h"
+#include "foundation/ExitCallbacks.h"
 #include "PLMAttributesMappingStore.h"
 #include "QORIFCDXDataSetupServices.h"
 #include "ResourceKinds.h"

@@ -1,6 +1,6 @@
 #include "QORIFCOptionsServices.h"
 
-#include "ExitCallbacks.h"
+#include "foundation/ExitCallbacks.h"
 #include "velkor/text/QORUnicodeString.h"
 
 namespace {

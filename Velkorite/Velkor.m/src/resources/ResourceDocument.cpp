@@ -1,9 +1,9 @@
-#include "ResourceDocument.h"
+#include "resources/ResourceDocument.h"
 
+#include "foundation/Results.h"
 #include "QORIFCDXDataSetupServices.h"
 #include "QORIFCDXFileServices.h"
 #include "QORIFCDXXMLServices.h"
-#include "Results.h"
 #include "velkor/files/QORISetupDataFinder.h"
 
 namespace velkor::library {

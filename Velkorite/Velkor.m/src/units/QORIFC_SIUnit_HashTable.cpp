@@ -1,6 +1,6 @@
 #include "QORIFC_SIUnit_HashTable.h"
 
-#include "TableEntries.h"
+#include "foundation/TableEntries.h"
 #include "velkor/containers/QORSysSimpleHashTable.h"
 #include "velkor/sdai/DXSdaiAppInstance.h"
 

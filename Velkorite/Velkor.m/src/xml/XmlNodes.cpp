@@ -1,4 +1,4 @@
-#include "XmlNodes.h"
+#include "xml/XmlNodes.h"
 
 #include "QORIFCDXXMLServices.h"
 #include "velkor/xml/QORIDOMAttr.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "velkor/exchangeservices/QORIExchangeIFCCustomMappingServices.h"
-#include "XmlNodes.h"
+#include "xml/XmlNodes.h"
 
 class QOREExchangeIFCCustomMappingServices final : public QORIExchangeIFCCustomMappingServices {
     VELKOR_DECLARE_CLASS

@@ -1,12 +1,12 @@
 #include "QORIFCDXXMLServices.h"
 
-#include "ParserOptions.h"
-#include "Results.h"
+#include "foundation/Results.h"
 #include "velkor/xml/QORIDOMDocumentType.h"
 #include "velkor/xml/QORIDOMImplementation.h"
 #include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
 #include "velkor/xml/QORIXMLXPathFactory.h"
-#include "XmlNodes.h"
+#include "xml/ParserOptions.h"
+#include "xml/XmlNodes.h"
 
 namespace {
 

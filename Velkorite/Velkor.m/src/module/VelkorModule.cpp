@@ -1,23 +1,18 @@
-// What the library declares to the object modeler when it is loaded: the module object with the table
-// of registration functions, and the list of exit callbacks.
+// What the library declares to the object modeler when it is loaded: the module object with the table of registration
+// functions.
 
-#include "ExitCallbacks.h"
-#include "QOREExchangeAECServices.h"
-#include "QOREExchangeIFCCustomMappingServices.h"
-#include "QOREExchangeIFCMappingServices.h"
-#include "QOREExchangeIFCPLMAttributesMappingServices.h"
+#include "mapping/QOREExchangeAECServices.h"
+#include "mapping/QOREExchangeIFCCustomMappingServices.h"
+#include "mapping/QOREExchangeIFCMappingServices.h"
+#include "mapping/QOREExchangeIFCPLMAttributesMappingServices.h"
 #include "QORIIFCImportServices.h"
 #include "QORXCADNodeFilter.h"
 #include "velkor/objectmodeler/QORFillDictionary.h"
 #include "velkor/objectmodeler/QOROMModule.h"
 #include "VelkorComponents.h"
 
-#include <cxxabi.h>
 #include <iterator>
 #include <string_view>
-
-// The ABI's name for the library that a unit is linked into.
-extern "C" [[gnu::visibility("hidden")]] void* __dso_handle;
 
 namespace {
 
@@ -70,16 +65,4 @@ void* moduleAddress() {
     return &module;
 }
 
-vrn::internal::v1::exit_callback::list exitCallbacks;
-
 } // namespace
-
-void velkor::library::callAtUnload(vrn::internal::v1::exit_callback::callback callback, int order) {
-    namespace exit_callback = vrn::internal::v1::exit_callback;
-    // As for a static object of this library, so that unloading runs it: std::atexit leaves to the C library, or to
-    // what stands in for it, whose call it is.
-    const auto registrar = [] {
-        abi::__cxa_atexit([](void*) { exit_callback::call(exitCallbacks); }, nullptr, &__dso_handle);
-    };
-    exit_callback::do_register(callback, order, registrar, exitCallbacks);
-}

@@ -7,7 +7,7 @@
 ///     for (const QORIDOMElement_var& element : childElements(mapping)) …
 #pragma once
 
-#include "Results.h"
+#include "foundation/Results.h"
 #include "velkor/text/QORUnicodeString.h"
 #include "velkor/xml/QORIDOMDocument.h"
 #include "velkor/xml/QORIDOMElement.h"

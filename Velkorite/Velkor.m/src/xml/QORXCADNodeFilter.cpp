@@ -1,6 +1,6 @@
 #include "QORXCADNodeFilter.h"
 
-#include "XmlNodes.h"
+#include "xml/XmlNodes.h"
 
 using namespace velkor::library;
 
