@@ -14,7 +14,7 @@ public:
     virtual ~QORIFCPSetQtoDefinition();
 
     /// Adds what a file holds. The parser's result.
-    HRESULT read(const QORUnicodeString& path);
+    [[nodiscard]] HRESULT read(const QORUnicodeString& path);
 
     /// True for a class that the set applies to, letter case ignored, and for an instance of a kind of one; null is
     /// none.

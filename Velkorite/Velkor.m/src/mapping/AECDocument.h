@@ -49,18 +49,18 @@ public:
     bool isLoaded() const noexcept { return !_document.IsNull(); }
     void clear();
     /// Finds the resource and reads it in place of what was there. A failure leaves nothing.
-    HRESULT load();
+    [[nodiscard]] HRESULT load();
 
     /// Elements of a tag, letter case included, whose "Name" is the wanted one, letter case ignored; all of the tag
     /// for an empty name. Null when there is none. Valid until the document goes.
-    HRESULT entry(const char* tag, const QORUnicodeString& name, Entry*& found);
+    [[nodiscard]] HRESULT entry(const char* tag, const QORUnicodeString& name, Entry*& found);
 
 private:
     struct Index {
         Entry all;
         std::unordered_map<QORUnicodeString, Entry> byName;
     };
-    HRESULT index(const char* tag, Index*& result);
+    [[nodiscard]] HRESULT index(const char* tag, Index*& result);
 
     QORIDOMDocument_var _document;
     // Filled for a tag when it is first asked for.
@@ -68,6 +68,6 @@ private:
 };
 
 /// The first element of a tag at or below an element; empty when there is none.
-HRESULT firstElement(const QORIDOMElement_var& root, const char* tag, QORIDOMElement_var& found);
+[[nodiscard]] HRESULT firstElement(const QORIDOMElement_var& root, const char* tag, QORIDOMElement_var& found);
 
 } // namespace velkor::library

@@ -1,17 +1,16 @@
 #include "QORIFCDXDataSetupServices.h"
 
+#include "foundation/Results.h"
 #include "QORIFCDXFileServices.h"
+#include "ResourceKey.h"
 #include "velkor/files/QORISetupDataFinder.h"
-#include "velkor/objectmodeler/Assertion.h"
+
+using namespace velkor::library;
 
 namespace {
 
 constexpr const char* resourceExtension = "xml";
 constexpr int allItems = -1;
-
-QORUnicodeString resourceKey(const QORUnicodeString& resourceSet, const QORUnicodeString& category) {
-    return resourceSet + "|" + category;
-}
 
 } // namespace
 
@@ -26,16 +25,9 @@ HRESULT QORIFCDXDataSetupServices::GetResourcePath(const QORUnicodeString& resou
     if (subFolder.IsEmpty()) return S_OK;
 
     QORListValQORUnicodeString files;
-    const HRESULT result = QORIFCDXFileServices::FindResourceFiles(subFolder, resourceExtension, files);
-    if (FAILED(result)) {
-        VELKOR_ASSERTION_FAILED();
-        return result;
-    }
+    RETURN_IF_FAILED(reported(QORIFCDXFileServices::FindResourceFiles(subFolder, resourceExtension, files)));
     // Nothing says which of several is meant.
-    if (files.Size() != 1) {
-        VELKOR_ASSERTION_FAILED();
-        return E_UNEXPECTED;
-    }
+    if (files.Size() != 1) return reported(E_UNEXPECTED);
     path = files[1];
     return S_OK;
 }
@@ -45,10 +37,7 @@ HRESULT QORIFCDXDataSetupServices::GetResourcePaths(const QORUnicodeString& reso
                                                     QORListValQORUnicodeString& paths) {
     paths.RemoveAll();
     const QORISetupDataFinder_var finder = QORSetupDataGlobalFunctions::GetSetupDataFinder();
-    if (finder.IsNull()) {
-        VELKOR_ASSERTION_FAILED();
-        return E_UNEXPECTED;
-    }
+    if (finder.IsNull()) return reported(E_UNEXPECTED);
     QORListValQORIKweAppResourceSubItem_var items;
     if (SUCCEEDED(finder->GetResourceSubItems(resourceKey(resourceSet, category), items, allItems))) {
         for (const QORIKweAppResourceSubItem_var& item : items) {
@@ -63,11 +52,7 @@ HRESULT QORIFCDXDataSetupServices::GetResourcePaths(const QORUnicodeString& reso
     if (subFolder.IsEmpty()) return S_OK;
 
     QORListValQORUnicodeString files;
-    const HRESULT result = QORIFCDXFileServices::FindResourceFiles(subFolder, resourceExtension, files);
-    if (FAILED(result)) {
-        VELKOR_ASSERTION_FAILED();
-        return result;
-    }
+    RETURN_IF_FAILED(reported(QORIFCDXFileServices::FindResourceFiles(subFolder, resourceExtension, files)));
     paths.Append(files);
     return S_OK;
 }

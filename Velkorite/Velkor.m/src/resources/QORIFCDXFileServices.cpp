@@ -1,7 +1,7 @@
 #include "QORIFCDXFileServices.h"
 
+#include "foundation/Results.h"
 #include "velkor/files/QORDirectory.h"
-#include "velkor/objectmodeler/Assertion.h"
 #include "velkor/settings/QORDXEnvironmentVariable.h"
 #include "velkor/text/QORToken.h"
 
@@ -70,9 +70,5 @@ HRESULT QORIFCDXFileServices::FindResourceFiles(const QORUnicodeString& subFolde
     }
     // A name counts once, so that paths can be equal only when a name reads like a folder and a name.
     if (hasSeparator) files.RemoveDuplicates();
-    if (files.Size() == 0) {
-        VELKOR_ASSERTION_FAILED();
-        return E_UNEXPECTED;
-    }
-    return S_OK;
+    return files.Size() == 0 ? velkor::library::reported(E_UNEXPECTED) : S_OK;
 }

@@ -4,6 +4,7 @@
 #include "QORIFCDXDataSetupServices.h"
 #include "QORIFCDXFileServices.h"
 #include "QORIFCDXXMLServices.h"
+#include "ResourceKey.h"
 #include "velkor/files/QORISetupDataFinder.h"
 
 namespace velkor::library {
@@ -16,8 +17,7 @@ namespace {
 HRESULT findFirstResource(const ResourceKind& kind, QORUnicodeString& path) {
     const QORISetupDataFinder_var finder = QORSetupDataGlobalFunctions::GetSetupDataFinder();
     if (!finder.IsNull()) {
-        const QORUnicodeString key = QORUnicodeString(kind.resourceSet) + "|" + kind.category;
-        if (SUCCEEDED(finder->GetResourcePath(key, path))) return S_OK;
+        if (SUCCEEDED(finder->GetResourcePath(resourceKey(kind.resourceSet, kind.category), path))) return S_OK;
     } else if (kind.rule == ResourceRule::FirstFileWithFinder) {
         return reported(E_UNEXPECTED);
     }

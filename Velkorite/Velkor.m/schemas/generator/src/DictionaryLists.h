@@ -17,6 +17,7 @@ struct DictionaryLists {
 /// Numbers a schema. The order of both lists is that of a walk: named types in three groups (simple, aggregate
 /// and renamed; enumerations; selects), then entities, each sorted by spelling, and before each what it
 /// needs. The error names the declaration at fault.
-tl::expected<DictionaryLists, std::string> numberSchema(const std::string& schemaName, const ExpressSchema& schema);
+[[nodiscard]] tl::expected<DictionaryLists, std::string> numberSchema(const std::string& schemaName,
+                                                                      const ExpressSchema& schema);
 
 } // namespace velkor::dictgen

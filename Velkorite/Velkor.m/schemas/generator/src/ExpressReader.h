@@ -12,6 +12,7 @@ namespace velkor::dictgen {
 
 /// Adds what a source declares to `schema`; the source may be a whole schema or declarations alone.
 /// The error is "NAME:LINE: expected …, found …".
-tl::expected<void, std::string> readExpress(std::string_view text, const std::string& name, ExpressSchema& schema);
+[[nodiscard]] tl::expected<void, std::string> readExpress(std::string_view text, const std::string& name,
+                                                          ExpressSchema& schema);
 
 } // namespace velkor::dictgen

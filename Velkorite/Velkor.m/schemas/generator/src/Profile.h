@@ -29,9 +29,9 @@ struct Profiles {
     std::vector<Profile> releases;
 };
 
-tl::expected<Profiles, std::string> readProfiles(const std::string& path);
+[[nodiscard]] tl::expected<Profiles, std::string> readProfiles(const std::string& path);
 
 /// Leaves out and flattens what the profile says. The error names what the schema lacks.
-tl::expected<void, std::string> applyProfile(const Profile& profile, ExpressSchema& schema);
+[[nodiscard]] tl::expected<void, std::string> applyProfile(const Profile& profile, ExpressSchema& schema);
 
 } // namespace velkor::dictgen
