@@ -1,9 +1,9 @@
 #include "ConfigurationTestSupport.h"
 #include "DocumentTestSupport.h"
-#include "velkor/classification/Correspondences.h"
 #include "velkor/exchangeservices/QORIExchangeAECServices.h"
 #include "velkor/objectmodeler/ClassDictionary.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
+#include "velkor/text/Unicode.h"
 
 #include <gmock/gmock.h>
 
@@ -208,7 +208,7 @@ TEST_F(ClassifyCommandTest, TheShippedDocumentCoversEveryProduct) {
     // Every class of product has an entry, its own or a supertype's, that holds for all of it.
     std::set<std::string> always;
     for (const QORIDOMNode_var& node : nodes(shippedDocument, "//IFC[not(Condition)]"))
-        always.insert(upperCase(attribute(node, "Name")));
+        always.insert(text::toUpper(attribute(node, "Name")));
     for (const std::string& release : DXSdaiDictionaryRepo::TheOne().names()) {
         for (const sdai::EntityDefinition* entity : (*DXSdaiDictionaryRepo::TheOne().schema(release))->entities()) {
             if (!entity->isKindOf("IFCPRODUCT") || entity->isAbstract()) continue;

@@ -23,7 +23,6 @@ namespace velkor::host {
 namespace {
 
 using Decision = Classification::Decision;
-using Entry = Correspondences::Entry;
 
 struct Options {
     std::string path;
@@ -33,7 +32,6 @@ struct Options {
 /// The document that the services use, and what they make of a model by it.
 struct Result {
     std::string documentPath;
-    Correspondences document;
     Classification classification;
 };
 
@@ -62,9 +60,8 @@ std::vector<Group> groupsOf(const Classification& classification) {
 
 std::string explanation(const Decision& decision) {
     if (decision.neutralId.empty()) return "none: " + decision.reason;
-    if (decision.entry == nullptr) return "unknown";
-    const Entry& entry = *decision.entry;
-    std::string text = entry.ifcType + ", priority " + std::to_string(entry.priority);
+    const AECEntry& entry = *decision.entry;
+    std::string text = entry.type + ", priority " + std::to_string(entry.priority);
     if (entry.condition) text += ", " + entry.condition->attribute + " is \"" + entry.condition->value + '"';
     return text + " (line " + std::to_string(entry.line) + ')';
 }
@@ -112,13 +109,12 @@ void writeText(TextSink out, const sdai::Model& model, const Result& result, std
     out << "\nby " << result.documentPath << '\n';
 }
 
-Json entryJson(const Entry* entry) {
-    if (entry == nullptr) return nullptr;
+Json entryJson(const std::optional<AECEntry>& entry) {
+    if (!entry) return nullptr;
     const Json condition = entry->condition
                                ? Json{{"attribute", entry->condition->attribute}, {"value", entry->condition->value}}
                                : Json();
-    return {
-        {"ifc_type", entry->ifcType}, {"priority", entry->priority}, {"condition", condition}, {"line", entry->line}};
+    return {{"ifc_type", entry->type}, {"priority", entry->priority}, {"condition", condition}, {"line", entry->line}};
 }
 
 Json resultJson(const sdai::Model& model, const Result& result, std::size_t limit) {
@@ -155,15 +151,13 @@ void writeCsv(CommandContext& context, const sdai::Model& model, const Classific
     context.out << "instance,global_id,entity,name,neutral_id,plm_type,ifc_type,priority,condition_attribute,"
                    "condition_value\r\n";
     eachListed(model, classification, limit, [&](const DXSdaiAppInstance& product, const Decision& decision) {
-        const Entry* entry = decision.entry;
-        const Correspondences::Condition condition =
-            entry != nullptr && entry->condition ? *entry->condition : Correspondences::Condition();
+        const AECEntry entry = decision.entry.value_or(AECEntry());
+        const AECCondition condition = entry.condition.value_or(AECCondition());
         context.out << product.id() << ',' << csvField(product.GetAttr("GLOBALID").asString()) << ','
                     << csvField(entityName(decision)) << ',' << csvField(product.GetAttr("NAME").asString()) << ','
-                    << csvField(decision.neutralId) << ',' << csvField(decision.plmType) << ','
-                    << (entry == nullptr ? "" : csvField(entry->ifcType)) << ','
-                    << (entry == nullptr ? "" : std::to_string(entry->priority)) << ',' << csvField(condition.attribute)
-                    << ',' << csvField(condition.value) << "\r\n";
+                    << csvField(decision.neutralId) << ',' << csvField(decision.plmType) << ',' << csvField(entry.type)
+                    << ',' << (decision.entry ? std::to_string(entry.priority) : "") << ','
+                    << csvField(condition.attribute) << ',' << csvField(condition.value) << "\r\n";
     });
     const std::size_t total = classification.products.size();
     if (total > limit) {
@@ -178,12 +172,10 @@ void runClassify(CommandContext& context, const Options& options) {
     const PlatformSetup setup(context.configuration, context.tell());
     const ResourceSearch search = searchResource(aecMappingResource, setup);
     if (!search.isUsable()) return context.reportUnreadable("no document of correspondences: " + search.reason);
-    Result result{search.used.front().path, {}, {}};
+    Result result{search.used.front().path, {}};
     const QORIExchangeAECServices_var services = objectmodeler::createComponent("ExchangeAECServices");
-    auto document = FAILED(services->LoadAECResource()) ? std::nullopt : Correspondences::read(result.documentPath);
-    if (!document) return context.reportUnreadable(result.documentPath + ": cannot be read");
-    result.document = std::move(*document);
-    result.classification = classify(*model, result.document, context.progress());
+    if (FAILED(services->LoadAECResource())) return context.reportUnreadable(result.documentPath + ": cannot be read");
+    result.classification = classify(*model, context.progress());
     context.status = result.classification.unclassified == 0 ? Done : Findings;
     if (context.json())
         writeJson(context.out, resultJson(*model, result, options.limit));

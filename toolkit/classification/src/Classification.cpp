@@ -5,6 +5,7 @@
 #include "velkor/objectmodeler/ClassDictionary.h"
 
 #include <map>
+#include <set>
 #include <tuple>
 
 namespace velkor {
@@ -13,14 +14,24 @@ namespace {
 
 constexpr std::uint64_t progressStep = 256;
 
-// What the services answer when nothing fits.
-constexpr const char* noAnswer = "DEFAULT";
 constexpr std::string_view typeSuffix = "TYPE";
+
+/// The names of properties that the document's conditions ask for.
+std::set<std::string> conditionNames() {
+    std::set<std::string> result;
+    AECEntries entries;
+    QORIFCAECEntries::GetEntries({}, AECSide::IFC, entries);
+    for (const auto& [type, ofType] : entries) {
+        for (const AECEntry& entry : ofType)
+            if (entry.condition) result.insert(entry.condition->wantedName);
+    }
+    return result;
+}
 
 class Classifier {
 public:
-    Classifier(const sdai::Model& model, const Correspondences& document)
-        : _model(model), _document(document), _properties(model, document.conditionNames()),
+    explicit Classifier(const sdai::Model& model)
+        : _model(model), _properties(model, conditionNames()),
           _services(objectmodeler::createComponent("ExchangeAECServices")) {}
 
     Classification run(const Progress& progress) {
@@ -46,19 +57,16 @@ private:
         const knowledge::Attributes properties = _properties.of(product);
         bool isKnown = false;
         for (const std::string& ifcType : typesOf(product)) {
-            isKnown = isKnown || _document.knows(ifcType);
-            std::string answer = neutralId(product, ifcType, properties);
-            if (answer.empty()) continue;
-            decision.neutralId = std::move(answer);
+            const AECEntry* entry = nullptr;
+            const HRESULT result = decidingEntry(product, ifcType, properties, entry);
+            isKnown = isKnown || result != S_FALSE;
+            if (entry == nullptr || entry->neutralId.empty()) continue;
+            decision.neutralId = entry->neutralId;
             decision.ifcType = ifcType;
-            // The services' word counts: an entry that says something else explains nothing.
-            decision.entry = _document.deciding(ifcType, properties);
-            if (decision.entry != nullptr && decision.entry->neutralId != decision.neutralId) decision.entry = nullptr;
-            break;
+            return place(std::move(decision), entry);
         }
-        if (decision.neutralId.empty())
-            decision.reason = isKnown ? "no condition of its entries holds" : "no entry for it or its supertypes";
-        return place(std::move(decision));
+        decision.reason = isKnown ? "no condition of its entries holds" : "no entry for it or its supertypes";
+        return place(std::move(decision), nullptr);
     }
 
     // The names as which a product is presented, in that order.
@@ -76,15 +84,13 @@ private:
         return types;
     }
 
-    std::string neutralId(const DXSdaiAppInstance& product, const std::string& ifcType,
-                          const knowledge::Attributes& properties) const {
+    HRESULT decidingEntry(const DXSdaiAppInstance& product, const std::string& ifcType,
+                          const knowledge::Attributes& properties, const AECEntry*& entry) const {
         const QORBaseUnknown_var object = knowledge::makeExchangeObject(
             {product.GetAttr("GLOBALID").asString(), product.GetAttr("NAME").asString(), ifcType,
              product.GetAttr("DESCRIPTION").asString(), _model.file().name(), static_cast<int>(product.id())},
             properties);
-        QORUnicodeString answer;
-        const HRESULT result = _services->GetNeutralIDFromIFCObject(object, answer);
-        return FAILED(result) || answer == noAnswer ? std::string() : std::string(answer.utf8());
+        return QORIFCAECEntries::GetDecidingEntry(object, entry);
     }
 
     std::string plmType(const std::string& neutralId) const {
@@ -94,21 +100,22 @@ private:
     }
 
     // Position of the decision, which is made known unless it is.
-    std::uint32_t place(Classification::Decision decision) {
-        const auto [known, isNew] = _places.try_emplace(
-            {decision.entity, decision.entry, decision.neutralId, decision.ifcType, decision.reason},
-            static_cast<std::uint32_t>(_result.decisions.size()));
+    std::uint32_t place(Classification::Decision decision, const AECEntry* entry) {
+        const auto [known, isNew] = _places.try_emplace({decision.entity, entry, decision.ifcType, decision.reason},
+                                                        static_cast<std::uint32_t>(_result.decisions.size()));
         if (!isNew) return known->second;
-        if (!decision.neutralId.empty()) decision.plmType = plmType(decision.neutralId);
+        if (entry != nullptr) {
+            decision.entry = *entry;
+            decision.plmType = plmType(decision.neutralId);
+        }
         _result.decisions.push_back(std::move(decision));
         return known->second;
     }
 
-    using Key =
-        std::tuple<const sdai::EntityDefinition*, const Correspondences::Entry*, std::string, std::string, std::string>;
+    // The services keep their document as long as they are asked.
+    using Key = std::tuple<const sdai::EntityDefinition*, const AECEntry*, std::string, std::string>;
 
     const sdai::Model& _model;
-    const Correspondences& _document;
     ProductProperties _properties;
     QORIExchangeAECServices_var _services;
     std::map<Key, std::uint32_t> _places;
@@ -117,8 +124,8 @@ private:
 
 } // namespace
 
-Classification classify(const sdai::Model& model, const Correspondences& document, const Progress& progress) {
-    return Classifier(model, document).run(progress);
+Classification classify(const sdai::Model& model, const Progress& progress) {
+    return Classifier(model).run(progress);
 }
 
 } // namespace velkor

@@ -1,6 +1,6 @@
 #include "ProductProperties.h"
 
-#include "velkor/classification/Correspondences.h"
+#include "velkor/text/Unicode.h"
 
 #include <algorithm>
 
@@ -32,7 +32,7 @@ std::string predefinedType(const DXSdaiAppInstance* object) {
 
 } // namespace
 
-ProductProperties::ProductProperties(const sdai::Model& model, const std::set<std::string>& names) : _names(names) {
+ProductProperties::ProductProperties(const sdai::Model& model, std::set<std::string> names) : _names(std::move(names)) {
     addTypes(model);
     for (const std::uint32_t number : model.numbersOf("IFCRELDEFINESBYPROPERTIES"))
         addRelationship(*model.instanceAt(number));
@@ -84,15 +84,15 @@ const knowledge::Attributes& ProductProperties::valuesOf(const DXSdaiAppInstance
 
 bool ProductProperties::isWanted(const sdai::Primitive& name) {
     const auto [wanted, isNew] = _isWanted.try_emplace(name.encoded());
-    if (isNew) wanted->second = _names.contains(upperCase(name.asString()));
+    if (isNew) wanted->second = _names.contains(text::toUpper(name.asString()));
     return wanted->second;
 }
 
 // The first of a name counts, so there are never more than names that are wanted.
 void ProductProperties::append(Attributes& values, const Attributes& more) const {
     for (const auto& property : more) {
-        const std::string name = upperCase(property.first);
-        const auto isSame = [&](const auto& known) { return upperCase(known.first) == name; };
+        const std::string name = text::toUpper(property.first);
+        const auto isSame = [&](const auto& known) { return text::toUpper(known.first) == name; };
         if (std::ranges::none_of(values, isSame)) values.push_back(property);
     }
 }

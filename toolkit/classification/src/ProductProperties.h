@@ -18,7 +18,7 @@ namespace velkor {
 class ProductProperties {
 public:
     /// `names`, in upper case, are the properties to be told; of the others nobody asks.
-    ProductProperties(const sdai::Model& model, const std::set<std::string>& names);
+    ProductProperties(const sdai::Model& model, std::set<std::string> names);
 
     /// PredefinedType and ObjectType where the product states them, then the single values of its property sets, then
     /// those of its type's. A predefined type that the product leaves open is that of its type. Truth values are
@@ -37,7 +37,7 @@ private:
     bool isWanted(const sdai::Primitive& name);
     void append(Attributes& values, const Attributes& more) const;
 
-    const std::set<std::string>& _names;
+    std::set<std::string> _names;
     // Whether a property is to be told, by its name as the file writes it.
     std::unordered_map<std::string_view, bool> _isWanted;
     std::unordered_map<const DXSdaiAppInstance*, Attributes> _valuesOfSet;

@@ -2,7 +2,6 @@
 
 #include "velkor/text/QORUnicodeString.h"
 
-#include <algorithm>
 #include <map>
 
 namespace velkor::lint {
@@ -25,14 +24,6 @@ const Format& format() {
     return result;
 }
 
-/// One side of an entry as a candidate for its type.
-struct Candidate {
-    const XmlElement* side;
-    int priority;
-    /// Attribute and value; empty when it holds for every object.
-    std::string condition;
-};
-
 std::vector<const XmlElement*> conditionsOf(const XmlElement& side) {
     std::vector<const XmlElement*> result;
     side.visitNamed(conditionTag, [&](const XmlElement& condition) { result.push_back(&condition); });
@@ -41,18 +32,6 @@ std::vector<const XmlElement*> conditionsOf(const XmlElement& side) {
 
 bool readPriority(const XmlElement& side, int& priority) {
     return QORUnicodeString(std::string_view(side.attribute("Priority"))).ConvertToNum(priority);
-}
-
-Candidate candidate(const XmlElement& side) {
-    Candidate result{&side, 0, {}};
-    readPriority(side, result.priority);
-    const auto conditions = conditionsOf(side);
-    if (conditions.empty() || conditions.front()->attribute("Attribute").empty()) return result;
-    // Letter case of a property's name does not count on the IFC side.
-    const std::string& attribute = conditions.front()->attribute("Attribute");
-    result.condition =
-        (side.name == ifcTag ? upper(attribute) : attribute) + '\n' + conditions.front()->attribute("Value");
-    return result;
 }
 
 } // namespace
@@ -71,8 +50,8 @@ void AECLinter::judgeEntries(const XmlElement& root) {
         }
         judgeNeutral(neutral);
     });
-    judgeOrder(root, ifcTag);
-    judgeOrder(root, plmTag);
+    judgeOrder(AECSide::IFC);
+    judgeOrder(AECSide::PLM);
 }
 
 void AECLinter::judgeNeutral(const XmlElement& neutral) {
@@ -129,25 +108,23 @@ void AECLinter::judgeCondition(const XmlElement& side) {
     judgeEnumerator(condition.line, entity, attribute, condition.attribute("Value"), {}, true);
 }
 
-// Candidates of a type are tried from the highest priority down, those of equal priority as they stand.
-void AECLinter::judgeOrder(const XmlElement& root, const char* tag) {
-    std::map<std::string, std::vector<Candidate>> types;
-    root.visitNamed(tag, [&](const XmlElement& side) {
-        if (!side.attribute("Name").empty()) types[upper(side.attribute("Name"))].push_back(candidate(side));
-    });
-    for (auto& [type, candidates] : types) {
-        std::ranges::stable_sort(candidates, std::greater<>(), &Candidate::priority);
+void AECLinter::judgeOrder(AECSide side) {
+    AECEntries entries;
+    QORIFCAECEntries::GetEntries(document(), side, entries);
+    for (const auto& [type, ofType] : entries) {
         // By condition; one without any decides whatever follows.
-        std::map<std::string, const XmlElement*> seen;
-        for (const Candidate& current : candidates) {
+        std::map<std::string, int> seen;
+        for (const AECEntry& entry : ofType) {
+            const std::string condition =
+                entry.condition ? entry.condition->wantedName + '\n' + entry.condition->value : std::string();
             const auto always = seen.find("");
-            const auto [same, isNew] = seen.try_emplace(current.condition, current.side);
+            const auto [same, isNew] = seen.try_emplace(condition, entry.line);
             if (always == seen.end() && isNew) continue;
-            const auto& [condition, first] = always == seen.end() ? *same : *always;
-            warn(current.side->line, "unreachable",
-                 quoted(current.side->attribute("Name")) + " is always decided by the entry " + inLine(first->line) +
-                     (condition.empty() ? ", which comes first and has no condition"
-                                        : ", which comes first with the same condition"));
+            const auto& [firstCondition, firstLine] = always == seen.end() ? *same : *always;
+            warn(entry.line, "unreachable",
+                 quoted(entry.type) + " is always decided by the entry " + inLine(firstLine) +
+                     (firstCondition.empty() ? ", which comes first and has no condition"
+                                             : ", which comes first with the same condition"));
         }
     }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Linter.h"
+#include "QORIFCAECEntries.h"
 
 namespace velkor::lint {
 
@@ -14,7 +15,7 @@ private:
     void judgeNeutral(const XmlElement& neutral);
     void judgeSide(const XmlElement& side);
     void judgeCondition(const XmlElement& side);
-    void judgeOrder(const XmlElement& root, const char* tag);
+    void judgeOrder(AECSide side);
 };
 
 } // namespace velkor::lint

@@ -33,14 +33,17 @@ std::string releaseText(const Dictionaries::Releases& releases) {
 
 } // namespace
 
-Judgement Linter::judge(const std::string& path, const XmlElement& root) {
+Judgement Linter::judge(const std::string& path, const XmlReading& reading) {
+    const XmlElement& root = *reading.root;
     _path = path;
+    _document = reading.document;
     _judgement = {};
     judgeStructure(root, false);
     judgeEntries(root);
     if (_judgement.entries == 0 && _judgement.findings.empty())
         warn(root.line, "no-entries", "the document has no entries");
     std::ranges::stable_sort(_judgement.findings, {}, &Finding::line);
+    _document = {};
     return std::exchange(_judgement, {});
 }
 

@@ -40,7 +40,7 @@ public:
     Linter(const Linter&) = delete;
     Linter& operator=(const Linter&) = delete;
 
-    Judgement judge(const std::string& path, const XmlElement& root);
+    Judgement judge(const std::string& path, const XmlReading& reading);
 
 protected:
     Linter(const Format& format, Dictionaries& dictionaries) : _format(format), _dictionaries(dictionaries) {}
@@ -64,6 +64,7 @@ protected:
     void judgePlace(const XmlElement& element);
 
     const std::string& path() const noexcept { return _path; }
+    const QORIDOMDocument_var& document() const noexcept { return _document; }
 
 private:
     void judgeStructure(const XmlElement& element, bool isInside);
@@ -76,6 +77,7 @@ private:
     const Format& _format;
     Dictionaries& _dictionaries;
     std::string _path;
+    QORIDOMDocument_var _document;
     Judgement _judgement;
 };
 

@@ -86,7 +86,7 @@ CheckedFile judged(const std::string& path, const LinterKind* kind, Linter* lint
         own = linterOf(*file.kind, dictionaries);
         linter = own.get();
     }
-    file.judgement = linter->judge(path, *reading.root);
+    file.judgement = linter->judge(path, reading);
     auto& findings = file.judgement.findings;
     findings.insert(findings.begin(), reading.findings.begin(), reading.findings.end());
     std::ranges::stable_sort(findings, {}, &Finding::line);

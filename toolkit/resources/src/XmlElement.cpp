@@ -103,6 +103,7 @@ XmlReading readXml(std::string_view bytes, const std::string& path) {
             reading.findings.push_back({Severity::Error, 1, "not-well-formed", "expected an XML document", {}});
         return reading;
     }
+    reading.document = document;
     reading.root = std::make_unique<XmlElement>();
     copy(root, *reading.root);
     return reading;

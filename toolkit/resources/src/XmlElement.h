@@ -6,6 +6,7 @@
 #pragma once
 
 #include "velkor/resources/Finding.h"
+#include "velkor/xml/QORIDOMDocument.h"
 
 #include <list>
 #include <memory>
@@ -49,6 +50,8 @@ struct XmlElement {
 };
 
 struct XmlReading {
+    /// Empty when the file is not well-formed.
+    QORIDOMDocument_var document;
     /// Null when the file is not well-formed.
     std::unique_ptr<XmlElement> root;
     /// What the parser has to say.

@@ -45,6 +45,13 @@ HRESULT AECDocument::entry(const char* tag, const QORUnicodeString& name, Entry*
     return S_OK;
 }
 
+HRESULT AECDocument::entries(const char* tag, ByName*& found) {
+    Index* index = nullptr;
+    RETURN_IF_FAILED(this->index(tag, index));
+    found = &index->byName;
+    return S_OK;
+}
+
 HRESULT AECDocument::index(const char* tag, Index*& result) {
     if (const auto filled = _byTag.find(std::string_view(tag)); filled != _byTag.end()) {
         result = &filled->second;

@@ -1,6 +1,8 @@
 /// The document of correspondences, and its elements by name.
 #pragma once
 
+#include "QORIFCAECEntries.h"
+
 #include "velkor/objectmodeler/ResultCode.h"
 #include "velkor/text/QORUnicodeString.h"
 #include "velkor/xml/DomTypes.h"
@@ -11,6 +13,7 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace velkor::library {
@@ -26,6 +29,7 @@ public:
     struct Condition {
         HRESULT result;
         QORUnicodeString attribute;
+        QORUnicodeString upperAttribute;
         QORUnicodeString value;
         QORUnicodeString upperValue;
     };
@@ -34,6 +38,7 @@ public:
         std::optional<Condition> condition;
         std::optional<Answer> neutralId;
         std::optional<Answer> plmType;
+        std::optional<AECEntry> described;
     };
     /// The elements of a tag and a name.
     struct Entry {
@@ -46,6 +51,11 @@ public:
         std::optional<Answer> plmName;
     };
 
+    using ByName = std::unordered_map<QORUnicodeString, Entry>;
+
+    AECDocument() = default;
+    explicit AECDocument(QORIDOMDocument_var document) : _document(std::move(document)) {}
+
     bool isLoaded() const noexcept { return !_document.IsNull(); }
     void clear();
     /// Finds the resource and reads it in place of what was there. A failure leaves nothing.
@@ -54,11 +64,13 @@ public:
     /// Elements of a tag, letter case included, whose "Name" is the wanted one, letter case ignored; all of the tag
     /// for an empty name. Null when there is none. Valid until the document goes.
     [[nodiscard]] HRESULT entry(const char* tag, const QORUnicodeString& name, Entry*& found);
+    /// Elements of a tag by "Name" in upper case.
+    [[nodiscard]] HRESULT entries(const char* tag, ByName*& found);
 
 private:
     struct Index {
         Entry all;
-        std::unordered_map<QORUnicodeString, Entry> byName;
+        ByName byName;
     };
     [[nodiscard]] HRESULT index(const char* tag, Index*& result);
 
@@ -66,6 +78,11 @@ private:
     // Filled for a tag when it is first asked for.
     std::map<std::string, Index, std::less<>> _byTag;
 };
+
+/// Tag of a side.
+constexpr const char* tagOf(AECSide side) {
+    return side == AECSide::IFC ? "IFC" : "NORVEL";
+}
 
 /// The first element of a tag at or below an element; empty when there is none.
 [[nodiscard]] HRESULT firstElement(const QORIDOMElement_var& root, const char* tag, QORIDOMElement_var& found);

@@ -1,11 +1,9 @@
 #include "mapping/QOREExchangeAECServices.h"
 
-#include "AECDocument.h"
+#include "AECChoice.h"
 #include "foundation/Results.h"
-#include "velkor/knowledge/QORIExchangeObject.h"
 #include "velkor/knowledge/QORIInstance.h"
 #include "velkor/knowledge/QORIPLMNavOccurrence.h"
-#include "velkor/knowledge/QORIVleObject.h"
 #include "VelkorComponents.h"
 #include "xml/XmlNodes.h"
 
@@ -25,126 +23,9 @@ using namespace velkor::library;
 [[maybe_unused]] const QORUnicodeString folderSeparator = "\\";
 
 constexpr const char* neutralTag = "NeutralID";
-constexpr const char* ifcTag = "IFC";
-constexpr const char* plmTag = "NORVEL";
+constexpr const char* ifcTag = tagOf(velkor::AECSide::IFC);
+constexpr const char* plmTag = tagOf(velkor::AECSide::PLM);
 constexpr const char* defaultAnswer = "DEFAULT";
-
-AECDocument aecDocument;
-
-HRESULT GetAECDocument() {
-    return aecDocument.isLoaded() ? S_OK : aecDocument.load();
-}
-
-int priority(const QORBaseUnknown_var& candidate) {
-    int value = 0;
-    attribute(candidate, "Priority").ConvertToNum(value);
-    return value;
-}
-
-/// The highest first.
-int CompareByPriority(const QORBaseUnknown_var& a, const QORBaseUnknown_var& b) {
-    if (a.IsNull() || b.IsNull()) return -1;
-    const int one = priority(a), other = priority(b);
-    return one > other ? -1 : one < other ? 1 : 0;
-}
-
-AECDocument::Condition readCondition(const QORIDOMElement_var& candidate) {
-    AECDocument::Condition read{S_OK, {}, {}, {}};
-    QORIDOMElement_var condition;
-    read.result = firstElement(candidate, "Condition", condition);
-    if (FAILED(read.result) || condition.IsNull()) return read;
-    read.result = attribute(condition, "Attribute", read.attribute);
-    if (FAILED(read.result) || read.attribute.IsEmpty()) return read;
-    read.result = attribute(condition, "Value", read.value);
-    read.upperValue = read.value;
-    read.upperValue.ToUpper();
-    return read;
-}
-
-/// The test of a candidate's first condition, if it has one: 0 when it holds, 1 when it does not.
-template <class Holds>
-HRESULT checkCondition(AECDocument::Candidate& candidate, Holds holds) {
-    if (!candidate.condition) candidate.condition = readCondition(candidate.element);
-    const AECDocument::Condition& condition = *candidate.condition;
-    RETURN_IF_FAILED(reported(condition.result));
-    return condition.attribute.IsEmpty() ? S_OK : holds(condition);
-}
-
-HRESULT CheckConditionOnValue(AECDocument::Candidate& candidate, const QORUnicodeString& upperGiven) {
-    return checkCondition(candidate, [&](const AECDocument::Condition& condition) {
-        return condition.upperValue == upperGiven ? S_OK : S_FALSE;
-    });
-}
-
-HRESULT CheckConditionOnObject(AECDocument::Candidate& candidate, const QORBaseUnknown_var& object) {
-    return checkCondition(candidate, [&](const AECDocument::Condition& condition) -> HRESULT {
-        const QORIVleObject_var readable = object;
-        if (readable.IsNull()) return reported(E_UNEXPECTED);
-        QORUnicodeString read;
-        if (FAILED(QORVleObjectAttrReadServices::GetValueAsString(readable, condition.attribute, read))) return S_FALSE;
-        return condition.value == read ? S_OK : S_FALSE;
-    });
-}
-
-HRESULT CheckConditionOnUserProperties(AECDocument::Candidate& candidate, const QORListValQORUnicodeString& names,
-                                       const QORListValQORUnicodeString& values) {
-    return checkCondition(candidate, [&](const AECDocument::Condition& condition) {
-        QORUnicodeString name = condition.attribute;
-        name.ToUpper();
-        const int position = names.Locate(name);
-        return position != 0 && position <= values.Size() && condition.value == values[position] ? S_OK : S_FALSE;
-    });
-}
-
-/// All elements of a tag with a name; null when there is none.
-HRESULT collect(const char* tag, const QORUnicodeString& name, AECDocument::Entry*& candidates) {
-    candidates = nullptr;
-    RETURN_IF_FAILED(reported(GetAECDocument()));
-    return reported(aecDocument.entry(tag, name, candidates));
-}
-
-void sortCandidates(AECDocument::Entry& entry) {
-    QORListValQORBaseUnknown_var sorted;
-    for (const QORIDOMElement_var& element : entry.elements) sorted.Append(element);
-    sorted.QuickSort(CompareByPriority);
-    std::vector<AECDocument::Candidate> candidates;
-    for (const QORBaseUnknown_var& element : sorted) candidates.push_back({element, {}, {}, {}});
-    entry.candidates = std::move(candidates);
-}
-
-/// Answers with the first candidate, by priority, whose test gives 0; E_UNEXPECTED when there is none.
-template <class Test>
-HRESULT choose(AECDocument::Entry& entry, Test test, HRESULT (*answer)(AECDocument::Candidate&, QORUnicodeString&),
-               QORUnicodeString& output) {
-    if (entry.candidates.empty()) sortCandidates(entry);
-    for (AECDocument::Candidate& candidate : entry.candidates) {
-        if (test(candidate) == S_OK) return answer(candidate, output);
-    }
-    return reported(E_UNEXPECTED);
-}
-
-/// Hands an answer out that is looked for once; of a failure the output is left alone.
-template <class Find>
-HRESULT remembered(std::optional<AECDocument::Answer>& answer, QORUnicodeString& output, Find find) {
-    if (!answer) {
-        AECDocument::Answer found{S_OK, {}};
-        found.result = find(found.text);
-        answer = std::move(found);
-    } else {
-        RETURN_IF_FAILED(reported(answer->result));
-    }
-    if (SUCCEEDED(answer->result)) output = answer->text;
-    return answer->result;
-}
-
-/// Name of the neutral identifier that an element belongs to.
-HRESULT nameOfParent(const QORIDOMElement_var& element, QORUnicodeString& name) {
-    QORIDOMNode_var parent;
-    RETURN_IF_FAILED(reported(element->GetParentNode(parent)));
-    QORIDOMElement_var neutral;
-    RETURN_IF_FAILED(asElement(parent, neutral));
-    return attribute(neutral, "Name", name);
-}
 
 /// The first child with a name that counts; empty when there is none.
 HRESULT childNamed(const QORIDOMNode_var& parent, const char* name, QORIDOMElement_var& found) {
@@ -156,11 +37,6 @@ HRESULT childNamed(const QORIDOMNode_var& parent, const char* name, QORIDOMEleme
         if (text == name) return asElement(child.node, found);
     }
     return S_OK;
-}
-
-HRESULT neutralIdOf(AECDocument::Candidate& candidate, QORUnicodeString& name) {
-    return remembered(candidate.neutralId, name,
-                      [&](QORUnicodeString& text) { return nameOfParent(candidate.element, text); });
 }
 
 /// Name of the PLM side beside an IFC side.
@@ -237,7 +113,7 @@ HRESULT typeNameOf(const QORIPLMNavOccurrence_var& occurrence, QORUnicodeString&
 
 // No exception leaves these operations.
 
-HRESULT QOREExchangeAECServices::LoadAECResource() try { return aecDocument.load(); } catch (const std::bad_alloc&) {
+HRESULT QOREExchangeAECServices::LoadAECResource() try { return aecDocument().load(); } catch (const std::bad_alloc&) {
     return reported(E_FAIL);
 }
 
@@ -271,8 +147,9 @@ HRESULT QOREExchangeAECServices::GetNeutralIDFromPLMObject(const QORBaseUnknown_
     const HRESULT result = collect(plmTag, typeName, candidates);
     std::printf("### GOT NB NODES = %d\n", candidates != nullptr ? static_cast<int>(candidates->elements.size()) : 0);
     if (FAILED(result) || candidates == nullptr) return result;
-    const auto test = [&](AECDocument::Candidate& candidate) { return CheckConditionOnObject(candidate, iObject); };
-    return choose(*candidates, test, neutralIdOf, oNeutralID);
+    AECDocument::Candidate* chosen = nullptr;
+    RETURN_IF_FAILED(chooseForPLMObject(*candidates, iObject, chosen));
+    return neutralIdOf(*chosen, oNeutralID);
 } catch (const std::bad_alloc&) {
     return reported(E_FAIL);
 }
@@ -280,23 +157,10 @@ HRESULT QOREExchangeAECServices::GetNeutralIDFromPLMObject(const QORBaseUnknown_
 HRESULT QOREExchangeAECServices::GetNeutralIDFromIFCObject(const QORBaseUnknown_var& iObject,
                                                            QORUnicodeString& oNeutralID) try {
     oNeutralID = defaultAnswer;
-    const QORIExchangeObject_var object = iObject;
-    if (object.IsNull()) return reported(E_UNEXPECTED);
-    QORUnicodeString identifier, name, ifcType, description, fileName;
-    int number = 0;
-    RETURN_IF_FAILED(reported(object->GetDescription(identifier, name, ifcType, description, fileName, number)));
-    AECDocument::Entry* candidates = nullptr;
-    RETURN_IF_FAILED(collect(ifcTag, ifcType, candidates));
-    if (candidates == nullptr) return S_OK;
-
-    const QORIExchangeUserProperties_var properties = iObject;
-    if (properties.IsNull()) return reported(E_UNEXPECTED);
-    QORListValQORUnicodeString names, values, types, units;
-    RETURN_IF_FAILED(reported(properties->GetUserProperties(names, values, types, units)));
-    const auto test = [&](AECDocument::Candidate& candidate) {
-        return CheckConditionOnUserProperties(candidate, names, values);
-    };
-    return choose(*candidates, test, neutralIdOf, oNeutralID);
+    AECDocument::Candidate* chosen = nullptr;
+    const HRESULT result = chooseForIFCObject(iObject, chosen);
+    if (result != S_OK) return FAILED(result) ? result : S_OK;
+    return neutralIdOf(*chosen, oNeutralID);
 } catch (const std::bad_alloc&) {
     return reported(E_FAIL);
 }
@@ -308,10 +172,9 @@ HRESULT QOREExchangeAECServices::GetPLMTypeFromIFCType(const QORUnicodeString& i
     AECDocument::Entry* candidates = nullptr;
     RETURN_IF_FAILED(collect(ifcTag, iIFCType, candidates));
     if (candidates == nullptr) return S_OK;
-    QORUnicodeString upperValue = iConditionValue;
-    upperValue.ToUpper();
-    const auto test = [&](AECDocument::Candidate& candidate) { return CheckConditionOnValue(candidate, upperValue); };
-    return choose(*candidates, test, plmTypeOf, oPLMType);
+    AECDocument::Candidate* chosen = nullptr;
+    RETURN_IF_FAILED(chooseForValue(*candidates, iConditionValue, chosen));
+    return plmTypeOf(*chosen, oPLMType);
 } catch (const std::bad_alloc&) {
     return reported(E_FAIL);
 }

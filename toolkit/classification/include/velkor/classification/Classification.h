@@ -1,11 +1,12 @@
 /// The products of a model, each with the neutral identifier and the PLM type that the services give it.
 #pragma once
 
-#include "velkor/classification/Correspondences.h"
+#include "QORIFCAECEntries.h"
 #include "velkor/model/Progress.h"
 #include "velkor/sdai/Model.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,8 +23,8 @@ struct Classification {
         std::string plmType;
         /// The type as which the product was presented when the services answered; empty when they did not.
         std::string ifcType;
-        /// The entry that decided, in the document; null without one.
-        const Correspondences::Entry* entry = nullptr;
+        /// The entry of the document that decided; nothing without one.
+        std::optional<AECEntry> entry;
         /// Why there is no neutral identifier; empty when there is one.
         std::string reason;
         std::uint64_t count = 0;
@@ -45,8 +46,8 @@ struct Classification {
 
 /// Asks the services about every IFCPRODUCT. A product is presented as its own entity, and as long as there is no
 /// answer as the next supertype. In a release that has no entity for a class but a type, a product of that type is
-/// presented as the class first: a pump of IFC2X3 as IFCPUMP. The platform must have been set up, the services must
-/// have the document, which stays where it is.
-Classification classify(const sdai::Model& model, const Correspondences& document, const Progress& progress = {});
+/// presented as the class first: a pump of IFC2X3 as IFCPUMP. The platform must have been set up; the services decide
+/// by the document that they have.
+Classification classify(const sdai::Model& model, const Progress& progress = {});
 
 } // namespace velkor
