@@ -21,7 +21,7 @@ void firstUse(benchmark::State& state) {
         const velkor::bench::CpuTimer timer;
         auto schema = DXSdaiDictionaryRepo::TheOne().schema(largest);
         const double elapsed = timer.seconds();
-        if (!schema) return state.SkipWithError(schema.error().c_str());
+        if (!schema) return state.SkipWithError(schema.error().message.c_str());
         state.SetIterationTime(elapsed);
         state.counters["bytes"] = static_cast<double>((*schema)->memoryUse());
         schema->reset();
@@ -34,7 +34,7 @@ const SchemaDefinition* schema(benchmark::State& state) {
     static void* const handle = dlopen(library, RTLD_NOW | RTLD_LOCAL);
     auto restored = DXSdaiDictionaryRepo::TheOne().schema(largest);
     if (handle != nullptr && restored) return restored->get();
-    state.SkipWithError(handle ? restored.error().c_str() : dlerror());
+    state.SkipWithError(handle ? restored.error().message.c_str() : dlerror());
     return nullptr;
 }
 

@@ -18,7 +18,7 @@ std::unique_ptr<Model> openModel(benchmark::State& state) {
     const LargeStructure& structure = LargeStructure::theOne();
     auto model = Model::open(structure.path());
     if (model) return std::move(*model);
-    state.SkipWithError(structure.error().empty() ? model.error().c_str() : structure.error().c_str());
+    state.SkipWithError(structure.error().empty() ? model.error().message.c_str() : structure.error().c_str());
     return nullptr;
 }
 

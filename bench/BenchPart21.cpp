@@ -38,7 +38,7 @@ void plainScan(benchmark::State& state) {
     const auto classifier = part21::blockClassifier(path);
     const auto file = Part21File::open(LargeStructure::theOne().path());
     if (classifier == nullptr || !file) {
-        state.SkipWithError(file ? "not on this processor" : file.error().c_str());
+        state.SkipWithError(file ? "not on this processor" : file.error().message.c_str());
         return;
     }
     for (auto _ : state) benchmark::DoNotOptimize(countMarks((*file)->text(), classifier));
@@ -55,7 +55,7 @@ void open(benchmark::State& state) {
     }
     const auto warm = Part21File::open(structure.path(), path);
     if (!warm) {
-        state.SkipWithError(warm.error().c_str());
+        state.SkipWithError(warm.error().message.c_str());
         return;
     }
     const std::string_view text = (*warm)->text();

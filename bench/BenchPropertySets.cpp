@@ -123,7 +123,7 @@ void isSubtypeSupported(benchmark::State& state) {
         "ISO-10303-21;HEADER;FILE_DESCRIPTION((''),'2;1');FILE_NAME('','',(''),(''),'','','');FILE_SCHEMA(('IFC4'));"
         "ENDSEC;DATA;#1=IFCWALLSTANDARDCASE('0',$,$,$,$,$,$,$,$);ENDSEC;END-ISO-10303-21;",
         "wall.ifc");
-    if (!model) return state.SkipWithError(model.error().c_str());
+    if (!model) return state.SkipWithError(model.error().message.c_str());
     DXSdaiAppInstance* wall = (*model)->instance(1);
     const QORUnicodeString name("IfcWallStandardCase");
     ask(state, [&](QORIFCPSetQtoValidationService& service, const QORUnicodeString& set) {

@@ -67,7 +67,7 @@ void eachModel(benchmark::State& state, bool isWrong, Check check) {
     for (auto _ : state) {
         state.PauseTiming();
         auto model = Model::fromText(structureText(isWrong), "bench");
-        if (!model) return state.SkipWithError(model.error().c_str());
+        if (!model) return state.SkipWithError(model.error().message.c_str());
         state.ResumeTiming();
         if (!check(**model)) return state.SkipWithError("the model was not checked as expected");
         state.PauseTiming();

@@ -80,7 +80,7 @@ void LargeStructure::write(std::uint64_t size) {
     const auto model =
         !named.IsEmpty() ? Part21File::open(named.ConvertToChar()) : Part21File::fromText(madeUp, "made-up model");
     if (!model || (*model)->instanceCount() == 0) {
-        _error = model ? "the model has no instances" : model.error();
+        _error = model ? "the model has no instances" : model.error().message;
         return;
     }
     const Part21File& file = **model;

@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
     // The model owns its instances: pointers to them are good until it goes.
     const auto model = velkor::sdai::Model::open(argv[1]);
     if (!model) {
-        std::fprintf(stderr, "%s\n", model.error().c_str());
+        std::fprintf(stderr, "%s\n", model.error().message.c_str());
         return 3;
     }
     const auto assignments = (*model)->instancesOf("IFCUNITASSIGNMENT");

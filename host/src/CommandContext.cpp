@@ -69,13 +69,14 @@ bool CommandContext::readConfiguration() {
         configuration.shippedResources = shippedResources;
         return true;
     }
-    ConfigurationReading reading = velkor::readConfiguration(path, in);
-    for (const std::string& error : reading.errors) reportUnreadable(error);
-    if (!reading.errors.empty() && configurationFile.empty())
+    auto reading = velkor::readConfiguration(path, in);
+    if (!reading) reading = ConfigurationReading{{}, {reading.error().message}};
+    for (const std::string& error : reading->errors) reportUnreadable(error);
+    if (!reading->errors.empty() && configurationFile.empty())
         reportUnreadable(std::string(configurationVariable) + " names that configuration");
-    configuration = std::move(reading.configuration);
+    configuration = std::move(reading->configuration);
     configuration.shippedResources = shippedResources;
-    return reading.errors.empty();
+    return reading->errors.empty();
 }
 
 void CommandContext::reportUnreadable(const std::string& reason) {
@@ -97,7 +98,7 @@ PlatformSetup::Tell CommandContext::tell() const {
 std::unique_ptr<sdai::Model> CommandContext::openModel(const std::string& path) {
     auto model = sdai::Model::open(path);
     if (model) return std::move(*model);
-    reportUnreadable(model.error());
+    reportUnreadable(model.error().message);
     return nullptr;
 }
 

@@ -29,7 +29,7 @@ protected:
 
     Dictionaries() {
         for (const std::string& name : repository.names()) {
-            EXPECT_TRUE(repository.schema(name)) << repository.schema(name).error();
+            EXPECT_TRUE(repository.schema(name)) << repository.schema(name).error().message;
             releases[name] = repository.lists(name);
         }
         EXPECT_EQ(releases.size(), 8U);

@@ -77,7 +77,7 @@ TEST_F(PropertySetValidation, TakesSubtypesOfAClass) {
     const std::string text = modelText("IFC4", "#1=IFCWALLSTANDARDCASE('0',$,$,$,$,$,$,$,$);#2=IFCSITE('1',$,$,$,$,$,$,"
                                                "$,$,$,$,$,$,$);#3=IFCNOSUCH();");
     const auto model = sdai::Model::fromText(text, "model.ifc");
-    ASSERT_TRUE(model) << model.error();
+    ASSERT_TRUE(model) << model.error().message;
     for (const std::uint64_t id : {1, 2, 3}) {
         DXSdaiAppInstance* instance = (*model)->instance(id);
         ASSERT_NE(instance, nullptr) << id;

@@ -27,7 +27,7 @@ protected:
             "#16=IFCDERIVEDUNITELEMENT(#6,105455);#17=IFCDERIVEDUNITELEMENT(#2,105515);"
             "#18=IFCSIUNIT(*,$,.MILLI.,.METRE.);");
         auto opened = Model::fromText(text, "units.ifc");
-        EXPECT_TRUE(opened) << opened.error();
+        EXPECT_TRUE(opened) << opened.error().message;
         model = std::move(*opened);
     }
     ~SIUnitTable() override { QORIFC_SIUnit_HashTable::DeleteHashTable(); }

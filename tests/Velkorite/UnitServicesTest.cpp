@@ -85,7 +85,7 @@ protected:
     const Model& open(const std::string& release, const std::string& data) {
         texts.push_back(velkor::test::modelText(release, data));
         auto model = Model::fromText(texts.back(), "units.ifc");
-        EXPECT_TRUE(model) << model.error();
+        EXPECT_TRUE(model) << model.error().message;
         models.push_back(std::move(*model));
         return *models.back();
     }

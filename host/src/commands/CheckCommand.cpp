@@ -51,7 +51,7 @@ void finish(CommandContext& context, const std::string& file, const std::string&
 
 void runCheck(CommandContext& context, const Options& options) {
     auto file = sdai::Part21File::open(options.path);
-    if (!file) return context.reportUnreadable(file.error());
+    if (!file) return context.reportUnreadable(file.error().message);
     const auto schemaProblem = options.syntaxOnly ? std::nullopt : sdai::Model::schemaProblem(**file);
     if (options.syntaxOnly || schemaProblem) {
         CheckResult result = checkStructure(**file, context.checkOptions(options.limit));
@@ -59,7 +59,7 @@ void runCheck(CommandContext& context, const Options& options) {
         return finish(context, (*file)->name(), {}, result);
     }
     const auto model = sdai::Model::over(std::move(*file));
-    if (!model) return context.reportUnreadable(model.error());
+    if (!model) return context.reportUnreadable(model.error().message);
     finish(context, (*model)->file().name(), std::string((*model)->schema().name()),
            checkModel(**model, context.checkOptions(options.limit)));
 }

@@ -46,7 +46,7 @@ SchemaPointer chooseSchema(CommandContext& context, const std::string& release) 
     }
     auto schema = repository.schema(name);
     if (schema) return *schema;
-    context.reportUnreadable(schema.error());
+    context.reportUnreadable(schema.error().message);
     return nullptr;
 }
 

@@ -82,7 +82,7 @@ void writeText(CommandContext& context, const std::vector<CheckedFile>& files, c
     for (const LinterKind& kind : lint::linterKinds()) {
         Counts counts;
         for (const CheckedFile& file : files) {
-            if (file.kind == &kind && file.unreadable.empty()) counts.add(file);
+            if (file.kind == &kind && !file.unreadable) counts.add(file);
         }
         if (counts.files > 0)
             context.out << kind.resource->name << ": " << summary(counts) << '\n';
@@ -109,7 +109,7 @@ Json findingsJson(const std::vector<Finding>& findings) {
 void writeFiles(CommandContext& context, const std::vector<CheckedFile>& files, const Counts& total) {
     Json list = Json::array();
     for (const CheckedFile& file : files) {
-        if (!file.unreadable.empty()) continue;
+        if (file.unreadable) continue;
         list.push_back({{"path", file.path},
                         {"kind", file.kind == nullptr ? Json() : Json(file.kind->word)},
                         {"entries", file.judgement.entries},
@@ -130,10 +130,10 @@ void runCheck(CommandContext& context, const Options& options) {
     }
     Counts total;
     for (const CheckedFile& file : files) {
-        if (file.unreadable.empty())
-            total.add(file);
+        if (file.unreadable)
+            context.reportUnreadable(file.path + ": cannot be read: " + file.unreadable->message);
         else
-            context.reportUnreadable(file.path + ": cannot be read: " + file.unreadable);
+            total.add(file);
     }
     if (files.empty()) context.reportUnreadable("no resource file is found; \"velkor resources\" says why");
     if (context.status == Done && total.findings() > 0) context.status = Findings;

@@ -8,10 +8,10 @@
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace velkor::files {
 
@@ -66,9 +66,9 @@ int writeBeside(const std::string& path, std::string_view bytes, const mode_t* m
 
 } // namespace
 
-tl::expected<std::string, std::string> readFile(const std::string& path, std::size_t most) {
+tl::expected<std::string, OpenError> readFile(const std::string& path, std::size_t most) {
     auto file = InputFile::open(path);
-    if (!file) return tl::unexpected(file.error());
+    if (!file) return tl::unexpected(std::move(file.error()));
     std::string bytes;
     std::size_t size = 0;
     while (size < most) {
@@ -76,7 +76,7 @@ tl::expected<std::string, std::string> readFile(const std::string& path, std::si
         // Doubled, so that the time stays linear.
         if (size == bytes.size()) bytes.resize(std::min(most, std::max(block, 2 * size)));
         const std::ptrdiff_t count = file->read(bytes.data() + size, bytes.size() - size);
-        if (count < 0) return tl::unexpected(std::string(std::strerror(errno)));
+        if (count < 0) return tl::unexpected(systemError(errno));
         if (count == 0) break;
         size += static_cast<std::size_t>(count);
     }
@@ -84,7 +84,7 @@ tl::expected<std::string, std::string> readFile(const std::string& path, std::si
     return bytes;
 }
 
-std::string replaceFile(const QORUnicodeString& path, std::string_view bytes) {
+tl::expected<void, OpenError> replaceFile(const QORUnicodeString& path, std::string_view bytes) {
     const std::string target = linkTarget(nativePath(path));
     struct stat status {};
     const bool exists = stat(target.c_str(), &status) == 0;
@@ -92,7 +92,8 @@ std::string replaceFile(const QORUnicodeString& path, std::string_view bytes) {
     const int error = exists && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode)
                           ? writeInto(target, bytes)
                           : writeBeside(target, bytes, exists ? &status.st_mode : nullptr);
-    return error == 0 ? std::string() : std::strerror(error);
+    if (error != 0) return tl::unexpected(systemError(error));
+    return {};
 }
 
 } // namespace velkor::files

@@ -7,8 +7,7 @@
 
 namespace velkor::files {
 
-tl::expected<std::string, std::string> readInput(const std::string& path, std::istream* standardInput,
-                                                 std::size_t most) {
+tl::expected<std::string, OpenError> readInput(const std::string& path, std::istream* standardInput, std::size_t most) {
     if (path != "-") return readFile(path, most);
     std::string bytes, block(64 << 10, '\0');
     while (standardInput != nullptr && *standardInput && bytes.size() < most) {
@@ -16,7 +15,8 @@ tl::expected<std::string, std::string> readInput(const std::string& path, std::i
         standardInput->read(block.data(), static_cast<std::streamsize>(wanted));
         bytes.append(block, 0, static_cast<std::size_t>(standardInput->gcount()));
     }
-    if (standardInput != nullptr && standardInput->bad()) return tl::unexpected(std::string("reading failed"));
+    if (standardInput != nullptr && standardInput->bad())
+        return tl::unexpected(OpenError{OpenError::Code::Failed, "reading failed"});
     return bytes;
 }
 

@@ -138,9 +138,9 @@ public:
         std::string text;
         const HRESULT result = write(document, text, names, values);
         if (FAILED(result)) return result;
-        const std::string reason = files::replaceFile(path, text);
-        if (reason.empty()) return S_OK;
-        log(std::string(path.utf8()) + ": cannot be written: " + reason, ErrorLevel);
+        const auto replaced = files::replaceFile(path, text);
+        if (replaced) return S_OK;
+        log(std::string(path.utf8()) + ": cannot be written: " + replaced.error().message, ErrorLevel);
         return E_FAIL;
     }
     HRESULT WriteToText(const QORIDOMDocument_var& document, QORUnicodeString& text,

@@ -83,7 +83,7 @@ public:
 
     DocumentPointer fromFile(const QORUnicodeString& path) {
         auto file = files::InputFile::open(files::nativePath(path));
-        if (!file) return refuse("cannot be read: " + file.error());
+        if (!file) return refuse("cannot be read: " + file.error().message);
         return take([&](char* buffer, std::size_t size) { return file->read(buffer, size); });
     }
 

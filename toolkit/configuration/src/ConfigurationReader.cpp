@@ -277,10 +277,13 @@ private:
 
 } // namespace
 
-ConfigurationReading readConfiguration(const std::string& path, std::istream* standardInput) {
-    const auto text = files::readInput(path, standardInput, mostBytes + 1);
-    const std::string reason = !text ? text.error() : text->size() > mostBytes ? "it is larger than 1 MiB" : "";
-    if (!reason.empty()) return {{}, {path + ": cannot be read: " + reason}};
+tl::expected<ConfigurationReading, files::OpenError> readConfiguration(const std::string& path,
+                                                                       std::istream* standardInput) {
+    auto text = files::readInput(path, standardInput, mostBytes + 1);
+    if (text && text->size() > mostBytes)
+        text = tl::unexpected(files::OpenError{files::OpenError::Code::TooLarge, "it is larger than 1 MiB"});
+    if (!text)
+        return tl::unexpected(files::OpenError{text.error().code, path + ": cannot be read: " + text.error().message});
     return parseConfiguration(*text, path);
 }
 

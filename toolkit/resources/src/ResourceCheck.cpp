@@ -63,9 +63,9 @@ constexpr std::size_t mostBytes = std::size_t{2} << 30;
 CheckedFile judged(const std::string& path, const LinterKind* kind, Linter* linter, Dictionaries& dictionaries,
                    std::istream* standardInput) {
     CheckedFile file{path, kind, {}};
-    const auto text = files::readInput(path, standardInput, mostBytes);
+    auto text = files::readInput(path, standardInput, mostBytes);
     if (!text) {
-        file.unreadable = text.error();
+        file.unreadable = std::move(text.error());
         return file;
     }
     XmlReading reading = readXml(*text, path);

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <utility>
 
+using velkor::files::OpenError;
 using velkor::objectmodeler::isRecording;
 using velkor::objectmodeler::recordCall;
 
@@ -18,6 +19,10 @@ namespace {
 // released by this library's termination, which comes after every static object of those
 // that depend on it, so that registrations can still be withdrawn there.
 DXSdaiDictionaryRepo* theOne = nullptr;
+
+tl::unexpected<OpenError> failure(OpenError::Code code, std::string message) {
+    return tl::unexpected(OpenError{code, std::move(message)});
+}
 
 } // namespace
 
@@ -68,21 +73,21 @@ std::string DXSdaiDictionaryRepo::match(std::string_view nameInFile) const {
     return velkor::sdai::matchSchemaName(names(), nameInFile);
 }
 
-tl::expected<DXSdaiDictionaryRepo::SchemaPointer, std::string> DXSdaiDictionaryRepo::schema(std::string_view name) {
+tl::expected<DXSdaiDictionaryRepo::SchemaPointer, OpenError> DXSdaiDictionaryRepo::schema(std::string_view name) {
     std::unique_lock lock(_state->mutex);
     const State::EntryPointer entry = _state->find(name);
     if (!entry) {
         const std::vector<std::string> known = _state->names();
-        return tl::unexpected("unknown schema \"" + std::string(name) +
-                              "\"; known: " + (known.empty() ? "none" : velkor::text::joined(known, ", ")));
+        return failure(OpenError::Code::UnknownSchema,
+                       "unknown schema \"" + std::string(name) +
+                           "\"; known: " + (known.empty() ? "none" : velkor::text::joined(known, ", ")));
     }
     _state->waitForOtherThreads(entry, lock);
     if (entry->phase == State::Phase::Waiting) _state->load(entry, lock);
     if (entry->phase == State::Phase::Restored) return entry->schema;
-    if (entry->phase == State::Phase::Loading) {
-        return tl::unexpected("the schema " + entry->name + " is asked for by its own loader");
-    }
-    return tl::unexpected("the schema " + entry->name + " cannot be restored: " + entry->error);
+    const std::string reason = entry->phase == State::Phase::Loading ? " is asked for by its own loader"
+                                                                     : " cannot be restored: " + entry->error;
+    return failure(OpenError::Code::DamagedSchema, "the schema " + entry->name + reason);
 }
 
 bool DXSdaiDictionaryRepo::isRestored(std::string_view name) const {

@@ -46,23 +46,27 @@ Model::Model(std::unique_ptr<Part21File> file, DXSdaiDictionaryRepo::SchemaPoint
 
 Model::~Model() = default;
 
-tl::expected<std::unique_ptr<Model>, std::string> Model::open(const std::string& path, Part21File::Access access) {
+tl::expected<std::unique_ptr<Model>, files::OpenError> Model::open(const std::string& path, Part21File::Access access) {
     return Part21File::open(path, ScanPath::Automatic, access).and_then(over);
 }
 
-tl::expected<std::unique_ptr<Model>, std::string> Model::fromText(std::string_view text, std::string name) {
+tl::expected<std::unique_ptr<Model>, files::OpenError> Model::fromText(std::string_view text, std::string name) {
     return Part21File::fromText(text, std::move(name)).and_then(over);
 }
 
-tl::expected<std::unique_ptr<Model>, std::string> Model::over(std::unique_ptr<Part21File> file) {
+tl::expected<std::unique_ptr<Model>, files::OpenError> Model::over(std::unique_ptr<Part21File> file) {
     const std::string registered = registeredSchema(schemaNames(*file));
     if (registered.empty()) {
         const Problem problem = *schemaProblem(*file);
-        return tl::unexpected(text::printable(file->name()) + ":" + std::to_string(problem.line) + ": " +
-                              problem.message);
+        return tl::unexpected(files::OpenError{files::OpenError::Code::UnknownSchema,
+                                               text::printable(file->name()) + ":" + std::to_string(problem.line) +
+                                                   ": " + problem.message});
     }
     auto schema = DXSdaiDictionaryRepo::TheOne().schema(registered);
-    if (!schema) return tl::unexpected(text::printable(file->name()) + ": " + schema.error());
+    if (!schema) {
+        return tl::unexpected(
+            files::OpenError{schema.error().code, text::printable(file->name()) + ": " + schema.error().message});
+    }
     return std::unique_ptr<Model>(new Model(std::move(file), std::move(*schema)));
 }
 

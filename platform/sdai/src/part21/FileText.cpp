@@ -2,11 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
-#include <fcntl.h>
 #include <sys/mman.h>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
 namespace velkor::sdai::part21 {
@@ -15,56 +11,36 @@ namespace {
 
 constexpr std::uint64_t window = 4 << 20;
 
-std::string systemError() {
-    return std::strerror(errno);
-}
-
-/// Open until it goes; a mapping outlives it.
-struct Descriptor {
-    explicit Descriptor(int opened) noexcept : number(opened) {}
-    ~Descriptor() {
-        if (number >= 0) close(number);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    const int number;
-};
-
 } // namespace
 
-tl::expected<FileText, std::string> FileText::open(const std::string& path, Part21File::Access access) {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat status {};
-    if (file.number < 0 || fstat(file.number, &status) != 0) return tl::unexpected(systemError());
-    if (S_ISDIR(status.st_mode)) return tl::unexpected(std::string("is a folder, expected a file"));
-    if (!S_ISREG(status.st_mode)) return tl::unexpected(std::string("is no regular file"));
-    const auto size = static_cast<std::size_t>(status.st_size);
-    if (size == 0) return FileText();
-    const bool isMapped = access == Part21File::Access::Mapped && size >= Part21File::mappedFrom;
-    return isMapped ? map(file.number, size) : read(file.number, size);
+tl::expected<FileText, files::OpenError> FileText::open(const std::string& path, Part21File::Access access) {
+    auto file = files::InputFile::open(path);
+    if (!file) return tl::unexpected(std::move(file.error()));
+    if (file->size() == 0) return FileText();
+    const bool isMapped = access == Part21File::Access::Mapped && file->size() >= Part21File::mappedFrom;
+    return isMapped ? map(*file) : read(*file);
 }
 
-tl::expected<FileText, std::string> FileText::map(int descriptor, std::size_t size) {
-    const void* data = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, descriptor, 0);
-    if (data == MAP_FAILED) return tl::unexpected(systemError());
+// The mapping outlives the open file.
+tl::expected<FileText, files::OpenError> FileText::map(const files::InputFile& file) {
+    const void* data = mmap(nullptr, file.size(), PROT_READ, MAP_PRIVATE, file.descriptor(), 0);
+    if (data == MAP_FAILED) return tl::unexpected(files::systemError(errno));
     FileText text;
     text._data = static_cast<const char*>(data);
-    text._size = size;
+    text._size = file.size();
     return text;
 }
 
-tl::expected<FileText, std::string> FileText::read(int descriptor, std::size_t size) {
+tl::expected<FileText, files::OpenError> FileText::read(files::InputFile& file) {
     FileText text;
-    text._read = std::make_unique_for_overwrite<char[]>(size);
+    text._read = std::make_unique_for_overwrite<char[]>(file.size());
     text._data = text._read.get();
     // A file that has become shorter meanwhile ends earlier.
-    while (text._size < size) {
-        const ssize_t count = ::read(descriptor, text._read.get() + text._size, size - text._size);
+    while (text._size < file.size()) {
+        const std::ptrdiff_t count = file.read(text._read.get() + text._size, file.size() - text._size);
+        if (count < 0) return tl::unexpected(files::systemError(errno));
         if (count == 0) break;
-        if (count > 0)
-            text._size += static_cast<std::size_t>(count);
-        else if (errno != EINTR)
-            return tl::unexpected(systemError());
+        text._size += static_cast<std::size_t>(count);
     }
     return text;
 }

@@ -1,6 +1,7 @@
 /// The text of a file, mapped into memory or read into it.
 #pragma once
 
+#include "velkor/files/InputFile.h"
 #include "velkor/sdai/Part21File.h"
 
 #include <cstdint>
@@ -13,8 +14,8 @@ namespace velkor::sdai::part21 {
 
 class FileText {
 public:
-    /// The error says in a few words why the file cannot be read. An empty file has an empty text.
-    static tl::expected<FileText, std::string> open(const std::string& path, Part21File::Access access);
+    /// The message says in a few words why the file cannot be read. An empty file has an empty text.
+    static tl::expected<FileText, files::OpenError> open(const std::string& path, Part21File::Access access);
 
     FileText() = default;
     FileText(FileText&& other) noexcept;
@@ -28,8 +29,8 @@ public:
     void expectReading(std::uint64_t position) noexcept;
 
 private:
-    static tl::expected<FileText, std::string> map(int descriptor, std::size_t size);
-    static tl::expected<FileText, std::string> read(int descriptor, std::size_t size);
+    static tl::expected<FileText, files::OpenError> map(const files::InputFile& file);
+    static tl::expected<FileText, files::OpenError> read(files::InputFile& file);
     void advise(std::uint64_t from, std::uint64_t length, int advice) const noexcept;
 
     const char* _data = nullptr;

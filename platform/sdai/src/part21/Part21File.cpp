@@ -23,6 +23,12 @@ struct Part21File::State {
 
 namespace {
 
+using Code = files::OpenError::Code;
+
+tl::unexpected<files::OpenError> failure(Code code, const std::string& file, const std::string& reason) {
+    return tl::unexpected(files::OpenError{code, text::printable(file) + ": " + reason});
+}
+
 constexpr std::string_view expected = R"(expected an exchange structure that begins with "ISO-10303-21;")";
 
 /// What a text is that is no exchange structure; empty when it may be one.
@@ -64,45 +70,43 @@ std::string foreignFormat(std::string_view text) {
 
 } // namespace
 
-Part21File::Part21File() = default;
+Part21File::Part21File(std::unique_ptr<State> state) : _state(std::move(state)) {}
 Part21File::~Part21File() = default;
 
-tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::open(const std::string& path, ScanPath scanPath,
-                                                                        Access access) {
+tl::expected<std::unique_ptr<Part21File>, files::OpenError> Part21File::open(const std::string& path, ScanPath scanPath,
+                                                                             Access access) {
     auto file = FileText::open(path, access);
-    if (!file) return tl::unexpected(text::printable(path) + ": cannot be read: " + file.error());
-    if (file->text().empty()) return tl::unexpected(text::printable(path) + ": is empty, " + std::string(expected));
+    if (!file) return failure(file.error().code, path, "cannot be read: " + file.error().message);
+    if (file->text().empty()) return failure(Code::Empty, path, "is empty, " + std::string(expected));
     const std::string_view text = file->text();
     return read(std::make_unique<State>(std::move(*file), text, path), scanPath);
 }
 
-tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::fromText(std::string_view text, std::string name,
-                                                                            ScanPath scanPath) {
+tl::expected<std::unique_ptr<Part21File>, files::OpenError> Part21File::fromText(std::string_view text,
+                                                                                 std::string name, ScanPath scanPath) {
     return read(std::make_unique<State>(FileText(), text, std::move(name)), scanPath);
 }
 
-tl::expected<std::unique_ptr<Part21File>, std::string> Part21File::read(std::unique_ptr<State> state, ScanPath path) {
-    struct Opened : Part21File {};
+tl::expected<std::unique_ptr<Part21File>, files::OpenError> Part21File::read(std::unique_ptr<State> state,
+                                                                             ScanPath path) {
     Structure& structure = state->structure;
     FileText& mapped = state->file;
     const BlockClassifier classifier = blockClassifier(path);
     if (classifier == nullptr) {
-        return tl::unexpected(text::printable(state->name) +
-                              ": the processor lacks the instructions of the scan path asked for");
+        return failure(Code::Unsupported, state->name,
+                       "the processor lacks the instructions of the scan path asked for");
     }
     mapped.expectReading(0);
     if (const std::string format = foreignFormat(structure.text); !format.empty()) {
-        return tl::unexpected(text::printable(state->name) + ": " + std::string(expected) + ", " + format);
+        return failure(Code::NoExchangeStructure, state->name, std::string(expected) + ", " + format);
     }
     StructureReader(structure, classifier).read([&mapped](std::uint64_t position) { mapped.expectReading(position); });
     if (structure.tooManyInstances) {
-        return tl::unexpected(text::printable(state->name) + ": has more than " +
-                              std::to_string(InstanceIndex::maximumCount) +
-                              " instances, which is the most that can be read");
+        return failure(Code::TooLarge, state->name,
+                       "has more than " + std::to_string(InstanceIndex::maximumCount) +
+                           " instances, which is the most that can be read");
     }
-    std::unique_ptr<Part21File> opened = std::make_unique<Opened>();
-    opened->_state = std::move(state);
-    return opened;
+    return std::unique_ptr<Part21File>(new Part21File(std::move(state)));
 }
 
 const std::string& Part21File::name() const noexcept {

@@ -90,7 +90,7 @@ TEST_F(Repository, KeepsRegistrationsInOrderUntilTheyAreWithdrawn) {
     }
     EXPECT_TRUE(repo.names().empty());
     EXPECT_NE(kept->entity("PART"), nullptr) << "a schema in use outlives its registration";
-    EXPECT_THAT(repo.schema("SAMPLE").error(), HasSubstr("known: none"));
+    EXPECT_THAT(repo.schema("SAMPLE").error().message, HasSubstr("known: none"));
 
     const QORDXSdaiSchemaDecl again(add(&loadSample));
     EXPECT_NE(repo.schema("SAMPLE").value(), kept);
@@ -101,13 +101,14 @@ TEST_F(Repository, RemembersWhyASchemaIsRefused) {
     const QORDXSdaiSchemaDecl nothing(add(&loadNothing, "NOTHING"));
     const QORDXSdaiSchemaDecl wrong(add(&loadSample, "WRONG"));
     for (int i = 0; i < 2; ++i) {
-        EXPECT_THAT(repo.schema("FAULTY").error(), HasSubstr("declaration 2 \"Nonsense\""));
-        EXPECT_THAT(repo.schema("NOTHING").error(), HasSubstr("handed over no lists"));
-        EXPECT_THAT(repo.schema("WRONG").error(), HasSubstr("handed over the lists of SAMPLE"));
+        EXPECT_THAT(repo.schema("FAULTY").error().message, HasSubstr("declaration 2 \"Nonsense\""));
+        EXPECT_EQ(repo.schema("FAULTY").error().code, velkor::files::OpenError::Code::DamagedSchema);
+        EXPECT_THAT(repo.schema("NOTHING").error().message, HasSubstr("handed over no lists"));
+        EXPECT_THAT(repo.schema("WRONG").error().message, HasSubstr("handed over the lists of SAMPLE"));
     }
     EXPECT_EQ(calls, 3);
     EXPECT_FALSE(repo.isRestored("FAULTY"));
-    EXPECT_THAT(repo.schema("OTHER").error(), HasSubstr("known: FAULTY, NOTHING, WRONG"));
+    EXPECT_THAT(repo.schema("OTHER").error().message, HasSubstr("known: FAULTY, NOTHING, WRONG"));
 }
 
 TEST_F(Repository, GivesThreadsThatAskAtOnceOneSchema) {

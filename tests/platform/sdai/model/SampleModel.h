@@ -24,7 +24,7 @@ protected:
                 "FILE_SCHEMA(('SAMPLE'));\nENDSEC;\nDATA;\n" +
                 data + "ENDSEC;\nEND-ISO-10303-21;\n";
         auto model = Model::fromText(_text, "sample.ifc");
-        if (!model) throw std::runtime_error(model.error());
+        if (!model) throw std::runtime_error(model.error().message);
         _model = std::move(*model);
         return *_model;
     }

@@ -26,7 +26,7 @@ inline std::string withData(const std::string& data) {
 inline std::unique_ptr<Part21File> read(const std::string& text, ScanPath path = ScanPath::Automatic) {
     auto file = Part21File::fromText(text, "test.ifc", path);
     if (!file) {
-        ADD_FAILURE() << file.error();
+        ADD_FAILURE() << file.error().message;
         return nullptr;
     }
     return std::move(*file);

@@ -137,7 +137,7 @@ TEST(Reader, ReadsAFileAsItReadsText) {
         const std::string whole = text + std::string(size - text.size(), '\n');
         std::ofstream(path, std::ios::binary) << whole;
         const auto file = Part21File::open(path, ScanPath::Automatic, access);
-        ASSERT_TRUE(file) << file.error();
+        ASSERT_TRUE(file) << file.error().message;
         EXPECT_EQ((*file)->name(), path);
         EXPECT_EQ((*file)->text(), whole);
         EXPECT_EQ((*file)->offset(0), text.find("#1"));
@@ -149,12 +149,16 @@ TEST(Reader, ReadsAFileAsItReadsText) {
     std::filesystem::remove(path);
 
     std::ofstream(path).close();
-    for (const auto& [wrong, reason] :
-         {std::pair(path, "is empty"), std::pair(testing::TempDir(), "folder"),
-          std::pair(path + ".missing", "No such file"), std::pair(std::string("/dev/null"), "regular")}) {
+    using Code = files::OpenError::Code;
+    for (const auto& [wrong, code, reason] : {std::tuple(path, Code::Empty, "is empty"),
+                                              {testing::TempDir(), Code::Folder, "folder"},
+                                              {path + ".missing", Code::Missing, "No such file"},
+                                              {path + "/inside", Code::Missing, "Not a directory"},
+                                              {std::string("/dev/null"), Code::NotRegular, "regular"}}) {
         const auto failed = Part21File::open(wrong);
         ASSERT_FALSE(failed);
-        EXPECT_THAT(failed.error(), AllOf(StartsWith(wrong + ": "), HasSubstr(reason)));
+        EXPECT_EQ(failed.error().code, code) << wrong;
+        EXPECT_THAT(failed.error().message, AllOf(StartsWith(wrong + ": "), HasSubstr(reason)));
     }
     std::filesystem::remove(path);
 }
@@ -172,7 +176,9 @@ TEST(Reader, SaysWhatATextIsThatIsNoExchangeStructure) {
                                        {"# \xC3\nv 1"s, "\"# ?\""}}) {
         const auto file = Part21File::fromText(text, "x.ifc");
         ASSERT_FALSE(file) << reason;
-        EXPECT_THAT(file.error(), AllOf(StartsWith("x.ifc: expected an exchange structure"), HasSubstr(reason)));
+        EXPECT_EQ(file.error().code, files::OpenError::Code::NoExchangeStructure);
+        EXPECT_THAT(file.error().message,
+                    AllOf(StartsWith("x.ifc: expected an exchange structure"), HasSubstr(reason)));
     }
     EXPECT_TRUE(Part21File::fromText("/* by hand */ iso-10303-21;", "x") && Part21File::fromText("HEADER;", "x"));
 }

@@ -31,7 +31,7 @@ TEST(SyntaxCheck, SoundStructuresHaveNoProblems) {
     }
     for (const char* example : {"house-ifc2x3.ifc", "pump-room-ifc4.ifc", "road-ifc4x3.ifc"}) {
         const auto file = Part21File::open(VELKOR_SOURCE_DIR "/examples/models/" + std::string(example));
-        ASSERT_TRUE(file) << file.error();
+        ASSERT_TRUE(file) << file.error().message;
         EXPECT_GT((*file)->instanceCount(), 10u);
         EXPECT_EQ(placed(checkSyntax(**file, 10)), "") << example;
     }

@@ -1,6 +1,8 @@
 /// A regular file opened for reading.
 #pragma once
 
+#include "velkor/files/OpenError.h"
+
 #include <cstddef>
 #include <string>
 #include <tl/expected.hpp>
@@ -10,18 +12,23 @@ namespace velkor::files {
 class InputFile {
 public:
     /// Opens a file by a path as the system takes it. What is no regular file is refused without being read: a
-    /// pipe may never end. The error says why in a few words, for example "is no regular file".
-    static tl::expected<InputFile, std::string> open(const std::string& path);
+    /// pipe may never end. The message says why in a few words, for example "is no regular file".
+    static tl::expected<InputFile, OpenError> open(const std::string& path);
     InputFile(InputFile&& other) noexcept;
     InputFile& operator=(InputFile&&) = delete;
     ~InputFile();
 
     /// Number of bytes put into the buffer, 0 behind the last one; -1 when reading fails, and `errno` says why.
     std::ptrdiff_t read(char* buffer, std::size_t size) noexcept;
+    /// Bytes in the file when it was opened; 0 for one that the system makes up while it is read.
+    std::size_t size() const noexcept { return _size; }
+    /// For mapping. The file stays this object's.
+    int descriptor() const noexcept { return _descriptor; }
 
 private:
     explicit InputFile(int descriptor) noexcept : _descriptor(descriptor) {}
     int _descriptor;
+    std::size_t _size = 0;
 };
 
 } // namespace velkor::files

@@ -5,9 +5,10 @@
 /// QORDXSdaiSchemaRestore.
 ///
 ///     auto schema = DXSdaiDictionaryRepo::TheOne().schema("IFC4");
-///     if (!schema) report(schema.error());
+///     if (!schema) report(schema.error().message);
 #pragma once
 
+#include "velkor/files/OpenError.h"
 #include "velkor/sdai/Dictionary.h"
 #include "velkor/sdai/DXSdaiString.h"
 
@@ -52,10 +53,10 @@ public:
     std::string match(std::string_view nameInFile) const;
 
     /// The schema of a registered name (exact, letter case ignored), restored now if it has
-    /// not been. The error says what is wrong with the lists, or which names are known; a
+    /// not been. The message of an error says what is wrong with the lists, or which names are known; a
     /// refusal is remembered, the loader is not called again. Threads that ask at once get one
     /// schema. What a loader throws passes through, and the next request calls it again.
-    tl::expected<SchemaPointer, std::string> schema(std::string_view name);
+    tl::expected<SchemaPointer, velkor::files::OpenError> schema(std::string_view name);
 
     /// True when the schema has been restored already; restores nothing.
     bool isRestored(std::string_view name) const;

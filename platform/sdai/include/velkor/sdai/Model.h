@@ -1,7 +1,7 @@
 /// An IFC model opened for reading: a Part 21 file and the dictionary that its schema names.
 ///
 ///     auto model = Model::open("house.ifc");
-///     if (!model) return report(model.error());
+///     if (!model) return report(model.error().message);
 ///     for (DXSdaiAppInstance* wall : (*model)->instancesOf("IFCWALL")) …
 #pragma once
 
@@ -23,14 +23,14 @@ namespace velkor::sdai {
 /// a model, different models are independent.
 class Model {
 public:
-    /// The error is one line that names the file and says why it cannot be read, or which schemas there
-    /// are when the file's is none of them.
-    static tl::expected<std::unique_ptr<Model>, std::string>
+    /// The message of an error names the file and says why it cannot be read, or which schemas there are when the
+    /// file's is none of them.
+    static tl::expected<std::unique_ptr<Model>, files::OpenError>
     open(const std::string& path, Part21File::Access access = Part21File::Access::Mapped);
     /// The same over text that the caller keeps alive; `name` stands for the file in messages.
-    static tl::expected<std::unique_ptr<Model>, std::string> fromText(std::string_view text, std::string name);
+    static tl::expected<std::unique_ptr<Model>, files::OpenError> fromText(std::string_view text, std::string name);
     /// The same over a file that is open already.
-    static tl::expected<std::unique_ptr<Model>, std::string> over(std::unique_ptr<Part21File> file);
+    static tl::expected<std::unique_ptr<Model>, files::OpenError> over(std::unique_ptr<Part21File> file);
     /// Why no model can be made over a file: it names no schema that the repository has. Nothing when it
     /// names one.
     static std::optional<Problem> schemaProblem(const Part21File& file);

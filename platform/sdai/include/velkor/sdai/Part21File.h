@@ -3,13 +3,14 @@
 /// the text when asked for.
 ///
 ///     auto file = Part21File::open("house.ifc");
-///     if (!file) return report(file.error());
+///     if (!file) return report(file.error().message);
 ///     for (std::uint32_t i = 0; i < (*file)->instanceCount(); ++i) use((*file)->instanceText(i));
 ///
 /// Reading is tolerant: what is damaged is noted in problems() and skipped, the rest stays
 /// usable.
 #pragma once
 
+#include "velkor/files/OpenError.h"
 #include "velkor/sdai/Problem.h"
 
 #include <cstddef>
@@ -55,14 +56,16 @@ public:
     /// Files with fewer bytes are read in any case.
     static constexpr std::size_t mappedFrom = 1 << 20;
 
-    /// Indexes a file. The error is one line that names the file and says why it cannot be read as an
-    /// exchange structure at all.
-    static tl::expected<std::unique_ptr<Part21File>, std::string>
+    /// Indexes a file. The message of an error names the file and says why it cannot be read as an exchange
+    /// structure at all.
+    static tl::expected<std::unique_ptr<Part21File>, files::OpenError>
     open(const std::string& path, ScanPath scanPath = ScanPath::Automatic, Access access = Access::Mapped);
     /// The same over text that the caller keeps alive; `name` stands for the file in messages.
-    static tl::expected<std::unique_ptr<Part21File>, std::string> fromText(std::string_view text, std::string name,
-                                                                           ScanPath scanPath = ScanPath::Automatic);
-    virtual ~Part21File();
+    static tl::expected<std::unique_ptr<Part21File>, files::OpenError>
+    fromText(std::string_view text, std::string name, ScanPath scanPath = ScanPath::Automatic);
+    ~Part21File();
+    Part21File(const Part21File&) = delete;
+    Part21File& operator=(const Part21File&) = delete;
 
     const std::string& name() const noexcept;
     std::string_view text() const noexcept;
@@ -101,10 +104,11 @@ public:
     /// Bytes held beside the text.
     std::size_t memoryUse() const noexcept;
 
-protected:
-    Part21File();
+private:
     struct State;
-    static tl::expected<std::unique_ptr<Part21File>, std::string> read(std::unique_ptr<State> state, ScanPath path);
+    explicit Part21File(std::unique_ptr<State> state);
+    static tl::expected<std::unique_ptr<Part21File>, files::OpenError> read(std::unique_ptr<State> state,
+                                                                            ScanPath path);
     std::unique_ptr<State> _state;
 };
 

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "velkor/configuration/Configuration.h"
+#include "velkor/files/OpenError.h"
 
 #include <iosfwd>
 #include <string>
 #include <string_view>
+#include <tl/expected.hpp>
 #include <vector>
 
 namespace velkor {
@@ -18,8 +20,9 @@ struct ConfigurationReading {
 };
 
 /// Reads a file or, for "-", standard input, null for an empty one. Paths in the configuration that are relative
-/// are so to the file's folder.
-ConfigurationReading readConfiguration(const std::string& path, std::istream* standardInput);
+/// are so to the file's folder. The message of an error names the file and says why it cannot be read.
+tl::expected<ConfigurationReading, files::OpenError> readConfiguration(const std::string& path,
+                                                                       std::istream* standardInput);
 
 /// The same over a text; `path` stands in messages and decides about relative paths.
 ConfigurationReading parseConfiguration(std::string_view text, const std::string& path);

@@ -5,11 +5,13 @@
 #pragma once
 
 #include "ResourceKinds.h"
+#include "velkor/files/OpenError.h"
 #include "velkor/resources/Finding.h"
 
 #include <cstddef>
 #include <iosfwd>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -40,7 +42,7 @@ struct CheckedFile {
     /// Null when it is none of the six.
     const LinterKind* kind = nullptr;
     /// Why the file could not be read; nothing has then been judged.
-    std::string unreadable = {};
+    std::optional<files::OpenError> unreadable = {};
     /// Findings beyond the limit of the check are counted alone.
     Judgement judgement = {};
     std::size_t errors = 0;
