@@ -10,8 +10,8 @@ namespace {
 
 template <class Take>
 void eachInstance(const sdai::Aggregate& aggregate, Take take) {
-    for (sdai::AggregateIterator it(aggregate); it.next();) {
-        if (const DXSdaiAppInstance* instance = it.current().asInstance()) take(instance);
+    for (const sdai::Primitive member : aggregate) {
+        if (const DXSdaiAppInstance* instance = member.asInstance()) take(instance);
     }
 }
 

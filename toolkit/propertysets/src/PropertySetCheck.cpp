@@ -166,9 +166,9 @@ private:
 
     void checkProperties(NamedSet& named, const DXSdaiAppInstance* set, const sdai::Aggregate& members,
                          const char* what) {
-        for (sdai::AggregateIterator it(members); it.next();) {
+        for (const sdai::Primitive member : members) {
             ++_result.properties;
-            const DXSdaiAppInstance* property = it.current().asInstance();
+            const DXSdaiAppInstance* property = member.asInstance();
             if (property == nullptr) continue;
             ++_result.checkedProperties;
             const sdai::Primitive name = property->GetAttr("NAME");

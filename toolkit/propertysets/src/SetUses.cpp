@@ -8,8 +8,8 @@ namespace {
 
 template <class Take>
 void eachInstance(const sdai::Aggregate& aggregate, Take take) {
-    for (sdai::AggregateIterator it(aggregate); it.next();) {
-        if (DXSdaiAppInstance* instance = it.current().asInstance()) take(instance);
+    for (const sdai::Primitive member : aggregate) {
+        if (DXSdaiAppInstance* instance = member.asInstance()) take(instance);
     }
 }
 

@@ -39,9 +39,9 @@ std::string derivedUnitName(const DXSdaiAppInstance& unit) {
     }
     std::string result;
     std::size_t count = 0;
-    for (sdai::AggregateIterator it(unit.GetAttr("ELEMENTS").asAggregate()); it.next(); ++count) {
-        if (count == mostElementsNamed) return result + " …";
-        const auto* element = it.current().asInstance();
+    for (const sdai::Primitive member : unit.GetAttr("ELEMENTS").asAggregate()) {
+        if (count++ == mostElementsNamed) return result + " …";
+        const auto* element = member.asInstance();
         const auto* base = element != nullptr ? element->GetAttr("UNIT").asInstance() : nullptr;
         if (base == nullptr) continue;
         if (!result.empty()) result += ' ';
@@ -77,8 +77,8 @@ UnitReport unitReport(const sdai::Model& model) {
         report.assignment = assignment->id();
         // A set: what a file repeats counts once.
         std::unordered_set<const DXSdaiAppInstance*> seen;
-        for (sdai::AggregateIterator it(assignment->GetAttr("UNITS").asAggregate()); it.next();) {
-            auto* unit = it.current().asInstance();
+        for (const sdai::Primitive member : assignment->GetAttr("UNITS").asAggregate()) {
+            auto* unit = member.asInstance();
             if (unit != nullptr && seen.insert(unit).second) report.units.push_back(describe(*unit));
         }
     }

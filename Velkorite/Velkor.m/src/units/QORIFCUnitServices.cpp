@@ -12,7 +12,7 @@
 
 using velkor::library::unitPosition;
 using velkor::sdai::Aggregate;
-using velkor::sdai::AggregateIterator;
+using velkor::sdai::Primitive;
 
 Fileschema QORIFCUnitServices::_schema = FileschemaIFC2X3;
 std::array<double, 78> QORIFCUnitServices::_IFC2x3_globalSIUnitsFactors{};
@@ -82,8 +82,8 @@ HRESULT QORIFCUnitServices::StoreGlobalUnits(DXSdaiAppInstance* unitAssignment) 
     std::vector<double> factors(stored.size(), 1.0);
 
     HRESULT result = E_FAIL;
-    for (AggregateIterator it(unitsOf(unitAssignment)); it.next();) {
-        DXSdaiAppInstance* unit = it.current().asInstance();
+    for (const Primitive member : unitsOf(unitAssignment)) {
+        DXSdaiAppInstance* unit = member.asInstance();
         if (unit == nullptr) continue;
         const int slot = GetUnitSlot(unit);
         if (slot == velkor::noSlot || static_cast<std::size_t>(slot) >= factors.size()) continue;
@@ -137,8 +137,8 @@ HRESULT QORIFCUnitServices::GetSIConversionFactorforGeometry(double& lengthFacto
 
 HRESULT QORIFCUnitServices::GetDocumentLengthUnit(DXSdaiAppInstance* unitAssignment, QORUnicodeString& unitName,
                                                   double& factor) {
-    for (AggregateIterator it(unitsOf(unitAssignment)); it.next();) {
-        DXSdaiAppInstance* unit = it.current().asInstance();
+    for (const Primitive member : unitsOf(unitAssignment)) {
+        DXSdaiAppInstance* unit = member.asInstance();
         if (unit == nullptr || !(unit->IsKindOf("IFCCONVERSIONBASEDUNIT") || unit->IsKindOf("IFCSIUNIT"))) continue;
         if (unitPosition(unit->GetAttr("UNITTYPE").asEnumeration(), _schema) != velkor::LengthUnit) continue;
         factor = GetUnitConversionFactor(unit);

@@ -53,8 +53,8 @@ double UnitEvaluation::conversionFactor(const DXSdaiAppInstance& unit) {
 
 double UnitEvaluation::derivedFactor(const DXSdaiAppInstance& unit) {
     double result = 1.0;
-    for (sdai::AggregateIterator it(unit.GetAttr("ELEMENTS").asAggregate()); it.next();) {
-        const DXSdaiAppInstance* element = it.current().asInstance();
+    for (const sdai::Primitive member : unit.GetAttr("ELEMENTS").asAggregate()) {
+        const DXSdaiAppInstance* element = member.asInstance();
         if (element == nullptr) continue;
         const double base = factor(element->GetAttr("UNIT").asInstance());
         const auto exponent = element->GetAttr("EXPONENT").asInteger().value_or(0);

@@ -4,6 +4,7 @@
 #include "velkor/sdai/Part21Lexer.h"
 
 #include <cmath>
+#include <iterator>
 
 namespace velkor::sdai {
 
@@ -144,9 +145,7 @@ std::string_view Primitive::asBinary() const noexcept {
 }
 
 std::size_t Aggregate::memberCount() const noexcept {
-    std::size_t count = 0;
-    for (AggregateIterator it(*this); it.next();) ++count;
-    return count;
+    return static_cast<std::size_t>(std::ranges::distance(*this));
 }
 
 void AggregateIterator::beginning() noexcept {

@@ -33,7 +33,7 @@ std::string summary(const Primitive& value) {
 
 std::vector<std::string> members(const Aggregate& aggregate) {
     std::vector<std::string> result;
-    for (AggregateIterator it(aggregate); it.next();) result.emplace_back(it.current().encoded());
+    for (const Primitive member : aggregate) result.emplace_back(member.encoded());
     return result;
 }
 
@@ -105,11 +105,10 @@ TEST_F(Value, AggregatesAreWalkedThroughNestingAndDamage) {
     open("#1=HOLDER($,$,$,$,$,$,$,$,$,$,(.GREEN.,.RED.),((1,2),(3)));\n#2=LEAF('n',$,((#3,#3),(#3)));\n#3=PART('p',*,#"
          "2);\n");
     std::string walked;
-    for (AggregateIterator it(value("TINTS").asAggregate()); it.next();) walked += it.current().asEnumeration().text();
-    for (AggregateIterator outer(instance(2).GetAttr("PARTS").asAggregate()); outer.next(); walked += ';') {
-        for (AggregateIterator inner(outer.current().asAggregate()); inner.next();) {
-            walked += std::to_string(inner.current().asInstance()->id());
-        }
+    for (const Primitive tint : value("TINTS").asAggregate()) walked += tint.asEnumeration().text();
+    for (const Primitive parts : instance(2).GetAttr("PARTS").asAggregate()) {
+        for (const Primitive part : parts.asAggregate()) walked += std::to_string(part.asInstance()->id());
+        walked += ';';
     }
     EXPECT_EQ(walked, "GREENRED33;3;");
     EXPECT_THAT(members(value("WEIGHT").asAggregate()), IsEmpty());

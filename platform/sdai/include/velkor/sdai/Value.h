@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -89,7 +90,11 @@ private:
 };
 
 class AggregateIterator;
+class MemberIterator;
 
+/// A list, set, bag or array of values.
+///
+///     for (const Primitive unit : assignment.GetAttr("UNITS").asAggregate()) use(unit.asInstance());
 class Aggregate {
 public:
     Aggregate() = default;
@@ -100,6 +105,10 @@ public:
     /// Counted anew at each call by a pass over the text.
     std::size_t memberCount() const noexcept;
 
+    /// The members in their order, each found when the iterator gets there.
+    MemberIterator begin() const noexcept;
+    std::default_sentinel_t end() const noexcept { return {}; }
+
 private:
     friend class AggregateIterator;
     const Model* _model = nullptr;
@@ -107,7 +116,7 @@ private:
     std::string_view _text;
 };
 
-/// SDAI iterator over an aggregate: stands before the first member until next() is called.
+/// The iterator of SDAI over an aggregate: stands before the first member until next() is called.
 ///
 ///     for (AggregateIterator it(units); it.next();) use(it.current().asInstance());
 class AggregateIterator {
@@ -126,5 +135,29 @@ private:
     bool _isFirst = true;
     std::string_view _current;
 };
+
+/// The iterator of a range-based loop over an aggregate, an input iterator.
+class MemberIterator {
+public:
+    using value_type = Primitive;
+    using difference_type = std::ptrdiff_t;
+
+    explicit MemberIterator(const Aggregate& aggregate) noexcept : _member(aggregate) { ++*this; }
+    Primitive operator*() const noexcept { return _member.current(); }
+    MemberIterator& operator++() noexcept {
+        _isAtEnd = !_member.next();
+        return *this;
+    }
+    void operator++(int) noexcept { ++*this; }
+    bool operator==(std::default_sentinel_t) const noexcept { return _isAtEnd; }
+
+private:
+    AggregateIterator _member;
+    bool _isAtEnd = false;
+};
+
+inline MemberIterator Aggregate::begin() const noexcept {
+    return MemberIterator(*this);
+}
 
 } // namespace velkor::sdai
