@@ -1,9 +1,9 @@
 // How fast an exchange structure is opened, for each set of instructions, beside a plain scan of
 // the same text that only counts statements: what an index costs over reading alone.
 
+#include "BlockClassifier.h"
 #include "CpuTime.h"
 #include "LargeStructure.h"
-#include "part21/BlockClassifier.h"
 #include "velkor/sdai/Part21File.h"
 
 #include <algorithm>

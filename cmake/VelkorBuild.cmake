@@ -36,15 +36,20 @@ endif()
 
 find_package(Threads REQUIRED)
 
-# velkor_area(LIBRARY NAME SOURCES … DEPENDS area … LIBRARIES target …)
+# velkor_area(LIBRARY NAME FOLDER folder SOURCES … DEPENDS area … LIBRARIES target …)
 # One folder of a library that is built of areas: its headers are seen only by areas that name it in DEPENDS.
+# With FOLDER it is an area within one, a folder of src whose private headers those areas see too.
 # velkor_library() puts the areas together.
 function(velkor_area LIBRARY NAME)
-  cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS;LIBRARIES" ${ARGN})
+  cmake_parse_arguments(ARG "" "FOLDER" "SOURCES;DEPENDS;LIBRARIES" ${ARGN})
   set(target ${LIBRARY}_${NAME})
   add_library(${target} OBJECT ${ARG_SOURCES})
-  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
-                                       PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/src)
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>)
+  if(ARG_FOLDER)
+    target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/src/${ARG_FOLDER}>)
+  else()
+    target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/src)
+  endif()
   list(TRANSFORM ARG_DEPENDS PREPEND ${LIBRARY}_)
   target_link_libraries(${target} PUBLIC ${ARG_DEPENDS} ${ARG_LIBRARIES})
   set_property(GLOBAL APPEND PROPERTY ${LIBRARY}_areas ${target})
@@ -81,6 +86,7 @@ function(velkor_library LIBRARY)
   target_link_libraries(${LIBRARY} PRIVATE ${LIBRARY}_areas)
   if(NOT ARG_INTERNAL)
     get_property(includes GLOBAL PROPERTY ${LIBRARY}_includes)
+    list(REMOVE_DUPLICATES includes)
     target_include_directories(${LIBRARY} INTERFACE "$<BUILD_INTERFACE:${includes}>")
   endif()
 endfunction()

@@ -1,4 +1,4 @@
-#include "dictionary/Arena.h"
+#include "Arena.h"
 
 namespace velkor::sdai {
 

@@ -1,8 +1,8 @@
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
-#include "dictionary/Names.h"
-#include "dictionary/RepositoryState.h"
-#include "dictionary/SchemaName.h"
+#include "Names.h"
+#include "RepositoryState.h"
+#include "SchemaName.h"
 #include "velkor/objectmodeler/CallRecorder.h"
 #include "velkor/text/Wording.h"
 

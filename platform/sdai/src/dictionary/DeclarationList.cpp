@@ -1,4 +1,4 @@
-#include "dictionary/DeclarationList.h"
+#include "DeclarationList.h"
 
 #include <algorithm>
 #include <array>

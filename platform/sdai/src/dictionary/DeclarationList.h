@@ -2,7 +2,7 @@
 /// every reference to an earlier declaration of a kind that fits its place.
 #pragma once
 
-#include "dictionary/TextReader.h"
+#include "TextReader.h"
 #include "velkor/sdai/Dictionary.h"
 
 #include <cstdint>

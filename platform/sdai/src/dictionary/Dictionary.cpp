@@ -1,6 +1,6 @@
 #include "velkor/sdai/Dictionary.h"
 
-#include "dictionary/Names.h"
+#include "Names.h"
 
 namespace velkor::sdai {
 

@@ -1,4 +1,4 @@
-#include "dictionary/Names.h"
+#include "Names.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,9 +1,9 @@
 #include "velkor/sdai/QORDXSdaiSchemaRestore.h"
 
-#include "dictionary/DeclarationList.h"
-#include "dictionary/RepositoryState.h"
-#include "dictionary/SchemaBuilder.h"
-#include "dictionary/StatementList.h"
+#include "DeclarationList.h"
+#include "RepositoryState.h"
+#include "SchemaBuilder.h"
+#include "StatementList.h"
 #include "velkor/objectmodeler/CallRecorder.h"
 
 #include <string>

@@ -1,6 +1,6 @@
-#include "dictionary/SchemaBuilder.h"
+#include "SchemaBuilder.h"
 
-#include "dictionary/Names.h"
+#include "Names.h"
 
 #include <algorithm>
 #include <array>

@@ -2,9 +2,9 @@
 /// what they say together.
 #pragma once
 
-#include "dictionary/Arena.h"
-#include "dictionary/DeclarationList.h"
-#include "dictionary/StatementList.h"
+#include "Arena.h"
+#include "DeclarationList.h"
+#include "StatementList.h"
 #include "velkor/sdai/Dictionary.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
-#include "dictionary/SchemaName.h"
+#include "SchemaName.h"
 
-#include "dictionary/Names.h"
+#include "Names.h"
 
 #include <algorithm>
 #include <charconv>

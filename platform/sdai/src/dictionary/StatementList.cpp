@@ -1,4 +1,4 @@
-#include "dictionary/StatementList.h"
+#include "StatementList.h"
 
 #include <array>
 

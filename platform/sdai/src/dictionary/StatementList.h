@@ -2,7 +2,7 @@
 /// What they say together is for SchemaBuilder to judge.
 #pragma once
 
-#include "dictionary/DeclarationList.h"
+#include "DeclarationList.h"
 
 #include <cstdint>
 #include <span>

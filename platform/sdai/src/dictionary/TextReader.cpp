@@ -1,4 +1,4 @@
-#include "dictionary/TextReader.h"
+#include "TextReader.h"
 
 #include <algorithm>
 #include <array>

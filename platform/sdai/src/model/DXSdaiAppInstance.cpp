@@ -1,6 +1,6 @@
 #include "velkor/sdai/DXSdaiAppInstance.h"
 
-#include "model/ComplexInstance.h"
+#include "ComplexInstance.h"
 #include "velkor/sdai/Model.h"
 
 using namespace velkor::sdai;

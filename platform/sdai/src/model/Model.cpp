@@ -1,6 +1,6 @@
 #include "velkor/sdai/Model.h"
 
-#include "model/ComplexInstance.h"
+#include "ComplexInstance.h"
 #include "velkor/text/Printable.h"
 #include "velkor/text/Wording.h"
 

@@ -1,7 +1,7 @@
 #include "velkor/sdai/PopulationCheck.h"
 
-#include "model/ComplexInstance.h"
-#include "model/PopulationChecker.h"
+#include "ComplexInstance.h"
+#include "PopulationChecker.h"
 #include "velkor/text/Printable.h"
 #include "velkor/text/Unicode.h"
 

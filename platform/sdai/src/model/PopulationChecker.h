@@ -1,7 +1,7 @@
 /// The pass over the instances of a model.
 #pragma once
 
-#include "part21/ProblemList.h"
+#include "ProblemList.h"
 #include "velkor/sdai/Part21Lexer.h"
 #include "velkor/sdai/PopulationCheck.h"
 

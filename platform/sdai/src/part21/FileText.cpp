@@ -1,4 +1,4 @@
-#include "part21/FileText.h"
+#include "FileText.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
-#include "part21/InstanceIndex.h"
+#include "InstanceIndex.h"
 
-#include "tokens/Characters.h"
+#include "Characters.h"
 
 #include <algorithm>
 #include <memory>

@@ -2,7 +2,7 @@
 /// has: six bytes per instance and a way from id to number that suits how the ids lie.
 #pragma once
 
-#include "part21/GrowableArray.h"
+#include "GrowableArray.h"
 
 #include <cstdint>
 #include <functional>

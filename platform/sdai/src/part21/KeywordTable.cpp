@@ -1,6 +1,6 @@
-#include "part21/KeywordTable.h"
+#include "KeywordTable.h"
 
-#include "tokens/Separators.h"
+#include "Separators.h"
 #include "velkor/sdai/Part21File.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "part21/LineTable.h"
+#include "LineTable.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "velkor/sdai/Part21File.h"
 
-#include "part21/FileText.h"
-#include "part21/StructureReader.h"
-#include "tokens/Separators.h"
+#include "FileText.h"
+#include "Separators.h"
+#include "StructureReader.h"
 #include "velkor/text/Printable.h"
 
 #include <algorithm>

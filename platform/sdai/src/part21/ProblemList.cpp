@@ -1,4 +1,4 @@
-#include "part21/ProblemList.h"
+#include "ProblemList.h"
 
 #include <algorithm>
 

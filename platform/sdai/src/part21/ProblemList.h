@@ -1,7 +1,7 @@
 /// Collects what is wrong with an exchange structure, bounded in number.
 #pragma once
 
-#include "part21/LineTable.h"
+#include "LineTable.h"
 #include "velkor/sdai/Problem.h"
 
 #include <string>

@@ -1,6 +1,6 @@
-#include "part21/StatementScanner.h"
+#include "StatementScanner.h"
 
-#include "tokens/Separators.h"
+#include "Separators.h"
 
 #include <algorithm>
 #include <bit>

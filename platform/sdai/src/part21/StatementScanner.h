@@ -2,7 +2,7 @@
 /// comments, a chunk of text at a time.
 #pragma once
 
-#include "part21/BlockClassifier.h"
+#include "BlockClassifier.h"
 
 #include <array>
 #include <span>

@@ -1,7 +1,7 @@
-#include "part21/StructureReader.h"
+#include "StructureReader.h"
 
-#include "part21/TextParameters.h"
-#include "tokens/Separators.h"
+#include "Separators.h"
+#include "TextParameters.h"
 #include "velkor/sdai/Part21Lexer.h"
 
 #include <algorithm>

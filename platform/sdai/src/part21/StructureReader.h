@@ -2,10 +2,10 @@
 /// the sections and fills the index.
 #pragma once
 
-#include "part21/InstanceIndex.h"
-#include "part21/KeywordTable.h"
-#include "part21/ProblemList.h"
-#include "part21/StatementScanner.h"
+#include "InstanceIndex.h"
+#include "KeywordTable.h"
+#include "ProblemList.h"
+#include "StatementScanner.h"
 
 #include <functional>
 #include <optional>

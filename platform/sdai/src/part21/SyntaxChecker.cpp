@@ -1,7 +1,7 @@
-#include "part21/SyntaxChecker.h"
+#include "SyntaxChecker.h"
 
-#include "tokens/Separators.h"
-#include "tokens/StringDecoder.h"
+#include "Separators.h"
+#include "StringDecoder.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 /// The strict pass over an exchange structure.
 #pragma once
 
-#include "part21/ProblemList.h"
+#include "ProblemList.h"
 #include "velkor/sdai/Part21Lexer.h"
 #include "velkor/sdai/SyntaxCheck.h"
 

@@ -1,6 +1,6 @@
-#include "part21/TextParameters.h"
+#include "TextParameters.h"
 
-#include "tokens/Separators.h"
+#include "Separators.h"
 #include "velkor/sdai/Part21Lexer.h"
 
 namespace velkor::sdai::part21 {

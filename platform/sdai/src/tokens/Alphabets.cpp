@@ -1,4 +1,4 @@
-#include "tokens/Alphabets.h"
+#include "Alphabets.h"
 
 #include <array>
 

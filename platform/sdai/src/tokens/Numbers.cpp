@@ -1,4 +1,4 @@
-#include "tokens/Separators.h"
+#include "Separators.h"
 #include "velkor/sdai/Part21Lexer.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "velkor/sdai/Part21Lexer.h"
 
-#include "tokens/Characters.h"
+#include "Characters.h"
 
 #include <cstring>
 

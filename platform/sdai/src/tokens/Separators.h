@@ -1,7 +1,7 @@
 /// White space, print control, comments and skipped sections of a text, and words in it, whatever their case.
 #pragma once
 
-#include "tokens/Characters.h"
+#include "Characters.h"
 
 #include <cstring>
 #include <string_view>

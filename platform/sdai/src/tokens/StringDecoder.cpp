@@ -1,7 +1,7 @@
-#include "tokens/StringDecoder.h"
+#include "StringDecoder.h"
 
-#include "tokens/Alphabets.h"
-#include "tokens/Characters.h"
+#include "Alphabets.h"
+#include "Characters.h"
 #include "velkor/sdai/Part21Lexer.h"
 
 #include <charconv>

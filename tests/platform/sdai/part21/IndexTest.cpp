@@ -1,6 +1,6 @@
 // The index by itself: several segments need more text than a test can have.
 
-#include "part21/StructureReader.h"
+#include "StructureReader.h"
 
 #include "ExchangeText.h"
 

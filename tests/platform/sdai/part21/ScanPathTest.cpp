@@ -1,4 +1,4 @@
-#include "part21/BlockClassifier.h"
+#include "BlockClassifier.h"
 
 #include "ExchangeText.h"
 
