@@ -206,8 +206,8 @@ TEST(CustomMappingTable, TellsElementsApartByTheirHashAlone) {
     EXPECT_EQ(same.GetFromType(), "");
     EXPECT_EQ(QORHTAB_ComputeKeyCustoMappingElement(nullptr), 0U);
     EXPECT_EQ(QORHTAB_CompareCustoMappingElement(&element, &same), 0);
-    CustoMappingElement* const none = nullptr;
-    for (const auto& [a, b] : {std::pair{&element, &other}, {&element, none}, {none, &element}, {none, none}})
+    CustoMappingElement* const null = nullptr;
+    for (const auto& [a, b] : {std::pair{&element, &other}, {&element, null}, {null, &element}, {null, null}})
         EXPECT_EQ(QORHTAB_CompareCustoMappingElement(a, b), 1);
 
     QORHashTabCustoMappingElement table = makeTable();

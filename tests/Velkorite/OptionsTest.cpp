@@ -80,7 +80,7 @@ TEST_F(ExchangeOptions, FollowTheUsersSettingsUnlessSet) {
     EXPECT_EQ(Options::GetSettingValue("FullyExposed", value), S_FALSE) << "no such setting";
     EXPECT_EQ(value, 99);
     EXPECT_EQ(values(), (Values{0, 1, 0}));
-    for (const short number : {0, 1, 2, 3, 5, 255, -1, -32768}) {
+    for (const short number : std::initializer_list<short>{0, 1, 2, 3, 5, 255, -1, -32768}) {
         for (const char* name : {"ImportProfileMode", "ImportRepPreferedMode", "FullyExposed"}) setting(name, number);
         EXPECT_EQ(Options::GetSettingValue("FullyExposed", value), S_OK);
         EXPECT_EQ(value, number);

@@ -78,7 +78,7 @@ TEST_F(PropertySetValidation, TakesSubtypesOfAClass) {
                                                "$,$,$,$,$,$,$);#3=IFCNOSUCH();");
     const auto model = sdai::Model::fromText(text, "model.ifc");
     ASSERT_TRUE(model) << model.error().message;
-    for (const std::uint64_t id : {1, 2, 3}) {
+    for (const std::uint64_t id : {1U, 2U, 3U}) {
         DXSdaiAppInstance* instance = (*model)->instance(id);
         ASSERT_NE(instance, nullptr) << id;
         EXPECT_EQ(hasClass("Pset_Some", "IfcOther", instance), id == 1) << id;
@@ -141,7 +141,7 @@ TEST_F(PropertySetValidation, KeepsCustomSetsAndTheSwitch) {
     unsigned char value = 7;
     EXPECT_EQ(service().GetIfcPsetQtoValidation(value), S_OK);
     EXPECT_EQ(value, 0);
-    for (unsigned char set : {1, 255, 0}) {
+    for (unsigned char set : std::initializer_list<unsigned char>{1, 255, 0}) {
         EXPECT_EQ(service().SetIfcPsetQtoValidation(set), S_OK);
         EXPECT_EQ(service().GetIfcPsetQtoValidation(value), S_OK);
         EXPECT_EQ(value, set);

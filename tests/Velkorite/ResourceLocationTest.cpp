@@ -79,10 +79,11 @@ TEST_F(ResourceLocation, FindsWhatNoEarlierFolderHides) {
     EXPECT_EQ(assertions(), Texts());
 
     Texts folders;
-    for (const auto& folder : QORIFCDXFileServices::SearchFolders("sub", ".xml")) {
-        std::string line = folder.variable + (' ' + std::string(folder.path.utf8())) + (folder.isReadable ? ":" : " -");
-        for (const std::string& name : texts(folder.names)) line += ' ' + name;
-        for (const std::string& name : texts(folder.hiddenNames)) line += " hidden " + name;
+    for (const auto& searched : QORIFCDXFileServices::SearchFolders("sub", ".xml")) {
+        std::string line =
+            searched.variable + (' ' + std::string(searched.path.utf8())) + (searched.isReadable ? ":" : " -");
+        for (const std::string& name : texts(searched.names)) line += ' ' + name;
+        for (const std::string& name : texts(searched.hiddenNames)) line += " hidden " + name;
         folders.push_back(line);
     }
     EXPECT_THAT(folders, ElementsAre("QORCollectionStandard " + A + "\\sub: a.xml.bak b.xml",

@@ -65,8 +65,7 @@ HRESULT findSystem(const AECDocument::Entry& neutral, const char* tag, QORIDOMEl
 HRESULT GetSystemTypeName(const QORString& neutralId, const char* tag,
                           std::optional<AECDocument::Answer> AECDocument::Entry::*known, QORUnicodeString& name) {
     AECDocument::Entry* neutral = nullptr;
-    const HRESULT result = findNeutral(neutralId, neutral);
-    if (result != S_OK) return result;
+    if (const HRESULT result = findNeutral(neutralId, neutral); result != S_OK) return result;
     return remembered(neutral->*known, name, [&](QORUnicodeString& text) -> HRESULT {
         QORIDOMElement_var system;
         RETURN_IF_FAILED(findSystem(*neutral, tag, system));

@@ -112,11 +112,12 @@ double QORIFCUnitServices::GetPrefixValue(int prefixIndex) {
 }
 
 double QORIFCUnitServices::GetGlobalUnitConversionFactor(QORUnicodeString& measureTypeName) {
+    const auto factorIn = [](const auto& factors, int slot) { return factors[static_cast<std::size_t>(slot)]; };
     for (const velkor::MeasureSlots& measure : velkor::measureSlots) {
         if (!velkor::text::equalIgnoringCase(measureTypeName.utf8(), measure.name)) continue;
         if (_schema == FileschemaIFC2X3 && measure.ifc2x3 != velkor::noSlot)
-            return _IFC2x3_globalSIUnitsFactors[measure.ifc2x3];
-        if (_schema == FileschemaIFC4) return _IFC4_globalSIUnitsFactors[measure.ifc4];
+            return factorIn(_IFC2x3_globalSIUnitsFactors, measure.ifc2x3);
+        if (_schema == FileschemaIFC4) return factorIn(_IFC4_globalSIUnitsFactors, measure.ifc4);
         return 1.0;
     }
     return 1.0;
