@@ -17,6 +17,8 @@
 #include "velkor/text/QORDXUnicodeString.h"
 
 #include <cstdint>
+#include <optional>
+#include <vector>
 
 class VELKOR_API QORIFCOptions : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
@@ -73,6 +75,37 @@ public:
     /// Whether IFC attributes are exchanged.
     bool ExchangeWithAttributes() const;
     void ToggleExchangeWithAttributes();
+
+    enum class Origin { Environment, RunTime, Setting, Fallback };
+    /// What was there but could not be taken as it is.
+    struct Refused {
+        /// Of the variable or the setting.
+        const char* name;
+        bool isSetting;
+        /// Out of range; nothing when a variable holds no number and is ignored.
+        std::optional<short> number;
+        /// The range begins with 0.
+        short highest;
+    };
+    /// Where the value in effect comes from.
+    struct Source {
+        Origin origin = Origin::Fallback;
+        /// The variables or the setting; empty for the others.
+        std::vector<const char*> names = {};
+        /// True when the setter has no effect.
+        bool isForced = false;
+        /// True when it is what the forced profile implies. The setter may still change it.
+        bool isDerived = false;
+        std::vector<Refused> refused = {};
+    };
+    Source GetExchangeProfileSource() const;
+    Source GetGeometryModeSource() const;
+    Source GetStructureExposureSource() const;
+    /// At run time when it has been toggled.
+    Source GetAttributesSource() const;
+    /// The variables that amount to a profile and give the profile's its number where that is not set; empty when they
+    /// amount to none.
+    static std::vector<const char*> GetOlderProfileVariables();
 
     /// Reads a setting of the repository "IFC". S_OK; S_FALSE when the repository has no such
     /// setting; E_FAIL when there is no repository. `value` is touched by S_OK alone.

@@ -25,6 +25,15 @@ class VELKOR_API QORIFCOptionsFromXCAD : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
+    static constexpr const char* DisableVersionMappingOption = "IFC_Disable_Version_Mapping";
+    static constexpr const char* TransferAllOption = "TransferAllIntoOneRep";
+    static constexpr const char* WriteOptionsOption = "WriteXCADOptions";
+
+    /// What a pair acts upon: nothing, so that it is only kept; version and custom mapping; the exchange profile.
+    /// Pairs of the last kind are left out of lists, and kept like any other outside them.
+    enum class Effect { None, VersionMapping, ExchangeProfile, LeftOut };
+    static Effect GetEffect(const QORUnicodeString& name, const QORUnicodeString& value);
+
     /// The one record, made empty on first use. It stays until DeleteInstance.
     static QORIFCOptionsFromXCAD* GetInstance();
     static void DeleteInstance();

@@ -91,6 +91,7 @@ TEST_F(ExchangeOptions, FollowTheUsersSettingsUnlessSet) {
     setting("ImportRepPreferedMode", 0);
     setting("FullyExposed", 1);
     EXPECT_EQ(afterSetting(0, 2, 0), (Values{0, 2, 0}));
+    EXPECT_EQ(options.GetGeometryModeSource().origin, Options::Origin::RunTime);
     EXPECT_EQ(afterSetting(3, 3, 2), (Values{2, 0, 1})) << "not given";
     afterSetting(1, 1, 0);
     Options::Reset();
@@ -108,6 +109,8 @@ TEST_F(ExchangeOptions, SwitchAttributesOffByTheVariablesPresence) {
         Options::Reset();
         for (const bool isOn : {false, true, false}) {
             EXPECT_EQ(options.ExchangeWithAttributes(), isOn) << text;
+            EXPECT_EQ(options.GetAttributesSource().origin,
+                      isOn ? Options::Origin::RunTime : Options::Origin::Environment);
             options.ToggleExchangeWithAttributes();
         }
         variables.removeAll();

@@ -64,8 +64,9 @@ TEST_F(OptionsCommandTest, TellsValueAndOrigin) {
     };
     const std::string none = "{}";
     const std::string feature = withSettings(json::object(), {{"TRANSFERALLINTOONEREP", "transferasfeaturerep"}});
-    const std::string off = withSettings(json::object(), {{disableVersionMappingOption, "YES"}});
-    const std::string both = withSettings({{"ImportProfileMode", 2}}, {{transferAllOption, "AllToOneTessellatedRep"}});
+    const std::string off = withSettings(json::object(), {{QORIFCOptionsFromXCAD::DisableVersionMappingOption, "YES"}});
+    const std::string both = withSettings({{"ImportProfileMode", 2}},
+                                          {{QORIFCOptionsFromXCAD::TransferAllOption, "AllToOneTessellatedRep"}});
     const std::string settings =
         withSettings({{"ImportProfileMode", 2}, {"FullyExposed", 1}, {"ImportRepPreferedMode", 0}});
     const Variables profile0{{profileVariable, "0"}}, profile1{{profileVariable, "1"}},
@@ -127,7 +128,7 @@ TEST_F(OptionsCommandTest, TellsValueAndOrigin) {
 // Whatever is set: with nothing but the sources that are named, the value is the same.
 TEST_F(OptionsCommandTest, TheNamedSourcesExplainTheValue) {
     const json settings{{"ImportProfileMode", 2}, {"FullyExposed", 1}, {"ImportRepPreferedMode", 9}};
-    const json feature{{transferAllOption, "TransferAsFeatureRep"}};
+    const json feature{{QORIFCOptionsFromXCAD::TransferAllOption, "TransferAsFeatureRep"}};
     const auto only = [](const json& all, const json& names) {
         json kept = json::object();
         for (const auto& [name, value] : all.items()) {

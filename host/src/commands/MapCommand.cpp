@@ -135,7 +135,8 @@ bool isSwitchedOff() {
 }
 
 std::string switchRemark() {
-    return isSwitchedOff() ? std::string(disableVersionMappingOption) + " switches it off" : std::string();
+    return isSwitchedOff() ? std::string(QORIFCOptionsFromXCAD::DisableVersionMappingOption) + " switches it off"
+                           : std::string();
 }
 
 void badUsage(CommandContext& context, const std::string& reason) {

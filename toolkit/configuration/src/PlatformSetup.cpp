@@ -148,12 +148,12 @@ void PlatformSetup::setConversionOptions(const Configuration& configuration) {
     QORIFCOptionsFromXCAD* services = QORIFCOptionsFromXCAD::GetInstance();
     for (const auto& [name, value] : configuration.conversionOptions) {
         // One by one, so that each has an answer of its own.
-        const HRESULT result = services->SetXCADConversionOptionsForIFC(list({name}), list({value}));
-        QORListValQORUnicodeString names, values;
-        services->GetAllOptions(names, values);
-        const Outcome outcome = SUCCEEDED(result)                  ? Outcome::ActedUpon
-                                : names.Locate(unicode(name)) != 0 ? Outcome::Kept
-                                                                   : Outcome::LeftOut;
+        services->SetXCADConversionOptionsForIFC(list({name}), list({value}));
+        using Effect = QORIFCOptionsFromXCAD::Effect;
+        const Effect effect = QORIFCOptionsFromXCAD::GetEffect(unicode(name), unicode(value));
+        const Outcome outcome = effect == Effect::LeftOut ? Outcome::LeftOut
+                                : effect == Effect::None  ? Outcome::Kept
+                                                          : Outcome::ActedUpon;
         _conversionOptions.push_back({name, value, outcome});
     }
 }

@@ -22,9 +22,25 @@ unsigned char isOneOf(const char* const (&words)[Count], QORUnicodeString value)
     return std::ranges::find(words, value.utf8()) != std::end(words) ? 1 : 0;
 }
 
+/// The profile that "all into one" asks for; undefined when it asks for none.
+QORIFCOptions::ExchangeProfile profileMeant(const QORUnicodeString& value) {
+    if (value.Compare("TransferAsFeatureRep") != 0) return QORIFCOptions::FeatureProfile;
+    if (value.Compare("AllToOneTessellatedRep") != 0) return QORIFCOptions::TessellatedProfile;
+    return QORIFCOptions::UndefinedProfile;
+}
+
 } // namespace
 
 QORIFCOptionsFromXCAD* QORIFCOptionsFromXCAD::_Instance = nullptr;
+
+QORIFCOptionsFromXCAD::Effect QORIFCOptionsFromXCAD::GetEffect(const QORUnicodeString& name,
+                                                               const QORUnicodeString& value) {
+    if (name == DisableVersionMappingOption) return Effect::VersionMapping;
+    if (name == WriteOptionsOption) return Effect::LeftOut;
+    const bool isProfile =
+        name.Compare(TransferAllOption) != 0 && profileMeant(value) != QORIFCOptions::UndefinedProfile;
+    return isProfile ? Effect::ExchangeProfile : Effect::None;
+}
 
 QORIFCOptionsFromXCAD* QORIFCOptionsFromXCAD::GetInstance() {
     if (_Instance == nullptr) _Instance = new QORIFCOptionsFromXCAD;
@@ -62,20 +78,16 @@ HRESULT QORIFCOptionsFromXCAD::SetXCADConversionOptionForIFC(const QORUnicodeStr
         log->PutMessage(" *** IFC : Trying to set this XCAD option to the IFC document: " + name + " = " + value);
     }
 
-    if (name == "IFC_Disable_Version_Mapping") {
+    switch (GetEffect(name, value)) {
+    case Effect::VersionMapping:
         _disableVersionMapping = Affirmatif(value);
         return S_OK;
-    }
-    if (name.Compare("TransferAllIntoOneRep") == 0) return E_FAIL;
-    QORIFCOptions& options = QORIFCOptions::GetInstance();
-    if (value.Compare("TransferAsFeatureRep") != 0) {
-        options.SetExchangeProfile(QORIFCOptions::FeatureProfile);
-    } else if (value.Compare("AllToOneTessellatedRep") != 0) {
-        options.SetExchangeProfile(QORIFCOptions::TessellatedProfile);
-    } else {
+    case Effect::ExchangeProfile:
+        QORIFCOptions::GetInstance().SetExchangeProfile(profileMeant(value));
+        return S_OK;
+    default:
         return E_FAIL;
     }
-    return S_OK;
 }
 
 HRESULT QORIFCOptionsFromXCAD::SetXCADConversionOptionsForIFC(const QORListValQORUnicodeString& names,
@@ -83,7 +95,7 @@ HRESULT QORIFCOptionsFromXCAD::SetXCADConversionOptionsForIFC(const QORListValQO
     if (names.Size() == 0 || values.Size() != names.Size()) return E_FAIL;
     HRESULT result = E_FAIL;
     for (int i = 1; i <= names.Size(); ++i) {
-        if (names[i] == "WriteXCADOptions") continue; // meant for the host alone
+        if (GetEffect(names[i], values[i]) == Effect::LeftOut) continue; // meant for the host alone
         if (SetXCADConversionOptionForIFC(names[i], values[i]) == S_OK) result = S_OK;
     }
     return result;

@@ -4,6 +4,7 @@
 
 #include "QORIFCDXFileServices.h"
 #include "QORIFCOptions.h"
+#include "QORIFCOptionsFromXCAD.h"
 
 #include <string_view>
 #include <vector>
@@ -51,13 +52,6 @@ inline constexpr const char* terminalVariable = "TERM";
 /// Where the resource files come from that nobody has configured.
 inline constexpr const char* shippedSource = "shipped with the program";
 
-/// Repository of the settings that the options are read from.
-inline constexpr const char* optionsRepository = "IFC";
-/// Conversion options that the IFC services know.
-inline constexpr const char* disableVersionMappingOption = "IFC_Disable_Version_Mapping";
-inline constexpr const char* transferAllOption = "TransferAllIntoOneRep";
-inline constexpr const char* writeOptionsOption = "WriteXCADOptions";
-
 inline constexpr ConfigurationItem configurationItems[] = {
     {ConfigurationPlace::Environment, configurationVariable, "path",
      "the configuration file, unless --config names one"},
@@ -102,11 +96,11 @@ inline constexpr ConfigurationItem configurationItems[] = {
     {ConfigurationPlace::Setting, QORIFCOptions::_setting_fully_exposed, "number 0 or 1", "the structure exposure"},
     {ConfigurationPlace::Setting, QORIFCOptions::_setting_import_geo_mode, "number 0 to 2", "the geometry mode"},
 
-    {ConfigurationPlace::ConversionOption, disableVersionMappingOption, "yes or no",
+    {ConfigurationPlace::ConversionOption, QORIFCOptionsFromXCAD::DisableVersionMappingOption, "yes or no",
      "\"true\", \"ok\", \"yes\", \"1\" or \"full_authorization\" switches version and custom mapping off"},
-    {ConfigurationPlace::ConversionOption, transferAllOption, "text",
+    {ConfigurationPlace::ConversionOption, QORIFCOptionsFromXCAD::TransferAllOption, "text",
      "\"TransferAsFeatureRep\": exchange profile 2; \"AllToOneTessellatedRep\": exchange profile 0"},
-    {ConfigurationPlace::ConversionOption, writeOptionsOption, "any", "recognised and left out"},
+    {ConfigurationPlace::ConversionOption, QORIFCOptionsFromXCAD::WriteOptionsOption, "any", "recognised and left out"},
 };
 
 /// The place in words: "environment variable".

@@ -1,6 +1,7 @@
 /// The options of an exchange as they are in effect, and where each of them comes from.
 #pragma once
 
+#include "QORIFCOptions.h"
 #include "velkor/configuration/PlatformSetup.h"
 
 #include <string>
@@ -9,7 +10,7 @@
 namespace velkor {
 
 struct EffectiveOption {
-    enum class Origin { Environment, RunTime, Setting, Fallback };
+    using Origin = QORIFCOptions::Origin;
 
     /// In words; as a member of JSON with "_" for blanks.
     const char* name;
@@ -31,7 +32,7 @@ struct EffectiveOption {
 std::vector<EffectiveOption> effectiveOptions(const PlatformSetup& setup);
 
 /// "environment", "run_time", "setting", "fallback".
-const char* name(EffectiveOption::Origin origin);
+const char* name(QORIFCOptions::Origin origin);
 
 /// What became of a conversion option: "acted_upon", "overruled", "kept", "left_out". Overruled is a
 /// profile that the environment forces.
