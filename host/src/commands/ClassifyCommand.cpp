@@ -62,7 +62,7 @@ std::string explanation(const Decision& decision) {
     if (decision.neutralId.empty()) return "none: " + decision.reason;
     const AECEntry& entry = *decision.entry;
     std::string text = entry.type + ", priority " + std::to_string(entry.priority);
-    if (entry.condition) text += ", " + entry.condition->attribute + " is \"" + entry.condition->value + '"';
+    if (entry.condition) text += ", " + entry.condition->attribute + " is " + text::quoted(entry.condition->value);
     return text + " (line " + std::to_string(entry.line) + ')';
 }
 

@@ -8,6 +8,7 @@
 #include "velkor/dictionaries/VersionMappingDocument.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
 #include "velkor/text/NearestNames.h"
+#include "velkor/text/Wording.h"
 
 #include <array>
 #include <CLI/CLI.hpp>
@@ -27,20 +28,14 @@ using SchemaPointer = DXSdaiDictionaryRepo::SchemaPointer;
 constexpr const char* releaseHelp =
     "Schema name; a name as files write it (IFC2X3_TC1) or a short form (2x3, 4, 4x3) is matched";
 
-std::string joined(const std::vector<std::string>& texts) {
-    std::string result;
-    for (const std::string& text : texts) result += (result.empty() ? "" : ", ") + text;
-    return result;
-}
-
 /// The schema that a user means. Null after saying why there is none and setting the status.
 SchemaPointer chooseSchema(CommandContext& context, const std::string& release) {
     auto& repository = DXSdaiDictionaryRepo::TheOne();
     std::string name = repository.match(release);
     if (name.empty()) name = repository.match("IFC" + release);
     if (name.empty()) {
-        context.err << "velkor: unknown release \"" << release << "\"; supported: " << joined(repository.names())
-                    << '\n';
+        context.err << "velkor: unknown release " << text::quoted(release)
+                    << "; supported: " << text::joined(repository.names()) << '\n';
         context.status = BadUsage;
         return nullptr;
     }
@@ -149,7 +144,7 @@ Json entityJson(const EntityDefinition& entity) {
 
 void writeEntity(TextSink out, const EntityDefinition& entity) {
     const auto names = [&](const char* title, const std::vector<std::string>& texts) {
-        if (!texts.empty()) out << title << joined(texts) << '\n';
+        if (!texts.empty()) out << title << text::joined(texts) << '\n';
     };
     out << entity.name() << " of " << entity.schema().name() << (entity.isAbstract() ? ", abstract" : "") << '\n';
     names("supertypes: ", supertypes(entity));
@@ -198,7 +193,7 @@ void runEntity(CommandContext& context, const std::string& release, const std::s
     std::vector<std::string_view> known;
     for (const EntityDefinition* entity : schema->entities()) known.push_back(entity->name());
     const auto nearest = text::nearestNames(known, name, 5, "IFC");
-    if (!nearest.empty()) context.err << "; nearest: " << joined(nearest);
+    if (!nearest.empty()) context.err << "; nearest: " << text::joined(nearest);
     context.err << '\n';
 }
 

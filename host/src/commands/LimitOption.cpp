@@ -1,4 +1,5 @@
 #include "commands/LimitOption.h"
+#include "velkor/text/Wording.h"
 
 #include <charconv>
 #include <CLI/CLI.hpp>
@@ -22,7 +23,7 @@ CLI::Validator wholeNumber(std::size_t least, std::size_t most) {
         const auto [behind, error] = std::from_chars(word.data(), end, number);
         const bool isTooLarge = error == std::errc::result_out_of_range;
         const bool fits = isTooLarge ? !isBounded : error == std::errc() && number >= least && number <= most;
-        if (!fits || behind != end) return "expected a whole number, " + range + ", found \"" + word + '"';
+        if (!fits || behind != end) return "expected a whole number, " + range + ", found " + text::quoted(word);
         if (isTooLarge) word = std::to_string(most);
         return {};
     };

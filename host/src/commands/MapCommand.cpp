@@ -13,6 +13,7 @@
 #include "velkor/exchangeservices/QORIExchangeIFCPLMAttributesMappingServices.h"
 #include "velkor/objectmodeler/ClassDictionary.h"
 #include "velkor/resources/ResourceSearch.h"
+#include "velkor/text/Unicode.h"
 #include "velkor/text/Wording.h"
 
 #include <algorithm>
@@ -44,12 +45,6 @@ QORUnicodeString unicode(const std::string& text) {
 
 std::string text(const QORUnicodeString& text) {
     return std::string(text.utf8());
-}
-
-std::string upper(const std::string& name) {
-    QORUnicodeString result = unicode(name);
-    result.ToUpper();
-    return text(result);
 }
 
 /// A status of a mapping service and what it means.
@@ -197,7 +192,8 @@ private:
         const HRESULT rename = _services->GetMappedEntityName(_from, _to, renamed);
         answer.meaning = meaningOf(answer.status, rename == S_OK);
         // Names come back in upper case even when nothing has become of them.
-        const bool isRenamed = isWhole && rename == S_OK && upper(text(renamed)) != upper(_arguments.entity);
+        const bool isRenamed =
+            isWhole && rename == S_OK && text::toUpper(text(renamed)) != text::toUpper(_arguments.entity);
         // The outputs are untouched unless a mapping applies.
         answer.names = {{"entity", text(entity)},
                         {"property", text(property)},
@@ -283,14 +279,14 @@ void runVersion(CommandContext& context, const Arguments& arguments) {
 
 bool isScope(const std::string& scope) {
     return std::ranges::any_of(scopeEndings, [&](const char* ending) {
-        return scope.size() > std::string_view(ending).size() && upper(scope).ends_with(upper(ending));
+        return scope.size() > std::string_view(ending).size() && text::toUpper(scope).ends_with(text::toUpper(ending));
     });
 }
 
 void runCustom(CommandContext& context, const Arguments& arguments) {
     if (!isScope(arguments.scope)) {
-        return badUsage(context, "--scope: expected the name of a type followed by _Import or _Export, found \"" +
-                                     arguments.scope + '"');
+        return badUsage(context, "--scope: expected the name of a type followed by _Import or _Export, found " +
+                                     text::quoted(arguments.scope));
     }
     const PlatformSetup setup(context.configuration, context.tell());
     const auto document = documentOf(context, customMappingResource, setup);

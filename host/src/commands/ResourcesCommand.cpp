@@ -82,7 +82,7 @@ void writeText(Page& page, const ResourceSearch& search) {
     page.section(search.kind.name, search.isUsable() ? "found" : "not found",
                  search.isUsable() ? Page::Style::Good : Page::Style::Bad);
     if (!search.setupKey.empty()) {
-        page.line("setup data \"" + search.setupKey + '"' + (search.setupPaths.empty() ? ": nothing" : ""));
+        page.line("setup data " + text::quoted(search.setupKey) + (search.setupPaths.empty() ? ": nothing" : ""));
         for (const auto& file : search.setupPaths) page.line("  " + withState(file.path, file.state));
     }
     for (const auto& folder : search.folders) {

@@ -19,14 +19,10 @@ constexpr std::size_t shownKeywords = 10;
 constexpr std::size_t shownKinds = 6;
 constexpr std::size_t shownNames = 5;
 
-std::string joined(const std::vector<std::string>& texts, std::string_view separator = ", ") {
-    std::string result;
-    for (const std::string& text : texts) {
-        if (text.find_first_not_of(" \t\r\n") == std::string::npos) continue;
-        if (!result.empty()) result += separator;
-        result += text;
-    }
-    return result;
+// Without those that are blank.
+std::string joined(std::vector<std::string> texts, std::string_view separator = ", ") {
+    std::erase_if(texts, [](const std::string& text) { return text.find_first_not_of(" \t\r\n") == text.npos; });
+    return text::joined(texts, separator);
 }
 
 std::string decimal(double value, int digits) {
@@ -74,8 +70,8 @@ void writeFile(Page& page, const ModelFacts& facts) {
     page.entry("Path", facts.path);
     page.entry("Size", sizeText(facts.bytes));
     page.entry("Release", facts.isReleaseAsWritten ? facts.release
-                                                   : facts.release + ", read from FILE_SCHEMA \"" +
-                                                         joined(facts.fileSchemas, "\", \"") + '"');
+                                                   : facts.release + ", read from FILE_SCHEMA " +
+                                                         text::quoted(joined(facts.fileSchemas, "\", \"")));
     page.entry("Model view", joined(facts.views));
     if (!facts.descriptions.empty()) page.entry("Description", joined(facts.descriptions, "; "));
     page.entry("Name in header", facts.header.name);
@@ -87,12 +83,10 @@ void writeFile(Page& page, const ModelFacts& facts) {
 }
 
 std::string contentText(const ModelFacts& facts) {
-    std::string result;
-    for (const ContentCount& content : facts.contents) {
-        if (!result.empty()) result += ", ";
-        result += text::counted(content.count, content.singular, content.plural);
-    }
-    return result.empty() ? "no site, building or element" : result;
+    if (facts.contents.empty()) return "no site, building or element";
+    return text::joined(facts.contents, ", ", [](const ContentCount& content) {
+        return text::counted(content.count, content.singular, content.plural);
+    });
 }
 
 void writeProject(Page& page, const ModelFacts& facts) {
@@ -157,7 +151,7 @@ std::string placeText(const sdai::Problem& problem) {
 }
 
 // As a shell takes it.
-std::string quoted(const std::string& path) {
+std::string shellQuoted(const std::string& path) {
     constexpr std::string_view plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_-+./,:@%";
     if (!path.empty() && path.find_first_not_of(plain) == std::string::npos) return path;
     std::string result = "'";
@@ -185,7 +179,7 @@ void writeKinds(Page& page, const ProblemSummary& problems, const std::string& c
     if (problems.kinds.size() > shown) {
         page.line("and " + text::counted(problems.kinds.size() - shown, "kind more", "kinds more"));
     }
-    page.line({"All of them: velkor " + command + ' ' + quoted(path), Style::Dim});
+    page.line({"All of them: velkor " + command + ' ' + shellQuoted(path), Style::Dim});
 }
 
 void writeIdentifiers(Page& page, const Report& report) {

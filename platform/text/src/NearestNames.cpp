@@ -1,7 +1,8 @@
 #include "velkor/text/NearestNames.h"
 
+#include "velkor/text/Unicode.h"
+
 #include <algorithm>
-#include <cctype>
 #include <numeric>
 #include <tuple>
 #include <utility>
@@ -26,12 +27,6 @@ std::size_t distance(std::string_view a, std::string_view b) {
     return last.back();
 }
 
-std::string upperCase(std::string_view name) {
-    std::string upper(name);
-    std::ranges::transform(upper, upper.begin(), [](unsigned char c) { return std::toupper(c); });
-    return upper;
-}
-
 std::string_view without(std::string_view prefix, std::string_view name) {
     return name.starts_with(prefix) ? name.substr(prefix.size()) : name;
 }
@@ -41,14 +36,14 @@ std::string_view without(std::string_view prefix, std::string_view name) {
 std::vector<std::string> nearestNames(const std::vector<std::string_view>& known, std::string_view name,
                                       std::size_t most, std::string_view prefix) {
     // No known name is nearly as long; what is would only cost time.
-    const std::string upper = upperCase(name.substr(0, 100));
+    const std::string upper = asciiUpper(name.substr(0, 100));
     const std::string_view meant = without(prefix, upper);
     if (meant.empty()) return {};
 
     using Candidate = std::tuple<std::size_t, std::string_view>;
     std::vector<Candidate> candidates;
     for (const std::string_view candidate : known) {
-        const std::string upperCandidate = upperCase(candidate);
+        const std::string upperCandidate = asciiUpper(candidate);
         const std::string_view compared = without(prefix, upperCandidate);
         const std::size_t letters = distance(meant, compared);
         const bool near = letters <= std::max<std::size_t>(1, meant.size() / 3);
@@ -69,13 +64,13 @@ std::vector<std::string> nearestNames(const std::vector<std::string_view>& known
 }
 
 std::string likelyMeant(const std::vector<std::string_view>& known, std::string_view name, std::size_t letters) {
-    const std::string meant = upperCase(name.substr(0, 100));
+    const std::string meant = asciiUpper(name.substr(0, 100));
     std::tuple<std::size_t, std::string_view> likeliest{letters + 1, {}};
     for (const std::string_view candidate : known) {
         // As many letters differ at least.
         const auto [fewer, more] = std::minmax({candidate.size(), meant.size()});
         if (more - fewer <= letters)
-            likeliest = std::min(likeliest, {distance(meant, upperCase(candidate)), candidate});
+            likeliest = std::min(likeliest, {distance(meant, asciiUpper(candidate)), candidate});
     }
     return std::string(std::get<1>(likeliest));
 }

@@ -2,6 +2,7 @@
 
 #include "velkor/text/Unicode.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace velkor::text {
@@ -58,11 +59,16 @@ std::string printable(std::string_view text) {
     }
 }
 
+std::string printableAscii(std::string_view text) {
+    std::string result(text);
+    std::ranges::replace_if(
+        result, [](char c) { return c < ' ' || c > '~'; }, '?');
+    return result;
+}
+
 std::string excerpt(std::string_view text, std::size_t longestBytes) {
     if (text.size() <= longestBytes) return printable(text);
-    std::size_t end = longestBytes;
-    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80) --end;
-    return printable(text.substr(0, end)) + "…";
+    return printable(beginning(text, longestBytes)) + "…";
 }
 
 } // namespace velkor::text

@@ -26,14 +26,6 @@ bool isAscii(std::string_view text) noexcept {
     return std::all_of(text.begin(), text.end(), [](char c) { return isAscii(c); });
 }
 
-constexpr char asciiUpper(char c) noexcept {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-constexpr char asciiLower(char c) noexcept {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 std::size_t characterLength(std::string_view text) noexcept {
     if (isAscii(text.front())) return 1;
     utf8proc_int32_t code = 0;
@@ -56,13 +48,10 @@ std::string mapped(std::string_view text, utf8proc_int32_t (*unicode)(utf8proc_i
         }
         utf8proc_int32_t code = 0;
         const std::size_t length = decode(text, code);
-        if (code < 0) {
+        if (code < 0)
             result.append(text.substr(0, length));
-        } else {
-            utf8proc_uint8_t bytes[4];
-            const utf8proc_ssize_t size = utf8proc_encode_char(unicode(code), bytes);
-            result.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size));
-        }
+        else
+            append(result, unicode(code));
         text.remove_prefix(length);
     }
     return result;
@@ -109,6 +98,29 @@ std::size_t byteOffset(std::string_view utf8, std::size_t character) noexcept {
     std::string_view rest = utf8;
     for (; character > 0 && !rest.empty(); --character) rest.remove_prefix(characterLength(rest));
     return utf8.size() - rest.size();
+}
+
+std::string_view firstCharacter(std::string_view utf8) noexcept {
+    return utf8.substr(0, characterLength(utf8));
+}
+
+std::string_view beginning(std::string_view utf8, std::size_t mostBytes) noexcept {
+    if (utf8.size() <= mostBytes) return utf8;
+    std::size_t end = mostBytes;
+    while (end > 0 && (static_cast<unsigned char>(utf8[end]) & 0xC0U) == 0x80) --end;
+    return utf8.substr(0, end);
+}
+
+void append(std::string& utf8, std::int32_t code) {
+    utf8proc_uint8_t bytes[4];
+    const utf8proc_ssize_t size = utf8proc_encode_char(code, bytes);
+    utf8.append(reinterpret_cast<const char*>(bytes), static_cast<std::size_t>(size));
+}
+
+std::string asciiUpper(std::string_view text) {
+    std::string result(text);
+    std::ranges::transform(result, result.begin(), [](char c) { return asciiUpper(c); });
+    return result;
 }
 
 std::string toUpper(std::string_view utf8) {

@@ -1,5 +1,7 @@
 #include "velkor/text/Wording.h"
 
+#include "velkor/text/Unicode.h"
+
 #include <array>
 #include <charconv>
 
@@ -21,6 +23,17 @@ std::string shortest(double value) {
     std::array<char, 32> buffer;
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
     return {buffer.data(), end};
+}
+
+std::string quoted(std::string_view text) {
+    std::string result;
+    result.reserve(text.size() + 2);
+    return result.append("\"").append(text).append("\"");
+}
+
+std::string quotedBeginning(std::string_view text, std::size_t longestBytes) {
+    if (text.size() <= longestBytes) return quoted(text);
+    return quoted(std::string(beginning(text, longestBytes)) + "…");
 }
 
 } // namespace velkor::text

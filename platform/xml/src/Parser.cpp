@@ -5,6 +5,7 @@
 #include "velkor/files/InputFile.h"
 #include "velkor/files/Paths.h"
 #include "velkor/objectmodeler/OutOfMemory.h"
+#include "velkor/text/Wording.h"
 
 #include <cerrno>
 #include <cstring>
@@ -160,7 +161,7 @@ private:
         const Fault fault = entity == nullptr ? Fault() : faultOf(*entity);
         if (fault.kind == nullptr) return entity;
         step(context,
-             [&] { stop(context, fault.kind + (" \"" + std::string(view(entity->name)) + "\" ") + fault.reason); });
+             [&] { stop(context, fault.kind + (' ' + text::quoted(view(entity->name)) + ' ') + fault.reason); });
         return nullptr;
     }
     struct Fault {

@@ -3,6 +3,7 @@
 #include "Messages.h"
 #include "NodeLists.h"
 #include "velkor/objectmodeler/OutOfMemory.h"
+#include "velkor/text/Wording.h"
 #include "velkor/xml/QORIXMLXPathFactory.h"
 
 #include <libxml/xpath.h>
@@ -99,7 +100,7 @@ private:
     // The first message says what is wrong, later ones what came of it.
     void report(const std::string& message) {
         if (std::exchange(_isReported, true)) return;
-        log(_store->name() + ": XPath \"" + _text + "\": " + message, ErrorLevel);
+        log(_store->name() + ": XPath " + text::quoted(_text) + ": " + message, ErrorLevel);
     }
 
     std::shared_ptr<DocumentStore> _store;

@@ -5,6 +5,7 @@
 #include "velkor/files/InputText.h"
 #include "velkor/files/Paths.h"
 #include "velkor/text/NearestNames.h"
+#include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -21,10 +22,6 @@ using Kind = JsonNode::Kind;
 
 // A configuration is written by hand; what is larger is something else.
 constexpr std::size_t mostBytes = 1 << 20;
-
-std::string inQuotes(std::string_view text) {
-    return '"' + std::string(text) + '"';
-}
 
 class Reader {
 public:
@@ -64,17 +61,15 @@ private:
     void checkKeys(const JsonNode& object, const std::string& place, const std::vector<std::string_view>* known) {
         std::unordered_map<std::string_view, std::size_t> lines;
         for (const JsonNode::Member& member : object.members) {
-            const std::string here = place + (place.empty() ? "" : " / ") + inQuotes(member.key);
+            const std::string here = place + (place.empty() ? "" : " / ") + text::quoted(member.key);
             if (const auto [first, isNew] = lines.try_emplace(member.key, member.line); !isNew)
                 error(member.line, here, "the key is there already, in line " + std::to_string(first->second));
             if (member.key.find('\0') != std::string::npos)
                 error(member.line, here, "expected a key without zero characters");
             if (known == nullptr || std::ranges::find(*known, member.key) != known->end()) continue;
-            std::string list;
-            for (const std::string_view name : *known) list += (list.empty() ? "" : ", ") + inQuotes(name);
             const auto nearest = text::nearestNames(*known, member.key, 1);
-            const std::string hint =
-                nearest.empty() ? "expected one of " + list : "did you mean " + inQuotes(nearest[0]);
+            const std::string hint = nearest.empty() ? "expected one of " + text::joined(*known, ", ", text::quoted)
+                                                     : "did you mean " + text::quoted(nearest[0]);
             error(member.line, here, "unknown key; " + hint + (nearest.empty() ? "" : "?"));
         }
     }
@@ -84,7 +79,7 @@ private:
         checkKeys(root, "", &known);
         Configuration& configuration = _result.configuration;
         for (const auto& [key, line, value] : root.members) {
-            const std::string place = inQuotes(key);
+            const std::string place = text::quoted(key);
             if (key == keys::settings) readSettings(value, place);
             if (key == keys::conversionOptions) readConversionOptions(value, place);
             if (key == keys::setupData) readSetupData(value, place);
@@ -102,7 +97,7 @@ private:
         if (!expect(section, Kind::Object, place, "an object of repositories")) return;
         checkKeys(section, place, nullptr);
         for (const auto& [repository, line, settings] : section.members) {
-            const std::string inside = place + " / " + inQuotes(repository);
+            const std::string inside = place + " / " + text::quoted(repository);
             if (!expect(settings, Kind::Object, inside, "an object of integers")) continue;
             checkKeys(settings, inside, nullptr);
             for (const auto& [name, settingLine, value] : settings.members) {
@@ -112,7 +107,7 @@ private:
                 if (fits)
                     _result.configuration.settings.push_back({repository, name, static_cast<short>(*value.integer)});
                 else
-                    error(value.line, inside + " / " + inQuotes(name),
+                    error(value.line, inside + " / " + text::quoted(name),
                           "expected an integer from -32768 to 32767, found " + value.description());
             }
         }
@@ -122,7 +117,7 @@ private:
         if (!expect(section, Kind::Object, place, "an object of texts")) return;
         checkKeys(section, place, nullptr);
         for (const auto& [name, line, value] : section.members) {
-            if (isText(value, place + " / " + inQuotes(name)))
+            if (isText(value, place + " / " + text::quoted(name)))
                 _result.configuration.conversionOptions.emplace_back(name, value.text);
         }
     }
@@ -131,7 +126,7 @@ private:
         if (!expect(section, Kind::Object, place, "an object of paths")) return;
         checkKeys(section, place, nullptr);
         for (const auto& [key, line, value] : section.members) {
-            const std::string inside = place + " / " + inQuotes(key);
+            const std::string inside = place + " / " + text::quoted(key);
             const std::size_t bar = key.find('|');
             if (bar == 0 || bar == std::string::npos || bar + 1 == key.size() || key.find('|', bar + 1) != key.npos)
                 error(line, inside, "expected a key \"RESOURCESET|CATEGORY\"");
@@ -162,7 +157,7 @@ private:
             // The folder of the configuration may be the one that has it.
             if (separated == IsSeparatedList::Yes && paths.size() > before &&
                 paths.back().find(';') != std::string::npos)
-                error(item.line, inside, "expected a folder without \";\", found " + inQuotes(paths.back()));
+                error(item.line, inside, "expected a folder without \";\", found " + text::quoted(paths.back()));
         }
     }
 
@@ -211,7 +206,7 @@ private:
         Configuration::KnowledgeType type;
         bool hasName = false, hasKind = false;
         for (const auto& [key, line, value] : object.members) {
-            const std::string inside = place + " / " + inQuotes(key);
+            const std::string inside = place + " / " + text::quoted(key);
             if (key == keys::typeName) {
                 hasName = true;
                 if (isText(value, inside)) type.name = value.text;
@@ -228,7 +223,7 @@ private:
                 if (!isKind)
                     error(value.line, inside,
                           "expected \"knowledge\" or \"specialization\", found " +
-                              (value.kind == Kind::Text ? inQuotes(value.text) : value.description()));
+                              (value.kind == Kind::Text ? text::quoted(value.text) : value.description()));
             }
         }
         if (!hasName) error(object.line, place, "expected a key \"name\"");
@@ -244,7 +239,7 @@ private:
             const auto [first, isNew] = byName.try_emplace(types[i].name, i);
             if (!isNew && !types[i].name.empty())
                 error(lines[i], place,
-                      "the type " + inQuotes(types[i].name) + " is there already, in line " +
+                      "the type " + text::quoted(types[i].name) + " is there already, in line " +
                           std::to_string(lines[first->second]));
         }
         // Each type is passed once: `round` tells by which walk to the ancestors.
@@ -254,13 +249,13 @@ private:
                 round[at] = i + 1;
                 if (types[at].parent.empty()) break;
                 const auto parent = byName.find(types[at].parent);
-                const std::string child = "the parent of " + inQuotes(types[at].name);
+                const std::string child = "the parent of " + text::quoted(types[at].name);
                 if (parent == byName.end()) {
-                    error(lines[at], place, child + " is unknown: " + inQuotes(types[at].parent));
+                    error(lines[at], place, child + " is unknown: " + text::quoted(types[at].parent));
                     break;
                 }
                 if (round[parent->second] == i + 1) {
-                    error(lines[at], place, child + ", " + inQuotes(types[at].parent) + ", is derived from it");
+                    error(lines[at], place, child + ", " + text::quoted(types[at].parent) + ", is derived from it");
                     break;
                 }
                 at = parent->second;

@@ -1,5 +1,8 @@
 #include "velkor/identifiers/GuidText.h"
 
+#include "velkor/text/Unicode.h"
+#include "velkor/text/Wording.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -30,25 +33,9 @@ int digit(char c) {
     return digitValues[static_cast<unsigned char>(c)];
 }
 
-// Characters of UTF-8; a byte that does not belong to one counts by itself.
-std::size_t characters(std::string_view text) {
-    return static_cast<std::size_t>(std::ranges::count_if(text, [](char c) { return (c & 0xC0) != 0x80; }));
-}
-
-// The whole character of UTF-8 at a position.
-std::string_view characterAt(std::string_view text, std::size_t position) {
-    std::size_t end = position + 1;
-    while (end < text.size() && (text[end] & 0xC0) == 0x80) ++end;
-    return text.substr(position, end - position);
-}
-
 // What a message shows of a text; what is much longer than an identifier tells nothing more.
-std::string inQuotes(std::string_view text) {
-    constexpr std::size_t most = 64;
-    if (text.size() <= most) return '"' + std::string(text) + '"';
-    std::size_t end = most;
-    while (end > 0 && (text[end] & 0xC0) == 0x80) --end;
-    return '"' + std::string(text.substr(0, end)) + "…\"";
+std::string shown(std::string_view text) {
+    return text::quotedBeginning(text, 64);
 }
 
 // The first byte has two digits, the others four for three bytes each.
@@ -81,19 +68,20 @@ bool isHyphen(std::size_t position) {
 } // namespace
 
 std::optional<Fault> faultOf(std::string_view identifier) {
-    if (const std::size_t length = characters(identifier); length != identifierLength) {
+    if (const std::size_t length = text::characterCount(identifier); length != identifierLength) {
         return Fault{"guid-length",
-                     "expected 22 characters, found " + std::to_string(length) + " in " + inQuotes(identifier)};
+                     "expected 22 characters, found " + std::to_string(length) + " in " + shown(identifier)};
     }
     const auto stranger = std::ranges::find_if(identifier, [](char c) { return digit(c) < 0; });
     if (stranger != identifier.end()) {
         const auto position = static_cast<std::size_t>(stranger - identifier.begin());
         return Fault{"guid-character", "expected digits, letters, \"_\" and \"$\", found " +
-                                           inQuotes(characterAt(identifier, position)) + " in " + inQuotes(identifier)};
+                                           text::quoted(text::firstCharacter(identifier.substr(position))) + " in " +
+                                           shown(identifier)};
     }
     if (digit(identifier[0]) > 3) {
         return Fault{"guid-first-character", "expected \"0\" to \"3\" as the first character, found " +
-                                                 inQuotes(identifier.substr(0, 1)) + " in " + inQuotes(identifier)};
+                                                 text::quoted(identifier.substr(0, 1)) + " in " + shown(identifier)};
     }
     return std::nullopt;
 }
@@ -111,23 +99,22 @@ tl::expected<std::string, std::string> expanded(std::string_view identifier) {
 
 tl::expected<std::string, std::string> compressed(std::string_view text) {
     const auto fault = [&](const std::string& found) {
-        return tl::unexpected("expected 32 hexadecimal digits as 8-4-4-4-12, found " + found + " in " + inQuotes(text));
+        return tl::unexpected("expected 32 hexadecimal digits as 8-4-4-4-12, found " + found + " in " + shown(text));
     };
     // As registries and tools write it.
     const bool isBraced = text.size() > 2 && text.front() == '{' && text.back() == '}';
     const std::string_view uuid = isBraced ? text.substr(1, text.size() - 2) : text;
-    if (const std::size_t length = characters(uuid); length != uuidLength)
+    if (const std::size_t length = text::characterCount(uuid); length != uuidLength)
         return fault(std::to_string(length) + " characters");
     Bytes bytes{};
     std::size_t digits = 0;
     for (std::size_t i = 0; i < uuid.size(); ++i) {
         if (isHyphen(i)) {
-            if (uuid[i] != '-') return fault(inQuotes(characterAt(uuid, i)));
+            if (uuid[i] != '-') return fault(text::quoted(text::firstCharacter(uuid.substr(i))));
             continue;
         }
-        const char lower = uuid[i] >= 'A' && uuid[i] <= 'F' ? static_cast<char>(uuid[i] - 'A' + 'a') : uuid[i];
-        const std::size_t value = hexadecimal.find(lower);
-        if (value == std::string_view::npos) return fault(inQuotes(characterAt(uuid, i)));
+        const std::size_t value = hexadecimal.find(text::asciiLower(uuid[i]));
+        if (value == std::string_view::npos) return fault(text::quoted(text::firstCharacter(uuid.substr(i))));
         bytes[digits / 2] = static_cast<std::uint8_t>(bytes[digits / 2] << 4 | value);
         ++digits;
     }

@@ -42,15 +42,13 @@ struct NamedSet {
 
 std::string objectText(const SetFinding& finding) {
     std::string text = finding.objectEntity + " #" + std::to_string(finding.object);
-    if (!finding.objectName.empty()) text += " \"" + finding.objectName + '"';
+    if (!finding.objectName.empty()) text += ' ' + text::quoted(finding.objectName);
     if (finding.others > 0) text += " and " + text::counted(finding.others, "other object", "other objects");
     return text;
 }
 
 std::string classesText(const std::vector<std::string>& classes) {
-    std::string text;
-    for (const std::string& name : classes) text += (text.empty() ? "" : ", ") + name;
-    return text.empty() ? "no class" : text;
+    return classes.empty() ? "no class" : text::joined(classes);
 }
 
 class Checker {
@@ -110,9 +108,9 @@ private:
 
     static std::string misspelled(SetFinding& finding, const std::string& likely) {
         finding.nearest = likely;
-        std::string message = "expected a standard set, found \"" + finding.set + "\"";
+        std::string message = "expected a standard set, found " + text::quoted(finding.set);
         if (finding.object != 0) message += " of " + objectText(finding);
-        return message + "; did you mean \"" + likely + "\"?";
+        return message + "; did you mean " + text::quoted(likely) + '?';
     }
 
     void checkClasses(NamedSet& named, const DXSdaiAppInstance* set) {
@@ -125,8 +123,8 @@ private:
         if (wrong.first == nullptr) return;
         SetFinding* finding = add("set-not-applicable", named, wrong);
         if (finding == nullptr) return;
-        finding->problem.message = '"' + finding->set + "\" does not apply to " + objectText(*finding) + "; expected " +
-                                   classesText(named.definition->classes());
+        finding->problem.message = text::quoted(finding->set) + " does not apply to " + objectText(*finding) +
+                                   "; expected " + classesText(named.definition->classes());
     }
 
     // Objects of a group that a set does not apply to; none of them is null and 0.
@@ -192,10 +190,10 @@ private:
         // In a short name, two letters make another word.
         finding.nearest = text::likelyMeant(known, finding.property, finding.property.size() < 8 ? 1 : 2);
         std::string& message = finding.problem.message;
-        message = '"' + finding.set + '"';
+        message = text::quoted(finding.set);
         if (finding.object != 0) message += " of " + objectText(finding);
-        message += std::string(" has no ") + what + " \"" + finding.property + '"';
-        if (!finding.nearest.empty()) message += "; did you mean \"" + finding.nearest + "\"?";
+        message += std::string(" has no ") + what + ' ' + text::quoted(finding.property);
+        if (!finding.nearest.empty()) message += "; did you mean " + text::quoted(finding.nearest) + '?';
     }
 
     // A new finding at the current set, or null when it is only counted.

@@ -9,6 +9,7 @@
 #include "velkor/sdai/Model.h"
 #include "velkor/text/NearestNames.h"
 #include "velkor/text/QORToken.h"
+#include "velkor/text/Unicode.h"
 
 #include <algorithm>
 
@@ -22,12 +23,6 @@ constexpr std::string_view typeObject = "IFCTYPEOBJECT";
 
 QORUnicodeString unicode(std::string_view text) {
     return QORUnicodeString(text);
-}
-
-std::string upperCase(std::string_view text) {
-    QORUnicodeString upper(text);
-    upper.ToUpper();
-    return std::string(upper.utf8());
 }
 
 // Whether the service has read a set. It refuses one that it has read already, so each is asked for once in the
@@ -90,7 +85,7 @@ bool SetDefinition::appliesTo(DXSdaiAppInstance* object) const {
 // Whether the entity is what objects of a class are that the release knows by its type alone.
 bool SetDefinition::standsForAType(const sdai::EntityDefinition& entity) const {
     const auto isThatOf = [&](const std::string& className) {
-        const std::string upper = upperCase(className);
+        const std::string upper = text::toUpper(className);
         const sdai::SchemaDefinition& schema = entity.schema();
         const auto* type = schema.entity(upper) == nullptr ? schema.entity(upper + std::string(typeEnding)) : nullptr;
         return type != nullptr && type->supertype() != nullptr &&
@@ -151,7 +146,7 @@ SetDefinition& SetDefinitions::find(std::string_view setName) {
 }
 
 std::string SetDefinitions::likelyName(std::string_view setName) const {
-    const std::string upper = upperCase(setName.substr(0, 100));
+    const std::string upper = text::toUpper(setName.substr(0, 100));
     if (!upper.starts_with("PSET_") && !upper.starts_with("QTO_")) return {};
     std::vector<std::string_view> known;
     for (const auto& [name, path] : _paths) known.emplace_back(name);

@@ -43,7 +43,7 @@ void AECLinter::judgeEntries(const XmlElement& root) {
     root.visitNamed(neutralTag, [&](const XmlElement& neutral) {
         countEntry();
         const std::string& name = neutral.attribute("Name");
-        const auto [first, isNew] = names.try_emplace(upper(name), neutral.line);
+        const auto [first, isNew] = names.try_emplace(toUpper(name), neutral.line);
         if (!isNew && !name.empty()) {
             warn(neutral.line, "duplicate-key",
                  quoted(name) + " has an entry " + inLine(first->second) + " already, which alone answers for it");

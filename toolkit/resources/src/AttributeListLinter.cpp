@@ -17,9 +17,9 @@ const Format& format() {
 }
 
 Dictionaries::Releases releasesOf(const std::string& level) {
-    if (level == upper(early)) return {"IFC2X3"};
+    if (level == toUpper(early)) return {"IFC2X3"};
     Dictionaries::Releases result = Dictionaries::all();
-    if (level == upper(late)) result.erase(result.begin());
+    if (level == toUpper(late)) result.erase(result.begin());
     return result;
 }
 
@@ -34,15 +34,15 @@ void AttributeListLinter::judgeEntries(const XmlElement& root) {
 
 void AttributeListLinter::judgeLevel(const XmlElement& level) {
     const std::string& id = level.attribute("ID");
-    std::string table = upper(id);
+    std::string table = toUpper(id);
     if (table != early && table != late) {
-        if (!id.empty() && table != upper(general)) {
+        if (!id.empty() && table != toUpper(general)) {
             warn(level.line, "unknown-level",
                  "expected 2X3, 4ANDABOVE or General as the \"ID\" of a level, found " + quoted(id) +
                      ", which counts as general",
                  didYouMean({early, late, general}, id));
         }
-        table = upper(general);
+        table = toUpper(general);
     }
     for (const XmlElement* outer = level.parent; outer != nullptr; outer = outer->parent) {
         if (outer->name != levelTag) continue;

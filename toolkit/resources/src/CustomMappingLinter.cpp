@@ -72,7 +72,7 @@ void CustomMappingLinter::judgeMapping(const XmlElement& mapping) {
 
 // Names that are not those of IFC may be of the user's own property sets.
 void CustomMappingLinter::judgeName(int line, const std::string& entity, const std::string& property) {
-    if (upper(entity).starts_with("IFC") && judgeEntity(line, entity, {})) judgeProperty(line, entity, property, {});
+    if (toUpper(entity).starts_with("IFC") && judgeEntity(line, entity, {})) judgeProperty(line, entity, property, {});
 }
 
 void CustomMappingLinter::addKey(const char* entity, const char* property, const std::string& type,

@@ -18,7 +18,7 @@ bool isOfXml(const XmlElement::Attribute& attribute) {
 }
 
 bool isSetName(std::string_view name) {
-    const std::string upperName = upper(name);
+    const std::string upperName = toUpper(name);
     return upperName.starts_with("PSET_") || upperName.starts_with("QTO_");
 }
 
@@ -94,11 +94,11 @@ void Linter::judgeEnumerator(int line, const std::string& entity, const std::str
         known.insert(known.end(), enumeration->values().begin(), enumeration->values().end());
         type = enumeration->definedType().name();
     }
-    const std::string wanted = doesCaseCount ? value : upper(value);
+    const std::string wanted = doesCaseCount ? value : toUpper(value);
     if (known.empty() || value.empty() || std::ranges::find(known, wanted) != known.end()) return;
-    const bool isOneInUpperCase = std::ranges::find(known, upper(value)) != known.end();
+    const bool isOneInUpperCase = std::ranges::find(known, toUpper(value)) != known.end();
     std::string hint =
-        isOneInUpperCase ? "write " + quoted(upper(value)) + ", letter case counts" : didYouMean(known, value);
+        isOneInUpperCase ? "write " + quoted(toUpper(value)) + ", letter case counts" : didYouMean(known, value);
     warn(line, "unknown-enumerator",
          "expected an enumerator of " + std::string(type) + " for " + quoted(attribute) + " of " + quoted(entity) +
              ", found " + quoted(value),
@@ -117,9 +117,9 @@ void Linter::judgeStructure(const XmlElement& element, bool isInside) {
     const ElementRule* known = rule(element.name);
     if (known == nullptr) return judgeUnknown(element, isInside);
     if (!isInPlace(element, *known)) {
-        std::string places;
-        for (const char* parent : known->parents)
-            places += (places.empty() ? "" : " or ") + std::string(*parent == '\0' ? "the document" : parent);
+        const std::string places = text::joined(known->parents, " or ", [](const char* parent) {
+            return std::string(*parent == '\0' ? "the document" : parent);
+        });
         error(element.line, "misplaced-element",
               element.name + " is read only " + (known->atAnyDepth ? "inside " : "as a child of ") + places);
         return;
@@ -188,18 +188,8 @@ const ElementRule* Linter::rule(std::string_view name) const {
     return found == _format.elements.end() ? nullptr : &*found;
 }
 
-std::string quoted(std::string_view text) {
-    return '"' + std::string(text) + '"';
-}
-
 std::string inLine(int line) {
     return "in line " + std::to_string(line);
-}
-
-std::string upper(std::string_view text) {
-    QORUnicodeString result(text);
-    result.ToUpper();
-    return std::string(result.utf8());
 }
 
 unsigned int keyHash(const std::vector<std::string_view>& parts) {
@@ -211,7 +201,7 @@ unsigned int keyHash(const std::vector<std::string_view>& parts) {
 
 std::string keyText(const std::vector<std::string_view>& parts) {
     std::string result;
-    for (const std::string_view part : parts) result += upper(part) + '\n';
+    for (const std::string_view part : parts) result += toUpper(part) + '\n';
     return result;
 }
 

@@ -6,6 +6,8 @@
 
 #include "Dictionaries.h"
 #include "velkor/resources/ResourceCheck.h"
+#include "velkor/text/Unicode.h"
+#include "velkor/text/Wording.h"
 #include "XmlElement.h"
 
 #include <string>
@@ -81,10 +83,9 @@ private:
     Judgement _judgement;
 };
 
-std::string quoted(std::string_view text);
+using text::quoted;
+using text::toUpper;
 std::string inLine(int line);
-/// In upper case, as the services compare.
-std::string upper(std::string_view text);
 /// The concatenation's hash, as the services take it.
 unsigned int keyHash(const std::vector<std::string_view>& parts);
 /// The parts in upper case, told apart.

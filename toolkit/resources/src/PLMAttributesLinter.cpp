@@ -37,7 +37,7 @@ std::string targetOf(const XmlElement& line) {
 } // namespace
 
 const XmlElement* PLMAttributesLinter::Group::add(const XmlElement& line) {
-    const auto [place, isNew] = byAttribute.try_emplace(upper(line.attribute("plmProp")), &line);
+    const auto [place, isNew] = byAttribute.try_emplace(toUpper(line.attribute("plmProp")), &line);
     if (isNew) lines.push_back(&line);
     return place->second;
 }
@@ -93,14 +93,14 @@ void PLMAttributesLinter::buildGroup(std::size_t index) {
         }
     }
     if (group.id.empty()) return;
-    if (const auto first = _complete.find(upper(group.id)); first != _complete.end()) {
+    if (const auto first = _complete.find(toUpper(group.id)); first != _complete.end()) {
         error(group.element->line, "duplicate-key",
               "the group " + quoted(group.id) + ' ' + inLine(_groups[first->second].element->line) + " alone counts");
         group.isUsed = true; // one finding will do
     } else if (group.lines.empty()) {
         warn(group.element->line, "empty-group", "the group " + quoted(group.id) + " has no line that is exported");
     } else {
-        _complete.emplace(upper(group.id), index);
+        _complete.emplace(toUpper(group.id), index);
     }
 }
 
@@ -108,15 +108,15 @@ void PLMAttributesLinter::buildGroup(std::size_t index) {
 // lines.
 void PLMAttributesLinter::include(std::size_t index, const XmlElement& include) {
     Group& current = _groups[index];
-    const std::string wanted = upper(include.attribute("IncludedId"));
+    const std::string wanted = toUpper(include.attribute("IncludedId"));
     if (wanted.empty()) return;
     std::set<std::size_t> taken;
     for (std::size_t k = 0; k < _groups.size(); ++k) {
         const Group& other = _groups[k];
-        if (const auto complete = _complete.find(upper(other.id)); complete != _complete.end()) {
+        if (const auto complete = _complete.find(toUpper(other.id)); complete != _complete.end()) {
             for (const XmlElement* line : _groups[complete->second].lines) current.add(*line);
             taken.insert(complete->second);
-        } else if (upper(other.id) == wanted) {
+        } else if (toUpper(other.id) == wanted) {
             for (const XmlElement& child : other.element->children) {
                 if (child.name == lineTag && isExported(child)) current.add(child);
             }
@@ -131,7 +131,7 @@ void PLMAttributesLinter::judgeInclude(std::size_t index, const XmlElement& incl
                                        const std::set<std::size_t>& taken) {
     const std::string& id = include.attribute("IncludedId");
     const std::size_t named = groupNamed(id);
-    if (named == _groups.size() || (named < index && !_complete.contains(upper(id)))) return tellUnresolved(include);
+    if (named == _groups.size() || (named < index && !_complete.contains(toUpper(id)))) return tellUnresolved(include);
     const auto hasIncludes = [](const XmlElement& group) {
         return std::ranges::find(group.children, includeTag, &XmlElement::name) != group.children.end();
     };
@@ -142,15 +142,15 @@ void PLMAttributesLinter::judgeInclude(std::size_t index, const XmlElement& incl
               "the group " + quoted(id) + " stands further down and comes without what it includes itself",
               "move it above");
     }
-    std::string others;
+    std::vector<std::string_view> others;
     for (const std::size_t other : taken) {
         const auto& known = _groups[named].sources;
         if (other == named || known.contains(other) || _groups[index].sources.contains(other)) continue;
-        others += (others.empty() ? "" : ", ") + quoted(_groups[other].id);
+        others.push_back(_groups[other].id);
     }
     if (!others.empty()) {
         warn(include.line, "include-takes-more",
-             "the include of " + quoted(id) + " takes in all groups above, also " + others);
+             "the include of " + quoted(id) + " takes in all groups above, also " + text::joined(others, ", ", quoted));
     }
 }
 
@@ -170,7 +170,7 @@ void PLMAttributesLinter::judgeMapping(const XmlElement& mapping) {
 void PLMAttributesLinter::takeIn(const XmlElement& mapping, const XmlElement& include) {
     const std::string& id = include.attribute("IncludedId");
     if (id.empty()) return;
-    const auto found = _complete.find(upper(id));
+    const auto found = _complete.find(toUpper(id));
     if (found == _complete.end()) return tellUnresolved(include);
     Group& group = _groups[found->second];
     group.isUsed = true;
@@ -215,8 +215,8 @@ void PLMAttributesLinter::tellUnused() {
 }
 
 std::size_t PLMAttributesLinter::groupNamed(const std::string& id) const {
-    const std::string wanted = upper(id);
-    const auto found = std::ranges::find_if(_groups, [&](const Group& group) { return upper(group.id) == wanted; });
+    const std::string wanted = toUpper(id);
+    const auto found = std::ranges::find_if(_groups, [&](const Group& group) { return toUpper(group.id) == wanted; });
     return static_cast<std::size_t>(found - _groups.begin());
 }
 

@@ -7,6 +7,7 @@
 #include "velkor/files/QORISetupDataFinder.h"
 #include "velkor/files/QORSysRTVWalker.h"
 #include "velkor/text/QORToken.h"
+#include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -21,10 +22,6 @@ namespace {
 using Entry = ResourceSearch::Entry;
 using File = ResourceSearch::File;
 using Folder = ResourceSearch::Folder;
-
-std::string inQuotes(const std::string& text) {
-    return '"' + text + '"';
-}
 
 bool isReadable(const std::string& path) {
     return access(path.c_str(), R_OK) == 0;
@@ -187,14 +184,14 @@ std::string emptyReason(const ResourceSearch& search) {
                                  ? std::string("; set ") + keys::runtimeView + " in the configuration"
                                  : std::string("; set ") + keys::collectionStandard + " in the configuration or " +
                                        QORIFCDXFileServices::CollectionStandardVariables[0];
-    const std::string subFolder = inQuotes(search.kind.subFolder);
+    const std::string subFolder = text::quoted(search.kind.subFolder);
     if (search.folders.empty()) return place + " has no folders" + help;
     const auto hasState = [&](PathState state) {
         return std::ranges::find(search.folders, state, &Folder::state) != search.folders.end();
     };
     if (hasState(PathState::Readable)) {
         return "no sub-folder " + subFolder + " of " + place + " has a file whose name " +
-               (isRuntimeView ? "ends with " : "contains ") + inQuotes(search.kind.nameText) + "; put one there";
+               (isRuntimeView ? "ends with " : "contains ") + text::quoted(search.kind.nameText) + "; put one there";
     }
     const bool areMissing = !hasState(PathState::Forbidden) && !hasState(PathState::IsNoFolder);
     return "no folder of " + place + " has a sub-folder " + subFolder + (areMissing ? "" : " that can be read") + help;
@@ -208,15 +205,15 @@ std::string reason(const ResourceSearch& search) {
     if (!search.used.empty()) {
         const File& first = search.used.front();
         const bool isNamed = std::ranges::find(search.setupPaths, first.path, &File::path) != search.setupPaths.end();
-        return inQuotes(first.path) + (isNamed ? ", which the setup data name, " : " is to be used but ") +
+        return text::quoted(first.path) + (isNamed ? ", which the setup data name, " : " is to be used but ") +
                inWords(first.state) +
                (isNamed ? std::string("; correct it in ") + keys::setupData + " in the configuration"
                         : std::string("; put a readable file in its place"));
     }
     if (search.kind.rule == ResourceRule::TheOnlyFile && visible > 1) {
-        return "the sub-folders " + inQuotes(search.kind.subFolder) + " of the collection standard have " +
+        return "the sub-folders " + text::quoted(search.kind.subFolder) + " of the collection standard have " +
                std::to_string(visible) + " files where one is expected; keep one of them or name it in " +
-               keys::setupData + " as " + inQuotes(search.setupKey);
+               keys::setupData + " as " + text::quoted(search.setupKey);
     }
     return emptyReason(search);
 }
@@ -233,7 +230,7 @@ void remark(ResourceSearch& search) {
     for (std::size_t i = search.isUsable() ? 0 : 1; i < search.used.size(); ++i) {
         const File& used = search.used[i];
         if (used.state != PathState::Readable)
-            search.remarks.push_back(inQuotes(used.path) + ' ' + inWords(used.state));
+            search.remarks.push_back(text::quoted(used.path) + ' ' + inWords(used.state));
     }
 }
 

@@ -46,7 +46,7 @@ Dictionaries::Releases VersionMappingLinter::judgeRelease(const XmlElement& vers
     if (text.empty()) return {};
     // The dictionary's name is what one thinks of first.
     const auto* meant = findMappingRelease<std::string_view>(&MappingRelease::dictionary,
-                                                             upper(text.starts_with("IFC") ? text : "IFC" + text));
+                                                             toUpper(text.starts_with("IFC") ? text : "IFC" + text));
     const auto texts = std::views::transform(mappingReleases, &MappingRelease::text);
     error(version.line, "unknown-release",
           "expected a release (" + text::joined(texts, ", ") + ") in " + quoted(attribute) + ", found " + quoted(text),
@@ -82,7 +82,7 @@ void VersionMappingLinter::judgeMapping(const XmlElement& mapping, Block& block)
     else if (toEntity.empty())
         warn(mapping.line, "no-effect", "the mapping names neither a property nor another entity");
     if (mapping.index == 0 || toEntity.empty()) return;
-    const auto [first, isNew] = block.renames.try_emplace(upper(entity), toEntity, mapping.line);
+    const auto [first, isNew] = block.renames.try_emplace(toUpper(entity), toEntity, mapping.line);
     if (!isNew) {
         warn(mapping.line, "duplicate-key",
              quoted(entity) + " is renamed to " + quoted(first->second.first) + ' ' + inLine(first->second.second) +

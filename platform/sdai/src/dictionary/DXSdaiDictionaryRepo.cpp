@@ -12,6 +12,8 @@
 using velkor::files::OpenError;
 using velkor::objectmodeler::isRecording;
 using velkor::objectmodeler::recordCall;
+using velkor::text::joined;
+using velkor::text::quoted;
 
 namespace {
 
@@ -77,10 +79,9 @@ tl::expected<DXSdaiDictionaryRepo::SchemaPointer, OpenError> DXSdaiDictionaryRep
     std::unique_lock lock(_state->mutex);
     const State::EntryPointer entry = _state->find(name);
     if (!entry) {
-        const std::vector<std::string> known = _state->names();
+        const std::string known = joined(_state->names());
         return failure(OpenError::Code::UnknownSchema,
-                       "unknown schema \"" + std::string(name) +
-                           "\"; known: " + (known.empty() ? "none" : velkor::text::joined(known, ", ")));
+                       "unknown schema " + quoted(name) + "; known: " + (known.empty() ? "none" : known));
     }
     _state->waitForOtherThreads(entry, lock);
     if (entry->phase == State::Phase::Waiting) _state->load(entry, lock);

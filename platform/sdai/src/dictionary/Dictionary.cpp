@@ -1,6 +1,7 @@
 #include "velkor/sdai/Dictionary.h"
 
 #include "Names.h"
+#include "velkor/text/Wording.h"
 
 namespace velkor::sdai {
 
@@ -49,12 +50,7 @@ std::string aggregateText(const AggregateType& type) {
 
 template <class Items, class Name>
 std::string listText(const char* keyword, const Items& items, Name&& name) {
-    std::string result = std::string(keyword) + " (";
-    for (const auto& item : items) {
-        if (result.back() != '(') result += ", ";
-        result += name(item);
-    }
-    return result + ')';
+    return std::string(keyword) + " (" + text::joined(items, ", ", name) + ')';
 }
 
 } // namespace

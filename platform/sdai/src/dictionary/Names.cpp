@@ -1,5 +1,7 @@
 #include "Names.h"
 
+#include "velkor/text/Unicode.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -12,10 +14,6 @@ std::uint64_t load(const char* bytes) noexcept {
     Word word;
     std::memcpy(&word, bytes, sizeof word);
     return word;
-}
-
-char upper(char c) noexcept {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
 } // namespace
@@ -48,7 +46,8 @@ std::uint32_t hash(std::string_view name) noexcept {
 bool equal(std::string_view a, std::string_view b) noexcept {
     if (a.size() != b.size()) return false;
     if (a.empty() || std::memcmp(a.data(), b.data(), a.size()) == 0) return true;
-    return std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return upper(x) == upper(y); });
+    return std::equal(a.begin(), a.end(), b.begin(),
+                      [](char x, char y) { return text::asciiUpper(x) == text::asciiUpper(y); });
 }
 
 } // namespace velkor::sdai::names

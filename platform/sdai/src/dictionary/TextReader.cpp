@@ -1,5 +1,8 @@
 #include "TextReader.h"
 
+#include "velkor/text/Printable.h"
+#include "velkor/text/Wording.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -24,22 +27,6 @@ bool is(char c, int wanted) noexcept {
     return (classes[static_cast<unsigned char>(c)] & wanted) != 0;
 }
 
-std::string_view cut(const char* text, std::size_t length, bool& isCut) noexcept {
-    constexpr std::size_t longest = 60;
-    isCut = length > longest;
-    return {text, isCut ? longest : length};
-}
-
-std::string quoted(const char* text, std::size_t length) {
-    bool isCut = false;
-    std::string result = "\"";
-    for (const char c : cut(text, length, isCut)) {
-        // A damaged text must not damage the terminal that shows the message.
-        result += c >= ' ' && c <= '~' ? c : '?';
-    }
-    return result + (isCut ? "…\"" : "\"");
-}
-
 } // namespace
 
 void TextReader::fail(const char* expected) noexcept {
@@ -53,7 +40,7 @@ std::string TextReader::message() const {
     std::size_t length = 0;
     const auto continues = [](char c) { return is(c, Capital | Small | Digit | Underscore) || c == '#' || c == '-'; };
     while (continues(_argument[length])) ++length;
-    return result + quoted(_argument, std::max<std::size_t>(length, 1));
+    return result + quoted({_argument, std::max<std::size_t>(length, 1)});
 }
 
 bool TextReader::take(char c) noexcept {
@@ -152,8 +139,9 @@ bool TextReader::another() noexcept {
     return false;
 }
 
-std::string quoted(const char* text) {
-    return quoted(text, std::strlen(text));
+std::string quoted(std::string_view text) {
+    constexpr std::size_t longest = 60;
+    return text::quoted(text::printableAscii(text.substr(0, longest)) + (text.size() > longest ? "…" : ""));
 }
 
 } // namespace velkor::sdai

@@ -55,6 +55,6 @@ private:
 };
 
 /// A text of a list for a message, cut when it is long.
-std::string quoted(const char* text);
+std::string quoted(std::string_view text);
 
 } // namespace velkor::sdai

@@ -81,8 +81,8 @@ std::optional<Problem> Model::schemaProblem(const Part21File& file) {
     problem.code = "schema-unknown";
     problem.message =
         "expected a supported schema in FILE_SCHEMA, found " +
-        (written.empty() ? "none" : '"' + text::excerpt(text::joined(written, "\", \""), longestExcerpt) + '"') +
-        "; supported: " + text::joined(DXSdaiDictionaryRepo::TheOne().names(), ", ");
+        (written.empty() ? "none" : text::quoted(text::excerpt(text::joined(written, "\", \""), longestExcerpt))) +
+        "; supported: " + text::joined(DXSdaiDictionaryRepo::TheOne().names());
     return problem;
 }
 

@@ -15,8 +15,7 @@ constexpr std::size_t longestKeyword = 255;
 } // namespace
 
 std::uint16_t KeywordTable::number(std::string_view keyword, const char* spelledAt) {
-    std::string upper(keyword.substr(0, longestKeyword + 1));
-    std::transform(upper.begin(), upper.end(), upper.begin(), upperCase);
+    std::string upper = text::asciiUpper(keyword.substr(0, longestKeyword + 1));
     auto found = _numbers.find(upper);
     if (found == _numbers.end()) {
         if (_keywords.size() == maximumCount || upper.size() > longestKeyword) return Part21File::unlistedKeyword;

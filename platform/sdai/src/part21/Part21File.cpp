@@ -60,12 +60,7 @@ std::string foreignFormat(std::string_view text) {
     for (const std::string_view word : {"ISO-10303-21", "HEADER"}) {
         if (startsWithWord(content, word)) return {};
     }
-    std::string found;
-    for (const char c : content.substr(0, 16)) {
-        if (c == '\n' || c == '\r') break;
-        found += isClass(c, Basic) ? c : '?';
-    }
-    return "found \"" + found + '"';
+    return "found " + firstLine(content, 16);
 }
 
 } // namespace

@@ -1,5 +1,8 @@
 #include "ProblemList.h"
 
+#include "velkor/text/Printable.h"
+#include "velkor/text/Wording.h"
+
 #include <algorithm>
 
 namespace velkor::sdai::part21 {
@@ -15,6 +18,11 @@ void ProblemList::finish(const LineTable& lines) {
     std::stable_sort(_problems.begin(), _problems.end(),
                      [](const Problem& left, const Problem& right) { return left.offset < right.offset; });
     for (Problem& problem : _problems) problem.line = lines.line(problem.offset);
+}
+
+std::string firstLine(std::string_view text, std::size_t longest) {
+    const std::string_view line = text.substr(0, longest);
+    return text::quoted(text::printableAscii(line.substr(0, line.find_first_of("\r\n"))));
 }
 
 } // namespace velkor::sdai::part21

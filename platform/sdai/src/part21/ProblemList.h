@@ -5,6 +5,7 @@
 #include "velkor/sdai/Problem.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velkor::sdai::part21 {
@@ -29,5 +30,8 @@ private:
     std::uint64_t _total = 0;
     std::vector<Problem> _problems;
 };
+
+/// The beginning of a text for a message: in quotation marks, up to the end of its line.
+std::string firstLine(std::string_view text, std::size_t longest);
 
 } // namespace velkor::sdai::part21

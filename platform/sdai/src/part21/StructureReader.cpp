@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 bool isWord(char c) noexcept {
-    return isClass(upperCase(c), Upper | Digit) || c == '-' || c == '!';
+    return isClass(text::asciiUpper(c), Upper | Digit) || c == '-' || c == '!';
 }
 
 std::string_view view(const char* from, const char* to) noexcept {
@@ -28,14 +28,9 @@ std::string_view wordAt(const char* at, const char* end) noexcept {
     return view(at, behind);
 }
 
-/// The beginning of a text for a message, on one line.
+/// The beginning of a text for a message.
 std::string excerpt(const char* at, const char* end) {
-    constexpr std::ptrdiff_t longest = 24;
-    std::string text = "\"";
-    for (const char* c = at; c != end && c - at < longest && *c != '\n' && *c != '\r'; ++c) {
-        text += isClass(*c, Basic) ? *c : '?';
-    }
-    return text + '"';
+    return firstLine(view(at, end), 24);
 }
 
 /// Digits up to the end of the eight bytes before `end`; 8 when all are.
@@ -265,9 +260,9 @@ std::optional<std::uint16_t> StructureReader::keywordBehind(const char* equals) 
     const char* at = content(equals + 1, _end);
     if (at == _end) return std::nullopt;
     if (*at == '(') return Part21File::complexKeyword;
-    if (!isClass(upperCase(*at), Upper) && *at != '!') return std::nullopt;
+    if (!isClass(text::asciiUpper(*at), Upper) && *at != '!') return std::nullopt;
     const char* behind = at + 1;
-    while (behind != _end && isClass(upperCase(*behind), Upper | Digit)) ++behind;
+    while (behind != _end && isClass(text::asciiUpper(*behind), Upper | Digit)) ++behind;
     const bool spelledPlainly = at - equals <= 2 && _end - at >= static_cast<std::ptrdiff_t>(KeywordTable::recallReach);
     return _structure.keywords.number(view(at, behind), spelledPlainly ? at : nullptr);
 }

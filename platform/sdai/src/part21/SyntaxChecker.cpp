@@ -2,6 +2,8 @@
 
 #include "Separators.h"
 #include "StringDecoder.h"
+#include "velkor/text/Printable.h"
+#include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <array>
@@ -60,9 +62,8 @@ constexpr std::array<const char*, 6> expectedAt{
     "an instance or \"ENDSEC;\"", "nothing"};
 
 std::string quoted(std::string_view text) {
-    std::string result = "\"";
-    for (const char c : text.substr(0, 32)) result += isClass(c, Basic) ? c : '?';
-    return result + (text.size() > 32 ? "...\"" : "\"");
+    constexpr std::size_t longest = 32;
+    return text::quoted(text::printableAscii(text.substr(0, longest)) + (text.size() > longest ? "..." : ""));
 }
 
 std::string describe(const Token& token) {
@@ -306,7 +307,7 @@ bool SyntaxChecker::skipSection(const Token& word) {
 bool SyntaxChecker::checkRecord(const Token& keyword) {
     if (keyword.kind != TokenKind::Keyword) {
         // Reading goes on if only its letters are wrong.
-        const bool misspelled = keyword.kind == TokenKind::Bad && isClass(upperCase(keyword.text[0]), Upper) &&
+        const bool misspelled = keyword.kind == TokenKind::Bad && isClass(text::asciiUpper(keyword.text[0]), Upper) &&
                                 _lexer.peek().kind == TokenKind::Open;
         if (!misspelled) return unexpected(keyword, "a keyword");
         error(keyword.text.data(), "token-invalid",

@@ -24,7 +24,8 @@ inline constexpr std::array<std::uint8_t, 256> characterClasses = [] {
     for (unsigned c = 'A'; c <= 'Z'; ++c) classes[c] |= Upper;
     for (unsigned c = 'A'; c <= 'F'; ++c) classes[c] |= Hex;
     classes['_'] |= Upper;
-    for (unsigned char c : {',', '(', ')', ';', '=', '\'', '"', '/', '\\'}) classes[c] |= Delimiter;
+    for (const char c : {',', '(', ')', ';', '=', '\'', '"', '/', '\\'})
+        classes[static_cast<unsigned char>(c)] |= Delimiter;
     for (unsigned c = ' '; c <= '~'; ++c) classes[c] |= Basic;
     return classes;
 }();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Characters.h"
+#include "velkor/text/Unicode.h"
 
 #include <cstring>
 #include <string_view>
@@ -37,15 +38,11 @@ inline const char* findSectionEnd(const char* at, const char* end) noexcept {
     }
 }
 
-inline char upperCase(char c) noexcept {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
 /// Whether a word in upper case stands at the beginning of a text, in any case.
 inline bool startsWithWord(std::string_view text, std::string_view word) noexcept {
     if (text.size() < word.size()) return false;
     for (std::size_t i = 0; i < word.size(); ++i) {
-        if (upperCase(text[i]) != word[i]) return false;
+        if (text::asciiUpper(text[i]) != word[i]) return false;
     }
     return true;
 }

@@ -3,6 +3,7 @@
 #include "Alphabets.h"
 #include "Characters.h"
 #include "velkor/sdai/Part21Lexer.h"
+#include "velkor/text/Unicode.h"
 
 #include <charconv>
 #include <cstdio>
@@ -21,24 +22,6 @@ std::string decodeString(std::string_view token, std::string* error) {
 namespace part21 {
 
 namespace {
-
-/// Length of the well-formed UTF-8 sequence at a byte of 128 or more; 0 when there is none.
-/// Writes its character when there is one.
-std::size_t utf8Sequence(const char* at, const char* end, char32_t& result) noexcept {
-    const auto lead = static_cast<unsigned char>(*at);
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4 || static_cast<std::size_t>(end - at) < length) return 0;
-    char32_t character = lead & (0x7FU >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        const auto byte = static_cast<unsigned char>(at[i]);
-        if ((byte & 0xC0U) != 0x80) return 0;
-        character = character << 6 | (byte & 0x3FU);
-    }
-    const bool overlong = (length == 3 && character < 0x800) || (length == 4 && character < 0x10000);
-    if (overlong || character > 0x10FFFF || (character >= 0xD800 && character < 0xE000)) return 0;
-    result = character;
-    return length;
-}
 
 /// Value of hexadecimal digits of either case; false when one is none.
 bool hexadecimal(const char* at, std::size_t digits, std::uint32_t& value) noexcept {
@@ -177,34 +160,26 @@ void StringDecoder::extended(std::size_t digits) {
 
 void StringDecoder::foreignByte() {
     const auto byte = static_cast<unsigned char>(*_next);
-    char32_t character = byte;
+    std::int32_t character = byte;
     std::size_t length = 1;
     if (byte == '\n' || byte == '\r') {
         violation(_next, "line end inside a string");
     } else if (byte < 0x80) {
         violation(_next, "control character " + inHex(byte, 2) + " inside a string");
-    } else if (const std::size_t sequence = utf8Sequence(_next, _end, character); sequence != 0) {
-        length = sequence;
+    } else if (length = text::decode({_next, _end}, character); character >= 0) {
+        const auto code = static_cast<unsigned>(character);
         violation(_next, "character outside the basic alphabet; it is written as " +
-                             (character > 0xFFFF ? "\\X4\\" + inHex(character, 8) : "\\X2\\" + inHex(character, 4)) +
-                             "\\X0\\");
+                             (code > 0xFFFF ? "\\X4\\" + inHex(code, 8) : "\\X2\\" + inHex(code, 4)) + "\\X0\\");
     } else {
+        character = byte;
         violation(_next, "byte " + inHex(byte, 2) + " outside the basic alphabet");
     }
-    append(character);
+    append(static_cast<char32_t>(character));
     _next += length;
 }
 
 void StringDecoder::append(char32_t character) {
-    if (_text == nullptr) return;
-    if (character < 0x80) {
-        *_text += static_cast<char>(character);
-        return;
-    }
-    const int trailing = character < 0x800 ? 1 : character < 0x10000 ? 2 : 3;
-    static constexpr unsigned leads[] = {0, 0xC0, 0xE0, 0xF0};
-    *_text += static_cast<char>(leads[trailing] | character >> (6 * trailing));
-    for (int i = trailing - 1; i >= 0; --i) *_text += static_cast<char>(0x80U | (character >> (6 * i) & 0x3FU));
+    if (_text != nullptr) text::append(*_text, static_cast<std::int32_t>(character));
 }
 
 void StringDecoder::take(std::size_t length) {

@@ -23,6 +23,9 @@ std::string takeEscaped(std::string_view& text);
 /// The whole text.
 std::string printable(std::string_view text);
 
+/// The text with "?" in place of each byte that is no printable ASCII, where nothing else is expected.
+std::string printableAscii(std::string_view text);
+
 /// The beginning of a text, made printable, "…" behind it when that is not all.
 std::string excerpt(std::string_view text, std::size_t longestBytes);
 

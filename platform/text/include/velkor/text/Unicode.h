@@ -20,6 +20,21 @@ std::size_t byteOffset(std::string_view utf8, std::size_t character) noexcept;
 /// Number of bytes of the first character of a text that is not empty. `code` is its code point, below 0
 /// for a byte outside any valid sequence.
 std::size_t decode(std::string_view utf8, std::int32_t& code) noexcept;
+/// The first character of a text that is not empty.
+std::string_view firstCharacter(std::string_view utf8) noexcept;
+/// As much of a text as so many bytes hold without cutting a character.
+std::string_view beginning(std::string_view utf8, std::size_t mostBytes) noexcept;
+/// Puts a character behind a text. `code` is that of a character of Unicode.
+void append(std::string& utf8, std::int32_t code);
+
+/// Case mapping of ASCII alone.
+constexpr char asciiUpper(char c) noexcept {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+constexpr char asciiLower(char c) noexcept {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+std::string asciiUpper(std::string_view text);
 
 /// Case mapping character by character, as utf8proc maps it: the length in characters stays.
 std::string toUpper(std::string_view utf8);

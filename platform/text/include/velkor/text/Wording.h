@@ -1,7 +1,9 @@
-/// Numbers and names as messages for people put them.
+/// Numbers, names and lists as messages for people put them.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -16,15 +18,19 @@ std::string counted(std::uint64_t number, std::string_view singular, std::string
 /// The shortest decimal text that reads back as the same double.
 std::string shortest(double value);
 
-/// Texts in their order with a separator between each two.
-template <class Texts>
-std::string joined(const Texts& texts, std::string_view separator) {
+/// A text in quotation marks, as it is.
+std::string quoted(std::string_view text);
+/// The beginning of a text in quotation marks, "…" in them when that is not all.
+std::string quotedBeginning(std::string_view text, std::size_t longestBytes);
+
+/// What a range holds, one behind the other, each as `word` puts it in a text.
+template <class Range, class Word = std::identity>
+std::string joined(Range&& items, std::string_view separator = ", ", Word word = {}) {
     std::string result;
-    bool isFirst = true;
-    for (const std::string_view text : texts) {
-        if (!isFirst) result += separator;
-        isFirst = false;
-        result += text;
+    std::string_view between;
+    for (auto&& item : items) {
+        result.append(between).append(std::invoke(word, item));
+        between = separator;
     }
     return result;
 }
