@@ -271,7 +271,9 @@ TEST_F(XmlServices, ReadsValues) {
         std::string found =
             outcome([&] { return Services::GetAttributeValue(r, c.text.c_str(), c.subject.c_str(), value); });
         if (c.text == "r/none") {
-            EXPECT_EQ(objectmodeler::assertionReports().back().message, c.text);
+            const objectmodeler::AssertionReport report = objectmodeler::assertionReports().back();
+            EXPECT_EQ(report.message, c.text);
+            EXPECT_EQ(report.sourceUnit, "Velkorite/Velkor.m/src/xml/QORIFCDXXMLServices.cpp");
         }
         if (found == "0 0") found += ' ' + std::string(value.utf8());
         EXPECT_EQ(found, c.expected) << c.text;
