@@ -3,6 +3,8 @@
 #include "velkor/text/QORListValQORUnicodeString.h"
 #include "velkor/text/QORToken.h"
 #include "velkor/text/QORUnicodeString.h"
+#include "velkor/text/Unicode.h"
+#include "velkor/text/Wording.h"
 
 #include <gtest/gtest.h>
 
@@ -129,6 +131,18 @@ TEST(Printable, escapesWhatActsOnATerminal) {
     EXPECT_EQ(velkor::text::printable(std::string_view("\0", 1)), "\\u0000");
     EXPECT_EQ(velkor::text::excerpt("ab\n", 3), "ab\\u000a");
     EXPECT_EQ(velkor::text::excerpt("a梁柱", 5), "a梁…");
+}
+
+TEST(Wording, QuotesJoinsAndCutsBetweenCharacters) {
+    using namespace velkor::text;
+    EXPECT_EQ(joined(std::vector<std::string>{"", "b", "c"}), ", b, c");
+    EXPECT_EQ(joined(std::vector{1, 2}, " or ", [](int n) { return velkor::text::quoted(std::to_string(n)); }),
+              "\"1\" or \"2\"");
+    EXPECT_EQ(quotedBeginning("a梁柱", 5) + quotedBeginning("a梁", 4), "\"a梁…\"\"a梁\"");
+    EXPECT_EQ(firstCharacter("梁a"), "梁");
+    EXPECT_EQ(firstCharacter("\x80\x80"), "\x80");
+    EXPECT_EQ(asciiUpper("äb_z{1"), "äB_Z{1");
+    EXPECT_EQ(printableAscii("\x1F ~\x7Fä"), "? ~???");
 }
 
 TEST(QORToken, passesOverEmptyPieces) {
