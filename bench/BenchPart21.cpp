@@ -42,7 +42,7 @@ void plainScan(benchmark::State& state) {
         return;
     }
     for (auto _ : state) benchmark::DoNotOptimize(countMarks((*file)->text(), classifier));
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * (*file)->text().size()));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>((*file)->text().size()));
 }
 
 void open(benchmark::State& state) {
@@ -75,7 +75,7 @@ void open(benchmark::State& state) {
         state.SetIterationTime(seconds);
         opening = std::min(opening, seconds);
     }
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
     state.counters["instances"] = (*warm)->instanceCount();
     state.counters["bestGBps"] = static_cast<double>(text.size()) / opening / 1e9;
     state.counters["timesPlainScan"] = opening / scan;

@@ -46,7 +46,7 @@ const std::string& mappingFile() {
 }
 
 void setBytes(benchmark::State& state) {
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * documentSize));
+    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(documentSize));
 }
 
 // The options that the services read with.

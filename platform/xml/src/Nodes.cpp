@@ -479,11 +479,11 @@ private:
         return extension != nullptr ? S_OK : E_NOINTERFACE;
     }
     template <class Node>
-    HRESULT keep(NodePointer node, QORInterface_var<Node>& result) {
+    HRESULT keep(NodePointer made, QORInterface_var<Node>& result) {
         result = {};
-        if (node == nullptr) return E_INVALIDARG;
-        const xmlNodePtr kept = node.get();
-        store->keepDetached(std::move(node));
+        if (made == nullptr) return E_INVALIDARG;
+        const xmlNodePtr kept = made.get();
+        store->keepDetached(std::move(made));
         return give(kept, result);
     }
     template <class Make>

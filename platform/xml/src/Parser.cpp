@@ -35,8 +35,8 @@ constexpr int longestMarkup = 64 << 10;
 
 class Parse {
 public:
-    Parse(std::string name, const QORIXMLErrorHandler_var& handler)
-        : _name(std::move(name)), _handler(handler), _capture([this](const std::string& text) { other(text); }) {
+    Parse(std::string input, const QORIXMLErrorHandler_var& handler)
+        : _name(std::move(input)), _handler(handler), _capture([this](const std::string& text) { other(text); }) {
         if (_context == nullptr) objectmodeler::outOfMemory();
         _context->_private = this;
         // A parser context has handlers of its own, so that nothing process-wide is touched.

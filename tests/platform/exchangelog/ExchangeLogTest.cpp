@@ -1,12 +1,10 @@
+#include "Matchers.h"
 #include "velkor/exchangelog/MessageLog.h"
 #include "velkor/exchangelog/QORMsgCatalog.h"
 
 #include <array>
-#include <gmock/gmock.h>
 
 namespace velkor::exchangelog::test {
-
-using testing::FieldsAre;
 
 TEST(MessageLog, KeepsMessagesReadable) {
     MessageLog log(2), other(1);

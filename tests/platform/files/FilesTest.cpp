@@ -1,3 +1,4 @@
+#include "Matchers.h"
 #include "TemporaryFolder.h"
 #include "velkor/files/Paths.h"
 #include "velkor/files/QORDirectory.h"
@@ -5,12 +6,9 @@
 #include "velkor/files/QORSysRTVWalker.h"
 
 #include <array>
-#include <gmock/gmock.h>
 
 namespace velkor::files::test {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using velkor::test::TemporaryFolder;
 using Texts = std::vector<std::string>;
 
@@ -113,7 +111,8 @@ TEST(SetupData, LeadFromAKeyToItsPathsWhileTheHostOffersThem) {
             QORListValQORIKweAppResourceSubItem_var items;
             EXPECT_EQ(SUCCEEDED(finder->GetResourceSubItems(key, items, limit)), !paths.empty()) << key;
             Texts expected = paths, found;
-            if (limit >= 0 && expected.size() > static_cast<std::size_t>(limit)) expected.resize(limit);
+            if (limit >= 0 && expected.size() > static_cast<std::size_t>(limit))
+                expected.resize(static_cast<std::size_t>(limit));
             for (const QORBaseUnknown_var& item : items) {
                 EXPECT_EQ(QORIKweAppResourceSubItem_var(item)->GetPath(path), S_OK) << "by query";
                 found.emplace_back(path.utf8());

@@ -1,3 +1,4 @@
+#include "Matchers.h"
 #include "velkor/knowledge/KnowledgeObjects.h"
 #include "velkor/knowledge/QORIExchangeObject.h"
 #include "velkor/knowledge/QORIInstance.h"
@@ -7,11 +8,7 @@
 #include "velkor/knowledge/QORVleTypeServices.h"
 #include "velkor/knowledge/TypeDictionary.h"
 
-#include <gmock/gmock.h>
-
 namespace velkor::knowledge {
-
-using testing::ElementsAre;
 
 namespace {
 

@@ -1,13 +1,11 @@
+#include "Matchers.h"
 #include "TestComponents.h"
 
 #include <array>
 #include <cstring>
-#include <gmock/gmock.h>
 #include <thread>
 
 namespace velkor::objectmodeler::test {
-
-using testing::ElementsAre;
 
 namespace {
 

@@ -1,14 +1,9 @@
+#include "Matchers.h"
 #include "TestComponents.h"
 #include "velkor/objectmodeler/Assertion.h"
 #include "velkor/objectmodeler/ClassDictionary.h"
 
-#include <gmock/gmock.h>
-
 namespace velkor::objectmodeler::test {
-
-using testing::ElementsAre;
-using testing::FieldsAre;
-using testing::IsEmpty;
 
 using Greeting = QORInterface_var<QORITestGreeting>;
 using Counting = QORInterface_var<QORITestCounting>;

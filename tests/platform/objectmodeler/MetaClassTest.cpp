@@ -1,16 +1,14 @@
+#include "Matchers.h"
 #include "TestComponents.h"
 #include "velkor/objectmodeler/CallRecorder.h"
 
 #include <array>
 #include <barrier>
-#include <gmock/gmock.h>
 #include <thread>
 #include <tuple>
 
 namespace velkor::objectmodeler::test {
 
-using testing::Each;
-using testing::FieldsAre;
 using testing::Truly;
 
 class OnDemand : public QORBaseUnknown {

@@ -1,15 +1,11 @@
+#include "Matchers.h"
 #include "velkor/objectmodeler/Assertion.h"
 #include "velkor/objectmodeler/CallRecorder.h"
 #include "velkor/objectmodeler/ExitCallback.h"
 
-#include <gmock/gmock.h>
 #include <utility>
 
 namespace velkor::objectmodeler::test {
-
-using testing::ElementsAre;
-using testing::FieldsAre;
-using testing::IsEmpty;
 
 namespace exit_callback = vrn::internal::v1::exit_callback;
 

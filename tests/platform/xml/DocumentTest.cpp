@@ -1,3 +1,4 @@
+#include "Matchers.h"
 #include "velkor/objectmodeler/CallRecorder.h"
 #include "velkor/xml/QORIDOMDocumentTraversal.h"
 #include "velkor/xml/QORIDOMImplementation.h"
@@ -6,9 +7,6 @@
 #include <array>
 
 namespace velkor::xml::test {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 

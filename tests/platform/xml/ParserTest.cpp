@@ -1,3 +1,4 @@
+#include "Matchers.h"
 #include "TemporaryFolder.h"
 #include "XmlSupport.h"
 
@@ -7,13 +8,6 @@
 #include <thread>
 
 namespace velkor::xml::test {
-
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
-using testing::StartsWith;
 
 namespace {
 

@@ -1,3 +1,4 @@
+#include "Matchers.h"
 #include "velkor/xml/QORIDOMDocumentTraversal.h"
 #include "velkor/xml/QORIDOMNodeFilter.h"
 #include "velkor/xml/QORIDOMNodeIterator.h"
@@ -7,8 +8,6 @@
 
 namespace velkor::xml::test {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
 using Type = QORDOMNodeFilterType;
 
 namespace {

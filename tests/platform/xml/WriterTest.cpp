@@ -1,3 +1,4 @@
+#include "Matchers.h"
 #include "TemporaryFolder.h"
 #include "XmlSupport.h"
 
@@ -8,12 +9,6 @@
 #include <sys/stat.h>
 
 namespace velkor::xml::test {
-
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::StartsWith;
 
 namespace {
 

@@ -1,12 +1,7 @@
+#include "Matchers.h"
 #include "XmlSupport.h"
 
 namespace velkor::xml::test {
-
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::StartsWith;
 
 namespace {
 

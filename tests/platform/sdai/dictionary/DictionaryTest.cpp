@@ -1,12 +1,9 @@
 #include "velkor/sdai/Dictionary.h"
+#include "Matchers.h"
 
 #include "SampleSchema.h"
 
-#include <gmock/gmock.h>
-
 namespace velkor::sdai::test {
-
-using testing::ElementsAre;
 
 class Dictionary : public testing::Test {
 protected:

@@ -1,17 +1,14 @@
+#include "Matchers.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include "SampleSchema.h"
 #include "velkor/sdai/QORDXSdaiSchemaDecl.h"
 
 #include <atomic>
-#include <gmock/gmock.h>
 #include <stdexcept>
 #include <thread>
 
 namespace velkor::sdai::test {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 namespace {
 

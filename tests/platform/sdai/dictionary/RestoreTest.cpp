@@ -1,15 +1,12 @@
+#include "Matchers.h"
 #include "velkor/sdai/QORDXSdaiSchemaRestore.h"
 
 #include "Cases.h"
 #include "SampleSchema.h"
 
 #include <array>
-#include <gmock/gmock.h>
 
 namespace velkor::sdai::test {
-
-using testing::HasSubstr;
-using testing::StartsWith;
 
 TEST(Restore, CountsWhatTheListsHold) {
     const SampleSchema sample;

@@ -1,11 +1,8 @@
 #include "velkor/sdai/PopulationCheck.h"
+#include "Matchers.h"
 #include "SampleModel.h"
 
 namespace velkor::sdai::test {
-
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 namespace {
 

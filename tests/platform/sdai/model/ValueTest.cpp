@@ -1,10 +1,9 @@
+#include "Matchers.h"
 #include "SampleModel.h"
 
 #include <sstream>
 
 namespace velkor::sdai::test {
-
-using testing::IsEmpty;
 
 namespace {
 

@@ -50,7 +50,7 @@ TEST(Index, FindsTheFirstInstanceOfEachIdHoweverIdsLie) {
             std::size_t repetitions = 0;
             ASSERT_EQ(structure.index.count(), wanted.size());
             for (std::uint32_t i = 0; i < wanted.size(); ++i) {
-                repetitions += first.emplace(wanted[i], i).second ? 0 : 1;
+                repetitions += first.emplace(wanted[i], i).second ? 0U : 1U;
                 EXPECT_EQ(structure.index.offset(i), offsets[i]) << segmentBits;
                 EXPECT_EQ(structure.index.id(i), wanted[i]);
             }

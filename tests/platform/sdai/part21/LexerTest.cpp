@@ -1,15 +1,12 @@
+#include "Matchers.h"
 #include "velkor/sdai/Part21Lexer.h"
 
 #include <cmath>
-#include <gmock/gmock.h>
 #include <limits>
 #include <tuple>
 #include <vector>
 
 namespace velkor::sdai::test {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 namespace {
 

@@ -1,4 +1,5 @@
 #include "ExchangeText.h"
+#include "Matchers.h"
 
 #include <algorithm>
 #include <array>
@@ -6,12 +7,6 @@
 #include <fstream>
 
 namespace velkor::sdai::test {
-
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::StartsWith;
 
 namespace {
 

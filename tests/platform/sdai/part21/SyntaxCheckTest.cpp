@@ -1,10 +1,10 @@
 #include "ExchangeText.h"
+#include "Matchers.h"
 #include "velkor/sdai/Part21Lexer.h"
 
 namespace velkor::sdai::test {
 
 using testing::AnyOf;
-using testing::HasSubstr;
 
 namespace {
 
