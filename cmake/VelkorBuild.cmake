@@ -1,4 +1,5 @@
-# What every target of the project has in common, and the few functions that declare targets.
+# What every target of the project has in common, and the few functions that declare targets. All of it holds in this
+# folder and below, none of it for a project that embeds Velkor.
 
 include(GNUInstallDirs)
 
@@ -6,17 +7,23 @@ set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
-set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 
-add_compile_options(-Wall -Wextra -Wpedantic -Werror -fno-semantic-interposition -fvisibility-inlines-hidden)
+add_compile_options(-Wall -Wextra -Wpedantic)
+if(VELKOR_WERROR)
+  add_compile_options(-Werror)
+endif()
+add_compile_options(-fno-semantic-interposition)
 # Assertion reports name source units by their path in the project.
-add_compile_options(-fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
+add_compile_options(-fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=)
 # A compiler cache may hand over paths as seen from the build tree.
-file(RELATIVE_PATH _source ${CMAKE_BINARY_DIR} ${CMAKE_SOURCE_DIR})
+file(RELATIVE_PATH _source ${CMAKE_BINARY_DIR} ${PROJECT_SOURCE_DIR})
 add_compile_options(-fmacro-prefix-map=${_source}=)
 add_link_options(-Wl,--as-needed -Wl,-O1)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
@@ -39,12 +46,15 @@ find_package(Threads REQUIRED)
 # velkor_area(LIBRARY NAME FOLDER folder SOURCES … DEPENDS area … LIBRARIES target …)
 # One folder of a library that is built of areas: its headers are seen only by areas that name it in DEPENDS.
 # With FOLDER it is an area within one, a folder of src whose private headers those areas see too.
-# velkor_library() puts the areas together.
+# What lies in the library's own include folder, its export macro, is seen by all. velkor_library() puts the areas
+# together.
 function(velkor_area LIBRARY NAME)
   cmake_parse_arguments(ARG "" "FOLDER" "SOURCES;DEPENDS;LIBRARIES" ${ARGN})
   set(target ${LIBRARY}_${NAME})
   add_library(${target} OBJECT ${ARG_SOURCES})
-  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>)
+  cmake_path(GET CMAKE_CURRENT_SOURCE_DIR PARENT_PATH library_folder)
+  target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/include>
+                                              $<BUILD_INTERFACE:${library_folder}/include>)
   if(ARG_FOLDER)
     target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/src/${ARG_FOLDER}>)
   else()
@@ -56,14 +66,20 @@ function(velkor_area LIBRARY NAME)
   set_property(GLOBAL APPEND PROPERTY ${LIBRARY}_includes ${CMAKE_CURRENT_SOURCE_DIR}/include)
 endfunction()
 
-# velkor_library(LIBRARY [INTERNAL] [ORDER place …])
-# The shared library of all areas declared so far. Who links it sees the headers of all of them, unless they are
-# INTERNAL. The objects are linked, and so their static objects built, in the order of the areas' declaration, or in that
-# of ORDER: a place there is AREA/UNIT for one unit of an area, AREA for all others of it.
-function(velkor_library LIBRARY)
+# velkor_library(LIBRARY NAME [INTERNAL] [ORDER place …])
+# The shared library of all areas declared so far. It exports what its headers mark and has a versioned soname; other
+# projects, whether they embed or find Velkor, know it as velkor::NAME. Who links it sees the headers of all areas, unless
+# they are INTERNAL. The objects are linked, and so their static objects built, in the order of the areas' declaration, or
+# in that of ORDER: a place there is AREA/UNIT for one unit of an area, AREA for all others of it.
+function(velkor_library LIBRARY NAME)
   cmake_parse_arguments(ARG "INTERNAL" "" "ORDER" ${ARGN})
   add_library(${LIBRARY} SHARED)
-  set_target_properties(${LIBRARY} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  add_library(velkor::${NAME} ALIAS ${LIBRARY})
+  set(map ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+  set_target_properties(${LIBRARY} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+                                              EXPORT_NAME ${NAME} LINK_DEPENDS ${map})
+  target_link_options(${LIBRARY} PRIVATE -Wl,--version-script=${map})
+  set_property(GLOBAL APPEND PROPERTY ${LIBRARY}_includes ${CMAKE_CURRENT_SOURCE_DIR}/include)
   get_property(areas GLOBAL PROPERTY ${LIBRARY}_areas)
   if(NOT ARG_ORDER)
     list(TRANSFORM areas REPLACE "^${LIBRARY}_" "" OUTPUT_VARIABLE ARG_ORDER)
@@ -113,8 +129,8 @@ function(velkor_fuzz NAME)
   target_link_libraries(${NAME} PRIVATE ${ARG_LIBRARIES})
   if(VELKOR_FUZZ)
     target_link_options(${NAME} PRIVATE -fsanitize=fuzzer)
-    add_test(NAME ${NAME} COMMAND ${NAME} -runs=2000 -max_total_time=20 ${CMAKE_BINARY_DIR}/corpus/${NAME} ${ARG_CORPUS})
-    file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/corpus/${NAME})
+    add_test(NAME ${NAME} COMMAND ${NAME} -runs=2000 -max_total_time=20 ${PROJECT_BINARY_DIR}/corpus/${NAME} ${ARG_CORPUS})
+    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/corpus/${NAME})
   else()
     target_sources(${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests/fuzz/ReplayMain.cpp)
     add_test(NAME ${NAME} COMMAND ${NAME} ${ARG_CORPUS})

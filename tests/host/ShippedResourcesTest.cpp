@@ -1,7 +1,7 @@
 #include "ConfigurationTestSupport.h"
 #include "DocumentTestSupport.h"
+#include "QORIFCPSetQtoValidationService.h"
 #include "ResourceKinds.h"
-#include "SetDefinitions.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
@@ -23,6 +23,16 @@ json resources(const std::vector<std::string>& more = {}) {
     return json::parse(runHost(words, false, shippedResources).out, nullptr, false);
 }
 
+std::vector<std::string> texts(const std::string& path, const char* xpath) {
+    std::vector<std::string> result;
+    for (const QORIDOMNode_var& node : nodes(path, xpath)) {
+        QORUnicodeString text;
+        EXPECT_EQ(node->GetTextContent(text), S_OK);
+        result.emplace_back(text.utf8());
+    }
+    return result;
+}
+
 std::vector<std::string> sources(const json& resource) {
     std::vector<std::string> result;
     for (const json& folder : resource["folders"]) result.push_back(folder["source"]);
@@ -40,19 +50,20 @@ protected:
 // What else they name is judged as any file's is, with the other resources.
 TEST_F(ShippedResourcesTest, DefinitionsAreReadAndHaveWhatTheAttributeCatalogueNames) {
     const PlatformSetup setup(configuration, [&](const std::string& line) { std::cerr << line << "\n"; });
-    SetDefinitions definitions;
+    auto* service = QORIFCPSetQtoValidationService::getInstance();
     std::size_t files = 0, named = 0;
     for (const auto& file : std::filesystem::directory_iterator(definitionFolder)) {
         ++files;
         const std::string name = file.path().stem();
-        const SetDefinition& definition = definitions.find(name);
-        ASSERT_EQ(definition.state(), SetDefinition::State::Defined) << name;
-        EXPECT_FALSE(definition.classes().empty() || definition.properties().empty()) << name;
-        const std::set<std::string> distinct(definition.properties().begin(), definition.properties().end());
-        EXPECT_EQ(distinct.size(), definition.properties().size()) << name;
-        for (const std::string& property : definition.properties())
-            EXPECT_TRUE(definition.hasProperty(property)) << name << ": " << property;
-        EXPECT_FALSE(definition.hasProperty(name));
+        service->Initialize(name.c_str());
+        EXPECT_FALSE(texts(file.path(), "//ClassName").empty()) << name;
+        std::vector<std::string> properties = texts(file.path(), "//Name");
+        ASSERT_GT(properties.size(), 1U) << name;
+        EXPECT_EQ(std::set<std::string>(properties.begin(), properties.end()).size(), properties.size()) << name;
+        properties.erase(properties.begin());
+        for (const std::string& property : properties)
+            EXPECT_TRUE(service->IsPropertySupported(name.c_str(), property.c_str())) << name << ": " << property;
+        EXPECT_FALSE(service->IsPropertySupported(name.c_str(), name.c_str()));
     }
     EXPECT_GE(files, 20U);
     for (const auto& [level, releases] : {std::pair{"General", std::vector{"IFC2X3", "IFC4", "IFC4X3_ADD2"}},
@@ -66,7 +77,8 @@ TEST_F(ShippedResourcesTest, DefinitionsAreReadAndHaveWhatTheAttributeCatalogueN
                 const auto* entity =
                     (*DXSdaiDictionaryRepo::TheOne().schema(release))->entity(attribute(entry, "Entity"));
                 ASSERT_NE(entity, nullptr) << release << ' ' << attribute(entry, "Entity");
-                EXPECT_TRUE(set.empty() ? entity->attributeIndex(value) >= 0 : definitions.find(set).hasProperty(value))
+                EXPECT_TRUE(set.empty() ? entity->attributeIndex(value) >= 0
+                                        : service->IsPropertySupported(set.c_str(), value.c_str()))
                     << release << ' ' << entity->name() << '.' << value;
             }
         }

@@ -2,13 +2,15 @@
 /// insertion and found by hash key and an equality that the table's user supplies.
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
 namespace velkor::containers {
 
-class EntryTable {
+class VELKOR_PLATFORM_API EntryTable {
 public:
     static constexpr std::int32_t None = -1;
 
@@ -55,8 +57,8 @@ private:
     };
 
     std::size_t bucket(unsigned int key) const noexcept;
-    void link(std::int32_t position) noexcept;
-    void rebuild(std::size_t buckets);
+    VELKOR_PLATFORM_LOCAL void link(std::int32_t position) noexcept;
+    VELKOR_PLATFORM_LOCAL void rebuild(std::size_t buckets);
 
     std::vector<Entry> _entries;
     std::vector<std::int32_t> _heads;

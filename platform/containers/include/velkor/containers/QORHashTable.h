@@ -5,11 +5,12 @@
 #pragma once
 
 #include "velkor/containers/EntryTable.h"
+#include "velkor/PlatformExport.h"
 
 class QORHashTable;
 
 /// Walks a table; stands on its first entry when made.
-class QORHashCodeIter {
+class VELKOR_PLATFORM_API QORHashCodeIter {
 public:
     explicit QORHashCodeIter(const QORHashTable& table) noexcept;
     bool AtEnd() const noexcept;
@@ -22,7 +23,7 @@ private:
     int _place = 0;
 };
 
-class QORHashTable {
+class VELKOR_PLATFORM_API QORHashTable {
 public:
     using HashFunction = unsigned int (*)(void* entry);
     /// 0 when two entries are the same entry.
@@ -110,7 +111,7 @@ private:
     using Comparison = Callable<int (*)(AnyFunction, void*, void*)>;
 
     QORHashTable(Hash hash, Comparison compare, int dimension, void* extra);
-    std::int32_t position(void* pattern) const;
+    VELKOR_PLATFORM_LOCAL std::int32_t position(void* pattern) const;
 
     // First, so that an assignment that fails has changed nothing.
     velkor::containers::EntryTable _entries;

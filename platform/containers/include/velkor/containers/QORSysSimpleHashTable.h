@@ -2,8 +2,9 @@
 #pragma once
 
 #include "velkor/containers/EntryTable.h"
+#include "velkor/PlatformExport.h"
 
-class QORSysSimpleHashTable {
+class VELKOR_PLATFORM_API QORSysSimpleHashTable {
 public:
     using HashFunction = unsigned int (*)(void* entry);
     /// 1 when two entries are the same entry.
@@ -33,7 +34,7 @@ public:
     void* Next(void* entry) const;
 
 private:
-    std::int32_t position(void* pattern) const;
+    VELKOR_PLATFORM_LOCAL std::int32_t position(void* pattern) const;
 
     HashFunction _hash;
     EqualityFunction _equal;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "velkor/exchangelog/QORExchangeErr.h"
+#include "velkor/PlatformExport.h"
 
 #include <string>
 #include <vector>
@@ -14,7 +15,7 @@ struct Message {
     int kind = 0;
 };
 
-class MessageLog : public QORExchangeErr {
+class VELKOR_PLATFORM_API MessageLog : public QORExchangeErr {
 public:
     explicit MessageLog(int level) : _level(level) {}
 

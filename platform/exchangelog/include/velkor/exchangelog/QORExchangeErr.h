@@ -1,12 +1,13 @@
 /// The host's exchange log: the report it keeps for one data exchange.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORString.h"
 #include "velkor/text/QORUnicodeString.h"
 
 /// A log that a host provides. A message carries a level; one whose level is above the log's
 /// current level is not meant to be written.
-class QORExchangeErr {
+class VELKOR_PLATFORM_API QORExchangeErr {
 public:
     virtual ~QORExchangeErr() = default;
     virtual int GetCurLevel() const = 0;
@@ -21,12 +22,12 @@ public:
 };
 
 /// The log of the exchange under way; null when there is none. The log belongs to the host.
-QORExchangeErr* GetExchangeErr();
+VELKOR_PLATFORM_API QORExchangeErr* GetExchangeErr();
 
 namespace velkor::exchangelog {
 
 /// Makes a log the current one; null ends the exchange. The caller keeps the log alive meanwhile,
 /// and as long as a library may have cached it.
-void setExchangeErr(QORExchangeErr* log);
+VELKOR_PLATFORM_API void setExchangeErr(QORExchangeErr* log);
 
 } // namespace velkor::exchangelog

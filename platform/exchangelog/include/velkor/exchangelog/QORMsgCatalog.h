@@ -1,10 +1,11 @@
 /// Catalogues of message texts: a host fills them, messages are built by catalogue and key.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORString.h"
 #include "velkor/text/QORUnicodeString.h"
 
-class QORMsgCatalog {
+class VELKOR_PLATFORM_API QORMsgCatalog {
 public:
     /// The text of `key` in `catalogue`, or `defaultText` when there is none, with "/P1", "/P2" …
     /// replaced by the parameters. `params` may be null when the count is 0. When `status` is given

@@ -7,10 +7,11 @@
 
 #include "velkor/objectmodeler/ComponentMacros.h"
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORString.h"
 #include "velkor/text/QORUnicodeString.h"
 
-class QORIExchangeAECServices : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIExchangeAECServices : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

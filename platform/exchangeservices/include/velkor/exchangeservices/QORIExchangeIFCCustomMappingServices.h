@@ -4,9 +4,10 @@
 
 #include "velkor/objectmodeler/ComponentMacros.h"
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 
-class QORIExchangeIFCCustomMappingServices : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIExchangeIFCCustomMappingServices : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

@@ -6,6 +6,7 @@
 
 #include "velkor/objectmodeler/ComponentMacros.h"
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORListValQORUnicodeString.h"
 
 /// Answers of mapping services: successes with a meaning.
@@ -17,7 +18,7 @@ inline constexpr HRESULT IFC_MAPPING_DEPRECATED_PROPERTY = 0x1005;
 inline constexpr HRESULT IFC_MAPPING_INTRODUCED_ENTITY = 0x1006;
 inline constexpr HRESULT IFC_MAPPING_INTRODUCED_PROPERTY = 0x1007;
 
-class QORIExchangeIFCMappingServices : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIExchangeIFCMappingServices : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

@@ -4,9 +4,10 @@
 
 #include "velkor/objectmodeler/ComponentMacros.h"
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 
-class QORIExchangeIFCPLMAttributesMappingServices : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIExchangeIFCPLMAttributesMappingServices : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "velkor/files/OpenError.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 
 #include <cstddef>
@@ -13,11 +14,12 @@ namespace velkor::files {
 
 /// The bytes of a regular file, the first `most` of a longer one; the path is as the system takes it. The message
 /// says in a few words why it cannot be read.
-tl::expected<std::string, OpenError> readFile(const std::string& path, std::size_t most);
+VELKOR_PLATFORM_API tl::expected<std::string, OpenError> readFile(const std::string& path, std::size_t most);
 
 /// Puts bytes in place of what a file holds, or makes the file, with the permissions it had. Whoever
 /// reads it meanwhile sees the old file or the new one; when something fails, the old one stays. The message
 /// says in a few words why.
-[[nodiscard]] tl::expected<void, OpenError> replaceFile(const QORUnicodeString& path, std::string_view bytes);
+[[nodiscard]] VELKOR_PLATFORM_API tl::expected<void, OpenError> replaceFile(const QORUnicodeString& path,
+                                                                            std::string_view bytes);
 
 } // namespace velkor::files

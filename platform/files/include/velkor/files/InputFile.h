@@ -2,6 +2,7 @@
 #pragma once
 
 #include "velkor/files/OpenError.h"
+#include "velkor/PlatformExport.h"
 
 #include <cstddef>
 #include <string>
@@ -9,7 +10,7 @@
 
 namespace velkor::files {
 
-class InputFile {
+class VELKOR_PLATFORM_API InputFile {
 public:
     /// Opens a file by a path as the system takes it. What is no regular file is refused without being read: a
     /// pipe may never end. The message says why in a few words, for example "is no regular file".

@@ -3,6 +3,8 @@
 ///     if (!model && model.error().code == files::OpenError::Code::Missing) askAgain();
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <cstdint>
 #include <string>
 
@@ -37,6 +39,6 @@ struct OpenError {
 };
 
 /// What an error number of the system means.
-OpenError systemError(int number);
+VELKOR_PLATFORM_API OpenError systemError(int number);
 
 } // namespace velkor::files

@@ -2,17 +2,19 @@
 #pragma once
 
 #include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 
 #include <string>
 
 /// Takes a path apart at its last separator: what stands before it, and the name behind it. S_OK; E_FAIL and
 /// empty outputs when no name stands behind it. A path without a separator has an empty directory.
-HRESULT QORSplitPath(const QORUnicodeString& path, QORUnicodeString& directory, QORUnicodeString& file);
+VELKOR_PLATFORM_API HRESULT QORSplitPath(const QORUnicodeString& path, QORUnicodeString& directory,
+                                         QORUnicodeString& file);
 
 namespace velkor::files {
 
 /// The path as the system's calls take it.
-std::string nativePath(const QORUnicodeString& path);
+VELKOR_PLATFORM_API std::string nativePath(const QORUnicodeString& path);
 
 } // namespace velkor::files

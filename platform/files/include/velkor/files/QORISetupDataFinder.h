@@ -5,13 +5,14 @@
 #include "velkor/containers/QORListVal.h"
 #include "velkor/objectmodeler/ComponentMacros.h"
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORListValQORUnicodeString.h"
 #include "velkor/text/QORUnicodeString.h"
 
 #include <unordered_map>
 
 /// One of the resources that a key leads to.
-class QORIKweAppResourceSubItem : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIKweAppResourceSubItem : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
@@ -21,7 +22,7 @@ public:
 using QORIKweAppResourceSubItem_var = QORInterface_var<QORIKweAppResourceSubItem>;
 using QORListValQORIKweAppResourceSubItem_var = QORListVal<QORIKweAppResourceSubItem_var>;
 
-class QORISetupDataFinder : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORISetupDataFinder : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
@@ -33,7 +34,7 @@ public:
 };
 using QORISetupDataFinder_var = QORInterface_var<QORISetupDataFinder>;
 
-class QORSetupDataGlobalFunctions {
+class VELKOR_PLATFORM_API QORSetupDataGlobalFunctions {
 public:
     /// The host's finder; empty when it has none.
     static QORISetupDataFinder_var GetSetupDataFinder();
@@ -42,7 +43,7 @@ public:
 namespace velkor::files {
 
 /// A finder over a table of keys.
-class SetupData final : public QORISetupDataFinder {
+class VELKOR_PLATFORM_API SetupData final : public QORISetupDataFinder {
     VELKOR_DECLARE_CLASS
 
 public:
@@ -58,6 +59,6 @@ private:
 };
 
 /// Makes a finder the host's; an empty one takes it away.
-void setSetupDataFinder(const QORISetupDataFinder_var& finder);
+VELKOR_PLATFORM_API void setSetupDataFinder(const QORISetupDataFinder_var& finder);
 
 } // namespace velkor::files

@@ -8,12 +8,13 @@
 #pragma once
 
 #include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORListValQORUnicodeString.h"
 #include "velkor/text/QORUnicodeString.h"
 
 #include <cstddef>
 
-class QORSysRTVWalker {
+class VELKOR_PLATFORM_API QORSysRTVWalker {
 public:
     /// Goes one folder down from where the walk stands. To be called before the first GetNext.
     void AppendRTVSubDir(const QORUnicodeString& name);
@@ -34,7 +35,7 @@ private:
 namespace velkor::files {
 
 /// The folders of the runtime view, the first one strongest. None until a host says so.
-void setRuntimeView(const QORListValQORUnicodeString& folders);
-QORListValQORUnicodeString runtimeView();
+VELKOR_PLATFORM_API void setRuntimeView(const QORListValQORUnicodeString& folders);
+VELKOR_PLATFORM_API QORListValQORUnicodeString runtimeView();
 
 } // namespace velkor::files

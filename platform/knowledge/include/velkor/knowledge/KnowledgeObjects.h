@@ -2,6 +2,7 @@
 #pragma once
 
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 
 #include <string>
@@ -15,7 +16,7 @@ using Attributes = std::vector<std::pair<std::string, std::string>>;
 
 /// An occurrence (QORIPLMNavOccurrence, QORIVleObject) of a new object (QORIInstance, QORIVleObject) of a
 /// type, with knowledge attributes. The type need not be known to the type dictionary.
-QORBaseUnknown_var makeOccurrence(const std::string& typeName, Attributes attributes);
+VELKOR_PLATFORM_API QORBaseUnknown_var makeOccurrence(const std::string& typeName, Attributes attributes);
 
 struct ExchangeDescription {
     std::string identifier;
@@ -28,6 +29,6 @@ struct ExchangeDescription {
 
 /// An exchange object (QORIExchangeObject, QORIExchangeUserProperties). Names of properties are handed out in
 /// upper case.
-QORBaseUnknown_var makeExchangeObject(ExchangeDescription description, Attributes properties);
+VELKOR_PLATFORM_API QORBaseUnknown_var makeExchangeObject(ExchangeDescription description, Attributes properties);
 
 } // namespace velkor::knowledge

@@ -3,10 +3,11 @@
 
 #include "velkor/objectmodeler/ComponentMacros.h"
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORListValQORUnicodeString.h"
 #include "velkor/text/QORUnicodeString.h"
 
-class QORIExchangeObject : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIExchangeObject : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
@@ -22,7 +23,7 @@ public:
 using QORIExchangeObject_var = QORInterface_var<QORIExchangeObject>;
 
 /// The properties that an exchange object carries.
-class QORIExchangeUserProperties : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIExchangeUserProperties : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

@@ -2,8 +2,9 @@
 #pragma once
 
 #include "velkor/knowledge/QORIType.h"
+#include "velkor/PlatformExport.h"
 
-class QORIInstance : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIInstance : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

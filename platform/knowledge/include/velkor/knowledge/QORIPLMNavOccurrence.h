@@ -3,8 +3,9 @@
 
 #include "velkor/objectmodeler/ComponentMacros.h"
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 
-class QORIPLMNavOccurrence : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIPLMNavOccurrence : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

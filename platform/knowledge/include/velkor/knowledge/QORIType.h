@@ -3,9 +3,10 @@
 
 #include "velkor/objectmodeler/ComponentMacros.h"
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 
-class QORIType : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIType : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

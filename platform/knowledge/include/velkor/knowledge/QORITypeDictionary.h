@@ -3,9 +3,10 @@
 
 #include "velkor/objectmodeler/ComponentMacros.h"
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORListValQORUnicodeString.h"
 
-class QORITypeDictionary : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORITypeDictionary : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
@@ -14,7 +15,7 @@ public:
 };
 using QORITypeDictionary_var = QORInterface_var<QORITypeDictionary>;
 
-class QORGlobalFunctions {
+class VELKOR_PLATFORM_API QORGlobalFunctions {
 public:
     /// Empty when the host has made no types known.
     static QORITypeDictionary_var GetTypeDictionary();

@@ -3,9 +3,10 @@
 
 #include "velkor/objectmodeler/ComponentMacros.h"
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 
-class QORIVleObject : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIVleObject : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
@@ -14,7 +15,7 @@ public:
 };
 using QORIVleObject_var = QORInterface_var<QORIVleObject>;
 
-class QORVleObjectAttrReadServices {
+class VELKOR_PLATFORM_API QORVleObjectAttrReadServices {
 public:
     /// The value of a knowledge attribute in words. E_UNEXPECTED for an empty object; the object's failures are passed
     /// on.

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "velkor/knowledge/QORIType.h"
+#include "velkor/PlatformExport.h"
 
 #include <string>
 #include <string_view>
@@ -23,13 +24,13 @@ struct TypeDescription {
 
 /// Makes a type known; from the first one on there is a type dictionary. Nothing, and false, when there is one
 /// of its name already.
-bool addType(const TypeDescription& type);
+VELKOR_PLATFORM_API bool addType(const TypeDescription& type);
 /// Takes all types and the dictionary away. Types that somebody holds stay usable but are unknown.
-void removeTypes();
+VELKOR_PLATFORM_API void removeTypes();
 
 /// A known type of either kind; empty when there is none.
-QORIType_var typeNamed(std::string_view name);
+VELKOR_PLATFORM_API QORIType_var typeNamed(std::string_view name);
 /// True when the type is the other or derived from it.
-bool isDerivedFrom(std::string_view type, std::string_view ancestor);
+VELKOR_PLATFORM_API bool isDerivedFrom(std::string_view type, std::string_view ancestor);
 
 } // namespace velkor::knowledge

@@ -2,13 +2,15 @@
 /// stops anything.
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
 
 /// Reports a failed assertion in a source unit. Any thread may call it. `message`, which may be null,
 /// is copied.
-void __OmyAssertionFailed(const char* sourceUnit, int line, const char* message = nullptr);
+VELKOR_PLATFORM_API void __OmyAssertionFailed(const char* sourceUnit, int line, const char* message = nullptr);
 
 /// Reports the source unit, by its path in the project, and the line it stands on.
 #define VELKOR_ASSERTION_FAILED() __OmyAssertionFailed(VELKOR_SOURCE_UNIT, __LINE__)
@@ -26,9 +28,9 @@ struct AssertionReport {
 };
 
 /// Reports since the process began or since clearAssertionReports().
-std::uint64_t assertionCount() noexcept;
+VELKOR_PLATFORM_API std::uint64_t assertionCount() noexcept;
 /// The last reports, oldest first; at most 1,000 are kept.
-std::vector<AssertionReport> assertionReports();
-void clearAssertionReports() noexcept;
+VELKOR_PLATFORM_API std::vector<AssertionReport> assertionReports();
+VELKOR_PLATFORM_API void clearAssertionReports() noexcept;
 
 } // namespace velkor::objectmodeler

@@ -3,6 +3,8 @@
 /// table was not as it has to be. Off until started; then each call is one line of text.
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,13 +12,13 @@
 namespace velkor::objectmodeler {
 
 /// Starts with an empty record.
-void startRecording();
-void stopRecording();
-std::vector<std::string> recordedCalls();
+VELKOR_PLATFORM_API void startRecording();
+VELKOR_PLATFORM_API void stopRecording();
+VELKOR_PLATFORM_API std::vector<std::string> recordedCalls();
 
 /// True while recording; asked before a line is put together.
-bool isRecording() noexcept;
+VELKOR_PLATFORM_API bool isRecording() noexcept;
 /// Adds a line, when recording.
-void recordCall(std::string_view line);
+VELKOR_PLATFORM_API void recordCall(std::string_view line);
 
 } // namespace velkor::objectmodeler

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 
 #include <string>
 #include <string_view>
@@ -13,15 +14,15 @@
 namespace velkor::objectmodeler {
 
 /// A new component by its creation name; empty when no loaded library has one of the name.
-QORBaseUnknown_var createComponent(std::string_view creationName);
+VELKOR_PLATFORM_API QORBaseUnknown_var createComponent(std::string_view creationName);
 
 /// An extension of `object` that has the interface, with a reference that the caller releases; null
 /// when no loaded library offers one. What QueryInterface answers with for interfaces that the
 /// object does not have itself.
-void* extendObject(QORBaseUnknown& object, const IID& interfaceId);
+VELKOR_PLATFORM_API void* extendObject(QORBaseUnknown& object, const IID& interfaceId);
 
 /// Identifier of an interface that a loaded library registered or gives objects; null for no such.
-const IID* interfaceIdOf(std::string_view interfaceName);
+VELKOR_PLATFORM_API const IID* interfaceIdOf(std::string_view interfaceName);
 
 /// One registration as it was made.
 struct RegisteredClass {
@@ -31,6 +32,6 @@ struct RegisteredClass {
     std::string creationName;
 };
 /// All registrations of the libraries loaded, in order.
-std::vector<RegisteredClass> registeredClasses();
+VELKOR_PLATFORM_API std::vector<RegisteredClass> registeredClasses();
 
 } // namespace velkor::objectmodeler

@@ -10,6 +10,7 @@
 #pragma once
 
 #include "velkor/objectmodeler/Tie.h"
+#include "velkor/PlatformExport.h"
 
 #include <atomic>
 #include <new>
@@ -60,7 +61,7 @@ public:                                                                         
     int IsAKindOf(const char* className) const override;                                                               \
                                                                                                                        \
 private:                                                                                                               \
-    static std::atomic<QORMetaClass*> _metaClass;
+    VELKOR_PLATFORM_LOCAL static std::atomic<QORMetaClass*> _metaClass;
 
 #define VELKOR_IMPLEMENT_CLASS_OPERATIONS(Class)                                                                       \
     std::atomic<QORMetaClass*> Class::_metaClass = nullptr;                                                            \

@@ -1,6 +1,8 @@
 /// Callbacks that release a library's process-wide objects when it is unloaded.
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <vector>
 
 namespace vrn::internal::v1::exit_callback {
@@ -21,10 +23,10 @@ struct list {
 using registrar = void (*)();
 
 /// Adds a callback. The first one of a list runs the registrar.
-void do_register(callback function, int order, registrar registerCall, list& callbacks);
+VELKOR_PLATFORM_API void do_register(callback function, int order, registrar registerCall, list& callbacks);
 
 /// Runs each callback of the list once, those of the lowest order first, in the order of their
 /// registration, and empties the list. Each gets its order number.
-void call(list& callbacks);
+VELKOR_PLATFORM_API void call(list& callbacks);
 
 } // namespace vrn::internal::v1::exit_callback

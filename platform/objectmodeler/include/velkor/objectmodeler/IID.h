@@ -1,6 +1,8 @@
 /// Identifiers of interfaces and classes.
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <array>
 #include <compare>
 #include <cstdint>
@@ -21,10 +23,10 @@ struct IID {
 namespace velkor::objectmodeler {
 
 /// "{2C7255B3-EC9B-4988-8136-1537A27D1FC7}".
-std::string text(const IID& id);
+VELKOR_PLATFORM_API std::string text(const IID& id);
 
 /// The identifier of a class that states none: made from its name, so that it is the same in every
 /// process.
-IID idFromName(std::string_view name) noexcept;
+VELKOR_PLATFORM_API IID idFromName(std::string_view name) noexcept;
 
 } // namespace velkor::objectmodeler

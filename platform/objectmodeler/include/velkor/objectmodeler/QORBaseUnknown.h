@@ -3,13 +3,14 @@
 
 #include "velkor/objectmodeler/QORMetaClass.h"
 #include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/PlatformExport.h"
 
 #include <atomic>
 #include <cstddef>
 #include <new>
 
 /// The first three operations of every component.
-class IUnknown {
+class VELKOR_PLATFORM_API IUnknown {
 public:
     /// The interface of an identifier, with a reference of its own that the caller releases. S_OK, or
     /// E_NOINTERFACE and a null pointer.
@@ -24,7 +25,7 @@ protected:
 };
 
 /// Late-bound calls, which no component of this platform offers: every operation gives E_NOTIMPL.
-class IDispatch : public IUnknown {
+class VELKOR_PLATFORM_API IDispatch : public IUnknown {
 public:
     virtual HRESULT GetTypeInfoCount(unsigned int* count) = 0;
     virtual HRESULT GetTypeInfo(unsigned int index, unsigned long locale, void** typeInfo) = 0;
@@ -42,7 +43,7 @@ enum class ComponentState : int { Created, Initialized, Removed };
 
 /// An object is made with one reference, which belongs to whoever made it. The order of the virtual
 /// operations is part of the contract; operations of interfaces follow behind.
-class QORBaseUnknown : public IDispatch {
+class VELKOR_PLATFORM_API QORBaseUnknown : public IDispatch {
 public:
     QORBaseUnknown() noexcept = default;
     /// A copy is an object of its own: references are not copied.

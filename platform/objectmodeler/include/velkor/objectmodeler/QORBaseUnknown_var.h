@@ -3,17 +3,18 @@
 
 #include "velkor/containers/QORListVal.h"
 #include "velkor/objectmodeler/QORBaseUnknown.h"
+#include "velkor/PlatformExport.h"
 
 #include <stdexcept>
 #include <utility>
 
 /// What dereferencing an empty smart pointer throws.
-class QORNullVarError : public std::logic_error {
+class VELKOR_PLATFORM_API QORNullVarError : public std::logic_error {
 public:
     QORNullVarError() : std::logic_error("an empty component pointer was dereferenced") {}
 };
 
-class QORBaseUnknown_var {
+class VELKOR_PLATFORM_API QORBaseUnknown_var {
 public:
     QORBaseUnknown_var() noexcept = default;
     /// Adds a reference to `object`, which may be null.

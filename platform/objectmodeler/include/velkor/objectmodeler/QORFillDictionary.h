@@ -3,6 +3,7 @@
 #pragma once
 
 #include "velkor/objectmodeler/QORBaseUnknown.h"
+#include "velkor/PlatformExport.h"
 
 /// Makes an extension: gets the object to extend and a second object that the object modeler
 /// supplies, gives the interface with a reference that the caller releases, or null.
@@ -10,7 +11,7 @@ using QORExtensionFactory = IUnknown* (*)(QORBaseUnknown* object, QORBaseUnknown
 /// Makes a new component with one reference; null when there is no storage.
 using QORCreationFunction = QORBaseUnknown* (*)();
 
-class QORFillDictionary {
+class VELKOR_PLATFORM_API QORFillDictionary {
 public:
     /// `factory` makes `implementation`, which gives objects the interface. The second function is
     /// unused by components of this kind (null), `mode` is 1 for an extension made on demand.

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "velkor/objectmodeler/IID.h"
+#include "velkor/PlatformExport.h"
 
 #include <atomic>
 #include <cstddef>
@@ -17,7 +18,7 @@ enum ENUMTypeOfClass : int {
     TypeOfTie = 6,
 };
 
-class QORMetaClass {
+class VELKOR_PLATFORM_API QORMetaClass {
 public:
     QORMetaClass(const QORMetaClass&) = delete;
     QORMetaClass& operator=(const QORMetaClass&) = delete;
@@ -59,7 +60,7 @@ namespace vrn::internal {
 
 /// The lock under which metaclasses are made. One thread may take it several times, since making a
 /// class's metaclass asks for its parent's.
-class om_guard {
+class VELKOR_PLATFORM_API om_guard {
 public:
     om_guard();
     ~om_guard();
@@ -68,25 +69,26 @@ public:
 };
 
 /// The metaclass of an implementation: the one already there for the class name, or a new one.
-QORMetaClass* fct_RetrieveMetaObject(const char* className, ENUMTypeOfClass kind, QORMetaClass* parent,
-                                     const char* extendedClassName, const char* frameworkName,
-                                     std::size_t instanceSize);
+VELKOR_PLATFORM_API QORMetaClass* fct_RetrieveMetaObject(const char* className, ENUMTypeOfClass kind,
+                                                         QORMetaClass* parent, const char* extendedClassName,
+                                                         const char* frameworkName, std::size_t instanceSize);
 
 /// The metaclass of an interface. To be followed by the epilog, which makes it known by identifier.
-QORMetaClass* fct_InitMetaObjectItf(const IID& id, QORMetaClass* parent, const char* interfaceName,
-                                    const char* frameworkName);
-void fct_InitMetaObjectItfEpilog(QORMetaClass* metaClass, const char* frameworkName, const IID& id);
+VELKOR_PLATFORM_API QORMetaClass* fct_InitMetaObjectItf(const IID& id, QORMetaClass* parent, const char* interfaceName,
+                                                        const char* frameworkName);
+VELKOR_PLATFORM_API void fct_InitMetaObjectItfEpilog(QORMetaClass* metaClass, const char* frameworkName, const IID& id);
 
 /// The metaclass of the TIE of an interface on an implementation.
-QORMetaClass* Tie_InitMetaObject(QORMetaClass* implementation, QORMetaClass* interface, ENUMTypeOfClass kind);
+VELKOR_PLATFORM_API QORMetaClass* Tie_InitMetaObject(QORMetaClass* implementation, QORMetaClass* interface,
+                                                     ENUMTypeOfClass kind);
 
 } // namespace vrn::internal
 
 namespace velkor::objectmodeler {
 
 /// A metaclass by class name, or an interface's by identifier; null when none was made.
-QORMetaClass* metaClass(std::string_view className);
-QORMetaClass* metaClass(const IID& interfaceId);
+VELKOR_PLATFORM_API QORMetaClass* metaClass(std::string_view className);
+VELKOR_PLATFORM_API QORMetaClass* metaClass(const IID& interfaceId);
 
 /// The metaclass in `slot`, made by `make` under the object modeler's lock when there is none yet.
 template <typename Make>

@@ -3,6 +3,8 @@
 /// asked something. Destroying the module object takes every registration back.
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 /// One entry of a registration table: makes one registration and gives the module object's address.
 using QOROMRegistration = void* (*)();
 
@@ -12,7 +14,7 @@ struct QOROMModuleInfo {
     const QOROMRegistration* trailingEntry;
 };
 
-class QOROMModule {
+class VELKOR_PLATFORM_API QOROMModule {
 public:
     explicit QOROMModule(const QOROMModuleInfo& info);
     ~QOROMModule();

@@ -2,13 +2,14 @@
 /// until the model is closed, and the same instance always has the same address.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/sdai/Value.h"
 
 #include <cstdint>
 #include <memory>
 #include <string_view>
 
-class DXSdaiAppInstance {
+class VELKOR_PLATFORM_API DXSdaiAppInstance {
 public:
     DXSdaiAppInstance(const DXSdaiAppInstance&) = delete;
     DXSdaiAppInstance& operator=(const DXSdaiAppInstance&) = delete;
@@ -34,9 +35,9 @@ public:
 private:
     friend class velkor::sdai::Model;
     DXSdaiAppInstance() = default;
-    std::string_view parameter(std::size_t index) const;
-    velkor::sdai::Primitive complexAttribute(std::string_view attributeName) const;
-    std::size_t memoryUse() const noexcept;
+    VELKOR_PLATFORM_LOCAL std::string_view parameter(std::size_t index) const;
+    VELKOR_PLATFORM_LOCAL velkor::sdai::Primitive complexAttribute(std::string_view attributeName) const;
+    VELKOR_PLATFORM_LOCAL std::size_t memoryUse() const noexcept;
 
     const velkor::sdai::Model* _model = nullptr;
     const velkor::sdai::EntityDefinition* _entity = nullptr;

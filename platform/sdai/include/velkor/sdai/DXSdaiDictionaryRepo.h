@@ -9,6 +9,7 @@
 #pragma once
 
 #include "velkor/files/OpenError.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/sdai/Dictionary.h"
 #include "velkor/sdai/DXSdaiString.h"
 
@@ -20,7 +21,7 @@
 #include <tl/expected.hpp>
 #include <vector>
 
-class DXSdaiDictionaryRepo {
+class VELKOR_PLATFORM_API DXSdaiDictionaryRepo {
 public:
     using Loader = void (*)();
     using SchemaPointer = std::shared_ptr<const velkor::sdai::SchemaDefinition>;
@@ -65,8 +66,8 @@ public:
 
 private:
     friend class QORDXSdaiSchemaRestore;
-    DXSdaiDictionaryRepo();
-    ~DXSdaiDictionaryRepo();
+    VELKOR_PLATFORM_LOCAL DXSdaiDictionaryRepo();
+    VELKOR_PLATFORM_LOCAL ~DXSdaiDictionaryRepo();
     struct State;
     struct Release;
     std::unique_ptr<State> _state;

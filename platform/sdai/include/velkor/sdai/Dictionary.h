@@ -9,6 +9,8 @@
 ///     for (const AttributeSlot& slot : wall->attributes()) print(slot.attribute->name());
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -48,7 +50,7 @@ enum class TypeKind : std::uint8_t {
 using NameTable = std::span<const std::uint16_t>;
 
 /// What an attribute, an aggregate element or a select item is of.
-class Type {
+class VELKOR_PLATFORM_API Type {
 public:
     TypeKind kind() const noexcept { return _kind; }
     bool isSimple() const noexcept { return _kind <= TypeKind::Binary; }
@@ -111,7 +113,7 @@ private:
 
 /// The enumeration under a defined type. Positions count from 0 in schema order, texts are
 /// asked for by position + 1 (`text`), as the SDAI runtime counts.
-class EnumerationType : public Type {
+class VELKOR_PLATFORM_API EnumerationType : public Type {
 public:
     std::span<const std::string_view> values() const noexcept { return _values; }
     /// The defined type that names this enumeration.
@@ -131,7 +133,7 @@ private:
     const SchemaDefinition* _schema = nullptr;
 };
 
-class SelectType : public Type {
+class VELKOR_PLATFORM_API SelectType : public Type {
 public:
     /// The items as the schema lists them: defined types and entities.
     std::span<const Type* const> items() const noexcept { return _items; }
@@ -206,7 +208,7 @@ struct UniquenessRule {
     std::span<const Attribute* const> attributes;
 };
 
-class EntityDefinition : public Type {
+class VELKOR_PLATFORM_API EntityDefinition : public Type {
 public:
     std::string_view name() const noexcept { return _name; }
     const SchemaDefinition& schema() const noexcept { return *_schema; }
@@ -243,7 +245,7 @@ private:
     friend class SchemaBuilder;
     EntityDefinition() noexcept : Type(TypeKind::Entity) {}
     // Position of a name in _slots followed by _derived; -1 when unknown.
-    int place(std::string_view name, std::uint32_t hash) const noexcept;
+    VELKOR_PLATFORM_LOCAL int place(std::string_view name, std::uint32_t hash) const noexcept;
     bool _abstract = false;
     std::uint32_t _position = 0;
     friend class SelectType;
@@ -276,7 +278,7 @@ struct SchemaCounts {
     int entitiesStatements = 0;
 };
 
-class SchemaDefinition {
+class VELKOR_PLATFORM_API SchemaDefinition {
 public:
     virtual ~SchemaDefinition() = default;
     SchemaDefinition(const SchemaDefinition&) = delete;

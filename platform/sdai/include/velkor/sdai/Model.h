@@ -5,6 +5,7 @@
 ///     for (DXSdaiAppInstance* wall : (*model)->instancesOf("IFCWALL")) …
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/sdai/DXSdaiAppInstance.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
 #include "velkor/sdai/Part21File.h"
@@ -21,7 +22,7 @@ namespace velkor::sdai {
 
 /// Reading an attribute remembers where the instance's parameters stand: one thread at a time may use
 /// a model, different models are independent.
-class Model {
+class VELKOR_PLATFORM_API Model {
 public:
     /// The message of an error names the file and says why it cannot be read, or which schemas there are when the
     /// file's is none of them.
@@ -74,8 +75,8 @@ private:
     static constexpr std::uint32_t pageSize = 64;
     using Page = std::unique_ptr<DXSdaiAppInstance[]>;
 
-    Model(std::unique_ptr<Part21File> file, DXSdaiDictionaryRepo::SchemaPointer schema);
-    Page makePage(std::uint32_t first) const;
+    VELKOR_PLATFORM_LOCAL Model(std::unique_ptr<Part21File> file, DXSdaiDictionaryRepo::SchemaPointer schema);
+    VELKOR_PLATFORM_LOCAL Page makePage(std::uint32_t first) const;
 
     std::unique_ptr<Part21File> _file;
     DXSdaiDictionaryRepo::SchemaPointer _schema;

@@ -11,6 +11,7 @@
 #pragma once
 
 #include "velkor/files/OpenError.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/sdai/Problem.h"
 
 #include <cstddef>
@@ -42,7 +43,7 @@ struct FileHeader {
 /// Which instructions the index scan uses. Automatic picks the widest the processor has.
 enum class ScanPath : std::uint8_t { Automatic, Portable, Sse2, Avx2, Avx512 };
 
-class Part21File {
+class VELKOR_PLATFORM_API Part21File {
 public:
     /// Keyword number of an instance that is a complex (external) mapping: "#1=(A()B());".
     static constexpr std::uint16_t complexKeyword = 0xFFFE;
@@ -106,9 +107,9 @@ public:
 
 private:
     struct State;
-    explicit Part21File(std::unique_ptr<State> state);
-    static tl::expected<std::unique_ptr<Part21File>, files::OpenError> read(std::unique_ptr<State> state,
-                                                                            ScanPath path);
+    VELKOR_PLATFORM_LOCAL explicit Part21File(std::unique_ptr<State> state);
+    VELKOR_PLATFORM_LOCAL static tl::expected<std::unique_ptr<Part21File>, files::OpenError>
+    read(std::unique_ptr<State> state, ScanPath path);
     std::unique_ptr<State> _state;
 };
 

@@ -8,6 +8,8 @@
 /// two characters alone; print control directives between tokens count as white space.
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -39,7 +41,7 @@ struct Token {
     std::string_view text;
 };
 
-class Part21Lexer {
+class VELKOR_PLATFORM_API Part21Lexer {
 public:
     explicit Part21Lexer(std::string_view text) noexcept : _next(text.data()), _end(text.data() + text.size()) {}
 
@@ -57,14 +59,14 @@ public:
     bool skipParameter() noexcept;
 
 private:
-    void skipSeparators() noexcept;
-    bool skipComment() noexcept;
-    Token token(TokenKind kind, const char* end) noexcept;
-    Token badRun() noexcept;
-    Token number() noexcept;
-    Token string() noexcept;
-    Token binary() noexcept;
-    Token enumeration() noexcept;
+    VELKOR_PLATFORM_LOCAL void skipSeparators() noexcept;
+    VELKOR_PLATFORM_LOCAL bool skipComment() noexcept;
+    VELKOR_PLATFORM_LOCAL Token token(TokenKind kind, const char* end) noexcept;
+    VELKOR_PLATFORM_LOCAL Token badRun() noexcept;
+    VELKOR_PLATFORM_LOCAL Token number() noexcept;
+    VELKOR_PLATFORM_LOCAL Token string() noexcept;
+    VELKOR_PLATFORM_LOCAL Token binary() noexcept;
+    VELKOR_PLATFORM_LOCAL Token enumeration() noexcept;
 
     const char* _next;
     const char* _end;
@@ -76,15 +78,15 @@ private:
 /// directives \S\, \P.\, \X\, \X2\ and \X4\, surrogate pairs and hexadecimal digits in lower
 /// case included. What is not a valid directive stands as it is written; bytes that are not
 /// UTF-8 are taken as ISO 8859-1. `error`, when given, receives the first violation in words.
-std::string decodeString(std::string_view token, std::string* error = nullptr);
+VELKOR_PLATFORM_API std::string decodeString(std::string_view token, std::string* error = nullptr);
 
 /// A Real or Integer token's value. Also reads what some writers put in place of numbers that
 /// their printf could not write ("1.#INF", "-1.#IND"); those are Bad tokens. False when the
 /// text is no number.
-bool decodeReal(std::string_view token, double& value) noexcept;
+VELKOR_PLATFORM_API bool decodeReal(std::string_view token, double& value) noexcept;
 /// False when the text is no integer or does not fit.
-bool decodeInteger(std::string_view token, std::int64_t& value) noexcept;
+VELKOR_PLATFORM_API bool decodeInteger(std::string_view token, std::int64_t& value) noexcept;
 /// An InstanceName token's number; 0, which no instance has, when it needs more than 64 bits.
-std::uint64_t decodeInstanceName(std::string_view token) noexcept;
+VELKOR_PLATFORM_API std::uint64_t decodeInstanceName(std::string_view token) noexcept;
 
 } // namespace velkor::sdai

@@ -1,6 +1,7 @@
 /// Judges every instance of a model against its dictionary.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/sdai/Model.h"
 #include "velkor/sdai/SyntaxCheck.h"
 
@@ -25,7 +26,7 @@ struct PopulationCheckOptions {
 /// attributes, missing required values, bounds of aggregates, lengths of texts, dangling
 /// references and references to the wrong entity, unknown enumerators. Problems in file order.
 /// Damage to the exchange structure itself is checkSyntax's; a value that is no token is passed over.
-std::vector<Problem> checkPopulation(const Model& model, const PopulationCheckOptions& options,
-                                     std::uint64_t* total = nullptr);
+VELKOR_PLATFORM_API std::vector<Problem> checkPopulation(const Model& model, const PopulationCheckOptions& options,
+                                                         std::uint64_t* total = nullptr);
 
 } // namespace velkor::sdai

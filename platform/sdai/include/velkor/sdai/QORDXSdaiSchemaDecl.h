@@ -4,9 +4,11 @@
 ///     static QORDXSdaiSchemaDecl declaration(DXSdaiDictionaryRepo::AddPtr(&load, name));
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <cstdint>
 
-class QORDXSdaiSchemaDecl {
+class VELKOR_PLATFORM_API QORDXSdaiSchemaDecl {
 public:
     /// Takes over a handle of DXSdaiDictionaryRepo::AddPtr; 0 stands for no registration.
     explicit QORDXSdaiSchemaDecl(std::uint64_t handle) noexcept : _handle(handle) {}

@@ -1,6 +1,7 @@
 /// The restore service: builds a schema's dictionary from its two text lists.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
 #include <memory>
@@ -8,7 +9,7 @@
 #include <string>
 #include <tl/expected.hpp>
 
-class QORDXSdaiSchemaRestore {
+class VELKOR_PLATFORM_API QORDXSdaiSchemaRestore {
 public:
     /// Builds the schema and enters it in the repository. The service takes over the two
     /// arrays, which must come from `new const char*[]`, and releases them with the schema; the
@@ -23,7 +24,7 @@ namespace velkor::sdai {
 
 /// The pure part of the service: a checked dictionary, or a message that names the list
 /// ("declaration" or "statement"), the position counted from 1, and what was expected.
-tl::expected<std::shared_ptr<const SchemaDefinition>, std::string>
+VELKOR_PLATFORM_API tl::expected<std::shared_ptr<const SchemaDefinition>, std::string>
 restoreSchema(std::span<const char* const> declarations, std::span<const char* const> statements);
 
 } // namespace velkor::sdai

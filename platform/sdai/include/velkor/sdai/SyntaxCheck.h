@@ -1,6 +1,7 @@
 /// Judges an exchange structure against ISO 10303-21 strictly, without a dictionary.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/sdai/Part21File.h"
 
 #include <functional>
@@ -14,7 +15,7 @@ using Progress = std::function<bool(std::uint64_t done, std::uint64_t total)>;
 /// each once, in order, with their arity), section structure, instance ids above 0 and
 /// unique, balanced lists, valid tokens and string directives. At most `limit` problems
 /// are given, in file order; `total`, when given, receives the full count.
-std::vector<Problem> checkSyntax(const Part21File& file, std::size_t limit, std::uint64_t* total = nullptr,
-                                 const Progress& progress = {});
+VELKOR_PLATFORM_API std::vector<Problem> checkSyntax(const Part21File& file, std::size_t limit,
+                                                     std::uint64_t* total = nullptr, const Progress& progress = {});
 
 } // namespace velkor::sdai

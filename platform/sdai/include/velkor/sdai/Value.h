@@ -2,6 +2,7 @@
 /// values that point into the model; they stay valid as long as the model is open.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/sdai/Dictionary.h"
 #include "velkor/sdai/Part21Lexer.h"
 
@@ -35,7 +36,7 @@ enum class Logical : std::uint8_t { False, True, Unknown };
 
 /// The runtime's handle on one value of any type. Conversions never fail loudly: a value of
 /// another type converts to the neutral answer that each one names.
-class Primitive {
+class VELKOR_PLATFORM_API Primitive {
 public:
     Primitive() = default;
     Primitive(const Model* model, const Type* type, std::string_view text) noexcept
@@ -95,7 +96,7 @@ class MemberIterator;
 /// A list, set, bag or array of values.
 ///
 ///     for (const Primitive unit : assignment.GetAttr("UNITS").asAggregate()) use(unit.asInstance());
-class Aggregate {
+class VELKOR_PLATFORM_API Aggregate {
 public:
     Aggregate() = default;
     Aggregate(const Model* model, const AggregateType* type, std::string_view text) noexcept
@@ -119,7 +120,7 @@ private:
 /// The iterator of SDAI over an aggregate: stands before the first member until next() is called.
 ///
 ///     for (AggregateIterator it(units); it.next();) use(it.current().asInstance());
-class AggregateIterator {
+class VELKOR_PLATFORM_API AggregateIterator {
 public:
     explicit AggregateIterator(const Aggregate& aggregate) noexcept : _aggregate(aggregate) { beginning(); }
     void beginning() noexcept;

@@ -4,9 +4,10 @@
 /// digits, from -32768 to 32767. Anything else counts as unreadable.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORDXUnicodeString.h"
 
-class QORDXEnvironmentVariable {
+class VELKOR_PLATFORM_API QORDXEnvironmentVariable {
 public:
     /// True when the variable is there, even with an empty value.
     static bool HasBeenSet(const QORDXUnicodeString& name);
@@ -17,12 +18,12 @@ public:
 };
 
 /// The text of a variable; empty when it is not set.
-QORUnicodeString QORGetEnv(const QORUnicodeString& name);
+VELKOR_PLATFORM_API QORUnicodeString QORGetEnv(const QORUnicodeString& name);
 
 namespace velkor::settings {
 
 /// Sets a variable to a text. Not to be called while another thread reads the environment.
-void setVariable(const QORUnicodeString& name, const QORUnicodeString& value);
-void removeVariable(const QORUnicodeString& name);
+VELKOR_PLATFORM_API void setVariable(const QORUnicodeString& name, const QORUnicodeString& value);
+VELKOR_PLATFORM_API void removeVariable(const QORUnicodeString& name);
 
 } // namespace velkor::settings

@@ -5,6 +5,7 @@
 ///     if (repository != nullptr && repository->ReadSetting("ImportProfileMode", &mode, 1) == 1) …
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORDXUnicodeString.h"
 
 #include <unordered_map>
@@ -13,7 +14,7 @@
 /// Watches over a repository in hosts that have administrators; this platform never calls one.
 class QORSettingController;
 
-class QORSettingRepository {
+class VELKOR_PLATFORM_API QORSettingRepository {
 public:
     enum AccessType : int { ReadAccess = 1, WriteAccess = 2 };
 
@@ -37,8 +38,8 @@ private:
 namespace velkor::settings {
 
 /// The repository of a name, made empty when there is none.
-QORSettingRepository& repository(const QORDXUnicodeString& name);
+VELKOR_PLATFORM_API QORSettingRepository& repository(const QORDXUnicodeString& name);
 /// Pointers to the repository are invalid afterwards. Nothing when there is none.
-void removeRepository(const QORDXUnicodeString& name);
+VELKOR_PLATFORM_API void removeRepository(const QORDXUnicodeString& name);
 
 } // namespace velkor::settings

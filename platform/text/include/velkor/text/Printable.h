@@ -8,6 +8,8 @@
 /// made printable stays as it is.
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -15,18 +17,18 @@
 namespace velkor::text {
 
 /// Bytes at the beginning of a text that can be shown as they are.
-std::size_t printableLength(std::string_view text) noexcept;
+VELKOR_PLATFORM_API std::size_t printableLength(std::string_view text) noexcept;
 
 /// Takes the first character off a text that does not begin with a printable one, and gives its escape.
-std::string takeEscaped(std::string_view& text);
+VELKOR_PLATFORM_API std::string takeEscaped(std::string_view& text);
 
 /// The whole text.
-std::string printable(std::string_view text);
+VELKOR_PLATFORM_API std::string printable(std::string_view text);
 
 /// The text with "?" in place of each byte that is no printable ASCII, where nothing else is expected.
 std::string printableAscii(std::string_view text);
 
 /// The beginning of a text, made printable, "…" behind it when that is not all.
-std::string excerpt(std::string_view text, std::size_t longestBytes);
+VELKOR_PLATFORM_API std::string excerpt(std::string_view text, std::size_t longestBytes);
 
 } // namespace velkor::text

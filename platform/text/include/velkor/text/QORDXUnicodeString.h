@@ -2,12 +2,13 @@
 /// standard unordered maps and the name argument of environment and setting reads.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 
 #include <cstdint>
 #include <functional>
 
-class QORDXUnicodeString {
+class VELKOR_PLATFORM_API QORDXUnicodeString {
 public:
     QORDXUnicodeString();
     QORDXUnicodeString(const QORUnicodeString& text);

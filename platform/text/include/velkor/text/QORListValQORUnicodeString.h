@@ -1,12 +1,13 @@
 /// A list of strings whose positions count from 1.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 
 #include <utility>
 #include <vector>
 
-class QORListValQORUnicodeString {
+class VELKOR_PLATFORM_API QORListValQORUnicodeString {
 public:
     int Size() const noexcept { return static_cast<int>(_items.size()); }
     void Append(const QORUnicodeString& value) { _items.push_back(value); }

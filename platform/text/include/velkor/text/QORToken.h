@@ -4,9 +4,10 @@
 ///     for (QORUnicodeString folder = folders.GetNextToken(";"); !folder.IsEmpty(); …)
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 
-class QORToken {
+class VELKOR_PLATFORM_API QORToken {
 public:
     explicit QORToken(const QORUnicodeString& text) : _text(text) {}
 

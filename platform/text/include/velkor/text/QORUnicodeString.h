@@ -2,6 +2,8 @@
 /// in characters counted from 0.
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <compare>
 #include <cstddef>
 #include <functional>
@@ -9,7 +11,7 @@
 #include <string_view>
 #include <utility>
 
-class QORUnicodeString {
+class VELKOR_PLATFORM_API QORUnicodeString {
 public:
     QORUnicodeString() = default;
     /// From UTF-8; a null pointer gives the empty text.

@@ -4,6 +4,8 @@
 /// as one character, has no case, and equals only itself.
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -12,20 +14,20 @@
 namespace velkor::text {
 
 /// Number of characters (code points).
-std::size_t characterCount(std::string_view utf8) noexcept;
+VELKOR_PLATFORM_API std::size_t characterCount(std::string_view utf8) noexcept;
 
 /// Byte position of a character counted from 0; the text's size when it has no such character.
-std::size_t byteOffset(std::string_view utf8, std::size_t character) noexcept;
+VELKOR_PLATFORM_API std::size_t byteOffset(std::string_view utf8, std::size_t character) noexcept;
 
 /// Number of bytes of the first character of a text that is not empty. `code` is its code point, below 0
 /// for a byte outside any valid sequence.
-std::size_t decode(std::string_view utf8, std::int32_t& code) noexcept;
+VELKOR_PLATFORM_API std::size_t decode(std::string_view utf8, std::int32_t& code) noexcept;
 /// The first character of a text that is not empty.
-std::string_view firstCharacter(std::string_view utf8) noexcept;
+VELKOR_PLATFORM_API std::string_view firstCharacter(std::string_view utf8) noexcept;
 /// As much of a text as so many bytes hold without cutting a character.
-std::string_view beginning(std::string_view utf8, std::size_t mostBytes) noexcept;
+VELKOR_PLATFORM_API std::string_view beginning(std::string_view utf8, std::size_t mostBytes) noexcept;
 /// Puts a character behind a text. `code` is that of a character of Unicode.
-void append(std::string& utf8, std::int32_t code);
+VELKOR_PLATFORM_API void append(std::string& utf8, std::int32_t code);
 
 /// Case mapping of ASCII alone.
 constexpr char asciiUpper(char c) noexcept {
@@ -34,18 +36,18 @@ constexpr char asciiUpper(char c) noexcept {
 constexpr char asciiLower(char c) noexcept {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
-std::string asciiUpper(std::string_view text);
+VELKOR_PLATFORM_API std::string asciiUpper(std::string_view text);
 
 /// Case mapping character by character, as utf8proc maps it: the length in characters stays.
-std::string toUpper(std::string_view utf8);
-std::string toLower(std::string_view utf8);
+VELKOR_PLATFORM_API std::string toUpper(std::string_view utf8);
+VELKOR_PLATFORM_API std::string toLower(std::string_view utf8);
 
 /// True when the texts are equal but for letter case, by Unicode case folding.
-bool equalIgnoringCase(std::string_view a, std::string_view b) noexcept;
+VELKOR_PLATFORM_API bool equalIgnoringCase(std::string_view a, std::string_view b) noexcept;
 
 /// XXH32 with seed 0 over the bytes. It is stored in identifiers and therefore never changes.
-std::uint32_t hash32(std::string_view bytes) noexcept;
+VELKOR_PLATFORM_API std::uint32_t hash32(std::string_view bytes) noexcept;
 /// XXH64 with seed 0 over the bytes.
-std::uint64_t hash64(std::string_view bytes) noexcept;
+VELKOR_PLATFORM_API std::uint64_t hash64(std::string_view bytes) noexcept;
 
 } // namespace velkor::text

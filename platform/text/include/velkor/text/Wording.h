@@ -1,6 +1,8 @@
 /// Numbers, names and lists as messages for people put them.
 #pragma once
 
+#include "velkor/PlatformExport.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -10,18 +12,18 @@
 namespace velkor::text {
 
 /// A number with its digits in groups of three: "1,234,567".
-std::string grouped(std::uint64_t number);
+VELKOR_PLATFORM_API std::string grouped(std::uint64_t number);
 
 /// A count and what is counted: "1 error", "1,200 errors".
-std::string counted(std::uint64_t number, std::string_view singular, std::string_view plural);
+VELKOR_PLATFORM_API std::string counted(std::uint64_t number, std::string_view singular, std::string_view plural);
 
 /// The shortest decimal text that reads back as the same double.
-std::string shortest(double value);
+VELKOR_PLATFORM_API std::string shortest(double value);
 
 /// A text in quotation marks, as it is.
-std::string quoted(std::string_view text);
+VELKOR_PLATFORM_API std::string quoted(std::string_view text);
 /// The beginning of a text in quotation marks, "…" in them when that is not all.
-std::string quotedBeginning(std::string_view text, std::size_t longestBytes);
+VELKOR_PLATFORM_API std::string quotedBeginning(std::string_view text, std::size_t longestBytes);
 
 /// What a range holds, one behind the other, each as `word` puts it in a text.
 template <class Range, class Word = std::identity>

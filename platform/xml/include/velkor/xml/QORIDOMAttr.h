@@ -1,9 +1,10 @@
 /// An attribute.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/xml/QORIDOMNode.h"
 
-class QORIDOMAttr : public QORIDOMNode {
+class VELKOR_PLATFORM_API QORIDOMAttr : public QORIDOMNode {
     VELKOR_DECLARE_CLASS
 
 public:

@@ -1,9 +1,10 @@
 /// A document. It also offers QORIDOMDocumentTraversal and QORIXMLXPathFactory, to be had by query.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/xml/QORIDOMNode.h"
 
-class QORIDOMDocument : public QORIDOMNode {
+class VELKOR_PLATFORM_API QORIDOMDocument : public QORIDOMNode {
     VELKOR_DECLARE_CLASS
 
 public:

@@ -2,9 +2,10 @@
 #pragma once
 
 #include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/xml/DomTypes.h"
 
-class QORIDOMDocumentTraversal : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIDOMDocumentTraversal : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

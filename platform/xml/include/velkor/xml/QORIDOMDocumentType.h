@@ -1,9 +1,10 @@
 /// The document type declaration of a document.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/xml/QORIDOMNode.h"
 
-class QORIDOMDocumentType : public QORIDOMNode {
+class VELKOR_PLATFORM_API QORIDOMDocumentType : public QORIDOMNode {
     VELKOR_DECLARE_CLASS
 
 public:

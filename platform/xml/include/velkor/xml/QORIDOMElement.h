@@ -4,9 +4,10 @@
 /// HasAttribute; they are no nodes.
 #pragma once
 
+#include "velkor/PlatformExport.h"
 #include "velkor/xml/QORIDOMNode.h"
 
-class QORIDOMElement : public QORIDOMNode {
+class VELKOR_PLATFORM_API QORIDOMElement : public QORIDOMNode {
     VELKOR_DECLARE_CLASS
 
 public:

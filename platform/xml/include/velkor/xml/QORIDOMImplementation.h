@@ -2,10 +2,11 @@
 #pragma once
 
 #include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 #include "velkor/xml/DomTypes.h"
 
-class QORIDOMImplementation : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIDOMImplementation : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

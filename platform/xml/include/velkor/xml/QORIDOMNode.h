@@ -8,10 +8,11 @@
 #pragma once
 
 #include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 #include "velkor/xml/DomTypes.h"
 
-class QORIDOMNode : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIDOMNode : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

@@ -2,10 +2,11 @@
 #pragma once
 
 #include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/xml/DomTypes.h"
 
 /// {D1B6E0C4-7B0E-4C57-9A86-3C3E1C0B9B57}
-extern const IID IID_QORIDOMNodeFilter;
+VELKOR_PLATFORM_API extern const IID IID_QORIDOMNodeFilter;
 
 struct QORDOMNodeFilterType {
     /// Answers of a filter. A node iterator passes over a node alone, not over what is below it,
@@ -26,7 +27,7 @@ struct QORDOMNodeFilterType {
     };
 };
 
-class QORIDOMNodeFilter : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIDOMNodeFilter : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

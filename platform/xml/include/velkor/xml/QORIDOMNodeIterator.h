@@ -3,9 +3,10 @@
 #pragma once
 
 #include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/xml/DomTypes.h"
 
-class QORIDOMNodeIterator : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIDOMNodeIterator : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

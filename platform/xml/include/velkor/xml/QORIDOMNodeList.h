@@ -2,9 +2,10 @@
 #pragma once
 
 #include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/xml/DomTypes.h"
 
-class QORIDOMNodeList : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIDOMNodeList : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

@@ -12,12 +12,13 @@
 #pragma once
 
 #include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORListValQORUnicodeString.h"
 #include "velkor/xml/DomTypes.h"
 #include "velkor/xml/QORIXMLErrorHandler.h"
 #include "velkor/xml/QORIXMLInputSource.h"
 
-class QORIXMLDOMDocumentBuilder : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIXMLDOMDocumentBuilder : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
@@ -60,8 +61,9 @@ public:
 using QORIXMLDOMDocumentBuilder_var = QORInterface_var<QORIXMLDOMDocumentBuilder>;
 
 /// Two names of the one implementation that this platform has.
-extern const IID CLSID_XML4C_DOM;
-extern const IID CLSID_XML4C5_DOM;
+VELKOR_PLATFORM_API extern const IID CLSID_XML4C_DOM;
+VELKOR_PLATFORM_API extern const IID CLSID_XML4C5_DOM;
 
 /// E_INVALIDARG, and no builder, for an implementation that this platform does not have.
-HRESULT CreateQORIXMLDOMDocumentBuilder(const IID& implementation, QORIXMLDOMDocumentBuilder_var& builder);
+VELKOR_PLATFORM_API HRESULT CreateQORIXMLDOMDocumentBuilder(const IID& implementation,
+                                                            QORIXMLDOMDocumentBuilder_var& builder);

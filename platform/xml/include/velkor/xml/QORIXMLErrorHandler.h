@@ -3,6 +3,7 @@
 
 #include "velkor/objectmodeler/ComponentMacros.h"
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/xml/QORIXMLInputSource.h"
 
 /// One message of a parser. Line and column count from 1.
@@ -14,7 +15,7 @@ struct QORXMLMessage {
 };
 
 /// Gets the messages that go to the exchange log otherwise.
-class QORIXMLErrorHandler : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIXMLErrorHandler : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
@@ -25,7 +26,7 @@ public:
 using QORIXMLErrorHandler_var = QORInterface_var<QORIXMLErrorHandler>;
 
 /// Finds external entities in hosts whose parser reads them. This platform's does not.
-class QORIXMLEntityResolver : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIXMLEntityResolver : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

@@ -3,11 +3,12 @@
 
 #include "velkor/objectmodeler/ComponentMacros.h"
 #include "velkor/objectmodeler/QORBaseUnknown_var.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORUnicodeString.h"
 
 #include <string_view>
 
-class QORIXMLInputSource : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIXMLInputSource : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
@@ -17,7 +18,7 @@ public:
 };
 using QORIXMLInputSource_var = QORInterface_var<QORIXMLInputSource>;
 
-class QORIXMLSAX2Factory : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIXMLSAX2Factory : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
@@ -30,7 +31,7 @@ public:
 };
 using QORIXMLSAX2Factory_var = QORInterface_var<QORIXMLSAX2Factory>;
 
-extern const IID CLSID_XML4C5_SAX;
+VELKOR_PLATFORM_API extern const IID CLSID_XML4C5_SAX;
 
 /// E_INVALIDARG, and no factory, for an implementation that this platform does not have.
-HRESULT CreateQORIXMLSAX2Factory(const IID& implementation, QORIXMLSAX2Factory_var& factory);
+VELKOR_PLATFORM_API HRESULT CreateQORIXMLSAX2Factory(const IID& implementation, QORIXMLSAX2Factory_var& factory);

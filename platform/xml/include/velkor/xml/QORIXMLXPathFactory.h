@@ -2,11 +2,12 @@
 #pragma once
 
 #include "velkor/objectmodeler/ComponentMacros.h"
+#include "velkor/PlatformExport.h"
 #include "velkor/text/QORListValQORUnicodeString.h"
 #include "velkor/xml/DomTypes.h"
 
 /// An expression over one document. What is wrong with it goes to the exchange log.
-class QORIXMLXPathExpression : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIXMLXPathExpression : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
@@ -21,7 +22,7 @@ public:
 };
 using QORIXMLXPathExpression_var = QORInterface_var<QORIXMLXPathExpression>;
 
-class QORIXMLXPathFactory : public QORBaseUnknown {
+class VELKOR_PLATFORM_API QORIXMLXPathFactory : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "velkor/sdai/Problem.h"
+#include "velkor/ToolkitExport.h"
 
 #include <cstdint>
 #include <span>
@@ -30,9 +31,9 @@ struct ProblemSummary {
 };
 
 /// "error" or "warning".
-const char* name(sdai::Severity severity);
+VELKOR_TOOLKIT_API const char* name(sdai::Severity severity);
 
 /// `problems` in file order.
-ProblemSummary summarized(std::span<const sdai::Problem> problems, std::uint64_t total);
+VELKOR_TOOLKIT_API ProblemSummary summarized(std::span<const sdai::Problem> problems, std::uint64_t total);
 
 } // namespace velkor

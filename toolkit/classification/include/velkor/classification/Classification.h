@@ -4,6 +4,7 @@
 #include "QORIFCAECEntries.h"
 #include "velkor/model/Progress.h"
 #include "velkor/sdai/Model.h"
+#include "velkor/ToolkitExport.h"
 
 #include <cstdint>
 #include <optional>
@@ -48,6 +49,6 @@ struct Classification {
 /// answer as the next supertype. In a release that has no entity for a class but a type, a product of that type is
 /// presented as the class first: a pump of IFC2X3 as IFCPUMP. The platform must have been set up; the services decide
 /// by the document that they have.
-Classification classify(const sdai::Model& model, const Progress& progress = {});
+VELKOR_TOOLKIT_API Classification classify(const sdai::Model& model, const Progress& progress = {});
 
 } // namespace velkor

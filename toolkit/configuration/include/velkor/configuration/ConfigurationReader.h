@@ -3,6 +3,7 @@
 
 #include "velkor/configuration/Configuration.h"
 #include "velkor/files/OpenError.h"
+#include "velkor/ToolkitExport.h"
 
 #include <iosfwd>
 #include <string>
@@ -21,10 +22,10 @@ struct ConfigurationReading {
 
 /// Reads a file or, for "-", standard input, null for an empty one. Paths in the configuration that are relative
 /// are so to the file's folder. The message of an error names the file and says why it cannot be read.
-tl::expected<ConfigurationReading, files::OpenError> readConfiguration(const std::string& path,
-                                                                       std::istream* standardInput);
+VELKOR_TOOLKIT_API tl::expected<ConfigurationReading, files::OpenError> readConfiguration(const std::string& path,
+                                                                                          std::istream* standardInput);
 
 /// The same over a text; `path` stands in messages and decides about relative paths.
-ConfigurationReading parseConfiguration(std::string_view text, const std::string& path);
+VELKOR_TOOLKIT_API ConfigurationReading parseConfiguration(std::string_view text, const std::string& path);
 
 } // namespace velkor

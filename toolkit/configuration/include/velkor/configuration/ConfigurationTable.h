@@ -5,6 +5,7 @@
 #include "QORIFCDXFileServices.h"
 #include "QORIFCOptions.h"
 #include "QORIFCOptionsFromXCAD.h"
+#include "velkor/ToolkitExport.h"
 
 #include <string_view>
 #include <vector>
@@ -104,9 +105,9 @@ inline constexpr ConfigurationItem configurationItems[] = {
 };
 
 /// The place in words: "environment variable".
-const char* name(ConfigurationPlace place);
+VELKOR_TOOLKIT_API const char* name(ConfigurationPlace place);
 
 /// The names that have a place, in the order of the table.
-std::vector<std::string_view> namesAt(ConfigurationPlace place);
+VELKOR_TOOLKIT_API std::vector<std::string_view> namesAt(ConfigurationPlace place);
 
 } // namespace velkor

@@ -3,6 +3,7 @@
 
 #include "QORIFCOptions.h"
 #include "velkor/configuration/PlatformSetup.h"
+#include "velkor/ToolkitExport.h"
 
 #include <string>
 #include <vector>
@@ -29,13 +30,14 @@ struct EffectiveOption {
 };
 
 /// Of the services as the set-up has left them.
-std::vector<EffectiveOption> effectiveOptions(const PlatformSetup& setup);
+VELKOR_TOOLKIT_API std::vector<EffectiveOption> effectiveOptions(const PlatformSetup& setup);
 
 /// "environment", "run_time", "setting", "fallback".
-const char* name(QORIFCOptions::Origin origin);
+VELKOR_TOOLKIT_API const char* name(QORIFCOptions::Origin origin);
 
 /// What became of a conversion option: "acted_upon", "overruled", "kept", "left_out". Overruled is a
 /// profile that the environment forces.
-const char* outcomeName(const PlatformSetup::ConversionOption& option, const std::vector<EffectiveOption>& options);
+VELKOR_TOOLKIT_API const char* outcomeName(const PlatformSetup::ConversionOption& option,
+                                           const std::vector<EffectiveOption>& options);
 
 } // namespace velkor

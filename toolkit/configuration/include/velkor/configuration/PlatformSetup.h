@@ -11,6 +11,7 @@
 #include "velkor/exchangelog/MessageLog.h"
 #include "velkor/files/QORISetupDataFinder.h"
 #include "velkor/settings/QORSettingRepository.h"
+#include "velkor/ToolkitExport.h"
 
 #include <functional>
 #include <optional>
@@ -20,7 +21,7 @@
 
 namespace velkor {
 
-class PlatformSetup {
+class VELKOR_TOOLKIT_API PlatformSetup {
 public:
     enum class Outcome { ActedUpon, Kept, LeftOut };
     /// A conversion option and what the services made of it.
@@ -53,7 +54,7 @@ public:
 private:
     class Log : public exchangelog::MessageLog {
     public:
-        explicit Log(Tell tell);
+        VELKOR_TOOLKIT_LOCAL explicit Log(Tell tell);
         int PutMsgErr(QORUnicodeString* text, int* code, QORString first, QORString second, int level,
                       QORUnicodeString* extra, int* extraCode) override;
         int PutUnicodeMessage(const QORUnicodeString& message, short level, short kind) override;
@@ -61,16 +62,16 @@ private:
         bool hasWritten() const noexcept { return _hasWritten; }
 
     private:
-        void write();
+        VELKOR_TOOLKIT_LOCAL void write();
         Tell _tell;
         bool _hasWritten = false;
     };
 
-    void setFolders(const char* variable, const std::optional<std::vector<std::string>>& folders);
-    void useShippedResources(const Configuration& configuration);
-    void setKnowledgeTypes(const Configuration& configuration);
-    void setSettings(const Configuration& configuration);
-    void setConversionOptions(const Configuration& configuration);
+    VELKOR_TOOLKIT_LOCAL void setFolders(const char* variable, const std::optional<std::vector<std::string>>& folders);
+    VELKOR_TOOLKIT_LOCAL void useShippedResources(const Configuration& configuration);
+    VELKOR_TOOLKIT_LOCAL void setKnowledgeTypes(const Configuration& configuration);
+    VELKOR_TOOLKIT_LOCAL void setSettings(const Configuration& configuration);
+    VELKOR_TOOLKIT_LOCAL void setConversionOptions(const Configuration& configuration);
 
     Log _log;
     QORExchangeErr* _logBefore;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "velkor/sdai/Dictionary.h"
+#include "velkor/ToolkitExport.h"
 
 #include <string>
 #include <string_view>
@@ -54,10 +55,11 @@ struct DictionaryDiff {
 };
 
 /// Everything in alphabetical order; names are views into the schemas' texts.
-DictionaryDiff compareDictionaries(const sdai::SchemaDefinition& before, const sdai::SchemaDefinition& after);
+VELKOR_TOOLKIT_API DictionaryDiff compareDictionaries(const sdai::SchemaDefinition& before,
+                                                      const sdai::SchemaDefinition& after);
 
 /// An attribute as EXPRESS writes it behind its name: "OPTIONAL IFCLABEL"; a derived one begins
 /// with "DERIVED".
-std::string attributeText(const sdai::Attribute& attribute);
+VELKOR_TOOLKIT_API std::string attributeText(const sdai::Attribute& attribute);
 
 } // namespace velkor

@@ -3,6 +3,7 @@
 
 #include "velkor/model/CheckResult.h"
 #include "velkor/sdai/Model.h"
+#include "velkor/ToolkitExport.h"
 
 namespace velkor::guid {
 
@@ -14,6 +15,6 @@ struct GuidCheck {
 };
 
 /// Checks every instance of IFCROOT. Memory is in proportion to their number.
-GuidCheck checkGuids(const sdai::Model& model, const CheckOptions& options = {});
+VELKOR_TOOLKIT_API GuidCheck checkGuids(const sdai::Model& model, const CheckOptions& options = {});
 
 } // namespace velkor::guid

@@ -4,6 +4,8 @@
 ///     guid::expanded("0$WU4A9R19$vKWO$AdOnKA"); // "3f81e10a-25b0-49ff-9520-63f2a763150a"
 #pragma once
 
+#include "velkor/ToolkitExport.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -21,12 +23,12 @@ struct Fault {
 
 /// The first fault of an identifier, in the order of the codes; nothing when it is well-formed: 22
 /// characters of IFC's alphabet, the first of them "0" to "3", for 128 bits.
-std::optional<Fault> faultOf(std::string_view identifier);
+VELKOR_TOOLKIT_API std::optional<Fault> faultOf(std::string_view identifier);
 
 /// 22 characters as hexadecimal text in lower case, or what was expected.
-tl::expected<std::string, std::string> expanded(std::string_view identifier);
+VELKOR_TOOLKIT_API tl::expected<std::string, std::string> expanded(std::string_view identifier);
 
 /// Hexadecimal text, in any letter case and with or without braces around it, as 22 characters, or what was expected.
-tl::expected<std::string, std::string> compressed(std::string_view text);
+VELKOR_TOOLKIT_API tl::expected<std::string, std::string> compressed(std::string_view text);
 
 } // namespace velkor::guid

@@ -3,6 +3,7 @@
 
 #include "velkor/model/Progress.h"
 #include "velkor/sdai/Problem.h"
+#include "velkor/ToolkitExport.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -16,7 +17,7 @@ struct CheckOptions {
     Progress progress = {};
 };
 
-struct CheckResult {
+struct VELKOR_TOOLKIT_API CheckResult {
     /// In file order, bounded by the limit asked for; `total` is the full count.
     std::vector<sdai::Problem> problems;
     std::uint64_t total = 0;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "velkor/sdai/Model.h"
+#include "velkor/ToolkitExport.h"
 
 #include <cstdint>
 #include <optional>
@@ -50,6 +51,6 @@ struct ModelFacts {
     std::vector<ContentCount> contents;
 };
 
-ModelFacts modelFacts(const sdai::Model& model);
+VELKOR_TOOLKIT_API ModelFacts modelFacts(const sdai::Model& model);
 
 } // namespace velkor

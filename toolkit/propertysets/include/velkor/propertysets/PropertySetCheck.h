@@ -4,6 +4,7 @@
 #include "velkor/model/CheckResult.h"
 #include "velkor/sdai/Model.h"
 #include "velkor/sdai/Problem.h"
+#include "velkor/ToolkitExport.h"
 
 #include <cstdint>
 #include <map>
@@ -30,7 +31,7 @@ struct SetFinding {
     std::string nearest;
 };
 
-struct PropertySetCheck {
+struct VELKOR_TOOLKIT_API PropertySetCheck {
     /// False when there is not one definition to check by.
     bool hasDefinitions = false;
     std::uint64_t sets = 0;
@@ -64,6 +65,6 @@ struct PropertySetCheck {
 
 /// Checks every IFCPROPERTYSET and IFCELEMENTQUANTITY. The platform must have been set up (PlatformSetup). Of a complex
 /// property the name of the whole counts. Time is in proportion to the text of the sets and their relationships.
-PropertySetCheck checkPropertySets(const sdai::Model& model, const CheckOptions& options = {});
+VELKOR_TOOLKIT_API PropertySetCheck checkPropertySets(const sdai::Model& model, const CheckOptions& options = {});
 
 } // namespace velkor

@@ -7,6 +7,7 @@
 #include "ResourceKinds.h"
 #include "velkor/files/OpenError.h"
 #include "velkor/resources/Finding.h"
+#include "velkor/ToolkitExport.h"
 
 #include <cstddef>
 #include <iosfwd>
@@ -26,9 +27,9 @@ struct LinterKind {
 };
 
 /// In the order of the resource kinds.
-std::span<const LinterKind> linterKinds();
+VELKOR_TOOLKIT_API std::span<const LinterKind> linterKinds();
 /// Null when there is none of the word.
-const LinterKind* linterKind(std::string_view word);
+VELKOR_TOOLKIT_API const LinterKind* linterKind(std::string_view word);
 
 struct Judgement {
     /// How many entries the services read, or would if they were right.
@@ -50,7 +51,7 @@ struct CheckedFile {
 };
 
 /// Remembers the dictionaries that files were judged by.
-class ResourceCheck {
+class VELKOR_TOOLKIT_API ResourceCheck {
 public:
     /// Keeps at most `limit` findings of all files together.
     explicit ResourceCheck(std::size_t limit);
@@ -64,7 +65,7 @@ public:
     std::vector<CheckedFile> files(const std::vector<std::string>& paths, const LinterKind& kind);
 
 private:
-    CheckedFile counted(CheckedFile file);
+    VELKOR_TOOLKIT_LOCAL CheckedFile counted(CheckedFile file);
 
     std::unique_ptr<class Dictionaries> _dictionaries;
     // How many findings may still be kept.

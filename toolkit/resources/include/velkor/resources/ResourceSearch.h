@@ -7,6 +7,7 @@
 #include "ResourceKinds.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/ToolkitExport.h"
 
 #include <optional>
 #include <string>
@@ -17,10 +18,10 @@ namespace velkor {
 enum class PathState { Readable, Missing, IsFolder, IsNoFolder, IsNoRegularFile, Forbidden };
 
 /// As it goes on behind a path: "does not exist".
-const char* inWords(PathState state);
+VELKOR_TOOLKIT_API const char* inWords(PathState state);
 
 /// "readable", "missing", "is_folder", "is_no_folder", "is_no_regular_file", "forbidden".
-const char* name(PathState state);
+VELKOR_TOOLKIT_API const char* name(PathState state);
 
 /// Paths have the system's separator.
 struct ResourceSearch {
@@ -62,6 +63,6 @@ struct ResourceSearch {
 };
 
 /// What the setup has put in force is searched; folders of shipped resources are named as such.
-ResourceSearch searchResource(const ResourceKind& kind, const PlatformSetup& setup);
+VELKOR_TOOLKIT_API ResourceSearch searchResource(const ResourceKind& kind, const PlatformSetup& setup);
 
 } // namespace velkor

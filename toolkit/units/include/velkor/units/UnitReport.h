@@ -2,6 +2,7 @@
 #pragma once
 
 #include "velkor/sdai/Model.h"
+#include "velkor/ToolkitExport.h"
 
 #include <cstdint>
 #include <optional>
@@ -40,6 +41,6 @@ struct UnitReport {
 };
 
 /// Asks the library. The unit services keep the model's factors afterwards.
-UnitReport unitReport(const sdai::Model& model);
+VELKOR_TOOLKIT_API UnitReport unitReport(const sdai::Model& model);
 
 } // namespace velkor
