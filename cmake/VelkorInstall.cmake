@@ -1,14 +1,10 @@
-# What an installed Velkor consists of: two libraries, their headers, the program with its resource files, and
-# the package that find_package(Velkor) reads. It gives the targets velkor::velkor and velkor::velkorplatform.
+# What an installed Velkor consists of: three libraries, their headers, the program with its resource files, and
+# the package that find_package(Velkor) reads. It gives the targets velkor::platform, velkor::velkor and velkor::toolkit.
 
 include(CMakePackageConfigHelpers)
 
 set(_headers ${CMAKE_INSTALL_INCLUDEDIR}/velkor)
 set(_package ${CMAKE_INSTALL_LIBDIR}/cmake/Velkor)
-
-# The headers of the platform hand out tl::expected.
-find_package(tl-expected REQUIRED)
-target_link_libraries(velkorplatform INTERFACE tl::expected)
 
 # Build trees see each area's own folder; an installed library has one.
 target_include_directories(velkorplatform INTERFACE $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
@@ -16,10 +12,11 @@ target_include_directories(velkor INTERFACE $<INSTALL_INTERFACE:${_headers}/inte
 
 # The libraries lie side by side, wherever the prefix is.
 set_target_properties(velkor velkorplatform velkortoolkit PROPERTIES INSTALL_RPATH "$ORIGIN")
-target_compile_features(velkorplatform INTERFACE cxx_std_20)
 
 install(TARGETS velkorplatform velkor velkortoolkit EXPORT VelkorTargets)
-install(TARGETS velkor_program)
+if(VELKOR_PROGRAM)
+  install(TARGETS velkor_program)
+endif()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/Velkorite/interfaces/ DESTINATION ${_headers}/interfaces FILES_MATCHING PATTERN "*.h")
 foreach(_library velkorplatform velkortoolkit)
   get_property(_includes GLOBAL PROPERTY ${_library}_includes)
@@ -33,15 +30,7 @@ install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 install(EXPORT VelkorTargets NAMESPACE velkor:: DESTINATION ${_package})
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/VelkorConfig.cmake.in ${PROJECT_BINARY_DIR}/VelkorConfig.cmake
-                              INSTALL_DESTINATION ${_package})
+                              INSTALL_DESTINATION ${_package} PATH_VARS CMAKE_INSTALL_DATADIR)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/VelkorConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/VelkorConfig.cmake ${PROJECT_BINARY_DIR}/VelkorConfigVersion.cmake
         DESTINATION ${_package})
-
-if(VELKOR_TESTS)
-  # Installs into a prefix of its own, builds examples/embedding against that and runs it.
-  add_test(NAME install_and_embed
-           COMMAND ${CMAKE_COMMAND} -D SOURCE=${PROJECT_SOURCE_DIR} -D BUILD=${PROJECT_BINARY_DIR}
-                   -D COMPILER=${CMAKE_CXX_COMPILER} -D GENERATOR=${CMAKE_GENERATOR} -D SANITIZE=${VELKOR_SANITIZE}
-                   -P ${PROJECT_SOURCE_DIR}/tests/install/InstallAndEmbed.cmake)
-endif()

@@ -1,20 +1,13 @@
-# Installs a build into an empty prefix, builds the embedding example against it as a project of
-# its own, and runs that on a model whose length unit is known.
+# Installs a build into an empty prefix, builds examples/checking against it as a project of its own, and runs that on
+# models whose faults and classes are known.
 #
-#   cmake -D SOURCE=… -D BUILD=… -D COMPILER=… -D GENERATOR=… [-D SANITIZE=…] -P InstallAndEmbed.cmake
+#   cmake -D SOURCE=… -D BUILD=… -D COMPILER=… -D GENERATOR=… [-D SANITIZE=…] -P Install.cmake
 
-set(work ${BUILD}/install_and_embed)
+set(work ${BUILD}/install)
 set(prefix ${work}/prefix)
 file(REMOVE_RECURSE ${work})
 
-function(step)
-  execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
-  if(NOT status EQUAL 0)
-    string(JOIN " " command ${ARGN})
-    message(FATAL_ERROR "${command} gave ${status}:\n${output}")
-  endif()
-  set(output "${output}" PARENT_SCOPE)
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/Step.cmake)
 
 step(${CMAKE_COMMAND} --install ${BUILD} --prefix ${prefix})
 
@@ -22,7 +15,7 @@ set(flags)
 if(SANITIZE)
   set(flags -fsanitize=${SANITIZE})
 endif()
-step(${CMAKE_COMMAND} -S ${SOURCE}/examples/embedding -B ${work}/build -G ${GENERATOR}
+step(${CMAKE_COMMAND} -S ${SOURCE}/examples/checking -B ${work}/build -G ${GENERATOR}
      -D CMAKE_CXX_COMPILER=${COMPILER} -D CMAKE_CXX_FLAGS=${flags} -D CMAKE_PREFIX_PATH=${prefix})
 step(${CMAKE_COMMAND} --build ${work}/build)
 
@@ -32,9 +25,14 @@ if(NOT rules MATCHES "${prefix}" OR rules MATCHES "${SOURCE}/(platform|Velkorite
   message(FATAL_ERROR "the example was not built against the installed headers")
 endif()
 
-step(${work}/build/length_unit ${SOURCE}/examples/models/house-ifc2x3.ifc)
-if(NOT output STREQUAL "1 model unit = 1 mm\n")
-  message(FATAL_ERROR "length_unit answered: ${output}")
+step(${work}/build/judge ${SOURCE}/examples/models/house-ifc2x3.ifc)
+if(NOT output MATCHES "\n0 problems\n.*\n1 IFCWALLSTANDARDCASE: Wall\n")
+  message(FATAL_ERROR "judge answered: ${output}")
+endif()
+execute_process(COMMAND ${work}/build/judge ${SOURCE}/examples/models/broken.ifc
+                OUTPUT_VARIABLE output ERROR_QUIET RESULT_VARIABLE status)
+if(NOT status EQUAL 1 OR NOT output MATCHES "broken.ifc:[0-9]+: #[0-9]+: .*\n[1-9][0-9]* problems\n")
+  message(FATAL_ERROR "judge answered with ${status}: ${output}")
 endif()
 
 # The samples of the pages build and run as they stand there.
