@@ -26,7 +26,7 @@ VELKOR_PLATFORM_API std::string takeEscaped(std::string_view& text);
 VELKOR_PLATFORM_API std::string printable(std::string_view text);
 
 /// The text with "?" in place of each byte that is no printable ASCII, where nothing else is expected.
-std::string printableAscii(std::string_view text);
+VELKOR_PLATFORM_API std::string printableAscii(std::string_view text);
 
 /// The beginning of a text, made printable, "…" behind it when that is not all.
 VELKOR_PLATFORM_API std::string excerpt(std::string_view text, std::size_t longestBytes);
