@@ -34,8 +34,23 @@ enum IfcLevel : int {
     IfcLevel4AndAbove = 2,
 };
 
+namespace velkor {
+
+/// How the catalogue calls a level, letter case ignored.
+struct AttributeLevel {
+    IfcLevel level;
+    const char* id;
+};
+inline constexpr AttributeLevel attributeLevels[] = {
+    {IfcLevel2X3, "2X3"}, {IfcLevel4AndAbove, "4ANDABOVE"}, {IfcLevelGeneral, "General"}};
+
+} // namespace velkor
+
 class VELKOR_API IFCAttributeList {
 public:
+    /// The level that an "ID" means: the general one for a name that no level has.
+    static IfcLevel GetLevel(const QORUnicodeString& iID);
+
     /// The one list. It reads the catalogue when it is made, on first use, and is gone when the library is
     /// unloaded; it is never read again.
     static IFCAttributeList* GetInstance();

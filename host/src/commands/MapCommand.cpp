@@ -4,6 +4,7 @@
 #include "MappingReleases.h"
 #include "output/Json.h"
 #include "QORIFCOptionsFromXCAD.h"
+#include "ResourceNames.h"
 #include "terminal/DisplayText.h"
 #include "terminal/TextTable.h"
 #include "velkor/configuration/ConfigurationTable.h"
@@ -20,7 +21,6 @@
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 #include <ranges>
-#include <span>
 
 namespace velkor::host {
 
@@ -37,7 +37,7 @@ struct Arguments {
     bool introduced = false;
 };
 
-constexpr const char* scopeEndings[] = {"_Import", "_Export"};
+constexpr const char* scopeEndings[] = {names::custom::importEnding, names::custom::exportEnding};
 
 QORUnicodeString unicode(const std::string& text) {
     return QORUnicodeString(std::string_view(text));
@@ -139,19 +139,11 @@ void badUsage(CommandContext& context, const std::string& reason) {
     context.status = BadUsage;
 }
 
-/// All releases, with another separator before the last one.
-std::string releaseTexts(std::string_view lastSeparator) {
-    const std::span releases(mappingReleases);
-    const auto texts = std::views::transform(&MappingRelease::text);
-    return text::joined(releases.first(releases.size() - 1) | texts, ", ")
-        .append(lastSeparator)
-        .append(releases.back().text);
-}
-
 /// Code of a release; 0 after reporting that it is none.
 int releaseCode(CommandContext& context, const std::string& release) {
     if (const auto* known = findMappingRelease<std::string_view>(&MappingRelease::text, release)) return known->code;
-    badUsage(context, "unknown release \"" + release + "\"; expected one of " + releaseTexts(", "));
+    badUsage(context, "unknown release \"" + release + "\"; expected one of " +
+                          text::joined(mappingReleases, ", ", &MappingRelease::text));
     return 0;
 }
 
@@ -357,7 +349,10 @@ void addMapCommand(CLI::App& app, CommandContext& context) {
                                       "velkor map version --from 2x3 --to 4 IfcActionRequest RequestID");
     version->add_option("ENTITY", arguments->entity, "Name of the entity");
     version->add_option("PROPERTY", arguments->property, "Name of one of its properties");
-    version->add_option("--from", arguments->from, "Release of the names: " + releaseTexts(" or "))
+    version
+        ->add_option("--from", arguments->from,
+                     "Release of the names: " +
+                         text::alternatives(std::views::transform(mappingReleases, &MappingRelease::text)))
         ->option_text("RELEASE")
         ->required();
     version->add_option("--to", arguments->to, "Release to map them to")->option_text("RELEASE")->required();

@@ -2,6 +2,7 @@
 
 #include "MappingReleases.h"
 #include "QORIFCDXXMLServices.h"
+#include "ResourceNames.h"
 #include "velkor/dictionaries/ReleaseRenames.h"
 #include "velkor/xml/QORIXMLDOMDocumentBuilder.h"
 
@@ -11,6 +12,7 @@ namespace velkor {
 
 namespace {
 
+namespace names = velkor::names::version;
 using sdai::Attribute;
 using sdai::AttributeSlot;
 using sdai::EntityDefinition;
@@ -36,8 +38,9 @@ public:
         : _document(document), _before(before), _after(after), _direction(renameDirection(before, after)) {}
 
     void write(const QORIDOMElement_var& root) {
-        _version = add(root, "Version",
-                       {{"from", mappingReleaseText(_before.name())}, {"to", mappingReleaseText(_after.name())}});
+        _version =
+            add(root, names::block,
+                {{names::from, mappingReleaseText(_before.name())}, {names::to, mappingReleaseText(_after.name())}});
         for (const EntityDefinition* entity : sorted(_before)) addMappings(*entity);
         for (const EntityDefinition* entity : sorted(_before)) addDeprecations(*entity);
         for (const EntityDefinition* entity : sorted(_after)) addIntroductions(*entity);
@@ -96,33 +99,35 @@ private:
         const EntityDefinition* later = successor(entity);
         if (later == nullptr) return;
         const bool isRenamed = later->name() != entity.name();
-        if (isRenamed) add(_version, "Mapping", {{"fromEntity", entity.name()}, {"toEntity", later->name()}});
+        if (isRenamed)
+            add(_version, names::mapping, {{names::fromEntity, entity.name()}, {names::toEntity, later->name()}});
         visitExplicit(entity, [&](const Attribute& attribute) {
             const std::string_view name = successor(entity, *later, attribute.name());
             if (name.empty() || (!isRenamed && name == attribute.name())) return;
-            Values values{{"fromEntity", entity.name()}, {"fromProperty", attribute.name()}};
-            if (isRenamed) values.emplace_back("toEntity", later->name());
-            values.emplace_back("toProperty", name);
-            add(_version, "Mapping", values);
+            Values values{{names::fromEntity, entity.name()}, {names::fromProperty, attribute.name()}};
+            if (isRenamed) values.emplace_back(names::toEntity, later->name());
+            values.emplace_back(names::toProperty, name);
+            add(_version, names::mapping, values);
         });
     }
 
     void addDeprecations(const EntityDefinition& entity) {
         const EntityDefinition* later = successor(entity);
         if (later == nullptr) {
-            add(_version, "Deprecation", {{"entity", entity.name()}});
+            add(_version, names::deprecation, {{names::entity, entity.name()}});
             return;
         }
         visitExplicit(entity, [&](const Attribute& attribute) {
             if (successor(entity, *later, attribute.name()).empty())
-                add(_version, "Deprecation", {{"entity", entity.name()}, {"property", attribute.name()}});
+                add(_version, names::deprecation,
+                    {{names::entity, entity.name()}, {names::property, attribute.name()}});
         });
     }
 
     void addIntroductions(const EntityDefinition& entity) {
         const EntityDefinition* earlier = _before.entity(entity.name());
         if (earlier == nullptr) {
-            add(_version, "Introduction", {{"entity", entity.name()}});
+            add(_version, names::introduction, {{names::entity, entity.name()}});
             return;
         }
         std::vector<std::string_view> known;
@@ -131,12 +136,12 @@ private:
         });
         visitExplicit(entity, [&](const Attribute& attribute) {
             if (std::ranges::find(known, attribute.name()) != known.end()) return;
-            Values values{{"entity", entity.name()}, {"property", attribute.name()}};
+            Values values{{names::entity, entity.name()}, {names::property, attribute.name()}};
             // The one value that is right of every object.
             const sdai::EnumerationType* enumeration = attribute.type().resolved().asEnumeration();
             if (enumeration != nullptr && enumeration->position("NOTDEFINED") >= 0)
-                values.emplace_back("propertyValue", "NOTDEFINED");
-            add(_version, "Introduction", values);
+                values.emplace_back(names::propertyValue, "NOTDEFINED");
+            add(_version, names::introduction, values);
         });
     }
 

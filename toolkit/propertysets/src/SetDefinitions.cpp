@@ -3,6 +3,7 @@
 #include "QORIFCDXXMLServices.h"
 #include "QORIFCPSetQtoValidationService.h"
 #include "ResourceKinds.h"
+#include "ResourceNames.h"
 #include "velkor/files/Paths.h"
 #include "velkor/files/QORSysRTVWalker.h"
 #include "velkor/sdai/DXSdaiAppInstance.h"
@@ -104,11 +105,10 @@ const SetDefinition::Contents& SetDefinition::contents() const {
     QORIDOMDocument_var document;
     if (_path.empty() || FAILED(QORIFCDXXMLServices::GetDOMDocument(unicode(_path), document)) || !document)
         return *_contents;
-    for (const std::string& text : elementTexts(document, "ClassName")) {
-        const std::size_t slash = text.find('/');
-        if (!text.empty()) _contents->classes.push_back(slash == 0 ? text : text.substr(0, slash));
+    for (const std::string& text : elementTexts(document, names::definition::className)) {
+        if (!text.empty()) _contents->classes.emplace_back(names::definition::classNamed(text));
     }
-    _contents->properties = elementTexts(document, "Name");
+    _contents->properties = elementTexts(document, names::definition::name);
     if (!_contents->properties.empty()) _contents->properties.erase(_contents->properties.begin());
     std::erase(_contents->properties, std::string());
     return *_contents;

@@ -1,5 +1,6 @@
 #include "AECLinter.h"
 
+#include "ResourceNames.h"
 #include "velkor/text/QORUnicodeString.h"
 
 #include <map>
@@ -8,30 +9,27 @@ namespace velkor::lint {
 
 namespace {
 
-constexpr const char* neutralTag = "NeutralID";
-constexpr const char* ifcTag = "IFC";
-constexpr const char* plmTag = "NORVEL";
-constexpr const char* conditionTag = "Condition";
-constexpr const char* valuateTag = "Valuate";
+namespace names = velkor::names::aec;
 
 const Format& format() {
-    static const Format result{nullptr,
-                               {{neutralTag, {}, {"Name"}},
-                                {ifcTag, {neutralTag}, {"Name"}, {"Priority"}},
-                                {plmTag, {neutralTag}, {"Name"}, {"Priority"}},
-                                {conditionTag, {ifcTag, plmTag}, {}, {"Attribute", "Value"}, true},
-                                {valuateTag, {ifcTag, plmTag}, {"Attribute"}, {"Value"}}}};
+    static const Format result{
+        nullptr,
+        {{names::neutral, {}, {names::name}},
+         {names::ifc, {names::neutral}, {names::name}, {names::priority}},
+         {names::plm, {names::neutral}, {names::name}, {names::priority}},
+         {names::condition, {names::ifc, names::plm}, {}, {names::attribute, names::value}, true},
+         {names::valuate, {names::ifc, names::plm}, {names::attribute}, {names::value}}}};
     return result;
 }
 
 std::vector<const XmlElement*> conditionsOf(const XmlElement& side) {
     std::vector<const XmlElement*> result;
-    side.visitNamed(conditionTag, [&](const XmlElement& condition) { result.push_back(&condition); });
+    side.visitNamed(names::condition, [&](const XmlElement& condition) { result.push_back(&condition); });
     return result;
 }
 
 bool readPriority(const XmlElement& side, int& priority) {
-    return QORUnicodeString(std::string_view(side.attribute("Priority"))).ConvertToNum(priority);
+    return QORUnicodeString(std::string_view(side.attribute(names::priority))).ConvertToNum(priority);
 }
 
 } // namespace
@@ -39,11 +37,11 @@ bool readPriority(const XmlElement& side, int& priority) {
 AECLinter::AECLinter(Dictionaries& dictionaries) : Linter(format(), dictionaries) {}
 
 void AECLinter::judgeEntries(const XmlElement& root) {
-    std::map<std::string, int> names;
-    root.visitNamed(neutralTag, [&](const XmlElement& neutral) {
+    std::map<std::string, int> known;
+    root.visitNamed(names::neutral, [&](const XmlElement& neutral) {
         countEntry();
-        const std::string& name = neutral.attribute("Name");
-        const auto [first, isNew] = names.try_emplace(toUpper(name), neutral.line);
+        const std::string& name = neutral.attribute(names::name);
+        const auto [first, isNew] = known.try_emplace(toUpper(name), neutral.line);
         if (!isNew && !name.empty()) {
             warn(neutral.line, "duplicate-key",
                  quoted(name) + " has an entry " + inLine(first->second) + " already, which alone answers for it");
@@ -55,16 +53,16 @@ void AECLinter::judgeEntries(const XmlElement& root) {
 }
 
 void AECLinter::judgeNeutral(const XmlElement& neutral) {
-    for (const char* tag : {ifcTag, plmTag}) {
+    for (const char* tag : {names::ifc, names::plm}) {
         const XmlElement* first = nullptr;
         for (const XmlElement& side : neutral.children) {
             if (side.name != tag) continue;
             judgePlace(side);
             judgeSide(side);
-            if (side.index == 0) continue;
+            if (!side.isExamined()) continue;
             if (first != nullptr) {
                 warn(side.line, "duplicate-side",
-                     quoted(neutral.attribute("Name")) + " has another " + tag + ' ' + inLine(first->line) +
+                     quoted(neutral.attribute(names::name)) + " has another " + tag + ' ' + inLine(first->line) +
                          ", which alone answers for it");
             } else {
                 first = &side;
@@ -74,15 +72,15 @@ void AECLinter::judgeNeutral(const XmlElement& neutral) {
 }
 
 void AECLinter::judgeSide(const XmlElement& side) {
-    if (side.name == ifcTag) judgeEntity(side.line, side.attribute("Name"), {});
+    if (side.name == names::ifc) judgeEntity(side.line, side.attribute(names::name), {});
     int priority = 0;
-    if (side.hasAttribute("Priority") && !readPriority(side, priority)) {
+    if (side.hasAttribute(names::priority) && !readPriority(side, priority)) {
         warn(side.line, "bad-priority",
-             "expected a whole number as \"Priority\", found " + quoted(side.attribute("Priority")) +
-                 ", which counts as 0");
+             "expected a whole number as " + quoted(names::priority) + ", found " +
+                 quoted(side.attribute(names::priority)) + ", which counts as 0");
     }
     for (const XmlElement& child : side.children) {
-        if (child.name == valuateTag) judgePlace(child);
+        if (child.name == names::valuate) judgePlace(child);
     }
     judgeCondition(side);
 }
@@ -95,17 +93,17 @@ void AECLinter::judgeCondition(const XmlElement& side) {
     }
     if (conditions.empty()) return;
     const XmlElement& condition = *conditions.front();
-    const std::string& attribute = condition.attribute("Attribute");
+    const std::string& attribute = condition.attribute(names::attribute);
     if (attribute.empty()) {
-        warn(condition.line, "condition-ignored", "a condition without \"Attribute\" always holds");
+        warn(condition.line, "condition-ignored", "a condition without " + quoted(names::attribute) + " always holds");
         return;
     }
-    if (!condition.hasAttribute("Value"))
-        error(condition.line, "missing-value", std::string(conditionTag) + " has no \"Value\"");
-    if (side.name != ifcTag) return;
-    const std::string& entity = side.attribute("Name");
+    if (!condition.hasAttribute(names::value))
+        error(condition.line, "missing-value", std::string(names::condition) + " has no " + quoted(names::value));
+    if (side.name != names::ifc) return;
+    const std::string& entity = side.attribute(names::name);
     judgeProperty(condition.line, entity, attribute, {});
-    judgeEnumerator(condition.line, entity, attribute, condition.attribute("Value"), {}, true);
+    judgeEnumerator(condition.line, entity, attribute, condition.attribute(names::value), {}, true);
 }
 
 void AECLinter::judgeOrder(AECSide side) {

@@ -1,30 +1,29 @@
 #include "CustomMappingLinter.h"
 
+#include "ResourceNames.h"
 #include "velkor/text/QORToken.h"
 
 namespace velkor::lint {
 
 namespace {
 
-constexpr const char* standard = "StandardMapping";
-constexpr const char* custom = "CustomMapping";
-constexpr const char* import = "_Import";
-constexpr const char* exporting = "_Export";
+namespace names = velkor::names::custom;
 
 const Format& format() {
-    static const std::vector<const char*> required{"fromEntity", "toEntity", "scope"};
-    static const std::vector<const char*> optional{"fromProperty", "toProperty"};
-    static const Format result{"IfcMapping",
-                               {{"IfcMapping", {""}, {}},
-                                {standard, {"IfcMapping"}, required, optional},
-                                {custom, {"IfcMapping"}, required, optional}}};
+    static const std::vector<const char*> required{names::fromEntity, names::toEntity, names::scope};
+    static const std::vector<const char*> optional{names::fromProperty, names::toProperty};
+    static const Format result{names::root,
+                               {{names::root, {""}, {}},
+                                {names::standard, {names::root}, required, optional},
+                                {names::mapping, {names::root}, required, optional}}};
     return result;
 }
 
 std::vector<std::string> typesOf(const XmlElement& mapping) {
     std::vector<std::string> result;
-    QORToken types{QORUnicodeString(std::string_view(mapping.attribute("scope")))};
-    for (auto type = types.GetNextToken(";"); !type.IsEmpty(); type = types.GetNextToken(";"))
+    QORToken types{QORUnicodeString(std::string_view(mapping.attribute(names::scope)))};
+    for (auto type = types.GetNextToken(names::typeSeparator); !type.IsEmpty();
+         type = types.GetNextToken(names::typeSeparator))
         result.emplace_back(type.utf8());
     return result;
 }
@@ -38,8 +37,8 @@ void CustomMappingLinter::judgeEntries(const XmlElement& root) {
     _mappings.clear();
     _keys.clear();
     _losses.clear();
-    if (root.name != "IfcMapping" || !root.namespaceUri.empty()) return;
-    for (const char* section : {standard, custom}) {
+    if (root.name != names::root || !root.namespaceUri.empty()) return;
+    for (const char* section : {names::standard, names::mapping}) {
         for (const XmlElement& mapping : root.children) {
             if (mapping.name == section && mapping.namespaceUri.empty()) judgeMapping(mapping);
         }
@@ -50,23 +49,23 @@ void CustomMappingLinter::judgeEntries(const XmlElement& root) {
 void CustomMappingLinter::judgeMapping(const XmlElement& mapping) {
     countEntry();
     _mappings.push_back(&mapping);
-    judgeName(mapping.line, mapping.attribute("fromEntity"), mapping.attribute("fromProperty"));
-    judgeName(mapping.line, mapping.attribute("toEntity"), mapping.attribute("toProperty"));
+    judgeName(mapping.line, mapping.attribute(names::fromEntity), mapping.attribute(names::fromProperty));
+    judgeName(mapping.line, mapping.attribute(names::toEntity), mapping.attribute(names::toProperty));
     const std::vector<std::string> types = typesOf(mapping);
-    if (types.empty() && !mapping.attribute("scope").empty())
-        error(mapping.line, "missing-value", mapping.name + " has no type in its \"scope\"");
+    if (types.empty() && !mapping.attribute(names::scope).empty())
+        error(mapping.line, "missing-value", mapping.name + " has no type in its " + quoted(names::scope));
     for (const std::string& type : types) {
         QORUnicodeString bare{std::string_view(type)};
         bare.Strip();
         if (bare.utf8() != type) {
             error(mapping.line, "bad-scope", "the blanks beside a type are part of its name: " + quoted(type),
                   "write " + quoted(bare.utf8()));
-        } else if (type.ends_with(import) || type.ends_with(exporting)) {
+        } else if (type.ends_with(names::importEnding) || type.ends_with(names::exportEnding)) {
             error(mapping.line, "bad-scope", "a direction is no part of a type: " + quoted(type),
                   "write " + quoted(std::string_view(type).substr(0, type.rfind('_'))));
         }
-        addKey("fromEntity", "fromProperty", type, import);
-        if (mapping.name == custom) addKey("toEntity", "toProperty", type, exporting);
+        addKey(names::fromEntity, names::fromProperty, type, names::importEnding);
+        if (mapping.name == names::mapping) addKey(names::toEntity, names::toProperty, type, names::exportEnding);
     }
 }
 
@@ -95,9 +94,9 @@ void CustomMappingLinter::tellLosses() {
         const auto& [loserIndex, winnerIndex, direction, doKeysDiffer] = loss;
         const XmlElement* loser = _mappings[loserIndex];
         const XmlElement* winner = _mappings[winnerIndex];
-        const bool isImport = direction == import;
-        const std::string& property = loser->attribute(isImport ? "fromProperty" : "toProperty");
-        std::string shown = quoted(loser->attribute(isImport ? "fromEntity" : "toEntity"));
+        const bool isImport = direction == names::importEnding;
+        const std::string& property = loser->attribute(isImport ? names::fromProperty : names::toProperty);
+        std::string shown = quoted(loser->attribute(isImport ? names::fromEntity : names::toEntity));
         if (!property.empty()) shown += ' ' + quoted(property);
         shown += std::string(isImport ? " on import" : " on export") + " of " + types.front();
         if (types.size() > 1) shown += " and " + std::to_string(types.size() - 1) + " more";

@@ -1,8 +1,12 @@
 #include "DefinitionLinter.h"
 
+#include "ResourceNames.h"
+
 namespace velkor::lint {
 
 namespace {
+
+namespace names = velkor::names::definition;
 
 constexpr std::string_view ending = ".xml";
 
@@ -12,15 +16,15 @@ const Format& format() {
         const std::vector<const char*> attributes{"ifdguid", "templatetype", "version",     "schema",    "type",
                                                   "name",    "currencytype", "lang",        "value",     "reftype",
                                                   "guid",    "URL",          "libraryname", "sectionref"};
-        Format made{"PropertySetDef", {}, true};
-        for (const char* name : {"PropertySetDef",
-                                 "QtoSetDef",
+        Format made{names::propertySet, {}, true};
+        for (const char* name : {names::propertySet,
+                                 names::quantitySet,
                                  "IfcVersion",
-                                 "Name",
+                                 names::name,
                                  "Definition",
                                  "Applicability",
                                  "ApplicableClasses",
-                                 "ClassName",
+                                 names::className,
                                  "ApplicableTypeValue",
                                  "PropertyDefs",
                                  "PropertyDef",
@@ -81,35 +85,35 @@ std::string setNameOf(const std::string& path) {
 DefinitionLinter::DefinitionLinter(Dictionaries& dictionaries) : Linter(format(), dictionaries) {}
 
 void DefinitionLinter::judgeEntries(const XmlElement& root) {
-    std::vector<const XmlElement*> names;
-    root.visitNamed("Name", [&](const XmlElement& name) { names.push_back(&name); });
-    for (std::size_t i = 1; i < names.size(); ++i) {
+    std::vector<const XmlElement*> found;
+    root.visitNamed(names::name, [&](const XmlElement& name) { found.push_back(&name); });
+    for (std::size_t i = 1; i < found.size(); ++i) {
         countEntry();
-        if (names[i]->text.empty()) error(names[i]->line, "missing-value", "Name has no text");
+        if (found[i]->text.empty()) error(found[i]->line, "missing-value", std::string(names::name) + " has no text");
     }
-    if (names.size() < 2)
+    if (found.size() < 2)
         error(root.line, "no-entries",
-              "expected the name of the set and of one property at least, found " + std::to_string(names.size()) +
-                  " Name");
+              "expected the name of the set and of one property at least, found " + std::to_string(found.size()) + ' ' +
+                  names::name);
     const std::string file = setNameOf(path());
-    if (!names.empty() && names.front()->text != file) {
-        error(names.front()->line, "file-name",
+    if (!found.empty() && found.front()->text != file) {
+        error(found.front()->line, "file-name",
               "a set is looked for under the name of its file, " + quoted(file) + ", not under " +
-                  quoted(names.front()->text));
+                  quoted(found.front()->text));
     }
     judgeClasses(root);
 }
 
 void DefinitionLinter::judgeClasses(const XmlElement& root) {
     bool hasClass = false;
-    root.visitNamed("ClassName", [&](const XmlElement& element) {
+    root.visitNamed(names::className, [&](const XmlElement& element) {
         hasClass = true;
         const std::string& text = element.text;
-        if (text.empty()) return error(element.line, "missing-value", "ClassName has no text");
-        const std::size_t slash = text.find('/');
-        judgeEntity(element.line, slash == 0 ? text : text.substr(0, slash), {});
+        if (text.empty()) return error(element.line, "missing-value", std::string(names::className) + " has no text");
+        judgeEntity(element.line, std::string(names::classNamed(text)), {});
     });
-    if (!hasClass) warn(root.line, "no-classes", "the set applies to nothing, since it has no ClassName");
+    if (!hasClass)
+        warn(root.line, "no-classes", std::string("the set applies to nothing, since it has no ") + names::className);
 }
 
 } // namespace velkor::lint

@@ -106,7 +106,7 @@ void Linter::judgeEnumerator(int line, const std::string& entity, const std::str
 }
 
 void Linter::judgePlace(const XmlElement& element) {
-    if (element.index != 0 || element.parent == nullptr) return;
+    if (element.isExamined() || element.parent == nullptr) return;
     error(element.line, "first-node",
           element.name + " is the first node of its " + element.parent->name + ", which is never examined",
           "put it on a line of its own");

@@ -1,43 +1,40 @@
 #include "PLMAttributesLinter.h"
 
+#include "ResourceNames.h"
+
 #include <algorithm>
 
 namespace velkor::lint {
 
 namespace {
 
-constexpr const char* lineTag = "fromAttributes";
-constexpr const char* includeTag = "PLMAttrInclude";
-constexpr const char* groupTag = "PLMAttrIncluded";
-constexpr const char* mappingTag = "IfcPLMMapping";
-constexpr const char* rootTag = "IfcPLMMappingAttr";
-/// Lines for the other direction, which nobody reads.
-constexpr const char* importOnly = "Import_Only";
+namespace names = velkor::names::plm;
 
 const Format& format() {
-    static const Format result{
-        rootTag,
-        {{rootTag, {""}, {}},
-         {groupTag, {rootTag}, {"id"}},
-         {mappingTag, {rootTag}, {"Name"}},
-         {lineTag, {groupTag, mappingTag}, {"plmProp", "propSetName", "ifcProp"}, {"propExpose"}},
-         {includeTag, {groupTag, mappingTag}, {"IncludedId"}}}};
+    static const Format result{names::root,
+                               {{names::root, {""}, {}},
+                                {names::group, {names::root}, {names::id}},
+                                {names::mapping, {names::root}, {names::type}},
+                                {names::line,
+                                 {names::group, names::mapping},
+                                 {names::plmAttribute, names::propertySet, names::property},
+                                 {names::direction}},
+                                {names::include, {names::group, names::mapping}, {names::includedId}}}};
     return result;
 }
 
 bool isExported(const XmlElement& line) {
-    const std::string& direction = line.attribute("propExpose");
-    return direction.empty() || direction == "Both" || direction == "Export_Only";
+    return names::isExported(line.attribute(names::direction));
 }
 
 std::string targetOf(const XmlElement& line) {
-    return line.attribute("propSetName") + '\n' + line.attribute("ifcProp");
+    return line.attribute(names::propertySet) + '\n' + line.attribute(names::property);
 }
 
 } // namespace
 
 const XmlElement* PLMAttributesLinter::Group::add(const XmlElement& line) {
-    const auto [place, isNew] = byAttribute.try_emplace(toUpper(line.attribute("plmProp")), &line);
+    const auto [place, isNew] = byAttribute.try_emplace(toUpper(line.attribute(names::plmAttribute)), &line);
     if (isNew) lines.push_back(&line);
     return place->second;
 }
@@ -47,35 +44,38 @@ PLMAttributesLinter::PLMAttributesLinter(Dictionaries& dictionaries) : Linter(fo
 void PLMAttributesLinter::judgeEntries(const XmlElement& root) {
     _groups.clear();
     _complete.clear();
-    if (root.name != rootTag || !root.namespaceUri.empty()) return;
+    if (root.name != names::root || !root.namespaceUri.empty()) return;
     for (const XmlElement& part : root.children) {
         for (const XmlElement& line : part.children) {
-            if (line.name == lineTag) judgeLine(line);
+            if (line.name == names::line) judgeLine(line);
         }
     }
     buildGroups(root);
     bool hasMapping = false;
     for (const XmlElement& mapping : root.children) {
-        if (mapping.name != mappingTag) continue;
+        if (mapping.name != names::mapping) continue;
         hasMapping = true;
         judgeMapping(mapping);
     }
-    if (!hasMapping) return warn(root.line, "no-entries", std::string("the document has no ") + mappingTag);
+    if (!hasMapping) return warn(root.line, "no-entries", std::string("the document has no ") + names::mapping);
     tellUnused();
 }
 
 void PLMAttributesLinter::judgeLine(const XmlElement& line) {
     countEntry();
-    const std::string& direction = line.attribute("propExpose");
+    const std::string& direction = line.attribute(names::direction);
     if (isExported(line)) return;
     warn(line.line, "line-dropped",
-         quoted(line.attribute("plmProp")) + " is not exported, since its \"propExpose\" is " + quoted(direction),
-         direction == importOnly ? std::string() : didYouMean({"Both", "Export_Only", importOnly}, direction));
+         quoted(line.attribute(names::plmAttribute)) + " is not exported, since its " + quoted(names::direction) +
+             " is " + quoted(direction),
+         direction == names::importOnly ? std::string()
+                                        : didYouMean({names::both, names::exportOnly, names::importOnly}, direction));
 }
 
 void PLMAttributesLinter::buildGroups(const XmlElement& root) {
     for (const XmlElement& element : root.children) {
-        if (element.name == groupTag) _groups.push_back({element.attribute("id"), &element, {}, {}, {}, false});
+        if (element.name == names::group)
+            _groups.push_back({element.attribute(names::id), &element, {}, {}, {}, false});
     }
     for (std::size_t i = 0; i < _groups.size(); ++i) buildGroup(i);
 }
@@ -83,12 +83,12 @@ void PLMAttributesLinter::buildGroups(const XmlElement& root) {
 void PLMAttributesLinter::buildGroup(std::size_t index) {
     Group& group = _groups[index];
     for (const XmlElement& child : group.element->children) {
-        if (child.name == includeTag) include(index, child);
-        if (child.name != lineTag || !isExported(child)) continue;
+        if (child.name == names::include) include(index, child);
+        if (child.name != names::line || !isExported(child)) continue;
         const XmlElement* counts = group.add(child);
         if (counts != &child && targetOf(*counts) != targetOf(child)) {
             warn(child.line, "duplicate-key",
-                 quoted(child.attribute("plmProp")) + " of the group " + quoted(group.id) + " has a line " +
+                 quoted(child.attribute(names::plmAttribute)) + " of the group " + quoted(group.id) + " has a line " +
                      inLine(counts->line) + " already, which counts");
         }
     }
@@ -108,7 +108,7 @@ void PLMAttributesLinter::buildGroup(std::size_t index) {
 // lines.
 void PLMAttributesLinter::include(std::size_t index, const XmlElement& include) {
     Group& current = _groups[index];
-    const std::string wanted = toUpper(include.attribute("IncludedId"));
+    const std::string wanted = toUpper(include.attribute(names::includedId));
     if (wanted.empty()) return;
     std::set<std::size_t> taken;
     for (std::size_t k = 0; k < _groups.size(); ++k) {
@@ -118,7 +118,7 @@ void PLMAttributesLinter::include(std::size_t index, const XmlElement& include) 
             taken.insert(complete->second);
         } else if (toUpper(other.id) == wanted) {
             for (const XmlElement& child : other.element->children) {
-                if (child.name == lineTag && isExported(child)) current.add(child);
+                if (child.name == names::line && isExported(child)) current.add(child);
             }
             if (k != index) taken.insert(k);
         }
@@ -129,11 +129,11 @@ void PLMAttributesLinter::include(std::size_t index, const XmlElement& include) 
 
 void PLMAttributesLinter::judgeInclude(std::size_t index, const XmlElement& include,
                                        const std::set<std::size_t>& taken) {
-    const std::string& id = include.attribute("IncludedId");
+    const std::string& id = include.attribute(names::includedId);
     const std::size_t named = groupNamed(id);
     if (named == _groups.size() || (named < index && !_complete.contains(toUpper(id)))) return tellUnresolved(include);
     const auto hasIncludes = [](const XmlElement& group) {
-        return std::ranges::find(group.children, includeTag, &XmlElement::name) != group.children.end();
+        return std::ranges::find(group.children, names::include, &XmlElement::name) != group.children.end();
     };
     if (named == index) {
         error(include.line, "include-incomplete", "the group " + quoted(id) + " includes itself");
@@ -156,19 +156,19 @@ void PLMAttributesLinter::judgeInclude(std::size_t index, const XmlElement& incl
 
 void PLMAttributesLinter::judgeMapping(const XmlElement& mapping) {
     for (const XmlElement& child : mapping.children) {
-        if (child.name == includeTag) takeIn(mapping, child);
-        if (child.name != lineTag || !isExported(child)) continue;
+        if (child.name == names::include) takeIn(mapping, child);
+        if (child.name != names::line || !isExported(child)) continue;
         const Place* counts = addKey(mapping, child, child.line);
         if (counts == nullptr) continue;
         warn(child.line, "duplicate-key",
-             quoted(child.attribute("plmProp")) + " of " + quoted(mapping.attribute("Name")) + " has a line " +
-                 shown(*counts) + " already, which counts");
+             quoted(child.attribute(names::plmAttribute)) + " of " + quoted(mapping.attribute(names::type)) +
+                 " has a line " + shown(*counts) + " already, which counts");
     }
 }
 
 // The same line by two ways is no matter.
 void PLMAttributesLinter::takeIn(const XmlElement& mapping, const XmlElement& include) {
-    const std::string& id = include.attribute("IncludedId");
+    const std::string& id = include.attribute(names::includedId);
     if (id.empty()) return;
     const auto found = _complete.find(toUpper(id));
     if (found == _complete.end()) return tellUnresolved(include);
@@ -181,24 +181,24 @@ void PLMAttributesLinter::takeIn(const XmlElement& mapping, const XmlElement& in
         const Place* counts = addKey(mapping, *line, include.line);
         if (counts == nullptr || counts->target == targetOf(*line)) continue;
         if (refused.empty()) where = shown(*counts);
-        refused.push_back(line->attribute("plmProp"));
+        refused.push_back(line->attribute(names::plmAttribute));
     }
     if (refused.empty()) return;
     const std::string more = refused.size() > 1 ? " and " + std::to_string(refused.size() - 1) + " more" : "";
     warn(include.line, "duplicate-key",
-         quoted(refused.front()) + more + " of group " + quoted(id) + ": " + quoted(mapping.attribute("Name")) +
+         quoted(refused.front()) + more + " of group " + quoted(id) + ": " + quoted(mapping.attribute(names::type)) +
              " has a line " + where + " already, which counts");
 }
 
 const PLMAttributesLinter::Place* PLMAttributesLinter::addKey(const XmlElement& mapping, const XmlElement& line,
                                                               int number) {
-    const std::string key = keyText({mapping.attribute("Name"), line.attribute("plmProp")});
+    const std::string key = keyText({mapping.attribute(names::type), line.attribute(names::plmAttribute)});
     const auto [place, isNew] = _keys.try_emplace(key, Place{path(), targetOf(line), number});
     return isNew ? nullptr : &place->second;
 }
 
 void PLMAttributesLinter::tellUnresolved(const XmlElement& include) {
-    const std::string& id = include.attribute("IncludedId");
+    const std::string& id = include.attribute(names::includedId);
     const bool exists = groupNamed(id) != _groups.size();
     std::vector<std::string_view> known;
     for (const auto& [name, index] : _complete) known.emplace_back(_groups[index].id);

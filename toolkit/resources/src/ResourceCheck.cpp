@@ -5,6 +5,7 @@
 #include "CustomMappingLinter.h"
 #include "DefinitionLinter.h"
 #include "PLMAttributesLinter.h"
+#include "ResourceNames.h"
 #include "velkor/files/InputText.h"
 #include "VersionMappingLinter.h"
 
@@ -37,22 +38,24 @@ std::unique_ptr<Linter> linterOf(const LinterKind& kind, Dictionaries& dictionar
 
 bool isVersionMapping(const XmlElement& root) {
     bool result = false;
-    root.visitNamed("Version", [&](const XmlElement& version) {
-        result |= version.hasAttribute("from") || version.hasAttribute("to") || version.contains("Mapping") ||
-                  version.contains("Deprecation") || version.contains("Introduction");
+    root.visitNamed(names::version::block, [&](const XmlElement& version) {
+        result |= version.hasAttribute(names::version::from) || version.hasAttribute(names::version::to) ||
+                  version.contains(names::version::mapping) || version.contains(names::version::deprecation) ||
+                  version.contains(names::version::introduction);
     });
     return result;
 }
 
 bool isAttributeList(const XmlElement& root) {
-    return root.contains("AttributeID") && root.contains("Level");
+    return root.contains(names::attributelist::entry) && root.contains(names::attributelist::level);
 }
 
 const LinterKind* recognized(const XmlElement& root) {
-    if (root.name == "IfcMapping") return linterKind("custom-mapping");
-    if (root.name == "IfcPLMMappingAttr") return linterKind("plm-attributes");
-    if (root.name == "PropertySetDef" || root.name == "QtoSetDef") return linterKind("definition");
-    if (root.contains("NeutralID")) return linterKind("aec");
+    if (root.name == names::custom::root) return linterKind("custom-mapping");
+    if (root.name == names::plm::root) return linterKind("plm-attributes");
+    if (root.name == names::definition::propertySet || root.name == names::definition::quantitySet)
+        return linterKind("definition");
+    if (root.contains(names::aec::neutral)) return linterKind("aec");
     if (isAttributeList(root)) return linterKind("attribute-list");
     return isVersionMapping(root) ? linterKind("version-mapping") : nullptr;
 }

@@ -1,6 +1,7 @@
 #include "VersionMappingLinter.h"
 
 #include "MappingReleases.h"
+#include "ResourceNames.h"
 #include "velkor/text/Wording.h"
 
 #include <ranges>
@@ -9,12 +10,18 @@ namespace velkor::lint {
 
 namespace {
 
+namespace names = velkor::names::version;
+
 const Format& format() {
-    static const Format result{nullptr,
-                               {{"Version", {}, {"from", "to"}},
-                                {"Mapping", {"Version"}, {"fromEntity"}, {"fromProperty", "toEntity", "toProperty"}},
-                                {"Deprecation", {"Version"}, {"entity"}, {"property"}},
-                                {"Introduction", {"Version"}, {"entity"}, {"property", "propertyValue"}}}};
+    static const Format result{
+        nullptr,
+        {{names::block, {}, {names::from, names::to}},
+         {names::mapping,
+          {names::block},
+          {names::fromEntity},
+          {names::fromProperty, names::toEntity, names::toProperty}},
+         {names::deprecation, {names::block}, {names::entity}, {names::property}},
+         {names::introduction, {names::block}, {names::entity}, {names::property, names::propertyValue}}}};
     return result;
 }
 
@@ -24,9 +31,9 @@ VersionMappingLinter::VersionMappingLinter(Dictionaries& dictionaries) : Linter(
 
 void VersionMappingLinter::judgeEntries(const XmlElement& root) {
     std::map<std::string, int> blocks;
-    root.visitNamed("Version", [&](const XmlElement& version) {
-        const std::string& from = version.attribute("from");
-        const std::string& to = version.attribute("to");
+    root.visitNamed(names::block, [&](const XmlElement& version) {
+        const std::string& from = version.attribute(names::from);
+        const std::string& to = version.attribute(names::to);
         const auto [first, isNew] = blocks.try_emplace(from + '\n' + to, version.line);
         if (!isNew) {
             error(version.line, "duplicate-block",
@@ -55,10 +62,10 @@ Dictionaries::Releases VersionMappingLinter::judgeRelease(const XmlElement& vers
 }
 
 void VersionMappingLinter::judgeBlock(const XmlElement& version) {
-    Block block{judgeRelease(version, "from"), judgeRelease(version, "to"), {}, {}};
+    Block block{judgeRelease(version, names::from), judgeRelease(version, names::to), {}, {}};
     for (const XmlElement& child : version.children) {
-        const bool isMapping = child.name == "Mapping";
-        if (!isMapping && child.name != "Deprecation" && child.name != "Introduction") continue;
+        const bool isMapping = child.name == names::mapping;
+        if (!isMapping && child.name != names::deprecation && child.name != names::introduction) continue;
         countEntry();
         judgePlace(child);
         isMapping ? judgeMapping(child, block) : judgeChange(child, block);
@@ -66,10 +73,10 @@ void VersionMappingLinter::judgeBlock(const XmlElement& version) {
 }
 
 void VersionMappingLinter::judgeMapping(const XmlElement& mapping, Block& block) {
-    const std::string& entity = mapping.attribute("fromEntity");
-    const std::string& property = mapping.attribute("fromProperty");
-    const std::string& toEntity = mapping.attribute("toEntity");
-    const std::string& toProperty = mapping.attribute("toProperty");
+    const std::string& entity = mapping.attribute(names::fromEntity);
+    const std::string& property = mapping.attribute(names::fromProperty);
+    const std::string& toEntity = mapping.attribute(names::toEntity);
+    const std::string& toProperty = mapping.attribute(names::toProperty);
     if (entity.empty()) return;
     judgeEntity(mapping.line, entity, block.from);
     judgeEntity(mapping.line, toEntity, block.to);
@@ -78,10 +85,11 @@ void VersionMappingLinter::judgeMapping(const XmlElement& mapping, Block& block)
     if (!property.empty()) return judgeKey(mapping, entity, property, block);
 
     if (!toProperty.empty())
-        warn(mapping.line, "no-effect", "\"toProperty\" has no effect without a \"fromProperty\"");
+        warn(mapping.line, "no-effect",
+             quoted(names::toProperty) + " has no effect without a " + quoted(names::fromProperty));
     else if (toEntity.empty())
         warn(mapping.line, "no-effect", "the mapping names neither a property nor another entity");
-    if (mapping.index == 0 || toEntity.empty()) return;
+    if (!mapping.isExamined() || toEntity.empty()) return;
     const auto [first, isNew] = block.renames.try_emplace(toUpper(entity), toEntity, mapping.line);
     if (!isNew) {
         warn(mapping.line, "duplicate-key",
@@ -91,22 +99,23 @@ void VersionMappingLinter::judgeMapping(const XmlElement& mapping, Block& block)
 }
 
 void VersionMappingLinter::judgeChange(const XmlElement& change, Block& block) {
-    const std::string& entity = change.attribute("entity");
-    const std::string& property = change.attribute("property");
-    const std::string& value = change.attribute("propertyValue");
-    const Dictionaries::Releases& release = change.name == "Deprecation" ? block.from : block.to;
+    const std::string& entity = change.attribute(names::entity);
+    const std::string& property = change.attribute(names::property);
+    const std::string& value = change.attribute(names::propertyValue);
+    const Dictionaries::Releases& release = change.name == names::deprecation ? block.from : block.to;
     if (entity.empty()) return;
     judgeEntity(change.line, entity, release);
     judgeProperty(change.line, entity, property, release);
-    if (change.name == "Introduction") judgeEnumerator(change.line, entity, property, value, release, false);
+    if (change.name == names::introduction) judgeEnumerator(change.line, entity, property, value, release, false);
     if (!value.empty() && property.empty())
-        warn(change.line, "no-effect", "\"propertyValue\" has no effect without a \"property\"");
+        warn(change.line, "no-effect",
+             quoted(names::propertyValue) + " has no effect without a " + quoted(names::property));
     judgeKey(change, entity, property, block);
 }
 
 void VersionMappingLinter::judgeKey(const XmlElement& entry, const std::string& entity, const std::string& property,
                                     Block& block) {
-    if (entry.index == 0) return;
+    if (!entry.isExamined()) return;
     const std::string text = keyText({entity, property});
     const auto [first, isNew] = block.keys.try_emplace(keyHash({entity, property}), Key{text, entry.line});
     if (isNew) return;

@@ -5,6 +5,7 @@
 ///     if (reading.root) judge(*reading.root);
 #pragma once
 
+#include "ResourceNames.h"
 #include "velkor/resources/Finding.h"
 #include "velkor/xml/QORIDOMDocument.h"
 
@@ -47,6 +48,8 @@ struct XmlElement {
         for (const XmlElement& child : children) child.visitNamed(wanted, visit);
     }
     bool contains(std::string_view wanted) const;
+    /// False for one that the services pass over where it stands, if it is of a mapping or a correspondence.
+    bool isExamined() const noexcept { return index >= firstExaminedChild; }
 };
 
 struct XmlReading {

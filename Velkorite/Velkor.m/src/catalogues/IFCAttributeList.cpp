@@ -5,6 +5,7 @@
 #include "IFCAttributeTables.h"
 #include "QORIFCDXFileServices.h"
 #include "ResourceKinds.h"
+#include "ResourceNames.h"
 #include "velkor/files/QORDirectory.h"
 #include "xml/XmlNodes.h"
 
@@ -13,30 +14,25 @@
 namespace {
 
 using namespace velkor::library;
+namespace names = velkor::names::attributelist;
 
 // Every unit that deals with resource paths has its own pair; the list of folders is split by the file services.
 [[maybe_unused]] const QORUnicodeString pathListSeparator = ";";
 const QORUnicodeString folderSeparator = "\\";
-
-IfcLevel levelOf(const QORUnicodeString& id) {
-    if (id.Compare("2X3") != 0) return IfcLevel2X3;
-    if (id.Compare("4ANDABOVE") != 0) return IfcLevel4AndAbove;
-    return IfcLevelGeneral;
-}
 
 HRESULT readAttributeFile(const QORUnicodeString& path, IFCAttributeTables& tables) {
     QORIDOMDocument_var document;
     const HRESULT result = readCatalogue(path, document);
     if (FAILED(result) || document.IsNull()) return result;
 
-    for (const QORIDOMElement_var& levelElement : ElementRange(elementsTagged("Level", document))) {
-        const IfcLevel level = levelOf(attribute(levelElement, "ID"));
-        for (const QORIDOMElement_var& entry : ElementRange(elementsTagged("AttributeID", levelElement))) {
+    for (const QORIDOMElement_var& levelElement : ElementRange(elementsTagged(names::level, document))) {
+        const IfcLevel level = IFCAttributeList::GetLevel(attribute(levelElement, names::id));
+        for (const QORIDOMElement_var& entry : ElementRange(elementsTagged(names::entry, levelElement))) {
             tables.insert({{},
-                           attribute(entry, "PropertySet"),
-                           attribute(entry, "Entity"),
-                           attribute(entry, "Name"),
-                           attribute(entry, "Value")},
+                           attribute(entry, names::propertySet),
+                           attribute(entry, names::entity),
+                           attribute(entry, names::name),
+                           attribute(entry, names::value)},
                           level);
         }
     }
@@ -46,6 +42,12 @@ HRESULT readAttributeFile(const QORUnicodeString& path, IFCAttributeTables& tabl
 } // namespace
 
 IFCAttributeList* IFCAttributeList::_pInstance = nullptr;
+
+IfcLevel IFCAttributeList::GetLevel(const QORUnicodeString& iID) {
+    for (const velkor::AttributeLevel& known : velkor::attributeLevels)
+        if (iID.Compare(known.id) != 0) return known.level;
+    return IfcLevelGeneral;
+}
 
 IFCAttributeList* IFCAttributeList::GetInstance() {
     if (_pInstance == nullptr) {

@@ -1,6 +1,7 @@
 #include "QORIFCPSetQtoDefinition.h"
 
 #include "CatalogueDocument.h"
+#include "ResourceNames.h"
 #include "velkor/sdai/DXSdaiAppInstance.h"
 #include "xml/XmlNodes.h"
 
@@ -9,6 +10,7 @@
 namespace {
 
 using namespace velkor::library;
+namespace names = velkor::names::definition;
 
 /// The text of an element in upper case; empty for one that has none.
 QORUnicodeString upperText(const QORIDOMNode_var& element) {
@@ -27,14 +29,12 @@ HRESULT QORIFCPSetQtoDefinition::read(const QORUnicodeString& path) {
     const HRESULT result = readCatalogue(path, document);
     if (FAILED(result) || document.IsNull()) return result;
 
-    for (const QORIDOMElement_var& element : ElementRange(elementsTagged("ClassName", document))) {
-        QORUnicodeString name = upperText(element);
-        const int suffix = name.SearchSubString("/");
-        if (suffix > 0) name = name.SubString(0, suffix);
-        if (!name.IsEmpty()) _applicableClasses.Append(name);
+    for (const QORIDOMElement_var& element : ElementRange(elementsTagged(names::className, document))) {
+        const QORUnicodeString text = upperText(element);
+        if (!text.IsEmpty()) _applicableClasses.Append(QORUnicodeString(names::classNamed(text.utf8())));
     }
     // The first name is the set's own.
-    for (const QORIDOMElement_var& element : ElementRange(elementsTagged("Name", document).behindFirst())) {
+    for (const QORIDOMElement_var& element : ElementRange(elementsTagged(names::name, document).behindFirst())) {
         const QORUnicodeString name = upperText(element);
         if (!name.IsEmpty()) _propertyNames.try_emplace(name, name);
     }

@@ -9,6 +9,8 @@ namespace velkor::library {
 
 namespace {
 
+namespace names = velkor::names::aec;
+
 AECDocument sharedDocument;
 
 /// The highest first.
@@ -21,13 +23,13 @@ int CompareByPriority(const QORBaseUnknown_var& a, const QORBaseUnknown_var& b) 
 AECDocument::Condition readCondition(const QORIDOMElement_var& candidate) {
     AECDocument::Condition read{S_OK, {}, {}, {}, {}};
     QORIDOMElement_var condition;
-    read.result = firstElement(candidate, "Condition", condition);
+    read.result = firstElement(candidate, names::condition, condition);
     if (FAILED(read.result) || condition.IsNull()) return read;
-    read.result = attribute(condition, "Attribute", read.attribute);
+    read.result = attribute(condition, names::attribute, read.attribute);
     if (FAILED(read.result) || read.attribute.IsEmpty()) return read;
     read.upperAttribute = read.attribute;
     read.upperAttribute.ToUpper();
-    read.result = attribute(condition, "Value", read.value);
+    read.result = attribute(condition, names::value, read.value);
     read.upperValue = read.value;
     read.upperValue.ToUpper();
     return read;
@@ -102,7 +104,7 @@ std::vector<AECDocument::Candidate>& inOrder(AECDocument::Entry& entry) {
 
 int priorityOf(const QORIDOMElement_var& candidate) {
     int value = 0;
-    attribute(candidate, "Priority").ConvertToNum(value);
+    attribute(candidate, names::priority).ConvertToNum(value);
     return value;
 }
 
@@ -154,7 +156,7 @@ HRESULT neutralIdOf(AECDocument::Candidate& candidate, QORUnicodeString& name) {
         RETURN_IF_FAILED(reported(candidate.element->GetParentNode(parent)));
         QORIDOMElement_var neutral;
         RETURN_IF_FAILED(asElement(parent, neutral));
-        return attribute(neutral, "Name", text);
+        return attribute(neutral, names::name, text);
     });
 }
 

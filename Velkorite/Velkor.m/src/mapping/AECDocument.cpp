@@ -11,6 +11,8 @@ namespace velkor::library {
 
 namespace {
 
+namespace names = velkor::names::aec;
+
 /// An iterator that shows the elements of a tag, every name, at or below an element.
 HRESULT CreateElementIterator(const QORIDOMElement_var& root, const char* tag, QORIDOMNodeIterator_var& iterator) {
     const auto filter = QORBaseUnknown_var::adopt(objectmodeler::newComponent<QORXCADNodeFilter>(tag, ""));
@@ -67,7 +69,7 @@ HRESULT AECDocument::index(const char* tag, Index*& result) {
         if (node.IsNull()) break;
         const QORIDOMElement_var element = node;
         QORUnicodeString name;
-        RETURN_IF_FAILED(attribute(element, "Name", name));
+        RETURN_IF_FAILED(attribute(element, names::name, name));
         name.ToUpper();
         filled.all.elements.push_back(element);
         filled.byName[name].elements.push_back(element);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "QORIFCAECEntries.h"
+#include "ResourceNames.h"
 
 #include "velkor/objectmodeler/ResultCode.h"
 #include "velkor/text/QORUnicodeString.h"
@@ -81,7 +82,7 @@ private:
 
 /// Tag of a side.
 constexpr const char* tagOf(AECSide side) {
-    return side == AECSide::IFC ? "IFC" : "NORVEL";
+    return side == AECSide::IFC ? names::aec::ifc : names::aec::plm;
 }
 
 /// The first element of a tag at or below an element; empty when there is none.

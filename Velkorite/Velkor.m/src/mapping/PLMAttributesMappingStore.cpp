@@ -2,9 +2,11 @@
 
 #include "foundation/TableEntries.h"
 #include "QORIFCDXXMLServices.h"
+#include "ResourceNames.h"
 #include "xml/XmlNodes.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <utility>
 #include <vector>
 
@@ -12,11 +14,7 @@ namespace velkor::library {
 
 namespace {
 
-constexpr const char* mappingPath = "IfcPLMMappingAttr/IfcPLMMapping";
-constexpr const char* linePath = "IfcPLMMappingAttr/IfcPLMMapping/fromAttributes";
-constexpr const char* includedLinePath = "IfcPLMMappingAttr/PLMAttrIncluded/fromAttributes";
-constexpr const char* includePath = "IfcPLMMappingAttr/IfcPLMMapping/PLMAttrInclude";
-constexpr const char* groupPath = "IfcPLMMappingAttr/PLMAttrIncluded";
+namespace names = velkor::names::plm;
 
 unsigned int hashOf(QORUnicodeString key) {
     key.ToUpper();
@@ -53,8 +51,8 @@ const Entry* insert(QORSysSimpleHashTable& table, std::unique_ptr<Entry> entry) 
     return table.Insert(entry.get()) == 1 ? entry.release() : nullptr;
 }
 
-unsigned int count(const QORIDOMDocument_var& document, const char* xpath) {
-    return select(document, xpath).length();
+unsigned int count(const QORIDOMDocument_var& document, std::initializer_list<const char*> path) {
+    return select(document, path).length();
 }
 
 /// An attribute that cannot be had is reported and counts as absent.
@@ -77,11 +75,10 @@ void visitElements(const QORIDOMNode_var& parent, Visit visit) {
 /// A line that counts for export; else E_FAIL and untouched outputs.
 HRESULT ReadExposedAttribute(const QORIDOMElement_var& line, QORUnicodeString& plmProperty, QORUnicodeString& set,
                              QORUnicodeString& property) {
-    const QORUnicodeString exposed = value(line, "propExpose");
-    if (exposed != "Both" && exposed != "Export_Only" && !exposed.IsEmpty()) return E_FAIL;
-    plmProperty = value(line, "plmProp");
-    set = value(line, "propSetName");
-    property = value(line, "ifcProp");
+    if (!names::isExported(value(line, names::direction).utf8())) return E_FAIL;
+    plmProperty = value(line, names::plmAttribute);
+    set = value(line, names::propertySet);
+    property = value(line, names::property);
     return S_OK;
 }
 
@@ -92,7 +89,7 @@ void appendLine(const QORIDOMElement_var& line, PLMAttrIncludedGroup& group) {
 }
 void appendLines(const QORIDOMNode_var& parent, PLMAttrIncludedGroup& group) {
     visitElements(parent, [&](const QORIDOMElement_var& child, const QORUnicodeString& tag) {
-        if (tag == "fromAttributes") appendLine(child, group);
+        if (tag == names::line) appendLine(child, group);
     });
 }
 
@@ -136,11 +133,11 @@ const PLMAttrMappingRecord* PLMAttributesMappingStore::find(const QORUnicodeStri
 
 HRESULT PLMAttributesMappingStore::LoadMappingDocument() {
     if (_document.IsNull()) return E_FAIL;
-    const NodeRange mappings = select(_document, mappingPath);
+    const NodeRange mappings = select(_document, {names::root, names::mapping});
     if (mappings.length() == 0) return E_FAIL;
-    const unsigned int lines = count(_document, linePath);
-    const unsigned int includedLines = count(_document, includedLinePath);
-    const unsigned int includes = count(_document, includePath);
+    const unsigned int lines = count(_document, {names::root, names::mapping, names::line});
+    const unsigned int includedLines = count(_document, {names::root, names::group, names::line});
+    const unsigned int includes = count(_document, {names::root, names::mapping, names::include});
     if (includedLines >= 1) BuildIncludedGroups();
     if (_records == nullptr) {
         const auto size = static_cast<unsigned long long>(includedLines) * includes + lines;
@@ -157,15 +154,15 @@ HRESULT PLMAttributesMappingStore::LoadMappingDocument() {
 
 HRESULT PLMAttributesMappingStore::addMapping(const QORIDOMNode_var& mapping) {
     HRESULT result = E_FAIL;
-    const QORUnicodeString name = value(mapping, "Name");
+    const QORUnicodeString name = value(mapping, names::type);
     visitElements(mapping, [&](const QORIDOMElement_var& child, const QORUnicodeString& tag) {
-        if (tag == "fromAttributes") {
+        if (tag == names::line) {
             QORUnicodeString plmProperty, set, property;
             if (FAILED(ReadExposedAttribute(child, plmProperty, set, property))) return;
             add(name, plmProperty, set, property);
             result = S_OK;
-        } else if (tag == "PLMAttrInclude") {
-            const PLMAttrIncludedGroup* included = group(value(child, "IncludedId"));
+        } else if (tag == names::include) {
+            const PLMAttrIncludedGroup* included = group(value(child, names::includedId));
             if (included == nullptr) return;
             for (int k = 1; k <= included->PLMProperties.Size(); ++k) {
                 add(name, included->PLMProperties[k], included->PropertySetNames[k], included->IFCProperties[k]);
@@ -177,7 +174,7 @@ HRESULT PLMAttributesMappingStore::addMapping(const QORIDOMNode_var& mapping) {
 }
 
 void PLMAttributesMappingStore::BuildIncludedGroups() {
-    const NodeRange nodes = select(_document, groupPath);
+    const NodeRange nodes = select(_document, {names::root, names::group});
     if (FAILED(nodes.result())) return;
     _groups = std::make_unique<QORSysSimpleHashTable>(static_cast<int>(nodes.length()), hashKey<PLMAttrIncludedGroup>,
                                                       isSameGroup);
@@ -185,7 +182,7 @@ void PLMAttributesMappingStore::BuildIncludedGroups() {
     std::vector<QORUnicodeString> ids;
     for (const ListedNode& listed : nodes) {
         groups.push_back(listed.node);
-        ids.push_back(value(listed.node, "id"));
+        ids.push_back(value(listed.node, names::id));
     }
     // All lines of the groups that are complete: an include brings them in, whatever it names.
     PLMAttrIncludedGroup complete;
@@ -195,12 +192,12 @@ void PLMAttributesMappingStore::BuildIncludedGroups() {
         made->HashKey = hashOf(made->Id);
         bool hasComplete = false;
         visitElements(groups[i], [&](const QORIDOMElement_var& child, const QORUnicodeString& tag) {
-            if (tag == "fromAttributes") appendLine(child, *made);
-            if (tag != "PLMAttrInclude") return;
+            if (tag == names::line) appendLine(child, *made);
+            if (tag != names::include) return;
             if (!hasComplete) made->append(complete);
             hasComplete = true;
             // Of a group that is not complete, only its own lines come.
-            const QORUnicodeString wanted = value(child, "IncludedId");
+            const QORUnicodeString wanted = value(child, names::includedId);
             for (std::size_t k = i; k < groups.size(); ++k) {
                 if (ids[k].Compare(wanted) != 0 && group(ids[k]) == nullptr) appendLines(groups[k], *made);
             }

@@ -17,14 +17,12 @@ VELKOR_IMPLEMENT_BOA(VELKOR_API, QORIExchangeAECServices, QOREExchangeAECService
 namespace {
 
 using namespace velkor::library;
+namespace names = velkor::names::aec;
 
 // Every unit that deals with resource paths has its own pair; the search that reads them is shared.
 [[maybe_unused]] const QORUnicodeString pathListSeparator = ";";
 [[maybe_unused]] const QORUnicodeString folderSeparator = "\\";
 
-constexpr const char* neutralTag = "NeutralID";
-constexpr const char* ifcTag = tagOf(velkor::AECSide::IFC);
-constexpr const char* plmTag = tagOf(velkor::AECSide::PLM);
 constexpr const char* defaultAnswer = "DEFAULT";
 
 /// The first child with a name that counts; empty when there is none.
@@ -45,14 +43,14 @@ HRESULT plmTypeOf(AECDocument::Candidate& candidate, QORUnicodeString& name) {
         QORIDOMNode_var parent;
         RETURN_IF_FAILED(reported(given(candidate.element->GetParentNode(parent), parent)));
         QORIDOMElement_var system;
-        RETURN_IF_FAILED(childNamed(parent, plmTag, system));
-        return system.IsNull() ? reported(E_FAIL) : attribute(system, "Name", text);
+        RETURN_IF_FAILED(childNamed(parent, names::plm, system));
+        return system.IsNull() ? reported(E_FAIL) : attribute(system, names::name, text);
     });
 }
 
 /// The entry of a neutral identifier, of which the first element counts; S_FALSE when the document has none.
 HRESULT findNeutral(const QORString& neutralId, AECDocument::Entry*& neutral) {
-    RETURN_IF_FAILED(collect(neutralTag, neutralId.CastToCharPtr(), neutral));
+    RETURN_IF_FAILED(collect(names::neutral, neutralId.CastToCharPtr(), neutral));
     return neutral == nullptr ? S_FALSE : S_OK;
 }
 
@@ -69,7 +67,7 @@ HRESULT GetSystemTypeName(const QORString& neutralId, const char* tag,
     return remembered(neutral->*known, name, [&](QORUnicodeString& text) -> HRESULT {
         QORIDOMElement_var system;
         RETURN_IF_FAILED(findSystem(*neutral, tag, system));
-        return attribute(system, "Name", text);
+        return attribute(system, names::name, text);
     });
 }
 
@@ -81,10 +79,10 @@ HRESULT GetSystemValuation(const QORString& neutralId, const char* tag, QORUnico
     if (const HRESULT result = findNeutral(neutralId, neutral); result != S_OK) return result;
     QORIDOMElement_var system, valuation;
     RETURN_IF_FAILED(findSystem(*neutral, tag, system));
-    RETURN_IF_FAILED(childNamed(system, "Valuate", valuation));
+    RETURN_IF_FAILED(childNamed(system, names::valuate, valuation));
     if (valuation.IsNull()) return S_OK;
-    RETURN_IF_FAILED(attribute(valuation, "Attribute", name));
-    return attribute(valuation, "Value", value);
+    RETURN_IF_FAILED(attribute(valuation, names::attribute, name));
+    return attribute(valuation, names::value, value);
 }
 
 /// The child at a place; E_UNEXPECTED when there is none.
@@ -117,20 +115,20 @@ HRESULT QOREExchangeAECServices::LoadAECResource() try { return aecDocument().lo
 }
 
 HRESULT QOREExchangeAECServices::GetPLMTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oPLMType) try {
-    return GetSystemTypeName(iNeutralID, plmTag, &AECDocument::Entry::plmName, oPLMType);
+    return GetSystemTypeName(iNeutralID, names::plm, &AECDocument::Entry::plmName, oPLMType);
 } catch (const std::bad_alloc&) {
     return reported(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetPLMValuationFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oAttribute,
                                                               QORUnicodeString& oValue) try {
-    return GetSystemValuation(iNeutralID, plmTag, oAttribute, oValue);
+    return GetSystemValuation(iNeutralID, names::plm, oAttribute, oValue);
 } catch (const std::bad_alloc&) {
     return reported(E_FAIL);
 }
 
 HRESULT QOREExchangeAECServices::GetIFCTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oIFCType) try {
-    return GetSystemTypeName(iNeutralID, ifcTag, &AECDocument::Entry::ifcName, oIFCType);
+    return GetSystemTypeName(iNeutralID, names::ifc, &AECDocument::Entry::ifcName, oIFCType);
 } catch (const std::bad_alloc&) {
     return reported(E_FAIL);
 }
@@ -143,7 +141,7 @@ HRESULT QOREExchangeAECServices::GetNeutralIDFromPLMObject(const QORBaseUnknown_
     // Hosts read these two lines.
     std::printf("### GOT TYPE [%s]\n", typeName.ConvertToChar());
     AECDocument::Entry* candidates = nullptr;
-    const HRESULT result = collect(plmTag, typeName, candidates);
+    const HRESULT result = collect(names::plm, typeName, candidates);
     std::printf("### GOT NB NODES = %d\n", candidates != nullptr ? static_cast<int>(candidates->elements.size()) : 0);
     if (FAILED(result) || candidates == nullptr) return result;
     AECDocument::Candidate* chosen = nullptr;
@@ -169,7 +167,7 @@ HRESULT QOREExchangeAECServices::GetPLMTypeFromIFCType(const QORUnicodeString& i
                                                        QORUnicodeString& oPLMType) try {
     oPLMType = defaultAnswer;
     AECDocument::Entry* candidates = nullptr;
-    RETURN_IF_FAILED(collect(ifcTag, iIFCType, candidates));
+    RETURN_IF_FAILED(collect(names::ifc, iIFCType, candidates));
     if (candidates == nullptr) return S_OK;
     AECDocument::Candidate* chosen = nullptr;
     RETURN_IF_FAILED(chooseForValue(*candidates, iConditionValue, chosen));
@@ -189,8 +187,8 @@ HRESULT QOREExchangeAECServices::GetObjectTypeFromNeutralID(const QORString& iNe
     const QORIDOMElement_var valuation = second;
     if (valuation.IsNull()) return S_FALSE;
     QORUnicodeString name, value;
-    RETURN_IF_FAILED(attribute(valuation, "Attribute", name));
-    RETURN_IF_FAILED(attribute(valuation, "Value", value));
+    RETURN_IF_FAILED(attribute(valuation, names::attribute, name));
+    RETURN_IF_FAILED(attribute(valuation, names::value, value));
     if (name != "ObjectType") return S_FALSE;
     oObjectType = value;
     return S_OK;

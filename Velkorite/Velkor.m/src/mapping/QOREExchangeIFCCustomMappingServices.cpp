@@ -4,6 +4,7 @@
 #include "QORHashTabCustoMappingElement.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCPSetQtoValidationService.h"
+#include "ResourceNames.h"
 #include "resources/ResourceDocument.h"
 #include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
 #include "velkor/knowledge/QORITypeDictionary.h"
@@ -21,9 +22,8 @@ VELKOR_IMPLEMENT_BOA(VELKOR_API, QORIExchangeIFCCustomMappingServices, QOREExcha
 namespace {
 
 using namespace velkor::library;
+namespace names = velkor::names::custom;
 
-constexpr const char* standardSection = "StandardMapping";
-constexpr const char* customSection = "CustomMapping";
 constexpr unsigned int importRank = 1;
 
 QORIDOMDocument_var customMappingDocument;
@@ -105,9 +105,9 @@ HRESULT QOREExchangeIFCCustomMappingServices::GetCustomMapping(const QORUnicodeS
 HRESULT QOREExchangeIFCCustomMappingServices::BuildCustomMappingTable() {
     const QORIDOMDocument_var document = customMappingDocument;
     if (document.IsNull()) return reported(E_UNEXPECTED);
-    const NodeRange standard = select(document, "IfcMapping/StandardMapping");
+    const NodeRange standard = select(document, {names::root, names::standard});
     RETURN_IF_FAILED(standard.result());
-    const NodeRange custom = select(document, "IfcMapping/CustomMapping");
+    const NodeRange custom = select(document, {names::root, names::mapping});
     RETURN_IF_FAILED(custom.result());
     const unsigned int count = standard.length() + custom.length();
     if (count == 0) return reported(E_UNEXPECTED);
@@ -115,8 +115,8 @@ HRESULT QOREExchangeIFCCustomMappingServices::BuildCustomMappingTable() {
                                                            QORHTAB_CompareCustoMappingElement, static_cast<int>(count));
     try {
         const bool isResolving = scopesAreTypes();
-        addMappings(standard, standardSection, isResolving);
-        addMappings(custom, customSection, isResolving);
+        addMappings(standard, names::standard, isResolving);
+        addMappings(custom, names::mapping, isResolving);
     } catch (...) {
         // Without memory there is no table rather than a part of it.
         dropTable();
@@ -133,11 +133,11 @@ void QOREExchangeIFCCustomMappingServices::addMappings(const NodeRange& nodes, c
         const auto read = [&](const char* name, QORUnicodeString& value) {
             return SUCCEEDED(attribute(element, name, value));
         };
-        const bool isRead = SUCCEEDED(asElement(listed.node, element)) && read("fromEntity", fromEntity) &&
-                            read("toEntity", toEntity) && read("fromProperty", fromProperty) &&
-                            read("toProperty", toProperty) && read("scope", scope);
+        const bool isRead = SUCCEEDED(asElement(listed.node, element)) && read(names::fromEntity, fromEntity) &&
+                            read(names::toEntity, toEntity) && read(names::fromProperty, fromProperty) &&
+                            read(names::toProperty, toProperty) && read(names::scope, scope);
         if (!isRead) continue;
-        if (CurrentSection == customSection) announce(toEntity);
+        if (CurrentSection == names::mapping) announce(toEntity);
         addScopes(scope, isResolving, fromEntity, toEntity, fromProperty, toProperty);
     }
 }
@@ -148,7 +148,7 @@ void QOREExchangeIFCCustomMappingServices::addScopes(const QORUnicodeString& sco
                                                      const QORUnicodeString& fromProperty,
                                                      const QORUnicodeString& toProperty) {
     QORToken tokens(scopes);
-    QORUnicodeString token = tokens.GetNextToken(";");
+    QORUnicodeString token = tokens.GetNextToken(names::typeSeparator);
     while (!token.IsEmpty()) {
         QORUnicodeString scope = token;
         bool isWanted = true;
@@ -167,7 +167,7 @@ void QOREExchangeIFCCustomMappingServices::addScopes(const QORUnicodeString& sco
             if (isWanted) type->GetName(scope);
         }
         if (isWanted) AddCustomMappingElement(scope, fromEntity, toEntity, fromProperty, toProperty, importRank);
-        token = tokens.GetNextToken(";");
+        token = tokens.GetNextToken(names::typeSeparator);
     }
 }
 
@@ -175,10 +175,10 @@ int QOREExchangeIFCCustomMappingServices::AddCustomMappingElement(
     const QORUnicodeString& iScopeName, const QORUnicodeString& iFromEntity, const QORUnicodeString& iToEntity,
     const QORUnicodeString& iFromProperty, const QORUnicodeString& iToProperty, unsigned int iRank) {
     auto imported = std::make_unique<CustoMappingElement>(iFromEntity, iFromProperty, iToEntity, iToProperty,
-                                                          iScopeName + "_Import", importRank);
+                                                          iScopeName + names::importEnding, importRank);
     if (!replace(std::move(imported), iRank)) return 1;
-    if (CurrentSection.Compare(customSection) == 0) return 0;
+    if (CurrentSection.Compare(names::mapping) == 0) return 0;
     auto exported = std::make_unique<CustoMappingElement>(iToEntity, iToProperty, iFromEntity, iFromProperty,
-                                                          iScopeName + "_Export", iRank);
+                                                          iScopeName + names::exportEnding, iRank);
     return replace(std::move(exported), iRank) ? 0 : 1;
 }

@@ -3,6 +3,7 @@
 #include "foundation/Results.h"
 #include "MappingReleases.h"
 #include "QORIFCOptionsFromXCAD.h"
+#include "ResourceNames.h"
 #include "resources/ResourceDocument.h"
 #include "velkor/containers/QORHashTable.h"
 #include "VelkorComponents.h"
@@ -17,6 +18,7 @@ VELKOR_IMPLEMENT_BOA(VELKOR_API, QORIExchangeIFCMappingServices, QOREExchangeIFC
 namespace {
 
 using namespace velkor::library;
+namespace names = velkor::names::version;
 
 // Every unit that deals with resource paths has its own pair; the search that reads them is shared.
 [[maybe_unused]] const QORUnicodeString pathListSeparator = ";";
@@ -85,15 +87,15 @@ HRESULT loadDocument() {
 }
 
 const QORUnicodeString& mappingName() {
-    static const QORUnicodeString name = "Mapping";
+    static const QORUnicodeString name = names::mapping;
     return name;
 }
 const QORUnicodeString& deprecationName() {
-    static const QORUnicodeString name = "Deprecation";
+    static const QORUnicodeString name = names::deprecation;
     return name;
 }
 const QORUnicodeString& introductionName() {
-    static const QORUnicodeString name = "Introduction";
+    static const QORUnicodeString name = names::introduction;
     return name;
 }
 
@@ -114,10 +116,10 @@ HRESULT FindVersionElement(int iFromVersion, int iToVersion, QORIDOMElement_var&
         if (element.IsNull()) continue;
         QORUnicodeString text;
         RETURN_IF_FAILED(tagName(element, text));
-        if (text != "Version") continue;
-        RETURN_IF_FAILED(attribute(element, "from", text));
+        if (text != names::block) continue;
+        RETURN_IF_FAILED(attribute(element, names::from, text));
         if (text != from) continue;
-        RETURN_IF_FAILED(attribute(element, "to", text));
+        RETURN_IF_FAILED(attribute(element, names::to, text));
         if (text != to) continue;
         version = element;
         return S_OK;
@@ -155,9 +157,9 @@ HRESULT visitChanges(int iFromVersion, int iToVersion, const QORUnicodeString& w
 HRESULT changeEntry(const QORIDOMElement_var& element, bool isDeprecation,
                     std::unique_ptr<VersionMappingEntry>& entry) {
     QORUnicodeString entity;
-    RETURN_IF_FAILED(attribute(element, "entity", entity));
+    RETURN_IF_FAILED(attribute(element, names::entity, entity));
     std::optional<QORUnicodeString> property;
-    if (entity.IsEmpty() || FAILED(attribute(element, "property", property))) return S_OK;
+    if (entity.IsEmpty() || FAILED(attribute(element, names::property, property))) return S_OK;
     entry = std::make_unique<VersionMappingEntry>();
     entry->Key = property ? entity + *property : entity;
     if (isDeprecation)
@@ -170,12 +172,13 @@ HRESULT changeEntry(const QORIDOMElement_var& element, bool isDeprecation,
 /// A renamed property. Renames of entities alone are no entries: GetMappedEntityName serves them.
 HRESULT mapEntry(const QORIDOMElement_var& element, std::unique_ptr<VersionMappingEntry>& entry) {
     QORUnicodeString fromEntity;
-    RETURN_IF_FAILED(attribute(element, "fromEntity", fromEntity));
+    RETURN_IF_FAILED(attribute(element, names::fromEntity, fromEntity));
     if (fromEntity.IsEmpty()) return S_OK;
     std::optional<QORUnicodeString> fromProperty, toEntity, toProperty;
-    if (FAILED(attribute(element, "fromProperty", fromProperty)) || !fromProperty || fromProperty->IsEmpty())
+    if (FAILED(attribute(element, names::fromProperty, fromProperty)) || !fromProperty || fromProperty->IsEmpty())
         return S_OK;
-    if (FAILED(attribute(element, "toEntity", toEntity)) || FAILED(attribute(element, "toProperty", toProperty)))
+    if (FAILED(attribute(element, names::toEntity, toEntity)) ||
+        FAILED(attribute(element, names::toProperty, toProperty)))
         return S_OK;
     entry = std::make_unique<VersionMappingEntry>();
     entry->Key = fromEntity + *fromProperty;
@@ -243,10 +246,10 @@ HRESULT QOREExchangeIFCMappingServices::GetIntroducedPropertyValues(int iFromVer
                                                                     QORListValQORUnicodeString& oPropertyValues) {
     const auto visit = [&](const QORIDOMElement_var& element) -> HRESULT {
         QORUnicodeString entity;
-        RETURN_IF_FAILED(attribute(element, "entity", entity));
+        RETURN_IF_FAILED(attribute(element, names::entity, entity));
         std::optional<QORUnicodeString> property, value;
-        if (FAILED(attribute(element, "property", property)) || !property || property->IsEmpty()) return S_OK;
-        if (FAILED(attribute(element, "propertyValue", value)) || !value || value->IsEmpty()) return S_OK;
+        if (FAILED(attribute(element, names::property, property)) || !property || property->IsEmpty()) return S_OK;
+        if (FAILED(attribute(element, names::propertyValue, value)) || !value || value->IsEmpty()) return S_OK;
         oEntities.Append(entity);
         oProperties.Append(*property);
         oPropertyValues.Append(*value);
@@ -259,9 +262,9 @@ HRESULT QOREExchangeIFCMappingServices::GetDeprecatedEntities(int iFromVersion, 
                                                               QORListValQORUnicodeString& oEntities) {
     const auto visit = [&](const QORIDOMElement_var& element) -> HRESULT {
         QORUnicodeString entity;
-        RETURN_IF_FAILED(attribute(element, "entity", entity));
+        RETURN_IF_FAILED(attribute(element, names::entity, entity));
         std::optional<QORUnicodeString> property;
-        if (FAILED(attribute(element, "property", property)) || property || entity.IsEmpty()) return S_OK;
+        if (FAILED(attribute(element, names::property, property)) || property || entity.IsEmpty()) return S_OK;
         entity.ToUpper();
         oEntities.Append(entity);
         return S_OK;
@@ -273,11 +276,11 @@ HRESULT QOREExchangeIFCMappingServices::GetMappedEntityName(int iFromVersion, in
                                                             QORUnicodeString& ioEntity) {
     const auto visit = [&](const QORIDOMElement_var& element) -> HRESULT {
         QORUnicodeString from, to;
-        RETURN_IF_FAILED(attribute(element, "fromEntity", from));
+        RETURN_IF_FAILED(attribute(element, names::fromEntity, from));
         from.ToUpper();
         ioEntity.ToUpper();
         if (from != ioEntity) return S_OK;
-        RETURN_IF_FAILED(attribute(element, "toEntity", to));
+        RETURN_IF_FAILED(attribute(element, names::toEntity, to));
         // Renames go on in the order of the document.
         if (!to.IsEmpty()) ioEntity = to;
         return S_OK;

@@ -8,6 +8,7 @@
 namespace {
 
 using namespace velkor::library;
+namespace names = velkor::names::aec;
 using velkor::AECSide;
 
 std::string text(const QORUnicodeString& text) {
@@ -21,9 +22,9 @@ const velkor::AECEntry& described(AECDocument::Candidate& candidate, AECSide sid
     QORIDOMNode_var parent;
     if (SUCCEEDED(candidate.element->GetParentNode(parent))) {
         const QORIDOMElement_var neutral = parent;
-        if (!neutral.IsNull()) entry.neutralId = text(attribute(neutral, "Name"));
+        if (!neutral.IsNull()) entry.neutralId = text(attribute(neutral, names::name));
     }
-    entry.type = text(attribute(candidate.element, "Name"));
+    entry.type = text(attribute(candidate.element, names::name));
     entry.priority = priorityOf(candidate.element);
     const AECDocument::Condition& condition = conditionOf(candidate);
     if (!condition.attribute.IsEmpty())

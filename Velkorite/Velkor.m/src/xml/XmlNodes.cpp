@@ -1,6 +1,8 @@
 #include "xml/XmlNodes.h"
 
 #include "QORIFCDXXMLServices.h"
+#include "ResourceNames.h"
+#include "velkor/text/Wording.h"
 #include "velkor/xml/QORIDOMAttr.h"
 #include "velkor/xml/QORIDOMDocumentTraversal.h"
 
@@ -41,6 +43,7 @@ NodeRange childrenOf(const QORIDOMNode_var& parent, SourcePlace place) {
 }
 
 NodeRange childrenBehindFirst(const QORIDOMNode_var& parent, SourcePlace place) {
+    static_assert(firstExaminedChild == 1);
     return childrenOf(parent, place).behindFirst();
 }
 
@@ -54,6 +57,10 @@ NodeRange select(const QORIDOMDocument_var& document, const char* xpath) {
     QORIDOMNodeList_var nodes;
     const HRESULT result = QORIFCDXXMLServices::GetNodeList(document, xpath, nodes);
     return {result, nodes};
+}
+
+NodeRange select(const QORIDOMDocument_var& document, std::initializer_list<const char*> path) {
+    return select(document, text::joined(path, "/").c_str());
 }
 
 HRESULT elementIterator(const QORIDOMDocument_var& document, const QORIDOMElement_var& root,

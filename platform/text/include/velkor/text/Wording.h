@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -33,6 +34,18 @@ std::string joined(Range&& items, std::string_view separator = ", ", Word word =
     for (auto&& item : items) {
         result.append(between).append(std::invoke(word, item));
         between = separator;
+    }
+    return result;
+}
+/// The texts of a range as a choice: "a, b or c".
+template <class Range>
+std::string alternatives(const Range& texts) {
+    std::string result;
+    std::size_t rest = std::size(texts);
+    for (const std::string_view text : texts) {
+        if (!result.empty()) result += rest == 1 ? " or " : ", ";
+        result += text;
+        --rest;
     }
     return result;
 }

@@ -15,6 +15,7 @@
 #include "velkor/xml/QORIDOMNodeIterator.h"
 #include "velkor/xml/QORIDOMNodeList.h"
 
+#include <initializer_list>
 #include <optional>
 #include <utility>
 
@@ -106,6 +107,8 @@ private:
 [[nodiscard]] ElementRange childElements(const QORIDOMNode_var& parent);
 /// The nodes that an XPath expression selects. What is wrong with that is reported by the XML services.
 [[nodiscard]] NodeRange select(const QORIDOMDocument_var& document, const char* xpath);
+/// The elements that names lead to, from the document's element downwards.
+[[nodiscard]] NodeRange select(const QORIDOMDocument_var& document, std::initializer_list<const char*> path);
 /// The elements of a tag below a document or an element. Nothing is reported.
 template <class Parent>
 [[nodiscard]] NodeRange elementsTagged(const char* tag, const QORInterface_var<Parent>& parent) {
