@@ -43,6 +43,21 @@ endif()
 
 find_package(Threads REQUIRED)
 
+# Headers of the standard library and of GoogleTest take a good part of the time of most units. A compiler cache knows a
+# unit by its text and does without. What a unit includes itself has to suffice: the second compiler builds without.
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_CXX_COMPILER_LAUNCHER AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  set(_precompile ON)
+else()
+  set(_precompile OFF)
+endif()
+option(VELKOR_PRECOMPILE "Precompile headers that most units include" ${_precompile})
+if(VELKOR_PRECOMPILE)
+  file(WRITE ${PROJECT_BINARY_DIR}/precompiled/Unit.cpp "int main() {}\n")
+  add_library(velkor_precompiled OBJECT ${PROJECT_BINARY_DIR}/precompiled/Unit.cpp)
+  target_precompile_headers(velkor_precompiled PRIVATE
+    <algorithm> <functional> <map> <memory> <optional> <string> <string_view> <unordered_map> <vector> <tl/expected.hpp>)
+endif()
+
 # velkor_area(LIBRARY NAME FOLDER folder SOURCES … DEPENDS area … LIBRARIES target …)
 # One folder of a library that is built of areas: its headers are seen only by areas that name it in DEPENDS.
 # With FOLDER it is an area within one, a folder of src whose private headers those areas see too.
@@ -62,6 +77,9 @@ function(velkor_area LIBRARY NAME)
   endif()
   list(TRANSFORM ARG_DEPENDS PREPEND ${LIBRARY}_)
   target_link_libraries(${target} PUBLIC ${ARG_DEPENDS} ${ARG_LIBRARIES})
+  if(VELKOR_PRECOMPILE)
+    target_precompile_headers(${target} REUSE_FROM velkor_precompiled)
+  endif()
   set_property(GLOBAL APPEND PROPERTY ${LIBRARY}_areas ${target})
   set_property(GLOBAL APPEND PROPERTY ${LIBRARY}_includes ${CMAKE_CURRENT_SOURCE_DIR}/include)
 endfunction()
@@ -118,6 +136,16 @@ function(velkor_test NAME)
     VELKOR_LIB_DIR="${CMAKE_LIBRARY_OUTPUT_DIRECTORY}" ${ARG_DEFINITIONS})
   # What is tested is optimised; the tests themselves are compiled far more often than run.
   target_compile_options(${NAME} PRIVATE -O0)
+  if(VELKOR_PRECOMPILE)
+    if(NOT TARGET velkor_precompiled_tests)
+      add_executable(velkor_precompiled_tests ${PROJECT_BINARY_DIR}/precompiled/Unit.cpp)
+      target_link_libraries(velkor_precompiled_tests PRIVATE GTest::gmock GTest::gtest_main)
+      target_compile_options(velkor_precompiled_tests PRIVATE -O0)
+      target_precompile_headers(velkor_precompiled_tests PRIVATE
+        <gmock/gmock.h> <gtest/gtest.h> <algorithm> <filesystem> <fstream> <functional> <map> <string> <vector>)
+    endif()
+    target_precompile_headers(${NAME} REUSE_FROM velkor_precompiled_tests)
+  endif()
   gtest_discover_tests(${NAME} DISCOVERY_MODE PRE_TEST)
 endfunction()
 

@@ -12,6 +12,11 @@ test_packages=(libgtest-dev libgmock-dev clang-format binutils git python3)
 # For the slow extras: second compiler, fuzzing, linting, benchmarks, memory checks.
 extra_packages=(clang libclang-rt-14-dev clang-tidy libbenchmark-dev valgrind)
 
+# A compiler cache is used where there is one.
+if [ -z "${CMAKE_CXX_COMPILER_LAUNCHER+set}" ] && command -v ccache >/dev/null; then
+  export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+fi
+
 say() { printf '%s\n' "$*" >&2; }
 
 # require_packages NAME…: installs what is missing, as root or through sudo; silent when
