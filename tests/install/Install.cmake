@@ -26,7 +26,7 @@ if(NOT rules MATCHES "${prefix}" OR rules MATCHES "${SOURCE}/(platform|Velkorite
 endif()
 
 step(${work}/build/judge ${SOURCE}/examples/models/house-ifc2x3.ifc)
-if(NOT output MATCHES "\n0 problems\n.*\n1 IFCWALLSTANDARDCASE: Wall\n")
+if(NOT output MATCHES "\n0 problems\n.*\n4 IFCWALLSTANDARDCASE: ExternalWall\n")
   message(FATAL_ERROR "judge answered: ${output}")
 endif()
 execute_process(COMMAND ${work}/build/judge ${SOURCE}/examples/models/broken.ifc
