@@ -14,13 +14,14 @@ std::vector<int> numbers;
 
 } // namespace
 
-std::time_t time(std::time_t*) noexcept {
+// The library finds them only when they are exported.
+[[gnu::visibility("default")]] std::time_t time(std::time_t*) noexcept {
     return clockTime;
 }
-void srand(unsigned int seed) noexcept {
+[[gnu::visibility("default")]] void srand(unsigned int seed) noexcept {
     seeds.push_back(seed);
 }
-int rand() noexcept {
+[[gnu::visibility("default")]] int rand() noexcept {
     const int number = numbers.back();
     numbers.pop_back();
     return number;
