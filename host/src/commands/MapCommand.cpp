@@ -20,7 +20,6 @@
 #include <algorithm>
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
-#include <ranges>
 
 namespace velkor::host {
 
@@ -351,8 +350,7 @@ void addMapCommand(CLI::App& app, CommandContext& context) {
     version->add_option("PROPERTY", arguments->property, "Name of one of its properties");
     version
         ->add_option("--from", arguments->from,
-                     "Release of the names: " +
-                         text::alternatives(std::views::transform(mappingReleases, &MappingRelease::text)))
+                     "Release of the names: " + text::alternatives(mappingReleases, &MappingRelease::text))
         ->option_text("RELEASE")
         ->required();
     version->add_option("--to", arguments->to, "Release to map them to")->option_text("RELEASE")->required();

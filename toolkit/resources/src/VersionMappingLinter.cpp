@@ -4,8 +4,6 @@
 #include "ResourceNames.h"
 #include "velkor/text/Wording.h"
 
-#include <ranges>
-
 namespace velkor::lint {
 
 namespace {
@@ -54,9 +52,9 @@ Dictionaries::Releases VersionMappingLinter::judgeRelease(const XmlElement& vers
     // The dictionary's name is what one thinks of first.
     const auto* meant = findMappingRelease<std::string_view>(&MappingRelease::dictionary,
                                                              toUpper(text.starts_with("IFC") ? text : "IFC" + text));
-    const auto texts = std::views::transform(mappingReleases, &MappingRelease::text);
     error(version.line, "unknown-release",
-          "expected a release (" + text::joined(texts, ", ") + ") in " + quoted(attribute) + ", found " + quoted(text),
+          "expected a release (" + text::joined(mappingReleases, ", ", &MappingRelease::text) + ") in " +
+              quoted(attribute) + ", found " + quoted(text),
           meant == nullptr ? "" : "did you mean " + quoted(meant->text) + '?');
     return {};
 }

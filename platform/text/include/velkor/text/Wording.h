@@ -37,14 +37,14 @@ std::string joined(Range&& items, std::string_view separator = ", ", Word word =
     }
     return result;
 }
-/// The texts of a range as a choice: "a, b or c".
-template <class Range>
-std::string alternatives(const Range& texts) {
+/// The same as a choice: "a, b or c".
+template <class Range, class Word = std::identity>
+std::string alternatives(const Range& items, Word word = {}) {
     std::string result;
-    std::size_t rest = std::size(texts);
-    for (const std::string_view text : texts) {
-        if (!result.empty()) result += rest == 1 ? " or " : ", ";
-        result += text;
+    std::size_t rest = std::size(items);
+    for (const auto& item : items) {
+        if (rest != std::size(items)) result += rest == 1 ? " or " : ", ";
+        result.append(std::invoke(word, item));
         --rest;
     }
     return result;
