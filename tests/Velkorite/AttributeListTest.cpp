@@ -1,4 +1,5 @@
 #include "IFCAttributeList.h"
+#include "Matchers.h"
 
 #include "MappingFixture.h"
 #include "PrivateOperation.h"
@@ -8,7 +9,6 @@ namespace velkor::test {
 namespace {
 
 using testing::_;
-using testing::ElementsAre;
 using Key = std::array<const char*, 3>;
 
 /// The list reads its catalogue once in a process; here it goes after each test as it does at unload.

@@ -1,15 +1,11 @@
+#include "Matchers.h"
 #include "QORIFCOptionsFromXCAD.h"
 
 #include "OptionsFixture.h"
 #include "PrivateOperation.h"
 #include "velkor/exchangelog/MessageLog.h"
 
-#include <gmock/gmock.h>
-
 namespace velkor::test {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 

@@ -1,4 +1,5 @@
 #include "MappingFixture.h"
+#include "Matchers.h"
 #include "PrivateOperation.h"
 #include "QORHashTabCustoMappingElement.h"
 #include "QORIFCOptionsFromXCAD.h"
@@ -8,8 +9,6 @@
 #include "velkor/knowledge/TypeDictionary.h"
 
 namespace velkor::test {
-
-using testing::ElementsAre;
 
 namespace {
 

@@ -1,3 +1,4 @@
+#include "Matchers.h"
 #include "QORIFCMsgLoggingServices.h"
 
 #include "velkor/exchangelog/QORExchangeErr.h"
@@ -5,14 +6,11 @@
 #include "velkor/objectmodeler/CallRecorder.h"
 
 #include <array>
-#include <gmock/gmock.h>
 #include <tuple>
 
 namespace velkor::test {
 
 using testing::_;
-using testing::Each;
-using testing::SizeIs;
 using Services = QORIFCMsgLoggingServices;
 
 namespace {

@@ -1,3 +1,4 @@
+#include "Matchers.h"
 #include "Variables.h"
 #include "velkor/exchangeservices/QORIExchangeAECServices.h"
 #include "velkor/exchangeservices/QORIExchangeIFCCustomMappingServices.h"
@@ -15,7 +16,6 @@
 #include <dlfcn.h>
 #include <elf.h>
 #include <fstream>
-#include <gmock/gmock.h>
 #include <iterator>
 #include <span>
 #include <stdexcept>
@@ -28,9 +28,7 @@ namespace velkor::test {
 
 using namespace velkor::objectmodeler;
 
-using testing::ElementsAre;
 using testing::ElementsAreArray;
-using testing::IsEmpty;
 
 namespace {
 

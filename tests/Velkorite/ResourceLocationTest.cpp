@@ -1,4 +1,5 @@
 #include "MappingFixture.h"
+#include "Matchers.h"
 #include "QORIFCDXDataSetupServices.h"
 #include "QORIFCDXFileServices.h"
 
@@ -6,7 +7,6 @@
 
 namespace velkor::test {
 
-using testing::ElementsAre;
 using Texts = std::vector<std::string>;
 
 /// A sub-item without a path.

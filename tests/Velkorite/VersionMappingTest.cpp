@@ -1,11 +1,9 @@
 #include "MappingFixture.h"
+#include "Matchers.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "velkor/exchangeservices/QORIExchangeIFCMappingServices.h"
 
 namespace velkor::test {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 

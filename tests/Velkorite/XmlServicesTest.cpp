@@ -1,4 +1,5 @@
 #include "Cases.h"
+#include "Matchers.h"
 #include "QORIFCDXXMLServices.h"
 #include "QORXCADNodeFilter.h"
 #include "TemporaryFolder.h"
@@ -12,16 +13,11 @@
 #include "velkor/xml/QORIXMLXPathFactory.h"
 
 #include <dlfcn.h>
-#include <gmock/gmock.h>
 #include <iterator>
 
 namespace velkor::test {
 
 using objectmodeler::assertionCount;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::StartsWith;
 using Services = QORIFCDXXMLServices;
 
 namespace {

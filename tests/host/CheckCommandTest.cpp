@@ -1,17 +1,12 @@
+#include "Matchers.h"
 #include "TestSupport.h"
 
-#include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
 
 using nlohmann::json;
-using testing::AllOf;
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::Not;
-using testing::StartsWith;
 
 namespace {
 

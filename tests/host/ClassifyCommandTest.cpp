@@ -1,16 +1,14 @@
 #include "ConfigurationTestSupport.h"
 #include "DocumentTestSupport.h"
+#include "Matchers.h"
 #include "velkor/exchangeservices/QORIExchangeAECServices.h"
 #include "velkor/objectmodeler/ClassDictionary.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
 #include "velkor/text/Unicode.h"
 
-#include <gmock/gmock.h>
-
 namespace velkor::host {
 
 using nlohmann::json;
-using testing::HasSubstr;
 
 namespace {
 

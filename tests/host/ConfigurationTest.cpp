@@ -1,4 +1,5 @@
 #include "ConfigurationTestSupport.h"
+#include "Matchers.h"
 #include "QORIFCMsgLoggingServices.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCOptionsServices.h"
@@ -9,18 +10,13 @@
 #include "velkor/files/QORSysRTVWalker.h"
 #include "velkor/settings/QORSettingRepository.h"
 
-#include <gmock/gmock.h>
 #include <iterator>
 
 namespace velkor::host {
 
 using nlohmann::json;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::Not;
 using testing::Pair;
-using testing::StartsWith;
 using testing::UnorderedElementsAreArray;
 
 namespace {

@@ -1,8 +1,8 @@
+#include "Matchers.h"
 #include "TestSupport.h"
 
 #include <algorithm>
 #include <dlfcn.h>
-#include <gmock/gmock.h>
 #include <iterator>
 #include <map>
 #include <nlohmann/json.hpp>
@@ -11,10 +11,7 @@
 namespace velkor::host {
 
 using nlohmann::json;
-using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsSupersetOf;
-using testing::StartsWith;
 
 namespace {
 

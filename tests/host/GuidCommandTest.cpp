@@ -1,8 +1,8 @@
+#include "Matchers.h"
 #include "TestSupport.h"
 
 #include "velkor/identifiers/GuidText.h"
 
-#include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 #include <random>
 #include <set>
@@ -10,10 +10,6 @@
 namespace velkor::host {
 
 using nlohmann::json;
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::MatchesRegex;
 
 namespace {
 

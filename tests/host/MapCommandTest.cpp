@@ -1,13 +1,11 @@
 #include "ConfigurationTestSupport.h"
 #include "DocumentTestSupport.h"
+#include "Matchers.h"
 #include "velkor/knowledge/QORITypeDictionary.h"
-
-#include <gmock/gmock.h>
 
 namespace velkor::host {
 
 using nlohmann::json;
-using testing::HasSubstr;
 
 namespace {
 

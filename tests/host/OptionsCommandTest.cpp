@@ -1,14 +1,9 @@
 #include "ConfigurationTestSupport.h"
-
-#include <gmock/gmock.h>
+#include "Matchers.h"
 
 namespace velkor::host {
 
 using nlohmann::json;
-using testing::AllOf;
-using testing::ContainsRegex;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 namespace {
 

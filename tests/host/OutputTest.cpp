@@ -1,3 +1,4 @@
+#include "Matchers.h"
 #include "output/Json.h"
 #include "TemporaryFolder.h"
 #include "terminal/DisplayText.h"
@@ -5,16 +6,12 @@
 #include "velkor/text/Wording.h"
 
 #include <algorithm>
-#include <gmock/gmock.h>
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <regex>
 #include <sstream>
 
 namespace velkor::host {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 

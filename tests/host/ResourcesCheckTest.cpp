@@ -1,19 +1,15 @@
 #include "ConfigurationTestSupport.h"
+#include "Matchers.h"
 
 #include "velkor/text/QORUnicodeString.h"
 
 #include <algorithm>
-#include <gmock/gmock.h>
 #include <set>
 #include <sys/stat.h>
 
 namespace velkor::host {
 
 using nlohmann::json;
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::StartsWith;
 
 namespace {
 

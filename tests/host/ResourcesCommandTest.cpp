@@ -1,17 +1,12 @@
 #include "ConfigurationTestSupport.h"
+#include "Matchers.h"
 
 #include "ResourceKinds.h"
 #include "velkor/objectmodeler/ResultCode.h"
 
-#include <gmock/gmock.h>
-
 namespace velkor::host {
 
 using nlohmann::json;
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 namespace {
 

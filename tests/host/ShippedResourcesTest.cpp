@@ -1,17 +1,16 @@
 #include "ConfigurationTestSupport.h"
 #include "DocumentTestSupport.h"
+#include "Matchers.h"
 #include "QORIFCPSetQtoValidationService.h"
 #include "ResourceKinds.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
-#include <gmock/gmock.h>
 #include <set>
 
 namespace velkor::host {
 
 using nlohmann::json;
-using testing::HasSubstr;
 
 namespace {
 

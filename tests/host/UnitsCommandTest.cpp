@@ -1,15 +1,11 @@
+#include "Matchers.h"
 #include "TestSupport.h"
 
-#include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
 
 using nlohmann::json;
-using testing::AllOf;
-using testing::ContainsRegex;
-using testing::HasSubstr;
-using testing::StartsWith;
 
 namespace {
 

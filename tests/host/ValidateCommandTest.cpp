@@ -1,16 +1,11 @@
 #include "ConfigurationTestSupport.h"
+#include "Matchers.h"
 
-#include <gmock/gmock.h>
 #include <sys/wait.h>
 
 namespace velkor::host {
 
 using nlohmann::json;
-using testing::AllOf;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::StartsWith;
 
 namespace {
 

@@ -1,14 +1,12 @@
+#include "Matchers.h"
 #include "TestSupport.h"
 #include "velkor/dictionaries/ReleaseRenames.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
-#include <gmock/gmock.h>
 #include <iterator>
 #include <set>
 
 namespace velkor::host {
-
-using testing::HasSubstr;
 
 namespace {
 

@@ -1,11 +1,9 @@
 #include "ExpressReader.h"
+#include "Matchers.h"
 
 #include <array>
-#include <gmock/gmock.h>
 
 namespace velkor::dictgen {
-
-using testing::ElementsAre;
 
 namespace {
 

@@ -1,13 +1,11 @@
 #include "DictionaryLists.h"
 #include "ExpressReader.h"
+#include "Matchers.h"
 
 #include <algorithm>
 #include <cstdio>
-#include <gmock/gmock.h>
 
 namespace velkor::dictgen {
-
-using testing::HasSubstr;
 
 namespace {
 

@@ -1,13 +1,9 @@
 #include "Profile.h"
+#include "Matchers.h"
 
 #include "ExpressReader.h"
 
-#include <gmock/gmock.h>
-
 namespace velkor::dictgen {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 
