@@ -1,4 +1,4 @@
-#include "CommandContext.h"
+#include "commands/Program.h"
 #include "terminal/LastWords.h"
 #include "velkor/configuration/ConfigurationTable.h"
 #include "velkor/settings/QORDXEnvironmentVariable.h"

@@ -1,7 +1,7 @@
 /// What the tests of the host's commands share: a run of the program in process, and models in files.
 #pragma once
 
-#include "CommandContext.h"
+#include "commands/Program.h"
 
 #include <filesystem>
 #include <fstream>

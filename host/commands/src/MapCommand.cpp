@@ -1,6 +1,6 @@
 // velkor map
 
-#include "CommandContext.h"
+#include "Commands.h"
 #include "MappingReleases.h"
 #include "output/Json.h"
 #include "QORIFCOptionsFromXCAD.h"

@@ -1,6 +1,7 @@
 /// What every command of the host shares: where results and messages go, and the exit status.
 #pragma once
 
+#include "terminal/ExitStatus.h"
 #include "terminal/TextSink.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/model/CheckResult.h"
@@ -20,14 +21,6 @@ class Model;
 }
 
 namespace velkor::host {
-
-/// Exit statuses, the same for every command.
-enum ExitStatus : int {
-    Done = 0,
-    Findings = 1, ///< the answer is "no" or findings exist
-    BadUsage = 2,
-    Unreadable = 3, ///< input could not be read, or the results not be written
-};
 
 struct CommandContext {
     TextSink out;
@@ -75,25 +68,5 @@ struct CommandContext {
 private:
     bool readConfiguration();
 };
-
-/// Runs the program over the words of a command line, its name left out: parses them, runs the
-/// command, reports bad usage. Gives the exit status.
-int run(std::vector<std::string> words, CommandContext& context);
-
-/// Adds every command to the program.
-void addCommands(CLI::App& app, CommandContext& context);
-
-void addReportCommand(CLI::App& app, CommandContext& context);
-void addCheckCommand(CLI::App& app, CommandContext& context);
-void addGuidCommand(CLI::App& app, CommandContext& context);
-void addValidateCommand(CLI::App& app, CommandContext& context);
-void addUnitsCommand(CLI::App& app, CommandContext& context);
-void addDictionaryCommand(CLI::App& app, CommandContext& context);
-void addOptionsCommand(CLI::App& app, CommandContext& context);
-void addResourcesCommand(CLI::App& app, CommandContext& context);
-/// A subcommand of the one above.
-void addResourcesCheckCommand(CLI::App& resources, CommandContext& context);
-void addMapCommand(CLI::App& app, CommandContext& context);
-void addClassifyCommand(CLI::App& app, CommandContext& context);
 
 } // namespace velkor::host

@@ -1,6 +1,6 @@
 // velkor dictionary list|show|entity|diff
 
-#include "CommandContext.h"
+#include "Commands.h"
 #include "output/Json.h"
 #include "terminal/DisplayText.h"
 #include "terminal/TextTable.h"

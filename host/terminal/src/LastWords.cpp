@@ -1,6 +1,7 @@
 #include "terminal/LastWords.h"
 
-#include "CommandContext.h"
+#include "terminal/ExitStatus.h"
+#include "terminal/TextSink.h"
 
 #include <charconv>
 #include <csignal>

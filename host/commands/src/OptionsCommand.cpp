@@ -1,6 +1,6 @@
 // velkor options
 
-#include "CommandContext.h"
+#include "Commands.h"
 #include "output/Json.h"
 #include "output/ProblemText.h"
 #include "terminal/DisplayText.h"

@@ -1,6 +1,6 @@
 // velkor units
 
-#include "CommandContext.h"
+#include "Commands.h"
 #include "output/Json.h"
 #include "output/UnitText.h"
 #include "terminal/DisplayText.h"

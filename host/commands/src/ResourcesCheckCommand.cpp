@@ -1,7 +1,7 @@
 // velkor resources check
 
-#include "CommandContext.h"
-#include "commands/LimitOption.h"
+#include "Commands.h"
+#include "LimitOption.h"
 #include "output/Json.h"
 #include "output/ProblemText.h"
 #include "terminal/DisplayText.h"

@@ -1,6 +1,6 @@
 // velkor resources
 
-#include "CommandContext.h"
+#include "Commands.h"
 #include "output/Json.h"
 #include "terminal/DisplayText.h"
 #include "terminal/Page.h"

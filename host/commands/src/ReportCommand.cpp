@@ -1,6 +1,6 @@
 // velkor report
 
-#include "CommandContext.h"
+#include "Commands.h"
 #include "output/PropertySetText.h"
 #include "output/Report.h"
 #include "output/UnitText.h"
@@ -42,7 +42,7 @@ void runReport(CommandContext& context, const std::string& path) {
         writeJson(context.out, reportJson(report));
     else
         writeReportPage(context.out, context.color, report);
-    reportUnreadableDefinitions(context, report.propertySets);
+    for (const std::string& reason : unreadableDefinitions(report.propertySets)) context.reportUnreadable(reason);
 }
 
 } // namespace

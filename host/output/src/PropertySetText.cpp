@@ -15,9 +15,11 @@ constexpr std::size_t widestName = 80;
 
 } // namespace
 
-void reportUnreadableDefinitions(CommandContext& context, const PropertySetCheck& check) {
+std::vector<std::string> unreadableDefinitions(const PropertySetCheck& check) {
+    std::vector<std::string> lines;
     for (const auto& [name, count] : check.unreadable)
-        context.reportUnreadable("the definition of " + name + " cannot be read");
+        lines.push_back("the definition of " + name + " cannot be read");
+    return lines;
 }
 
 Json coverageJson(const PropertySetCheck& check) {

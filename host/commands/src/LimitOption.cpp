@@ -1,4 +1,5 @@
-#include "commands/LimitOption.h"
+#include "LimitOption.h"
+
 #include "velkor/text/Wording.h"
 
 #include <charconv>

@@ -1,7 +1,7 @@
 // velkor validate
 
-#include "CommandContext.h"
-#include "commands/LimitOption.h"
+#include "Commands.h"
+#include "LimitOption.h"
 #include "output/Json.h"
 #include "output/ProblemText.h"
 #include "output/PropertySetText.h"
@@ -73,7 +73,7 @@ void runValidate(CommandContext& context, const Options& options) {
     }
     context.status = check.total == 0 ? Done : Findings;
     writeResult(context, *model, check);
-    reportUnreadableDefinitions(context, check);
+    for (const std::string& reason : unreadableDefinitions(check)) context.reportUnreadable(reason);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // velkor classify
 
-#include "CommandContext.h"
-#include "commands/LimitOption.h"
+#include "Commands.h"
+#include "LimitOption.h"
 #include "output/Csv.h"
 #include "output/Json.h"
 #include "terminal/DisplayText.h"

@@ -1,7 +1,7 @@
 // velkor check
 
-#include "CommandContext.h"
-#include "commands/LimitOption.h"
+#include "Commands.h"
+#include "LimitOption.h"
 #include "output/Json.h"
 #include "output/ProblemText.h"
 #include "terminal/DisplayText.h"

@@ -1,16 +1,16 @@
 /// What the definitions of property sets cover of a model, for people and as JSON.
 #pragma once
 
-#include "CommandContext.h"
 #include "output/Json.h"
 #include "velkor/propertysets/PropertySetCheck.h"
 
 #include <string>
+#include <vector>
 
 namespace velkor::host {
 
-/// Reports definitions that cannot be read as input that cannot.
-void reportUnreadableDefinitions(CommandContext& context, const PropertySetCheck& check);
+/// One line per definition that cannot be read.
+std::vector<std::string> unreadableDefinitions(const PropertySetCheck& check);
 
 /// The counts: "sets", "properties" and "without_definition".
 Json coverageJson(const PropertySetCheck& check);

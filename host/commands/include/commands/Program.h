@@ -1,0 +1,15 @@
+/// The program, as main and tests run it.
+#pragma once
+
+#include "CommandContext.h"
+
+#include <string>
+#include <vector>
+
+namespace velkor::host {
+
+/// Runs the program over the words of a command line, its name left out: parses them, runs the
+/// command, reports bad usage. Gives the exit status.
+int run(std::vector<std::string> words, CommandContext& context);
+
+} // namespace velkor::host
