@@ -1,54 +1,28 @@
-/// What the tests of configured commands share: an environment of their own.
+/// What the tests of configured commands share.
 #pragma once
 
+#include "ConfiguredTest.h"
 #include "ResourceKinds.h"
 #include "TemporaryFolder.h"
 #include "TestSupport.h"
-#include "velkor/configuration/ConfigurationTable.h"
-#include "velkor/settings/QORDXEnvironmentVariable.h"
 
-#include <map>
 #include <nlohmann/json.hpp>
-#include <utility>
 
 namespace velkor::host {
 
-using velkor::test::TemporaryFolder;
+using test::TemporaryFolder;
 
-/// A test that starts without any of the variables that a user can set; they are back afterwards.
-class ConfiguredTest : public testing::Test {
+/// Without the program's own variables as well.
+class ConfiguredTest : public test::ConfiguredTest {
 protected:
-    ConfiguredTest() {
-        for (const std::string_view name : namesAt(ConfigurationPlace::Environment)) {
-            const QORUnicodeString variable(name);
-            if (QORDXEnvironmentVariable::HasBeenSet(variable)) _before.emplace_back(variable, QORGetEnv(variable));
-        }
-        clear();
-    }
-    ~ConfiguredTest() override {
-        clear();
-        for (const auto& [name, value] : _before) settings::setVariable(name, value);
-    }
-
-    static void set(const std::string& name, const std::string& value) {
-        settings::setVariable(name.c_str(), value.c_str());
-    }
-    static void clear() {
-        for (const std::string_view name : namesAt(ConfigurationPlace::Environment))
-            settings::removeVariable(QORUnicodeString(name));
-    }
-    /// The variables of the table that are there.
-    static std::map<std::string, std::string> variables() {
-        std::map<std::string, std::string> result;
-        for (const std::string_view name : namesAt(ConfigurationPlace::Environment)) {
-            if (QORDXEnvironmentVariable::HasBeenSet(QORUnicodeString(name)))
-                result.emplace(name, QORGetEnv(QORUnicodeString(name)).utf8());
-        }
-        return result;
-    }
+    ConfiguredTest() : test::ConfiguredTest(variableNames()) {}
 
 private:
-    std::vector<std::pair<QORUnicodeString, QORUnicodeString>> _before;
+    static std::vector<std::string_view> variableNames() {
+        std::vector<std::string_view> names = namesAt(ConfigurationPlace::Environment);
+        for (const ConfigurationItem& item : programVariables) names.emplace_back(item.name);
+        return names;
+    }
 };
 
 /// What a command answers in JSON.

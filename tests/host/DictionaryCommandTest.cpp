@@ -157,6 +157,17 @@ TEST_F(DictionaryCommand, SaysWhatItKnowsInstead) {
     EXPECT_EQ(run("entity IFC4 QQQQQQQQQQQQQQQQQQQQ").err, "velkor: IFC4 has no entity \"QQQQQQQQQQQQQQQQQQQQ\"\n");
 }
 
+TEST_F(DictionaryCommand, WritesAMappingDocumentOfEveryPair) {
+    const Outcome made = run("diff 2x3 4 --as-mapping --also 4:2x3 4:4x2");
+    EXPECT_EQ(made.status, Done);
+    const std::size_t second = made.out.find(R"(<Version from="4" to="2x3">)"), third = made.out.find(R"("4x2">)");
+    EXPECT_LT(made.out.find(R"(<Version from="2x3" to="4">)"), second);
+    EXPECT_LT(second, third);
+    EXPECT_NE(third, std::string::npos);
+    for (const char* bad : {"IFC4 IFC4X4 --as-mapping", "IFC4 IFC2X3 --as-mapping --also IFC4", "4 2x3 --also 4:4x2"})
+        EXPECT_EQ(run(std::string("diff ") + bad).status, BadUsage) << bad;
+}
+
 TEST_F(DictionaryCommand, ExplainsEverySubcommand) {
     for (const char* command : {"list", "show", "entity", "diff"}) {
         const Outcome help = run(std::string(command) + " --help");

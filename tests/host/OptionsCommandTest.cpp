@@ -201,7 +201,7 @@ TEST_F(OptionsCommandTest, WritesAPageForPeople) {
     EXPECT_THAT(runHost({"options"}).out, HasSubstr("no configuration\n"));
 
     const json listed = answer({"options", "--list-variables"})["variables"];
-    EXPECT_EQ(listed.size(), std::size(configurationItems));
+    EXPECT_EQ(listed.size(), std::size(programVariables) + std::size(configurationItems));
     EXPECT_THAT(runHost({"options", "--list-variables"}).out,
                 ContainsRegex("\nruntime_view +configuration key +list of folders +the folders "));
 }

@@ -1,17 +1,19 @@
-/// What the tests of the host's commands share: a run of the program in process, and models in files.
+/// What the tests of the host's commands share: a run of the program in process.
 #pragma once
 
 #include "commands/Program.h"
+#include "TemporaryModel.h"
 
-#include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
 #include <string>
-#include <unistd.h>
 #include <vector>
 
 namespace velkor::host {
+
+using test::example;
+using test::TemporaryFile;
+using test::TemporaryModel;
 
 struct Outcome {
     int status;
@@ -31,38 +33,5 @@ inline Outcome runHost(std::vector<std::string> words, bool color = false, const
     const int status = run(std::move(words), context);
     return {status, out.str(), err.str()};
 }
-
-inline std::string example(const std::string& name) {
-    return VELKOR_SOURCE_DIR "/examples/models/" + name;
-}
-
-/// A file that goes with the object. Its name holds blanks, and is of this process alone.
-class TemporaryFile {
-public:
-    explicit TemporaryFile(const std::string& text)
-        : _path(testing::TempDir() + "velkor host " + std::to_string(getpid()) + ' ' + std::to_string(++_count) +
-                ".ifc") {
-        std::ofstream(_path, std::ios::binary) << text;
-    }
-    ~TemporaryFile() { std::filesystem::remove(_path); }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    const std::string& path() const { return _path; }
-
-private:
-    static inline int _count = 0;
-    std::string _path;
-};
-
-/// A model whose data begins on line 8.
-class TemporaryModel : public TemporaryFile {
-public:
-    TemporaryModel(const std::string& schema, const std::string& data,
-                   const std::string& description = "ViewDefinition [CoordinationView]",
-                   const std::string& name = "sample")
-        : TemporaryFile("ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION(('" + description + "'),'2;1');\nFILE_NAME('" + name +
-                        "','2024-05-06T07:08:09',('Ada','Grace'),(''),'pre 1.0','writer 2.0','');\nFILE_SCHEMA(('" +
-                        schema + "'));\nENDSEC;\nDATA;\n" + data + "ENDSEC;\nEND-ISO-10303-21;\n") {}
-};
 
 } // namespace velkor::host

@@ -56,7 +56,6 @@ private:
 GuidCheck checkGuids(const sdai::Model& model, const CheckOptions& options) {
     GuidCheck check;
     const auto numbers = model.numbersOf("IFCROOT");
-    check.count = numbers.size();
     Checker checker(model, check.result, options.limit);
     checker.reserve(numbers.size());
     for (std::uint64_t i = 0; i < numbers.size(); ++i) {
@@ -66,6 +65,7 @@ GuidCheck checkGuids(const sdai::Model& model, const CheckOptions& options) {
         }
         const DXSdaiAppInstance& instance = *model.instanceAt(numbers[i]);
         checker.check(numbers[i], instance.GetAttr("GLOBALID"));
+        ++check.count;
     }
     return check;
 }

@@ -69,12 +69,12 @@ public:
             _number = numbers[i];
             checkSet(_model.instanceAt(_number));
         }
-        _result.sets = numbers.size();
         return std::move(_result);
     }
 
 private:
     void checkSet(const DXSdaiAppInstance* set) {
+        ++_result.sets;
         const bool isQuantitySet = set->IsKindOf("IFCELEMENTQUANTITY");
         const sdai::Aggregate members = set->GetAttr(isQuantitySet ? "QUANTITIES" : "HASPROPERTIES").asAggregate();
         NamedSet& named = namedSet(set->GetAttr("NAME"));
