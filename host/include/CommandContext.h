@@ -3,6 +3,7 @@
 
 #include "terminal/ExitStatus.h"
 #include "terminal/TextSink.h"
+#include "velkor/configuration/ConfigurationTable.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/model/CheckResult.h"
 
@@ -21,6 +22,19 @@ class Model;
 }
 
 namespace velkor::host {
+
+inline constexpr const char* configurationVariable = "VELKOR_CONFIG";
+inline constexpr const char* noColorVariable = "NO_COLOR";
+inline constexpr const char* terminalVariable = "TERM";
+
+/// What the program itself is set by. With the items of the toolkit this is what `velkor options --list-variables`
+/// prints and docs/configuration.md repeats.
+inline constexpr ConfigurationItem programVariables[] = {
+    {ConfigurationPlace::Environment, configurationVariable, "path",
+     "the configuration file, unless --config names one"},
+    {ConfigurationPlace::Environment, noColorVariable, "presence", "no colour when it is there and not empty"},
+    {ConfigurationPlace::Environment, terminalVariable, "text", "\"dumb\": neither colour nor progress"},
+};
 
 struct CommandContext {
     TextSink out;

@@ -2,7 +2,6 @@
 
 #include "terminal/ProgressBar.h"
 #include "velkor/configuration/ConfigurationReader.h"
-#include "velkor/configuration/ConfigurationTable.h"
 #include "velkor/sdai/Model.h"
 #include "velkor/settings/QORDXEnvironmentVariable.h"
 

@@ -1,6 +1,5 @@
 #include "commands/Program.h"
 #include "terminal/LastWords.h"
-#include "velkor/configuration/ConfigurationTable.h"
 #include "velkor/settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>

@@ -38,30 +38,16 @@ void writeText(CommandContext& context, const std::string& file, const CheckResu
     context.out << '\n';
 }
 
-void finish(CommandContext& context, const std::string& file, const std::string& release, const CheckResult& result) {
-    context.status = result.total == 0 ? Done : Findings;
-    if (!context.json()) return writeText(context, file, result);
-    Json problems = Json::array();
-    for (const sdai::Problem& problem : result.problems) problems.push_back(problemJson(problem));
-    writeJson(context.out, {{"file", file},
-                            {"release", release.empty() ? Json() : Json(release)},
-                            {"total", result.total},
-                            {"problems", std::move(problems)}});
-}
-
 void runCheck(CommandContext& context, const Options& options) {
-    auto file = sdai::Part21File::open(options.path);
-    if (!file) return context.reportUnreadable(file.error().message);
-    const auto schemaProblem = options.syntaxOnly ? std::nullopt : sdai::Model::schemaProblem(**file);
-    if (options.syntaxOnly || schemaProblem) {
-        CheckResult result = checkStructure(**file, context.checkOptions(options.limit));
-        if (schemaProblem) result.add({*schemaProblem}, 1, options.limit);
-        return finish(context, (*file)->name(), {}, result);
-    }
-    const auto model = sdai::Model::over(std::move(*file));
-    if (!model) return context.reportUnreadable(model.error().message);
-    finish(context, (*model)->file().name(), std::string((*model)->schema().name()),
-           checkModel(**model, context.checkOptions(options.limit)));
+    const auto check = checkFile(options.path, options.syntaxOnly, context.checkOptions(options.limit));
+    if (!check) return context.reportUnreadable(check.error().message);
+    const CheckResult& result = check->result;
+    context.status = result.total == 0 ? Done : Findings;
+    if (!context.json()) return writeText(context, check->file, result);
+    writeJson(context.out, {{"file", check->file},
+                            {"release", textOrNull(check->release)},
+                            {"total", result.total},
+                            {"problems", problemsJson(result.problems)}});
 }
 
 } // namespace

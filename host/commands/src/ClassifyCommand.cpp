@@ -6,16 +6,11 @@
 #include "output/Json.h"
 #include "terminal/DisplayText.h"
 #include "terminal/TextTable.h"
-#include "velkor/classification/Classification.h"
-#include "velkor/configuration/PlatformSetup.h"
-#include "velkor/exchangeservices/QORIExchangeAECServices.h"
-#include "velkor/objectmodeler/ClassDictionary.h"
-#include "velkor/resources/ResourceSearch.h"
+#include "velkor/classification/ProductClasses.h"
 #include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>
-#include <map>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
@@ -29,33 +24,10 @@ struct Options {
     std::size_t limit = defaultLimit;
 };
 
-/// The document that the services use, and what they make of a model by it.
-struct Result {
-    std::string documentPath;
-    Classification classification;
-};
+using Result = ConfiguredClassification;
 
 std::string entityName(const Decision& decision) {
     return decision.entity == nullptr ? "(complex instance)" : std::string(decision.entity->name());
-}
-
-// Products of one class with the same answer, whichever entry gave it.
-struct Group {
-    const Decision* decision;
-    std::uint64_t count;
-};
-
-// By class, in the order of the names.
-std::vector<Group> groupsOf(const Classification& classification) {
-    std::map<std::pair<std::string, std::string>, Group> groups;
-    for (const Decision& decision : classification.decisions) {
-        const auto [group, isNew] =
-            groups.try_emplace({entityName(decision), decision.neutralId}, Group{&decision, decision.count});
-        if (!isNew) group->second.count += decision.count;
-    }
-    std::vector<Group> result;
-    for (const auto& [key, group] : groups) result.push_back(group);
-    return result;
 }
 
 std::string explanation(const Decision& decision) {
@@ -92,7 +64,7 @@ void writeText(TextSink out, const sdai::Model& model, const Result& result, std
         out << '\n';
     }
     TextTable classes({{"entity"}, {"neutral id"}, {"PLM type"}, {"count", TextTable::Right}});
-    for (const Group& group : groupsOf(classification)) {
+    for (const ProductClass& group : classesOf(classification)) {
         const Decision& decision = *group.decision;
         classes.add(
             {entityName(decision), orDash(decision.neutralId), orDash(decision.plmType), text::grouped(group.count)});
@@ -120,7 +92,7 @@ Json entryJson(const std::optional<AECEntry>& entry) {
 Json resultJson(const sdai::Model& model, const Result& result, std::size_t limit) {
     const Classification& classification = result.classification;
     Json classes = Json::array(), products = Json::array();
-    for (const Group& group : groupsOf(classification)) {
+    for (const ProductClass& group : classesOf(classification)) {
         classes.push_back({{"entity", entityName(*group.decision)},
                            {"neutral_id", textOrNull(group.decision->neutralId)},
                            {"plm_type", textOrNull(group.decision->plmType)},
@@ -170,17 +142,13 @@ void runClassify(CommandContext& context, const Options& options) {
     const auto model = context.openModel(options.path);
     if (!model) return;
     const PlatformSetup setup(context.configuration, context.tell());
-    const ResourceSearch search = searchResource(aecMappingResource, setup);
-    if (!search.isUsable()) return context.reportUnreadable("no document of correspondences: " + search.reason);
-    Result result{search.used.front().path, {}};
-    const QORIExchangeAECServices_var services = objectmodeler::createComponent("ExchangeAECServices");
-    if (FAILED(services->LoadAECResource())) return context.reportUnreadable(result.documentPath + ": cannot be read");
-    result.classification = classify(*model, context.progress());
-    context.status = result.classification.unclassified == 0 ? Done : Findings;
+    const auto result = classifyAsConfigured(*model, setup, context.progress());
+    if (!result) return context.reportUnreadable(result.error());
+    context.status = result->classification.unclassified == 0 ? Done : Findings;
     if (context.json())
-        writeJson(context.out, resultJson(*model, result, options.limit));
+        writeJson(context.out, resultJson(*model, *result, options.limit));
     else if (context.csv())
-        writeCsv(context, *model, result.classification, options.limit);
+        writeCsv(context, *model, result->classification, options.limit);
     else
         writeText(context.out, *model, result, options.limit);
 }

@@ -5,9 +5,9 @@
 #include "terminal/DisplayText.h"
 #include "terminal/TextTable.h"
 #include "velkor/dictionaries/DictionaryDiff.h"
+#include "velkor/dictionaries/EntityFacts.h"
 #include "velkor/dictionaries/VersionMappingDocument.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
-#include "velkor/text/NearestNames.h"
 #include "velkor/text/Wording.h"
 
 #include <array>
@@ -19,7 +19,6 @@ namespace velkor::host {
 
 namespace {
 
-using sdai::Attribute;
 using sdai::EntityDefinition;
 using sdai::SchemaCounts;
 using sdai::SchemaDefinition;
@@ -31,8 +30,7 @@ constexpr const char* releaseHelp =
 /// The schema that a user means. Null after saying why there is none and setting the status.
 SchemaPointer chooseSchema(CommandContext& context, const std::string& release) {
     auto& repository = DXSdaiDictionaryRepo::TheOne();
-    std::string name = repository.match(release);
-    if (name.empty()) name = repository.match("IFC" + release);
+    const std::string name = releaseMeant(release);
     if (name.empty()) {
         context.err << "velkor: unknown release " << text::quoted(release)
                     << "; supported: " << text::joined(repository.names()) << '\n';
@@ -103,74 +101,51 @@ void runShow(CommandContext& context, const std::string& release, bool declarati
     for (const char* text : texts) context.out << text << '\n';
 }
 
-std::vector<std::string> supertypes(const EntityDefinition& entity) {
-    std::vector<std::string> result;
-    for (const auto* up = entity.supertype(); up != nullptr; up = up->supertype()) result.emplace_back(up->name());
-    return result;
+Json attributeJson(const EntityFacts::Attribute& attribute) {
+    return {{"name", attribute.name},
+            {"owner", attribute.owner},
+            {"type", attribute.type},
+            {"optional", attribute.isOptional},
+            {"derived", attribute.isDerived}};
 }
 
-std::vector<std::string> subtypes(const EntityDefinition& entity) {
-    std::vector<std::string> result;
-    for (const EntityDefinition* subtype : entity.subtypes()) result.emplace_back(subtype->name());
-    return result;
-}
-
-Json attributeJson(const Attribute& attribute, bool derived) {
-    return {{"name", attribute.name()},
-            {"owner", attribute.owner().name()},
-            {"type", attribute.type().expressText()},
-            {"optional", attribute.isOptional()},
-            {"derived", derived}};
-}
-
-Json entityJson(const EntityDefinition& entity) {
+Json entityJson(const EntityFacts& entity) {
     Json attributes = Json::array(), derived = Json::array(), rules = Json::array();
-    for (const auto& slot : entity.attributes()) attributes.push_back(attributeJson(*slot.attribute, slot.isDerived));
-    for (const Attribute* attribute : entity.derivedAttributes()) derived.push_back(attributeJson(*attribute, true));
-    for (const auto& rule : entity.uniquenessRules()) {
-        Json names = Json::array();
-        for (const Attribute* attribute : rule.attributes) names.push_back(attribute->name());
-        rules.push_back({{"label", rule.label}, {"attributes", std::move(names)}});
-    }
-    return {{"schema", entity.schema().name()},
-            {"entity", entity.name()},
-            {"abstract", entity.isAbstract()},
-            {"supertypes", supertypes(entity)},
-            {"subtypes", subtypes(entity)},
+    for (const auto& attribute : entity.attributes)
+        (attribute.position > 0 ? attributes : derived).push_back(attributeJson(attribute));
+    for (const auto& rule : entity.uniquenessRules)
+        rules.push_back({{"label", rule.label}, {"attributes", rule.attributes}});
+    return {{"schema", entity.schema},
+            {"entity", entity.name},
+            {"abstract", entity.isAbstract},
+            {"supertypes", entity.supertypes},
+            {"subtypes", entity.subtypes},
             {"attributes", std::move(attributes)},
             {"derived_attributes", std::move(derived)},
             {"uniqueness_rules", std::move(rules)}};
 }
 
-void writeEntity(TextSink out, const EntityDefinition& entity) {
-    const auto names = [&](const char* title, const std::vector<std::string>& texts) {
-        if (!texts.empty()) out << title << text::joined(texts) << '\n';
-    };
-    out << entity.name() << " of " << entity.schema().name() << (entity.isAbstract() ? ", abstract" : "") << '\n';
-    names("supertypes: ", supertypes(entity));
-    names("subtypes: ", subtypes(entity));
-
+void writeEntity(TextSink out, const EntityFacts& entity) {
+    out << entity.name << " of " << entity.schema << (entity.isAbstract ? ", abstract" : "") << '\n';
+    if (!entity.supertypes.empty()) out << "supertypes: " << text::joined(entity.supertypes) << '\n';
+    if (!entity.subtypes.empty()) out << "subtypes: " << text::joined(entity.subtypes) << '\n';
     TextTable attributes({{"#", TextTable::Right}, {"attribute"}, {"owner"}, {"value"}, {"type"}});
-    int position = 0;
-    const auto add = [&](const std::string& number, const Attribute& attribute, bool derived) {
-        const char* value = derived ? "derived" : attribute.isOptional() ? "optional" : "required";
-        attributes.add({number, std::string(attribute.name()), std::string(attribute.owner().name()), value,
-                        attribute.type().expressText()});
-    };
-    for (const auto& slot : entity.attributes()) add(std::to_string(++position), *slot.attribute, slot.isDerived);
-    // These have no place in an instance.
-    for (const Attribute* attribute : entity.derivedAttributes()) add("-", *attribute, true);
+    for (const auto& attribute : entity.attributes) {
+        attributes.add({attribute.position > 0 ? std::to_string(attribute.position) : "-", attribute.name,
+                        attribute.owner,
+                        attribute.isDerived    ? "derived"
+                        : attribute.isOptional ? "optional"
+                                               : "required",
+                        attribute.type});
+    }
     if (attributes.empty()) {
         out << "no attributes\n";
     } else {
         out << '\n';
         attributes.write(out);
     }
-    for (const auto& rule : entity.uniquenessRules()) {
-        out << "unique " << rule.label << ':';
-        for (const Attribute* attribute : rule.attributes) out << ' ' << attribute->name();
-        out << '\n';
-    }
+    for (const auto& rule : entity.uniquenessRules)
+        out << "unique " << rule.label << ": " << text::joined(rule.attributes, " ") << '\n';
 }
 
 void runEntity(CommandContext& context, const std::string& release, const std::string& name) {
@@ -178,9 +153,9 @@ void runEntity(CommandContext& context, const std::string& release, const std::s
     if (!schema) return;
     if (const EntityDefinition* entity = schema->entity(name)) {
         if (context.json())
-            writeJson(context.out, entityJson(*entity));
+            writeJson(context.out, entityJson(entityFacts(*entity)));
         else
-            writeEntity(context.out, *entity);
+            writeEntity(context.out, entityFacts(*entity));
         return;
     }
     context.status = Findings;
@@ -190,9 +165,7 @@ void runEntity(CommandContext& context, const std::string& release, const std::s
         return;
     }
     context.err << "velkor: " << schema->name() << " has no entity \"" << name << '"';
-    std::vector<std::string_view> known;
-    for (const EntityDefinition* entity : schema->entities()) known.push_back(entity->name());
-    const auto nearest = text::nearestNames(known, name, 5, "IFC");
+    const auto nearest = nearestEntities(*schema, name);
     if (!nearest.empty()) context.err << "; nearest: " << text::joined(nearest);
     context.err << '\n';
 }

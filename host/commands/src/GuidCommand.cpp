@@ -107,13 +107,11 @@ void runCheck(CommandContext& context, const Arguments& arguments) {
     const guid::GuidCheck check = guid::checkGuids(*model, context.checkOptions(arguments.limit));
     context.status = check.result.total == 0 ? Done : Findings;
     if (!context.json()) return writeText(context, model->file().name(), check);
-    Json problems = Json::array();
-    for (const sdai::Problem& problem : check.result.problems) problems.push_back(problemJson(problem));
     writeJson(context.out, {{"file", model->file().name()},
                             {"release", model->schema().name()},
                             {"identifiers", check.count},
                             {"total", check.result.total},
-                            {"problems", std::move(problems)}});
+                            {"problems", problemsJson(check.result.problems)}});
 }
 
 using Conversion = tl::expected<std::string, std::string> (*)(std::string_view);

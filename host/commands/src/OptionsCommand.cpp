@@ -82,11 +82,13 @@ Json optionsJson(const std::string& path, const PlatformSetup& setup, const std:
 void listVariables(CommandContext& context) {
     TextTable table({{"name"}, {"place"}, {"kind"}, {"meaning"}});
     Json items = Json::array();
-    for (const ConfigurationItem& item : configurationItems) {
+    const auto add = [&](const ConfigurationItem& item) {
         table.add({item.name, name(item.place), item.kind, item.meaning});
         items.push_back(
             {{"name", item.name}, {"place", name(item.place)}, {"kind", item.kind}, {"meaning", item.meaning}});
-    }
+    };
+    std::ranges::for_each(programVariables, add);
+    std::ranges::for_each(configurationItems, add);
     if (context.json())
         writeJson(context.out, {{"variables", std::move(items)}});
     else

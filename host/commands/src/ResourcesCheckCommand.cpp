@@ -6,15 +6,11 @@
 #include "output/ProblemText.h"
 #include "terminal/DisplayText.h"
 #include "velkor/check/ProblemSummary.h"
-#include "velkor/configuration/PlatformSetup.h"
 #include "velkor/resources/ResourceCheck.h"
-#include "velkor/resources/ResourceSearch.h"
 #include "velkor/text/Wording.h"
 
-#include <algorithm>
 #include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
-#include <unordered_set>
 
 namespace velkor::host {
 
@@ -22,6 +18,7 @@ namespace {
 
 using lint::CheckedFile;
 using lint::Finding;
+using lint::FindingCounts;
 using lint::LinterKind;
 
 struct Options {
@@ -30,40 +27,7 @@ struct Options {
     std::size_t limit = defaultLimit;
 };
 
-struct Counts {
-    std::size_t files = 0;
-    std::size_t entries = 0;
-    std::size_t errors = 0;
-    std::size_t warnings = 0;
-    std::size_t listed = 0;
-
-    void add(const CheckedFile& file) {
-        ++files;
-        entries += file.judgement.entries;
-        errors += file.errors;
-        warnings += file.warnings;
-        listed += file.judgement.findings.size();
-    }
-    std::size_t findings() const { return errors + warnings; }
-};
-
-// The files that the services use, kind by kind.
-std::vector<CheckedFile> checkUsed(CommandContext& context, lint::ResourceCheck& check) {
-    const PlatformSetup setup(context.configuration, context.tell());
-    std::vector<CheckedFile> result;
-    for (const LinterKind& kind : lint::linterKinds()) {
-        std::vector<std::string> paths;
-        std::unordered_set<std::string> known;
-        for (const auto& used : searchResource(*kind.resource, setup).used) {
-            // Setup data may name a file that the collection standard has as well.
-            if (known.insert(used.path).second) paths.push_back(used.path);
-        }
-        std::ranges::move(check.files(paths, kind), std::back_inserter(result));
-    }
-    return result;
-}
-
-std::string summary(const Counts& counts) {
+std::string summary(const FindingCounts& counts) {
     std::string result =
         text::counted(counts.files, "file", "files") + ", " + text::counted(counts.entries, "entry", "entries");
     if (counts.findings() == 0) return result + ", no findings";
@@ -71,7 +35,8 @@ std::string summary(const Counts& counts) {
            text::counted(counts.warnings, "warning", "warnings");
 }
 
-void writeText(CommandContext& context, const std::vector<CheckedFile>& files, const Counts& total, bool isSearched) {
+void writeText(CommandContext& context, const std::vector<CheckedFile>& files, const FindingCounts& total,
+               bool isSearched) {
     for (const CheckedFile& file : files) {
         for (const Finding& finding : file.judgement.findings) {
             context.out << file.path << ':' << finding.line << ": " << name(finding.severity) << ": "
@@ -80,9 +45,9 @@ void writeText(CommandContext& context, const std::vector<CheckedFile>& files, c
         }
     }
     for (const LinterKind& kind : lint::linterKinds()) {
-        Counts counts;
+        FindingCounts counts;
         for (const CheckedFile& file : files) {
-            if (file.kind == &kind && !file.unreadable) counts.add(file);
+            if (file.kind == &kind) counts.add(file);
         }
         if (counts.files > 0)
             context.out << kind.resource->name << ": " << summary(counts) << '\n';
@@ -106,7 +71,7 @@ Json findingsJson(const std::vector<Finding>& findings) {
     return result;
 }
 
-void writeFiles(CommandContext& context, const std::vector<CheckedFile>& files, const Counts& total) {
+void writeFiles(CommandContext& context, const std::vector<CheckedFile>& files, const FindingCounts& total) {
     Json list = Json::array();
     for (const CheckedFile& file : files) {
         if (file.unreadable) continue;
@@ -123,17 +88,17 @@ void runCheck(CommandContext& context, const Options& options) {
     std::vector<CheckedFile> files;
     const bool isSearched = options.paths.empty();
     if (isSearched) {
-        files = checkUsed(context, check);
+        const PlatformSetup setup(context.configuration, context.tell());
+        files = check.used(setup);
     } else {
         const LinterKind* kind = lint::linterKind(options.kind);
         for (const std::string& path : options.paths) files.push_back(check.file(path, kind, context.in));
     }
-    Counts total;
+    FindingCounts total;
     for (const CheckedFile& file : files) {
+        total.add(file);
         if (file.unreadable)
             context.reportUnreadable(file.path + ": cannot be read: " + file.unreadable->message);
-        else
-            total.add(file);
     }
     if (files.empty()) context.reportUnreadable("no resource file is found; \"velkor resources\" says why");
     if (context.status == Done && total.findings() > 0) context.status = Findings;

@@ -22,4 +22,10 @@ Json problemJson(const sdai::Problem& problem) {
             {"message", problem.message}};
 }
 
+Json problemsJson(const std::vector<sdai::Problem>& problems) {
+    Json result = Json::array();
+    for (const sdai::Problem& problem : problems) result.push_back(problemJson(problem));
+    return result;
+}
+
 } // namespace velkor::host

@@ -17,8 +17,7 @@ constexpr std::size_t widestName = 80;
 
 std::vector<std::string> unreadableDefinitions(const PropertySetCheck& check) {
     std::vector<std::string> lines;
-    for (const auto& [name, count] : check.unreadable)
-        lines.push_back("the definition of " + name + " cannot be read");
+    for (const auto& [name, count] : check.unreadable) lines.push_back("the definition of " + name + " cannot be read");
     return lines;
 }
 

@@ -49,7 +49,7 @@ Json instancesJson(const ModelFacts& facts) {
     return {{"total", facts.instanceCount}, {"keywords", std::move(entities)}};
 }
 
-Json problemsJson(const ProblemSummary& summary) {
+Json summaryJson(const ProblemSummary& summary) {
     Json kinds = Json::array();
     for (const ProblemSummary::Kind& kind : summary.kinds) {
         const sdai::Problem& first = kind.first;
@@ -70,14 +70,14 @@ Json problemsJson(const ProblemSummary& summary) {
 
 Json identifiersJson(const Report& report) {
     Json json{{"checked", report.identifierCount}};
-    json.update(problemsJson(report.identifiers));
+    json.update(summaryJson(report.identifiers));
     return json;
 }
 
 Json propertySetsJson(const Report& report) {
     if (!report.propertySets.hasDefinitions) return nullptr;
     Json json = coverageJson(report.propertySets);
-    json["findings"] = problemsJson(report.setFindings);
+    json["findings"] = summaryJson(report.setFindings);
     return json;
 }
 
@@ -93,7 +93,7 @@ Json reportJson(const Report& report) {
             {"contents", contentsJson(facts)},
             {"instances", instancesJson(facts)},
             {"units", unitReportJson(report.units)},
-            {"problems", problemsJson(report.problems)},
+            {"problems", summaryJson(report.problems)},
             {"identifiers", identifiersJson(report)},
             {"property_sets", propertySetsJson(report)}};
 }

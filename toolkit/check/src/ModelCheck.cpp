@@ -47,4 +47,22 @@ CheckResult checkModel(const sdai::Model& model, const CheckOptions& options) {
     return result;
 }
 
+tl::expected<FileCheck, files::OpenError> checkFile(const std::string& path, bool isStructureAlone,
+                                               const CheckOptions& options) {
+    auto file = sdai::Part21File::open(path);
+    if (!file) return tl::unexpected(file.error());
+    FileCheck check{(*file)->name(), {}, {}};
+    const auto schemaProblem = isStructureAlone ? std::nullopt : sdai::Model::schemaProblem(**file);
+    if (isStructureAlone || schemaProblem) {
+        check.result = checkStructure(**file, options);
+        if (schemaProblem) check.result.add({*schemaProblem}, 1, options.limit);
+        return check;
+    }
+    const auto model = sdai::Model::over(std::move(*file));
+    if (!model) return tl::unexpected(model.error());
+    check.release = (*model)->schema().name();
+    check.result = checkModel(**model, options);
+    return check;
+}
+
 } // namespace velkor

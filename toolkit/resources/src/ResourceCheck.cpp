@@ -7,9 +7,12 @@
 #include "PLMAttributesLinter.h"
 #include "ResourceNames.h"
 #include "velkor/files/InputText.h"
+#include "velkor/resources/ResourceSearch.h"
 #include "VersionMappingLinter.h"
 
 #include <algorithm>
+#include <iterator>
+#include <unordered_set>
 
 namespace velkor::lint {
 
@@ -107,6 +110,15 @@ const LinterKind* linterKind(std::string_view word) {
     return found == std::end(kinds) ? nullptr : found;
 }
 
+void FindingCounts::add(const CheckedFile& file) {
+    if (file.unreadable) return;
+    ++files;
+    entries += file.judgement.entries;
+    errors += file.errors;
+    warnings += file.warnings;
+    listed += file.judgement.findings.size();
+}
+
 ResourceCheck::ResourceCheck(std::size_t limit) : _dictionaries(std::make_unique<Dictionaries>()), _limit(limit) {}
 ResourceCheck::~ResourceCheck() = default;
 
@@ -119,6 +131,20 @@ std::vector<CheckedFile> ResourceCheck::files(const std::vector<std::string>& pa
     std::vector<CheckedFile> result;
     for (const std::string& path : paths)
         result.push_back(counted(judged(path, &kind, linter.get(), *_dictionaries, nullptr)));
+    return result;
+}
+
+std::vector<CheckedFile> ResourceCheck::used(const PlatformSetup& setup) {
+    std::vector<CheckedFile> result;
+    for (const LinterKind& kind : kinds) {
+        std::vector<std::string> paths;
+        std::unordered_set<std::string> known;
+        for (const auto& used : searchResource(*kind.resource, setup).used) {
+            // Setup data may name a file that the collection standard has as well.
+            if (known.insert(used.path).second) paths.push_back(used.path);
+        }
+        std::ranges::move(files(paths, kind), std::back_inserter(result));
+    }
     return result;
 }
 

@@ -5,6 +5,7 @@
 #include "velkor/sdai/Problem.h"
 
 #include <string>
+#include <vector>
 
 namespace velkor::host {
 
@@ -15,5 +16,6 @@ inline constexpr std::size_t longestMessage = 1000;
 void writeProblem(TextSink out, const std::string& file, const sdai::Problem& problem);
 
 Json problemJson(const sdai::Problem& problem);
+Json problemsJson(const std::vector<sdai::Problem>& problems);
 
 } // namespace velkor::host

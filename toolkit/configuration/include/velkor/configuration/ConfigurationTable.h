@@ -1,5 +1,5 @@
-/// Everything that a user can set from outside the command line, in one table: what the configuration is
-/// read by, what `velkor options --list-variables` prints and what docs/configuration.md repeats.
+/// Everything that a user can set for the services from outside, in one table: what a configuration is read by and what
+/// documentation repeats.
 #pragma once
 
 #include "QORIFCDXFileServices.h"
@@ -46,18 +46,10 @@ inline constexpr const char* typeAbstract = "abstract";
 
 } // namespace keys
 
-inline constexpr const char* configurationVariable = "VELKOR_CONFIG";
-inline constexpr const char* noColorVariable = "NO_COLOR";
-inline constexpr const char* terminalVariable = "TERM";
-
 /// Where the resource files come from that nobody has configured.
 inline constexpr const char* shippedSource = "shipped with the program";
 
 inline constexpr ConfigurationItem configurationItems[] = {
-    {ConfigurationPlace::Environment, configurationVariable, "path",
-     "the configuration file, unless --config names one"},
-    {ConfigurationPlace::Environment, noColorVariable, "presence", "no colour when it is there and not empty"},
-    {ConfigurationPlace::Environment, terminalVariable, "text", "\"dumb\": neither colour nor progress"},
     {ConfigurationPlace::Environment, QORIFCOptions::_envvar_exchange_profile, "number 0 to 2",
      "forces the exchange profile: 0 tessellated, 1 fully exposed, 2 feature"},
     {ConfigurationPlace::Environment, QORIFCOptions::_envvar_structure_exposure, "number 0 or 1",

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "ResourceKinds.h"
+#include "velkor/configuration/PlatformSetup.h"
 #include "velkor/files/OpenError.h"
 #include "velkor/resources/Finding.h"
 #include "velkor/ToolkitExport.h"
@@ -50,6 +51,18 @@ struct CheckedFile {
     std::size_t warnings = 0;
 };
 
+/// Files that could be read, and what was found in them, with what is beyond the limit of the check.
+struct FindingCounts {
+    std::size_t files = 0;
+    std::size_t entries = 0;
+    std::size_t errors = 0;
+    std::size_t warnings = 0;
+    std::size_t listed = 0;
+
+    void add(const CheckedFile& file);
+    std::size_t findings() const noexcept { return errors + warnings; }
+};
+
 /// Remembers the dictionaries that files were judged by.
 class VELKOR_TOOLKIT_API ResourceCheck {
 public:
@@ -63,6 +76,8 @@ public:
     CheckedFile file(const std::string& path, const LinterKind* kind, std::istream* standardInput);
     /// Judges the files of one kind in the order in which the services read them.
     std::vector<CheckedFile> files(const std::vector<std::string>& paths, const LinterKind& kind);
+    /// Judges every file that the services use, kind by kind.
+    std::vector<CheckedFile> used(const PlatformSetup& setup);
 
 private:
     VELKOR_TOOLKIT_LOCAL CheckedFile counted(CheckedFile file);
