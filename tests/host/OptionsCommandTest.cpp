@@ -45,7 +45,7 @@ std::string inOneLine(const json& option) {
 
 class OptionsCommandTest : public ConfiguredTest {
 protected:
-    static void setAll(const Variables& given) {
+    void setAll(const Variables& given) {
         clear();
         for (const auto& [name, value] : given) set(name, value);
     }
