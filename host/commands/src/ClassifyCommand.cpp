@@ -150,7 +150,7 @@ void runClassify(CommandContext& context, const Options& options) {
     else if (context.csv())
         writeCsv(context, *model, result->classification, options.limit);
     else
-        writeText(context.out, *model, result, options.limit);
+        writeText(context.out, *model, *result, options.limit);
 }
 
 } // namespace

@@ -159,7 +159,7 @@ TEST_F(PlatformSetupTest, NothingOfItStays) {
     set(QORIFCOptions::_envvar_structure_exposure, "1");
     {
         const PlatformSetup setup(parseConfiguration(full, "velkor.json").configuration);
-        EXPECT_EQ(variables().size(), 3U) << "the folders of both collection standards";
+        EXPECT_EQ(variables().size(), 4U) << "both collection standards, and the profile that follows";
         EXPECT_EQ(effectiveOptions(setup).size(), 6U);
         EXPECT_EQ(files::runtimeView().Size(), 1);
     }

@@ -115,7 +115,7 @@ tl::expected<std::string, std::string> compressed(std::string_view text) {
         }
         const std::size_t value = hexadecimal.find(text::asciiLower(uuid[i]));
         if (value == std::string_view::npos) return fault(text::quoted(text::firstCharacter(uuid.substr(i))));
-        bytes[digits / 2] = static_cast<std::uint8_t>(bytes[digits / 2] << 4 | value);
+        bytes[digits / 2] = static_cast<std::uint8_t>(std::size_t{bytes[digits / 2]} << 4U | value);
         ++digits;
     }
     return encoded(bytes);
