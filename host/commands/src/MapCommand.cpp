@@ -75,7 +75,8 @@ void writeAnswer(CommandContext& context, const tl::expected<MappingAnswer, std:
     }
     context.status = answer->isMapped ? Done : Findings;
     const std::string remark =
-        answer->isSwitchedOff ? std::string(QORIFCOptionsFromXCAD::DisableVersionMappingOption) + " switches it off" : std::string();
+        answer->isSwitchedOff ? std::string(QORIFCOptionsFromXCAD::DisableVersionMappingOption) + " switches it off"
+                              : std::string();
     if (!context.json()) return writeText(context.out, question, *answer, labels, remark);
     json["status"] = hexadecimal(answer->status);
     json["meaning"] = answer->meaning.name;

@@ -97,8 +97,7 @@ void runCheck(CommandContext& context, const Options& options) {
     FindingCounts total;
     for (const CheckedFile& file : files) {
         total.add(file);
-        if (file.unreadable)
-            context.reportUnreadable(file.path + ": cannot be read: " + file.unreadable->message);
+        if (file.unreadable) context.reportUnreadable(file.path + ": cannot be read: " + file.unreadable->message);
     }
     if (files.empty()) context.reportUnreadable("no resource file is found; \"velkor resources\" says why");
     if (context.status == Done && total.findings() > 0) context.status = Findings;

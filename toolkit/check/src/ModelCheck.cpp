@@ -48,7 +48,7 @@ CheckResult checkModel(const sdai::Model& model, const CheckOptions& options) {
 }
 
 tl::expected<FileCheck, files::OpenError> checkFile(const std::string& path, bool isStructureAlone,
-                                               const CheckOptions& options) {
+                                                    const CheckOptions& options) {
     auto file = sdai::Part21File::open(path);
     if (!file) return tl::unexpected(file.error());
     FileCheck check{(*file)->name(), {}, {}};

@@ -78,14 +78,21 @@ tl::expected<MappingAnswer, std::string> mapBetweenReleases(const PlatformSetup&
     QORUnicodeString toEntity, toProperty, renamed(entity);
     // The table of another pair of releases would answer for this one.
     version.services->ResetVersionMappingTable();
-    const HRESULT status = version.services->GetVersionMapping(from.code, to.code, QORUnicodeString(entity), QORUnicodeString(property),
-                                                               toEntity, toProperty);
+    const HRESULT status = version.services->GetVersionMapping(from.code, to.code, QORUnicodeString(entity),
+                                                               QORUnicodeString(property), toEntity, toProperty);
     const HRESULT rename = version.services->GetMappedEntityName(from.code, to.code, renamed);
     // The outputs are untouched unless a mapping applies.
-    MappingAnswer answer{status, meaningOf(status, rename == S_OK), false, utf8(toEntity), utf8(toProperty), {},
-                         isSwitchedOff(), {std::move(*document)}};
+    MappingAnswer answer{status,
+                         meaningOf(status, rename == S_OK),
+                         false,
+                         utf8(toEntity),
+                         utf8(toProperty),
+                         {},
+                         isSwitchedOff(),
+                         {std::move(*document)}};
     // Names come back in upper case even when nothing has become of them.
-    if (property.empty() && rename == S_OK && text::toUpper(renamed.utf8()) != text::toUpper(entity)) answer.entityName = utf8(renamed);
+    if (property.empty() && rename == S_OK && text::toUpper(renamed.utf8()) != text::toUpper(entity))
+        answer.entityName = utf8(renamed);
     answer.isMapped = (status != IFC_MAPPING_NONE && SUCCEEDED(status)) || !answer.entityName.empty();
     return answer;
 }
@@ -132,8 +139,9 @@ tl::expected<MappingAnswer, std::string> mapForType(const PlatformSetup& setup, 
     QORUnicodeString toEntity, toProperty;
     const HRESULT status = services->GetCustomMapping(QORUnicodeString(entity), QORUnicodeString(property),
                                                       QORUnicodeString(scope), toEntity, toProperty);
-    return MappingAnswer{status, meaningOf(status, true), status == IFC_MAPPING_MAPPED, utf8(toEntity),
-                         utf8(toProperty), {}, isSwitchedOff(), {std::move(*document)}};
+    return MappingAnswer{status,          meaningOf(status, true), status == IFC_MAPPING_MAPPED,
+                         utf8(toEntity),  utf8(toProperty),        {},
+                         isSwitchedOff(), {std::move(*document)}};
 }
 
 tl::expected<MappingAnswer, std::string> mapPlmAttribute(const PlatformSetup& setup, std::string_view type,
@@ -149,8 +157,10 @@ tl::expected<MappingAnswer, std::string> mapPlmAttribute(const PlatformSetup& se
     if (FAILED(status) && !search.isUsable()) return tl::unexpected(noDocument(search));
     // What is in a file that could not be read may be the answer.
     if (FAILED(status) && setup.hasToldErrors()) return tl::unexpected(std::string());
-    MappingAnswer answer{status, meaningOf(status == S_OK ? IFC_MAPPING_MAPPED : status, true), status == S_OK,
-                         utf8(set), utf8(property), {}, false, {}};
+    MappingAnswer answer{status,         meaningOf(status == S_OK ? IFC_MAPPING_MAPPED : status, true),
+                         status == S_OK, utf8(set),
+                         utf8(property), {},
+                         false,          {}};
     for (const ResourceSearch::File& file : search.used) answer.documents.push_back(file.path);
     return answer;
 }

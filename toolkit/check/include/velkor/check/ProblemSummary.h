@@ -1,4 +1,7 @@
 /// Problems counted by kind.
+///
+///     const ProblemSummary summary = summarized(result.problems, result.total);
+///     for (const auto& kind : summary.kinds) show(kind.count, kind.code, kind.first.line);
 #pragma once
 
 #include "velkor/sdai/Problem.h"
@@ -33,7 +36,7 @@ struct ProblemSummary {
 /// "error" or "warning".
 VELKOR_TOOLKIT_API const char* name(sdai::Severity severity);
 
-/// `problems` in file order.
+/// `problems` in file order; `total` is how many there are with those that are not listed. One pass.
 VELKOR_TOOLKIT_API ProblemSummary summarized(std::span<const sdai::Problem> problems, std::uint64_t total);
 
 } // namespace velkor

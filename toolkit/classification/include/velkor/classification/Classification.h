@@ -1,4 +1,7 @@
 /// The products of a model, each with the neutral identifier and the PLM type that the services give it.
+///
+///     const Classification result = classify(*model);
+///     for (const auto& product : result.products) show(product.number, result.decisions[product.decision].plmType);
 #pragma once
 
 #include "QORIFCAECEntries.h"
@@ -48,7 +51,8 @@ struct Classification {
 /// Asks the services about every IFCPRODUCT. A product is presented as its own entity, and as long as there is no
 /// answer as the next supertype. In a release that has no entity for a class but a type, a product of that type is
 /// presented as the class first: a pump of IFC2X3 as IFCPUMP. The platform must have been set up; the services decide
-/// by the document that they have.
+/// by the document that they have. Each product is presented once per type; what its properties are
+/// costs time and memory in proportion to the text of the model's relationships.
 VELKOR_TOOLKIT_API Classification classify(const sdai::Model& model, const Progress& progress = {});
 
 } // namespace velkor

@@ -1,4 +1,8 @@
 /// What a user configures for the services, as the configuration file says it.
+///
+///     Configuration configuration;
+///     configuration.settings.push_back({"IFC", "ImportProfileMode", 2});
+///     const PlatformSetup setup(configuration);
 #pragma once
 
 #include <optional>

@@ -1,4 +1,8 @@
 /// Reads the configuration file.
+///
+///     const ConfigurationReading reading = parseConfiguration(text, "velkor.json");
+///     for (const std::string& error : reading.errors) show(error);
+///     if (reading.errors.empty()) use(reading.configuration);
 #pragma once
 
 #include "velkor/configuration/Configuration.h"

@@ -1,5 +1,7 @@
 /// Everything that a user can set for the services from outside, in one table: what a configuration is read by and what
 /// documentation repeats.
+///
+///     for (const ConfigurationItem& item : configurationItems) show(item.name, name(item.place), item.meaning);
 #pragma once
 
 #include "QORIFCDXFileServices.h"

@@ -1,4 +1,7 @@
 /// The options of an exchange as they are in effect, and where each of them comes from.
+///
+///     const PlatformSetup setup(configuration);
+///     for (const EffectiveOption& option : effectiveOptions(setup)) show(option.name, option.meaning, option.sources);
 #pragma once
 
 #include "QORIFCOptions.h"
@@ -29,7 +32,7 @@ struct EffectiveOption {
     std::vector<std::string> remarks = {};
 };
 
-/// Of the services as the set-up has left them.
+/// Of the services as the set-up has left them. Asks environment and settings anew each time.
 VELKOR_TOOLKIT_API std::vector<EffectiveOption> effectiveOptions(const PlatformSetup& setup);
 
 /// "environment", "run_time", "setting", "fallback".

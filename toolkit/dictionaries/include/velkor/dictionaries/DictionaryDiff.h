@@ -1,4 +1,7 @@
 /// What changed from one schema to another.
+///
+///     const DictionaryDiff diff = compareDictionaries(*before, *after);
+///     for (const auto& entity : diff.changedEntities) show(entity.name, entity.addedAttributes);
 #pragma once
 
 #include "velkor/sdai/Dictionary.h"
@@ -54,9 +57,9 @@ struct DictionaryDiff {
     std::vector<Type> changedTypes;
 };
 
-/// Everything in alphabetical order; names are views into the schemas' texts.
-VELKOR_TOOLKIT_API DictionaryDiff compareDictionaries(const sdai::SchemaDefinition& before,
-                                                      const sdai::SchemaDefinition& after);
+/// Everything in alphabetical order; names are views into the schemas' texts. In
+/// proportion to the two schemas.
+VELKOR_TOOLKIT_API DictionaryDiff compareDictionaries(const sdai::SchemaDefinition& before, const sdai::SchemaDefinition& after);
 
 /// An attribute as EXPRESS writes it behind its name: "OPTIONAL IFCLABEL"; a derived one begins
 /// with "DERIVED".

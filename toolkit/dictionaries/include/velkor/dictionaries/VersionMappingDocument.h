@@ -1,4 +1,6 @@
 /// The document that the version mapping reads, made from two dictionaries or more.
+///
+///     std::ofstream(path) << versionMappingDocument({{ifc2x3.get(), ifc4.get()}, {ifc4.get(), ifc2x3.get()}});
 #pragma once
 
 #include "velkor/sdai/Dictionary.h"

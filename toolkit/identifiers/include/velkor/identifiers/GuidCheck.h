@@ -1,4 +1,7 @@
 /// The identifiers of a model: every GlobalId well-formed and used once.
+///
+///     const guid::GuidCheck check = guid::checkGuids(*model);
+///     for (const sdai::Problem& problem : check.result.problems) show(problem.line, problem.message);
 #pragma once
 
 #include "velkor/model/CheckResult.h"
@@ -8,7 +11,7 @@
 namespace velkor::guid {
 
 struct GuidCheck {
-    /// Instances that have a GlobalId.
+    /// Instances that have a GlobalId and were looked at.
     std::uint64_t count = 0;
     /// With the codes of Fault, "guid-missing" and "guid-duplicate".
     CheckResult result;

@@ -1,4 +1,8 @@
 /// What checks of a model are asked for and answer.
+///
+///     const CheckResult result = checkModel(*model, {1000, progress});
+///     if (!result.isComplete) return;
+///     show(result.problems, result.total);
 #pragma once
 
 #include "velkor/model/Progress.h"

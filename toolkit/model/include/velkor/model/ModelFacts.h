@@ -1,4 +1,8 @@
 /// What a model's header and index tell without decoding its instances, the project apart.
+///
+///     const ModelFacts facts = modelFacts(*model);
+///     show(facts.release, facts.instanceCount);
+///     for (const ContentCount& content : facts.contents) show(content.plural, content.count);
 #pragma once
 
 #include "velkor/sdai/Model.h"
@@ -19,7 +23,7 @@ struct ProjectFacts {
     std::string phase;
 };
 
-/// A kind of thing that people ask a model for, with its number.
+/// A kind of thing that people ask a model for, with its number. The texts last as long as the process.
 struct ContentCount {
     std::string_view entity;
     std::string_view singular;
@@ -51,6 +55,8 @@ struct ModelFacts {
     std::vector<ContentCount> contents;
 };
 
+/// One pass over the index, two bytes an instance. Texts are copied; the entities of `keywords` are those of
+/// the model.
 VELKOR_TOOLKIT_API ModelFacts modelFacts(const sdai::Model& model);
 
 } // namespace velkor

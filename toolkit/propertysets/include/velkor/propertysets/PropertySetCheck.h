@@ -1,4 +1,8 @@
 /// The property sets and quantity sets of a model against their definitions.
+///
+///     const PlatformSetup setup(configuration);
+///     const PropertySetCheck check = checkPropertySets(*model);
+///     for (const SetFinding& finding : check.findings) show(finding.problem.line, finding.problem.message);
 #pragma once
 
 #include "velkor/model/CheckResult.h"
@@ -34,6 +38,7 @@ struct SetFinding {
 struct VELKOR_TOOLKIT_API PropertySetCheck {
     /// False when there is not one definition to check by.
     bool hasDefinitions = false;
+    /// Looked at.
     std::uint64_t sets = 0;
     std::uint64_t properties = 0;
     /// Of sets that have a definition.

@@ -1,4 +1,6 @@
 /// One thing found wrong in a resource file.
+///
+///     show(path, finding.line, name(finding.severity), finding.message, finding.code);
 #pragma once
 
 #include "velkor/sdai/Problem.h"

@@ -1,7 +1,8 @@
 /// Resource files judged by their linters.
 ///
 ///     ResourceCheck check(1000);
-///     CheckedFile file = check.file("mine.xml", nullptr, nullptr);
+///     const CheckedFile file = check.file("mine.xml", nullptr, nullptr);
+///     for (const Finding& finding : file.judgement.findings) show(file.path, finding.line, finding.message);
 #pragma once
 
 #include "ResourceKinds.h"
@@ -63,7 +64,7 @@ struct FindingCounts {
     std::size_t findings() const noexcept { return errors + warnings; }
 };
 
-/// Remembers the dictionaries that files were judged by.
+/// Remembers the dictionaries that files were judged by. A file is read whole and judged in one pass.
 class VELKOR_TOOLKIT_API ResourceCheck {
 public:
     /// Keeps at most `limit` findings of all files together.

@@ -1,6 +1,6 @@
 /// Where the services look for a kind of resource file, what is there, and which files they use.
 ///
-///     const PlatformSetup setup(configuration, err);
+///     const PlatformSetup setup(configuration);
 ///     for (const ResourceKind& kind : resourceKinds) show(searchResource(kind, setup));
 #pragma once
 
@@ -62,7 +62,8 @@ struct ResourceSearch {
     bool isUsable() const { return reason.empty(); }
 };
 
-/// What the setup has put in force is searched; folders of shipped resources are named as such.
+/// What the setup has put in force is searched, the names of each folder once; folders of shipped resources are named
+/// as such.
 VELKOR_TOOLKIT_API ResourceSearch searchResource(const ResourceKind& kind, const PlatformSetup& setup);
 
 } // namespace velkor

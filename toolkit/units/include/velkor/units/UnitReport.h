@@ -1,4 +1,8 @@
 /// What the unit services say about a model.
+///
+///     const UnitReport report = unitReport(*model);
+///     for (const UnitReport::Unit& unit : report.units) show(unit.name, unit.factor);
+///     const double millimetres = report.lengthFactor;
 #pragma once
 
 #include "velkor/sdai/Model.h"
@@ -40,7 +44,8 @@ struct UnitReport {
     std::vector<std::pair<std::string, double>> measures;
 };
 
-/// Asks the library. The unit services keep the model's factors afterwards.
+/// Asks the library, instance by instance of the assignment alone. The unit services keep the model's factors
+/// afterwards.
 VELKOR_TOOLKIT_API UnitReport unitReport(const sdai::Model& model);
 
 } // namespace velkor
