@@ -2,21 +2,14 @@
 
 #include "velkor/text/Wording.h"
 
-#include <algorithm>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
 
 namespace {
 
-/// The unit stored last for a unit type, which is the one in force.
-const UnitReport::Unit* unitOf(const UnitReport& report, std::string_view type) {
-    const auto found = std::ranges::find(report.units.rbegin(), report.units.rend(), type, &UnitReport::Unit::type);
-    return found != report.units.rend() ? &*found : nullptr;
-}
-
 std::string unitWorth(const UnitReport& report, std::string_view type, double factor, const char* siUnit) {
-    const auto* unit = unitOf(report, type);
+    const auto* unit = report.inForce(type);
     return "1 model unit = " + text::shortest(factor) + siUnit +
            (unit != nullptr && !unit->name.empty() ? " (" + unit->name + ")" : std::string());
 }

@@ -1,5 +1,6 @@
 #include "ProductProperties.h"
 
+#include "velkor/model/RelatedInstances.h"
 #include "velkor/text/Unicode.h"
 
 #include <algorithm>
@@ -7,13 +8,6 @@
 namespace velkor {
 
 namespace {
-
-template <class Take>
-void eachInstance(const sdai::Aggregate& aggregate, Take take) {
-    for (const sdai::Primitive member : aggregate) {
-        if (const DXSdaiAppInstance* instance = member.asInstance()) take(instance);
-    }
-}
 
 std::string inWords(const sdai::Primitive& value) {
     const sdai::Type* type = value.declaredType();
@@ -54,13 +48,7 @@ void ProductProperties::addTypes(const sdai::Model& model) {
 
 void ProductProperties::addRelationship(const DXSdaiAppInstance& relationship) {
     Attributes values;
-    const sdai::Primitive definition = relationship.GetAttr("RELATINGPROPERTYDEFINITION");
-    const auto add = [&](const DXSdaiAppInstance* set) { append(values, valuesOf(set)); };
-    if (const DXSdaiAppInstance* set = definition.asInstance())
-        add(set);
-    else
-        // Since IFC4 a relationship may name several sets at once.
-        eachInstance(definition.asSelect().underlyingValue().asAggregate(), add);
+    eachSet(relationship, [&](const DXSdaiAppInstance* set) { append(values, valuesOf(set)); });
     if (values.empty()) return;
     const auto position = static_cast<std::uint32_t>(_valuesOfRelationship.size());
     _valuesOfRelationship.push_back(std::move(values));

@@ -1,19 +1,10 @@
 #include "SetUses.h"
 
+#include "velkor/model/RelatedInstances.h"
+
 #include <algorithm>
 
 namespace velkor {
-
-namespace {
-
-template <class Take>
-void eachInstance(const sdai::Aggregate& aggregate, Take take) {
-    for (const sdai::Primitive member : aggregate) {
-        if (DXSdaiAppInstance* instance = member.asInstance()) take(instance);
-    }
-}
-
-} // namespace
 
 ObjectKind SetUse::kind() const noexcept {
     return {first == nullptr ? nullptr : first->entity(), type == nullptr ? nullptr : type->entity()};
@@ -60,13 +51,7 @@ void SetUses::addRelationship(const DXSdaiAppInstance& relationship) {
     });
     if (uses.empty()) return;
     const std::uint32_t group = addGroup(std::move(uses));
-    const auto add = [&](const DXSdaiAppInstance* set) { _groupsOf[set].push_back(group); };
-    const sdai::Primitive definition = relationship.GetAttr("RELATINGPROPERTYDEFINITION");
-    if (const DXSdaiAppInstance* set = definition.asInstance())
-        add(set);
-    else
-        // Since IFC4 a relationship may name several sets at once.
-        eachInstance(definition.asSelect().underlyingValue().asAggregate(), add);
+    eachSet(relationship, [&](const DXSdaiAppInstance* set) { _groupsOf[set].push_back(group); });
 }
 
 std::uint32_t SetUses::addGroup(Group group) {

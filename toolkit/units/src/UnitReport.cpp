@@ -3,6 +3,7 @@
 #include "QORIFCUnitServices.h"
 #include "UnitSlots.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 namespace velkor {
@@ -66,6 +67,11 @@ UnitReport::Unit describe(DXSdaiAppInstance& unit) {
 }
 
 } // namespace
+
+const UnitReport::Unit* UnitReport::inForce(std::string_view type) const {
+    const auto found = std::ranges::find(units.rbegin(), units.rend(), type, &Unit::type);
+    return found == units.rend() ? nullptr : &*found;
+}
 
 UnitReport unitReport(const sdai::Model& model) {
     UnitReport report;

@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -42,6 +43,9 @@ struct UnitReport {
     double lengthUnitFactor = 0.0;
     /// Factor by measure type.
     std::vector<std::pair<std::string, double>> measures;
+
+    /// The unit of a unit type that is in force: of several the one stored last. Null when there is none.
+    const Unit* inForce(std::string_view type) const;
 };
 
 /// Asks the library, instance by instance of the assignment alone. The unit services keep the model's factors
