@@ -94,7 +94,9 @@ void badUsage(CommandContext& context, const std::string& reason) {
 /// Null after reporting that a text names no release.
 const MappingRelease* releaseOf(CommandContext& context, const std::string& release) {
     const auto* known = findMappingRelease<std::string_view>(&MappingRelease::text, release);
-    if (known == nullptr) badUsage(context, "unknown release " + text::quoted(release) + "; expected one of " + text::joined(mappingReleases, ", ", &MappingRelease::text));
+    if (known == nullptr)
+        badUsage(context, "unknown release " + text::quoted(release) + "; expected one of " +
+                              text::joined(mappingReleases, ", ", &MappingRelease::text));
     return known;
 }
 

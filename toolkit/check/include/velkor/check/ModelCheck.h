@@ -29,7 +29,7 @@ struct FileCheck {
 
 /// Opens a file and judges what can be judged: its structure alone when that is asked for, or when FILE_SCHEMA names no
 /// dictionary that is known, which is then a problem itself.
-tl::expected<FileCheck, files::OpenError> checkFile(const std::string& path, bool isStructureAlone,
-                                                    const CheckOptions& options = {});
+VELKOR_TOOLKIT_API tl::expected<FileCheck, files::OpenError> checkFile(const std::string& path, bool isStructureAlone,
+                                                                       const CheckOptions& options = {});
 
 } // namespace velkor

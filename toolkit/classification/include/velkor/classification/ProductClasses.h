@@ -7,6 +7,7 @@
 
 #include "velkor/classification/Classification.h"
 #include "velkor/configuration/PlatformSetup.h"
+#include "velkor/ToolkitExport.h"
 
 #include <cstdint>
 #include <string>
@@ -24,7 +25,7 @@ struct ProductClass {
 
 /// In the order of the entities' names, complex instances first, then of the neutral identifiers. What is answered
 /// points into the classification.
-std::vector<ProductClass> classesOf(const Classification& classification);
+VELKOR_TOOLKIT_API std::vector<ProductClass> classesOf(const Classification& classification);
 
 struct ConfiguredClassification {
     /// The document that the services use.
@@ -34,7 +35,7 @@ struct ConfiguredClassification {
 
 /// Finds the document, has the services read it and classifies by it. The error is a line that says why there is no
 /// document or that it cannot be read; the log of the set-up has the reason.
-tl::expected<ConfiguredClassification, std::string>
+VELKOR_TOOLKIT_API tl::expected<ConfiguredClassification, std::string>
 classifyAsConfigured(const sdai::Model& model, const PlatformSetup& setup, const Progress& progress = {});
 
 } // namespace velkor

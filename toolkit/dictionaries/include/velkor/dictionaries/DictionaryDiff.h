@@ -59,7 +59,8 @@ struct DictionaryDiff {
 
 /// Everything in alphabetical order; names are views into the schemas' texts. In
 /// proportion to the two schemas.
-VELKOR_TOOLKIT_API DictionaryDiff compareDictionaries(const sdai::SchemaDefinition& before, const sdai::SchemaDefinition& after);
+VELKOR_TOOLKIT_API DictionaryDiff compareDictionaries(const sdai::SchemaDefinition& before,
+                                                      const sdai::SchemaDefinition& after);
 
 /// An attribute as EXPRESS writes it behind its name: "OPTIONAL IFCLABEL"; a derived one begins
 /// with "DERIVED".

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "velkor/sdai/Dictionary.h"
+#include "velkor/ToolkitExport.h"
 
 #include <cstddef>
 #include <string>
@@ -45,15 +46,15 @@ struct EntityFacts {
 };
 
 /// In proportion to the attributes of the entity and the depth of its tree.
-EntityFacts entityFacts(const sdai::EntityDefinition& entity);
+VELKOR_TOOLKIT_API EntityFacts entityFacts(const sdai::EntityDefinition& entity);
 
 /// Up to `most` entities whose names are likely meant by a name that is none, the likeliest first. "IFC" may be left
 /// out. Compares with every entity of the schema.
-std::vector<std::string> nearestEntities(const sdai::SchemaDefinition& schema, std::string_view name,
-                                         std::size_t most = 5);
+VELKOR_TOOLKIT_API std::vector<std::string> nearestEntities(const sdai::SchemaDefinition& schema, std::string_view name,
+                                                            std::size_t most = 5);
 
 /// The dictionary that a person means: by its name, by what files write ("IFC2X3_TC1") or by a short form ("2x3",
 /// "4x3"). Empty when there is none.
-std::string releaseMeant(std::string_view text);
+VELKOR_TOOLKIT_API std::string releaseMeant(std::string_view text);
 
 } // namespace velkor

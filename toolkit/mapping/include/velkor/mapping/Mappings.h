@@ -10,6 +10,7 @@
 #include "MappingReleases.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/objectmodeler/ResultCode.h"
+#include "velkor/ToolkitExport.h"
 
 #include <string>
 #include <string_view>
@@ -57,28 +58,28 @@ struct IntroducedValue {
 };
 
 /// A property, or with an empty one the entity as a whole, in another release.
-tl::expected<MappingAnswer, std::string> mapBetweenReleases(const PlatformSetup& setup, const MappingRelease& from,
-                                                            const MappingRelease& to, std::string_view entity,
-                                                            std::string_view property);
+VELKOR_TOOLKIT_API tl::expected<MappingAnswer, std::string>
+mapBetweenReleases(const PlatformSetup& setup, const MappingRelease& from, const MappingRelease& to,
+                   std::string_view entity, std::string_view property);
 
 /// The entities that the second release no longer has.
-tl::expected<MappingList<std::string>, std::string>
+VELKOR_TOOLKIT_API tl::expected<MappingList<std::string>, std::string>
 deprecatedEntities(const PlatformSetup& setup, const MappingRelease& from, const MappingRelease& to);
 
 /// The properties that the second release introduces with a value.
-tl::expected<MappingList<IntroducedValue>, std::string>
+VELKOR_TOOLKIT_API tl::expected<MappingList<IntroducedValue>, std::string>
 introducedValues(const PlatformSetup& setup, const MappingRelease& from, const MappingRelease& to);
 
 /// Whether a text is the name of a type followed by "_Import" or "_Export", in any letter case.
-bool isMappingScope(std::string_view scope);
+VELKOR_TOOLKIT_API bool isMappingScope(std::string_view scope);
 
 /// What is used in place of a property, or with an empty one of an entity or set, within a scope.
-tl::expected<MappingAnswer, std::string> mapForType(const PlatformSetup& setup, std::string_view entity,
-                                                    std::string_view property, std::string_view scope);
+VELKOR_TOOLKIT_API tl::expected<MappingAnswer, std::string>
+mapForType(const PlatformSetup& setup, std::string_view entity, std::string_view property, std::string_view scope);
 
 /// The set and property that an attribute of a PLM type is written as. The error is empty when the set-up has told
 /// already which document cannot be read.
-tl::expected<MappingAnswer, std::string> mapPlmAttribute(const PlatformSetup& setup, std::string_view type,
-                                                         std::string_view attribute);
+VELKOR_TOOLKIT_API tl::expected<MappingAnswer, std::string>
+mapPlmAttribute(const PlatformSetup& setup, std::string_view type, std::string_view attribute);
 
 } // namespace velkor

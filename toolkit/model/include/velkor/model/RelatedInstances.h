@@ -1,7 +1,7 @@
 /// The instances that relationships bring together.
 ///
-///     eachInstance(relationship.GetAttr("RELATEDOBJECTS").asAggregate(), [&](DXSdaiAppInstance* object) { use(object); });
-///     eachSet(relationship, [&](DXSdaiAppInstance* set) { use(set); });
+///     eachInstance(relationship.GetAttr("RELATEDOBJECTS").asAggregate(), [&](DXSdaiAppInstance* object) { use(object);
+///     }); eachSet(relationship, [&](DXSdaiAppInstance* set) { use(set); });
 ///
 /// Nothing is allocated. What does not lead to an instance is passed over.
 #pragma once

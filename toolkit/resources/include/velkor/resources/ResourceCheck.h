@@ -53,7 +53,7 @@ struct CheckedFile {
 };
 
 /// Files that could be read, and what was found in them, with what is beyond the limit of the check.
-struct FindingCounts {
+struct VELKOR_TOOLKIT_API FindingCounts {
     std::size_t files = 0;
     std::size_t entries = 0;
     std::size_t errors = 0;

@@ -17,7 +17,7 @@
 
 namespace velkor {
 
-struct UnitReport {
+struct VELKOR_TOOLKIT_API UnitReport {
     struct Unit {
         std::uint64_t id = 0;
         std::string entity;
