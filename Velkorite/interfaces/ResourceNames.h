@@ -72,8 +72,8 @@ inline constexpr const char* exportOnly = "Export_Only";
 /// Lines for the other direction, which nobody reads.
 inline constexpr const char* importOnly = "Import_Only";
 /// Whether a line counts, by its direction.
-constexpr bool isExported(std::string_view direction) {
-    return direction.empty() || direction == both || direction == exportOnly;
+constexpr bool isExported(std::string_view written) {
+    return written.empty() || written == both || written == exportOnly;
 }
 } // namespace plm
 
