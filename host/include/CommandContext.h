@@ -1,6 +1,7 @@
 /// What every command of the host shares: where results and messages go, and the exit status.
 #pragma once
 
+#include "commandline/Command.h"
 #include "terminal/ExitStatus.h"
 #include "terminal/TextSink.h"
 #include "velkor/configuration/ConfigurationTable.h"
@@ -12,10 +13,6 @@
 #include <memory>
 #include <string>
 #include <vector>
-
-namespace CLI {
-class App;
-}
 
 namespace velkor::sdai {
 class Model;
@@ -64,7 +61,7 @@ struct CommandContext {
     /// has `run` called once the configuration has been read. With a wrong configuration no command
     /// runs: its faults are reported and the status is Unreadable. A command may have a third format. When one of its
     /// subcommands is named, that one answers.
-    void complete(CLI::App& command, std::function<void()> run, const std::string& thirdFormat = {});
+    void complete(const Command& command, std::function<void()> run, const std::string& thirdFormat = {});
 
     /// Writes why input cannot be read to `err` and sets the status Unreadable.
     void reportUnreadable(const std::string& reason);

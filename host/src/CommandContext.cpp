@@ -5,23 +5,19 @@
 #include "velkor/sdai/Model.h"
 #include "velkor/settings/QORDXEnvironmentVariable.h"
 
-#include <CLI/CLI.hpp>
-
 namespace velkor::host {
 
-void CommandContext::complete(CLI::App& command, std::function<void()> run, const std::string& thirdFormat) {
+void CommandContext::complete(const Command& command, std::function<void()> run, const std::string& thirdFormat) {
     std::vector<std::string> formats{"text", "json"};
     if (!thirdFormat.empty()) formats.push_back(thirdFormat);
-    command.add_option("--format", format, "text for people, json for programs; text unless told")
-        ->option_text("text|json" + (thirdFormat.empty() ? "" : '|' + thirdFormat))
-        ->check(CLI::IsMember(formats));
+    command.addOption("--format", format, "text for people, json for programs; text unless told")
+        .valueName("text|json" + (thirdFormat.empty() ? "" : '|' + thirdFormat))
+        .oneOf(formats);
     command
-        .add_option("--config", configurationFile,
-                    "Configuration file, - for standard input; the one VELKOR_CONFIG names unless told")
-        ->option_text("FILE");
-    command.callback([this, &command, run = std::move(run)] {
-        // A subcommand has answered in its place.
-        if (!command.get_subcommands().empty()) return;
+        .addOption("--config", configurationFile,
+                   "Configuration file, - for standard input; the one VELKOR_CONFIG names unless told")
+        .valueName("FILE");
+    command.onUse([this, run = std::move(run)] {
         if (readConfiguration()) run();
     });
 }

@@ -9,7 +9,6 @@
 #include "velkor/check/ProblemSummary.h"
 #include "velkor/text/Wording.h"
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
@@ -52,15 +51,15 @@ void runCheck(CommandContext& context, const Options& options) {
 
 } // namespace
 
-void addCheckCommand(CLI::App& app, CommandContext& context) {
-    CLI::App* command = app.add_subcommand(
+void addCheckCommand(const Command& app, CommandContext& context) {
+    const Command command = app.addCommand(
         "check", "What is wrong with a model's exchange structure and, by the dictionary, with its instances");
     const auto options = std::make_shared<Options>();
-    command->add_option("MODEL", options->path, "IFC file")->required();
-    command->add_flag("--syntax", options->syntaxOnly, "Judge the exchange structure (ISO 10303-21) alone");
-    addLimitOption(*command, options->limit, "problems");
-    command->footer("Example:\n  velkor check house.ifc\n\nExit status 1 when there are problems.");
-    context.complete(*command, [&context, options] { runCheck(context, *options); });
+    command.addOption("MODEL", options->path, "IFC file").required();
+    command.addFlag("--syntax", options->syntaxOnly, "Judge the exchange structure (ISO 10303-21) alone");
+    addLimitOption(command, options->limit, "problems");
+    command.example("velkor check house.ifc\n\nExit status 1 when there are problems.");
+    context.complete(command, [&context, options] { runCheck(context, *options); });
 }
 
 } // namespace velkor::host

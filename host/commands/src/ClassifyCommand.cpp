@@ -10,7 +10,6 @@
 #include "velkor/text/Wording.h"
 
 #include <algorithm>
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
@@ -155,16 +154,16 @@ void runClassify(CommandContext& context, const Options& options) {
 
 } // namespace
 
-void addClassifyCommand(CLI::App& app, CommandContext& context) {
-    CLI::App* command =
-        app.add_subcommand("classify", "The neutral identifier and the PLM type of every product of a model");
+void addClassifyCommand(const Command& app, CommandContext& context) {
+    const Command command =
+        app.addCommand("classify", "The neutral identifier and the PLM type of every product of a model");
     const auto options = std::make_shared<Options>();
-    command->add_option("MODEL", options->path, "IFC file")->required();
-    addLimitOption(*command, options->limit, "products");
-    command->footer("Example:\n  velkor classify house.ifc --format csv\n\n"
+    command.addOption("MODEL", options->path, "IFC file").required();
+    addLimitOption(command, options->limit, "products");
+    command.example("velkor classify house.ifc --format csv\n\n"
                     "Exit status 1 when a product has no neutral identifier.");
     context.complete(
-        *command, [&context, options] { runClassify(context, *options); }, "csv");
+        command, [&context, options] { runClassify(context, *options); }, "csv");
 }
 
 } // namespace velkor::host

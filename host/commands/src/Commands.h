@@ -5,17 +5,17 @@
 
 namespace velkor::host {
 
-void addReportCommand(CLI::App& app, CommandContext& context);
-void addCheckCommand(CLI::App& app, CommandContext& context);
-void addGuidCommand(CLI::App& app, CommandContext& context);
-void addValidateCommand(CLI::App& app, CommandContext& context);
-void addUnitsCommand(CLI::App& app, CommandContext& context);
-void addDictionaryCommand(CLI::App& app, CommandContext& context);
-void addOptionsCommand(CLI::App& app, CommandContext& context);
-void addResourcesCommand(CLI::App& app, CommandContext& context);
+void addReportCommand(const Command& app, CommandContext& context);
+void addCheckCommand(const Command& app, CommandContext& context);
+void addGuidCommand(const Command& app, CommandContext& context);
+void addValidateCommand(const Command& app, CommandContext& context);
+void addUnitsCommand(const Command& app, CommandContext& context);
+void addDictionaryCommand(const Command& app, CommandContext& context);
+void addOptionsCommand(const Command& app, CommandContext& context);
+void addResourcesCommand(const Command& app, CommandContext& context);
 /// A subcommand of the one above.
-void addResourcesCheckCommand(CLI::App& resources, CommandContext& context);
-void addMapCommand(CLI::App& app, CommandContext& context);
-void addClassifyCommand(CLI::App& app, CommandContext& context);
+void addResourcesCheckCommand(const Command& resources, CommandContext& context);
+void addMapCommand(const Command& app, CommandContext& context);
+void addClassifyCommand(const Command& app, CommandContext& context);
 
 } // namespace velkor::host

@@ -11,7 +11,6 @@
 #include "velkor/text/Wording.h"
 
 #include <array>
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 #include <string>
 
@@ -308,51 +307,50 @@ struct Arguments {
     std::vector<std::string> also;
 };
 
-CLI::App* addSubcommand(CLI::App& dictionary, const char* name, const char* description, const char* example) {
-    CLI::App* command = dictionary.add_subcommand(name, description);
-    command->footer(std::string("Example:\n  ") + example);
+const Command addSubcommand(const Command& dictionary, const char* name, const char* description, const char* example) {
+    const Command command = dictionary.addCommand(name, description);
+    command.example(example);
     return command;
 }
 
 } // namespace
 
-void addDictionaryCommand(CLI::App& app, CommandContext& context) {
-    CLI::App* dictionary = app.add_subcommand("dictionary", "The data dictionaries of the IFC releases");
-    dictionary->require_subcommand(1);
-    dictionary->footer("Example:\n  velkor dictionary entity IFC4 IFCWALL");
+void addDictionaryCommand(const Command& app, CommandContext& context) {
+    const Command dictionary = app.addCommand("dictionary", "The data dictionaries of the IFC releases");
+    dictionary.requireCommand();
+    dictionary.example("velkor dictionary entity IFC4 IFCWALL");
     const auto arguments = std::make_shared<Arguments>();
 
-    CLI::App* list =
-        addSubcommand(*dictionary, "list", "A row of counts per release", "velkor dictionary list --format json");
-    context.complete(*list, [&context] { runList(context); });
+    const Command list =
+        addSubcommand(dictionary, "list", "A row of counts per release", "velkor dictionary list --format json");
+    context.complete(list, [&context] { runList(context); });
 
-    CLI::App* show =
-        addSubcommand(*dictionary, "show", "One of the two lists that a dictionary is made of, text by text",
+    const Command show =
+        addSubcommand(dictionary, "show", "One of the two lists that a dictionary is made of, text by text",
                       "velkor dictionary show IFC4 --declarations");
-    show->add_option("release", arguments->release, releaseHelp)->required();
-    CLI::Option_group* which = show->add_option_group("list", "Which list");
-    which->add_flag("--declarations", arguments->declarations, "Types, entities, attributes and rules with numbers");
-    which->add_flag("--statements", arguments->statements, "What is stated about the numbered declarations");
-    which->require_option(1);
-    context.complete(*show, [&context, arguments] { runShow(context, arguments->release, arguments->declarations); });
+    show.addOption("release", arguments->release, releaseHelp).required();
+    const Command which = show.addAlternatives("list", "Which list");
+    which.addFlag("--declarations", arguments->declarations, "Types, entities, attributes and rules with numbers");
+    which.addFlag("--statements", arguments->statements, "What is stated about the numbered declarations");
+    context.complete(show, [&context, arguments] { runShow(context, arguments->release, arguments->declarations); });
 
-    CLI::App* entity =
-        addSubcommand(*dictionary, "entity", "One entity with its inherited attributes, as instances hold them",
+    const Command entity =
+        addSubcommand(dictionary, "entity", "One entity with its inherited attributes, as instances hold them",
                       "velkor dictionary entity 4x3 IfcWall");
-    entity->add_option("release", arguments->release, releaseHelp)->required();
-    entity->add_option("entity", arguments->other, "Name of an entity, in any letter case")->required();
-    context.complete(*entity, [&context, arguments] { runEntity(context, arguments->release, arguments->other); });
+    entity.addOption("release", arguments->release, releaseHelp).required();
+    entity.addOption("entity", arguments->other, "Name of an entity, in any letter case").required();
+    context.complete(entity, [&context, arguments] { runEntity(context, arguments->release, arguments->other); });
 
-    CLI::App* diff = addSubcommand(*dictionary, "diff", "What changed from one release to another",
-                                   "velkor dictionary diff IFC2X3 IFC4");
-    diff->add_option("before", arguments->release, releaseHelp)->required();
-    diff->add_option("after", arguments->other, "The release to compare with it")->required();
-    CLI::Option* asMapping = diff->add_flag("--as-mapping", arguments->asMapping,
-                                            "Write a version mapping document (XML) in place of the changes");
-    diff->add_option("--also", arguments->also, "Pairs of releases that the document has as well")
-        ->option_text("BEFORE:AFTER …")
-        ->needs(asMapping);
-    context.complete(*diff, [&context, arguments] {
+    const Command diff = addSubcommand(dictionary, "diff", "What changed from one release to another",
+                                       "velkor dictionary diff IFC2X3 IFC4");
+    diff.addOption("before", arguments->release, releaseHelp).required();
+    diff.addOption("after", arguments->other, "The release to compare with it").required();
+    const Option asMapping = diff.addFlag("--as-mapping", arguments->asMapping,
+                                          "Write a version mapping document (XML) in place of the changes");
+    diff.addOption("--also", arguments->also, "Pairs of releases that the document has as well")
+        .valueName("BEFORE:AFTER …")
+        .needs(asMapping);
+    context.complete(diff, [&context, arguments] {
         if (arguments->asMapping)
             runAsMapping(context, arguments->release, arguments->other, arguments->also);
         else

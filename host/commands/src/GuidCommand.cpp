@@ -11,7 +11,6 @@
 #include "velkor/text/Wording.h"
 
 #include <algorithm>
-#include <CLI/CLI.hpp>
 #include <istream>
 #include <nlohmann/json.hpp>
 
@@ -138,57 +137,57 @@ void runConversion(CommandContext& context, const std::vector<std::string>& text
         context.out.lines(lines);
 }
 
-CLI::App* addSubcommand(CLI::App& guid, const char* name, const char* description, const char* example) {
-    CLI::App* command = guid.add_subcommand(name, description);
-    command->footer(std::string("Example:\n  ") + example);
+const Command addSubcommand(const Command& guid, const char* name, const char* description, const char* example) {
+    const Command command = guid.addCommand(name, description);
+    command.example(example);
     return command;
 }
 
-void addConversions(CLI::App& guid, CommandContext& context, const std::shared_ptr<Arguments>& arguments) {
-    CLI::App* expand = addSubcommand(guid, "expand", "Identifiers of 22 characters as hexadecimal text",
-                                     "velkor guid expand '0$WU4A9R19$vKWO$AdOnKA'");
-    expand->add_option("GUID", arguments->texts, "22 characters each")->required();
-    context.complete(*expand, [&context, arguments] {
+void addConversions(const Command& guid, CommandContext& context, const std::shared_ptr<Arguments>& arguments) {
+    const Command expand = addSubcommand(guid, "expand", "Identifiers of 22 characters as hexadecimal text",
+                                         "velkor guid expand '0$WU4A9R19$vKWO$AdOnKA'");
+    expand.addOption("GUID", arguments->texts, "22 characters each").required();
+    context.complete(expand, [&context, arguments] {
         runConversion(context, arguments->texts, guid::expanded, "identifier", "uuid");
     });
 
-    CLI::App* compress = addSubcommand(guid, "compress", "Hexadecimal text as identifiers of 22 characters",
-                                       "velkor guid compress 3f81e10a-25b0-49ff-9520-63f2a763150a");
+    const Command compress = addSubcommand(guid, "compress", "Hexadecimal text as identifiers of 22 characters",
+                                           "velkor guid compress 3f81e10a-25b0-49ff-9520-63f2a763150a");
     compress
-        ->add_option("UUID", arguments->texts,
-                     "32 hexadecimal digits each, as 8-4-4-4-12; braces around them are no matter")
-        ->required();
-    context.complete(*compress, [&context, arguments] {
+        .addOption("UUID", arguments->texts,
+                   "32 hexadecimal digits each, as 8-4-4-4-12; braces around them are no matter")
+        .required();
+    context.complete(compress, [&context, arguments] {
         runConversion(context, arguments->texts, guid::compressed, "uuid", "identifier");
     });
 }
 
 } // namespace
 
-void addGuidCommand(CLI::App& app, CommandContext& context) {
-    CLI::App* guid = app.add_subcommand("guid", "Identifiers: new ones, those of PLM objects, those of a model");
-    guid->require_subcommand(1);
-    guid->footer("Example:\n  velkor guid check house.ifc");
+void addGuidCommand(const Command& app, CommandContext& context) {
+    const Command guid = app.addCommand("guid", "Identifiers: new ones, those of PLM objects, those of a model");
+    guid.requireCommand();
+    guid.example("velkor guid check house.ifc");
     const auto arguments = std::make_shared<Arguments>();
 
-    CLI::App* fresh = addSubcommand(*guid, "new", "New identifiers", "velkor guid new -n 100");
-    fresh->add_option("-n", arguments->count, "How many, at most 1000000; 1 unless told")
-        ->option_text("N")
-        ->transform(wholeNumber(1, mostNew));
-    context.complete(*fresh, [&context, arguments] { runNew(context, arguments->count); });
+    const Command fresh = addSubcommand(guid, "new", "New identifiers", "velkor guid new -n 100");
+    fresh.addOption("-n", arguments->count, "How many, at most 1000000; 1 unless told")
+        .valueName("N")
+        .wholeNumber(1, mostNew);
+    context.complete(fresh, [&context, arguments] { runNew(context, arguments->count); });
 
-    CLI::App* fromPlm = addSubcommand(*guid, "from-plm", "The identifier of each PLM object, always the same one",
-                                      "velkor guid from-plm DOOR-0815");
-    fromPlm->add_option("ID", arguments->texts, "PLM identifiers; without any, one per line of standard input");
-    context.complete(*fromPlm, [&context, arguments] { runFromPlm(context, arguments->texts); });
+    const Command fromPlm = addSubcommand(guid, "from-plm", "The identifier of each PLM object, always the same one",
+                                          "velkor guid from-plm DOOR-0815");
+    fromPlm.addOption("ID", arguments->texts, "PLM identifiers; without any, one per line of standard input");
+    context.complete(fromPlm, [&context, arguments] { runFromPlm(context, arguments->texts); });
 
-    CLI::App* check = addSubcommand(*guid, "check", "Whether the identifiers of a model are well-formed and unique",
-                                    "velkor guid check house.ifc\n\nExit status 1 when there are problems.");
-    check->add_option("MODEL", arguments->model, "IFC file")->required();
-    addLimitOption(*check, arguments->limit, "problems");
-    context.complete(*check, [&context, arguments] { runCheck(context, *arguments); });
+    const Command check = addSubcommand(guid, "check", "Whether the identifiers of a model are well-formed and unique",
+                                        "velkor guid check house.ifc\n\nExit status 1 when there are problems.");
+    check.addOption("MODEL", arguments->model, "IFC file").required();
+    addLimitOption(check, arguments->limit, "problems");
+    context.complete(check, [&context, arguments] { runCheck(context, *arguments); });
 
-    addConversions(*guid, context, arguments);
+    addConversions(guid, context, arguments);
 }
 
 } // namespace velkor::host

@@ -10,7 +10,6 @@
 #include "velkor/text/Wording.h"
 
 #include <algorithm>
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
@@ -184,49 +183,50 @@ void runPlm(CommandContext& context, const Arguments& arguments) {
                 {{"set", &MappingAnswer::entity}, {"property", &MappingAnswer::property}});
 }
 
-CLI::App* addSubcommand(CLI::App& map, const char* name, const char* description, const char* example) {
-    CLI::App* command = map.add_subcommand(name, description);
-    command->footer(std::string("Example:\n  ") + example + "\n\nExit status 1 when nothing is mapped.");
+const Command addSubcommand(const Command& map, const char* name, const char* description, const char* example) {
+    const Command command = map.addCommand(name, description);
+    command.example(std::string(example) + "\n\nExit status 1 when nothing is mapped.");
     return command;
 }
 
 } // namespace
 
-void addMapCommand(CLI::App& app, CommandContext& context) {
-    CLI::App* map = app.add_subcommand("map", "What entities, properties and PLM attributes are mapped to");
-    map->require_subcommand(1);
-    map->footer("Example:\n  velkor map version --from 2x3 --to 4 IfcActionRequest RequestID");
+void addMapCommand(const Command& app, CommandContext& context) {
+    const Command map = app.addCommand("map", "What entities, properties and PLM attributes are mapped to");
+    map.requireCommand();
+    map.example("velkor map version --from 2x3 --to 4 IfcActionRequest RequestID");
     const auto arguments = std::make_shared<Arguments>();
 
-    CLI::App* version = addSubcommand(*map, "version", "What becomes of an entity or property in another IFC release",
-                                      "velkor map version --from 2x3 --to 4 IfcActionRequest RequestID");
-    version->add_option("ENTITY", arguments->entity, "Name of the entity");
-    version->add_option("PROPERTY", arguments->property, "Name of one of its properties");
+    const Command version =
+        addSubcommand(map, "version", "What becomes of an entity or property in another IFC release",
+                      "velkor map version --from 2x3 --to 4 IfcActionRequest RequestID");
+    version.addOption("ENTITY", arguments->entity, "Name of the entity");
+    version.addOption("PROPERTY", arguments->property, "Name of one of its properties");
     version
-        ->add_option("--from", arguments->from,
-                     "Release of the names: " + text::alternatives(mappingReleases, &MappingRelease::text))
-        ->option_text("RELEASE")
-        ->required();
-    version->add_option("--to", arguments->to, "Release to map them to")->option_text("RELEASE")->required();
-    version->add_flag("--deprecated", arguments->deprecated, "List the entities that the target release no longer has");
-    version->add_flag("--introduced", arguments->introduced,
-                      "List the properties that the target release introduces with a value");
-    context.complete(*version, [&context, arguments] { runVersion(context, *arguments); });
+        .addOption("--from", arguments->from,
+                   "Release of the names: " + text::alternatives(mappingReleases, &MappingRelease::text))
+        .valueName("RELEASE")
+        .required();
+    version.addOption("--to", arguments->to, "Release to map them to").valueName("RELEASE").required();
+    version.addFlag("--deprecated", arguments->deprecated, "List the entities that the target release no longer has");
+    version.addFlag("--introduced", arguments->introduced,
+                    "List the properties that the target release introduces with a value");
+    context.complete(version, [&context, arguments] { runVersion(context, *arguments); });
 
-    CLI::App* custom = addSubcommand(*map, "custom", "What is used in place of an entity or property for a type",
-                                     "velkor map custom Pset_WallCommon FireRating --scope Building_Wall_Import");
-    custom->add_option("ENTITY", arguments->entity, "Name of the entity or property set")->required();
-    custom->add_option("PROPERTY", arguments->property, "Name of one of its properties");
-    custom->add_option("--scope", arguments->scope, "Name of a type, followed by _Import or _Export")
-        ->option_text("SCOPE")
-        ->required();
-    context.complete(*custom, [&context, arguments] { runCustom(context, *arguments); });
+    const Command custom = addSubcommand(map, "custom", "What is used in place of an entity or property for a type",
+                                         "velkor map custom Pset_WallCommon FireRating --scope Building_Wall_Import");
+    custom.addOption("ENTITY", arguments->entity, "Name of the entity or property set").required();
+    custom.addOption("PROPERTY", arguments->property, "Name of one of its properties");
+    custom.addOption("--scope", arguments->scope, "Name of a type, followed by _Import or _Export")
+        .valueName("SCOPE")
+        .required();
+    context.complete(custom, [&context, arguments] { runCustom(context, *arguments); });
 
-    CLI::App* plm = addSubcommand(*map, "plm", "The property that an attribute of a PLM type is written as",
-                                  "velkor map plm Building_Wall V_FireRating");
-    plm->add_option("TYPE", arguments->entity, "Name of the PLM type")->required();
-    plm->add_option("ATTRIBUTE", arguments->property, "Name of the attribute")->required();
-    context.complete(*plm, [&context, arguments] { runPlm(context, *arguments); });
+    const Command plm = addSubcommand(map, "plm", "The property that an attribute of a PLM type is written as",
+                                      "velkor map plm Building_Wall V_FireRating");
+    plm.addOption("TYPE", arguments->entity, "Name of the PLM type").required();
+    plm.addOption("ATTRIBUTE", arguments->property, "Name of the attribute").required();
+    context.complete(plm, [&context, arguments] { runPlm(context, *arguments); });
 }
 
 } // namespace velkor::host

@@ -9,7 +9,6 @@
 #include "velkor/configuration/EffectiveOptions.h"
 
 #include <algorithm>
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
@@ -107,13 +106,13 @@ void runOptions(CommandContext& context, bool list) {
 
 } // namespace
 
-void addOptionsCommand(CLI::App& app, CommandContext& context) {
-    CLI::App* command = app.add_subcommand("options", "The options of an exchange and where each comes from");
+void addOptionsCommand(const Command& app, CommandContext& context) {
+    const Command command = app.addCommand("options", "The options of an exchange and where each comes from");
     const auto list = std::make_shared<bool>(false);
-    command->add_flag("--list-variables", *list,
-                      "List instead every variable, configuration key, setting and conversion option");
-    context.complete(*command, [&context, list] { runOptions(context, *list); });
-    command->footer("Example:\n  velkor options --config velkor.json");
+    command.addFlag("--list-variables", *list,
+                    "List instead every variable, configuration key, setting and conversion option");
+    context.complete(command, [&context, list] { runOptions(context, *list); });
+    command.example("velkor options --config velkor.json");
 }
 
 } // namespace velkor::host

@@ -9,7 +9,6 @@
 #include "velkor/identifiers/GuidCheck.h"
 #include "velkor/sdai/Model.h"
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
@@ -47,12 +46,12 @@ void runReport(CommandContext& context, const std::string& path) {
 
 } // namespace
 
-void addReportCommand(CLI::App& app, CommandContext& context) {
-    CLI::App* command = app.add_subcommand("report", "One page about a model");
+void addReportCommand(const Command& app, CommandContext& context) {
+    const Command command = app.addCommand("report", "One page about a model");
     const auto path = std::make_shared<std::string>();
-    command->add_option("MODEL", *path, "IFC file")->required();
-    command->footer("Example:\n  velkor report house.ifc\n\nProblems of the model do not change the exit status.");
-    context.complete(*command, [&context, path] { runReport(context, *path); });
+    command.addOption("MODEL", *path, "IFC file").required();
+    command.example("velkor report house.ifc\n\nProblems of the model do not change the exit status.");
+    context.complete(command, [&context, path] { runReport(context, *path); });
 }
 
 } // namespace velkor::host

@@ -9,7 +9,6 @@
 #include "velkor/resources/ResourceCheck.h"
 #include "velkor/text/Wording.h"
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
@@ -109,22 +108,22 @@ void runCheck(CommandContext& context, const Options& options) {
 
 } // namespace
 
-void addResourcesCheckCommand(CLI::App& resources, CommandContext& context) {
-    CLI::App* command =
-        resources.add_subcommand("check", "What is wrong in resource files, with its place and what is meant");
+void addResourcesCheckCommand(const Command& resources, CommandContext& context) {
+    const Command command =
+        resources.addCommand("check", "What is wrong in resource files, with its place and what is meant");
     const auto options = std::make_shared<Options>();
     std::vector<std::string> words;
     for (const LinterKind& kind : lint::linterKinds()) words.emplace_back(kind.word);
-    CLI::Option* paths = command->add_option(
-        "FILE", options->paths, "Resource files, - for standard input; the ones that are used unless told");
-    command->add_option("--kind", options->kind, "What the files are; seen from their content unless told")
-        ->option_text("KIND")
-        ->check(CLI::IsMember(words))
-        ->needs(paths);
-    addLimitOption(*command, options->limit, "findings");
-    command->footer("Example:\n  velkor resources check walls.xml --kind custom-mapping\n\n"
+    const Option paths = command.addOption("FILE", options->paths,
+                                           "Resource files, - for standard input; the ones that are used unless told");
+    command.addOption("--kind", options->kind, "What the files are; seen from their content unless told")
+        .valueName("KIND")
+        .oneOf(words)
+        .needs(paths);
+    addLimitOption(command, options->limit, "findings");
+    command.example("velkor resources check walls.xml --kind custom-mapping\n\n"
                     "Exit status 1 when there are findings.");
-    context.complete(*command, [&context, options] { runCheck(context, *options); });
+    context.complete(command, [&context, options] { runCheck(context, *options); });
 }
 
 } // namespace velkor::host

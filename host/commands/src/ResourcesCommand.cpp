@@ -9,7 +9,6 @@
 #include "velkor/text/Wording.h"
 
 #include <algorithm>
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
@@ -151,13 +150,13 @@ void runResources(CommandContext& context) {
 
 } // namespace
 
-void addResourcesCommand(CLI::App& app, CommandContext& context) {
-    CLI::App* command =
-        app.add_subcommand("resources", "The resource files that the services use, and where they are looked for");
-    context.complete(*command, [&context] { runResources(context); });
-    command->footer("Example:\n  velkor resources --config velkor.json\n\n"
+void addResourcesCommand(const Command& app, CommandContext& context) {
+    const Command command =
+        app.addCommand("resources", "The resource files that the services use, and where they are looked for");
+    context.complete(command, [&context] { runResources(context); });
+    command.example("velkor resources --config velkor.json\n\n"
                     "Exit status 1 when a kind of resource has no file that can be read.");
-    addResourcesCheckCommand(*command, context);
+    addResourcesCheckCommand(command, context);
 }
 
 } // namespace velkor::host

@@ -8,7 +8,6 @@
 #include "velkor/sdai/Model.h"
 #include "velkor/text/Wording.h"
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
@@ -57,12 +56,12 @@ void runUnits(CommandContext& context, const std::string& path) {
 
 } // namespace
 
-void addUnitsCommand(CLI::App& app, CommandContext& context) {
-    CLI::App* command = app.add_subcommand("units", "Units of a model and what they are worth in SI units");
+void addUnitsCommand(const Command& app, CommandContext& context) {
+    const Command command = app.addCommand("units", "Units of a model and what they are worth in SI units");
     const auto path = std::make_shared<std::string>();
-    command->add_option("MODEL", *path, "IFC file")->required();
-    command->footer("Example:\n  velkor units house.ifc --format json");
-    context.complete(*command, [&context, path] { runUnits(context, *path); });
+    command.addOption("MODEL", *path, "IFC file").required();
+    command.example("velkor units house.ifc --format json");
+    context.complete(command, [&context, path] { runUnits(context, *path); });
 }
 
 } // namespace velkor::host

@@ -10,7 +10,6 @@
 #include "velkor/propertysets/PropertySetCheck.h"
 #include "velkor/text/Wording.h"
 
-#include <CLI/CLI.hpp>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
@@ -78,14 +77,14 @@ void runValidate(CommandContext& context, const Options& options) {
 
 } // namespace
 
-void addValidateCommand(CLI::App& app, CommandContext& context) {
-    CLI::App* command =
-        app.add_subcommand("validate", "The property sets and quantity sets of a model against their definitions");
+void addValidateCommand(const Command& app, CommandContext& context) {
+    const Command command =
+        app.addCommand("validate", "The property sets and quantity sets of a model against their definitions");
     const auto options = std::make_shared<Options>();
-    command->add_option("MODEL", options->path, "IFC file")->required();
-    addLimitOption(*command, options->limit, "findings");
-    command->footer("Example:\n  velkor validate house.ifc\n\nExit status 1 when there are findings.");
-    context.complete(*command, [&context, options] { runValidate(context, *options); });
+    command.addOption("MODEL", options->path, "IFC file").required();
+    addLimitOption(command, options->limit, "findings");
+    command.example("velkor validate house.ifc\n\nExit status 1 when there are findings.");
+    context.complete(command, [&context, options] { runValidate(context, *options); });
 }
 
 } // namespace velkor::host

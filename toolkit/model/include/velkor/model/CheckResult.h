@@ -15,9 +15,12 @@
 
 namespace velkor {
 
+/// Of what is listed, unless told.
+inline constexpr std::size_t defaultLimit = 100'000;
+
 struct CheckOptions {
     /// How many findings are listed at most; all are counted.
-    std::size_t limit = 100'000;
+    std::size_t limit = defaultLimit;
     Progress progress = {};
 };
 
