@@ -134,7 +134,7 @@ TEST_F(ValidateCommandTest, AppliesToTheClassOfAnObjectOrOfItsType) {
     const auto type = [](const char* keyword, const char* rest) {
         return std::string(keyword) + "('',$,$,$,$,(#2)" + rest + ')';
     };
-    const auto typed = [](const char* objects, const char* type) {
+    const auto typed = [](const char* objects, const char* relating) {
         return std::string("IFCRELDEFINESBYTYPE('',$,$,$,(") + objects + ")," + type + ')';
     };
     const std::string wall = object("IFCWALL", 6), door = object("IFCDOOR", 10);
