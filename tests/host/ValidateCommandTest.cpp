@@ -135,7 +135,7 @@ TEST_F(ValidateCommandTest, AppliesToTheClassOfAnObjectOrOfItsType) {
         return std::string(keyword) + "('',$,$,$,$,(#2)" + rest + ')';
     };
     const auto typed = [](const char* objects, const char* relating) {
-        return std::string("IFCRELDEFINESBYTYPE('',$,$,$,(") + objects + ")," + type + ')';
+        return std::string("IFCRELDEFINESBYTYPE('',$,$,$,(") + objects + ")," + relating + ')';
     };
     const std::string wall = object("IFCWALL", 6), door = object("IFCDOOR", 10);
     const std::string proxy = object("IFCBUILDINGELEMENTPROXY", 6), mover = object("IFCFLOWMOVINGDEVICE", 5);
