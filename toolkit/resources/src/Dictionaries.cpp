@@ -28,8 +28,7 @@ const std::vector<std::string_view>& Dictionaries::entityNames(const Releases& r
 }
 
 const Dictionaries::Releases& Dictionaries::all() {
-    static const Releases releases{"IFC2X3",     "IFC4",       "IFC4X1",      "IFC4X2",
-                                   "IFC4X3_RC1", "IFC4X3_RC3", "IFC4X3_ADD2", "IFC4X4"};
+    static const Releases releases = DXSdaiDictionaryRepo::TheOne().names();
     return releases;
 }
 

@@ -1,5 +1,6 @@
 #include "Linter.h"
 
+#include "ResourceKeys.h"
 #include "velkor/text/NearestNames.h"
 #include "velkor/text/QORUnicodeString.h"
 
@@ -195,8 +196,7 @@ std::string inLine(int line) {
 unsigned int keyHash(const std::vector<std::string_view>& parts) {
     QORUnicodeString key;
     for (const std::string_view part : parts) key += QORUnicodeString(part);
-    key.ToUpper();
-    return key.ComputeHashKey();
+    return mappingKeyHash(std::move(key));
 }
 
 std::string keyText(const std::vector<std::string_view>& parts) {

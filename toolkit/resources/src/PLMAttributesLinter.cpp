@@ -1,5 +1,6 @@
 #include "PLMAttributesLinter.h"
 
+#include "ResourceKeys.h"
 #include "ResourceNames.h"
 
 #include <algorithm>
@@ -104,25 +105,26 @@ void PLMAttributesLinter::buildGroup(std::size_t index) {
     }
 }
 
-// The services take in every group that is complete already, whichever is named, and of one further down its own
-// lines.
 void PLMAttributesLinter::include(std::size_t index, const XmlElement& include) {
     Group& current = _groups[index];
     const std::string wanted = toUpper(include.attribute(names::includedId));
     if (wanted.empty()) return;
     std::set<std::size_t> taken;
-    for (std::size_t k = 0; k < _groups.size(); ++k) {
-        const Group& other = _groups[k];
-        if (const auto complete = _complete.find(toUpper(other.id)); complete != _complete.end()) {
-            for (const XmlElement* line : _groups[complete->second].lines) current.add(*line);
-            taken.insert(complete->second);
-        } else if (toUpper(other.id) == wanted) {
-            for (const XmlElement& child : other.element->children) {
+    for (const auto& [id, place] : _complete) taken.insert(place);
+    takeIncludedPLMGroups(
+        index, _groups.size(),
+        [&] {
+            for (const std::size_t k : taken) {
+                for (const XmlElement* line : _groups[k].lines) current.add(*line);
+            }
+        },
+        [&](std::size_t k) { return toUpper(_groups[k].id) == wanted && !_complete.contains(wanted); },
+        [&](std::size_t k) {
+            for (const XmlElement& child : _groups[k].element->children) {
                 if (child.name == names::line && isExported(child)) current.add(child);
             }
             if (k != index) taken.insert(k);
-        }
-    }
+        });
     judgeInclude(index, include, taken);
     current.sources.insert(taken.begin(), taken.end());
 }

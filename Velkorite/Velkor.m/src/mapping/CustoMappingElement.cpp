@@ -1,5 +1,7 @@
 #include "CustoMappingElement.h"
 
+#include "ResourceKeys.h"
+
 // Whoever makes an empty element fills the numbers in.
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
 CustoMappingElement::CustoMappingElement() {}
@@ -13,9 +15,7 @@ CustoMappingElement::CustoMappingElement(const QORUnicodeString& iFromEntity, co
     std::string joined;
     joined.reserve(FromEntity.utf8().size() + FromProperty.utf8().size() + Scope.utf8().size());
     joined.append(FromEntity.utf8()).append(FromProperty.utf8()).append(Scope.utf8());
-    QORUnicodeString key(std::move(joined));
-    key.ToUpper();
-    HashKey = key.ComputeHashKey();
+    HashKey = velkor::mappingKeyHash(QORUnicodeString(std::move(joined)));
 }
 
 CustoMappingElement::CustoMappingElement(const QORUnicodeString& iFromEntity, const QORUnicodeString& iFromProperty,

@@ -2,6 +2,7 @@
 
 #include "foundation/TableEntries.h"
 #include "QORIFCDXXMLServices.h"
+#include "ResourceKeys.h"
 #include "ResourceNames.h"
 #include "xml/XmlNodes.h"
 
@@ -15,11 +16,6 @@ namespace velkor::library {
 namespace {
 
 namespace names = velkor::names::plm;
-
-unsigned int hashOf(QORUnicodeString key) {
-    key.ToUpper();
-    return key.ComputeHashKey();
-}
 
 template <class Entry>
 unsigned int hashKey(void* entry) {
@@ -127,7 +123,7 @@ HRESULT PLMAttributesMappingStore::load(const QORUnicodeString& path) {
 const PLMAttrMappingRecord* PLMAttributesMappingStore::find(const QORUnicodeString& type,
                                                             const QORUnicodeString& attribute) const {
     if (_records == nullptr) return nullptr;
-    PLMAttrMappingRecord pattern{type, attribute, {}, {}, hashOf(type + attribute)};
+    PLMAttrMappingRecord pattern{type, attribute, {}, {}, mappingKeyHash(type + attribute)};
     return static_cast<const PLMAttrMappingRecord*>(_records->Locate(&pattern));
 }
 
@@ -189,18 +185,20 @@ void PLMAttributesMappingStore::BuildIncludedGroups() {
     for (std::size_t i = 0; i < groups.size(); ++i) {
         auto made = std::make_unique<PLMAttrIncludedGroup>();
         made->Id = ids[i];
-        made->HashKey = hashOf(made->Id);
+        made->HashKey = mappingKeyHash(made->Id);
         bool hasComplete = false;
         visitElements(groups[i], [&](const QORIDOMElement_var& child, const QORUnicodeString& tag) {
             if (tag == names::line) appendLine(child, *made);
             if (tag != names::include) return;
-            if (!hasComplete) made->append(complete);
-            hasComplete = true;
-            // Of a group that is not complete, only its own lines come.
             const QORUnicodeString wanted = value(child, names::includedId);
-            for (std::size_t k = i; k < groups.size(); ++k) {
-                if (ids[k].Compare(wanted) != 0 && group(ids[k]) == nullptr) appendLines(groups[k], *made);
-            }
+            takeIncludedPLMGroups(
+                i, groups.size(),
+                [&] {
+                    if (!hasComplete) made->append(complete);
+                    hasComplete = true;
+                },
+                [&](std::size_t k) { return ids[k].Compare(wanted) != 0 && group(ids[k]) == nullptr; },
+                [&](std::size_t k) { appendLines(groups[k], *made); });
         });
         if (made->PLMProperties.Size() == 0) continue;
         if (const PLMAttrIncludedGroup* inserted = insert(*_groups, std::move(made))) complete.append(*inserted);
@@ -211,14 +209,14 @@ const PLMAttrIncludedGroup* PLMAttributesMappingStore::group(const QORUnicodeStr
     if (_groups == nullptr) return nullptr;
     PLMAttrIncludedGroup pattern;
     pattern.Id = id;
-    pattern.HashKey = hashOf(id);
+    pattern.HashKey = mappingKeyHash(id);
     return static_cast<const PLMAttrIncludedGroup*>(_groups->Locate(&pattern));
 }
 
 void PLMAttributesMappingStore::add(const QORUnicodeString& type, const QORUnicodeString& attribute,
                                     const QORUnicodeString& set, const QORUnicodeString& property) {
     insert(*_records, std::make_unique<PLMAttrMappingRecord>(
-                          PLMAttrMappingRecord{type, attribute, set, property, hashOf(type + attribute)}));
+                          PLMAttrMappingRecord{type, attribute, set, property, mappingKeyHash(type + attribute)}));
 }
 
 } // namespace velkor::library

@@ -3,6 +3,7 @@
 #include "foundation/Results.h"
 #include "MappingReleases.h"
 #include "QORIFCOptionsFromXCAD.h"
+#include "ResourceKeys.h"
 #include "ResourceNames.h"
 #include "resources/ResourceDocument.h"
 #include "velkor/containers/QORHashTable.h"
@@ -56,8 +57,7 @@ public:
 
     /// The first entry of a hash stays.
     void insert(std::unique_ptr<VersionMappingEntry> entry) {
-        entry->Key.ToUpper();
-        entry->HashKey = entry->Key.ComputeHashKey();
+        entry->HashKey = velkor::mappingKeyHash(entry->Key);
         const int before = _entries.Size();
         _entries.Insert(entry.get());
         if (_entries.Size() > before) static_cast<void>(entry.release());
