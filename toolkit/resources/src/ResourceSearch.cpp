@@ -225,7 +225,7 @@ void remark(ResourceSearch& search) {
                                  " paths where one is expected; none of them is used");
     }
     if (search.kind.rule == ResourceRule::AllFiles && search.result && FAILED(*search.result) && search.isUsable())
-        search.remarks.push_back("the collection standard has no such file, which the services report as a failure");
+        search.remarks.emplace_back("the collection standard has no such file, which the services report as a failure");
     // Of what makes the search useless the reason tells.
     for (std::size_t i = search.isUsable() ? 0 : 1; i < search.used.size(); ++i) {
         const File& used = search.used[i];
