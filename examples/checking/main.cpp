@@ -1,11 +1,7 @@
 // Checks a model and classifies its products by the resource files that Velkor comes with.
-#include "ResourceKinds.h"
 #include "velkor/check/ModelCheck.h"
-#include "velkor/classification/Classification.h"
+#include "velkor/classification/ProductClasses.h"
 #include "velkor/configuration/PlatformSetup.h"
-#include "velkor/exchangeservices/QORIExchangeAECServices.h"
-#include "velkor/objectmodeler/ClassDictionary.h"
-#include "velkor/resources/ResourceSearch.h"
 
 #include <csignal>
 #include <iostream>
@@ -40,12 +36,12 @@ bool classify(const velkor::sdai::Model& model) {
     configuration.shippedResources = RESOURCES;
     // Takes back, when it goes, what it has set.
     const velkor::PlatformSetup setup(configuration, tell);
-    const QORIExchangeAECServices_var services = velkor::objectmodeler::createComponent("ExchangeAECServices");
-    if (FAILED(services->LoadAECResource())) {
-        tell(velkor::searchResource(velkor::aecMappingResource, setup).reason);
+    const auto classified = velkor::classifyAsConfigured(model, setup, showProgress);
+    if (!classified) {
+        tell(classified.error());
         return false;
     }
-    const velkor::Classification result = velkor::classify(model, showProgress);
+    const velkor::Classification& result = classified->classification;
     std::cerr << '\n';
     for (const velkor::Classification::Decision& decision : result.decisions) {
         std::cout << decision.count << ' ' << (decision.entity ? decision.entity->name() : "complex instance") << ": "

@@ -3,6 +3,7 @@
 #include "ConfiguredTest.h"
 #include "TemporaryModel.h"
 #include "velkor/check/ModelCheck.h"
+#include "velkor/classification/ProductClasses.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/identifiers/GuidCheck.h"
 #include "velkor/propertysets/PropertySetCheck.h"
@@ -37,6 +38,13 @@ Answer answerOf(const PropertySetCheck& check) {
     return answer;
 }
 
+Answer answerOf(const Classification& classification) {
+    Answer answer{classification.isComplete, {}};
+    for (const auto& [number, decision] : classification.products)
+        answer.findings.push_back(std::to_string(number) + ' ' + classification.decisions[decision].neutralId);
+    return answer;
+}
+
 class ProgressTest : public test::ConfiguredTest {};
 
 } // namespace
@@ -66,6 +74,10 @@ TEST_F(ProgressTest, AnEndedWorkKeepsWhatItHasFound) {
          [&](const auto& options) { return answerOf(guid::checkGuids(**model, options).result); }},
         {"Checking the property sets",
          [&](const auto& options) { return answerOf(checkPropertySets(**model, options)); }},
+        {"Classifying the products",
+         [&](const auto& options) {
+             return answerOf(classifyAsConfigured(**model, setup, options.progress).value().classification);
+         }},
     };
     for (const auto& [step, work] : cases) {
         SCOPED_TRACE(step);
