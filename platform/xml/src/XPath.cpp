@@ -6,6 +6,7 @@
 #include "velkor/text/Wording.h"
 #include "velkor/xml/QORIXMLXPathFactory.h"
 
+#include <cerrno>
 #include <libxml/xpath.h>
 #include <libxml/xpathInternals.h>
 #include <memory>
@@ -76,13 +77,21 @@ public:
     }
 
 private:
-    // In single steps: the functions of libxml2 that do it all use, or free twice, what they get no memory for.
+    // Bare paths are matched fast, but in a way that tells nobody of memory that it lacks: then once more in brackets,
+    // which are evaluated step by step.
     xmlXPathObjectPtr evaluated() const {
+        errno = 0;
+        Object result(evaluated(_text));
+        if (errno != ENOMEM) return result.release();
+        result.reset();
+        return evaluated('(' + _text + ')');
+    }
+
+    // In single steps: the functions of libxml2 that do it all use, or free twice, what they get no memory for.
+    xmlXPathObjectPtr evaluated(const std::string& text) const {
         constexpr int stackSize = 10;
-        // Bare paths are matched in another way, which tells nobody of memory that it lacks.
-        const std::string inBrackets = '(' + _text + ')';
         const std::unique_ptr<xmlXPathParserContext, Free> parser(
-            xmlXPathNewParserContext(xmlText(inBrackets), _context.get()));
+            xmlXPathNewParserContext(xmlText(text), _context.get()));
         if (parser == nullptr) objectmodeler::outOfMemory();
         parser->valueTab = static_cast<xmlXPathObjectPtr*>(xmlMalloc(stackSize * sizeof(xmlXPathObjectPtr)));
         if (parser->valueTab == nullptr) objectmodeler::outOfMemory();
