@@ -56,7 +56,7 @@ if(VELKOR_PRECOMPILE)
   add_compile_options(-Wno-array-bounds -Wno-stringop-overflow)
   set(velkor_standard_headers
     <algorithm> <functional> <map> <memory> <optional> <string> <string_view> <unordered_map> <vector> <tl/expected.hpp>)
-  file(WRITE ${PROJECT_BINARY_DIR}/precompiled/Unit.cpp "int main() {}\n")
+  file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/precompiled/Unit.cpp CONTENT "int main() {}\n")
   add_library(velkor_precompiled OBJECT ${PROJECT_BINARY_DIR}/precompiled/Unit.cpp)
   target_precompile_headers(velkor_precompiled PRIVATE ${velkor_standard_headers})
 endif()
