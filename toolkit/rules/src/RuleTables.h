@@ -11,6 +11,8 @@ namespace velkor::rules {
 
 /// A position in RuleStore::textPlaces.
 using TextId = std::uint16_t;
+/// In place of a text where there is none.
+inline constexpr TextId noText = 0xFFFF;
 
 struct RuleStore {
     /// Texts, one behind the other. Names of types come first, in upper case, then names of attributes, then all others.
@@ -64,6 +66,11 @@ struct InverseAttribute {
     /// A SET or BAG; otherwise its value is the one user itself.
     bool isAggregate;
     bool isBag;
+    /// Entity and name as spelled in the source, and the declaration on one line, "SET [0:1] OF IfcRelVoidsElement FOR
+    /// RelatedBuildingElement"; noText where they are not carried.
+    TextId entityName = noText;
+    TextId spelledName = noText;
+    TextId expression = noText;
 };
 
 /// A UNIQUE clause. Its attributes are store texts of RuleTables::uniqueAttributes.
