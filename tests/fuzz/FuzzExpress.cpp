@@ -29,6 +29,7 @@ std::vector<const char*> pointers(const std::vector<std::string>& texts) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace velkor::dictgen;
+    using namespace velkor::express;
     ExpressSchema schema;
     const auto read = readExpress({reinterpret_cast<const char*>(data), size}, "input", schema);
     if (!read) {

@@ -3,7 +3,7 @@
 
 #include <array>
 
-namespace velkor::dictgen {
+namespace velkor::express {
 
 namespace {
 
@@ -45,7 +45,7 @@ TEST(ExpressReader, ReadsEveryTypeThatASchemaUses) {
         A8 : STRING (255); A9 : STRING(22) FIXED; B1 : BINARY; B2 : OPTIONAL BINARY (32); B3 : optional Label;
         C1 : LIST OF REAL; C2 : LIST [3:4] OF INTEGER; C3 : List [1:?] Of Unique Wall;
         C4 : SET [0:?] OF SET [2:2] OF LIST [1:3] OF Deep; C5 : ARRAY [-1:2] OF OPTIONAL UNIQUE Label;
-        C6 : ARRAY [0:Upper] OF Point; C7 : ARRAY [2*(a[1]:?) - 1 : SIZEOF (x[3]) + 2] OF Point; END_ENTITY;
+        C6 : ARRAY [0:Upper] OF Point; C7 : ARRAY [2*(a[1]) - 1 : SIZEOF (x[3]) + 2] OF Point; END_ENTITY;
         TYPE T1 = ENUMERATION OF (ONE, two); END_TYPE; TYPE T2 = EXTENSIBLE SELECT (Wall
         ,Label); END_TYPE;)");
     EXPECT_THAT(written(schema.entities.at(0).explicitAttributes),
@@ -90,7 +90,7 @@ TEST(ExpressReader, ReadsWhatAnEntityDeclares) {
     EXPECT_TRUE(schema.entities[2].isAbstract);
 }
 
-TEST(ExpressReader, PassesOverWhatADictionaryDoesNotCarry) {
+TEST(ExpressReader, ReadsAWholeSchema) {
     const ExpressSchema schema = schemaOf("\xEF\xBB\xBF(* Gr\xC3\xBC\xC3\x9F \xE4 (* ENTITY X; *) -- *)\r\n"
                                           "SCHEMA S;-- (* not open\r\n"
                                           "REFERENCE FROM Other (Thing AS Mine);\r\n"
@@ -113,15 +113,15 @@ TEST(ExpressReader, SaysWhereAndWhatItExpected) {
     for (int i = 0; i < 100'000; ++i) deep += "LIST OF ";
     const std::pair<std::string, const char*> cases[] = {
         {"ENTTY A;", R"(a.exp:1: expected a declaration, found "ENTTY")"},
-        {"(* one\r\ntwo (* three\r\n*) *) TYPE\r\nT := REAL;", R"(a.exp:4: expected "=", found ":")"},
+        {"(* one\r\ntwo (* three\r\n*) *) TYPE\r\nT := REAL;", R"(a.exp:4: expected "=", found ":=")"},
         {"TYPE T =\n-- a type\n;", R"(a.exp:3: expected a type, found ";")"},
         {"TYPE T = ENUMERATION OF (A,);", R"_(a.exp:1: expected an enumerator, found ")")_"},
         {"TYPE T = STRING(0);", R"_(a.exp:1: expected a width above 0, found ")")_"},
         {"TYPE T = STRING(99999999999);", R"(a.exp:1: expected an integer, found "99999999999")"},
-        {"TYPE T = LIST [1,?] OF REAL;", R"(a.exp:1: expected ":", found "]")"},
+        {"TYPE T = LIST [1,?] OF REAL;", R"(a.exp:1: expected ":", found ",")"},
         {"TYPE T = LIST [?:2] OF REAL;", R"(a.exp:1: expected a lower bound, found "?")"},
         {"TYPE T = SET\n[3:2] OF REAL;", R"(a.exp:2: expected bounds that hold something, found "]")"},
-        {"TYPE T = REAL; END_TYP;", "a.exp:1: expected END_TYPE, found the end"},
+        {"TYPE T = REAL; END_TYP;", R"(a.exp:1: expected END_TYPE, found "END_TYP")"},
         {"TYPE _T = REAL;", R"(a.exp:1: expected the name of a type, found "_")"},
         {"ENTITY A SUBTYPE OF\n(B, C);", R"(a.exp:2: expected one supertype of A, found "(")"},
         {"ENTITY A;\nB : REAL", R"(a.exp:2: expected ";", found the end)"},
@@ -130,9 +130,9 @@ TEST(ExpressReader, SaysWhereAndWhatItExpected) {
         {"ENTITY A; WHERE\nWR1 : 'open;\nEND_ENTITY;",
          "a.exp:2: expected an end of the literal or remark, found \"'open;\nEND_ENTITY;\""},
         {"ENTITY A; END_ENTITY;\n(* (* *)", R"(a.exp:2: expected an end of the literal or remark, found "(*")"},
-        {"FUNCTION F;\n", "a.exp:2: expected END_FUNCTION, found the end"},
+        {"FUNCTION F : REAL;\n", "a.exp:2: expected END_FUNCTION, found the end"},
         {deep, R"(a.exp:1: expected fewer nested aggregates, found "LIST")"}};
     for (const auto& [source, expected] : cases) EXPECT_EQ(errorOf(source), expected) << source.substr(0, 80);
 }
 
-} // namespace velkor::dictgen
+} // namespace velkor::express

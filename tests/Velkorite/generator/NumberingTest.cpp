@@ -7,6 +7,8 @@
 
 namespace velkor::dictgen {
 
+using namespace express;
+
 namespace {
 
 tl::expected<DictionaryLists, std::string> numbered(const std::string& source) {

@@ -5,6 +5,8 @@
 
 namespace velkor::dictgen {
 
+using namespace express;
+
 namespace {
 
 constexpr const char* source = R"(

@@ -1,5 +1,5 @@
-/// Who refers to an instance by which attribute, for the roles that inverse attributes and USEDIN ask for. Built once, in
-/// one pass over the instances of the referring entities; immutable then, shared by all threads.
+/// Who refers to an instance by which attribute, for the roles that inverse attributes and USEDIN ask for. Built once,
+/// in one pass over the instances of the referring entities; immutable then, shared by all threads.
 #pragma once
 
 #include "RuleProgram.h"

@@ -3,8 +3,8 @@
 /// A piece of code is a row of 16-bit units in RuleStore::code. Its first unit is the number of local places that it
 /// needs; behind it stand operations, each with as many operand units as its line says. An operation takes its values
 /// from a stack and leaves its answer there; "a b -> c" means that b lies on top before and c afterwards. Names are
-/// positions in the store's texts, so that the code of a rule is the same in every release that states it alike. A target
-/// is the position of an operation counted from the first unit of the piece.
+/// positions in the store's texts, so that the code of a rule is the same in every release that states it alike. A
+/// target is the position of an operation counted from the first unit of the piece.
 #pragma once
 
 #include <cstdint>
@@ -13,25 +13,27 @@ namespace velkor::rules {
 
 enum class Operation : std::uint16_t {
     // Values.
-    Indeterminate,  ///< -> ?
-    False,          ///< -> FALSE
-    Unknown,        ///< -> UNKNOWN
-    True,           ///< -> TRUE
-    Integer,        ///< -> operand, a signed 16-bit number
-    WideInteger,    ///< -> store.integers[operand]
-    Real,           ///< -> store.reals[operand]
-    String,         ///< -> store text of the operand; UTF-8
-    Binary,         ///< -> store text of the operand: digits 0 and 1
-    TypeName,       ///< -> the text 'SCHEMA.NAME' of the type whose name is the operand, as TYPEOF answers it
-    Enumerator,     ///< -> an enumerator. Operands: name of its type or noName, the enumerator in upper case
-    Self,           ///< -> SELF: the instance, or the value of a defined type, that is judged
-    Population,     ///< -> SET of all instances of the entity of the operand, subtypes included
+    Indeterminate, ///< -> ?
+    False,         ///< -> FALSE
+    Unknown,       ///< -> UNKNOWN
+    True,          ///< -> TRUE
+    Integer,       ///< -> operand, a signed 16-bit number
+    WideInteger,   ///< -> store.integers[operand]
+    Real,          ///< -> store.reals[operand]
+    String,        ///< -> store text of the operand; UTF-8
+    Binary,        ///< -> store text of the operand: digits 0 and 1
+    TypeName,      ///< -> the text 'SCHEMA.NAME' of the type whose name is the operand, as TYPEOF answers it
+    Enumerator,    ///< -> an enumerator. Operands: name of its type or noName, the enumerator in upper case
+    Self,          ///< -> SELF: the instance, or the value of a defined type, that is judged
+    Population,    ///< -> SET of all instances of the entity of the operand, subtypes included
 
     // Variables. A variable is a local place; its value is ? until it is set.
     Load,  ///< -> value of the local place of the operand
     Store, ///< value -> ; into the local place of the operand
-    /// index… value -> ; assigns to a part of a variable: U[2].Ratios[1]. Operands: local place, number of steps n, then n
-    /// steps from the variable to the part: stepIndex takes the next of the indexes on the stack, any other is the name of
+    /// index… value -> ; assigns to a part of a variable: U[2].Ratios[1]. Operands: local place, number of steps n,
+    /// then n
+    /// steps from the variable to the part: stepIndex takes the next of the indexes on the stack, any other is the name
+    /// of
     /// an attribute. An instance of the model is copied first, never changed.
     StorePart,
     Drop,      ///< value ->
@@ -86,16 +88,19 @@ enum class Operation : std::uint16_t {
     JumpIfFalse,    ///< logical -> logical; target, taken when FALSE: the rest of an AND is not evaluated
     JumpIfTrue,     ///< logical -> logical; target, taken when TRUE: the rest of an OR is not evaluated
     /// aggregate -> aggregate position result; begins a QUERY. Operands: local place of its variable, 1 when only the
-    /// number of members counts (result is an INTEGER then) or 0 (an aggregate of the same kind), target behind the QUERY.
+    /// number of members counts (result is an INTEGER then) or 0 (an aggregate of the same kind), target behind the
+    /// QUERY.
     /// Sets the variable to the first member. Of ? leaves ?, of an empty aggregate the empty result, and jumps.
     QueryBegin,
-    /// aggregate position result logical -> result, or back to the body. Takes the member when TRUE and goes to the next.
+    /// aggregate position result logical -> result, or back to the body. Takes the member when TRUE and goes to the
+    /// next.
     /// Operands: local place, as above, target of the body.
     QueryNext,
-    Call,   ///< arguments -> result. Operands: name of the function, number of arguments
-    Return, ///< value -> ; ends the function or the rule
-    Construct, ///< explicit attributes in the order of an instance -> an entity value of the operand's entity; operand 2: their number
-    Builtin, ///< arguments -> result; operand: BuiltinFunction
+    Call,      ///< arguments -> result. Operands: name of the function, number of arguments
+    Return,    ///< value -> ; ends the function or the rule
+    Construct, ///< explicit attributes in the order of an instance -> an entity value of the operand's entity; operand
+               ///< 2: their number
+    Builtin,   ///< arguments -> result; operand: BuiltinFunction
 };
 
 /// Built-in functions of ISO 10303-11, clause 15, with the number of their arguments.

@@ -1,7 +1,8 @@
 /// Runs the code of rules over an open model.
 ///
-/// The indeterminate value and three-valued logic are those of ISO 10303-11: a rule is broken when it is FALSE, and UNKNOWN
-/// or indeterminate is no answer. A machine never changes the model and belongs to one thread; program and roles are shared.
+/// The indeterminate value and three-valued logic are those of ISO 10303-11: a rule is broken when it is FALSE, and
+/// UNKNOWN or indeterminate is no answer. A machine never changes the model and belongs to one thread; program and
+/// roles are shared.
 #pragma once
 
 #include "RoleIndex.h"
@@ -36,8 +37,8 @@ struct Read {
 
 class RuleMachine {
 public:
-    /// Operations, members that are looked at and the like of one verdict. Of a global rule `stepsPerInstance` more for each
-    /// instance of the model.
+    /// Operations, members that are looked at and the like of one verdict. Of a global rule `stepsPerInstance` more for
+    /// each instance of the model.
     static constexpr std::uint64_t stepLimit = 20'000'000;
     static constexpr std::uint64_t stepsPerInstance = 200;
     /// Calls and derived attributes within each other.
@@ -53,7 +54,8 @@ public:
     /// There is no SELF.
     Verdict judgeGlobal(std::uint32_t code);
 
-    /// What the last verdict looked at, each once and in order, at most `most`: it is reached again with every read noted.
+    /// What the last verdict looked at, each once and in order, at most `most`: it is reached again with every read
+    /// noted.
     std::vector<Read> reads(std::size_t most);
 
     /// Appends a text that two instances share when, and only when, their attributes of the names have equal values

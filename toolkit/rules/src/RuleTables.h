@@ -1,5 +1,5 @@
-/// The rules of all releases as constant data, as velkor-rulegen writes them: one store of texts, numbers and code that all
-/// share, and a unit per release that says what it states. Positions in place of pointers keep the data free of
+/// The rules of all releases as constant data, as velkor-rulegen writes them: one store of texts, numbers and code that
+/// all share, and a unit per release that says what it states. Positions in place of pointers keep the data free of
 /// relocations.
 #pragma once
 
@@ -15,7 +15,8 @@ using TextId = std::uint16_t;
 inline constexpr TextId noText = 0xFFFF;
 
 struct RuleStore {
-    /// Texts, one behind the other. Names of types come first, in upper case, then names of attributes, then all others.
+    /// Texts, one behind the other. Names of types come first, in upper case, then names of attributes, then all
+    /// others.
     const char* texts;
     /// Where each text begins; one place more than there are texts.
     std::span<const std::uint32_t> textPlaces;
@@ -46,7 +47,8 @@ struct WhereRule {
     std::uint32_t code;
 };
 
-/// A derived attribute with its expression. One that redeclares an explicit attribute has that one's name: an instance has
+/// A derived attribute with its expression. One that redeclares an explicit attribute has that one's name: an instance
+/// has
 /// "*" there.
 struct DerivedAttribute {
     TextId entity;

@@ -6,6 +6,8 @@
 
 namespace velkor::dictgen {
 
+using namespace express;
+
 namespace {
 
 using Kind = ExpressType::Kind;

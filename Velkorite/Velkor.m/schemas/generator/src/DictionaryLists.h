@@ -18,6 +18,6 @@ struct DictionaryLists {
 /// and renamed; enumerations; selects), then entities, each sorted by spelling, and before each what it
 /// needs. The error names the declaration at fault.
 [[nodiscard]] tl::expected<DictionaryLists, std::string> numberSchema(const std::string& schemaName,
-                                                                      const ExpressSchema& schema);
+                                                                      const express::ExpressSchema& schema);
 
 } // namespace velkor::dictgen

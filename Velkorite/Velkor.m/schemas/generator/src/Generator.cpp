@@ -14,6 +14,8 @@
 
 namespace velkor::dictgen {
 
+using namespace express;
+
 namespace {
 
 std::optional<std::string> contents(const std::filesystem::path& path) {

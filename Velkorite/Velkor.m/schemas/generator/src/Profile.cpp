@@ -7,6 +7,8 @@
 
 namespace velkor::dictgen {
 
+using namespace express;
+
 namespace {
 
 using Json = nlohmann::json;

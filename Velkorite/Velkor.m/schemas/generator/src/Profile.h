@@ -32,6 +32,6 @@ struct Profiles {
 [[nodiscard]] tl::expected<Profiles, std::string> readProfiles(const std::string& path);
 
 /// Leaves out and flattens what the profile says. The error names what the schema lacks.
-[[nodiscard]] tl::expected<void, std::string> applyProfile(const Profile& profile, ExpressSchema& schema);
+[[nodiscard]] tl::expected<void, std::string> applyProfile(const Profile& profile, express::ExpressSchema& schema);
 
 } // namespace velkor::dictgen

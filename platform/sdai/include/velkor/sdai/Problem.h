@@ -19,7 +19,8 @@ struct Problem {
     std::string code;
     /// What was expected and what was found.
     std::string message;
-    /// The rule of the schema that is broken, "IfcWall.CorrectPredefinedType"; empty when the problem is no broken rule.
+    /// The rule of the schema that is broken, "IfcWall.CorrectPredefinedType"; empty when the problem is no broken
+    /// rule.
     std::string rule = {};
 };
 

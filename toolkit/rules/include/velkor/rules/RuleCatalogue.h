@@ -35,7 +35,8 @@ struct RuleFacts {
     std::string expression;
     /// What must hold, in plain words; may be empty.
     std::string wording;
-    /// Why the rule, as published, is known to be faulty, and where that is said; empty for nearly all. Its findings are warnings.
+    /// Why the rule, as published, is known to be faulty, and where that is said; empty for nearly all. Its findings
+    /// are warnings.
     std::string fault;
     std::string faultSource;
 };

@@ -1,5 +1,5 @@
-/// Judges a model by the rules of its release: WHERE, RULE, UNIQUE, the bounds of INVERSE, and equal members of aggregates
-/// that must not have any.
+/// Judges a model by the rules of its release: WHERE, RULE, UNIQUE, the bounds of INVERSE, and equal members of
+/// aggregates that must not have any.
 ///
 ///     const RuleCheckResult result = checkRules(*model);
 ///     for (const sdai::Problem& problem : result.problems) show(problem.rule, problem.message);
@@ -33,7 +33,8 @@ struct RuleCoverage {
     std::size_t judgedRules = 0;
     /// Single judgements: one rule on one instance or value.
     std::uint64_t judgements = 0;
-    /// Of them, those whose answer was UNKNOWN or indeterminate, which breaks no rule; by rule, the most frequent first.
+    /// Of them, those whose answer was UNKNOWN or indeterminate, which breaks no rule; by rule, the most frequent
+    /// first.
     struct Unknown {
         std::string rule;
         std::uint64_t count;

@@ -4,14 +4,16 @@
 #include <cstdint>
 #include <string_view>
 
-namespace velkor::dictgen {
+namespace velkor::express {
 
 enum class ExpressTokenKind : std::uint8_t {
     End,
     Word,    ///< keyword or identifier
     Integer, ///< digits
-    Text,    ///< string or real literal; never part of a declaration that is read
-    Symbol,  ///< a single character
+    Real,    ///< digits with a point, perhaps an exponent
+    Text,    ///< string literal with its quotes: '…' or the encoded "…"
+    Binary,  ///< % and digits 0 and 1
+    Symbol,  ///< one to four characters: ; := :<>: <*
     Bad,     ///< a literal or remark without its end
 };
 
@@ -20,7 +22,7 @@ struct ExpressToken {
     std::string_view text;
     int line = 1;
 
-    bool isSymbol(char symbol) const noexcept { return kind == ExpressTokenKind::Symbol && text.front() == symbol; }
+    bool isSymbol(std::string_view symbol) const noexcept { return kind == ExpressTokenKind::Symbol && text == symbol; }
     /// Keywords are written in any case.
     bool isWord(std::string_view upperCase) const noexcept;
 };
@@ -35,9 +37,10 @@ public:
 private:
     bool skipRemarks() noexcept;
     bool skipEmbeddedRemark() noexcept;
+    std::size_t numberLength() const noexcept;
 
     std::string_view _rest;
     int _line = 1;
 };
 
-} // namespace velkor::dictgen
+} // namespace velkor::express

@@ -1,8 +1,9 @@
 #include "ExpressLexer.h"
 
 #include <algorithm>
+#include <array>
 
-namespace velkor::dictgen {
+namespace velkor::express {
 
 namespace {
 
@@ -17,6 +18,22 @@ bool isWordCharacter(char c) {
 }
 bool isSpace(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+// Longer ones first.
+constexpr std::array<std::string_view, 10> longSymbols{":<>:", ":=:", ":=", "<=", ">=", "<>", "<*", "**", "||", "*)"};
+
+/// Of the literal that a text begins with; npos when it does not end. A doubled quote belongs to it.
+std::size_t literalLength(std::string_view text) {
+    for (std::size_t end = text.find(text.front(), 1);; end = text.find(text.front(), end + 2)) {
+        if (end == std::string_view::npos) return end;
+        if (end + 1 == text.size() || text[end + 1] != text.front()) return end + 1;
+    }
+}
+
+std::size_t digitsFrom(std::string_view text, std::size_t begin) {
+    while (begin < text.size() && isDigit(text[begin])) ++begin;
+    return begin;
 }
 
 } // namespace
@@ -42,18 +59,36 @@ ExpressToken ExpressLexer::next() noexcept {
         token.text =
             _rest.substr(0, static_cast<std::size_t>(std::ranges::find_if_not(_rest, isWordCharacter) - _rest.begin()));
     } else if (isDigit(first)) {
-        const auto end = std::ranges::find_if_not(_rest, isDigit);
-        token.text = _rest.substr(0, static_cast<std::size_t>(end - _rest.begin()));
-        token.kind = ExpressTokenKind::Integer;
+        token.text = _rest.substr(0, numberLength());
+        token.kind =
+            token.text.find('.') == std::string_view::npos ? ExpressTokenKind::Integer : ExpressTokenKind::Real;
     } else if (first == '\'' || first == '"') {
-        // A doubled quote is two literals side by side, which nobody minds here.
-        const auto end = _rest.find(first, 1);
-        token.kind = end == std::string_view::npos ? ExpressTokenKind::Bad : ExpressTokenKind::Text;
-        token.text = _rest.substr(0, end == std::string_view::npos ? end : end + 1);
+        const std::size_t length = literalLength(_rest);
+        token.kind = length == std::string_view::npos ? ExpressTokenKind::Bad : ExpressTokenKind::Text;
+        token.text = _rest.substr(0, length);
+    } else if (first == '%') {
+        const auto end = std::ranges::find_if_not(_rest.substr(1), [](char c) { return c == '0' || c == '1'; });
+        token.text = _rest.substr(0, static_cast<std::size_t>(end - _rest.begin()));
+        token.kind = ExpressTokenKind::Binary;
+    } else {
+        const auto found =
+            std::ranges::find_if(longSymbols, [&](std::string_view symbol) { return _rest.starts_with(symbol); });
+        if (found != longSymbols.end()) token.text = _rest.substr(0, found->size());
     }
     _line += static_cast<int>(std::ranges::count(token.text, '\n'));
     _rest.remove_prefix(token.text.size());
     return token;
+}
+
+std::size_t ExpressLexer::numberLength() const noexcept {
+    std::size_t length = digitsFrom(_rest, 0);
+    if (length == _rest.size() || _rest[length] != '.') return length;
+    length = digitsFrom(_rest, length + 1);
+    if (length == _rest.size() || (_rest[length] != 'E' && _rest[length] != 'e')) return length;
+    std::size_t exponent = length + 1;
+    if (exponent < _rest.size() && (_rest[exponent] == '+' || _rest[exponent] == '-')) ++exponent;
+    const std::size_t end = digitsFrom(_rest, exponent);
+    return end > exponent ? end : length;
 }
 
 // False at a remark that does not end.
@@ -91,4 +126,4 @@ bool ExpressLexer::skipEmbeddedRemark() noexcept {
     return false;
 }
 
-} // namespace velkor::dictgen
+} // namespace velkor::express
