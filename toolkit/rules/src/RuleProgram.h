@@ -29,22 +29,53 @@ public:
     /// Null when the dictionary has no such entity or type.
     const sdai::EntityDefinition* entity(TextId name) const noexcept;
     const sdai::DefinedType* definedType(TextId name) const noexcept;
+    /// Either of them.
+    const sdai::Type* type(TextId name) const noexcept { return name < _types.size() ? _types[name] : nullptr; }
+    /// Name of an entity in the store; noText when the rules do not know it.
+    TextId name(const sdai::EntityDefinition& entity) const noexcept { return _entityNames[entity.position()]; }
+
     /// The declaration that is nearest to the entity counts: derived before explicit where it redeclares it.
     Part part(const sdai::EntityDefinition& entity, TextId name) const noexcept;
+    /// Whether instances of the entity have "*" at a place of attributes().
+    bool isDerived(const sdai::EntityDefinition& entity, std::size_t slot) const noexcept;
     const Function* function(TextId name) const noexcept;
 
     /// By position of the entity in its schema: the WHERE rules that its instances must keep, inherited ones first.
     std::span<const std::uint16_t> whereRulesOf(const sdai::EntityDefinition& entity) const noexcept;
     /// The WHERE rules of a defined type that its values must keep, those of the types that it is made of first.
     std::span<const std::uint16_t> whereRulesOf(const sdai::DefinedType& type) const noexcept;
-    /// The inverse attributes that entity and supertypes declare.
+    /// The inverse attributes that entity and supertypes declare, inherited ones first; of one that is redeclared the
+    /// nearest.
     std::span<const std::uint16_t> inverseAttributesOf(const sdai::EntityDefinition& entity) const noexcept;
 
 private:
+    /// Lists of positions in a table, one for each entity or type.
+    struct Lists {
+        std::vector<std::uint32_t> begins{0};
+        std::vector<std::uint16_t> positions;
+
+        void finish() { begins.push_back(static_cast<std::uint32_t>(positions.size())); }
+        std::span<const std::uint16_t> at(std::uint32_t position) const noexcept;
+    };
+
+    void resolveNames();
+    void listRules();
+    void listInverseAttributes(const sdai::EntityDefinition& entity);
+    void noteDerivedSlots();
+
     RuleStore _store;
     const RuleTables& _tables;
     const sdai::Model& _model;
-    // … as the implementation needs
+    // By name, for the names of types.
+    std::vector<const sdai::Type*> _types;
+    // By position in the schema.
+    std::vector<TextId> _entityNames;
+    std::vector<TextId> _typeNames;
+    Lists _entityRules;
+    Lists _typeRules;
+    Lists _inverseAttributes;
+    // By position of the entity, the places that hold "*".
+    std::vector<std::vector<bool>> _derivedSlots;
 };
 
 } // namespace velkor::rules

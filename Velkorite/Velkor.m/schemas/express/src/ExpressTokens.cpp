@@ -62,8 +62,7 @@ std::vector<std::string> ExpressTokens::identifiers(std::string_view expected) {
 int ExpressTokens::integer() {
     int value = 0;
     const auto end = _token.text.data() + _token.text.size();
-    if (_token.kind != ExpressTokenKind::Integer ||
-        std::from_chars(_token.text.data(), end, value).ec != std::errc()) {
+    if (_token.kind != ExpressTokenKind::Integer || std::from_chars(_token.text.data(), end, value).ec != std::errc()) {
         fail("an integer");
     }
     advance();

@@ -1,4 +1,5 @@
-/// Expressions and statements of EXPRESS (ISO 10303-11, clauses 12 and 13) as trees. Names are as spelled in the source.
+/// Expressions and statements of EXPRESS (ISO 10303-11, clauses 12 and 13) as trees. Names are as spelled in the
+/// source.
 #pragma once
 
 #include <cstdint>
