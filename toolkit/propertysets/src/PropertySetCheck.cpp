@@ -53,7 +53,7 @@ std::string classesText(const std::vector<std::string>& classes) {
 
 class Checker {
 public:
-    Checker(const sdai::Model& model, std::size_t limit) : _model(model), _limit(limit), _uses(model) {}
+    Checker(const sdai::Model& model, const CheckOptions& options) : _model(model), _options(options), _uses(model) {}
 
     PropertySetCheck check(const Progress& progress) {
         _result.hasDefinitions = !_definitions.empty();
@@ -198,7 +198,7 @@ private:
 
     // A new finding at the current set, or null when it is only counted.
     SetFinding* add(const char* code, const NamedSet& named, const SetUse& use) {
-        if (++_result.total > _limit) return nullptr;
+        if (!_options.codes.takes(code) || ++_result.total > _options.limit) return nullptr;
         SetFinding finding;
         const sdai::Part21File& file = _model.file();
         const std::uint64_t offset = file.offset(_number);
@@ -214,7 +214,7 @@ private:
     }
 
     const sdai::Model& _model;
-    std::size_t _limit;
+    const CheckOptions& _options;
     SetUses _uses;
     SetDefinitions _definitions;
     // By the name of the set as the file writes it.
@@ -244,7 +244,7 @@ std::vector<PropertySetCheck::NameCount> PropertySetCheck::uncheckedNames() cons
 }
 
 PropertySetCheck checkPropertySets(const sdai::Model& model, const CheckOptions& options) {
-    return Checker(model, options.limit).check(options.progress);
+    return Checker(model, options).check(options.progress);
 }
 
 } // namespace velkor

@@ -5,6 +5,7 @@
 ///     show(result.problems, result.total);
 #pragma once
 
+#include "velkor/model/CodeFilter.h"
 #include "velkor/model/Progress.h"
 #include "velkor/sdai/Problem.h"
 #include "velkor/ToolkitExport.h"
@@ -22,6 +23,8 @@ struct CheckOptions {
     /// How many findings are listed at most; all are counted.
     std::size_t limit = defaultLimit;
     Progress progress = {};
+    /// Findings that it does not take are neither listed nor counted.
+    CodeFilter codes = {};
 };
 
 struct VELKOR_TOOLKIT_API CheckResult {

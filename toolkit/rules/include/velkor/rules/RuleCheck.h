@@ -6,6 +6,7 @@
 #pragma once
 
 #include "velkor/model/CheckResult.h"
+#include "velkor/model/CodeFilter.h"
 #include "velkor/sdai/Model.h"
 #include "velkor/ToolkitExport.h"
 
@@ -22,7 +23,9 @@ struct RuleCheckOptions {
     /// Threads; 0 for as many as the machine has cores. The findings are the same whatever their number.
     unsigned jobs = 0;
     /// Names of the rules that are judged, as ruleNamed() knows them; empty for all.
-    std::vector<std::string> rules;
+    std::vector<std::string> rules = {};
+    /// Kinds of findings that count; what none of them needs is not judged.
+    CodeFilter codes = {};
 };
 
 /// What was judged.

@@ -1,0 +1,42 @@
+#include "KnownFaults.h"
+
+#include <algorithm>
+#include <array>
+
+namespace velkor::rules {
+
+namespace {
+
+constexpr std::string_view fromIfc4{"IFC4 IFC4X1 IFC4X2 IFC4X3_RC1 IFC4X3_RC3 IFC4X3_ADD2"};
+constexpr std::string_view declaration =
+    "the declaration in the EXPRESS schema of the release (ISO 16739, buildingSMART)";
+
+constexpr std::array<KnownFault, 3> faults{{
+    {"IfcBooleanClippingResult.FirstOperandType", fromIfc4,
+     "it means IfcSweptDiskSolid but names IFCSWEPTDISCSOLID, which no schema declares: a swept disk solid never "
+     "passes",
+     declaration},
+    {"IfcPresentationLayerWithStyle.ApplicableOnlyToItems", "IFC4X1 IFC4X2 IFC4X3_RC1 IFC4X3_RC3 IFC4X3_ADD2",
+     "it spells names of types in mixed case, which TYPEOF answers in upper case: no item ever passes", declaration},
+    {"IfcTransformer.CorrectTypeAssigned", "IFC4 IFC4X1 IFC4X2 IFC4X3_RC1 IFC4X3_RC3",
+     "it means IfcTransformerType but names IFCTRANFORMERTYPE, which no schema declares: no type ever passes",
+     declaration},
+}};
+
+bool isAmong(std::string_view release, std::string_view releases) {
+    while (!releases.empty()) {
+        const std::size_t end = std::min(releases.find(' '), releases.size());
+        if (releases.substr(0, end) == release) return true;
+        releases.remove_prefix(std::min(end + 1, releases.size()));
+    }
+    return false;
+}
+
+} // namespace
+
+const KnownFault* knownFault(std::string_view release, std::string_view rule) noexcept {
+    const auto* fault = std::ranges::find(faults, rule, &KnownFault::rule);
+    return fault != faults.end() && isAmong(release, fault->releases) ? fault : nullptr;
+}
+
+} // namespace velkor::rules

@@ -1,0 +1,21 @@
+/// Published rules that are themselves wrong. They are judged as they stand, and their findings are warnings.
+#pragma once
+
+#include <string_view>
+
+namespace velkor::rules {
+
+struct KnownFault {
+    /// Owner and label as the schema spells them.
+    std::string_view rule;
+    /// Names of the dictionaries that it concerns, separated by blanks.
+    std::string_view releases;
+    /// What is wrong, for people, and where that can be looked up.
+    std::string_view reason;
+    std::string_view source;
+};
+
+/// Null when nothing is known against the rule of a release.
+const KnownFault* knownFault(std::string_view release, std::string_view rule) noexcept;
+
+} // namespace velkor::rules
