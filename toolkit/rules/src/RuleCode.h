@@ -130,7 +130,7 @@ enum class BuiltinFunction : std::uint16_t {
     Sqrt,        ///< 1
     Tan,         ///< 1
     TypeOf,      ///< 1
-    UsedIn,      ///< 2: the role is 'SCHEMA.ENTITY.ATTRIBUTE' in upper case, or empty for all roles
+    UsedIn,      ///< 2: the role is 'ENTITY.ATTRIBUTE' in upper case, without the schema's name; empty for all roles
     Value,       ///< 1
     ValueIn,     ///< 2
     ValueUnique, ///< 1

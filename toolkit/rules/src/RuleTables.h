@@ -15,7 +15,7 @@ using TextId = std::uint16_t;
 inline constexpr TextId noText = 0xFFFF;
 
 struct RuleStore {
-    /// Texts, one behind the other. Names of types come first, in upper case, then names of attributes, then all
+    /// Texts, one behind the other, each with a zero byte at its end. Names of types come first, in upper case, then names of attributes, then all
     /// others.
     const char* texts;
     /// Where each text begins; one place more than there are texts.
@@ -27,7 +27,7 @@ struct RuleStore {
     std::span<const std::uint16_t> code;
 
     std::string_view text(TextId id) const noexcept {
-        return {texts + textPlaces[id], textPlaces[id + 1U] - textPlaces[id]};
+        return {texts + textPlaces[id], textPlaces[id + 1U] - textPlaces[id] - 1};
     }
 };
 

@@ -18,6 +18,7 @@ int fail(const std::string& message) {
 
 int run(int argc, char** argv) {
     using namespace velkor::dictgen;
+    using namespace velkor::express;
     std::string sources, folder = VELKOR_UNITS, profilesPath = VELKOR_PROFILES;
     bool check = false;
     CLI::App app("Writes the source units of the schema dictionaries.", "velkor-dictgen");

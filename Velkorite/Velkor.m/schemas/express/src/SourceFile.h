@@ -1,0 +1,20 @@
+/// EXPRESS sources as files.
+#pragma once
+
+#include "ExpressSchema.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <tl/expected.hpp>
+
+namespace velkor::express {
+
+/// Nothing when it cannot be read.
+std::optional<std::string> contents(const std::filesystem::path& path);
+
+/// Reads a source into the schema and notes it among the inputs: "NAME (SHA-256 …), …". The error names file and line.
+[[nodiscard]] tl::expected<void, std::string> readSource(const std::filesystem::path& path, ExpressSchema& schema,
+                                                         std::string& inputs);
+
+} // namespace velkor::express

@@ -1,0 +1,85 @@
+// velkor-rulegen: writes the units of the rules from EXPRESS sources, or compares them.
+
+#include "RuleUnits.h"
+#include "SourceFile.h"
+
+#include <CLI/CLI.hpp>
+#include <array>
+#include <iostream>
+
+namespace {
+
+constexpr int different = 1;
+constexpr int badUsage = 2;
+constexpr int unreadable = 3;
+
+struct Release {
+    const char* schema;
+    /// The source of IFC4X4 is the data structure alone.
+    bool hasFunctions = true;
+};
+constexpr std::array<Release, 8> releases{
+    {{"IFC2X3"}, {"IFC4"}, {"IFC4X1"}, {"IFC4X2"}, {"IFC4X3_ADD2"}, {"IFC4X3_RC1"}, {"IFC4X3_RC3"}, {"IFC4X4", false}}};
+
+int fail(const std::string& message) {
+    std::cerr << "velkor-rulegen: " << message << '\n';
+    return unreadable;
+}
+
+int run(int argc, char** argv) {
+    using namespace velkor;
+    std::string sources, folder = VELKOR_RULE_TABLES;
+    bool check = false, notes = false;
+    CLI::App app("Compiles the rules of the schemas into source units.", "velkor-rulegen");
+    app.add_option("DIR", sources, "Folder with the EXPRESS source SCHEMA.exp of each release")->required();
+    app.add_flag("--check", check, "Write nothing; compare, and tell where the units differ (status 1)");
+    app.add_flag("--notes", notes, "Tell what is odd in the sources as well");
+    app.add_option("--out", folder, "Folder of the units")->option_text("FOLDER");
+    app.footer("Example:\n  velkor-rulegen express --check");
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? 0 : badUsage;
+    }
+
+    std::vector<rulegen::RuleSource> schemas;
+    std::vector<std::string> inputs;
+    for (const Release& release : releases) {
+        const auto path = std::filesystem::path(sources) / (std::string(release.schema) + ".exp");
+        rulegen::RuleSource source{path.string(), {}, release.hasFunctions};
+        inputs.emplace_back();
+        if (auto read = express::readSource(path, source.schema, inputs.back()); !read) return fail(read.error());
+        source.schema.name = release.schema;
+        schemas.push_back(std::move(source));
+    }
+    rulegen::RuleCompiler compiler(std::move(schemas));
+    if (notes) {
+        for (const std::string& note : compiler.notes()) std::cerr << note << '\n';
+    }
+    for (const std::string& error : compiler.errors()) std::cerr << error << '\n';
+    if (!compiler.errors().empty()) return unreadable;
+    const auto units = rulegen::ruleUnits(compiler, inputs);
+
+    if (check) {
+        const auto lines = express::differences(units, folder);
+        for (const std::string& line : lines) std::cerr << line << '\n';
+        if (!lines.empty()) return different;
+        std::cout << units.size() << " units are what the sources give\n";
+        return 0;
+    }
+    const auto written = express::writeUnits(units, folder);
+    if (!written) return fail(written.error());
+    for (const std::string& name : *written) std::cout << "wrote " << name << '\n';
+    if (written->empty()) std::cout << units.size() << " units were up to date\n";
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(argc, argv);
+    } catch (const std::exception& error) {
+        return fail(error.what());
+    }
+}
