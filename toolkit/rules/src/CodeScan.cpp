@@ -6,8 +6,8 @@ namespace velkor::rules {
 
 namespace {
 
-/// Calls `take(operation, operands)` for each operation of a piece of code, which ends with the first RETURN that no jump
-/// leads beyond.
+/// Calls `take(operation, operands)` for each operation of a piece of code, which ends with the first RETURN that no
+/// jump leads beyond.
 template <class Take>
 void forEachOperation(std::span<const std::uint16_t> code, std::uint32_t begin, Take take) {
     std::size_t furthest = 0;
@@ -32,8 +32,8 @@ public:
         forEachOperation(_store.code, code, [&](Operation operation, const std::uint16_t* operands) {
             if (operation == Operation::Attribute || operation == Operation::SelfAttribute)
                 _needs.attributes[operands[0]] = true;
-            const bool asksUsers = operation == Operation::Builtin &&
-                                   operands[0] == static_cast<std::uint16_t>(BuiltinFunction::UsedIn);
+            const bool asksUsers =
+                operation == Operation::Builtin && operands[0] == static_cast<std::uint16_t>(BuiltinFunction::UsedIn);
             if (asksUsers && text != noText) _needs.roles.push_back(text);
             text = operation == Operation::String ? operands[0] : noText;
         });

@@ -103,7 +103,8 @@ void RoleIndex::Builder::planEntities() {
         const sdai::EntityDefinition* user = program.entity(role.entity);
         if (user == nullptr) continue;
         for (const sdai::EntityDefinition* entity : schema.entities()) {
-            const int slot = entity->isKindOf(*user) ? entity->attributeIndex(program.store().text(role.attribute)) : -1;
+            const int slot =
+                entity->isKindOf(*user) ? entity->attributeIndex(program.store().text(role.attribute)) : -1;
             if (slot >= 0)
                 plans[entity->position()].emplace_back(static_cast<std::uint16_t>(slot), static_cast<std::uint16_t>(i));
         }

@@ -15,8 +15,8 @@ using TextId = std::uint16_t;
 inline constexpr TextId noText = 0xFFFF;
 
 struct RuleStore {
-    /// Texts, one behind the other, each with a zero byte at its end. Names of types come first, in upper case, then names of attributes, then all
-    /// others.
+    /// Texts, one behind the other, each with a zero byte at its end. Names of types come first, in upper case, then
+    /// names of attributes, then all others.
     const char* texts;
     /// Where each text begins; one place more than there are texts.
     std::span<const std::uint32_t> textPlaces;

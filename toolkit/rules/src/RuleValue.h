@@ -1,5 +1,5 @@
-/// Values of EXPRESS as rules handle them. A value takes 16 bytes and is copied freely; what it points to lies in the file,
-/// in the tables or in the arena of the evaluation.
+/// Values of EXPRESS as rules handle them. A value takes 16 bytes and is copied freely; what it points to lies in the
+/// file, in the tables or in the arena of the evaluation.
 #pragma once
 
 #include "velkor/sdai/Dictionary.h"

@@ -1,5 +1,5 @@
-/// Compiles expressions and statements of a schema to the code of rules. Every name is resolved here: one that is misspelt
-/// is an error with its line.
+/// Compiles expressions and statements of a schema to the code of rules. Every name is resolved here: one that is
+/// misspelt is an error with its line.
 #pragma once
 
 #include "CodeWriter.h"

@@ -28,7 +28,9 @@ public:
         target.jumps.push_back(_units.size());
         _units.push_back(static_cast<std::uint16_t>(target.place));
     }
-    void writeUnits(const std::vector<std::uint16_t>& units) { _units.insert(_units.end(), units.begin(), units.end()); }
+    void writeUnits(const std::vector<std::uint16_t>& units) {
+        _units.insert(_units.end(), units.begin(), units.end());
+    }
     /// The target is here.
     void place(Target& target) {
         target.place = static_cast<int>(_units.size());

@@ -99,7 +99,8 @@ void CodeCompiler::write(const Expression& expression) {
         return writeAttribute(expression);
     case Kind::Group:
         write(*expression.operands[0]);
-        if (_names.entity(expression.text) == nullptr) error(expression, "expected an entity, found " + expression.text);
+        if (_names.entity(expression.text) == nullptr)
+            error(expression, "expected an entity, found " + expression.text);
         return _code.write(Operation::Group, {_store.type(expression.text)});
     case Kind::Index:
         for (const auto& operand : expression.operands) write(*operand);
@@ -224,8 +225,8 @@ void CodeCompiler::writeCall(const Expression& expression) {
                               " arguments, found " + std::to_string(expression.operands.size()));
     }
     for (const auto& operand : expression.operands) write(*operand);
-    _code.write(Operation::Call, {_store.text(upperCase(function->name)),
-                                  static_cast<std::uint16_t>(expression.operands.size())});
+    _code.write(Operation::Call,
+                {_store.text(upperCase(function->name)), static_cast<std::uint16_t>(expression.operands.size())});
 }
 
 bool CodeCompiler::writeBuiltin(const Expression& expression) {
@@ -405,7 +406,8 @@ StaticType CodeCompiler::typeOf(const Expression& expression) const {
         return typeOf(*expression.operands[0]);
     case Kind::Call:
         if (const auto* entity = _names.entity(expression.text)) return {nullptr, entity};
-        if (const auto* function = _names.function(expression.text)) return _names.resolved({&function->result, nullptr});
+        if (const auto* function = _names.function(expression.text))
+            return _names.resolved({&function->result, nullptr});
         return {};
     default:
         return {};

@@ -18,12 +18,15 @@ std::vector<express::ExpressSchema> schemasOf(const std::vector<RuleSource>& sou
 }
 
 // The name of the schema in qualified names gives way to a mark, so that the text is the same in all releases.
-std::string withoutSchema(std::string text, const std::string& schema) {
+std::string withoutSchema(const std::string& text, const std::string& schema) {
     const std::string qualified = '\'' + schema + '.';
-    for (std::size_t at = text.find(qualified); at != std::string::npos; at = text.find(qualified, at)) {
-        text.replace(at + 1, schema.size(), "\x01");
+    std::string result;
+    std::size_t from = 0;
+    for (std::size_t at = text.find(qualified); at != std::string::npos; at = text.find(qualified, from)) {
+        result.append(text, from, at + 1 - from).append(1, '\x01');
+        from = at + 1 + schema.size();
     }
-    return text;
+    return result.append(text, from);
 }
 
 std::string joined(const std::vector<std::string>& names) {
@@ -33,8 +36,9 @@ std::string joined(const std::vector<std::string>& names) {
 }
 
 std::string boundsText(const express::ExpressInverseAttribute& attribute) {
-    const std::string upper = attribute.upper < 0 ? "?" : std::to_string(attribute.upper);
-    return '[' + std::to_string(attribute.lower) + ':' + upper + ']';
+    std::string text = "[";
+    text += std::to_string(attribute.lower);
+    return text.append(":").append(attribute.upper < 0 ? "?" : std::to_string(attribute.upper)).append("]");
 }
 
 } // namespace
@@ -108,12 +112,13 @@ private:
         if (user == nullptr || !_names.attribute(*user, attribute.attribute).isThere) {
             return diagnostics.error(attribute.line, "there is no " + attribute.user + "." + attribute.attribute);
         }
-        const std::string kind = !attribute.isAggregate ? "" : (attribute.isBag ? "BAG " : "SET ") + boundsText(attribute) + " OF ";
+        std::string declaration;
+        if (attribute.isAggregate) declaration = (attribute.isBag ? "BAG " : "SET ") + boundsText(attribute) + " OF ";
+        declaration += attribute.user + " FOR " + attribute.attribute;
         _release.inverseAttributes.push_back(
             {_store.type(entity.name), _store.attribute(attribute.name), _store.type(attribute.user),
              _store.attribute(attribute.attribute), attribute.lower, attribute.upper, attribute.isAggregate,
-             attribute.isBag, _store.text(entity.name), _store.text(attribute.name),
-             _store.text(kind + attribute.user + " FOR " + attribute.attribute)});
+             attribute.isBag, _store.text(entity.name), _store.text(attribute.name), _store.text(declaration)});
     }
 
     void addUnique(const ExpressEntity& entity, const express::ExpressUniquenessRule& unique) {

@@ -19,8 +19,8 @@ struct RuleSource {
     /// For messages.
     std::string name;
     express::ExpressSchema schema;
-    /// False for a source that holds the data structure alone: expressions of its derived attributes may need functions that
-    /// it lacks, and are indeterminate.
+    /// False for a source that holds the data structure alone: expressions of its derived attributes may need functions
+    /// that it lacks, and are indeterminate.
     bool hasFunctions = true;
 };
 

@@ -59,7 +59,8 @@ std::string textsOf(const rules::RuleStore& store) {
 template <class Number, class Write>
 std::string numbers(const char* type, const char* name, std::span<const Number> list, Write write) {
     std::string result = std::string("constexpr ") + type + ' ' + name + "[] = {";
-    for (std::size_t i = 0; i < list.size(); ++i) result += (i % unitsPerLine == 0 ? "\n    " : " ") + write(list[i]) + ',';
+    for (std::size_t i = 0; i < list.size(); ++i)
+        result += (i % unitsPerLine == 0 ? "\n    " : " ") + write(list[i]) + ',';
     // There is no array of nothing; what stands for it is left out of the span.
     if (list.empty()) result += "0";
     return result + "\n};\n\n";
@@ -113,8 +114,9 @@ public:
                    shown(rule.ownerName, rule.label));
     }
     std::string unique(const rules::UniqueRule& rule) const {
-        return row({rule.entity, rule.entityName, rule.label, rule.expression, rule.firstAttribute, rule.attributeCount},
-                   shown(rule.entityName, rule.label));
+        return row(
+            {rule.entity, rule.entityName, rule.label, rule.expression, rule.firstAttribute, rule.attributeCount},
+            shown(rule.entityName, rule.label));
     }
     std::string inverse(const rules::InverseAttribute& attribute) const {
         return row({attribute.entity, attribute.name, attribute.user, attribute.attribute, attribute.lower,

@@ -1,7 +1,5 @@
 #include "SchemaNames.h"
 
-#include "StoreBuilder.h"
-
 #include <algorithm>
 
 namespace velkor::rulegen {
@@ -23,12 +21,6 @@ SchemaNames::SchemaNames(const express::ExpressSchema& schema) : _schema(schema)
     for (const auto& type : schema.types) _types.emplace(upperCase(type.name), &type);
     for (const auto& function : schema.functions) _functions.emplace(upperCase(function.name), &function);
     for (const auto& constant : schema.constants) _constants.emplace(upperCase(constant.name), &constant);
-}
-
-template <class Declaration>
-const Declaration* SchemaNames::find(const Map<Declaration>& map, const std::string& name) {
-    const auto found = map.find(upperCase(name));
-    return found == map.end() ? nullptr : found->second;
 }
 
 bool SchemaNames::hasEnumerator(const ExpressDefinedType& type, const std::string& enumerator) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ExpressSchema.h"
+#include "StoreBuilder.h"
 
 #include <map>
 #include <string>
@@ -42,7 +43,8 @@ public:
     };
     /// An attribute of any kind that the entity declares or inherits.
     AttributeUse attribute(const express::ExpressEntity& entity, const std::string& name) const;
-    /// The same of whatever an expression of the type can be: the entity or one of its subtypes, or anything a select leads to.
+    /// The same of whatever an expression of the type can be: the entity or one of its subtypes, or anything a select
+    /// leads to.
     bool mayHaveAttribute(const StaticType& type, const std::string& name) const;
 
     /// A named type followed to the entity or the type that it is defined as.
@@ -53,7 +55,10 @@ private:
     template <class Declaration>
     using Map = std::map<std::string, const Declaration*>;
     template <class Declaration>
-    static const Declaration* find(const Map<Declaration>& map, const std::string& name);
+    static const Declaration* find(const Map<Declaration>& map, const std::string& name) {
+        const auto found = map.find(upperCase(name));
+        return found == map.end() ? nullptr : found->second;
+    }
     bool subtypeHasAttribute(const express::ExpressEntity& entity, const std::string& name) const;
     bool mayHave(const StaticType& type, const std::string& name, int depth) const;
 

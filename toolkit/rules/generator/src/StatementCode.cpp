@@ -6,8 +6,8 @@
 
 namespace velkor::rulegen {
 
-using express::ExpressType;
 using express::ExpressionPointer;
+using express::ExpressType;
 using rules::BuiltinFunction;
 using Kind = express::Statement::Kind;
 using ExpressionKind = express::Expression::Kind;
@@ -186,8 +186,7 @@ void CodeCompiler::writeCallStatement(const Statement& statement) {
         });
     }
     const auto* procedure = _names.function(name);
-    if (procedure == nullptr || !procedure->isProcedure ||
-        procedure->parameters.size() != call.operands.size()) {
+    if (procedure == nullptr || !procedure->isProcedure || procedure->parameters.size() != call.operands.size()) {
         return _diagnostics.error(statement.line, "there is no procedure " + call.text + " with " +
                                                       std::to_string(call.operands.size()) + " parameters");
     }

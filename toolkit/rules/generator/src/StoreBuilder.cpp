@@ -1,7 +1,5 @@
 #include "StoreBuilder.h"
 
-#include "RuleCode.h"
-
 #include <algorithm>
 #include <bit>
 #include <set>

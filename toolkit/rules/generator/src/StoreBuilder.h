@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ExpressSchema.h"
+#include "RuleCode.h"
 #include "RuleTables.h"
 
 #include <map>
@@ -34,7 +35,9 @@ public:
     /// Valid as long as the builder is there and nothing is added.
     rules::RuleStore store();
     /// There are more texts or numbers than positions for them.
-    bool isFull() const noexcept { return _texts.size() >= rules::noName || _integers.size() + _reals.size() >= rules::noName; }
+    bool isFull() const noexcept {
+        return _texts.size() >= rules::noName || _integers.size() + _reals.size() >= rules::noName;
+    }
 
 private:
     using Ids = std::map<std::string, TextId>;

@@ -3,8 +3,8 @@
 #include "RuleUnits.h"
 #include "SourceFile.h"
 
-#include <CLI/CLI.hpp>
 #include <array>
+#include <CLI/CLI.hpp>
 #include <iostream>
 
 namespace {
