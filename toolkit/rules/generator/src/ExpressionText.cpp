@@ -67,22 +67,37 @@ public:
     std::string text(const Expression& expression) const {
         const auto& operands = expression.operands;
         switch (expression.kind) {
-            case Kind::Integer:
-            case Kind::Real: return plainNumber(expression.text);
-            case Kind::String: return literal(expression);
-            case Kind::Binary: return '%' + expression.text;
-            case Kind::Indeterminate: return "?";
-            case Kind::Self: return "the instance";
-            case Kind::Name: return expression.text;
-            case Kind::Attribute: return attribute(expression);
-            case Kind::Group: return text(*operands[0]);
-            case Kind::Index: return index(expression);
-            case Kind::Call: return call(expression);
-            case Kind::Unary: return signOf(expression.operation).text + part(*operands[0], tightest - 1);
-            case Kind::Infix: return infix(expression);
-            case Kind::Interval: return interval(expression);
-            case Kind::Query: return "the " + expression.text + " of " + text(*operands[0]) + " with " + text(*operands[1]);
-            case Kind::Aggregate: return '[' + list(operands) + ']';
+        case Kind::Integer:
+        case Kind::Real:
+            return plainNumber(expression.text);
+        case Kind::String:
+            return literal(expression);
+        case Kind::Binary:
+            return '%' + expression.text;
+        case Kind::Indeterminate:
+            return "?";
+        case Kind::Self:
+            return "the instance";
+        case Kind::Name:
+            return expression.text;
+        case Kind::Attribute:
+            return attribute(expression);
+        case Kind::Group:
+            return text(*operands[0]);
+        case Kind::Index:
+            return index(expression);
+        case Kind::Call:
+            return call(expression);
+        case Kind::Unary:
+            return signOf(expression.operation).text + part(*operands[0], tightest - 1);
+        case Kind::Infix:
+            return infix(expression);
+        case Kind::Interval:
+            return interval(expression);
+        case Kind::Query:
+            return "the " + expression.text + " of " + text(*operands[0]) + " with " + text(*operands[1]);
+        case Kind::Aggregate:
+            return '[' + list(operands) + ']';
         }
         return {};
     }

@@ -12,7 +12,8 @@ namespace velkor::rulegen {
 /// Names of entities and types as they are spelled, by the name in upper case.
 using SpelledNames = std::map<std::string, std::string, std::less<>>;
 
-/// A value in words, as far as there are any, else in EXPRESS. What is qualified by SELF or a supertype stands without it.
+/// A value in words, as far as there are any, else in EXPRESS. What is qualified by SELF or a supertype stands without
+/// it.
 std::string phrase(const express::Expression& expression, const SpelledNames& names);
 
 /// The name behind the schema in 'SCHEMA.NAME', as it is spelled where that is known; empty for any other text.

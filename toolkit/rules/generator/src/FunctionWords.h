@@ -15,11 +15,13 @@ struct FunctionWords {
 };
 
 inline constexpr std::array<FunctionWords, 21> functionWords{{
-    {"IFCCONSECUTIVESEGMENTS", "each of %1", "begins where the one before ends", "does not begin where the one before ends"},
+    {"IFCCONSECUTIVESEGMENTS", "each of %1", "begins where the one before ends",
+     "does not begin where the one before ends"},
     {"IFCCONSTRAINTSPARAMBSPLINE", "%1, %2, %3, %4 and %5", "fit each other as those of a B-spline do", ""},
     {"IFCCORRECTDIMENSIONS", "%2", "are the dimensions of a unit of type %1", ""},
     {"IFCCORRECTFILLAREASTYLE", "%1",
-     "have at most one external hatch style, which stands alone, at most one colour, and not both hatching and tiles", ""},
+     "have at most one external hatch style, which stands alone, at most one colour, and not both hatching and tiles",
+     ""},
     {"IFCCORRECTLOCALPLACEMENT", "%1", "is 2D, or as 3D as the placement in %2", ""},
     {"IFCCORRECTOBJECTASSIGNMENT", "%2", "are objects of the kind that %1 names", ""},
     {"IFCCORRECTUNITASSIGNMENT", "%1",

@@ -84,13 +84,17 @@ public:
     /// What is said by an expression that holds, or does not.
     Sentence sentence(const Expression& expression, bool holds) {
         switch (expression.kind) {
-            case Kind::Unary:
-                if (expression.operation == Operator::Not) return sentence(*expression.operands[0], !holds);
-                break;
-            case Kind::Infix: return infix(expression, holds);
-            case Kind::Interval: return interval(expression, holds);
-            case Kind::Call: return call(expression, holds);
-            default: break;
+        case Kind::Unary:
+            if (expression.operation == Operator::Not) return sentence(*expression.operands[0], !holds);
+            break;
+        case Kind::Infix:
+            return infix(expression, holds);
+        case Kind::Interval:
+            return interval(expression, holds);
+        case Kind::Call:
+            return call(expression, holds);
+        default:
+            break;
         }
         return simple(text(expression), "is TRUE", "is not TRUE", holds);
     }
@@ -106,24 +110,28 @@ private:
     Sentence infix(const Expression& expression, bool holds) {
         const Expression &left = *expression.operands[0], &right = *expression.operands[1];
         switch (expression.operation) {
-            case Operator::And:
-            case Operator::Or: {
-                std::vector<Sentence> parts{sentence(left, holds), sentence(right, holds)};
-                return (expression.operation == Operator::And) == holds ? Sentence::all(std::move(parts))
-                                                                        : Sentence::any(std::move(parts));
-            }
-            case Operator::Xor: return exclusive(expression, holds);
-            case Operator::In: return membership(left, right, holds);
-            case Operator::Like:
-                return simple(subject(left), "matches " + text(right), "does not match " + text(right), holds);
-            default: break;
+        case Operator::And:
+        case Operator::Or: {
+            std::vector<Sentence> parts{sentence(left, holds), sentence(right, holds)};
+            return (expression.operation == Operator::And) == holds ? Sentence::all(std::move(parts))
+                                                                    : Sentence::any(std::move(parts));
+        }
+        case Operator::Xor:
+            return exclusive(expression, holds);
+        case Operator::In:
+            return membership(left, right, holds);
+        case Operator::Like:
+            return simple(subject(left), "matches " + text(right), "does not match " + text(right), holds);
+        default:
+            break;
         }
         const Relation* relation = relationOf(expression.operation);
         if (relation == nullptr) return simple(text(expression), "is TRUE", "is not TRUE", holds);
         if (!holds) relation = relationOf(relation->negation);
         if (isSize(left)) return size(left, *relation, right);
         if (isSize(right)) return size(right, *relationOf(relation->mirrored), left);
-        const bool isMirrored = (isLiteral(left) && !isLiteral(right)) || (isAboutMember(right) && !isAboutMember(left));
+        const bool isMirrored =
+            (isLiteral(left) && !isLiteral(right)) || (isAboutMember(right) && !isAboutMember(left));
         if (isMirrored) return comparison(right, *relationOf(relation->mirrored), left);
         return comparison(left, *relation, right);
     }
@@ -149,7 +157,8 @@ private:
         if (left.kind == Kind::Infix && left.operation == Operator::Modulo && isNumber(right, "0") &&
             (isEqual || isUnequal)) {
             const std::string number = text(*left.operands[1]);
-            return simple(text(*left.operands[0]), "is a multiple of " + number, "is no multiple of " + number, isEqual);
+            return simple(text(*left.operands[0]), "is a multiple of " + number, "is no multiple of " + number,
+                          isEqual);
         }
         if (operation == Operator::InstanceEqual || operation == Operator::InstanceNotEqual) {
             if (left.kind == Kind::Self || right.kind == Kind::Self) {
@@ -249,7 +258,8 @@ private:
             const char* even = parts.size() == 2 ? "both or neither of " : "an even number of ";
             return simple((holds ? odd : even) + subjects, parts.front().predicate, "");
         }
-        Sentence result = Sentence::any({sentence(*expression.operands[0], true), sentence(*expression.operands[1], holds)});
+        Sentence result =
+            Sentence::any({sentence(*expression.operands[0], true), sentence(*expression.operands[1], holds)});
         // Two that cannot both hold need not be told apart any further.
         if (!excludes(result.parts[0], result.parts[1])) result.kind = Sentence::Kind::Either;
         return result;
@@ -302,8 +312,8 @@ private:
         Sentence positive = merged(sentence(condition, true)), negative = merged(sentence(condition, false));
         _variable = outer;
         const Amount amount = amountOf(relation.operation, right);
-        const bool isEvery = relation.operation == Operator::Equal && isSize(right) &&
-                             text(*right.operands[0]) == text(whole);
+        const bool isEvery =
+            relation.operation == Operator::Equal && isSize(right) && text(*right.operands[0]) == text(whole);
         if (isEvery) return ofMembers("every ", "for every ", query, positive);
         if (amount == Amount::None) {
             const bool isPlain = positive.kind == Sentence::Kind::Simple && positive.subject == query.text &&
@@ -332,8 +342,8 @@ private:
         const bool isSimple =
             isOne && statement.kind == Sentence::Kind::Simple && !mentions(statement.predicate, variable);
         const bool areUsers = isCall(whole, "USEDIN");
-        const std::string behind = areUsers ? text(whole).substr(std::string_view("the users").size())
-                                            : " of " + collection(whole);
+        const std::string behind =
+            areUsers ? text(whole).substr(std::string_view("the users").size()) : " of " + collection(whole);
         const std::string members = count + (areUsers ? "user" : "member") + behind;
         if (isSimple && statement.subject == variable) return ofSome(members, statement.predicate);
         const bool isPart = isSimple && statement.subject.starts_with(variable + '.');

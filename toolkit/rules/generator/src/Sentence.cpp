@@ -59,7 +59,8 @@ bool flatten(Sentence& sentence) {
 void simplify(Sentence& sentence) {
     for (Sentence& part : sentence.parts) simplify(part);
     if (sentence.kind != Kind::All && sentence.kind != Kind::Any) return;
-    while (flatten(sentence) || absorb(sentence)) {}
+    while (flatten(sentence) || absorb(sentence)) {
+    }
     if (sentence.parts.size() == 1) sentence = Sentence(std::move(sentence.parts.front()));
 }
 
@@ -156,9 +157,12 @@ void merge(Sentence& sentence) {
 /// `depth`: how many statements with parts stand around it, which decides how its own are held together.
 std::string rendered(const Sentence& sentence, int depth) {
     switch (sentence.kind) {
-        case Kind::Simple: return sentence.subject + ' ' + sentence.predicate;
-        case Kind::Scope: return sentence.subject + ", " + rendered(sentence.parts.front(), std::max(depth, 1));
-        default: break;
+    case Kind::Simple:
+        return sentence.subject + ' ' + sentence.predicate;
+    case Kind::Scope:
+        return sentence.subject + ", " + rendered(sentence.parts.front(), std::max(depth, 1));
+    default:
+        break;
     }
     const std::string word = sentence.kind == Kind::All ? "and" : "or";
     std::string result;
