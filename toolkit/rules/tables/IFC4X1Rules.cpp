@@ -7,704 +7,704 @@ namespace velkor::rules {
 namespace {
 
 constexpr WhereRule entityRules[] = {
-    {8, 3108, 3028, 3109, 3030, 408}, // IfcActorRole.WR1
-    {10, 4172, 4173, 4174, 3030, 14421}, // IfcActuator.CorrectPredefinedType
-    {10, 4172, 4175, 4176, 3030, 14456}, // IfcActuator.CorrectTypeAssigned
-    {11, 4177, 4173, 4178, 3030, 14480}, // IfcActuatorType.CorrectPredefinedType
-    {13, 3110, 3028, 3111, 3030, 432}, // IfcAddress.WR1
-    {15, 4179, 4180, 4181, 3030, 14507}, // IfcAdvancedBrep.HasAdvancedFaces
-    {16, 4182, 4183, 4184, 3030, 14532}, // IfcAdvancedBrepWithVoids.VoidsHaveAdvancedFaces
-    {17, 4185, 4186, 4187, 3030, 14567}, // IfcAdvancedFace.ApplicableSurface
-    {17, 4185, 4188, 4189, 3030, 14592}, // IfcAdvancedFace.RequiresEdgeCurve
-    {17, 4185, 4190, 4191, 3030, 14653}, // IfcAdvancedFace.ApplicableEdgeCurves
-    {19, 4192, 4173, 4193, 3030, 14737}, // IfcAirTerminal.CorrectPredefinedType
-    {19, 4192, 4175, 4194, 3030, 14772}, // IfcAirTerminal.CorrectTypeAssigned
-    {20, 4195, 4173, 4196, 3030, 14796}, // IfcAirTerminalBox.CorrectPredefinedType
-    {20, 4195, 4175, 4197, 3030, 14831}, // IfcAirTerminalBox.CorrectTypeAssigned
-    {21, 3116, 4173, 3117, 3030, 464}, // IfcAirTerminalBoxType.CorrectPredefinedType
-    {23, 3118, 4173, 3119, 3030, 491}, // IfcAirTerminalType.CorrectPredefinedType
-    {25, 4198, 4173, 4199, 3030, 14855}, // IfcAirToAirHeatRecovery.CorrectPredefinedType
-    {25, 4198, 4175, 4200, 3030, 14890}, // IfcAirToAirHeatRecovery.CorrectTypeAssigned
-    {26, 3120, 4173, 3121, 3030, 518}, // IfcAirToAirHeatRecoveryType.CorrectPredefinedType
-    {28, 4201, 4173, 4202, 3030, 14914}, // IfcAlarm.CorrectPredefinedType
-    {28, 4201, 4175, 4203, 3030, 14949}, // IfcAlarm.CorrectTypeAssigned
-    {29, 4204, 4173, 4205, 3030, 14973}, // IfcAlarmType.CorrectPredefinedType
-    {77, 3151, 4206, 4207, 3030, 15000}, // IfcApproval.HasIdentifierOrName
-    {81, 3158, 3028, 3159, 3030, 708}, // IfcArbitraryClosedProfileDef.WR1
-    {81, 3158, 3033, 3160, 3030, 717}, // IfcArbitraryClosedProfileDef.WR2
-    {81, 3158, 3035, 3161, 3030, 724}, // IfcArbitraryClosedProfileDef.WR3
-    {82, 3163, 3164, 3165, 3030, 731}, // IfcArbitraryOpenProfileDef.WR11
-    {82, 3163, 3166, 3167, 3030, 748}, // IfcArbitraryOpenProfileDef.WR12
-    {83, 3169, 3028, 3170, 3030, 757}, // IfcArbitraryProfileDefWithVoids.WR1
-    {83, 3169, 3033, 3171, 3030, 768}, // IfcArbitraryProfileDefWithVoids.WR2
-    {83, 3169, 3035, 3172, 3030, 790}, // IfcArbitraryProfileDefWithVoids.WR3
-    {93, 4214, 4215, 4216, 3030, 15013}, // IfcAsymmetricIShapeProfileDef.ValidFlangeThickness
-    {93, 4214, 4217, 4218, 3030, 15031}, // IfcAsymmetricIShapeProfileDef.ValidWebThickness
-    {93, 4214, 4219, 4220, 3030, 15046}, // IfcAsymmetricIShapeProfileDef.ValidBottomFilletRadius
-    {93, 4214, 4221, 4222, 3030, 15067}, // IfcAsymmetricIShapeProfileDef.ValidTopFilletRadius
-    {94, 4223, 4173, 4224, 3030, 15088}, // IfcAudioVisualAppliance.CorrectPredefinedType
-    {94, 4223, 4175, 4225, 3030, 15123}, // IfcAudioVisualAppliance.CorrectTypeAssigned
-    {95, 4226, 4173, 4227, 3030, 15147}, // IfcAudioVisualApplianceType.CorrectPredefinedType
-    {97, 3175, 4228, 3176, 3030, 834}, // IfcAxis1Placement.AxisIs3D
-    {97, 3175, 4229, 3177, 3030, 851}, // IfcAxis1Placement.LocationIs3D
-    {99, 3179, 4230, 3180, 3030, 885}, // IfcAxis2Placement2D.RefDirIs2D
-    {99, 3179, 4231, 3181, 3030, 902}, // IfcAxis2Placement2D.LocationIs2D
-    {100, 3183, 4229, 3177, 3030, 851}, // IfcAxis2Placement3D.LocationIs3D
-    {100, 3183, 4228, 3176, 3030, 834}, // IfcAxis2Placement3D.AxisIs3D
-    {100, 3183, 4232, 3184, 3030, 922}, // IfcAxis2Placement3D.RefDirIs3D
-    {100, 3183, 4233, 3186, 3030, 939}, // IfcAxis2Placement3D.AxisToRefDirPosition
-    {100, 3183, 4234, 3188, 3030, 969}, // IfcAxis2Placement3D.AxisAndRefDirProvision
-    {103, 4252, 4173, 4253, 3030, 15324}, // IfcBeam.CorrectPredefinedType
-    {103, 4252, 4175, 4254, 3030, 15359}, // IfcBeam.CorrectTypeAssigned
-    {104, 4255, 4256, 4257, 3030, 15383}, // IfcBeamStandardCase.HasMaterialProfileSetUsage
-    {105, 4258, 4173, 4259, 3030, 15414}, // IfcBeamType.CorrectPredefinedType
-    {115, 3198, 4260, 3199, 3030, 1043}, // IfcBlobTexture.SupportedRasterFormat
-    {115, 3198, 4261, 4262, 3030, 15441}, // IfcBlobTexture.RasterCodeByteStream
-    {117, 4263, 4173, 4264, 3030, 15453}, // IfcBoiler.CorrectPredefinedType
-    {117, 4263, 4175, 4265, 3030, 15488}, // IfcBoiler.CorrectTypeAssigned
-    {118, 3200, 4173, 3201, 3030, 1061}, // IfcBoilerType.CorrectPredefinedType
-    {121, 3202, 4267, 4268, 3030, 30706}, // IfcBooleanClippingResult.FirstOperandType
-    {121, 3202, 4269, 3204, 3030, 1101}, // IfcBooleanClippingResult.SecondOperandType
-    {121, 3202, 4270, 3206, 3030, 1107}, // IfcBooleanClippingResult.OperatorType
-    {124, 3207, 4235, 3208, 3030, 1115}, // IfcBooleanResult.SameDim
-    {124, 3207, 4271, 4272, 3030, 15535}, // IfcBooleanResult.FirstOperandClosed
-    {124, 3207, 4273, 4274, 3030, 15558}, // IfcBooleanResult.SecondOperandClosed
-    {128, 4275, 4276, 3099, 3030, 391}, // IfcBoundaryCurve.IsClosed
-    {137, 3209, 4277, 3210, 3030, 1136}, // IfcBoxedHalfSpace.UnboundedSurface
-    {142, 3190, 4235, 3192, 3030, 991}, // IfcBSplineCurve.SameDim
-    {144, 4237, 4238, 4239, 3030, 15190}, // IfcBSplineCurveWithKnots.ConsistentBSpline
-    {144, 4237, 4240, 4241, 3030, 15205}, // IfcBSplineCurveWithKnots.CorrespondingKnotLists
-    {147, 4243, 4244, 4245, 3030, 15252}, // IfcBSplineSurfaceWithKnots.UDirectionConstraints
-    {147, 4243, 4246, 4247, 3030, 15273}, // IfcBSplineSurfaceWithKnots.VDirectionConstraints
-    {147, 4243, 4248, 4249, 3030, 15294}, // IfcBSplineSurfaceWithKnots.CorrespondingULists
-    {147, 4243, 4250, 4251, 3030, 15303}, // IfcBSplineSurfaceWithKnots.CorrespondingVLists
-    {149, 4278, 4279, 4037, 3030, 6943}, // IfcBuildingElement.MaxOneMaterialAssociation
-    {151, 4280, 4173, 4281, 3030, 15581}, // IfcBuildingElementPart.CorrectPredefinedType
-    {151, 4280, 4175, 4282, 3030, 15616}, // IfcBuildingElementPart.CorrectTypeAssigned
-    {152, 4283, 4173, 4284, 3030, 15640}, // IfcBuildingElementPartType.CorrectPredefinedType
-    {154, 3211, 4285, 3212, 3030, 1146}, // IfcBuildingElementProxy.HasObjectName
-    {154, 3211, 4173, 4286, 3030, 15667}, // IfcBuildingElementProxy.CorrectPredefinedType
-    {154, 3211, 4175, 4287, 3030, 15702}, // IfcBuildingElementProxy.CorrectTypeAssigned
-    {155, 4288, 4173, 4289, 3030, 15726}, // IfcBuildingElementProxyType.CorrectPredefinedType
-    {165, 4290, 4173, 4291, 3030, 15753}, // IfcBurner.CorrectPredefinedType
-    {165, 4290, 4175, 4292, 3030, 15788}, // IfcBurner.CorrectTypeAssigned
-    {166, 4293, 4173, 4294, 3030, 15812}, // IfcBurnerType.CorrectPredefinedType
-    {168, 4299, 4173, 4300, 3030, 15874}, // IfcCableCarrierFitting.CorrectPredefinedType
-    {168, 4299, 4175, 4301, 3030, 15909}, // IfcCableCarrierFitting.CorrectTypeAssigned
-    {169, 3217, 4173, 3218, 3030, 1215}, // IfcCableCarrierFittingType.CorrectPredefinedType
-    {171, 4302, 4173, 4303, 3030, 15933}, // IfcCableCarrierSegment.CorrectPredefinedType
-    {171, 4302, 4175, 4304, 3030, 15968}, // IfcCableCarrierSegment.CorrectTypeAssigned
-    {172, 4305, 4173, 4306, 3030, 15992}, // IfcCableCarrierSegmentType.CorrectPredefinedType
-    {174, 4307, 4173, 4308, 3030, 16019}, // IfcCableFitting.CorrectPredefinedType
-    {174, 4307, 4175, 4309, 3030, 16054}, // IfcCableFitting.CorrectTypeAssigned
-    {175, 4310, 4173, 4311, 3030, 16078}, // IfcCableFittingType.CorrectPredefinedType
-    {177, 4312, 4173, 4313, 3030, 16105}, // IfcCableSegment.CorrectPredefinedType
-    {177, 4312, 4175, 4314, 3030, 16140}, // IfcCableSegment.CorrectTypeAssigned
-    {178, 4315, 4173, 4316, 3030, 16164}, // IfcCableSegmentType.CorrectPredefinedType
-    {185, 3222, 4317, 3223, 3030, 1248}, // IfcCartesianPoint.CP2Dor3D
-    {189, 3224, 4319, 3225, 3030, 1263}, // IfcCartesianTransformationOperator.ScaleGreaterZero
-    {190, 3226, 4320, 3227, 3030, 1284}, // IfcCartesianTransformationOperator2D.DimEqual2
-    {190, 3226, 4321, 3228, 3030, 1294}, // IfcCartesianTransformationOperator2D.Axis1Is2D
-    {190, 3226, 4322, 3229, 3030, 1317}, // IfcCartesianTransformationOperator2D.Axis2Is2D
-    {191, 3231, 4323, 3232, 3030, 1359}, // IfcCartesianTransformationOperator2DnonUniform.Scale2GreaterZero
-    {192, 3233, 4324, 3234, 3030, 1377}, // IfcCartesianTransformationOperator3D.DimIs3D
-    {192, 3233, 4325, 3235, 3030, 1387}, // IfcCartesianTransformationOperator3D.Axis1Is3D
-    {192, 3233, 4326, 3236, 3030, 1410}, // IfcCartesianTransformationOperator3D.Axis2Is3D
-    {192, 3233, 4327, 3237, 3030, 1433}, // IfcCartesianTransformationOperator3D.Axis3Is3D
-    {193, 3238, 4323, 3232, 3030, 1359}, // IfcCartesianTransformationOperator3DnonUniform.Scale2GreaterZero
-    {193, 3238, 4328, 3239, 3030, 1470}, // IfcCartesianTransformationOperator3DnonUniform.Scale3GreaterZero
-    {198, 4329, 4173, 4330, 3030, 16197}, // IfcChiller.CorrectPredefinedType
-    {198, 4329, 4175, 4331, 3030, 16232}, // IfcChiller.CorrectTypeAssigned
-    {199, 3240, 4173, 3241, 3030, 1488}, // IfcChillerType.CorrectPredefinedType
-    {201, 4332, 4173, 4333, 3030, 16256}, // IfcChimney.CorrectPredefinedType
-    {201, 4332, 4175, 4334, 3030, 16291}, // IfcChimney.CorrectTypeAssigned
-    {202, 4335, 4173, 4336, 3030, 16315}, // IfcChimneyType.CorrectPredefinedType
-    {205, 3242, 3028, 3243, 3030, 1515}, // IfcCircleHollowProfileDef.WR1
-    {221, 4343, 4173, 4344, 3030, 16342}, // IfcCoil.CorrectPredefinedType
-    {221, 4343, 4175, 4345, 3030, 16377}, // IfcCoil.CorrectTypeAssigned
-    {222, 3252, 4173, 3253, 3030, 1525}, // IfcCoilType.CorrectPredefinedType
-    {229, 4346, 4173, 4347, 3030, 16401}, // IfcColumn.CorrectPredefinedType
-    {229, 4346, 4175, 4348, 3030, 16436}, // IfcColumn.CorrectTypeAssigned
-    {230, 4349, 4256, 4257, 3030, 15383}, // IfcColumnStandardCase.HasMaterialProfileSetUsage
-    {231, 4350, 4173, 4351, 3030, 16460}, // IfcColumnType.CorrectPredefinedType
-    {233, 4352, 4173, 4353, 3030, 16487}, // IfcCommunicationsAppliance.CorrectPredefinedType
-    {233, 4352, 4175, 4354, 3030, 16522}, // IfcCommunicationsAppliance.CorrectTypeAssigned
-    {234, 4355, 4173, 4356, 3030, 16546}, // IfcCommunicationsApplianceType.CorrectPredefinedType
-    {238, 3254, 3073, 3255, 3030, 1552}, // IfcComplexProperty.WR21
-    {238, 3254, 3257, 3258, 3030, 1571}, // IfcComplexProperty.WR22
-    {239, 4358, 4359, 4360, 3030, 16573}, // IfcComplexPropertyTemplate.UniquePropertyNames
-    {239, 4358, 4361, 4362, 3030, 16580}, // IfcComplexPropertyTemplate.NoSelfReference
-    {241, 3260, 4363, 3261, 3030, 1578}, // IfcCompositeCurve.CurveContinuous
-    {241, 3260, 4235, 3263, 3030, 1636}, // IfcCompositeCurve.SameDim
-    {242, 4364, 4365, 4366, 3030, 16599}, // IfcCompositeCurveOnSurface.SameSurface
-    {243, 3264, 4368, 3265, 3030, 1682}, // IfcCompositeCurveSegment.ParentIsBoundedCurve
-    {244, 3268, 4369, 3269, 3030, 1694}, // IfcCompositeProfileDef.InvariantProfileType
-    {244, 3268, 4370, 3270, 3030, 1721}, // IfcCompositeProfileDef.NoRecursion
-    {246, 4371, 4173, 4372, 3030, 16615}, // IfcCompressor.CorrectPredefinedType
-    {246, 4371, 4175, 4373, 3030, 16650}, // IfcCompressor.CorrectTypeAssigned
-    {247, 3271, 4173, 3272, 3030, 1740}, // IfcCompressorType.CorrectPredefinedType
-    {249, 4374, 4173, 4375, 3030, 16674}, // IfcCondenser.CorrectPredefinedType
-    {249, 4374, 4175, 4376, 3030, 16709}, // IfcCondenser.CorrectTypeAssigned
-    {250, 3273, 4173, 3274, 3030, 1767}, // IfcCondenserType.CorrectPredefinedType
-    {265, 3276, 3164, 3277, 3030, 1794}, // IfcConstraint.WR11
-    {270, 4378, 4173, 4379, 3030, 16733}, // IfcConstructionEquipmentResource.CorrectPredefinedType
-    {271, 4380, 4173, 4381, 3030, 16768}, // IfcConstructionEquipmentResourceType.CorrectPredefinedType
-    {273, 3292, 4173, 4382, 3030, 16795}, // IfcConstructionMaterialResource.CorrectPredefinedType
-    {274, 4383, 4173, 4384, 3030, 16830}, // IfcConstructionMaterialResourceType.CorrectPredefinedType
-    {276, 3296, 4173, 4385, 3030, 16857}, // IfcConstructionProductResource.CorrectPredefinedType
-    {277, 4386, 4173, 4387, 3030, 16892}, // IfcConstructionProductResourceType.CorrectPredefinedType
-    {285, 4393, 4173, 4394, 3030, 16919}, // IfcController.CorrectPredefinedType
-    {285, 4393, 4175, 4395, 3030, 16954}, // IfcController.CorrectTypeAssigned
-    {286, 4396, 4173, 4397, 3030, 16978}, // IfcControllerType.CorrectPredefinedType
-    {293, 4399, 4173, 4400, 3030, 17005}, // IfcCooledBeam.CorrectPredefinedType
-    {293, 4399, 4175, 4401, 3030, 17040}, // IfcCooledBeam.CorrectTypeAssigned
-    {294, 3300, 4173, 3301, 3030, 1883}, // IfcCooledBeamType.CorrectPredefinedType
-    {296, 4402, 4173, 4403, 3030, 17064}, // IfcCoolingTower.CorrectPredefinedType
-    {296, 4402, 4175, 4404, 3030, 17099}, // IfcCoolingTower.CorrectTypeAssigned
-    {297, 3302, 4173, 3303, 3030, 1910}, // IfcCoolingTowerType.CorrectPredefinedType
-    {314, 3306, 4173, 3308, 3030, 1937}, // IfcCovering.CorrectPredefinedType
-    {314, 3306, 4175, 4408, 3030, 17123}, // IfcCovering.CorrectTypeAssigned
-    {315, 4410, 4173, 4411, 3030, 17147}, // IfcCoveringType.CorrectPredefinedType
-    {319, 4412, 4173, 4413, 3030, 17174}, // IfcCrewResource.CorrectPredefinedType
-    {320, 4414, 4173, 4415, 3030, 17209}, // IfcCrewResourceType.CorrectPredefinedType
-    {325, 3213, 4295, 3214, 3030, 1155}, // IfcCShapeProfileDef.ValidGirth
-    {325, 3213, 4296, 4297, 3030, 15839}, // IfcCShapeProfileDef.ValidInternalFilletRadius
-    {325, 3213, 4298, 3216, 3030, 1194}, // IfcCShapeProfileDef.ValidWallThickness
-    {328, 4416, 4173, 4417, 3030, 17236}, // IfcCurtainWall.CorrectPredefinedType
-    {328, 4416, 4175, 4418, 3030, 17271}, // IfcCurtainWall.CorrectTypeAssigned
-    {329, 4419, 4173, 4420, 3030, 17295}, // IfcCurtainWallType.CorrectPredefinedType
-    {342, 3315, 4421, 3316, 3030, 1984}, // IfcCurveStyle.MeasureOfWidth
-    {342, 3315, 4422, 4423, 3030, 17322}, // IfcCurveStyle.IdentifiableCurveStyle
-    {345, 3317, 4424, 3318, 3030, 2013}, // IfcCurveStyleFontPattern.VisibleLengthGreaterEqualZero
-    {348, 4425, 4173, 4426, 3030, 17342}, // IfcDamper.CorrectPredefinedType
-    {348, 4425, 4175, 4427, 3030, 17377}, // IfcDamper.CorrectTypeAssigned
-    {349, 3319, 4173, 3320, 3030, 2020}, // IfcDamperType.CorrectPredefinedType
-    {368, 3321, 4369, 3322, 3030, 2047}, // IfcDerivedProfileDef.InvariantProfileType
-    {369, 3323, 3028, 3324, 3030, 2059}, // IfcDerivedUnit.WR1
-    {369, 3323, 3033, 3325, 3030, 2091}, // IfcDerivedUnit.WR2
-    {382, 4428, 4429, 4430, 3030, 17401}, // IfcDirection.MagnitudeGreaterZero
-    {387, 4431, 4173, 4432, 3030, 17421}, // IfcDiscreteAccessory.CorrectPredefinedType
-    {387, 4431, 4175, 4433, 3030, 17456}, // IfcDiscreteAccessory.CorrectTypeAssigned
-    {388, 4434, 4173, 4435, 3030, 17480}, // IfcDiscreteAccessoryType.CorrectPredefinedType
-    {394, 4436, 4173, 4437, 3030, 17507}, // IfcDistributionChamberElement.CorrectPredefinedType
-    {394, 4436, 4175, 4438, 3030, 17542}, // IfcDistributionChamberElement.CorrectTypeAssigned
-    {395, 4439, 4173, 4440, 3030, 17566}, // IfcDistributionChamberElementType.CorrectPredefinedType
-    {412, 3371, 3028, 4446, 3030, 17593}, // IfcDocumentReference.WR1
-    {415, 4448, 4449, 4450, 3030, 17604}, // IfcDoor.CorrectStyleAssigned
-    {416, 3375, 3126, 4451, 3030, 17628}, // IfcDoorLiningProperties.WR31
-    {416, 3375, 3377, 4452, 3030, 17643}, // IfcDoorLiningProperties.WR32
-    {416, 3375, 3379, 3380, 3030, 2435}, // IfcDoorLiningProperties.WR33
-    {416, 3375, 3381, 3382, 3030, 2462}, // IfcDoorLiningProperties.WR34
-    {416, 3375, 3383, 4453, 3030, 17658}, // IfcDoorLiningProperties.WR35
-    {419, 3385, 4454, 4453, 3030, 17658}, // IfcDoorPanelProperties.ApplicableToType
-    {424, 4455, 4173, 4456, 3030, 17696}, // IfcDoorType.CorrectPredefinedType
-    {431, 3399, 4457, 3400, 3030, 2514}, // IfcDraughtingPreDefinedColour.PreDefinedColourNames
-    {432, 3406, 4458, 3407, 3030, 2550}, // IfcDraughtingPreDefinedCurveFont.PreDefinedCurveFontNames
-    {434, 4459, 4173, 4460, 3030, 17723}, // IfcDuctFitting.CorrectPredefinedType
-    {434, 4459, 4175, 4461, 3030, 17758}, // IfcDuctFitting.CorrectTypeAssigned
-    {435, 3412, 4173, 3413, 3030, 2592}, // IfcDuctFittingType.CorrectPredefinedType
-    {437, 4462, 4173, 4463, 3030, 17782}, // IfcDuctSegment.CorrectPredefinedType
-    {437, 4462, 4175, 4464, 3030, 17817}, // IfcDuctSegment.CorrectTypeAssigned
-    {438, 3414, 4173, 3415, 3030, 2619}, // IfcDuctSegmentType.CorrectPredefinedType
-    {440, 4465, 4173, 4466, 3030, 17841}, // IfcDuctSilencer.CorrectPredefinedType
-    {440, 4465, 4175, 4467, 3030, 17876}, // IfcDuctSilencer.CorrectTypeAssigned
-    {441, 3416, 4173, 3417, 3030, 2646}, // IfcDuctSilencerType.CorrectPredefinedType
-    {456, 3418, 4276, 3419, 3030, 2673}, // IfcEdgeLoop.IsClosed
-    {456, 3418, 4468, 3421, 3030, 2690}, // IfcEdgeLoop.IsContinuous
-    {460, 4469, 4173, 4470, 3030, 17900}, // IfcElectricAppliance.CorrectPredefinedType
-    {460, 4469, 4175, 4471, 3030, 17935}, // IfcElectricAppliance.CorrectTypeAssigned
-    {461, 4472, 4173, 4473, 3030, 17959}, // IfcElectricApplianceType.CorrectPredefinedType
-    {468, 4474, 4173, 4475, 3030, 17986}, // IfcElectricDistributionBoard.CorrectPredefinedType
-    {468, 4474, 4175, 4476, 3030, 18021}, // IfcElectricDistributionBoard.CorrectTypeAssigned
-    {469, 4477, 4173, 4478, 3030, 18045}, // IfcElectricDistributionBoardType.CorrectPredefinedType
-    {473, 4479, 4173, 4480, 3030, 18072}, // IfcElectricFlowStorageDevice.CorrectPredefinedType
-    {473, 4479, 4175, 4481, 3030, 18107}, // IfcElectricFlowStorageDevice.CorrectTypeAssigned
-    {474, 4482, 4173, 4483, 3030, 18131}, // IfcElectricFlowStorageDeviceType.CorrectPredefinedType
-    {479, 4484, 4173, 4485, 3030, 18158}, // IfcElectricGenerator.CorrectPredefinedType
-    {479, 4484, 4175, 4486, 3030, 18193}, // IfcElectricGenerator.CorrectTypeAssigned
-    {480, 4487, 4173, 4488, 3030, 18217}, // IfcElectricGeneratorType.CorrectPredefinedType
-    {484, 4489, 4173, 4490, 3030, 18244}, // IfcElectricMotor.CorrectPredefinedType
-    {484, 4489, 4175, 4491, 3030, 18279}, // IfcElectricMotor.CorrectTypeAssigned
-    {485, 4492, 4173, 4493, 3030, 18303}, // IfcElectricMotorType.CorrectPredefinedType
-    {488, 4494, 4173, 4495, 3030, 18330}, // IfcElectricTimeControl.CorrectPredefinedType
-    {488, 4494, 4175, 4496, 3030, 18365}, // IfcElectricTimeControl.CorrectTypeAssigned
-    {489, 4497, 4173, 4498, 3030, 18389}, // IfcElectricTimeControlType.CorrectPredefinedType
-    {494, 3447, 4173, 4503, 3030, 18416}, // IfcElementAssembly.CorrectPredefinedType
-    {494, 3447, 4175, 4504, 3030, 18451}, // IfcElementAssembly.CorrectTypeAssigned
-    {495, 4505, 4173, 4506, 3030, 18475}, // IfcElementAssemblyType.CorrectPredefinedType
-    {500, 4508, 4509, 4510, 3030, 18502}, // IfcElementQuantity.UniqueQuantityNames
-    {509, 4511, 4173, 4512, 3030, 18509}, // IfcEngine.CorrectPredefinedType
-    {509, 4511, 4175, 4513, 3030, 18544}, // IfcEngine.CorrectTypeAssigned
-    {510, 4514, 4173, 4515, 3030, 18568}, // IfcEngineType.CorrectPredefinedType
-    {516, 4516, 4173, 4517, 3030, 18595}, // IfcEvaporativeCooler.CorrectPredefinedType
-    {516, 4516, 4175, 4518, 3030, 18630}, // IfcEvaporativeCooler.CorrectTypeAssigned
-    {517, 3451, 4173, 3452, 3030, 2789}, // IfcEvaporativeCoolerType.CorrectPredefinedType
-    {519, 4519, 4173, 4520, 3030, 18654}, // IfcEvaporator.CorrectPredefinedType
-    {519, 4519, 4175, 4521, 3030, 18689}, // IfcEvaporator.CorrectTypeAssigned
-    {520, 3453, 4173, 3454, 3030, 2816}, // IfcEvaporatorType.CorrectPredefinedType
-    {522, 4522, 4173, 4523, 3030, 18713}, // IfcEvent.CorrectPredefinedType
-    {522, 4522, 4175, 4524, 3030, 18748}, // IfcEvent.CorrectTypeAssigned
-    {525, 4525, 4173, 4526, 3030, 18780}, // IfcEventType.CorrectPredefinedType
-    {525, 4525, 4527, 4528, 3030, 18807}, // IfcEventType.CorrectEventTriggerType
-    {535, 3455, 3028, 4529, 3030, 18831}, // IfcExternalReference.WR1
-    {540, 3458, 4533, 3459, 3030, 2863}, // IfcExtrudedAreaSolid.ValidExtrusionDirection
-    {541, 4535, 4536, 4537, 3030, 18851}, // IfcExtrudedAreaSolidTapered.CorrectProfileAssignment
-    {542, 3460, 4538, 3461, 3030, 2886}, // IfcFace.HasOuterBound
-    {556, 4541, 4173, 4542, 3030, 18863}, // IfcFan.CorrectPredefinedType
-    {556, 4541, 4175, 4543, 3030, 18898}, // IfcFan.CorrectTypeAssigned
-    {557, 3462, 4173, 3463, 3030, 2905}, // IfcFanType.CorrectPredefinedType
-    {559, 4544, 4173, 4545, 3030, 18922}, // IfcFastener.CorrectPredefinedType
-    {559, 4544, 4175, 4546, 3030, 18957}, // IfcFastener.CorrectTypeAssigned
-    {560, 4547, 4173, 4548, 3030, 18981}, // IfcFastenerType.CorrectPredefinedType
-    {564, 3467, 4549, 4550, 3030, 19008}, // IfcFeatureElementSubtraction.HasNoSubtraction
-    {564, 3467, 4551, 4552, 3030, 19020}, // IfcFeatureElementSubtraction.IsNotFilling
-    {565, 3470, 4553, 3471, 3030, 2932}, // IfcFillAreaStyle.MaxOneColour
-    {565, 3470, 4554, 3472, 3030, 2951}, // IfcFillAreaStyle.MaxOneExtHatchStyle
-    {565, 3470, 4555, 3474, 3030, 2970}, // IfcFillAreaStyle.ConsistentHatchStyleDef
-    {566, 3475, 4556, 3477, 3030, 2984}, // IfcFillAreaStyleHatching.PatternStart2D
-    {566, 3475, 4557, 3479, 3030, 3001}, // IfcFillAreaStyleHatching.RefHatchLine2D
-    {574, 4558, 4173, 4559, 3030, 19032}, // IfcFilter.CorrectPredefinedType
-    {574, 4558, 4175, 4560, 3030, 19067}, // IfcFilter.CorrectTypeAssigned
-    {575, 3480, 4173, 3481, 3030, 3018}, // IfcFilterType.CorrectPredefinedType
-    {577, 4561, 4173, 4562, 3030, 19091}, // IfcFireSuppressionTerminal.CorrectPredefinedType
-    {577, 4561, 4175, 4563, 3030, 19126}, // IfcFireSuppressionTerminal.CorrectTypeAssigned
-    {578, 4564, 4173, 4565, 3030, 19150}, // IfcFireSuppressionTerminalType.CorrectPredefinedType
-    {580, 4566, 4567, 4568, 3030, 19177}, // IfcFixedReferenceSweptAreaSolid.DirectrixBounded
-    {586, 4569, 4173, 4570, 3030, 19210}, // IfcFlowInstrument.CorrectPredefinedType
-    {586, 4569, 4175, 4571, 3030, 19245}, // IfcFlowInstrument.CorrectTypeAssigned
-    {587, 4572, 4173, 4573, 3030, 19269}, // IfcFlowInstrumentType.CorrectPredefinedType
-    {589, 4574, 4173, 4575, 3030, 19296}, // IfcFlowMeter.CorrectPredefinedType
-    {589, 4574, 4175, 4576, 3030, 19331}, // IfcFlowMeter.CorrectTypeAssigned
-    {590, 3482, 4173, 3483, 3030, 3045}, // IfcFlowMeterType.CorrectPredefinedType
-    {606, 3484, 4173, 4577, 3030, 19355}, // IfcFooting.CorrectPredefinedType
-    {606, 3484, 4175, 4578, 3030, 19390}, // IfcFooting.CorrectTypeAssigned
-    {607, 4579, 4173, 4580, 3030, 19414}, // IfcFootingType.CorrectPredefinedType
-    {614, 4581, 4173, 4582, 3030, 19441}, // IfcFurniture.CorrectPredefinedType
-    {614, 4581, 4175, 4583, 3030, 19476}, // IfcFurniture.CorrectTypeAssigned
-    {616, 4584, 4173, 4585, 3030, 19500}, // IfcFurnitureType.CorrectPredefinedType
-    {623, 4586, 4173, 4587, 3030, 19527}, // IfcGeographicElement.CorrectPredefinedType
-    {623, 4586, 4175, 4588, 3030, 19562}, // IfcGeographicElement.CorrectTypeAssigned
-    {624, 4589, 4173, 4590, 3030, 19586}, // IfcGeographicElementType.CorrectPredefinedType
-    {626, 3494, 4591, 3495, 3030, 3141}, // IfcGeometricCurveSet.NoSurfaces
-    {628, 3496, 4592, 4593, 3030, 19613}, // IfcGeometricRepresentationContext.North2D
-    {630, 3499, 4594, 3500, 3030, 3163}, // IfcGeometricRepresentationSubContext.ParentNoSub
-    {630, 3499, 4595, 3501, 3030, 3170}, // IfcGeometricRepresentationSubContext.UserTargetProvided
-    {630, 3499, 4596, 4597, 3030, 19632}, // IfcGeometricRepresentationSubContext.NoCoordOperation
-    {631, 3502, 4599, 3503, 3030, 3231}, // IfcGeometricSet.ConsistentDim
-    {652, 3506, 3028, 3507, 3030, 3276}, // IfcGridAxis.WR1
-    {652, 3506, 3033, 3508, 3030, 3285}, // IfcGridAxis.WR2
-    {662, 4602, 4173, 4603, 3030, 19665}, // IfcHeatExchanger.CorrectPredefinedType
-    {662, 4602, 4175, 4604, 3030, 19700}, // IfcHeatExchanger.CorrectTypeAssigned
-    {663, 3520, 4173, 3521, 3030, 3310}, // IfcHeatExchangerType.CorrectPredefinedType
-    {668, 4605, 4173, 4606, 3030, 19724}, // IfcHumidifier.CorrectPredefinedType
-    {668, 4605, 4175, 4607, 3030, 19759}, // IfcHumidifier.CorrectTypeAssigned
-    {669, 3522, 4173, 3523, 3030, 3337}, // IfcHumidifierType.CorrectPredefinedType
-    {683, 4611, 4612, 4613, 3030, 19793}, // IfcIndexedPolyCurve.Consecutive
-    {693, 4617, 4173, 4618, 3030, 19810}, // IfcInterceptor.CorrectPredefinedType
-    {693, 4617, 4175, 4619, 3030, 19845}, // IfcInterceptor.CorrectTypeAssigned
-    {694, 4620, 4173, 4621, 3030, 19869}, // IfcInterceptorType.CorrectPredefinedType
-    {698, 4622, 4623, 4624, 3030, 19896}, // IfcIntersectionCurve.TwoPCurves
-    {698, 4622, 4626, 4627, 3030, 19908}, // IfcIntersectionCurve.DistinctSurfaces
-    {704, 3525, 4215, 4608, 3030, 19783}, // IfcIShapeProfileDef.ValidFlangeThickness
-    {704, 3525, 4217, 3527, 3030, 3374}, // IfcIShapeProfileDef.ValidWebThickness
-    {704, 3525, 4609, 3528, 3030, 3381}, // IfcIShapeProfileDef.ValidFilletRadius
-    {706, 4628, 4173, 4629, 3030, 19933}, // IfcJunctionBox.CorrectPredefinedType
-    {706, 4628, 4175, 4630, 3030, 19968}, // IfcJunctionBox.CorrectTypeAssigned
-    {707, 4631, 4173, 4632, 3030, 19992}, // IfcJunctionBoxType.CorrectPredefinedType
-    {716, 4635, 4173, 4636, 3030, 20042}, // IfcLaborResource.CorrectPredefinedType
-    {717, 4637, 4173, 4638, 3030, 20077}, // IfcLaborResourceType.CorrectPredefinedType
-    {720, 4639, 4173, 4640, 3030, 20104}, // IfcLamp.CorrectPredefinedType
-    {720, 4639, 4175, 4641, 3030, 20139}, // IfcLamp.CorrectTypeAssigned
-    {721, 4642, 4173, 4643, 3030, 20163}, // IfcLampType.CorrectPredefinedType
-    {734, 4650, 4173, 4651, 3030, 20190}, // IfcLightFixture.CorrectPredefinedType
-    {734, 4650, 4175, 4652, 3030, 20225}, // IfcLightFixture.CorrectTypeAssigned
-    {735, 4653, 4173, 4654, 3030, 20249}, // IfcLightFixtureType.CorrectPredefinedType
-    {744, 3537, 4235, 3538, 3030, 3480}, // IfcLine.SameDim
-    {764, 3540, 3073, 3541, 3030, 3491}, // IfcLocalPlacement.WR21
-    {770, 3531, 4633, 4634, 3030, 20019}, // IfcLShapeProfileDef.ValidThickness
-    {793, 3549, 4666, 3550, 3030, 3506}, // IfcMaterialDefinitionRepresentation.OnlyStyledRepresentations
-    {794, 3551, 4667, 4668, 3030, 20276}, // IfcMaterialLayer.NormalizedPriority
-    {799, 4669, 4667, 4668, 3030, 20276}, // IfcMaterialProfile.NormalizedPriority
-    {811, 4674, 4173, 4675, 3030, 20300}, // IfcMechanicalFastener.CorrectPredefinedType
-    {811, 4674, 4175, 4676, 3030, 20335}, // IfcMechanicalFastener.CorrectTypeAssigned
-    {812, 4677, 4173, 4678, 3030, 20359}, // IfcMechanicalFastenerType.CorrectPredefinedType
-    {816, 4679, 4173, 4680, 3030, 20386}, // IfcMedicalDevice.CorrectPredefinedType
-    {816, 4679, 4175, 4681, 3030, 20421}, // IfcMedicalDevice.CorrectTypeAssigned
-    {817, 4682, 4173, 4683, 3030, 20445}, // IfcMedicalDeviceType.CorrectPredefinedType
-    {819, 4684, 4173, 4685, 3030, 20472}, // IfcMember.CorrectPredefinedType
-    {819, 4684, 4175, 4686, 3030, 20507}, // IfcMember.CorrectTypeAssigned
-    {820, 4687, 4256, 4257, 3030, 15383}, // IfcMemberStandardCase.HasMaterialProfileSetUsage
-    {821, 4688, 4173, 4689, 3030, 20531}, // IfcMemberType.CorrectPredefinedType
-    {846, 4690, 4173, 4691, 3030, 20596}, // IfcMotorConnection.CorrectPredefinedType
-    {846, 4690, 4175, 4692, 3030, 20631}, // IfcMotorConnection.CorrectTypeAssigned
-    {847, 4693, 4173, 4694, 3030, 20655}, // IfcMotorConnectionType.CorrectPredefinedType
-    {850, 3567, 3028, 3568, 3030, 3682}, // IfcNamedUnit.WR1
-    {858, 3569, 4696, 4697, 3030, 20682}, // IfcObject.UniquePropertySetNames
-    {860, 3587, 3073, 3588, 3030, 3710}, // IfcObjective.WR21
-    {866, 3589, 3126, 3590, 3030, 3737}, // IfcOccupant.WR31
-    {869, 3591, 4712, 3592, 3030, 3756}, // IfcOffsetCurve2D.DimIs2D
-    {870, 3593, 4712, 3594, 3030, 3765}, // IfcOffsetCurve3D.DimIs2D
-    {884, 3607, 4713, 3608, 3030, 3774}, // IfcOrientedEdge.EdgeElementNotOriented
-    {886, 4714, 4173, 4715, 3030, 20699}, // IfcOutlet.CorrectPredefinedType
-    {886, 4714, 4175, 4716, 3030, 20734}, // IfcOutlet.CorrectTypeAssigned
-    {887, 4717, 4173, 4718, 3030, 20758}, // IfcOutletType.CorrectPredefinedType
-    {889, 4720, 4721, 4722, 3030, 20785}, // IfcOwnerHistory.CorrectChangeAction
-    {892, 3611, 4468, 3612, 3030, 3811}, // IfcPath.IsContinuous
-    {896, 4723, 4712, 4724, 3030, 20840}, // IfcPcurve.DimIs2D
-    {903, 3615, 4725, 4726, 3030, 20849}, // IfcPerson.IdentifiablePerson
-    {903, 3615, 4727, 4728, 3030, 20869}, // IfcPerson.ValidSetOfNames
-    {906, 3619, 4361, 3620, 3030, 3830}, // IfcPhysicalComplexQuantity.NoSelfReference
-    {906, 3619, 4509, 4729, 3030, 20890}, // IfcPhysicalComplexQuantity.UniqueQuantityNames
-    {910, 3624, 4173, 4730, 3030, 20897}, // IfcPile.CorrectPredefinedType
-    {910, 3624, 4175, 4731, 3030, 20932}, // IfcPile.CorrectTypeAssigned
-    {912, 4732, 4173, 4733, 3030, 20956}, // IfcPileType.CorrectPredefinedType
-    {914, 4734, 4173, 4735, 3030, 20983}, // IfcPipeFitting.CorrectPredefinedType
-    {914, 4734, 4175, 4736, 3030, 21018}, // IfcPipeFitting.CorrectTypeAssigned
-    {915, 3626, 4173, 3627, 3030, 3876}, // IfcPipeFittingType.CorrectPredefinedType
-    {917, 4737, 4173, 4738, 3030, 21042}, // IfcPipeSegment.CorrectPredefinedType
-    {917, 4737, 4175, 4739, 3030, 21077}, // IfcPipeSegment.CorrectTypeAssigned
-    {918, 3628, 4173, 3629, 3030, 3903}, // IfcPipeSegmentType.CorrectPredefinedType
-    {920, 3630, 4740, 3631, 3030, 3930}, // IfcPixelTexture.MinPixelInS
-    {920, 3630, 4741, 3632, 3030, 3937}, // IfcPixelTexture.MinPixelInT
-    {920, 3630, 4742, 3633, 3030, 3944}, // IfcPixelTexture.NumberOfColours
-    {920, 3630, 4743, 3635, 3030, 3960}, // IfcPixelTexture.SizeOfPixelList
-    {920, 3630, 4744, 4745, 3030, 21101}, // IfcPixelTexture.PixelAsByteAndSameLength
-    {928, 4746, 4173, 4747, 3030, 21143}, // IfcPlate.CorrectPredefinedType
-    {928, 4746, 4175, 4748, 3030, 21178}, // IfcPlate.CorrectTypeAssigned
-    {929, 4749, 4750, 4040, 3030, 6965}, // IfcPlateStandardCase.HasMaterialLayerSetUsage
-    {930, 4751, 4173, 4752, 3030, 21202}, // IfcPlateType.CorrectPredefinedType
-    {937, 3638, 4754, 3639, 3030, 4011}, // IfcPolygonalBoundedHalfSpace.BoundaryDim
-    {937, 3638, 4755, 3640, 3030, 4020}, // IfcPolygonalBoundedHalfSpace.BoundaryType
-    {939, 3641, 4235, 3642, 3030, 4039}, // IfcPolyline.SameDim
-    {940, 3636, 4753, 3637, 3030, 3984}, // IfcPolyLoop.AllPointsSameDim
-    {943, 5183, 4600, 3505, 3030, 3267}, // IfcPositioningElement.HasPlacement
-    {948, 3648, 3028, 3649, 3030, 4066}, // IfcPostalAddress.WR1
-    {963, 4757, 4758, 4759, 3030, 21229}, // IfcPresentationLayerAssignment.ApplicableItems
-    {964, 4760, 4761, 5186, 3030, 30729}, // IfcPresentationLayerWithStyle.ApplicableOnlyToItems
-    {969, 3685, 4763, 3212, 3030, 1146}, // IfcProcedure.HasName
-    {969, 3685, 4173, 4764, 3030, 21300}, // IfcProcedure.CorrectPredefinedType
-    {970, 4765, 4173, 4766, 3030, 21335}, // IfcProcedureType.CorrectPredefinedType
-    {974, 3696, 4767, 4768, 3030, 21362}, // IfcProduct.PlacementForShapeRepresentation
-    {975, 3700, 4769, 3701, 3030, 4340}, // IfcProductDefinitionShape.OnlyShapeModel
-    {983, 3707, 4763, 3212, 3030, 1146}, // IfcProject.HasName
-    {983, 3707, 4773, 4774, 3030, 21412}, // IfcProject.CorrectContext
-    {983, 3707, 4775, 3709, 3030, 4379}, // IfcProject.NoDecomposition
-    {984, 4776, 4777, 4778, 3030, 21445}, // IfcProjectedCRS.IsLengthUnit
-    {996, 3717, 4787, 3718, 3030, 4391}, // IfcPropertyBoundedValue.SameUnitUpperLower
-    {996, 3717, 4788, 4789, 3030, 21463}, // IfcPropertyBoundedValue.SameUnitUpperSet
-    {996, 3717, 4790, 4791, 3030, 21490}, // IfcPropertyBoundedValue.SameUnitLowerSet
-    {999, 3721, 4361, 3722, 3030, 4431}, // IfcPropertyDependencyRelationship.NoSelfReference
-    {1000, 3723, 3073, 4792, 3030, 21517}, // IfcPropertyEnumeratedValue.WR21
-    {1001, 3725, 3131, 3726, 3030, 4470}, // IfcPropertyEnumeration.WR01
-    {1002, 3728, 3126, 3729, 3030, 4498}, // IfcPropertyListValue.WR31
-    {1004, 3730, 4793, 3212, 3030, 1146}, // IfcPropertySet.ExistsName
-    {1004, 3730, 4359, 3258, 3030, 1571}, // IfcPropertySet.UniquePropertyNames
-    {1008, 4798, 4793, 3212, 3030, 1146}, // IfcPropertySetTemplate.ExistsName
-    {1008, 4798, 4359, 4360, 3030, 16573}, // IfcPropertySetTemplate.UniquePropertyNames
-    {1012, 3736, 3073, 4801, 3030, 21557}, // IfcPropertyTableValue.WR21
-    {1012, 3736, 3257, 4802, 3030, 21584}, // IfcPropertyTableValue.WR22
-    {1012, 3736, 3478, 4803, 3030, 21619}, // IfcPropertyTableValue.WR23
-    {1015, 4809, 4173, 4810, 3030, 21654}, // IfcProtectiveDevice.CorrectPredefinedType
-    {1015, 4809, 4175, 4811, 3030, 21689}, // IfcProtectiveDevice.CorrectTypeAssigned
-    {1016, 4812, 4173, 4813, 3030, 21713}, // IfcProtectiveDeviceTrippingUnit.CorrectPredefinedType
-    {1016, 4812, 4175, 4814, 3030, 21748}, // IfcProtectiveDeviceTrippingUnit.CorrectTypeAssigned
-    {1017, 4815, 4173, 4816, 3030, 21772}, // IfcProtectiveDeviceTrippingUnitType.CorrectPredefinedType
-    {1019, 4817, 4173, 4818, 3030, 21799}, // IfcProtectiveDeviceType.CorrectPredefinedType
-    {1021, 3740, 3028, 3212, 3030, 1146}, // IfcProxy.WR1
-    {1022, 4819, 4173, 4820, 3030, 21826}, // IfcPump.CorrectPredefinedType
-    {1022, 4819, 4175, 4821, 3030, 21861}, // IfcPump.CorrectTypeAssigned
-    {1023, 3741, 4173, 3742, 3030, 4591}, // IfcPumpType.CorrectPredefinedType
-    {1025, 3744, 3073, 3745, 3030, 4618}, // IfcQuantityArea.WR21
-    {1025, 3744, 3257, 3746, 3030, 4642}, // IfcQuantityArea.WR22
-    {1026, 3747, 3073, 3748, 3030, 4649}, // IfcQuantityCount.WR21
-    {1027, 3750, 3073, 3751, 3030, 4656}, // IfcQuantityLength.WR21
-    {1027, 3750, 3257, 3752, 3030, 4680}, // IfcQuantityLength.WR22
-    {1030, 3754, 3073, 3755, 3030, 4687}, // IfcQuantityTime.WR21
-    {1030, 3754, 3257, 3756, 3030, 4711}, // IfcQuantityTime.WR22
-    {1031, 3758, 3073, 3759, 3030, 4718}, // IfcQuantityVolume.WR21
-    {1031, 3758, 3257, 3760, 3030, 4742}, // IfcQuantityVolume.WR22
-    {1032, 3762, 3073, 3763, 3030, 4749}, // IfcQuantityWeight.WR21
-    {1032, 3762, 3257, 3764, 3030, 4773}, // IfcQuantityWeight.WR22
-    {1036, 3765, 4173, 3766, 3030, 4780}, // IfcRailing.CorrectPredefinedType
-    {1036, 3765, 4175, 4822, 3030, 21885}, // IfcRailing.CorrectTypeAssigned
-    {1037, 4823, 4173, 4824, 3030, 21909}, // IfcRailingType.CorrectPredefinedType
-    {1045, 3767, 4173, 4825, 3030, 21936}, // IfcRamp.CorrectPredefinedType
-    {1045, 3767, 4175, 4826, 3030, 21971}, // IfcRamp.CorrectTypeAssigned
-    {1046, 4827, 4173, 4828, 3030, 21995}, // IfcRampFlight.CorrectPredefinedType
-    {1046, 4827, 4175, 4829, 3030, 22030}, // IfcRampFlight.CorrectTypeAssigned
-    {1047, 4830, 4173, 4831, 3030, 22054}, // IfcRampFlightType.CorrectPredefinedType
-    {1049, 4832, 4173, 4833, 3030, 22081}, // IfcRampType.CorrectPredefinedType
-    {1053, 4834, 4835, 3770, 3030, 4851}, // IfcRationalBSplineCurveWithKnots.SameNumOfWeightsAndPoints
-    {1053, 4834, 4836, 3772, 3030, 4865}, // IfcRationalBSplineCurveWithKnots.WeightsGreaterZero
-    {1054, 4837, 4838, 4839, 3030, 22127}, // IfcRationalBSplineSurfaceWithKnots.CorrespondingWeightsDataLists
-    {1054, 4837, 4841, 4842, 3030, 22162}, // IfcRationalBSplineSurfaceWithKnots.WeightValuesGreaterZero
-    {1057, 3773, 4298, 3774, 3030, 4890}, // IfcRectangleHollowProfileDef.ValidWallThickness
-    {1057, 3773, 4843, 3776, 3030, 4952}, // IfcRectangleHollowProfileDef.ValidInnerRadius
-    {1057, 3773, 4844, 3775, 3030, 4917}, // IfcRectangleHollowProfileDef.ValidOuterRadius
-    {1060, 3777, 4845, 3778, 3030, 4993}, // IfcRectangularTrimmedSurface.U1AndU2Different
-    {1060, 3777, 4846, 3779, 3030, 5000}, // IfcRectangularTrimmedSurface.V1AndV2Different
-    {1060, 3777, 4847, 3780, 3030, 5007}, // IfcRectangularTrimmedSurface.UsenseCompatible
-    {1060, 3777, 4848, 3781, 3030, 5039}, // IfcRectangularTrimmedSurface.VsenseCompatible
-    {1073, 3782, 4173, 4849, 3030, 22188}, // IfcReinforcingBar.CorrectPredefinedType
-    {1073, 3782, 4175, 4850, 3030, 22223}, // IfcReinforcingBar.CorrectTypeAssigned
-    {1076, 4851, 4173, 4852, 3030, 22247}, // IfcReinforcingBarType.CorrectPredefinedType
-    {1076, 4851, 4853, 4854, 3030, 22274}, // IfcReinforcingBarType.BendingShapeCodeProvided
-    {1080, 4855, 4173, 4856, 3030, 22288}, // IfcReinforcingMesh.CorrectPredefinedType
-    {1080, 4855, 4175, 4857, 3030, 22323}, // IfcReinforcingMesh.CorrectTypeAssigned
-    {1081, 4858, 4173, 4859, 3030, 22347}, // IfcReinforcingMeshType.CorrectPredefinedType
-    {1081, 4858, 4853, 4854, 3030, 22274}, // IfcReinforcingMeshType.BendingShapeCodeProvided
-    {1084, 4860, 4361, 3813, 3030, 5369}, // IfcRelAggregates.NoSelfReference
-    {1085, 3785, 3028, 3786, 3030, 5076}, // IfcRelAssigns.WR1
-    {1087, 3791, 4361, 3792, 3030, 5118}, // IfcRelAssignsToActor.NoSelfReference
-    {1088, 3793, 4361, 3794, 3030, 5141}, // IfcRelAssignsToControl.NoSelfReference
-    {1089, 3795, 4361, 3796, 3030, 5164}, // IfcRelAssignsToGroup.NoSelfReference
-    {1091, 3797, 4361, 3798, 3030, 5187}, // IfcRelAssignsToProcess.NoSelfReference
-    {1092, 3799, 4361, 3800, 3030, 5210}, // IfcRelAssignsToProduct.NoSelfReference
-    {1094, 3801, 4361, 3802, 3030, 5233}, // IfcRelAssignsToResource.NoSelfReference
-    {1103, 3805, 4861, 3806, 3030, 5283}, // IfcRelAssociatesMaterial.NoVoidElement
-    {1103, 3805, 4862, 4863, 3030, 22374}, // IfcRelAssociatesMaterial.AllowedElements
-    {1109, 3808, 4361, 3809, 3030, 5343}, // IfcRelConnectsElements.NoSelfReference
-    {1110, 4864, 4865, 4866, 3030, 22421}, // IfcRelConnectsPathElements.NormalizedRelatingPriorities
-    {1110, 4864, 4867, 4868, 3030, 22462}, // IfcRelConnectsPathElements.NormalizedRelatedPriorities
-    {1111, 4869, 4361, 4870, 3030, 22503}, // IfcRelConnectsPorts.NoSelfReference
-    {1118, 3810, 3126, 3811, 3030, 5350}, // IfcRelContainedInSpatialStructure.WR31
-    {1121, 4871, 4361, 4872, 3030, 22510}, // IfcRelDeclares.NoSelfReference
-    {1125, 4873, 4874, 4875, 3030, 22530}, // IfcRelDefinesByProperties.NoRelatedTypeObject
-    {1131, 4876, 4877, 3809, 3030, 5343}, // IfcRelInterferesElements.NotSelfReference
-    {1132, 3814, 4361, 3813, 3030, 5369}, // IfcRelNests.NoSelfReference
-    {1137, 3818, 4878, 4879, 3030, 22552}, // IfcRelReferencedInSpatialStructure.AllowedRelatedElements
-    {1139, 3822, 4880, 3823, 3030, 5464}, // IfcRelSequence.AvoidInconsistentSequence
-    {1139, 3822, 4881, 4882, 3030, 22579}, // IfcRelSequence.CorrectSequenceType
-    {1141, 3827, 4883, 4884, 3030, 22603}, // IfcRelSpaceBoundary.CorrectPhysOrVirt
-    {1145, 4891, 4892, 4893, 3030, 22651}, // IfcReparametrisedCompositeCurveSegment.PositiveLengthParameter
-    {1149, 3842, 4897, 4898, 3030, 22658}, // IfcRepresentationMap.ApplicableMappedRepr
-    {1158, 3848, 4899, 3849, 3030, 5527}, // IfcRevolvedAreaSolid.AxisStartInXY
-    {1158, 3848, 4900, 3850, 3030, 5541}, // IfcRevolvedAreaSolid.AxisDirectionInXY
-    {1159, 4901, 4536, 4537, 3030, 18851}, // IfcRevolvedAreaSolidTapered.CorrectProfileAssignment
-    {1170, 3851, 4173, 4902, 3030, 22664}, // IfcRoof.CorrectPredefinedType
-    {1170, 3851, 4175, 4903, 3030, 22699}, // IfcRoof.CorrectTypeAssigned
-    {1171, 4904, 4173, 4905, 3030, 22723}, // IfcRoofType.CorrectPredefinedType
-    {1179, 3854, 4906, 3855, 3030, 5573}, // IfcRoundedRectangleProfileDef.ValidRadius
-    {1180, 4907, 4173, 4908, 3030, 22750}, // IfcSanitaryTerminal.CorrectPredefinedType
-    {1180, 4907, 4175, 4909, 3030, 22785}, // IfcSanitaryTerminal.CorrectTypeAssigned
-    {1181, 4910, 4173, 4911, 3030, 22809}, // IfcSanitaryTerminalType.CorrectPredefinedType
-    {1185, 4912, 4623, 4624, 3030, 19896}, // IfcSeamCurve.TwoPCurves
-    {1185, 4912, 4365, 4913, 3030, 22836}, // IfcSeamCurve.SameSurface
-    {1189, 5187, 5188, 3968, 3030, 6357}, // IfcSectionedSolid.DirectrixIs3D
-    {1189, 5187, 4915, 3862, 3030, 5618}, // IfcSectionedSolid.ConsistentProfileTypes
-    {1189, 5187, 5189, 5190, 3030, 30763}, // IfcSectionedSolid.SectionsSameType
-    {1190, 5191, 4914, 3861, 3030, 5607}, // IfcSectionedSolidHorizontal.CorrespondingSectionPositions
-    {1190, 5191, 5192, 5193, 3030, 30790}, // IfcSectionedSolidHorizontal.NoLongitudinalOffsets
-    {1191, 3860, 4914, 3861, 3030, 5607}, // IfcSectionedSpine.CorrespondingSectionPositions
-    {1191, 3860, 4915, 3862, 3030, 5618}, // IfcSectionedSpine.ConsistentProfileTypes
-    {1191, 3860, 4916, 3863, 3030, 5645}, // IfcSectionedSpine.SpineCurveDim
-    {1200, 4917, 4173, 4918, 3030, 22861}, // IfcSensor.CorrectPredefinedType
-    {1200, 4917, 4175, 4919, 3030, 22896}, // IfcSensor.CorrectTypeAssigned
-    {1201, 4920, 4173, 4921, 3030, 22920}, // IfcSensorType.CorrectPredefinedType
-    {1209, 4922, 4173, 4923, 3030, 22947}, // IfcShadingDevice.CorrectPredefinedType
-    {1209, 4922, 4175, 4924, 3030, 22982}, // IfcShadingDevice.CorrectTypeAssigned
-    {1210, 4925, 4173, 4926, 3030, 23006}, // IfcShadingDeviceType.CorrectPredefinedType
-    {1213, 3866, 3164, 3867, 3030, 5673}, // IfcShapeModel.WR11
-    {1214, 3870, 4773, 3871, 3030, 5704}, // IfcShapeRepresentation.CorrectContext
-    {1214, 3870, 4927, 3872, 3030, 5713}, // IfcShapeRepresentation.NoTopologicalItem
-    {1214, 3870, 4928, 3873, 3030, 5756}, // IfcShapeRepresentation.HasRepresentationType
-    {1214, 3870, 4929, 4930, 3030, 23033}, // IfcShapeRepresentation.HasRepresentationIdentifier
-    {1214, 3870, 4931, 3875, 3030, 5765}, // IfcShapeRepresentation.CorrectItemsForType
-    {1235, 3876, 4173, 3877, 3030, 5780}, // IfcSlab.CorrectPredefinedType
-    {1235, 3876, 4175, 4932, 3030, 23042}, // IfcSlab.CorrectTypeAssigned
-    {1236, 4933, 4934, 4935, 3030, 23066}, // IfcSlabElementedCase.HasDecomposition
-    {1237, 4936, 4937, 4040, 3030, 6965}, // IfcSlabStandardCase.HasMaterialLayerSetusage
-    {1238, 4938, 4173, 4939, 3030, 23078}, // IfcSlabType.CorrectPredefinedType
-    {1241, 4940, 4173, 4941, 3030, 23105}, // IfcSolarDevice.CorrectPredefinedType
-    {1241, 4940, 4175, 4942, 3030, 23140}, // IfcSolarDevice.CorrectTypeAssigned
-    {1242, 4943, 4173, 4944, 3030, 23164}, // IfcSolarDeviceType.CorrectPredefinedType
-    {1255, 3878, 4173, 4945, 3030, 23191}, // IfcSpace.CorrectPredefinedType
-    {1255, 3878, 4175, 4946, 3030, 23226}, // IfcSpace.CorrectTypeAssigned
-    {1257, 4948, 4173, 4949, 3030, 23250}, // IfcSpaceHeater.CorrectPredefinedType
-    {1257, 4948, 4175, 4950, 3030, 23285}, // IfcSpaceHeater.CorrectTypeAssigned
-    {1258, 3882, 4173, 3883, 3030, 5815}, // IfcSpaceHeaterType.CorrectPredefinedType
-    {1262, 4951, 4173, 4952, 3030, 23309}, // IfcSpaceType.CorrectPredefinedType
-    {1267, 3889, 3191, 3890, 3030, 5842}, // IfcSpatialStructureElement.WR41
-    {1269, 4954, 4173, 4955, 3030, 23336}, // IfcSpatialZone.CorrectPredefinedType
-    {1269, 4954, 4175, 4956, 3030, 23371}, // IfcSpatialZone.CorrectTypeAssigned
-    {1270, 4957, 4173, 4958, 3030, 23395}, // IfcSpatialZoneType.CorrectPredefinedType
-    {1279, 4959, 4173, 4960, 3030, 23422}, // IfcStackTerminal.CorrectPredefinedType
-    {1279, 4959, 4175, 4961, 3030, 23457}, // IfcStackTerminal.CorrectTypeAssigned
-    {1280, 4962, 4173, 4963, 3030, 23481}, // IfcStackTerminalType.CorrectPredefinedType
-    {1282, 3897, 4173, 4964, 3030, 23508}, // IfcStair.CorrectPredefinedType
-    {1282, 3897, 4175, 4965, 3030, 23543}, // IfcStair.CorrectTypeAssigned
-    {1283, 4966, 4173, 4967, 3030, 23567}, // IfcStairFlight.CorrectPredefinedType
-    {1283, 4966, 4175, 4968, 3030, 23602}, // IfcStairFlight.CorrectTypeAssigned
-    {1284, 4969, 4173, 4970, 3030, 23626}, // IfcStairFlightType.CorrectPredefinedType
-    {1286, 4971, 4173, 4972, 3030, 23653}, // IfcStairType.CorrectPredefinedType
-    {1293, 4974, 4975, 4976, 3030, 23680}, // IfcStructuralAnalysisModel.HasObjectType
-    {1296, 4979, 4980, 4981, 3030, 23698}, // IfcStructuralCurveAction.ProjectedIsGlobal
-    {1296, 4979, 4975, 4982, 3030, 23726}, // IfcStructuralCurveAction.HasObjectType
-    {1296, 4979, 4984, 4985, 3030, 23744}, // IfcStructuralCurveAction.SuitablePredefinedType
-    {1299, 4986, 4975, 4987, 3030, 23752}, // IfcStructuralCurveMember.HasObjectType
-    {1302, 4988, 4975, 4982, 3030, 23726}, // IfcStructuralCurveReaction.HasObjectType
-    {1302, 4988, 4984, 4991, 3030, 23770}, // IfcStructuralCurveReaction.SuitablePredefinedType
-    {1305, 3907, 4992, 3908, 3030, 5897}, // IfcStructuralLinearAction.SuitableLoadType
-    {1305, 3907, 4994, 4995, 3030, 23787}, // IfcStructuralLinearAction.ConstPredefinedType
-    {1308, 4997, 4998, 4999, 3030, 23798}, // IfcStructuralLoadCase.IsLoadCasePredefinedType
-    {1309, 5000, 5001, 5002, 3030, 23809}, // IfcStructuralLoadConfiguration.ValidListSize
-    {1310, 3910, 4975, 5003, 3030, 23828}, // IfcStructuralLoadGroup.HasObjectType
-    {1321, 3920, 4992, 3921, 3030, 5932}, // IfcStructuralPlanarAction.SuitableLoadType
-    {1321, 3920, 4994, 5004, 3030, 23864}, // IfcStructuralPlanarAction.ConstPredefinedType
-    {1323, 3922, 4992, 3923, 3030, 5954}, // IfcStructuralPointAction.SuitableLoadType
-    {1325, 3924, 4992, 3923, 3030, 5954}, // IfcStructuralPointReaction.SuitableLoadType
-    {1328, 3931, 4975, 5005, 3030, 23875}, // IfcStructuralResultGroup.HasObjectType
-    {1330, 5006, 4980, 4981, 3030, 23698}, // IfcStructuralSurfaceAction.ProjectedIsGlobal
-    {1330, 5006, 4975, 5007, 3030, 23893}, // IfcStructuralSurfaceAction.HasObjectType
-    {1333, 5008, 4975, 5009, 3030, 23911}, // IfcStructuralSurfaceMember.HasObjectType
-    {1336, 5010, 5011, 5007, 3030, 23893}, // IfcStructuralSurfaceReaction.HasPredefinedType
-    {1340, 3950, 5012, 3952, 3030, 6188}, // IfcStyledItem.ApplicableItem
-    {1341, 3953, 5013, 3954, 3030, 6195}, // IfcStyledRepresentation.OnlyStyledItems
-    {1343, 5014, 4173, 5015, 3030, 23929}, // IfcSubContractResource.CorrectPredefinedType
-    {1344, 5016, 4173, 5017, 3030, 23964}, // IfcSubContractResourceType.CorrectPredefinedType
-    {1348, 5018, 5019, 5020, 3030, 23991}, // IfcSurfaceCurve.CurveIs3D
-    {1348, 5018, 5021, 5022, 3030, 24000}, // IfcSurfaceCurve.CurveIsNotPcurve
-    {1349, 5023, 4567, 4568, 3030, 19177}, // IfcSurfaceCurveSweptAreaSolid.DirectrixBounded
-    {1350, 5024, 4975, 5025, 3030, 24007}, // IfcSurfaceFeature.HasObjectType
-    {1352, 3955, 5026, 3956, 3030, 6218}, // IfcSurfaceOfLinearExtrusion.DepthGreaterZero
-    {1355, 5027, 5028, 5029, 3030, 24033}, // IfcSurfaceReinforcementArea.SurfaceAndOrShearAreaSpecified
-    {1355, 5027, 5030, 5031, 3030, 24053}, // IfcSurfaceReinforcementArea.NonnegativeArea1
-    {1355, 5027, 5032, 5033, 3030, 24103}, // IfcSurfaceReinforcementArea.NonnegativeArea2
-    {1355, 5027, 5034, 5035, 3030, 24153}, // IfcSurfaceReinforcementArea.NonnegativeArea3
-    {1357, 3957, 5036, 3958, 3030, 6252}, // IfcSurfaceStyle.MaxOneShading
-    {1357, 3957, 5037, 3959, 3030, 6271}, // IfcSurfaceStyle.MaxOneLighting
-    {1357, 3957, 5038, 3960, 3030, 6290}, // IfcSurfaceStyle.MaxOneRefraction
-    {1357, 3957, 5039, 3962, 3030, 6309}, // IfcSurfaceStyle.MaxOneTextures
-    {1357, 3957, 5040, 3964, 3030, 6328}, // IfcSurfaceStyle.MaxOneExtDefined
-    {1366, 3965, 5046, 3966, 3030, 6347}, // IfcSweptAreaSolid.SweptAreaType
-    {1367, 3967, 5047, 3968, 3030, 6357}, // IfcSweptDiskSolid.DirectrixDim
-    {1367, 3967, 5048, 3969, 3030, 6366}, // IfcSweptDiskSolid.InnerRadiusSize
-    {1367, 3967, 4567, 4568, 3030, 19177}, // IfcSweptDiskSolid.DirectrixBounded
-    {1368, 5049, 5050, 5051, 3030, 24168}, // IfcSweptDiskSolidPolygonal.CorrectRadii
-    {1368, 5049, 5052, 5053, 3030, 24186}, // IfcSweptDiskSolidPolygonal.DirectrixIsPolyline
-    {1369, 3970, 5054, 3972, 3030, 6388}, // IfcSweptSurface.SweptCurveType
-    {1370, 5055, 4173, 5056, 3030, 24218}, // IfcSwitchingDevice.CorrectPredefinedType
-    {1370, 5055, 4175, 5057, 3030, 24253}, // IfcSwitchingDevice.CorrectTypeAssigned
-    {1371, 5058, 4173, 5059, 3030, 24277}, // IfcSwitchingDeviceType.CorrectPredefinedType
-    {1376, 5060, 4173, 5061, 3030, 24304}, // IfcSystemFurnitureElement.CorrectPredefinedType
-    {1376, 5060, 4175, 5062, 3030, 24339}, // IfcSystemFurnitureElement.CorrectTypeAssigned
-    {1377, 5063, 4173, 5064, 3030, 24363}, // IfcSystemFurnitureElementType.CorrectPredefinedType
-    {1379, 3979, 3028, 3980, 3030, 6412}, // IfcTable.WR1
-    {1379, 3979, 3033, 3981, 3030, 6443}, // IfcTable.WR2
-    {1382, 5065, 4173, 5066, 3030, 24390}, // IfcTank.CorrectPredefinedType
-    {1382, 5065, 4175, 5067, 3030, 24425}, // IfcTank.CorrectTypeAssigned
-    {1383, 3985, 4173, 3986, 3030, 6503}, // IfcTankType.CorrectPredefinedType
-    {1385, 3987, 4763, 3212, 3030, 1146}, // IfcTask.HasName
-    {1385, 3987, 4173, 5068, 3030, 24449}, // IfcTask.CorrectPredefinedType
-    {1389, 5069, 4173, 5070, 3030, 24484}, // IfcTaskType.CorrectPredefinedType
-    {1391, 3988, 5071, 5072, 3030, 24511}, // IfcTelecomAddress.MinimumDataProvided
-    {1394, 3990, 4173, 5073, 3030, 24552}, // IfcTendon.CorrectPredefinedType
-    {1394, 3990, 4175, 5074, 3030, 24587}, // IfcTendon.CorrectTypeAssigned
-    {1395, 5075, 4173, 5076, 3030, 24611}, // IfcTendonAnchor.CorrectPredefinedType
-    {1395, 5075, 4175, 5077, 3030, 24646}, // IfcTendonAnchor.CorrectTypeAssigned
-    {1396, 5078, 4173, 5079, 3030, 24670}, // IfcTendonAnchorType.CorrectPredefinedType
-    {1401, 5080, 4173, 5081, 3030, 24697}, // IfcTendonType.CorrectPredefinedType
-    {1412, 3992, 3126, 3993, 3030, 6591}, // IfcTextLiteralWithExtent.WR31
-    {1415, 3994, 5087, 3995, 3030, 6598}, // IfcTextStyleFontModel.MeasureOfFontSize
-    {1450, 4007, 3073, 4008, 3030, 6664}, // IfcTopologyRepresentation.WR21
-    {1450, 4007, 3257, 3873, 3030, 5756}, // IfcTopologyRepresentation.WR22
-    {1450, 4007, 3478, 4010, 3030, 6687}, // IfcTopologyRepresentation.WR23
-    {1451, 5089, 5090, 5091, 3030, 24724}, // IfcToroidalSurface.MajorLargerMinor
-    {1456, 5092, 4173, 5093, 3030, 24731}, // IfcTransformer.CorrectPredefinedType
-    {1456, 5092, 4175, 5095, 3030, 30811}, // IfcTransformer.CorrectTypeAssigned
-    {1457, 5096, 4173, 5097, 3030, 24793}, // IfcTransformerType.CorrectPredefinedType
-    {1465, 5098, 4173, 5099, 3030, 24820}, // IfcTransportElement.CorrectPredefinedType
-    {1465, 5098, 4175, 5100, 3030, 24855}, // IfcTransportElement.CorrectTypeAssigned
-    {1468, 5101, 4173, 5102, 3030, 24879}, // IfcTransportElementType.CorrectPredefinedType
-    {1473, 5196, 5197, 5198, 3030, 30838}, // IfcTriangulatedIrregularNetwork.NotClosed
-    {1474, 4011, 5103, 4012, 3030, 6702}, // IfcTrimmedCurve.Trim1ValuesConsistent
-    {1474, 4011, 5104, 4013, 3030, 6729}, // IfcTrimmedCurve.Trim2ValuesConsistent
-    {1474, 4011, 5105, 4015, 3030, 6756}, // IfcTrimmedCurve.NoTrimOfBoundedCurves
-    {1477, 3976, 4215, 3977, 3030, 6398}, // IfcTShapeProfileDef.ValidFlangeThickness
-    {1477, 3976, 4217, 3978, 3030, 6405}, // IfcTShapeProfileDef.ValidWebThickness
-    {1478, 5106, 4173, 5107, 3030, 24912}, // IfcTubeBundle.CorrectPredefinedType
-    {1478, 5106, 4175, 5108, 3030, 24947}, // IfcTubeBundle.CorrectTypeAssigned
-    {1479, 4016, 4173, 4017, 3030, 6763}, // IfcTubeBundleType.CorrectPredefinedType
-    {1486, 4018, 5109, 3212, 3030, 1146}, // IfcTypeObject.NameRequired
-    {1486, 4018, 4696, 5111, 3030, 24971}, // IfcTypeObject.UniquePropertySetNames
-    {1488, 4021, 5114, 5115, 3030, 24986}, // IfcTypeProduct.ApplicableOccurrence
-    {1493, 5117, 4173, 5118, 3030, 25028}, // IfcUnitaryControlElement.CorrectPredefinedType
-    {1493, 5117, 4175, 5119, 3030, 25063}, // IfcUnitaryControlElement.CorrectTypeAssigned
-    {1494, 5120, 4173, 5121, 3030, 25087}, // IfcUnitaryControlElementType.CorrectPredefinedType
-    {1496, 5122, 4173, 5123, 3030, 25114}, // IfcUnitaryEquipment.CorrectPredefinedType
-    {1496, 5122, 4175, 5124, 3030, 25149}, // IfcUnitaryEquipment.CorrectTypeAssigned
-    {1497, 4028, 4173, 4029, 3030, 6849}, // IfcUnitaryEquipmentType.CorrectPredefinedType
-    {1499, 4026, 3131, 4027, 3030, 6842}, // IfcUnitAssignment.WR01
-    {1502, 4023, 4215, 4024, 3030, 6832}, // IfcUShapeProfileDef.ValidFlangeThickness
-    {1502, 4023, 4217, 3978, 3030, 6405}, // IfcUShapeProfileDef.ValidWebThickness
-    {1504, 5125, 4173, 5126, 3030, 25173}, // IfcValve.CorrectPredefinedType
-    {1504, 5125, 4175, 5127, 3030, 25208}, // IfcValve.CorrectTypeAssigned
-    {1505, 4030, 4173, 4031, 3030, 6876}, // IfcValveType.CorrectPredefinedType
-    {1508, 4032, 5128, 4033, 3030, 6903}, // IfcVector.MagGreaterOrEqualZero
-    {1521, 5129, 4173, 5130, 3030, 25232}, // IfcVibrationIsolator.CorrectPredefinedType
-    {1521, 5129, 4175, 5131, 3030, 25267}, // IfcVibrationIsolator.CorrectTypeAssigned
-    {1522, 4034, 4173, 4035, 3030, 6916}, // IfcVibrationIsolatorType.CorrectPredefinedType
-    {1528, 5132, 4975, 5133, 3030, 25291}, // IfcVoidingFeature.HasObjectType
-    {1535, 4036, 4173, 5134, 3030, 25317}, // IfcWall.CorrectPredefinedType
-    {1535, 4036, 4175, 5135, 3030, 25352}, // IfcWall.CorrectTypeAssigned
-    {1536, 5136, 4934, 4935, 3030, 23066}, // IfcWallElementedCase.HasDecomposition
-    {1537, 4039, 4750, 4040, 3030, 6965}, // IfcWallStandardCase.HasMaterialLayerSetUsage
-    {1538, 5137, 4173, 5138, 3030, 25376}, // IfcWallType.CorrectPredefinedType
-    {1543, 5139, 4173, 5140, 3030, 25403}, // IfcWasteTerminal.CorrectPredefinedType
-    {1543, 5139, 4175, 5141, 3030, 25438}, // IfcWasteTerminal.CorrectTypeAssigned
-    {1544, 5142, 4173, 5143, 3030, 25462}, // IfcWasteTerminalType.CorrectPredefinedType
-    {1550, 5144, 4449, 5145, 3030, 25489}, // IfcWindow.CorrectStyleAssigned
-    {1551, 4042, 3126, 4451, 3030, 17628}, // IfcWindowLiningProperties.WR31
-    {1551, 4042, 3377, 4043, 3030, 6996}, // IfcWindowLiningProperties.WR32
-    {1551, 4042, 3379, 4044, 3030, 7011}, // IfcWindowLiningProperties.WR33
-    {1551, 4042, 3381, 5146, 3030, 25513}, // IfcWindowLiningProperties.WR34
-    {1554, 5147, 4454, 5146, 3030, 25513}, // IfcWindowPanelProperties.ApplicableToType
-    {1559, 5148, 4173, 5149, 3030, 25551}, // IfcWindowType.CorrectPredefinedType
-    {1562, 5150, 4173, 5151, 3030, 25578}, // IfcWorkCalendar.CorrectPredefinedType
-    {1566, 5152, 4173, 5153, 3030, 25613}, // IfcWorkPlan.CorrectPredefinedType
-    {1568, 5154, 4173, 5155, 3030, 25648}, // IfcWorkSchedule.CorrectPredefinedType
-    {1572, 4049, 3028, 5156, 3030, 25683}, // IfcZone.WR1
-    {1573, 4048, 4215, 4024, 3030, 6832}, // IfcZShapeProfileDef.ValidFlangeThickness
+    {8, 3129, 3028, 3130, 3131, 408}, // IfcActorRole.WR1
+    {10, 4469, 4470, 4471, 3390, 14421}, // IfcActuator.CorrectPredefinedType
+    {10, 4469, 4472, 4473, 4474, 14456}, // IfcActuator.CorrectTypeAssigned
+    {11, 4475, 4470, 4476, 3141, 14480}, // IfcActuatorType.CorrectPredefinedType
+    {13, 3132, 3028, 3133, 3134, 432}, // IfcAddress.WR1
+    {15, 4477, 4478, 4479, 4480, 14507}, // IfcAdvancedBrep.HasAdvancedFaces
+    {16, 4481, 4482, 4483, 4484, 14532}, // IfcAdvancedBrepWithVoids.VoidsHaveAdvancedFaces
+    {17, 4485, 4486, 4487, 4488, 14567}, // IfcAdvancedFace.ApplicableSurface
+    {17, 4485, 4489, 4490, 4491, 14592}, // IfcAdvancedFace.RequiresEdgeCurve
+    {17, 4485, 4492, 4493, 4494, 14653}, // IfcAdvancedFace.ApplicableEdgeCurves
+    {19, 4495, 4470, 4496, 3390, 14737}, // IfcAirTerminal.CorrectPredefinedType
+    {19, 4495, 4472, 4497, 4498, 14772}, // IfcAirTerminal.CorrectTypeAssigned
+    {20, 4499, 4470, 4500, 3390, 14796}, // IfcAirTerminalBox.CorrectPredefinedType
+    {20, 4499, 4472, 4501, 4502, 14831}, // IfcAirTerminalBox.CorrectTypeAssigned
+    {21, 3139, 4470, 3140, 3141, 464}, // IfcAirTerminalBoxType.CorrectPredefinedType
+    {23, 3142, 4470, 3143, 3141, 491}, // IfcAirTerminalType.CorrectPredefinedType
+    {25, 4503, 4470, 4504, 3390, 14855}, // IfcAirToAirHeatRecovery.CorrectPredefinedType
+    {25, 4503, 4472, 4505, 4506, 14890}, // IfcAirToAirHeatRecovery.CorrectTypeAssigned
+    {26, 3144, 4470, 3145, 3141, 518}, // IfcAirToAirHeatRecoveryType.CorrectPredefinedType
+    {28, 4507, 4470, 4508, 3390, 14914}, // IfcAlarm.CorrectPredefinedType
+    {28, 4507, 4472, 4509, 4510, 14949}, // IfcAlarm.CorrectTypeAssigned
+    {29, 4511, 4470, 4512, 3141, 14973}, // IfcAlarmType.CorrectPredefinedType
+    {77, 3182, 4513, 4514, 4515, 15000}, // IfcApproval.HasIdentifierOrName
+    {81, 3189, 3028, 3190, 3191, 708}, // IfcArbitraryClosedProfileDef.WR1
+    {81, 3189, 3034, 3192, 3193, 717}, // IfcArbitraryClosedProfileDef.WR2
+    {81, 3189, 3037, 3194, 3195, 724}, // IfcArbitraryClosedProfileDef.WR3
+    {82, 3197, 3198, 3199, 3200, 731}, // IfcArbitraryOpenProfileDef.WR11
+    {82, 3197, 3201, 3202, 3203, 748}, // IfcArbitraryOpenProfileDef.WR12
+    {83, 3205, 3028, 3206, 3207, 757}, // IfcArbitraryProfileDefWithVoids.WR1
+    {83, 3205, 3034, 3208, 3209, 768}, // IfcArbitraryProfileDefWithVoids.WR2
+    {83, 3205, 3037, 3210, 3211, 790}, // IfcArbitraryProfileDefWithVoids.WR3
+    {93, 4522, 4523, 4524, 4525, 15013}, // IfcAsymmetricIShapeProfileDef.ValidFlangeThickness
+    {93, 4522, 4526, 4527, 4528, 15031}, // IfcAsymmetricIShapeProfileDef.ValidWebThickness
+    {93, 4522, 4529, 4530, 4531, 15046}, // IfcAsymmetricIShapeProfileDef.ValidBottomFilletRadius
+    {93, 4522, 4532, 4533, 4534, 15067}, // IfcAsymmetricIShapeProfileDef.ValidTopFilletRadius
+    {94, 4535, 4470, 4536, 3390, 15088}, // IfcAudioVisualAppliance.CorrectPredefinedType
+    {94, 4535, 4472, 4537, 4538, 15123}, // IfcAudioVisualAppliance.CorrectTypeAssigned
+    {95, 4539, 4470, 4540, 3141, 15147}, // IfcAudioVisualApplianceType.CorrectPredefinedType
+    {97, 3215, 4541, 3216, 3217, 834}, // IfcAxis1Placement.AxisIs3D
+    {97, 3215, 4542, 3218, 3219, 851}, // IfcAxis1Placement.LocationIs3D
+    {99, 3221, 4543, 3222, 3223, 885}, // IfcAxis2Placement2D.RefDirIs2D
+    {99, 3221, 4544, 3224, 3225, 902}, // IfcAxis2Placement2D.LocationIs2D
+    {100, 3227, 4542, 3218, 3219, 851}, // IfcAxis2Placement3D.LocationIs3D
+    {100, 3227, 4541, 3216, 3217, 834}, // IfcAxis2Placement3D.AxisIs3D
+    {100, 3227, 4545, 3228, 3229, 922}, // IfcAxis2Placement3D.RefDirIs3D
+    {100, 3227, 4546, 3231, 3232, 939}, // IfcAxis2Placement3D.AxisToRefDirPosition
+    {100, 3227, 4547, 3234, 3235, 969}, // IfcAxis2Placement3D.AxisAndRefDirProvision
+    {103, 4571, 4470, 4572, 3390, 15324}, // IfcBeam.CorrectPredefinedType
+    {103, 4571, 4472, 4573, 4574, 15359}, // IfcBeam.CorrectTypeAssigned
+    {104, 4575, 4576, 4577, 4578, 15383}, // IfcBeamStandardCase.HasMaterialProfileSetUsage
+    {105, 4579, 4470, 4580, 3141, 15414}, // IfcBeamType.CorrectPredefinedType
+    {115, 3246, 4581, 3247, 3248, 1043}, // IfcBlobTexture.SupportedRasterFormat
+    {115, 3246, 4582, 4583, 4584, 15441}, // IfcBlobTexture.RasterCodeByteStream
+    {117, 4585, 4470, 4586, 3390, 15453}, // IfcBoiler.CorrectPredefinedType
+    {117, 4585, 4472, 4587, 4588, 15488}, // IfcBoiler.CorrectTypeAssigned
+    {118, 3249, 4470, 3250, 3141, 1061}, // IfcBoilerType.CorrectPredefinedType
+    {121, 3251, 4590, 4591, 4592, 30706}, // IfcBooleanClippingResult.FirstOperandType
+    {121, 3251, 4593, 3254, 3255, 1101}, // IfcBooleanClippingResult.SecondOperandType
+    {121, 3251, 4594, 3257, 3258, 1107}, // IfcBooleanClippingResult.OperatorType
+    {124, 3259, 4548, 3260, 3261, 1115}, // IfcBooleanResult.SameDim
+    {124, 3259, 4595, 4596, 4597, 15535}, // IfcBooleanResult.FirstOperandClosed
+    {124, 3259, 4598, 4599, 4600, 15558}, // IfcBooleanResult.SecondOperandClosed
+    {128, 4601, 4602, 3118, 3119, 391}, // IfcBoundaryCurve.IsClosed
+    {137, 3262, 4603, 3263, 3264, 1136}, // IfcBoxedHalfSpace.UnboundedSurface
+    {142, 3237, 4548, 3239, 3240, 991}, // IfcBSplineCurve.SameDim
+    {144, 4550, 4551, 4552, 4553, 15190}, // IfcBSplineCurveWithKnots.ConsistentBSpline
+    {144, 4550, 4554, 4555, 4556, 15205}, // IfcBSplineCurveWithKnots.CorrespondingKnotLists
+    {147, 4558, 4559, 4560, 4561, 15252}, // IfcBSplineSurfaceWithKnots.UDirectionConstraints
+    {147, 4558, 4562, 4563, 4564, 15273}, // IfcBSplineSurfaceWithKnots.VDirectionConstraints
+    {147, 4558, 4565, 4566, 4567, 15294}, // IfcBSplineSurfaceWithKnots.CorrespondingULists
+    {147, 4558, 4568, 4569, 4570, 15303}, // IfcBSplineSurfaceWithKnots.CorrespondingVLists
+    {149, 4604, 4605, 4318, 4319, 6943}, // IfcBuildingElement.MaxOneMaterialAssociation
+    {151, 4606, 4470, 4607, 3390, 15581}, // IfcBuildingElementPart.CorrectPredefinedType
+    {151, 4606, 4472, 4608, 4609, 15616}, // IfcBuildingElementPart.CorrectTypeAssigned
+    {152, 4610, 4470, 4611, 3141, 15640}, // IfcBuildingElementPartType.CorrectPredefinedType
+    {154, 3265, 4612, 3266, 3267, 1146}, // IfcBuildingElementProxy.HasObjectName
+    {154, 3265, 4470, 4613, 3390, 15667}, // IfcBuildingElementProxy.CorrectPredefinedType
+    {154, 3265, 4472, 4614, 4615, 15702}, // IfcBuildingElementProxy.CorrectTypeAssigned
+    {155, 4616, 4470, 4617, 3141, 15726}, // IfcBuildingElementProxyType.CorrectPredefinedType
+    {165, 4618, 4470, 4619, 3390, 15753}, // IfcBurner.CorrectPredefinedType
+    {165, 4618, 4472, 4620, 4621, 15788}, // IfcBurner.CorrectTypeAssigned
+    {166, 4622, 4470, 4623, 3141, 15812}, // IfcBurnerType.CorrectPredefinedType
+    {168, 4629, 4470, 4630, 3390, 15874}, // IfcCableCarrierFitting.CorrectPredefinedType
+    {168, 4629, 4472, 4631, 4632, 15909}, // IfcCableCarrierFitting.CorrectTypeAssigned
+    {169, 3275, 4470, 3276, 3141, 1215}, // IfcCableCarrierFittingType.CorrectPredefinedType
+    {171, 4633, 4470, 4634, 3390, 15933}, // IfcCableCarrierSegment.CorrectPredefinedType
+    {171, 4633, 4472, 4635, 4636, 15968}, // IfcCableCarrierSegment.CorrectTypeAssigned
+    {172, 4637, 4470, 4638, 3141, 15992}, // IfcCableCarrierSegmentType.CorrectPredefinedType
+    {174, 4639, 4470, 4640, 3390, 16019}, // IfcCableFitting.CorrectPredefinedType
+    {174, 4639, 4472, 4641, 4642, 16054}, // IfcCableFitting.CorrectTypeAssigned
+    {175, 4643, 4470, 4644, 3141, 16078}, // IfcCableFittingType.CorrectPredefinedType
+    {177, 4645, 4470, 4646, 3390, 16105}, // IfcCableSegment.CorrectPredefinedType
+    {177, 4645, 4472, 4647, 4648, 16140}, // IfcCableSegment.CorrectTypeAssigned
+    {178, 4649, 4470, 4650, 3141, 16164}, // IfcCableSegmentType.CorrectPredefinedType
+    {185, 3281, 4651, 3282, 3283, 1248}, // IfcCartesianPoint.CP2Dor3D
+    {189, 3284, 4653, 3285, 3286, 1263}, // IfcCartesianTransformationOperator.ScaleGreaterZero
+    {190, 3287, 4654, 3288, 3121, 1284}, // IfcCartesianTransformationOperator2D.DimEqual2
+    {190, 3287, 4655, 3289, 3290, 1294}, // IfcCartesianTransformationOperator2D.Axis1Is2D
+    {190, 3287, 4656, 3291, 3292, 1317}, // IfcCartesianTransformationOperator2D.Axis2Is2D
+    {191, 3294, 4657, 3295, 3296, 1359}, // IfcCartesianTransformationOperator2DnonUniform.Scale2GreaterZero
+    {192, 3297, 4658, 3298, 3299, 1377}, // IfcCartesianTransformationOperator3D.DimIs3D
+    {192, 3297, 4659, 3300, 3301, 1387}, // IfcCartesianTransformationOperator3D.Axis1Is3D
+    {192, 3297, 4660, 3302, 3303, 1410}, // IfcCartesianTransformationOperator3D.Axis2Is3D
+    {192, 3297, 4661, 3304, 3305, 1433}, // IfcCartesianTransformationOperator3D.Axis3Is3D
+    {193, 3306, 4657, 3295, 3296, 1359}, // IfcCartesianTransformationOperator3DnonUniform.Scale2GreaterZero
+    {193, 3306, 4662, 3307, 3308, 1470}, // IfcCartesianTransformationOperator3DnonUniform.Scale3GreaterZero
+    {198, 4663, 4470, 4664, 3390, 16197}, // IfcChiller.CorrectPredefinedType
+    {198, 4663, 4472, 4665, 4666, 16232}, // IfcChiller.CorrectTypeAssigned
+    {199, 3309, 4470, 3310, 3141, 1488}, // IfcChillerType.CorrectPredefinedType
+    {201, 4667, 4470, 4668, 3390, 16256}, // IfcChimney.CorrectPredefinedType
+    {201, 4667, 4472, 4669, 4670, 16291}, // IfcChimney.CorrectTypeAssigned
+    {202, 4671, 4470, 4672, 3141, 16315}, // IfcChimneyType.CorrectPredefinedType
+    {205, 3311, 3028, 3312, 3313, 1515}, // IfcCircleHollowProfileDef.WR1
+    {221, 4679, 4470, 4680, 3390, 16342}, // IfcCoil.CorrectPredefinedType
+    {221, 4679, 4472, 4681, 4682, 16377}, // IfcCoil.CorrectTypeAssigned
+    {222, 3322, 4470, 3323, 3141, 1525}, // IfcCoilType.CorrectPredefinedType
+    {229, 4683, 4470, 4684, 3390, 16401}, // IfcColumn.CorrectPredefinedType
+    {229, 4683, 4472, 4685, 4686, 16436}, // IfcColumn.CorrectTypeAssigned
+    {230, 4687, 4576, 4577, 4578, 15383}, // IfcColumnStandardCase.HasMaterialProfileSetUsage
+    {231, 4688, 4470, 4689, 3141, 16460}, // IfcColumnType.CorrectPredefinedType
+    {233, 4690, 4470, 4691, 3390, 16487}, // IfcCommunicationsAppliance.CorrectPredefinedType
+    {233, 4690, 4472, 4692, 4693, 16522}, // IfcCommunicationsAppliance.CorrectTypeAssigned
+    {234, 4694, 4470, 4695, 3141, 16546}, // IfcCommunicationsApplianceType.CorrectPredefinedType
+    {238, 3324, 3087, 3325, 3326, 1552}, // IfcComplexProperty.WR21
+    {238, 3324, 3328, 3329, 3330, 1571}, // IfcComplexProperty.WR22
+    {239, 4697, 4698, 4699, 4700, 16573}, // IfcComplexPropertyTemplate.UniquePropertyNames
+    {239, 4697, 4701, 4702, 4703, 16580}, // IfcComplexPropertyTemplate.NoSelfReference
+    {241, 3332, 4704, 3333, 3334, 1578}, // IfcCompositeCurve.CurveContinuous
+    {241, 3332, 4548, 3336, 3337, 1636}, // IfcCompositeCurve.SameDim
+    {242, 4705, 4706, 4707, 4708, 16599}, // IfcCompositeCurveOnSurface.SameSurface
+    {243, 3338, 4710, 3339, 3340, 1682}, // IfcCompositeCurveSegment.ParentIsBoundedCurve
+    {244, 3343, 4711, 3344, 3345, 1694}, // IfcCompositeProfileDef.InvariantProfileType
+    {244, 3343, 4712, 3346, 3347, 1721}, // IfcCompositeProfileDef.NoRecursion
+    {246, 4713, 4470, 4714, 3390, 16615}, // IfcCompressor.CorrectPredefinedType
+    {246, 4713, 4472, 4715, 4716, 16650}, // IfcCompressor.CorrectTypeAssigned
+    {247, 3348, 4470, 3349, 3141, 1740}, // IfcCompressorType.CorrectPredefinedType
+    {249, 4717, 4470, 4718, 3390, 16674}, // IfcCondenser.CorrectPredefinedType
+    {249, 4717, 4472, 4719, 4720, 16709}, // IfcCondenser.CorrectTypeAssigned
+    {250, 3350, 4470, 3351, 3141, 1767}, // IfcCondenserType.CorrectPredefinedType
+    {265, 3353, 3198, 3354, 3355, 1794}, // IfcConstraint.WR11
+    {270, 4722, 4470, 4723, 3390, 16733}, // IfcConstructionEquipmentResource.CorrectPredefinedType
+    {271, 4724, 4470, 4725, 4726, 16768}, // IfcConstructionEquipmentResourceType.CorrectPredefinedType
+    {273, 3371, 4470, 4727, 3390, 16795}, // IfcConstructionMaterialResource.CorrectPredefinedType
+    {274, 4728, 4470, 4729, 4726, 16830}, // IfcConstructionMaterialResourceType.CorrectPredefinedType
+    {276, 3377, 4470, 4730, 3390, 16857}, // IfcConstructionProductResource.CorrectPredefinedType
+    {277, 4731, 4470, 4732, 4726, 16892}, // IfcConstructionProductResourceType.CorrectPredefinedType
+    {285, 4738, 4470, 4739, 3390, 16919}, // IfcController.CorrectPredefinedType
+    {285, 4738, 4472, 4740, 4741, 16954}, // IfcController.CorrectTypeAssigned
+    {286, 4742, 4470, 4743, 3141, 16978}, // IfcControllerType.CorrectPredefinedType
+    {293, 4745, 4470, 4746, 3390, 17005}, // IfcCooledBeam.CorrectPredefinedType
+    {293, 4745, 4472, 4747, 4748, 17040}, // IfcCooledBeam.CorrectTypeAssigned
+    {294, 3381, 4470, 3382, 3141, 1883}, // IfcCooledBeamType.CorrectPredefinedType
+    {296, 4749, 4470, 4750, 3390, 17064}, // IfcCoolingTower.CorrectPredefinedType
+    {296, 4749, 4472, 4751, 4752, 17099}, // IfcCoolingTower.CorrectTypeAssigned
+    {297, 3383, 4470, 3384, 3141, 1910}, // IfcCoolingTowerType.CorrectPredefinedType
+    {314, 3387, 4470, 3389, 3390, 1937}, // IfcCovering.CorrectPredefinedType
+    {314, 3387, 4472, 4756, 4757, 17123}, // IfcCovering.CorrectTypeAssigned
+    {315, 4759, 4470, 4760, 3141, 17147}, // IfcCoveringType.CorrectPredefinedType
+    {319, 4761, 4470, 4762, 3390, 17174}, // IfcCrewResource.CorrectPredefinedType
+    {320, 4763, 4470, 4764, 4726, 17209}, // IfcCrewResourceType.CorrectPredefinedType
+    {325, 3268, 4624, 3269, 3270, 1155}, // IfcCShapeProfileDef.ValidGirth
+    {325, 3268, 4625, 4626, 4627, 15839}, // IfcCShapeProfileDef.ValidInternalFilletRadius
+    {325, 3268, 4628, 3273, 3274, 1194}, // IfcCShapeProfileDef.ValidWallThickness
+    {328, 4765, 4470, 4766, 3390, 17236}, // IfcCurtainWall.CorrectPredefinedType
+    {328, 4765, 4472, 4767, 4768, 17271}, // IfcCurtainWall.CorrectTypeAssigned
+    {329, 4769, 4470, 4770, 3141, 17295}, // IfcCurtainWallType.CorrectPredefinedType
+    {342, 3397, 4771, 3398, 3399, 1984}, // IfcCurveStyle.MeasureOfWidth
+    {342, 3397, 4772, 4773, 4774, 17322}, // IfcCurveStyle.IdentifiableCurveStyle
+    {345, 3400, 4775, 3401, 3402, 2013}, // IfcCurveStyleFontPattern.VisibleLengthGreaterEqualZero
+    {348, 4776, 4470, 4777, 3390, 17342}, // IfcDamper.CorrectPredefinedType
+    {348, 4776, 4472, 4778, 4779, 17377}, // IfcDamper.CorrectTypeAssigned
+    {349, 3403, 4470, 3404, 3141, 2020}, // IfcDamperType.CorrectPredefinedType
+    {368, 3405, 4711, 3406, 3407, 2047}, // IfcDerivedProfileDef.InvariantProfileType
+    {369, 3408, 3028, 3409, 3410, 2059}, // IfcDerivedUnit.WR1
+    {369, 3408, 3034, 3411, 3412, 2091}, // IfcDerivedUnit.WR2
+    {382, 4780, 4781, 4782, 4783, 17401}, // IfcDirection.MagnitudeGreaterZero
+    {387, 4784, 4470, 4785, 3390, 17421}, // IfcDiscreteAccessory.CorrectPredefinedType
+    {387, 4784, 4472, 4786, 4787, 17456}, // IfcDiscreteAccessory.CorrectTypeAssigned
+    {388, 4788, 4470, 4789, 3141, 17480}, // IfcDiscreteAccessoryType.CorrectPredefinedType
+    {394, 4790, 4470, 4791, 3390, 17507}, // IfcDistributionChamberElement.CorrectPredefinedType
+    {394, 4790, 4472, 4792, 4793, 17542}, // IfcDistributionChamberElement.CorrectTypeAssigned
+    {395, 4794, 4470, 4795, 3141, 17566}, // IfcDistributionChamberElementType.CorrectPredefinedType
+    {412, 3470, 3028, 4801, 4802, 17593}, // IfcDocumentReference.WR1
+    {415, 4804, 4805, 4806, 4807, 17604}, // IfcDoor.CorrectStyleAssigned
+    {416, 3475, 3150, 4808, 4809, 17628}, // IfcDoorLiningProperties.WR31
+    {416, 3475, 3478, 4810, 4811, 17643}, // IfcDoorLiningProperties.WR32
+    {416, 3475, 3481, 3482, 3483, 2435}, // IfcDoorLiningProperties.WR33
+    {416, 3475, 3484, 3485, 3486, 2462}, // IfcDoorLiningProperties.WR34
+    {416, 3475, 3487, 4812, 4813, 17658}, // IfcDoorLiningProperties.WR35
+    {419, 3490, 4814, 4812, 4813, 17658}, // IfcDoorPanelProperties.ApplicableToType
+    {424, 4815, 4470, 4816, 3141, 17696}, // IfcDoorType.CorrectPredefinedType
+    {431, 3504, 4817, 3505, 3506, 2514}, // IfcDraughtingPreDefinedColour.PreDefinedColourNames
+    {432, 3512, 4818, 3513, 3514, 2550}, // IfcDraughtingPreDefinedCurveFont.PreDefinedCurveFontNames
+    {434, 4819, 4470, 4820, 3390, 17723}, // IfcDuctFitting.CorrectPredefinedType
+    {434, 4819, 4472, 4821, 4822, 17758}, // IfcDuctFitting.CorrectTypeAssigned
+    {435, 3520, 4470, 3521, 3141, 2592}, // IfcDuctFittingType.CorrectPredefinedType
+    {437, 4823, 4470, 4824, 3390, 17782}, // IfcDuctSegment.CorrectPredefinedType
+    {437, 4823, 4472, 4825, 4826, 17817}, // IfcDuctSegment.CorrectTypeAssigned
+    {438, 3522, 4470, 3523, 3141, 2619}, // IfcDuctSegmentType.CorrectPredefinedType
+    {440, 4827, 4470, 4828, 3390, 17841}, // IfcDuctSilencer.CorrectPredefinedType
+    {440, 4827, 4472, 4829, 4830, 17876}, // IfcDuctSilencer.CorrectTypeAssigned
+    {441, 3524, 4470, 3525, 3141, 2646}, // IfcDuctSilencerType.CorrectPredefinedType
+    {456, 3526, 4602, 3527, 3528, 2673}, // IfcEdgeLoop.IsClosed
+    {456, 3526, 4831, 3530, 3531, 2690}, // IfcEdgeLoop.IsContinuous
+    {460, 4832, 4470, 4833, 3390, 17900}, // IfcElectricAppliance.CorrectPredefinedType
+    {460, 4832, 4472, 4834, 4835, 17935}, // IfcElectricAppliance.CorrectTypeAssigned
+    {461, 4836, 4470, 4837, 3141, 17959}, // IfcElectricApplianceType.CorrectPredefinedType
+    {468, 4838, 4470, 4839, 3390, 17986}, // IfcElectricDistributionBoard.CorrectPredefinedType
+    {468, 4838, 4472, 4840, 4841, 18021}, // IfcElectricDistributionBoard.CorrectTypeAssigned
+    {469, 4842, 4470, 4843, 3141, 18045}, // IfcElectricDistributionBoardType.CorrectPredefinedType
+    {473, 4844, 4470, 4845, 3390, 18072}, // IfcElectricFlowStorageDevice.CorrectPredefinedType
+    {473, 4844, 4472, 4846, 4847, 18107}, // IfcElectricFlowStorageDevice.CorrectTypeAssigned
+    {474, 4848, 4470, 4849, 3141, 18131}, // IfcElectricFlowStorageDeviceType.CorrectPredefinedType
+    {479, 4850, 4470, 4851, 3390, 18158}, // IfcElectricGenerator.CorrectPredefinedType
+    {479, 4850, 4472, 4852, 4853, 18193}, // IfcElectricGenerator.CorrectTypeAssigned
+    {480, 4854, 4470, 4855, 3141, 18217}, // IfcElectricGeneratorType.CorrectPredefinedType
+    {484, 4856, 4470, 4857, 3390, 18244}, // IfcElectricMotor.CorrectPredefinedType
+    {484, 4856, 4472, 4858, 4859, 18279}, // IfcElectricMotor.CorrectTypeAssigned
+    {485, 4860, 4470, 4861, 3141, 18303}, // IfcElectricMotorType.CorrectPredefinedType
+    {488, 4862, 4470, 4863, 3390, 18330}, // IfcElectricTimeControl.CorrectPredefinedType
+    {488, 4862, 4472, 4864, 4865, 18365}, // IfcElectricTimeControl.CorrectTypeAssigned
+    {489, 4866, 4470, 4867, 3141, 18389}, // IfcElectricTimeControlType.CorrectPredefinedType
+    {494, 3558, 4470, 4872, 3390, 18416}, // IfcElementAssembly.CorrectPredefinedType
+    {494, 3558, 4472, 4873, 4874, 18451}, // IfcElementAssembly.CorrectTypeAssigned
+    {495, 4875, 4470, 4876, 3141, 18475}, // IfcElementAssemblyType.CorrectPredefinedType
+    {500, 4878, 4879, 4880, 4881, 18502}, // IfcElementQuantity.UniqueQuantityNames
+    {509, 4882, 4470, 4883, 3390, 18509}, // IfcEngine.CorrectPredefinedType
+    {509, 4882, 4472, 4884, 4885, 18544}, // IfcEngine.CorrectTypeAssigned
+    {510, 4886, 4470, 4887, 3141, 18568}, // IfcEngineType.CorrectPredefinedType
+    {516, 4888, 4470, 4889, 3390, 18595}, // IfcEvaporativeCooler.CorrectPredefinedType
+    {516, 4888, 4472, 4890, 4891, 18630}, // IfcEvaporativeCooler.CorrectTypeAssigned
+    {517, 3564, 4470, 3565, 3141, 2789}, // IfcEvaporativeCoolerType.CorrectPredefinedType
+    {519, 4892, 4470, 4893, 3390, 18654}, // IfcEvaporator.CorrectPredefinedType
+    {519, 4892, 4472, 4894, 4895, 18689}, // IfcEvaporator.CorrectTypeAssigned
+    {520, 3566, 4470, 3567, 3141, 2816}, // IfcEvaporatorType.CorrectPredefinedType
+    {522, 4896, 4470, 4897, 3390, 18713}, // IfcEvent.CorrectPredefinedType
+    {522, 4896, 4472, 4898, 4899, 18748}, // IfcEvent.CorrectTypeAssigned
+    {525, 4900, 4470, 4901, 4902, 18780}, // IfcEventType.CorrectPredefinedType
+    {525, 4900, 4903, 4904, 4905, 18807}, // IfcEventType.CorrectEventTriggerType
+    {535, 3568, 3028, 4906, 4907, 18831}, // IfcExternalReference.WR1
+    {540, 3572, 4911, 3573, 3574, 2863}, // IfcExtrudedAreaSolid.ValidExtrusionDirection
+    {541, 4913, 4914, 4915, 4916, 18851}, // IfcExtrudedAreaSolidTapered.CorrectProfileAssignment
+    {542, 3575, 4917, 3576, 3577, 2886}, // IfcFace.HasOuterBound
+    {556, 4920, 4470, 4921, 3390, 18863}, // IfcFan.CorrectPredefinedType
+    {556, 4920, 4472, 4922, 4923, 18898}, // IfcFan.CorrectTypeAssigned
+    {557, 3578, 4470, 3579, 3141, 2905}, // IfcFanType.CorrectPredefinedType
+    {559, 4924, 4470, 4925, 3390, 18922}, // IfcFastener.CorrectPredefinedType
+    {559, 4924, 4472, 4926, 4927, 18957}, // IfcFastener.CorrectTypeAssigned
+    {560, 4928, 4470, 4929, 3141, 18981}, // IfcFastenerType.CorrectPredefinedType
+    {564, 3583, 4930, 4931, 4932, 19008}, // IfcFeatureElementSubtraction.HasNoSubtraction
+    {564, 3583, 4933, 4934, 4935, 19020}, // IfcFeatureElementSubtraction.IsNotFilling
+    {565, 3586, 4936, 3587, 3588, 2932}, // IfcFillAreaStyle.MaxOneColour
+    {565, 3586, 4937, 3589, 3590, 2951}, // IfcFillAreaStyle.MaxOneExtHatchStyle
+    {565, 3586, 4938, 3592, 3593, 2970}, // IfcFillAreaStyle.ConsistentHatchStyleDef
+    {566, 3594, 4939, 3597, 3598, 2984}, // IfcFillAreaStyleHatching.PatternStart2D
+    {566, 3594, 4940, 3600, 3601, 3001}, // IfcFillAreaStyleHatching.RefHatchLine2D
+    {574, 4941, 4470, 4942, 3390, 19032}, // IfcFilter.CorrectPredefinedType
+    {574, 4941, 4472, 4943, 4944, 19067}, // IfcFilter.CorrectTypeAssigned
+    {575, 3602, 4470, 3603, 3141, 3018}, // IfcFilterType.CorrectPredefinedType
+    {577, 4945, 4470, 4946, 3390, 19091}, // IfcFireSuppressionTerminal.CorrectPredefinedType
+    {577, 4945, 4472, 4947, 4948, 19126}, // IfcFireSuppressionTerminal.CorrectTypeAssigned
+    {578, 4949, 4470, 4950, 3141, 19150}, // IfcFireSuppressionTerminalType.CorrectPredefinedType
+    {580, 4951, 4952, 4953, 4954, 19177}, // IfcFixedReferenceSweptAreaSolid.DirectrixBounded
+    {586, 4955, 4470, 4956, 3390, 19210}, // IfcFlowInstrument.CorrectPredefinedType
+    {586, 4955, 4472, 4957, 4958, 19245}, // IfcFlowInstrument.CorrectTypeAssigned
+    {587, 4959, 4470, 4960, 3141, 19269}, // IfcFlowInstrumentType.CorrectPredefinedType
+    {589, 4961, 4470, 4962, 3390, 19296}, // IfcFlowMeter.CorrectPredefinedType
+    {589, 4961, 4472, 4963, 4964, 19331}, // IfcFlowMeter.CorrectTypeAssigned
+    {590, 3604, 4470, 3605, 3141, 3045}, // IfcFlowMeterType.CorrectPredefinedType
+    {606, 3606, 4470, 4965, 3390, 19355}, // IfcFooting.CorrectPredefinedType
+    {606, 3606, 4472, 4966, 4967, 19390}, // IfcFooting.CorrectTypeAssigned
+    {607, 4968, 4470, 4969, 3141, 19414}, // IfcFootingType.CorrectPredefinedType
+    {614, 4970, 4470, 4971, 3390, 19441}, // IfcFurniture.CorrectPredefinedType
+    {614, 4970, 4472, 4972, 4973, 19476}, // IfcFurniture.CorrectTypeAssigned
+    {616, 4974, 4470, 4975, 3141, 19500}, // IfcFurnitureType.CorrectPredefinedType
+    {623, 4976, 4470, 4977, 3390, 19527}, // IfcGeographicElement.CorrectPredefinedType
+    {623, 4976, 4472, 4978, 4979, 19562}, // IfcGeographicElement.CorrectTypeAssigned
+    {624, 4980, 4470, 4981, 3141, 19586}, // IfcGeographicElementType.CorrectPredefinedType
+    {626, 3617, 4982, 3618, 3619, 3141}, // IfcGeometricCurveSet.NoSurfaces
+    {628, 3620, 4983, 4984, 4985, 19613}, // IfcGeometricRepresentationContext.North2D
+    {630, 3623, 4986, 3624, 3625, 3163}, // IfcGeometricRepresentationSubContext.ParentNoSub
+    {630, 3623, 4987, 3626, 3627, 3170}, // IfcGeometricRepresentationSubContext.UserTargetProvided
+    {630, 3623, 4988, 4989, 4990, 19632}, // IfcGeometricRepresentationSubContext.NoCoordOperation
+    {631, 3628, 4992, 3629, 3630, 3231}, // IfcGeometricSet.ConsistentDim
+    {652, 3634, 3028, 3635, 3636, 3276}, // IfcGridAxis.WR1
+    {652, 3634, 3034, 3637, 3638, 3285}, // IfcGridAxis.WR2
+    {662, 4995, 4470, 4996, 3390, 19665}, // IfcHeatExchanger.CorrectPredefinedType
+    {662, 4995, 4472, 4997, 4998, 19700}, // IfcHeatExchanger.CorrectTypeAssigned
+    {663, 3650, 4470, 3651, 3141, 3310}, // IfcHeatExchangerType.CorrectPredefinedType
+    {668, 4999, 4470, 5000, 3390, 19724}, // IfcHumidifier.CorrectPredefinedType
+    {668, 4999, 4472, 5001, 5002, 19759}, // IfcHumidifier.CorrectTypeAssigned
+    {669, 3652, 4470, 3653, 3141, 3337}, // IfcHumidifierType.CorrectPredefinedType
+    {683, 5007, 5008, 5009, 5010, 19793}, // IfcIndexedPolyCurve.Consecutive
+    {693, 5014, 4470, 5015, 3390, 19810}, // IfcInterceptor.CorrectPredefinedType
+    {693, 5014, 4472, 5016, 5017, 19845}, // IfcInterceptor.CorrectTypeAssigned
+    {694, 5018, 4470, 5019, 3141, 19869}, // IfcInterceptorType.CorrectPredefinedType
+    {698, 5020, 5021, 5022, 5023, 19896}, // IfcIntersectionCurve.TwoPCurves
+    {698, 5020, 5025, 5026, 5027, 19908}, // IfcIntersectionCurve.DistinctSurfaces
+    {704, 3655, 4523, 5003, 5004, 19783}, // IfcIShapeProfileDef.ValidFlangeThickness
+    {704, 3655, 4526, 3658, 3659, 3374}, // IfcIShapeProfileDef.ValidWebThickness
+    {704, 3655, 5005, 3660, 3661, 3381}, // IfcIShapeProfileDef.ValidFilletRadius
+    {706, 5028, 4470, 5029, 3390, 19933}, // IfcJunctionBox.CorrectPredefinedType
+    {706, 5028, 4472, 5030, 5031, 19968}, // IfcJunctionBox.CorrectTypeAssigned
+    {707, 5032, 4470, 5033, 3141, 19992}, // IfcJunctionBoxType.CorrectPredefinedType
+    {716, 5037, 4470, 5038, 3390, 20042}, // IfcLaborResource.CorrectPredefinedType
+    {717, 5039, 4470, 5040, 4726, 20077}, // IfcLaborResourceType.CorrectPredefinedType
+    {720, 5041, 4470, 5042, 3390, 20104}, // IfcLamp.CorrectPredefinedType
+    {720, 5041, 4472, 5043, 5044, 20139}, // IfcLamp.CorrectTypeAssigned
+    {721, 5045, 4470, 5046, 3141, 20163}, // IfcLampType.CorrectPredefinedType
+    {734, 5053, 4470, 5054, 3390, 20190}, // IfcLightFixture.CorrectPredefinedType
+    {734, 5053, 4472, 5055, 5056, 20225}, // IfcLightFixture.CorrectTypeAssigned
+    {735, 5057, 4470, 5058, 3141, 20249}, // IfcLightFixtureType.CorrectPredefinedType
+    {744, 3673, 4548, 3674, 3675, 3480}, // IfcLine.SameDim
+    {764, 3677, 3087, 3678, 3679, 3491}, // IfcLocalPlacement.WR21
+    {770, 3665, 5034, 5035, 5036, 20019}, // IfcLShapeProfileDef.ValidThickness
+    {793, 3688, 5070, 3689, 3690, 3506}, // IfcMaterialDefinitionRepresentation.OnlyStyledRepresentations
+    {794, 3691, 5071, 5072, 5073, 20276}, // IfcMaterialLayer.NormalizedPriority
+    {799, 5074, 5071, 5072, 5073, 20276}, // IfcMaterialProfile.NormalizedPriority
+    {811, 5079, 4470, 5080, 3390, 20300}, // IfcMechanicalFastener.CorrectPredefinedType
+    {811, 5079, 4472, 5081, 5082, 20335}, // IfcMechanicalFastener.CorrectTypeAssigned
+    {812, 5083, 4470, 5084, 3141, 20359}, // IfcMechanicalFastenerType.CorrectPredefinedType
+    {816, 5085, 4470, 5086, 3390, 20386}, // IfcMedicalDevice.CorrectPredefinedType
+    {816, 5085, 4472, 5087, 5088, 20421}, // IfcMedicalDevice.CorrectTypeAssigned
+    {817, 5089, 4470, 5090, 3141, 20445}, // IfcMedicalDeviceType.CorrectPredefinedType
+    {819, 5091, 4470, 5092, 3390, 20472}, // IfcMember.CorrectPredefinedType
+    {819, 5091, 4472, 5093, 5094, 20507}, // IfcMember.CorrectTypeAssigned
+    {820, 5095, 4576, 4577, 4578, 15383}, // IfcMemberStandardCase.HasMaterialProfileSetUsage
+    {821, 5096, 4470, 5097, 3141, 20531}, // IfcMemberType.CorrectPredefinedType
+    {846, 5098, 4470, 5099, 3390, 20596}, // IfcMotorConnection.CorrectPredefinedType
+    {846, 5098, 4472, 5100, 5101, 20631}, // IfcMotorConnection.CorrectTypeAssigned
+    {847, 5102, 4470, 5103, 3141, 20655}, // IfcMotorConnectionType.CorrectPredefinedType
+    {850, 3715, 3028, 3716, 3717, 3682}, // IfcNamedUnit.WR1
+    {858, 3718, 5105, 5106, 5107, 20682}, // IfcObject.UniquePropertySetNames
+    {860, 3737, 3087, 3738, 3739, 3710}, // IfcObjective.WR21
+    {866, 3740, 3150, 3741, 3560, 3737}, // IfcOccupant.WR31
+    {869, 3742, 5122, 3743, 3744, 3756}, // IfcOffsetCurve2D.DimIs2D
+    {870, 3745, 5122, 3746, 3747, 3765}, // IfcOffsetCurve3D.DimIs2D
+    {884, 3760, 5123, 3761, 3762, 3774}, // IfcOrientedEdge.EdgeElementNotOriented
+    {886, 5124, 4470, 5125, 3390, 20699}, // IfcOutlet.CorrectPredefinedType
+    {886, 5124, 4472, 5126, 5127, 20734}, // IfcOutlet.CorrectTypeAssigned
+    {887, 5128, 4470, 5129, 3141, 20758}, // IfcOutletType.CorrectPredefinedType
+    {889, 5131, 5132, 5133, 5134, 20785}, // IfcOwnerHistory.CorrectChangeAction
+    {892, 3765, 4831, 3766, 3531, 3811}, // IfcPath.IsContinuous
+    {896, 5135, 5122, 5136, 5137, 20840}, // IfcPcurve.DimIs2D
+    {903, 3769, 5138, 5139, 5140, 20849}, // IfcPerson.IdentifiablePerson
+    {903, 3769, 5141, 5142, 5143, 20869}, // IfcPerson.ValidSetOfNames
+    {906, 3774, 4701, 3775, 3776, 3830}, // IfcPhysicalComplexQuantity.NoSelfReference
+    {906, 3774, 4879, 5144, 5145, 20890}, // IfcPhysicalComplexQuantity.UniqueQuantityNames
+    {910, 3780, 4470, 5146, 3390, 20897}, // IfcPile.CorrectPredefinedType
+    {910, 3780, 4472, 5147, 5148, 20932}, // IfcPile.CorrectTypeAssigned
+    {912, 5149, 4470, 5150, 3141, 20956}, // IfcPileType.CorrectPredefinedType
+    {914, 5151, 4470, 5152, 3390, 20983}, // IfcPipeFitting.CorrectPredefinedType
+    {914, 5151, 4472, 5153, 5154, 21018}, // IfcPipeFitting.CorrectTypeAssigned
+    {915, 3782, 4470, 3783, 3141, 3876}, // IfcPipeFittingType.CorrectPredefinedType
+    {917, 5155, 4470, 5156, 3390, 21042}, // IfcPipeSegment.CorrectPredefinedType
+    {917, 5155, 4472, 5157, 5158, 21077}, // IfcPipeSegment.CorrectTypeAssigned
+    {918, 3784, 4470, 3785, 3141, 3903}, // IfcPipeSegmentType.CorrectPredefinedType
+    {920, 3786, 5159, 3787, 3788, 3930}, // IfcPixelTexture.MinPixelInS
+    {920, 3786, 5160, 3789, 3790, 3937}, // IfcPixelTexture.MinPixelInT
+    {920, 3786, 5161, 3791, 3792, 3944}, // IfcPixelTexture.NumberOfColours
+    {920, 3786, 5162, 3794, 3795, 3960}, // IfcPixelTexture.SizeOfPixelList
+    {920, 3786, 5163, 5164, 5165, 21101}, // IfcPixelTexture.PixelAsByteAndSameLength
+    {928, 5166, 4470, 5167, 3390, 21143}, // IfcPlate.CorrectPredefinedType
+    {928, 5166, 4472, 5168, 5169, 21178}, // IfcPlate.CorrectTypeAssigned
+    {929, 5170, 5171, 4322, 4323, 6965}, // IfcPlateStandardCase.HasMaterialLayerSetUsage
+    {930, 5172, 4470, 5173, 3141, 21202}, // IfcPlateType.CorrectPredefinedType
+    {937, 3799, 5175, 3800, 3801, 4011}, // IfcPolygonalBoundedHalfSpace.BoundaryDim
+    {937, 3799, 5176, 3802, 3803, 4020}, // IfcPolygonalBoundedHalfSpace.BoundaryType
+    {939, 3804, 4548, 3805, 3806, 4039}, // IfcPolyline.SameDim
+    {940, 3796, 5174, 3797, 3798, 3984}, // IfcPolyLoop.AllPointsSameDim
+    {943, 5688, 4993, 3632, 3633, 3267}, // IfcPositioningElement.HasPlacement
+    {948, 3812, 3028, 3813, 3814, 4066}, // IfcPostalAddress.WR1
+    {963, 5178, 5179, 5180, 5181, 21229}, // IfcPresentationLayerAssignment.ApplicableItems
+    {964, 5182, 5183, 5691, 5185, 30729}, // IfcPresentationLayerWithStyle.ApplicableOnlyToItems
+    {969, 3853, 5186, 3266, 3267, 1146}, // IfcProcedure.HasName
+    {969, 3853, 4470, 5187, 3390, 21300}, // IfcProcedure.CorrectPredefinedType
+    {970, 5188, 4470, 5189, 4902, 21335}, // IfcProcedureType.CorrectPredefinedType
+    {974, 3867, 5190, 5191, 5192, 21362}, // IfcProduct.PlacementForShapeRepresentation
+    {975, 3872, 5193, 3873, 3874, 4340}, // IfcProductDefinitionShape.OnlyShapeModel
+    {983, 3880, 5186, 3266, 3267, 1146}, // IfcProject.HasName
+    {983, 3880, 5197, 5198, 5199, 21412}, // IfcProject.CorrectContext
+    {983, 3880, 5200, 3883, 3884, 4379}, // IfcProject.NoDecomposition
+    {984, 5201, 5202, 5203, 5204, 21445}, // IfcProjectedCRS.IsLengthUnit
+    {996, 3892, 5213, 3893, 3894, 4391}, // IfcPropertyBoundedValue.SameUnitUpperLower
+    {996, 3892, 5214, 5215, 5216, 21463}, // IfcPropertyBoundedValue.SameUnitUpperSet
+    {996, 3892, 5217, 5218, 5219, 21490}, // IfcPropertyBoundedValue.SameUnitLowerSet
+    {999, 3898, 4701, 3899, 3900, 4431}, // IfcPropertyDependencyRelationship.NoSelfReference
+    {1000, 3901, 3087, 5220, 5221, 21517}, // IfcPropertyEnumeratedValue.WR21
+    {1001, 3904, 3157, 3905, 3906, 4470}, // IfcPropertyEnumeration.WR01
+    {1002, 3908, 3150, 3909, 3910, 4498}, // IfcPropertyListValue.WR31
+    {1004, 3911, 5222, 3266, 3267, 1146}, // IfcPropertySet.ExistsName
+    {1004, 3911, 4698, 3329, 3330, 1571}, // IfcPropertySet.UniquePropertyNames
+    {1008, 5227, 5222, 3266, 3267, 1146}, // IfcPropertySetTemplate.ExistsName
+    {1008, 5227, 4698, 4699, 4700, 16573}, // IfcPropertySetTemplate.UniquePropertyNames
+    {1012, 3917, 3087, 5230, 5231, 21557}, // IfcPropertyTableValue.WR21
+    {1012, 3917, 3328, 5232, 5233, 21584}, // IfcPropertyTableValue.WR22
+    {1012, 3917, 3599, 5234, 5235, 21619}, // IfcPropertyTableValue.WR23
+    {1015, 5241, 4470, 5242, 3390, 21654}, // IfcProtectiveDevice.CorrectPredefinedType
+    {1015, 5241, 4472, 5243, 5244, 21689}, // IfcProtectiveDevice.CorrectTypeAssigned
+    {1016, 5245, 4470, 5246, 3390, 21713}, // IfcProtectiveDeviceTrippingUnit.CorrectPredefinedType
+    {1016, 5245, 4472, 5247, 5248, 21748}, // IfcProtectiveDeviceTrippingUnit.CorrectTypeAssigned
+    {1017, 5249, 4470, 5250, 3141, 21772}, // IfcProtectiveDeviceTrippingUnitType.CorrectPredefinedType
+    {1019, 5251, 4470, 5252, 3141, 21799}, // IfcProtectiveDeviceType.CorrectPredefinedType
+    {1021, 3924, 3028, 3266, 3267, 1146}, // IfcProxy.WR1
+    {1022, 5253, 4470, 5254, 3390, 21826}, // IfcPump.CorrectPredefinedType
+    {1022, 5253, 4472, 5255, 5256, 21861}, // IfcPump.CorrectTypeAssigned
+    {1023, 3925, 4470, 3926, 3141, 4591}, // IfcPumpType.CorrectPredefinedType
+    {1025, 3928, 3087, 3929, 3930, 4618}, // IfcQuantityArea.WR21
+    {1025, 3928, 3328, 3931, 3932, 4642}, // IfcQuantityArea.WR22
+    {1026, 3933, 3087, 3934, 3935, 4649}, // IfcQuantityCount.WR21
+    {1027, 3937, 3087, 3938, 3939, 4656}, // IfcQuantityLength.WR21
+    {1027, 3937, 3328, 3940, 3941, 4680}, // IfcQuantityLength.WR22
+    {1030, 3943, 3087, 3944, 3945, 4687}, // IfcQuantityTime.WR21
+    {1030, 3943, 3328, 3946, 3947, 4711}, // IfcQuantityTime.WR22
+    {1031, 3949, 3087, 3950, 3951, 4718}, // IfcQuantityVolume.WR21
+    {1031, 3949, 3328, 3952, 3953, 4742}, // IfcQuantityVolume.WR22
+    {1032, 3955, 3087, 3956, 3957, 4749}, // IfcQuantityWeight.WR21
+    {1032, 3955, 3328, 3958, 3959, 4773}, // IfcQuantityWeight.WR22
+    {1036, 3960, 4470, 3961, 3390, 4780}, // IfcRailing.CorrectPredefinedType
+    {1036, 3960, 4472, 5257, 5258, 21885}, // IfcRailing.CorrectTypeAssigned
+    {1037, 5259, 4470, 5260, 3141, 21909}, // IfcRailingType.CorrectPredefinedType
+    {1045, 3962, 4470, 5261, 3390, 21936}, // IfcRamp.CorrectPredefinedType
+    {1045, 3962, 4472, 5262, 5263, 21971}, // IfcRamp.CorrectTypeAssigned
+    {1046, 5264, 4470, 5265, 3390, 21995}, // IfcRampFlight.CorrectPredefinedType
+    {1046, 5264, 4472, 5266, 5267, 22030}, // IfcRampFlight.CorrectTypeAssigned
+    {1047, 5268, 4470, 5269, 3141, 22054}, // IfcRampFlightType.CorrectPredefinedType
+    {1049, 5270, 4470, 5271, 3141, 22081}, // IfcRampType.CorrectPredefinedType
+    {1053, 5272, 5273, 3966, 3967, 4851}, // IfcRationalBSplineCurveWithKnots.SameNumOfWeightsAndPoints
+    {1053, 5272, 5274, 3969, 3970, 4865}, // IfcRationalBSplineCurveWithKnots.WeightsGreaterZero
+    {1054, 5275, 5276, 5277, 5278, 22127}, // IfcRationalBSplineSurfaceWithKnots.CorrespondingWeightsDataLists
+    {1054, 5275, 5280, 5281, 3970, 22162}, // IfcRationalBSplineSurfaceWithKnots.WeightValuesGreaterZero
+    {1057, 3971, 4628, 3972, 3973, 4890}, // IfcRectangleHollowProfileDef.ValidWallThickness
+    {1057, 3971, 5282, 3976, 3977, 4952}, // IfcRectangleHollowProfileDef.ValidInnerRadius
+    {1057, 3971, 5283, 3974, 3975, 4917}, // IfcRectangleHollowProfileDef.ValidOuterRadius
+    {1060, 3978, 5284, 3979, 3980, 4993}, // IfcRectangularTrimmedSurface.U1AndU2Different
+    {1060, 3978, 5285, 3981, 3982, 5000}, // IfcRectangularTrimmedSurface.V1AndV2Different
+    {1060, 3978, 5286, 3983, 3984, 5007}, // IfcRectangularTrimmedSurface.UsenseCompatible
+    {1060, 3978, 5287, 3985, 3986, 5039}, // IfcRectangularTrimmedSurface.VsenseCompatible
+    {1073, 3987, 4470, 5288, 3390, 22188}, // IfcReinforcingBar.CorrectPredefinedType
+    {1073, 3987, 4472, 5289, 5290, 22223}, // IfcReinforcingBar.CorrectTypeAssigned
+    {1076, 5291, 4470, 5292, 3141, 22247}, // IfcReinforcingBarType.CorrectPredefinedType
+    {1076, 5291, 5293, 5294, 5295, 22274}, // IfcReinforcingBarType.BendingShapeCodeProvided
+    {1080, 5296, 4470, 5297, 3390, 22288}, // IfcReinforcingMesh.CorrectPredefinedType
+    {1080, 5296, 4472, 5298, 5299, 22323}, // IfcReinforcingMesh.CorrectTypeAssigned
+    {1081, 5300, 4470, 5301, 3141, 22347}, // IfcReinforcingMeshType.CorrectPredefinedType
+    {1081, 5300, 5293, 5294, 5295, 22274}, // IfcReinforcingMeshType.BendingShapeCodeProvided
+    {1084, 5302, 4701, 4034, 4035, 5369}, // IfcRelAggregates.NoSelfReference
+    {1085, 3991, 3028, 3992, 3993, 5076}, // IfcRelAssigns.WR1
+    {1087, 4001, 4701, 4002, 4003, 5118}, // IfcRelAssignsToActor.NoSelfReference
+    {1088, 4004, 4701, 4005, 4006, 5141}, // IfcRelAssignsToControl.NoSelfReference
+    {1089, 4007, 4701, 4008, 4009, 5164}, // IfcRelAssignsToGroup.NoSelfReference
+    {1091, 4010, 4701, 4011, 4012, 5187}, // IfcRelAssignsToProcess.NoSelfReference
+    {1092, 4013, 4701, 4014, 4015, 5210}, // IfcRelAssignsToProduct.NoSelfReference
+    {1094, 4016, 4701, 4017, 4018, 5233}, // IfcRelAssignsToResource.NoSelfReference
+    {1103, 4022, 5303, 4023, 4024, 5283}, // IfcRelAssociatesMaterial.NoVoidElement
+    {1103, 4022, 5304, 5305, 5306, 22374}, // IfcRelAssociatesMaterial.AllowedElements
+    {1109, 4027, 4701, 4028, 4029, 5343}, // IfcRelConnectsElements.NoSelfReference
+    {1110, 5307, 5308, 5309, 5310, 22421}, // IfcRelConnectsPathElements.NormalizedRelatingPriorities
+    {1110, 5307, 5311, 5312, 5313, 22462}, // IfcRelConnectsPathElements.NormalizedRelatedPriorities
+    {1111, 5314, 4701, 5315, 5316, 22503}, // IfcRelConnectsPorts.NoSelfReference
+    {1118, 4030, 3150, 4031, 4032, 5350}, // IfcRelContainedInSpatialStructure.WR31
+    {1121, 5317, 4701, 5318, 5319, 22510}, // IfcRelDeclares.NoSelfReference
+    {1125, 5320, 5321, 5322, 5323, 22530}, // IfcRelDefinesByProperties.NoRelatedTypeObject
+    {1131, 5324, 5325, 4028, 4029, 5343}, // IfcRelInterferesElements.NotSelfReference
+    {1132, 4036, 4701, 4034, 4035, 5369}, // IfcRelNests.NoSelfReference
+    {1137, 4041, 5326, 5327, 5328, 22552}, // IfcRelReferencedInSpatialStructure.AllowedRelatedElements
+    {1139, 4047, 5329, 4048, 4049, 5464}, // IfcRelSequence.AvoidInconsistentSequence
+    {1139, 4047, 5330, 5331, 5332, 22579}, // IfcRelSequence.CorrectSequenceType
+    {1141, 4053, 5333, 5334, 5335, 22603}, // IfcRelSpaceBoundary.CorrectPhysOrVirt
+    {1145, 5342, 5343, 5344, 5345, 22651}, // IfcReparametrisedCompositeCurveSegment.PositiveLengthParameter
+    {1149, 4069, 5349, 5350, 5351, 22658}, // IfcRepresentationMap.ApplicableMappedRepr
+    {1158, 4075, 5352, 4076, 4077, 5527}, // IfcRevolvedAreaSolid.AxisStartInXY
+    {1158, 4075, 5353, 4078, 4079, 5541}, // IfcRevolvedAreaSolid.AxisDirectionInXY
+    {1159, 5354, 4914, 4915, 4916, 18851}, // IfcRevolvedAreaSolidTapered.CorrectProfileAssignment
+    {1170, 4080, 4470, 5355, 3390, 22664}, // IfcRoof.CorrectPredefinedType
+    {1170, 4080, 4472, 5356, 5357, 22699}, // IfcRoof.CorrectTypeAssigned
+    {1171, 5358, 4470, 5359, 3141, 22723}, // IfcRoofType.CorrectPredefinedType
+    {1179, 4083, 5360, 4084, 4085, 5573}, // IfcRoundedRectangleProfileDef.ValidRadius
+    {1180, 5361, 4470, 5362, 3390, 22750}, // IfcSanitaryTerminal.CorrectPredefinedType
+    {1180, 5361, 4472, 5363, 5364, 22785}, // IfcSanitaryTerminal.CorrectTypeAssigned
+    {1181, 5365, 4470, 5366, 3141, 22809}, // IfcSanitaryTerminalType.CorrectPredefinedType
+    {1185, 5367, 5021, 5022, 5023, 19896}, // IfcSeamCurve.TwoPCurves
+    {1185, 5367, 4706, 5368, 5369, 22836}, // IfcSeamCurve.SameSurface
+    {1189, 5692, 5693, 4228, 4229, 6357}, // IfcSectionedSolid.DirectrixIs3D
+    {1189, 5692, 5371, 4093, 4094, 5618}, // IfcSectionedSolid.ConsistentProfileTypes
+    {1189, 5692, 5694, 5695, 5696, 30763}, // IfcSectionedSolid.SectionsSameType
+    {1190, 5697, 5370, 4091, 4092, 5607}, // IfcSectionedSolidHorizontal.CorrespondingSectionPositions
+    {1190, 5697, 5698, 5699, 5700, 30790}, // IfcSectionedSolidHorizontal.NoLongitudinalOffsets
+    {1191, 4090, 5370, 4091, 4092, 5607}, // IfcSectionedSpine.CorrespondingSectionPositions
+    {1191, 4090, 5371, 4093, 4094, 5618}, // IfcSectionedSpine.ConsistentProfileTypes
+    {1191, 4090, 5372, 4095, 4096, 5645}, // IfcSectionedSpine.SpineCurveDim
+    {1200, 5373, 4470, 5374, 3390, 22861}, // IfcSensor.CorrectPredefinedType
+    {1200, 5373, 4472, 5375, 5376, 22896}, // IfcSensor.CorrectTypeAssigned
+    {1201, 5377, 4470, 5378, 3141, 22920}, // IfcSensorType.CorrectPredefinedType
+    {1209, 5379, 4470, 5380, 3390, 22947}, // IfcShadingDevice.CorrectPredefinedType
+    {1209, 5379, 4472, 5381, 5382, 22982}, // IfcShadingDevice.CorrectTypeAssigned
+    {1210, 5383, 4470, 5384, 3141, 23006}, // IfcShadingDeviceType.CorrectPredefinedType
+    {1213, 4099, 3198, 4100, 4101, 5673}, // IfcShapeModel.WR11
+    {1214, 4104, 5197, 4105, 4106, 5704}, // IfcShapeRepresentation.CorrectContext
+    {1214, 4104, 5385, 4107, 4108, 5713}, // IfcShapeRepresentation.NoTopologicalItem
+    {1214, 4104, 5386, 4109, 4110, 5756}, // IfcShapeRepresentation.HasRepresentationType
+    {1214, 4104, 5387, 5388, 5389, 23033}, // IfcShapeRepresentation.HasRepresentationIdentifier
+    {1214, 4104, 5390, 4112, 4113, 5765}, // IfcShapeRepresentation.CorrectItemsForType
+    {1235, 4114, 4470, 4115, 3390, 5780}, // IfcSlab.CorrectPredefinedType
+    {1235, 4114, 4472, 5391, 5392, 23042}, // IfcSlab.CorrectTypeAssigned
+    {1236, 5393, 5394, 5395, 5396, 23066}, // IfcSlabElementedCase.HasDecomposition
+    {1237, 5397, 5398, 4322, 4323, 6965}, // IfcSlabStandardCase.HasMaterialLayerSetusage
+    {1238, 5399, 4470, 5400, 3141, 23078}, // IfcSlabType.CorrectPredefinedType
+    {1241, 5401, 4470, 5402, 3390, 23105}, // IfcSolarDevice.CorrectPredefinedType
+    {1241, 5401, 4472, 5403, 5404, 23140}, // IfcSolarDevice.CorrectTypeAssigned
+    {1242, 5405, 4470, 5406, 3141, 23164}, // IfcSolarDeviceType.CorrectPredefinedType
+    {1255, 4116, 4470, 5407, 3390, 23191}, // IfcSpace.CorrectPredefinedType
+    {1255, 4116, 4472, 5408, 5409, 23226}, // IfcSpace.CorrectTypeAssigned
+    {1257, 5411, 4470, 5412, 3390, 23250}, // IfcSpaceHeater.CorrectPredefinedType
+    {1257, 5411, 4472, 5413, 5414, 23285}, // IfcSpaceHeater.CorrectTypeAssigned
+    {1258, 4120, 4470, 4121, 3141, 5815}, // IfcSpaceHeaterType.CorrectPredefinedType
+    {1262, 5415, 4470, 5416, 3141, 23309}, // IfcSpaceType.CorrectPredefinedType
+    {1267, 4127, 3238, 4128, 4129, 5842}, // IfcSpatialStructureElement.WR41
+    {1269, 5418, 4470, 5419, 3390, 23336}, // IfcSpatialZone.CorrectPredefinedType
+    {1269, 5418, 4472, 5420, 5421, 23371}, // IfcSpatialZone.CorrectTypeAssigned
+    {1270, 5422, 4470, 5423, 3141, 23395}, // IfcSpatialZoneType.CorrectPredefinedType
+    {1279, 5424, 4470, 5425, 3390, 23422}, // IfcStackTerminal.CorrectPredefinedType
+    {1279, 5424, 4472, 5426, 5427, 23457}, // IfcStackTerminal.CorrectTypeAssigned
+    {1280, 5428, 4470, 5429, 3141, 23481}, // IfcStackTerminalType.CorrectPredefinedType
+    {1282, 4136, 4470, 5430, 3390, 23508}, // IfcStair.CorrectPredefinedType
+    {1282, 4136, 4472, 5431, 5432, 23543}, // IfcStair.CorrectTypeAssigned
+    {1283, 5433, 4470, 5434, 3390, 23567}, // IfcStairFlight.CorrectPredefinedType
+    {1283, 5433, 4472, 5435, 5436, 23602}, // IfcStairFlight.CorrectTypeAssigned
+    {1284, 5437, 4470, 5438, 3141, 23626}, // IfcStairFlightType.CorrectPredefinedType
+    {1286, 5439, 4470, 5440, 3141, 23653}, // IfcStairType.CorrectPredefinedType
+    {1293, 5442, 5443, 5444, 3560, 23680}, // IfcStructuralAnalysisModel.HasObjectType
+    {1296, 5447, 5448, 5449, 5450, 23698}, // IfcStructuralCurveAction.ProjectedIsGlobal
+    {1296, 5447, 5443, 5451, 3560, 23726}, // IfcStructuralCurveAction.HasObjectType
+    {1296, 5447, 5453, 5454, 5455, 23744}, // IfcStructuralCurveAction.SuitablePredefinedType
+    {1299, 5456, 5443, 5457, 3560, 23752}, // IfcStructuralCurveMember.HasObjectType
+    {1302, 5458, 5443, 5451, 3560, 23726}, // IfcStructuralCurveReaction.HasObjectType
+    {1302, 5458, 5453, 5461, 5462, 23770}, // IfcStructuralCurveReaction.SuitablePredefinedType
+    {1305, 4146, 5463, 4147, 4148, 5897}, // IfcStructuralLinearAction.SuitableLoadType
+    {1305, 4146, 5465, 5466, 5467, 23787}, // IfcStructuralLinearAction.ConstPredefinedType
+    {1308, 5469, 5470, 5471, 5472, 23798}, // IfcStructuralLoadCase.IsLoadCasePredefinedType
+    {1309, 5473, 5474, 5475, 5476, 23809}, // IfcStructuralLoadConfiguration.ValidListSize
+    {1310, 4150, 5443, 5477, 5478, 23828}, // IfcStructuralLoadGroup.HasObjectType
+    {1321, 4160, 5463, 4161, 4162, 5932}, // IfcStructuralPlanarAction.SuitableLoadType
+    {1321, 4160, 5465, 5479, 5467, 23864}, // IfcStructuralPlanarAction.ConstPredefinedType
+    {1323, 4163, 5463, 4164, 4165, 5954}, // IfcStructuralPointAction.SuitableLoadType
+    {1325, 4166, 5463, 4164, 4165, 5954}, // IfcStructuralPointReaction.SuitableLoadType
+    {1328, 4175, 5443, 5480, 5481, 23875}, // IfcStructuralResultGroup.HasObjectType
+    {1330, 5482, 5448, 5449, 5450, 23698}, // IfcStructuralSurfaceAction.ProjectedIsGlobal
+    {1330, 5482, 5443, 5483, 3560, 23893}, // IfcStructuralSurfaceAction.HasObjectType
+    {1333, 5484, 5443, 5485, 3560, 23911}, // IfcStructuralSurfaceMember.HasObjectType
+    {1336, 5486, 5487, 5483, 3560, 23893}, // IfcStructuralSurfaceReaction.HasPredefinedType
+    {1340, 4200, 5488, 4203, 4204, 6188}, // IfcStyledItem.ApplicableItem
+    {1341, 4205, 5489, 4206, 4207, 6195}, // IfcStyledRepresentation.OnlyStyledItems
+    {1343, 5490, 4470, 5491, 3390, 23929}, // IfcSubContractResource.CorrectPredefinedType
+    {1344, 5492, 4470, 5493, 4726, 23964}, // IfcSubContractResourceType.CorrectPredefinedType
+    {1348, 5494, 5495, 5496, 5497, 23991}, // IfcSurfaceCurve.CurveIs3D
+    {1348, 5494, 5498, 5499, 5500, 24000}, // IfcSurfaceCurve.CurveIsNotPcurve
+    {1349, 5501, 4952, 4953, 4954, 19177}, // IfcSurfaceCurveSweptAreaSolid.DirectrixBounded
+    {1350, 5502, 5443, 5503, 3390, 24007}, // IfcSurfaceFeature.HasObjectType
+    {1352, 4208, 5504, 4209, 4210, 6218}, // IfcSurfaceOfLinearExtrusion.DepthGreaterZero
+    {1355, 5505, 5506, 5507, 5508, 24033}, // IfcSurfaceReinforcementArea.SurfaceAndOrShearAreaSpecified
+    {1355, 5505, 5509, 5510, 5511, 24053}, // IfcSurfaceReinforcementArea.NonnegativeArea1
+    {1355, 5505, 5512, 5513, 5514, 24103}, // IfcSurfaceReinforcementArea.NonnegativeArea2
+    {1355, 5505, 5515, 5516, 5517, 24153}, // IfcSurfaceReinforcementArea.NonnegativeArea3
+    {1357, 4211, 5518, 4212, 4213, 6252}, // IfcSurfaceStyle.MaxOneShading
+    {1357, 4211, 5519, 4214, 4215, 6271}, // IfcSurfaceStyle.MaxOneLighting
+    {1357, 4211, 5520, 4216, 4217, 6290}, // IfcSurfaceStyle.MaxOneRefraction
+    {1357, 4211, 5521, 4219, 4220, 6309}, // IfcSurfaceStyle.MaxOneTextures
+    {1357, 4211, 5522, 4222, 4223, 6328}, // IfcSurfaceStyle.MaxOneExtDefined
+    {1366, 4224, 5528, 4225, 4226, 6347}, // IfcSweptAreaSolid.SweptAreaType
+    {1367, 4227, 5529, 4228, 4229, 6357}, // IfcSweptDiskSolid.DirectrixDim
+    {1367, 4227, 5530, 4230, 4231, 6366}, // IfcSweptDiskSolid.InnerRadiusSize
+    {1367, 4227, 4952, 4953, 4954, 19177}, // IfcSweptDiskSolid.DirectrixBounded
+    {1368, 5531, 5532, 5533, 5534, 24168}, // IfcSweptDiskSolidPolygonal.CorrectRadii
+    {1368, 5531, 5535, 5536, 5537, 24186}, // IfcSweptDiskSolidPolygonal.DirectrixIsPolyline
+    {1369, 4232, 5538, 4235, 4236, 6388}, // IfcSweptSurface.SweptCurveType
+    {1370, 5539, 4470, 5540, 3390, 24218}, // IfcSwitchingDevice.CorrectPredefinedType
+    {1370, 5539, 4472, 5541, 5542, 24253}, // IfcSwitchingDevice.CorrectTypeAssigned
+    {1371, 5543, 4470, 5544, 3141, 24277}, // IfcSwitchingDeviceType.CorrectPredefinedType
+    {1376, 5545, 4470, 5546, 3390, 24304}, // IfcSystemFurnitureElement.CorrectPredefinedType
+    {1376, 5545, 4472, 5547, 5548, 24339}, // IfcSystemFurnitureElement.CorrectTypeAssigned
+    {1377, 5549, 4470, 5550, 3141, 24363}, // IfcSystemFurnitureElementType.CorrectPredefinedType
+    {1379, 4245, 3028, 4246, 4247, 6412}, // IfcTable.WR1
+    {1379, 4245, 3034, 4248, 4249, 6443}, // IfcTable.WR2
+    {1382, 5551, 4470, 5552, 3390, 24390}, // IfcTank.CorrectPredefinedType
+    {1382, 5551, 4472, 5553, 5554, 24425}, // IfcTank.CorrectTypeAssigned
+    {1383, 4253, 4470, 4254, 3141, 6503}, // IfcTankType.CorrectPredefinedType
+    {1385, 4255, 5186, 3266, 3267, 1146}, // IfcTask.HasName
+    {1385, 4255, 4470, 5555, 3390, 24449}, // IfcTask.CorrectPredefinedType
+    {1389, 5556, 4470, 5557, 4902, 24484}, // IfcTaskType.CorrectPredefinedType
+    {1391, 4256, 5558, 5559, 5560, 24511}, // IfcTelecomAddress.MinimumDataProvided
+    {1394, 4259, 4470, 5561, 3390, 24552}, // IfcTendon.CorrectPredefinedType
+    {1394, 4259, 4472, 5562, 5563, 24587}, // IfcTendon.CorrectTypeAssigned
+    {1395, 5564, 4470, 5565, 3390, 24611}, // IfcTendonAnchor.CorrectPredefinedType
+    {1395, 5564, 4472, 5566, 5567, 24646}, // IfcTendonAnchor.CorrectTypeAssigned
+    {1396, 5568, 4470, 5569, 3141, 24670}, // IfcTendonAnchorType.CorrectPredefinedType
+    {1401, 5570, 4470, 5571, 3141, 24697}, // IfcTendonType.CorrectPredefinedType
+    {1412, 4261, 3150, 4262, 4263, 6591}, // IfcTextLiteralWithExtent.WR31
+    {1415, 4264, 5577, 4265, 4266, 6598}, // IfcTextStyleFontModel.MeasureOfFontSize
+    {1450, 4280, 3087, 4281, 4282, 6664}, // IfcTopologyRepresentation.WR21
+    {1450, 4280, 3328, 4109, 4110, 5756}, // IfcTopologyRepresentation.WR22
+    {1450, 4280, 3599, 4284, 4113, 6687}, // IfcTopologyRepresentation.WR23
+    {1451, 5579, 5580, 5581, 5582, 24724}, // IfcToroidalSurface.MajorLargerMinor
+    {1456, 5583, 4470, 5584, 3390, 24731}, // IfcTransformer.CorrectPredefinedType
+    {1456, 5583, 4472, 5586, 5587, 30811}, // IfcTransformer.CorrectTypeAssigned
+    {1457, 5588, 4470, 5589, 3141, 24793}, // IfcTransformerType.CorrectPredefinedType
+    {1465, 5590, 4470, 5591, 3390, 24820}, // IfcTransportElement.CorrectPredefinedType
+    {1465, 5590, 4472, 5592, 5593, 24855}, // IfcTransportElement.CorrectTypeAssigned
+    {1468, 5594, 4470, 5595, 3141, 24879}, // IfcTransportElementType.CorrectPredefinedType
+    {1473, 5703, 5704, 5705, 5706, 30838}, // IfcTriangulatedIrregularNetwork.NotClosed
+    {1474, 4285, 5596, 4286, 4287, 6702}, // IfcTrimmedCurve.Trim1ValuesConsistent
+    {1474, 4285, 5597, 4288, 4289, 6729}, // IfcTrimmedCurve.Trim2ValuesConsistent
+    {1474, 4285, 5598, 4291, 4292, 6756}, // IfcTrimmedCurve.NoTrimOfBoundedCurves
+    {1477, 4240, 4523, 4241, 4242, 6398}, // IfcTShapeProfileDef.ValidFlangeThickness
+    {1477, 4240, 4526, 4243, 4244, 6405}, // IfcTShapeProfileDef.ValidWebThickness
+    {1478, 5599, 4470, 5600, 3390, 24912}, // IfcTubeBundle.CorrectPredefinedType
+    {1478, 5599, 4472, 5601, 5602, 24947}, // IfcTubeBundle.CorrectTypeAssigned
+    {1479, 4293, 4470, 4294, 3141, 6763}, // IfcTubeBundleType.CorrectPredefinedType
+    {1486, 4295, 5603, 3266, 3267, 1146}, // IfcTypeObject.NameRequired
+    {1486, 4295, 5105, 5605, 5606, 24971}, // IfcTypeObject.UniquePropertySetNames
+    {1488, 4298, 5609, 5610, 5611, 24986}, // IfcTypeProduct.ApplicableOccurrence
+    {1493, 5613, 4470, 5614, 3390, 25028}, // IfcUnitaryControlElement.CorrectPredefinedType
+    {1493, 5613, 4472, 5615, 5616, 25063}, // IfcUnitaryControlElement.CorrectTypeAssigned
+    {1494, 5617, 4470, 5618, 3141, 25087}, // IfcUnitaryControlElementType.CorrectPredefinedType
+    {1496, 5619, 4470, 5620, 3390, 25114}, // IfcUnitaryEquipment.CorrectPredefinedType
+    {1496, 5619, 4472, 5621, 5622, 25149}, // IfcUnitaryEquipment.CorrectTypeAssigned
+    {1497, 4308, 4470, 4309, 3141, 6849}, // IfcUnitaryEquipmentType.CorrectPredefinedType
+    {1499, 4305, 3157, 4306, 4307, 6842}, // IfcUnitAssignment.WR01
+    {1502, 4301, 4523, 4302, 4303, 6832}, // IfcUShapeProfileDef.ValidFlangeThickness
+    {1502, 4301, 4526, 4243, 4244, 6405}, // IfcUShapeProfileDef.ValidWebThickness
+    {1504, 5623, 4470, 5624, 3390, 25173}, // IfcValve.CorrectPredefinedType
+    {1504, 5623, 4472, 5625, 5626, 25208}, // IfcValve.CorrectTypeAssigned
+    {1505, 4310, 4470, 4311, 3141, 6876}, // IfcValveType.CorrectPredefinedType
+    {1508, 4312, 5627, 4313, 4314, 6903}, // IfcVector.MagGreaterOrEqualZero
+    {1521, 5628, 4470, 5629, 3390, 25232}, // IfcVibrationIsolator.CorrectPredefinedType
+    {1521, 5628, 4472, 5630, 5631, 25267}, // IfcVibrationIsolator.CorrectTypeAssigned
+    {1522, 4315, 4470, 4316, 3141, 6916}, // IfcVibrationIsolatorType.CorrectPredefinedType
+    {1528, 5632, 5443, 5633, 3390, 25291}, // IfcVoidingFeature.HasObjectType
+    {1535, 4317, 4470, 5634, 3390, 25317}, // IfcWall.CorrectPredefinedType
+    {1535, 4317, 4472, 5635, 5636, 25352}, // IfcWall.CorrectTypeAssigned
+    {1536, 5637, 5394, 5395, 5396, 23066}, // IfcWallElementedCase.HasDecomposition
+    {1537, 4321, 5171, 4322, 4323, 6965}, // IfcWallStandardCase.HasMaterialLayerSetUsage
+    {1538, 5638, 4470, 5639, 3141, 25376}, // IfcWallType.CorrectPredefinedType
+    {1543, 5640, 4470, 5641, 3390, 25403}, // IfcWasteTerminal.CorrectPredefinedType
+    {1543, 5640, 4472, 5642, 5643, 25438}, // IfcWasteTerminal.CorrectTypeAssigned
+    {1544, 5644, 4470, 5645, 3141, 25462}, // IfcWasteTerminalType.CorrectPredefinedType
+    {1550, 5646, 4805, 5647, 5648, 25489}, // IfcWindow.CorrectStyleAssigned
+    {1551, 4325, 3150, 4808, 4809, 17628}, // IfcWindowLiningProperties.WR31
+    {1551, 4325, 3478, 4326, 4327, 6996}, // IfcWindowLiningProperties.WR32
+    {1551, 4325, 3481, 4328, 4329, 7011}, // IfcWindowLiningProperties.WR33
+    {1551, 4325, 3484, 5649, 5650, 25513}, // IfcWindowLiningProperties.WR34
+    {1554, 5651, 4814, 5649, 5650, 25513}, // IfcWindowPanelProperties.ApplicableToType
+    {1559, 5652, 4470, 5653, 3141, 25551}, // IfcWindowType.CorrectPredefinedType
+    {1562, 5654, 4470, 5655, 3390, 25578}, // IfcWorkCalendar.CorrectPredefinedType
+    {1566, 5656, 4470, 5657, 3390, 25613}, // IfcWorkPlan.CorrectPredefinedType
+    {1568, 5658, 4470, 5659, 3390, 25648}, // IfcWorkSchedule.CorrectPredefinedType
+    {1572, 4336, 3028, 5660, 5661, 25683}, // IfcZone.WR1
+    {1573, 4335, 4523, 4302, 4303, 6832}, // IfcZShapeProfileDef.ValidFlangeThickness
 };
 
 constexpr WhereRule typeRules[] = {
     {136, 3027, 3028, 3029, 3030, 0}, // IfcBoxAlignment.WR1
-    {184, 4149, 4150, 4151, 3030, 14240}, // IfcCardinalPointReference.GreaterThanZero
-    {245, 3031, 4152, 4153, 3030, 14246}, // IfcCompoundPlaneAngleMeasure.MinutesInRange
-    {245, 3031, 4154, 4155, 3030, 14257}, // IfcCompoundPlaneAngleMeasure.SecondsInRange
-    {245, 3031, 4156, 4157, 3030, 14268}, // IfcCompoundPlaneAngleMeasure.MicrosecondsInRange
-    {245, 3031, 4158, 4159, 3030, 14288}, // IfcCompoundPlaneAngleMeasure.ConsistentSign
-    {359, 4160, 4161, 4162, 3030, 14385}, // IfcDayInMonthNumber.ValidRange
-    {360, 4163, 4161, 4164, 3030, 14400}, // IfcDayInWeekNumber.ValidRange
-    {376, 3041, 3028, 3042, 3030, 163}, // IfcDimensionCount.WR1
-    {603, 3046, 3028, 3047, 3030, 178}, // IfcFontStyle.WR1
-    {604, 3049, 3028, 3050, 3030, 192}, // IfcFontVariant.WR1
-    {605, 3060, 3028, 3061, 3030, 203}, // IfcFontWeight.WR1
-    {666, 3062, 3028, 3063, 3030, 241}, // IfcHeatingValueMeasure.WR1
-    {842, 3068, 4161, 4165, 3030, 277}, // IfcMonthInYearNumber.ValidRange
-    {854, 4166, 4167, 4168, 3030, 14415}, // IfcNonNegativeLengthMeasure.NotNegative
-    {855, 3070, 3028, 3071, 3030, 292}, // IfcNormalisedRatioMeasure.WR1
-    {905, 3072, 3073, 3074, 3030, 307}, // IfcPHMeasure.WR21
-    {944, 4169, 3028, 4151, 3030, 14240}, // IfcPositiveInteger.WR1
-    {945, 3075, 3028, 3063, 3030, 241}, // IfcPositiveLengthMeasure.WR1
-    {946, 3076, 3028, 3063, 3030, 241}, // IfcPositivePlaneAngleMeasure.WR1
-    {947, 3077, 3028, 3063, 3030, 241}, // IfcPositiveRatioMeasure.WR1
-    {1275, 3080, 3028, 3071, 3030, 292}, // IfcSpecularRoughness.WR1
-    {1407, 3084, 3028, 3085, 3030, 337}, // IfcTextAlignment.WR1
-    {1408, 3091, 3028, 3092, 3030, 354}, // IfcTextDecoration.WR1
-    {1420, 3096, 3028, 3097, 3030, 374}, // IfcTextTransformation.WR1
+    {184, 4439, 4440, 4441, 3073, 14240}, // IfcCardinalPointReference.GreaterThanZero
+    {245, 3031, 4442, 4443, 4444, 14246}, // IfcCompoundPlaneAngleMeasure.MinutesInRange
+    {245, 3031, 4445, 4446, 4447, 14257}, // IfcCompoundPlaneAngleMeasure.SecondsInRange
+    {245, 3031, 4448, 4449, 4450, 14268}, // IfcCompoundPlaneAngleMeasure.MicrosecondsInRange
+    {245, 3031, 4451, 4452, 4453, 14288}, // IfcCompoundPlaneAngleMeasure.ConsistentSign
+    {359, 4454, 4455, 4456, 4457, 14385}, // IfcDayInMonthNumber.ValidRange
+    {360, 4458, 4455, 4459, 4460, 14400}, // IfcDayInWeekNumber.ValidRange
+    {376, 3046, 3028, 3047, 3048, 163}, // IfcDimensionCount.WR1
+    {603, 3052, 3028, 3053, 3054, 178}, // IfcFontStyle.WR1
+    {604, 3056, 3028, 3057, 3058, 192}, // IfcFontVariant.WR1
+    {605, 3068, 3028, 3069, 3070, 203}, // IfcFontWeight.WR1
+    {666, 3071, 3028, 3072, 3073, 241}, // IfcHeatingValueMeasure.WR1
+    {842, 3080, 4455, 4461, 3082, 277}, // IfcMonthInYearNumber.ValidRange
+    {854, 4462, 4463, 4464, 4465, 14415}, // IfcNonNegativeLengthMeasure.NotNegative
+    {855, 3083, 3028, 3084, 3085, 292}, // IfcNormalisedRatioMeasure.WR1
+    {905, 3086, 3087, 3088, 3089, 307}, // IfcPHMeasure.WR21
+    {944, 4466, 3028, 4441, 3073, 14240}, // IfcPositiveInteger.WR1
+    {945, 3090, 3028, 3072, 3073, 241}, // IfcPositiveLengthMeasure.WR1
+    {946, 3091, 3028, 3072, 3073, 241}, // IfcPositivePlaneAngleMeasure.WR1
+    {947, 3092, 3028, 3072, 3073, 241}, // IfcPositiveRatioMeasure.WR1
+    {1275, 3096, 3028, 3084, 3085, 292}, // IfcSpecularRoughness.WR1
+    {1407, 3100, 3028, 3101, 3102, 337}, // IfcTextAlignment.WR1
+    {1408, 3108, 3028, 3109, 3110, 354}, // IfcTextDecoration.WR1
+    {1420, 3114, 3028, 3115, 3116, 374}, // IfcTextTransformation.WR1
 };
 
 constexpr WhereRule globalRules[] = {
-    {4053, 4054, 3028, 4055, 3030, 7110}, // IfcRepresentationContextSameWCS.WR1
-    {4056, 4057, 3028, 4058, 3030, 7241}, // IfcSingleProjectInstance.WR1
+    {4341, 4342, 3028, 4343, 4344, 7110}, // IfcRepresentationContextSameWCS.WR1
+    {4345, 4346, 3028, 4347, 4348, 7241}, // IfcSingleProjectInstance.WR1
 };
 
 constexpr UniqueRule uniqueRules[] = {
-    {73, 3139, 3140, 3141, 0, 1}, // IfcApplication.UR1
-    {73, 3139, 3102, 3142, 1, 2}, // IfcApplication.UR2
-    {1001, 3725, 3140, 3727, 3, 1}, // IfcPropertyEnumeration.UR1
-    {1173, 3852, 3140, 3853, 4, 1}, // IfcRoot.UR1
+    {73, 3169, 3170, 3171, 0, 1}, // IfcApplication.UR1
+    {73, 3169, 3123, 3172, 1, 2}, // IfcApplication.UR2
+    {1001, 3904, 3170, 3907, 3, 1}, // IfcPropertyEnumeration.UR1
+    {1173, 4081, 3170, 4082, 4, 1}, // IfcRoot.UR1
 };
 
 constexpr TextId uniqueAttributes[] = {
@@ -716,164 +716,164 @@ constexpr TextId uniqueAttributes[] = {
 };
 
 constexpr InverseAttribute inverseAttributes[] = {
-    {7, 2079, 1087, 2532, 0, -1, 1, 0, 3104, 3105, 3106}, // IfcActor.IsActingUpon
-    {8, 2004, 536, 2522, 0, -1, 1, 0, 3108, 4170, 4171}, // IfcActorRole.HasExternalReference
-    {13, 2312, 903, 1589, 0, -1, 1, 0, 3110, 3112, 3113}, // IfcAddress.OfPerson
-    {13, 2311, 880, 1589, 0, -1, 1, 0, 3110, 3114, 3115}, // IfcAddress.OfOrganization
-    {36, 2836, 48, 2036, 1, -1, 1, 0, 5171, 5172, 5173}, // IfcAlignment2DHorizontal.ToAlignmentCurve
-    {37, 2839, 36, 2657, 1, 1, 1, 0, 5174, 5175, 5176}, // IfcAlignment2DHorizontalSegment.ToHorizontal
-    {43, 2836, 48, 2959, 1, 1, 1, 0, 5177, 5172, 5178}, // IfcAlignment2DVertical.ToAlignmentCurve
-    {44, 2858, 43, 2657, 1, 1, 1, 0, 5179, 5180, 5181}, // IfcAlignment2DVerticalSegment.ToVertical
-    {63, 1749, 1118, 2507, 0, 1, 1, 0, 3122, 3123, 3124}, // IfcAnnotation.ContainedInStructure
-    {74, 2004, 536, 2522, 0, -1, 1, 0, 3143, 4170, 4171}, // IfcAppliedValue.HasExternalReference
-    {77, 2005, 536, 2522, 0, -1, 1, 0, 3151, 4208, 4171}, // IfcApproval.HasExternalReferences
-    {77, 1621, 1097, 2534, 0, -1, 1, 0, 3151, 4209, 4210}, // IfcApproval.ApprovedObjects
-    {77, 1623, 1151, 2534, 0, -1, 1, 0, 3151, 4211, 4212}, // IfcApproval.ApprovedResources
-    {77, 2109, 80, 2495, 0, -1, 1, 0, 3151, 3154, 4213}, // IfcApproval.IsRelatedWith
-    {77, 2529, 80, 2534, 0, -1, 1, 0, 3151, 3156, 3157}, // IfcApproval.Relates
-    {210, 1700, 1098, 2536, 0, -1, 1, 0, 3244, 4337, 4338}, // IfcClassification.ClassificationForObjects
-    {210, 2018, 216, 2474, 0, -1, 1, 0, 3244, 4339, 4340}, // IfcClassification.HasReferences
-    {216, 1701, 1098, 2536, 0, -1, 1, 0, 4341, 4342, 4338}, // IfcClassificationReference.ClassificationRefForObjects
-    {216, 2018, 216, 2474, 0, -1, 1, 0, 4341, 4339, 4340}, // IfcClassificationReference.HasReferences
-    {243, 2934, 241, 2657, 1, -1, 1, 0, 3264, 3266, 3267}, // IfcCompositeCurveSegment.UsingCurves
-    {265, 2005, 536, 2522, 0, -1, 1, 0, 3276, 4208, 4171}, // IfcConstraint.HasExternalReferences
-    {265, 2428, 1152, 2538, 0, -1, 1, 0, 3276, 3283, 4377}, // IfcConstraint.PropertiesForConstraint
-    {281, 2091, 1125, 2512, 0, -1, 1, 0, 4388, 3571, 4389}, // IfcContext.IsDefinedBy
-    {281, 1810, 1121, 2539, 0, -1, 1, 0, 4388, 4390, 4391}, // IfcContext.Declares
-    {283, 2004, 536, 2522, 0, -1, 1, 0, 4392, 4170, 4171}, // IfcContextDependentUnit.HasExternalReference
-    {284, 1759, 1088, 2540, 0, -1, 1, 0, 3297, 3298, 3299}, // IfcControl.Controls
-    {288, 2004, 536, 2522, 0, -1, 1, 0, 4398, 4170, 4171}, // IfcConversionBasedUnit.HasExternalReference
-    {301, 2001, 300, 2708, 0, 1, 1, 0, 4405, 4406, 4407}, // IfcCoordinateReferenceSystem.HasCoordinateOperation
-    {314, 1778, 1120, 2502, 0, 1, 1, 0, 3306, 3309, 3310}, // IfcCovering.CoversSpaces
-    {314, 1777, 1119, 2502, 0, 1, 1, 0, 3306, 4409, 3312}, // IfcCovering.CoversElements
-    {398, 1630, 1129, 2501, 0, 1, 1, 0, 3358, 3359, 3360}, // IfcDistributionControlElement.AssignedToFlowElement
-    {400, 2012, 1112, 2506, 0, -1, 1, 0, 4441, 3437, 3438}, // IfcDistributionElement.HasPorts
-    {402, 2000, 1129, 2545, 0, 1, 1, 0, 3361, 3362, 3363}, // IfcDistributionFlowElement.HasControlElements
-    {410, 1859, 1101, 2542, 0, -1, 1, 0, 3366, 4442, 4443}, // IfcDocumentInformation.DocumentInfoForObjects
-    {410, 2003, 412, 2471, 0, -1, 1, 0, 3366, 4444, 4445}, // IfcDocumentInformation.HasDocumentReferences
-    {410, 2102, 411, 2504, 0, -1, 1, 0, 3366, 3367, 3368}, // IfcDocumentInformation.IsPointedTo
-    {410, 2103, 411, 2542, 0, 1, 1, 0, 3366, 3369, 3370}, // IfcDocumentInformation.IsPointer
-    {412, 1862, 1101, 2542, 0, -1, 1, 0, 3371, 4447, 4443}, // IfcDocumentReference.DocumentRefForObjects
-    {492, 1938, 1128, 2496, 0, 1, 1, 0, 3424, 3427, 3428}, // IfcElement.FillsVoids
-    {492, 1738, 1109, 2544, 0, -1, 1, 0, 3424, 3429, 3430}, // IfcElement.ConnectedTo
-    {492, 2095, 1131, 2506, 0, -1, 1, 0, 3424, 4499, 4500}, // IfcElement.IsInterferedByElements
-    {492, 2070, 1131, 2544, 0, -1, 1, 0, 3424, 4501, 4502}, // IfcElement.InterferesElements
-    {492, 2013, 1136, 2544, 0, -1, 1, 0, 3424, 3433, 3434}, // IfcElement.HasProjections
-    {492, 2472, 1137, 2507, 0, -1, 1, 0, 3424, 3435, 3436}, // IfcElement.ReferencedInStructures
-    {492, 2011, 1144, 2535, 0, -1, 1, 0, 3424, 3439, 3440}, // IfcElement.HasOpenings
-    {492, 2086, 1117, 2459, 0, -1, 1, 0, 3424, 3441, 3442}, // IfcElement.IsConnectionRealization
-    {492, 2436, 1141, 2496, 0, -1, 1, 0, 3424, 3443, 3444}, // IfcElement.ProvidesBoundaries
-    {492, 1737, 1109, 2506, 0, -1, 1, 0, 3424, 3445, 3446}, // IfcElement.ConnectedFrom
-    {492, 1749, 1118, 2507, 0, 1, 1, 0, 3424, 3123, 3124}, // IfcElement.ContainedInStructure
-    {492, 2002, 1119, 2535, 0, -1, 1, 0, 3424, 3431, 3432}, // IfcElement.HasCoverings
-    {535, 1921, 536, 2562, 0, -1, 1, 0, 3455, 4530, 4531}, // IfcExternalReference.ExternalReferenceForResources
-    {537, 1676, 1141, 2564, 0, -1, 1, 0, 4532, 3880, 3881}, // IfcExternalSpatialElement.BoundedBy
-    {542, 2026, 1425, 2214, 0, -1, 1, 0, 3460, 4539, 4540}, // IfcFace.HasTextureMaps
-    {563, 2426, 1136, 2508, 1, 1, 0, 0, 3464, 3465, 3466}, // IfcFeatureElementAddition.ProjectsElements
-    {564, 2970, 1144, 2514, 1, 1, 0, 0, 3467, 3468, 3469}, // IfcFeatureElementSubtraction.VoidsElements
-    {628, 2023, 630, 2347, 0, -1, 1, 0, 3496, 3497, 3498}, // IfcGeometricRepresentationContext.HasSubContexts
-    {628, 2001, 300, 2708, 0, 1, 1, 0, 3496, 4406, 4407}, // IfcGeometricRepresentationContext.HasCoordinateOperation
-    {652, 2359, 651, 2985, 0, 1, 1, 0, 3506, 3509, 3510}, // IfcGridAxis.PartOfW
-    {652, 2358, 651, 2951, 0, 1, 1, 0, 3506, 3511, 3512}, // IfcGridAxis.PartOfV
-    {652, 2357, 651, 2889, 0, 1, 1, 0, 3506, 3513, 3514}, // IfcGridAxis.PartOfU
-    {652, 2009, 1527, 2075, 0, -1, 1, 0, 3506, 3515, 3516}, // IfcGridAxis.HasIntersections
-    {659, 2093, 1089, 2546, 0, -1, 1, 0, 3517, 3518, 4601}, // IfcGroup.IsGroupedBy
-    {684, 2838, 938, 1924, 1, -1, 1, 0, 4614, 4615, 4616}, // IfcIndexedPolygonalFace.ToFaceSet
-    {727, 2153, 1102, 2548, 0, -1, 1, 0, 4644, 4645, 4646}, // IfcLibraryInformation.LibraryInfoForObjects
-    {727, 2010, 728, 2473, 0, -1, 1, 0, 4644, 4647, 4648}, // IfcLibraryInformation.HasLibraryReferences
-    {728, 2155, 1102, 2548, 0, -1, 1, 0, 3534, 4649, 4646}, // IfcLibraryReference.LibraryRefForObjects
-    {788, 2019, 793, 2590, 0, 1, 1, 0, 3545, 3546, 3547}, // IfcMaterial.HasRepresentation
-    {788, 2109, 805, 2510, 0, -1, 1, 0, 3545, 3154, 4655}, // IfcMaterial.IsRelatedWith
-    {788, 2531, 805, 2549, 0, 1, 1, 0, 3545, 4656, 4657}, // IfcMaterial.RelatesTo
-    {790, 2841, 791, 2228, 1, 1, 0, 0, 4658, 4659, 4660}, // IfcMaterialConstituent.ToMaterialConstituentSet
-    {792, 1633, 1103, 2549, 0, -1, 1, 0, 4661, 4662, 4663}, // IfcMaterialDefinition.AssociatedTo
-    {792, 2005, 536, 2522, 0, -1, 1, 0, 4661, 4208, 4171}, // IfcMaterialDefinition.HasExternalReferences
-    {792, 2014, 804, 2226, 0, -1, 1, 0, 4661, 4664, 4665}, // IfcMaterialDefinition.HasProperties
-    {794, 2842, 795, 2230, 1, 1, 0, 0, 3551, 3552, 3553}, // IfcMaterialLayer.ToMaterialLayerSet
-    {799, 2843, 800, 2231, 1, 1, 0, 0, 4669, 4670, 4671}, // IfcMaterialProfile.ToMaterialProfileSet
-    {807, 1633, 1103, 2549, 1, -1, 1, 0, 4672, 4662, 4673}, // IfcMaterialUsageDefinition.AssociatedTo
-    {858, 2089, 1124, 2512, 0, 1, 1, 0, 3569, 4698, 4699}, // IfcObject.IsDeclaredBy
-    {858, 1810, 1124, 2551, 0, -1, 1, 0, 3569, 4390, 4700}, // IfcObject.Declares
-    {858, 2112, 1127, 2512, 0, 1, 1, 0, 3569, 4701, 4702}, // IfcObject.IsTypedBy
-    {858, 2091, 1125, 2512, 0, -1, 1, 0, 3569, 3571, 4389}, // IfcObject.IsDefinedBy
-    {859, 1995, 1085, 2512, 0, -1, 1, 0, 3573, 3574, 3575}, // IfcObjectDefinition.HasAssignments
-    {859, 2276, 1132, 2512, 0, 1, 1, 0, 3573, 4703, 4704}, // IfcObjectDefinition.Nests
-    {859, 2099, 1132, 2551, 0, -1, 1, 0, 3573, 4705, 4706}, // IfcObjectDefinition.IsNestedBy
-    {859, 1999, 1121, 2503, 0, 1, 1, 0, 3573, 4707, 4708}, // IfcObjectDefinition.HasContext
-    {859, 2090, 1084, 2551, 0, -1, 1, 0, 3573, 3576, 4709}, // IfcObjectDefinition.IsDecomposedBy
-    {859, 1811, 1084, 2512, 0, 1, 1, 0, 3573, 3578, 4710}, // IfcObjectDefinition.Decomposes
-    {859, 1996, 1095, 2512, 0, -1, 1, 0, 3573, 3580, 3581}, // IfcObjectDefinition.HasAssociations
-    {862, 2375, 974, 2299, 0, -1, 1, 0, 3582, 3583, 4711}, // IfcObjectPlacement.PlacesObject
-    {862, 2469, 764, 2374, 0, -1, 1, 0, 3582, 3585, 3586}, // IfcObjectPlacement.ReferencedByPlacements
-    {874, 2006, 1128, 2552, 0, -1, 1, 0, 3595, 3596, 3597}, // IfcOpeningElement.HasFillings
-    {880, 2106, 881, 2515, 0, -1, 1, 0, 3601, 3602, 3603}, // IfcOrganization.IsRelatedBy
-    {880, 2529, 881, 2553, 0, -1, 1, 0, 3601, 3156, 3604}, // IfcOrganization.Relates
-    {880, 1909, 904, 2803, 0, -1, 1, 0, 3601, 3605, 3606}, // IfcOrganization.Engages
-    {903, 1908, 904, 2805, 0, -1, 1, 0, 3615, 3617, 3618}, // IfcPerson.EngagedIn
-    {908, 2005, 536, 2522, 0, -1, 1, 0, 3621, 4208, 4171}, // IfcPhysicalQuantity.HasExternalReferences
-    {908, 2352, 906, 2017, 0, 1, 1, 0, 3621, 3622, 3623}, // IfcPhysicalQuantity.PartOfComplex
-    {942, 1748, 1112, 2554, 0, 1, 1, 0, 3643, 3644, 4756}, // IfcPort.ContainedIn
-    {942, 1737, 1111, 2516, 0, 1, 1, 0, 3643, 3445, 3646}, // IfcPort.ConnectedFrom
-    {942, 1738, 1111, 2554, 0, 1, 1, 0, 3643, 3429, 3647}, // IfcPort.ConnectedTo
-    {943, 1749, 1118, 2507, 0, 1, 1, 0, 5183, 3123, 3124}, // IfcPositioningElement.ContainedInStructure
-    {972, 2105, 1139, 2557, 0, -1, 1, 0, 3689, 3694, 3695}, // IfcProcess.IsPredecessorTo
-    {972, 2111, 1139, 2518, 0, -1, 1, 0, 3689, 3692, 3693}, // IfcProcess.IsSuccessorFrom
-    {972, 2317, 1091, 2557, 0, -1, 1, 0, 3689, 3690, 3691}, // IfcProcess.OperatesOn
-    {974, 2468, 1092, 2558, 0, -1, 1, 0, 3696, 3698, 3699}, // IfcProduct.ReferencedBy
-    {975, 2675, 974, 2582, 1, -1, 1, 0, 3700, 3702, 4770}, // IfcProductDefinitionShape.ShapeOfProduct
-    {975, 2021, 1212, 2354, 0, -1, 1, 0, 3700, 3704, 3705}, // IfcProductDefinitionShape.HasShapeAspects
-    {980, 2004, 536, 2522, 0, -1, 1, 0, 4771, 4170, 4171}, // IfcProfileDef.HasExternalReference
-    {980, 2014, 981, 2418, 0, -1, 1, 0, 4771, 4664, 4772}, // IfcProfileDef.HasProperties
-    {994, 2355, 1004, 2014, 0, -1, 1, 0, 3711, 4779, 4780}, // IfcProperty.PartOfPset
-    {994, 2431, 999, 1829, 0, -1, 1, 0, 3711, 3712, 3713}, // IfcProperty.PropertyForDependance
-    {994, 2430, 999, 1828, 0, -1, 1, 0, 3711, 3714, 3715}, // IfcProperty.PropertyDependsOn
-    {994, 2352, 238, 2014, 0, -1, 1, 0, 3711, 3622, 4781}, // IfcProperty.PartOfComplex
-    {994, 1998, 1152, 2522, 0, -1, 1, 0, 3711, 4782, 4783}, // IfcProperty.HasConstraints
-    {994, 1994, 1151, 2522, 0, -1, 1, 0, 3711, 4784, 4785}, // IfcProperty.HasApprovals
-    {995, 2005, 536, 2522, 0, -1, 1, 0, 4786, 4208, 4171}, // IfcPropertyAbstraction.HasExternalReferences
-    {998, 1999, 1121, 2503, 0, 1, 1, 0, 3720, 4707, 4708}, // IfcPropertyDefinition.HasContext
-    {998, 1996, 1095, 2512, 0, -1, 1, 0, 3720, 3580, 3581}, // IfcPropertyDefinition.HasAssociations
-    {1005, 1816, 1486, 2015, 0, -1, 1, 0, 3731, 3734, 4794}, // IfcPropertySetDefinition.DefinesType
-    {1005, 2091, 1126, 2521, 0, -1, 1, 0, 3731, 3571, 4795}, // IfcPropertySetDefinition.IsDefinedBy
-    {1005, 1815, 1125, 2561, 0, -1, 1, 0, 3731, 4796, 4797}, // IfcPropertySetDefinition.DefinesOccurrence
-    {1008, 1814, 1126, 2569, 0, -1, 1, 0, 4798, 4799, 4800}, // IfcPropertySetTemplate.Defines
-    {1013, 2353, 239, 2016, 0, -1, 1, 0, 4804, 4805, 4806}, // IfcPropertyTemplate.PartOfComplexTemplate
-    {1013, 2356, 1008, 2016, 0, -1, 1, 0, 4804, 4807, 4808}, // IfcPropertyTemplate.PartOfPsetTemplate
-    {1142, 2052, 1142, 2346, 0, -1, 1, 0, 4885, 4886, 4887}, // IfcRelSpaceBoundary1stLevel.InnerBoundaries
-    {1143, 1769, 1143, 1768, 0, 1, 1, 0, 4888, 4889, 4890}, // IfcRelSpaceBoundary2ndLevel.Corresponds
-    {1146, 2585, 1149, 2213, 0, 1, 1, 0, 3829, 3830, 3831}, // IfcRepresentation.RepresentationMap
-    {1146, 2139, 963, 1628, 0, -1, 1, 0, 3829, 3832, 3833}, // IfcRepresentation.LayerAssignments
-    {1146, 2313, 976, 2587, 0, -1, 1, 0, 3829, 3834, 4894}, // IfcRepresentation.OfProductRepresentation
-    {1147, 2588, 1146, 1754, 0, -1, 1, 0, 3836, 3837, 3838}, // IfcRepresentationContext.RepresentationsInContext
-    {1148, 2138, 963, 1628, 0, 1, 1, 0, 3839, 4895, 4896}, // IfcRepresentationItem.LayerAssignment
-    {1148, 2743, 1340, 2114, 0, 1, 1, 0, 3839, 3840, 3841}, // IfcRepresentationItem.StyledByItem
-    {1149, 2021, 1212, 2354, 0, -1, 1, 0, 3842, 3704, 3705}, // IfcRepresentationMap.HasShapeAspects
-    {1149, 2221, 779, 2216, 0, -1, 1, 0, 3842, 3843, 3844}, // IfcRepresentationMap.MapUsage
-    {1150, 2597, 1094, 2563, 0, -1, 1, 0, 3845, 3846, 3847}, // IfcResource.ResourceOf
-    {1212, 2005, 536, 2522, 0, -1, 1, 0, 5194, 4208, 4171}, // IfcShapeAspect.HasExternalReferences
-    {1213, 2314, 1212, 2676, 0, 1, 1, 0, 3866, 3868, 3869}, // IfcShapeModel.OfShapeAspect
-    {1255, 2002, 1120, 2564, 0, -1, 1, 0, 3878, 3431, 4947}, // IfcSpace.HasCoverings
-    {1255, 1676, 1141, 2564, 0, -1, 1, 0, 3878, 3880, 3881}, // IfcSpace.BoundedBy
-    {1264, 1751, 1118, 2567, 0, -1, 1, 0, 4953, 3895, 3896}, // IfcSpatialElement.ContainsElements
-    {1264, 2667, 1140, 2497, 0, -1, 1, 0, 4953, 3893, 3894}, // IfcSpatialElement.ServicedBySystems
-    {1264, 2480, 1137, 2567, 0, -1, 1, 0, 4953, 3891, 3892}, // IfcSpatialElement.ReferencesElements
-    {1291, 1631, 1113, 2525, 0, 1, 1, 0, 3898, 3899, 4973}, // IfcStructuralActivity.AssignedToStructuralItem
-    {1294, 1742, 1115, 2526, 1, -1, 1, 0, 3901, 3902, 3903}, // IfcStructuralConnection.ConnectsStructuralMembers
-    {1304, 1629, 1113, 2544, 0, -1, 1, 0, 3904, 3905, 3906}, // IfcStructuralItem.AssignedStructuralActivity
-    {1310, 2710, 1328, 2602, 0, 1, 1, 0, 3910, 3911, 3912}, // IfcStructuralLoadGroup.SourceOfResultGroup
-    {1310, 2187, 1293, 2186, 0, -1, 1, 0, 3910, 3913, 3914}, // IfcStructuralLoadGroup.LoadGroupFor
-    {1320, 1736, 1115, 2566, 0, -1, 1, 0, 3915, 3918, 3919}, // IfcStructuralMember.ConnectedBy
-    {1328, 2603, 1293, 2020, 0, 1, 1, 0, 3931, 3932, 3933}, // IfcStructuralResultGroup.ResultGroupFor
-    {1364, 2097, 1421, 2219, 0, -1, 1, 0, 5041, 5042, 5043}, // IfcSurfaceTexture.IsMappedBy
-    {1364, 2913, 1363, 2798, 0, -1, 1, 0, 5041, 5044, 5045}, // IfcSurfaceTexture.UsedInStyles
-    {1375, 2670, 1140, 2568, 0, 1, 1, 0, 3973, 3974, 3975}, // IfcSystem.ServicesBuildings
-    {1404, 1997, 682, 2214, 0, 1, 1, 0, 5082, 5083, 5084}, // IfcTessellatedFaceSet.HasColours
-    {1404, 2027, 687, 2214, 0, -1, 1, 0, 5082, 5085, 5086}, // IfcTessellatedFaceSet.HasTextures
-    {1442, 2004, 536, 2522, 1, -1, 1, 0, 4002, 4170, 5088}, // IfcTimeSeries.HasExternalReference
-    {1486, 2885, 1127, 2570, 0, 1, 1, 0, 4018, 5112, 4020}, // IfcTypeObject.Types
-    {1487, 2317, 1091, 2557, 0, -1, 1, 0, 5113, 3690, 3691}, // IfcTypeProcess.OperatesOn
-    {1488, 2468, 1092, 2558, 0, -1, 1, 0, 4021, 3698, 3699}, // IfcTypeProduct.ReferencedBy
-    {1489, 2597, 1094, 2563, 0, -1, 1, 0, 5116, 3846, 3847}, // IfcTypeResource.ResourceOf
+    {7, 2079, 1087, 2532, 0, -1, 1, 0, 3125, 3126, 3127}, // IfcActor.IsActingUpon
+    {8, 2004, 536, 2522, 0, -1, 1, 0, 3129, 4467, 4468}, // IfcActorRole.HasExternalReference
+    {13, 2312, 903, 1589, 0, -1, 1, 0, 3132, 3135, 3136}, // IfcAddress.OfPerson
+    {13, 2311, 880, 1589, 0, -1, 1, 0, 3132, 3137, 3138}, // IfcAddress.OfOrganization
+    {36, 2836, 48, 2036, 1, -1, 1, 0, 5676, 5677, 5678}, // IfcAlignment2DHorizontal.ToAlignmentCurve
+    {37, 2839, 36, 2657, 1, 1, 1, 0, 5679, 5680, 5681}, // IfcAlignment2DHorizontalSegment.ToHorizontal
+    {43, 2836, 48, 2959, 1, 1, 1, 0, 5682, 5677, 5683}, // IfcAlignment2DVertical.ToAlignmentCurve
+    {44, 2858, 43, 2657, 1, 1, 1, 0, 5684, 5685, 5686}, // IfcAlignment2DVerticalSegment.ToVertical
+    {63, 1749, 1118, 2507, 0, 1, 1, 0, 3146, 3147, 3148}, // IfcAnnotation.ContainedInStructure
+    {74, 2004, 536, 2522, 0, -1, 1, 0, 3173, 4467, 4468}, // IfcAppliedValue.HasExternalReference
+    {77, 2005, 536, 2522, 0, -1, 1, 0, 3182, 4516, 4468}, // IfcApproval.HasExternalReferences
+    {77, 1621, 1097, 2534, 0, -1, 1, 0, 3182, 4517, 4518}, // IfcApproval.ApprovedObjects
+    {77, 1623, 1151, 2534, 0, -1, 1, 0, 3182, 4519, 4520}, // IfcApproval.ApprovedResources
+    {77, 2109, 80, 2495, 0, -1, 1, 0, 3182, 3185, 4521}, // IfcApproval.IsRelatedWith
+    {77, 2529, 80, 2534, 0, -1, 1, 0, 3182, 3187, 3188}, // IfcApproval.Relates
+    {210, 1700, 1098, 2536, 0, -1, 1, 0, 3314, 4673, 4674}, // IfcClassification.ClassificationForObjects
+    {210, 2018, 216, 2474, 0, -1, 1, 0, 3314, 4675, 4676}, // IfcClassification.HasReferences
+    {216, 1701, 1098, 2536, 0, -1, 1, 0, 4677, 4678, 4674}, // IfcClassificationReference.ClassificationRefForObjects
+    {216, 2018, 216, 2474, 0, -1, 1, 0, 4677, 4675, 4676}, // IfcClassificationReference.HasReferences
+    {243, 2934, 241, 2657, 1, -1, 1, 0, 3338, 3341, 3342}, // IfcCompositeCurveSegment.UsingCurves
+    {265, 2005, 536, 2522, 0, -1, 1, 0, 3353, 4516, 4468}, // IfcConstraint.HasExternalReferences
+    {265, 2428, 1152, 2538, 0, -1, 1, 0, 3353, 3361, 4721}, // IfcConstraint.PropertiesForConstraint
+    {281, 2091, 1125, 2512, 0, -1, 1, 0, 4733, 3721, 4734}, // IfcContext.IsDefinedBy
+    {281, 1810, 1121, 2539, 0, -1, 1, 0, 4733, 4735, 4736}, // IfcContext.Declares
+    {283, 2004, 536, 2522, 0, -1, 1, 0, 4737, 4467, 4468}, // IfcContextDependentUnit.HasExternalReference
+    {284, 1759, 1088, 2540, 0, -1, 1, 0, 3378, 3379, 3380}, // IfcControl.Controls
+    {288, 2004, 536, 2522, 0, -1, 1, 0, 4744, 4467, 4468}, // IfcConversionBasedUnit.HasExternalReference
+    {301, 2001, 300, 2708, 0, 1, 1, 0, 4753, 4754, 4755}, // IfcCoordinateReferenceSystem.HasCoordinateOperation
+    {314, 1778, 1120, 2502, 0, 1, 1, 0, 3387, 3391, 3392}, // IfcCovering.CoversSpaces
+    {314, 1777, 1119, 2502, 0, 1, 1, 0, 3387, 4758, 3394}, // IfcCovering.CoversElements
+    {398, 1630, 1129, 2501, 0, 1, 1, 0, 3456, 3457, 3458}, // IfcDistributionControlElement.AssignedToFlowElement
+    {400, 2012, 1112, 2506, 0, -1, 1, 0, 4796, 3548, 3549}, // IfcDistributionElement.HasPorts
+    {402, 2000, 1129, 2545, 0, 1, 1, 0, 3459, 3460, 3461}, // IfcDistributionFlowElement.HasControlElements
+    {410, 1859, 1101, 2542, 0, -1, 1, 0, 3465, 4797, 4798}, // IfcDocumentInformation.DocumentInfoForObjects
+    {410, 2003, 412, 2471, 0, -1, 1, 0, 3465, 4799, 4800}, // IfcDocumentInformation.HasDocumentReferences
+    {410, 2102, 411, 2504, 0, -1, 1, 0, 3465, 3466, 3467}, // IfcDocumentInformation.IsPointedTo
+    {410, 2103, 411, 2542, 0, 1, 1, 0, 3465, 3468, 3469}, // IfcDocumentInformation.IsPointer
+    {412, 1862, 1101, 2542, 0, -1, 1, 0, 3470, 4803, 4798}, // IfcDocumentReference.DocumentRefForObjects
+    {492, 1938, 1128, 2496, 0, 1, 1, 0, 3535, 3538, 3539}, // IfcElement.FillsVoids
+    {492, 1738, 1109, 2544, 0, -1, 1, 0, 3535, 3540, 3541}, // IfcElement.ConnectedTo
+    {492, 2095, 1131, 2506, 0, -1, 1, 0, 3535, 4868, 4869}, // IfcElement.IsInterferedByElements
+    {492, 2070, 1131, 2544, 0, -1, 1, 0, 3535, 4870, 4871}, // IfcElement.InterferesElements
+    {492, 2013, 1136, 2544, 0, -1, 1, 0, 3535, 3544, 3545}, // IfcElement.HasProjections
+    {492, 2472, 1137, 2507, 0, -1, 1, 0, 3535, 3546, 3547}, // IfcElement.ReferencedInStructures
+    {492, 2011, 1144, 2535, 0, -1, 1, 0, 3535, 3550, 3551}, // IfcElement.HasOpenings
+    {492, 2086, 1117, 2459, 0, -1, 1, 0, 3535, 3552, 3553}, // IfcElement.IsConnectionRealization
+    {492, 2436, 1141, 2496, 0, -1, 1, 0, 3535, 3554, 3555}, // IfcElement.ProvidesBoundaries
+    {492, 1737, 1109, 2506, 0, -1, 1, 0, 3535, 3556, 3557}, // IfcElement.ConnectedFrom
+    {492, 1749, 1118, 2507, 0, 1, 1, 0, 3535, 3147, 3148}, // IfcElement.ContainedInStructure
+    {492, 2002, 1119, 2535, 0, -1, 1, 0, 3535, 3542, 3543}, // IfcElement.HasCoverings
+    {535, 1921, 536, 2562, 0, -1, 1, 0, 3568, 4908, 4909}, // IfcExternalReference.ExternalReferenceForResources
+    {537, 1676, 1141, 2564, 0, -1, 1, 0, 4910, 4118, 4119}, // IfcExternalSpatialElement.BoundedBy
+    {542, 2026, 1425, 2214, 0, -1, 1, 0, 3575, 4918, 4919}, // IfcFace.HasTextureMaps
+    {563, 2426, 1136, 2508, 1, 1, 0, 0, 3580, 3581, 3582}, // IfcFeatureElementAddition.ProjectsElements
+    {564, 2970, 1144, 2514, 1, 1, 0, 0, 3583, 3584, 3585}, // IfcFeatureElementSubtraction.VoidsElements
+    {628, 2023, 630, 2347, 0, -1, 1, 0, 3620, 3621, 3622}, // IfcGeometricRepresentationContext.HasSubContexts
+    {628, 2001, 300, 2708, 0, 1, 1, 0, 3620, 4754, 4755}, // IfcGeometricRepresentationContext.HasCoordinateOperation
+    {652, 2359, 651, 2985, 0, 1, 1, 0, 3634, 3639, 3640}, // IfcGridAxis.PartOfW
+    {652, 2358, 651, 2951, 0, 1, 1, 0, 3634, 3641, 3642}, // IfcGridAxis.PartOfV
+    {652, 2357, 651, 2889, 0, 1, 1, 0, 3634, 3643, 3644}, // IfcGridAxis.PartOfU
+    {652, 2009, 1527, 2075, 0, -1, 1, 0, 3634, 3645, 3646}, // IfcGridAxis.HasIntersections
+    {659, 2093, 1089, 2546, 0, -1, 1, 0, 3647, 3648, 4994}, // IfcGroup.IsGroupedBy
+    {684, 2838, 938, 1924, 1, -1, 1, 0, 5011, 5012, 5013}, // IfcIndexedPolygonalFace.ToFaceSet
+    {727, 2153, 1102, 2548, 0, -1, 1, 0, 5047, 5048, 5049}, // IfcLibraryInformation.LibraryInfoForObjects
+    {727, 2010, 728, 2473, 0, -1, 1, 0, 5047, 5050, 5051}, // IfcLibraryInformation.HasLibraryReferences
+    {728, 2155, 1102, 2548, 0, -1, 1, 0, 3670, 5052, 5049}, // IfcLibraryReference.LibraryRefForObjects
+    {788, 2019, 793, 2590, 0, 1, 1, 0, 3684, 3685, 3686}, // IfcMaterial.HasRepresentation
+    {788, 2109, 805, 2510, 0, -1, 1, 0, 3684, 3185, 5059}, // IfcMaterial.IsRelatedWith
+    {788, 2531, 805, 2549, 0, 1, 1, 0, 3684, 5060, 5061}, // IfcMaterial.RelatesTo
+    {790, 2841, 791, 2228, 1, 1, 0, 0, 5062, 5063, 5064}, // IfcMaterialConstituent.ToMaterialConstituentSet
+    {792, 1633, 1103, 2549, 0, -1, 1, 0, 5065, 5066, 5067}, // IfcMaterialDefinition.AssociatedTo
+    {792, 2005, 536, 2522, 0, -1, 1, 0, 5065, 4516, 4468}, // IfcMaterialDefinition.HasExternalReferences
+    {792, 2014, 804, 2226, 0, -1, 1, 0, 5065, 5068, 5069}, // IfcMaterialDefinition.HasProperties
+    {794, 2842, 795, 2230, 1, 1, 0, 0, 3691, 3692, 3693}, // IfcMaterialLayer.ToMaterialLayerSet
+    {799, 2843, 800, 2231, 1, 1, 0, 0, 5074, 5075, 5076}, // IfcMaterialProfile.ToMaterialProfileSet
+    {807, 1633, 1103, 2549, 1, -1, 1, 0, 5077, 5066, 5078}, // IfcMaterialUsageDefinition.AssociatedTo
+    {858, 2089, 1124, 2512, 0, 1, 1, 0, 3718, 5108, 5109}, // IfcObject.IsDeclaredBy
+    {858, 1810, 1124, 2551, 0, -1, 1, 0, 3718, 4735, 5110}, // IfcObject.Declares
+    {858, 2112, 1127, 2512, 0, 1, 1, 0, 3718, 5111, 5112}, // IfcObject.IsTypedBy
+    {858, 2091, 1125, 2512, 0, -1, 1, 0, 3718, 3721, 4734}, // IfcObject.IsDefinedBy
+    {859, 1995, 1085, 2512, 0, -1, 1, 0, 3723, 3724, 3725}, // IfcObjectDefinition.HasAssignments
+    {859, 2276, 1132, 2512, 0, 1, 1, 0, 3723, 5113, 5114}, // IfcObjectDefinition.Nests
+    {859, 2099, 1132, 2551, 0, -1, 1, 0, 3723, 5115, 5116}, // IfcObjectDefinition.IsNestedBy
+    {859, 1999, 1121, 2503, 0, 1, 1, 0, 3723, 5117, 5118}, // IfcObjectDefinition.HasContext
+    {859, 2090, 1084, 2551, 0, -1, 1, 0, 3723, 3726, 5119}, // IfcObjectDefinition.IsDecomposedBy
+    {859, 1811, 1084, 2512, 0, 1, 1, 0, 3723, 3728, 5120}, // IfcObjectDefinition.Decomposes
+    {859, 1996, 1095, 2512, 0, -1, 1, 0, 3723, 3730, 3731}, // IfcObjectDefinition.HasAssociations
+    {862, 2375, 974, 2299, 0, -1, 1, 0, 3732, 3733, 5121}, // IfcObjectPlacement.PlacesObject
+    {862, 2469, 764, 2374, 0, -1, 1, 0, 3732, 3735, 3736}, // IfcObjectPlacement.ReferencedByPlacements
+    {874, 2006, 1128, 2552, 0, -1, 1, 0, 3748, 3749, 3750}, // IfcOpeningElement.HasFillings
+    {880, 2106, 881, 2515, 0, -1, 1, 0, 3754, 3755, 3756}, // IfcOrganization.IsRelatedBy
+    {880, 2529, 881, 2553, 0, -1, 1, 0, 3754, 3187, 3757}, // IfcOrganization.Relates
+    {880, 1909, 904, 2803, 0, -1, 1, 0, 3754, 3758, 3759}, // IfcOrganization.Engages
+    {903, 1908, 904, 2805, 0, -1, 1, 0, 3769, 3772, 3773}, // IfcPerson.EngagedIn
+    {908, 2005, 536, 2522, 0, -1, 1, 0, 3777, 4516, 4468}, // IfcPhysicalQuantity.HasExternalReferences
+    {908, 2352, 906, 2017, 0, 1, 1, 0, 3777, 3778, 3779}, // IfcPhysicalQuantity.PartOfComplex
+    {942, 1748, 1112, 2554, 0, 1, 1, 0, 3807, 3808, 5177}, // IfcPort.ContainedIn
+    {942, 1737, 1111, 2516, 0, 1, 1, 0, 3807, 3556, 3810}, // IfcPort.ConnectedFrom
+    {942, 1738, 1111, 2554, 0, 1, 1, 0, 3807, 3540, 3811}, // IfcPort.ConnectedTo
+    {943, 1749, 1118, 2507, 0, 1, 1, 0, 5688, 3147, 3148}, // IfcPositioningElement.ContainedInStructure
+    {972, 2105, 1139, 2557, 0, -1, 1, 0, 3860, 3865, 3866}, // IfcProcess.IsPredecessorTo
+    {972, 2111, 1139, 2518, 0, -1, 1, 0, 3860, 3863, 3864}, // IfcProcess.IsSuccessorFrom
+    {972, 2317, 1091, 2557, 0, -1, 1, 0, 3860, 3861, 3862}, // IfcProcess.OperatesOn
+    {974, 2468, 1092, 2558, 0, -1, 1, 0, 3867, 3870, 3871}, // IfcProduct.ReferencedBy
+    {975, 2675, 974, 2582, 1, -1, 1, 0, 3872, 3875, 5194}, // IfcProductDefinitionShape.ShapeOfProduct
+    {975, 2021, 1212, 2354, 0, -1, 1, 0, 3872, 3877, 3878}, // IfcProductDefinitionShape.HasShapeAspects
+    {980, 2004, 536, 2522, 0, -1, 1, 0, 5195, 4467, 4468}, // IfcProfileDef.HasExternalReference
+    {980, 2014, 981, 2418, 0, -1, 1, 0, 5195, 5068, 5196}, // IfcProfileDef.HasProperties
+    {994, 2355, 1004, 2014, 0, -1, 1, 0, 3886, 5205, 5206}, // IfcProperty.PartOfPset
+    {994, 2431, 999, 1829, 0, -1, 1, 0, 3886, 3887, 3888}, // IfcProperty.PropertyForDependance
+    {994, 2430, 999, 1828, 0, -1, 1, 0, 3886, 3889, 3890}, // IfcProperty.PropertyDependsOn
+    {994, 2352, 238, 2014, 0, -1, 1, 0, 3886, 3778, 5207}, // IfcProperty.PartOfComplex
+    {994, 1998, 1152, 2522, 0, -1, 1, 0, 3886, 5208, 5209}, // IfcProperty.HasConstraints
+    {994, 1994, 1151, 2522, 0, -1, 1, 0, 3886, 5210, 5211}, // IfcProperty.HasApprovals
+    {995, 2005, 536, 2522, 0, -1, 1, 0, 5212, 4516, 4468}, // IfcPropertyAbstraction.HasExternalReferences
+    {998, 1999, 1121, 2503, 0, 1, 1, 0, 3897, 5117, 5118}, // IfcPropertyDefinition.HasContext
+    {998, 1996, 1095, 2512, 0, -1, 1, 0, 3897, 3730, 3731}, // IfcPropertyDefinition.HasAssociations
+    {1005, 1816, 1486, 2015, 0, -1, 1, 0, 3912, 3915, 5223}, // IfcPropertySetDefinition.DefinesType
+    {1005, 2091, 1126, 2521, 0, -1, 1, 0, 3912, 3721, 5224}, // IfcPropertySetDefinition.IsDefinedBy
+    {1005, 1815, 1125, 2561, 0, -1, 1, 0, 3912, 5225, 5226}, // IfcPropertySetDefinition.DefinesOccurrence
+    {1008, 1814, 1126, 2569, 0, -1, 1, 0, 5227, 5228, 5229}, // IfcPropertySetTemplate.Defines
+    {1013, 2353, 239, 2016, 0, -1, 1, 0, 5236, 5237, 5238}, // IfcPropertyTemplate.PartOfComplexTemplate
+    {1013, 2356, 1008, 2016, 0, -1, 1, 0, 5236, 5239, 5240}, // IfcPropertyTemplate.PartOfPsetTemplate
+    {1142, 2052, 1142, 2346, 0, -1, 1, 0, 5336, 5337, 5338}, // IfcRelSpaceBoundary1stLevel.InnerBoundaries
+    {1143, 1769, 1143, 1768, 0, 1, 1, 0, 5339, 5340, 5341}, // IfcRelSpaceBoundary2ndLevel.Corresponds
+    {1146, 2585, 1149, 2213, 0, 1, 1, 0, 4056, 4057, 4058}, // IfcRepresentation.RepresentationMap
+    {1146, 2139, 963, 1628, 0, -1, 1, 0, 4056, 4059, 4060}, // IfcRepresentation.LayerAssignments
+    {1146, 2313, 976, 2587, 0, -1, 1, 0, 4056, 4061, 5346}, // IfcRepresentation.OfProductRepresentation
+    {1147, 2588, 1146, 1754, 0, -1, 1, 0, 4063, 4064, 4065}, // IfcRepresentationContext.RepresentationsInContext
+    {1148, 2138, 963, 1628, 0, 1, 1, 0, 4066, 5347, 5348}, // IfcRepresentationItem.LayerAssignment
+    {1148, 2743, 1340, 2114, 0, 1, 1, 0, 4066, 4067, 4068}, // IfcRepresentationItem.StyledByItem
+    {1149, 2021, 1212, 2354, 0, -1, 1, 0, 4069, 3877, 3878}, // IfcRepresentationMap.HasShapeAspects
+    {1149, 2221, 779, 2216, 0, -1, 1, 0, 4069, 4070, 4071}, // IfcRepresentationMap.MapUsage
+    {1150, 2597, 1094, 2563, 0, -1, 1, 0, 4072, 4073, 4074}, // IfcResource.ResourceOf
+    {1212, 2005, 536, 2522, 0, -1, 1, 0, 5701, 4516, 4468}, // IfcShapeAspect.HasExternalReferences
+    {1213, 2314, 1212, 2676, 0, 1, 1, 0, 4099, 4102, 4103}, // IfcShapeModel.OfShapeAspect
+    {1255, 2002, 1120, 2564, 0, -1, 1, 0, 4116, 3542, 5410}, // IfcSpace.HasCoverings
+    {1255, 1676, 1141, 2564, 0, -1, 1, 0, 4116, 4118, 4119}, // IfcSpace.BoundedBy
+    {1264, 1751, 1118, 2567, 0, -1, 1, 0, 5417, 4134, 4135}, // IfcSpatialElement.ContainsElements
+    {1264, 2667, 1140, 2497, 0, -1, 1, 0, 5417, 4132, 4133}, // IfcSpatialElement.ServicedBySystems
+    {1264, 2480, 1137, 2567, 0, -1, 1, 0, 5417, 4130, 4131}, // IfcSpatialElement.ReferencesElements
+    {1291, 1631, 1113, 2525, 0, 1, 1, 0, 4137, 4138, 5441}, // IfcStructuralActivity.AssignedToStructuralItem
+    {1294, 1742, 1115, 2526, 1, -1, 1, 0, 4140, 4141, 4142}, // IfcStructuralConnection.ConnectsStructuralMembers
+    {1304, 1629, 1113, 2544, 0, -1, 1, 0, 4143, 4144, 4145}, // IfcStructuralItem.AssignedStructuralActivity
+    {1310, 2710, 1328, 2602, 0, 1, 1, 0, 4150, 4151, 4152}, // IfcStructuralLoadGroup.SourceOfResultGroup
+    {1310, 2187, 1293, 2186, 0, -1, 1, 0, 4150, 4153, 4154}, // IfcStructuralLoadGroup.LoadGroupFor
+    {1320, 1736, 1115, 2566, 0, -1, 1, 0, 4155, 4158, 4159}, // IfcStructuralMember.ConnectedBy
+    {1328, 2603, 1293, 2020, 0, 1, 1, 0, 4175, 4176, 4177}, // IfcStructuralResultGroup.ResultGroupFor
+    {1364, 2097, 1421, 2219, 0, -1, 1, 0, 5523, 5524, 5525}, // IfcSurfaceTexture.IsMappedBy
+    {1364, 2913, 1363, 2798, 0, -1, 1, 0, 5523, 5526, 5527}, // IfcSurfaceTexture.UsedInStyles
+    {1375, 2670, 1140, 2568, 0, 1, 1, 0, 4237, 4238, 4239}, // IfcSystem.ServicesBuildings
+    {1404, 1997, 682, 2214, 0, 1, 1, 0, 5572, 5573, 5574}, // IfcTessellatedFaceSet.HasColours
+    {1404, 2027, 687, 2214, 0, -1, 1, 0, 5572, 5575, 5576}, // IfcTessellatedFaceSet.HasTextures
+    {1442, 2004, 536, 2522, 1, -1, 1, 0, 4274, 4467, 5578}, // IfcTimeSeries.HasExternalReference
+    {1486, 2885, 1127, 2570, 0, 1, 1, 0, 4295, 5607, 4297}, // IfcTypeObject.Types
+    {1487, 2317, 1091, 2557, 0, -1, 1, 0, 5608, 3861, 3862}, // IfcTypeProcess.OperatesOn
+    {1488, 2468, 1092, 2558, 0, -1, 1, 0, 4298, 3870, 3871}, // IfcTypeProduct.ReferencedBy
+    {1489, 2597, 1094, 2563, 0, -1, 1, 0, 5612, 4073, 4074}, // IfcTypeResource.ResourceOf
 };
 
 constexpr DerivedAttribute derivedAttributes[] = {
@@ -942,53 +942,53 @@ constexpr DerivedAttribute derivedAttributes[] = {
 };
 
 constexpr Function functions[] = {
-    {3178, 1, 28941}, // IFCNORMALISE
-    {3182, 1, 7617}, // IFCBUILD2AXES
-    {3185, 2, 27328}, // IFCCROSSPRODUCT
-    {3189, 2, 7650}, // IFCBUILDAXES
-    {3193, 3, 11437}, // IFCLISTTOARRAY
-    {3230, 4, 7345}, // IFCBASEAXIS
-    {3256, 1, 13464}, // IFCUNIQUEPROPERTYNAME
-    {3313, 1, 30847}, // IFCCURVEDIM
-    {3326, 1, 9978}, // IFCDERIVEDIMENSIONALEXPONENTS
-    {3420, 1, 11533}, // IFCLOOPHEADTOTAIL
-    {3457, 2, 11126}, // IFCDOTPRODUCT
-    {3473, 1, 8841}, // IFCCORRECTFILLAREASTYLE
-    {3539, 2, 27266}, // IFCCORRECTLOCALPLACEMENT
-    {3554, 1, 11613}, // IFCMLSTOTALTHICKNESS
-    {3566, 2, 26131}, // IFCCORRECTDIMENSIONS
-    {3609, 3, 7602}, // IFCBOOLEANCHOOSE
-    {3610, 1, 12010}, // IFCPATHHEADTOTAIL
-    {3771, 1, 9915}, // IFCCURVEWEIGHTSPOSITIVE
-    {3784, 2, 9054}, // IFCCORRECTOBJECTASSIGNMENT
-    {3856, 1, 27709}, // IFCDIMENSIONSFORSIUNIT
-    {3874, 2, 29245}, // IFCSHAPEREPRESENTATIONTYPES
-    {4009, 2, 13300}, // IFCTOPOLOGYREPRESENTATIONTYPES
-    {4025, 1, 9319}, // IFCCORRECTUNITASSIGNMENT
-    {4051, 2, 12397}, // IFCSAMEVALIDPRECISION
-    {4052, 3, 12094}, // IFCSAMEAXIS2PLACEMENT
-    {4059, 2, 11246}, // IFCFIRSTPROJAXIS
-    {4060, 3, 12636}, // IFCSECONDPROJAXIS
-    {4061, 1, 11960}, // IFCORTHOGONALCOMPLEMENT
-    {4122, 2, 12499}, // IFCSCALARTIMESVECTOR
-    {4123, 2, 13742}, // IFCVECTORDIFFERENCE
-    {4125, 3, 12276}, // IFCSAMEDIRECTION
-    {4126, 3, 12155}, // IFCSAMECARTESIANPOINT
-    {4127, 3, 12464}, // IFCSAMEVALUE
-    {4148, 2, 13991}, // IFCVECTORSUM
-    {4236, 5, 25832}, // IFCCONSTRAINTSPARAMBSPLINE
-    {4242, 5, 28789}, // IFCMAKEARRAYOFARRAY
-    {4318, 1, 29222}, // IFCPOINTLISTDIM
-    {4357, 1, 13464}, // IFCUNIQUEPROPERTYTEMPLATENAMES
-    {4367, 1, 28598}, // IFCGETBASISSURFACE
-    {4507, 1, 13464}, // IFCUNIQUEQUANTITYNAMES
-    {4534, 2, 30398}, // IFCTAPEREDSWEPTAREAPROFILES
-    {4598, 1, 26085}, // IFCCONVERTDIRECTIONINTO2D
-    {4610, 1, 25752}, // IFCCONSECUTIVESEGMENTS
-    {4625, 1, 25738}, // IFCASSOCIATEDSURFACE
-    {4695, 1, 30467}, // IFCUNIQUEDEFINITIONNAMES
-    {4840, 1, 30279}, // IFCSURFACEWEIGHTSPOSITIVE
-    {5110, 1, 30613}, // IFCUNIQUEPROPERTYSETNAMES
+    {3220, 1, 28941}, // IFCNORMALISE
+    {3226, 1, 7617}, // IFCBUILD2AXES
+    {3230, 2, 27328}, // IFCCROSSPRODUCT
+    {3236, 2, 7650}, // IFCBUILDAXES
+    {3241, 3, 11437}, // IFCLISTTOARRAY
+    {3293, 4, 7345}, // IFCBASEAXIS
+    {3327, 1, 13464}, // IFCUNIQUEPROPERTYNAME
+    {3395, 1, 30847}, // IFCCURVEDIM
+    {3413, 1, 9978}, // IFCDERIVEDIMENSIONALEXPONENTS
+    {3529, 1, 11533}, // IFCLOOPHEADTOTAIL
+    {3571, 2, 11126}, // IFCDOTPRODUCT
+    {3591, 1, 8841}, // IFCCORRECTFILLAREASTYLE
+    {3676, 2, 27266}, // IFCCORRECTLOCALPLACEMENT
+    {3694, 1, 11613}, // IFCMLSTOTALTHICKNESS
+    {3714, 2, 26131}, // IFCCORRECTDIMENSIONS
+    {3763, 3, 7602}, // IFCBOOLEANCHOOSE
+    {3764, 1, 12010}, // IFCPATHHEADTOTAIL
+    {3968, 1, 9915}, // IFCCURVEWEIGHTSPOSITIVE
+    {3990, 2, 9054}, // IFCCORRECTOBJECTASSIGNMENT
+    {4086, 1, 27709}, // IFCDIMENSIONSFORSIUNIT
+    {4111, 2, 29245}, // IFCSHAPEREPRESENTATIONTYPES
+    {4283, 2, 13300}, // IFCTOPOLOGYREPRESENTATIONTYPES
+    {4304, 1, 9319}, // IFCCORRECTUNITASSIGNMENT
+    {4339, 2, 12397}, // IFCSAMEVALIDPRECISION
+    {4340, 3, 12094}, // IFCSAMEAXIS2PLACEMENT
+    {4349, 2, 11246}, // IFCFIRSTPROJAXIS
+    {4350, 3, 12636}, // IFCSECONDPROJAXIS
+    {4351, 1, 11960}, // IFCORTHOGONALCOMPLEMENT
+    {4412, 2, 12499}, // IFCSCALARTIMESVECTOR
+    {4413, 2, 13742}, // IFCVECTORDIFFERENCE
+    {4415, 3, 12276}, // IFCSAMEDIRECTION
+    {4416, 3, 12155}, // IFCSAMECARTESIANPOINT
+    {4417, 3, 12464}, // IFCSAMEVALUE
+    {4438, 2, 13991}, // IFCVECTORSUM
+    {4549, 5, 25832}, // IFCCONSTRAINTSPARAMBSPLINE
+    {4557, 5, 28789}, // IFCMAKEARRAYOFARRAY
+    {4652, 1, 29222}, // IFCPOINTLISTDIM
+    {4696, 1, 13464}, // IFCUNIQUEPROPERTYTEMPLATENAMES
+    {4709, 1, 28598}, // IFCGETBASISSURFACE
+    {4877, 1, 13464}, // IFCUNIQUEQUANTITYNAMES
+    {4912, 2, 30398}, // IFCTAPEREDSWEPTAREAPROFILES
+    {4991, 1, 26085}, // IFCCONVERTDIRECTIONINTO2D
+    {5006, 1, 25752}, // IFCCONSECUTIVESEGMENTS
+    {5024, 1, 25738}, // IFCASSOCIATEDSURFACE
+    {5104, 1, 30467}, // IFCUNIQUEDEFINITIONNAMES
+    {5279, 1, 30279}, // IFCSURFACEWEIGHTSPOSITIVE
+    {5604, 1, 30613}, // IFCUNIQUEPROPERTYSETNAMES
 };
 
 } // namespace

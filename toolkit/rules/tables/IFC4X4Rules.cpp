@@ -7,10 +7,10 @@ namespace velkor::rules {
 namespace {
 
 constexpr UniqueRule uniqueRules[] = {
-    {73, 3139, 3140, 3141, 0, 1}, // IfcApplication.UR1
-    {73, 3139, 3102, 3142, 1, 2}, // IfcApplication.UR2
-    {1001, 3725, 3140, 3727, 3, 1}, // IfcPropertyEnumeration.UR1
-    {1173, 3852, 3140, 3853, 4, 1}, // IfcRoot.UR1
+    {73, 3169, 3170, 3171, 0, 1}, // IfcApplication.UR1
+    {73, 3169, 3123, 3172, 1, 2}, // IfcApplication.UR2
+    {1001, 3904, 3170, 3907, 3, 1}, // IfcPropertyEnumeration.UR1
+    {1173, 4081, 3170, 4082, 4, 1}, // IfcRoot.UR1
 };
 
 constexpr TextId uniqueAttributes[] = {

@@ -7,10 +7,11 @@ namespace velkor::rules {
 namespace {
 
 struct Texts {
-    char part0[59993];
-    char part1[59980];
-    char part2[59901];
-    char part3[41449];
+    char part0[59982];
+    char part1[59978];
+    char part2[59871];
+    char part3[59905];
+    char part4[18110];
 };
 
 constexpr Texts texts = {
@@ -3044,27 +3045,35 @@ constexpr Texts texts = {
     "IfcBoxAlignment\000"
     "WR1\000"
     "SELF IN ['top-left', 'top-middle', 'top-right', 'middle-left', 'center', 'middle-right', 'bottom-left', 'bottom-middle', 'bottom-right']\000"
-    "\000"
+    "the value is one of \"top-left\", \"top-middle\", \"top-right\", \"middle-left\", \"center\", \"middle-right\", \"bottom-left\", \"bottom-middle\" or \"bottom-right\"\000"
     "IfcCompoundPlaneAngleMeasure\000"
     "{ -360 <= SELF[1] < 360 }\000"
+    "member 1 is at least -360 and below 360\000"
     "WR2\000"
     "{ -60 <= SELF[2] < 60 }\000"
+    "member 2 is at least -60 and below 60\000"
     "WR3\000"
     "{ -60 <= SELF[3] < 60 }\000"
+    "member 3 is at least -60 and below 60\000"
     "WR4\000"
     "((SELF[1] >= 0) AND (SELF[2] >= 0) AND (SELF[3] >= 0)) OR ((SELF[1] <= 0) AND (SELF[2] <= 0) AND (SELF[3] <= 0))\000"
+    "member 1, member 2 and member 3 are at least 0, or member 1, member 2 and member 3 are at most 0\000"
     "IfcDaylightSavingHour\000"
     "{ 0 <= SELF <= 2 }\000"
+    "the value is from 0 to 2\000"
     "IfcDimensionCount\000"
     "{ 0 < SELF <= 3 }\000"
+    "the value is above 0 and at most 3\000"
     "normal\000"
     "italic\000"
     "oblique\000"
     "IfcFontStyle\000"
     "SELF IN ['normal','italic','oblique']\000"
+    "the value is one of \"normal\", \"italic\" or \"oblique\"\000"
     "small-caps\000"
     "IfcFontVariant\000"
     "SELF IN ['normal','small-caps']\000"
+    "the value is one of \"normal\" or \"small-caps\"\000"
     "100\000"
     "200\000"
     "300\000"
@@ -3076,30 +3085,39 @@ constexpr Texts texts = {
     "900\000"
     "IfcFontWeight\000"
     "SELF IN ['normal','small-caps','100','200','300','400','500','600','700','800','900']\000"
+    "the value is one of \"normal\", \"small-caps\", \"100\", \"200\", \"300\", \"400\", \"500\", \"600\", \"700\", \"800\" or \"900\"\000"
     "IfcHeatingValueMeasure\000"
     "SELF > 0.\000"
+    "the value is above 0\000"
     "IfcHourInDay\000"
     "{ 0 <= SELF < 24 }\000"
+    "the value is at least 0 and below 24\000"
     "IfcMinuteInHour\000"
     "{0 <= SELF <= 59 }\000"
+    "the value is from 0 to 59\000"
     "IfcMonthInYearNumber\000"
     "{ 1<= SELF <= 12 }\000"
+    "the value is from 1 to 12\000"
     "IfcNormalisedRatioMeasure\000"
     "{0.0 <= SELF <= 1.0}\000"
+    "the value is from 0 to 1\000"
     "IfcPHMeasure\000"
     "WR21\000"
     "{0.0 <= SELF <= 14.0}\000"
+    "the value is from 0 to 14\000"
     "IfcPositiveLengthMeasure\000"
     "IfcPositivePlaneAngleMeasure\000"
     "IfcPositiveRatioMeasure\000"
     "IfcSecondInMinute\000"
     "{ 0. <= SELF < 60. }\000"
+    "the value is at least 0 and below 60\000"
     "IfcSpecularRoughness\000"
     "left\000"
     "right\000"
     "justify\000"
     "IfcTextAlignment\000"
     "SELF IN ['left', 'right', 'center', 'justify']\000"
+    "the value is one of \"left\", \"right\", \"center\" or \"justify\"\000"
     "none\000"
     "underline\000"
     "overline\000"
@@ -3107,14 +3125,18 @@ constexpr Texts texts = {
     "blink\000"
     "IfcTextDecoration\000"
     "SELF IN ['none', 'underline', 'overline', 'line-through', 'blink']\000"
+    "the value is one of \"none\", \"underline\", \"overline\", \"line-through\" or \"blink\"\000"
     "capitalize\000"
     "uppercase\000"
     "lowercase\000"
     "IfcTextTransformation\000"
     "SELF IN ['capitalize', 'uppercase', 'lowercase', 'none']\000"
+    "the value is one of \"capitalize\", \"uppercase\", \"lowercase\" or \"none\"\000"
     "Ifc2DCompositeCurve\000"
     "SELF\\IfcCompositeCurve.ClosedCurve\000"
+    "ClosedCurve is TRUE\000"
     "SELF\\IfcCurve.Dim = 2\000"
+    "Dim is 2\000"
     "IfcActionRequest\000"
     "UR2\000"
     "RequestID\000"
@@ -3124,14 +3146,17 @@ constexpr Texts texts = {
     "USERDEFINED\000"
     "IfcActorRole\000"
     "(Role <> IfcRoleEnum.USERDEFINED) OR ((Role = IfcRoleEnum.USERDEFINED) AND EXISTS(SELF.UserDefinedRole))\000"
+    "Role is not USERDEFINED, or UserDefinedRole is given\000"
     "IfcAddress\000"
     "(NOT(EXISTS(Purpose))) OR ((Purpose <> IfcAddressTypeEnum.USERDEFINED) OR ((Purpose = IfcAddressTypeEnum.USERDEFINED) AND EXISTS(SELF.UserDefinedPurpose)))\000"
+    "Purpose is not given or not USERDEFINED, or UserDefinedPurpose is given\000"
     "OfPerson\000"
     "SET [0:?] OF IfcPerson FOR Addresses\000"
     "OfOrganization\000"
     "SET [0:?] OF IfcOrganization FOR Addresses\000"
     "IfcAirTerminalBoxType\000"
     "(PredefinedType <> IfcAirTerminalBoxTypeEnum.USERDEFINED) OR ((PredefinedType = IfcAirTerminalBoxTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
+    "PredefinedType is not USERDEFINED, or ElementType is given\000"
     "IfcAirTerminalType\000"
     "(PredefinedType <> IfcAirTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcAirTerminalTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcAirToAirHeatRecoveryType\000"
@@ -3142,23 +3167,30 @@ constexpr Texts texts = {
     "IfcAnnotationCurveOccurrence\000"
     "WR31\000"
     "NOT(EXISTS(SELF\\IfcStyledItem.Item)) OR ('\001.IFCCURVE' IN TYPEOF (SELF\\IfcStyledItem.Item))\000"
+    "Item is not given or an IfcCurve\000"
     "IfcAnnotationFillAreaOccurrence\000"
     "NOT(EXISTS(SELF\\IfcStyledItem.Item)) OR ('\001.IFCANNOTATIONFILLAREA' IN TYPEOF (SELF\\IfcStyledItem.Item))\000"
+    "Item is not given or an IfcAnnotationFillArea",
     "IfcAnnotationSurface\000"
     "WR01\000"
     "SIZEOF([ '\001.IFCSURFACE', '\001.IFCSHELLBASEDSURFACEMODEL', '\001.IFCFACEBASEDSURFACEMODEL', '\001.IFCSOLIDMODEL', '\001.IFCBOOLEANRESULT', '\001.IFCCSGPRIMITIVE3D'] * TYPEOF(Item) ) >= 1\000"
+    "Item is an IfcSurface, IfcShellBasedSurfaceModel, IfcFaceBasedSurfaceModel, IfcSolidModel, IfcBooleanResult or IfcCsgPrimitive3D\000"
     "IfcAnnotationSurfaceOccurrence\000"
     "NOT(EXISTS(SELF\\IfcStyledItem.Item)) OR (SIZEOF( ['\001.IFCSURFACE', '\001.IFCFACEBASEDSURFACEMODEL', '\001.IFCSHELLBASEDSURFACEMODEL', '\001.IFCSOLIDMODEL'] * TYPEOF(SELF\\IfcStyledItem.Item)) > 0)\000"
+    "Item is not given or an IfcSurface, IfcFaceBasedSurfaceModel, IfcShellBasedSurfaceModel or IfcSolidModel\000"
     "IfcAnnotationSymbolOccurrence\000"
     "NOT(EXISTS(SELF\\IfcStyledItem.Item)) OR ('\001.IFCDEFINEDSYMBOL' IN TYPEOF (SELF\\IfcStyledItem.Item))\000"
+    "Item is not given or an IfcDefinedSymbol\000"
     "IfcAnnotationTextOccurrence\000"
     "NOT(EXISTS(SELF\\IfcStyledItem.Item)) OR ('\001.IFCTEXTLITERAL' IN TYPEOF (SELF\\IfcStyledItem.Item))\000"
+    "Item is not given or an IfcTextLiteral\000"
     "IfcApplication\000"
     "UR1\000"
     "ApplicationIdentifier\000"
     "ApplicationFullName, Version\000"
     "IfcAppliedValue\000"
     "EXISTS (AppliedValue) OR EXISTS (ValueOfComponents)\000"
+    "AppliedValue or ValueOfComponents is given\000"
     "ValuesReferenced\000"
     "SET [0:?] OF IfcReferencesValueDocument FOR ReferencingValues\000"
     "ValueOfComponents\000"
@@ -3174,39 +3206,56 @@ constexpr Texts texts = {
     "SET [0:?] OF IfcApprovalRelationship FOR RelatingApproval\000"
     "IfcArbitraryClosedProfileDef\000"
     "OuterCurve.Dim = 2\000"
-    "NOT('\001.IFCLINE' IN TYPEOF(OuterCurve))",
+    "OuterCurve.Dim is 2\000"
+    "NOT('\001.IFCLINE' IN TYPEOF(OuterCurve))\000"
+    "OuterCurve is not an IfcLine\000"
     "NOT('\001.IFCOFFSETCURVE2D' IN TYPEOF(OuterCurve))\000"
+    "OuterCurve is not an IfcOffsetCurve2D\000"
     "CURVE\000"
     "IfcArbitraryOpenProfileDef\000"
     "WR11\000"
     "('\001.IFCCENTERLINEPROFILEDEF' IN TYPEOF(SELF)) OR (SELF\\IfcProfileDef.ProfileType = IfcProfileTypeEnum.CURVE)\000"
+    "the instance is an IfcCenterLineProfileDef, or ProfileType is CURVE\000"
     "WR12\000"
     "Curve.Dim = 2\000"
+    "Curve.Dim is 2\000"
     "AREA\000"
     "IfcArbitraryProfileDefWithVoids\000"
     "SELF\\IfcProfileDef.ProfileType = AREA\000"
+    "ProfileType is AREA\000"
     "SIZEOF(QUERY(temp <* InnerCurves | temp.Dim <> 2)) = 0\000"
+    "Dim of every member of InnerCurves is 2\000"
     "SIZEOF(QUERY(temp <* InnerCurves | '\001.IFCLINE' IN TYPEOF(temp))) = 0\000"
+    "no member of InnerCurves is an IfcLine\000"
     "IfcAsset\000"
     "SIZEOF(QUERY(Temp <* SELF\\IfcGroup.IsGroupedBy.RelatedObjects | NOT('\001.IFCELEMENT' IN TYPEOF(Temp)))) = 0\000"
+    "every member of IsGroupedBy.RelatedObjects is an IfcElement\000"
     "IfcAxis1Placement\000"
     "(NOT (EXISTS (Axis))) OR (Axis.Dim = 3)\000"
+    "Axis is not given, or Axis.Dim is 3\000"
     "SELF\\IfcPlacement.Location.Dim = 3\000"
+    "Location.Dim is 3\000"
     "IFCNORMALISE\000"
     "IfcAxis2Placement2D\000"
     "(NOT (EXISTS (RefDirection))) OR (RefDirection.Dim = 2)\000"
+    "RefDirection is not given, or RefDirection.Dim is 2\000"
     "SELF\\IfcPlacement.Location.Dim = 2\000"
+    "Location.Dim is 2\000"
     "IFCBUILD2AXES\000"
     "IfcAxis2Placement3D\000"
     "(NOT (EXISTS (RefDirection))) OR (RefDirection.Dim = 3)\000"
+    "RefDirection is not given, or RefDirection.Dim is 3\000"
     "IFCCROSSPRODUCT\000"
     "(NOT (EXISTS (Axis))) OR (NOT (EXISTS (RefDirection))) OR (IfcCrossProduct(Axis,RefDirection).Magnitude > 0.0)\000"
+    "Axis or RefDirection is not given, or IfcCrossProduct(Axis, RefDirection).Magnitude is above 0\000"
     "WR5\000"
     "NOT ((EXISTS (Axis)) XOR (EXISTS (RefDirection)))\000"
+    "both or neither of Axis and RefDirection is given\000"
     "IFCBUILDAXES\000"
     "IfcBSplineCurve\000"
     "WR41\000"
     "SIZEOF(QUERY(Temp <* ControlPointsList | Temp.Dim <> ControlPointsList[1].Dim)) = 0\000"
+    "Dim of every member of ControlPointsList is ControlPointsList[1].Dim\000"
     "IFCLISTTOARRAY\000"
     "BMP\000"
     "JPG\000"
@@ -3214,50 +3263,72 @@ constexpr Texts texts = {
     "PNG\000"
     "IfcBlobTexture\000"
     "SELF.RasterFormat IN ['BMP', 'JPG', 'GIF', 'PNG']\000"
+    "RasterFormat is one of \"BMP\", \"JPG\", \"GIF\" or \"PNG\"\000"
     "IfcBoilerType\000"
     "(PredefinedType <> IfcBoilerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBoilerTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcBooleanClippingResult\000"
     "('\001.IFCSWEPTAREASOLID' IN TYPEOF(FirstOperand)) OR ('\001.IFCBOOLEANCLIPPINGRESULT' IN TYPEOF(FirstOperand))\000"
+    "FirstOperand is an IfcSweptAreaSolid or an IfcBooleanClippingResult\000"
     "('\001.IFCHALFSPACESOLID' IN TYPEOF(SecondOperand))\000"
+    "SecondOperand is an IfcHalfSpaceSolid\000"
     "DIFFERENCE\000"
     "Operator = DIFFERENCE\000"
+    "Operator is DIFFERENCE\000"
     "IfcBooleanResult\000"
     "FirstOperand.Dim = SecondOperand.Dim\000"
+    "FirstOperand.Dim is SecondOperand.Dim\000"
     "IfcBoxedHalfSpace\000"
     "NOT ('\001.IFCCURVEBOUNDEDPLANE' IN TYPEOF(SELF\\IfcHalfSpaceSolid.BaseSurface))\000"
+    "BaseSurface is not an IfcCurveBoundedPlane\000"
     "IfcBuildingElementProxy\000"
     "EXISTS(SELF\\IfcRoot.Name)\000"
+    "Name is given\000"
     "IfcCShapeProfileDef\000"
     "Girth < (Depth / 2.)\000"
+    "Girth is below Depth / 2\000"
     "NOT(EXISTS(InternalFilletRadius)) OR ((InternalFilletRadius <= Width/2.) AND (InternalFilletRadius <= Depth/2.))\000"
+    "InternalFilletRadius is not given, or InternalFilletRadius is at most Width / 2 and at most Depth / 2\000"
     "(WallThickness < Width/2.) AND (WallThickness < Depth/2.)\000"
+    "WallThickness is below Width / 2 and below Depth / 2\000"
     "IfcCableCarrierFittingType\000"
     "(PredefinedType <> IfcCableCarrierFittingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableCarrierFittingTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IFCVALIDCALENDARDATE\000"
     "IfcCalendarDate\000"
     "IfcValidCalendarDate (SELF)\000"
+    "the day is one that the month has\000"
     "IfcCartesianPoint\000"
     "HIINDEX(Coordinates) >= 2\000"
+    "Coordinates has at least 2 members\000"
     "IfcCartesianTransformationOperator\000"
     "Scl > 0.0\000"
+    "Scl is above 0\000"
     "IfcCartesianTransformationOperator2D\000"
     "SELF\\IfcCartesianTransformationOperator.Dim = 2\000"
     "NOT(EXISTS(SELF\\IfcCartesianTransformationOperator.Axis1)) OR (SELF\\IfcCartesianTransformationOperator.Axis1.Dim = 2)\000"
+    "Axis1 is not given, or Axis1.Dim is 2\000"
     "NOT(EXISTS(SELF\\IfcCartesianTransformationOperator.Axis2)) OR (SELF\\IfcCartesianTransformationOperator.Axis2.Dim = 2)\000"
+    "Axis2 is not given, or Axis2.Dim is 2\000"
     "IFCBASEAXIS\000"
     "IfcCartesianTransformationOperator2DnonUniform\000"
     "Scl2 > 0.0\000"
+    "Scl2 is above 0\000"
     "IfcCartesianTransformationOperator3D\000"
     "SELF\\IfcCartesianTransformationOperator.Dim = 3\000"
+    "Dim is 3\000"
     "NOT(EXISTS(SELF\\IfcCartesianTransformationOperator.Axis1)) OR (SELF\\IfcCartesianTransformationOperator.Axis1.Dim = 3)\000"
+    "Axis1 is not given, or Axis1.Dim is 3\000"
     "NOT(EXISTS(SELF\\IfcCartesianTransformationOperator.Axis2)) OR (SELF\\IfcCartesianTransformationOperator.Axis2.Dim = 3)\000"
+    "Axis2 is not given, or Axis2.Dim is 3\000"
     "NOT(EXISTS(Axis3)) OR (Axis3.Dim = 3)\000"
+    "Axis3 is not given, or Axis3.Dim is 3\000"
     "IfcCartesianTransformationOperator3DnonUniform\000"
     "Scl3 > 0.0\000"
+    "Scl3 is above 0\000"
     "IfcChillerType\000"
     "(PredefinedType <> IfcChillerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcChillerTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcCircleHollowProfileDef\000"
     "WallThickness < SELF\\IfcCircleProfileDef.Radius\000"
+    "WallThickness is below Radius\000"
     "IfcClassification\000"
     "Contains\000"
     "SET [0:?] OF IfcClassificationItem FOR ItemOf\000"
@@ -3270,21 +3341,28 @@ constexpr Texts texts = {
     "(PredefinedType <> IfcCoilTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCoilTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcComplexProperty\000"
     "SIZEOF(QUERY(temp <* HasProperties | SELF :=: temp)) = 0\000"
+    "no member of HasProperties is the instance itself\000"
     "IFCUNIQUEPROPERTYNAME\000"
     "WR22\000"
     "IfcUniquePropertyName(HasProperties)\000"
+    "no two of HasProperties have the same name\000"
     "DISCONTINUOUS\000"
     "IfcCompositeCurve\000"
     "((NOT ClosedCurve) AND (SIZEOF(QUERY(Temp <* Segments | Temp.Transition = Discontinuous)) = 1)) OR ((ClosedCurve) AND (SIZEOF(QUERY(Temp <* Segments | Temp.Transition = Discontinuous)) = 0))\000"
+    "ClosedCurve is not TRUE and exactly 1 member of Segments has Transition Discontinuous, or ClosedCurve is TRUE and Transition of every member of Segments is not Discontinuous\000"
     "WR42\000"
     "SIZEOF( QUERY( Temp <* Segments | Temp.Dim <> Segments[1].Dim)) = 0\000"
+    "Dim of every member of Segments is Segments[1].Dim\000"
     "IfcCompositeCurveSegment\000"
     "('\001.IFCBOUNDEDCURVE' IN TYPEOF(ParentCurve))\000"
+    "ParentCurve is an IfcBoundedCurve\000"
     "UsingCurves\000"
     "SET [1:?] OF IfcCompositeCurve FOR Segments\000"
     "IfcCompositeProfileDef\000"
     "SIZEOF(QUERY(temp <* Profiles | temp.ProfileType <> Profiles[1].ProfileType)) = 0\000"
+    "ProfileType of every member of Profiles is Profiles[1].ProfileType\000"
     "SIZEOF(QUERY(temp <* Profiles | '\001.IFCCOMPOSITEPROFILEDEF' IN TYPEOF(temp))) = 0\000"
+    "no member of Profiles is an IfcCompositeProfileDef\000"
     "IfcCompressorType\000"
     "(PredefinedType <> IfcCompressorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCompressorTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcCondenserType\000"
@@ -3292,6 +3370,7 @@ constexpr Texts texts = {
     "IfcConditionCriterion\000"
     "IfcConstraint\000"
     "(ConstraintGrade <> IfcConstraintEnum.USERDEFINED) OR ((ConstraintGrade = IfcConstraintEnum.USERDEFINED) AND EXISTS(SELF\\IfcConstraint.UserDefinedGrade))\000"
+    "ConstraintGrade is not USERDEFINED, or UserDefinedGrade is given\000"
     "ClassifiedAs\000"
     "SET [0:?] OF IfcConstraintClassificationRelationship FOR ClassifiedConstraint\000"
     "RelatesConstraints\000"
@@ -3305,11 +3384,14 @@ constexpr Texts texts = {
     "SET [0:?] OF IfcConstraintAggregationRelationship FOR RelatedConstraints\000"
     "IfcConstraintAggregationRelationship\000"
     "SIZEOF(QUERY(temp <* RelatedConstraints | temp :=: RelatingConstraint )) = 0\000"
+    "every member of RelatedConstraints is another instance than RelatingConstraint\000"
     "IfcConstraintRelationship\000"
     "IfcConstructionMaterialResource\000"
     "SIZEOF(SELF\\IfcResource.ResourceOf) <=1\000"
+    "ResourceOf has at most 1 member\000"
     "PRODUCT\000"
     "NOT(EXISTS(SELF\\IfcResource.ResourceOf[1])) OR (SELF\\IfcResource.ResourceOf[1].RelatedObjectsType = IfcObjectTypeEnum.PRODUCT)\000"
+    "ResourceOf[1] is not given, or ResourceOf[1].RelatedObjectsType is PRODUCT\000"
     "IfcConstructionProductResource\000"
     "IfcControl\000"
     "Controls\000"
@@ -3323,6 +3405,7 @@ constexpr Texts texts = {
     "IfcCovering\000"
     "WR61\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCoveringTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCoveringTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
+    "PredefinedType is not given or not USERDEFINED, or ObjectType is given\000"
     "CoversSpaces\000"
     "SET [0:1] OF IfcRelCoversSpaces FOR RelatedCoverings\000"
     "Covers\000"
@@ -3331,47 +3414,63 @@ constexpr Texts texts = {
     "by layer\000"
     "IfcCurveStyle\000"
     "(NOT(EXISTS(CurveWidth))) OR ('\001.IFCPOSITIVELENGTHMEASURE' IN TYPEOF(CurveWidth)) OR (('\001.IFCDESCRIPTIVEMEASURE' IN TYPEOF(CurveWidth)) AND (CurveWidth = 'by layer'))\000"
+    "CurveWidth is not given or an IfcPositiveLengthMeasure, or CurveWidth is an IfcDescriptiveMeasure and \"by layer\"\000"
     "IfcCurveStyleFontPattern\000"
     "VisibleSegmentLength >= 0.\000"
+    "VisibleSegmentLength is at least 0\000"
     "IfcDamperType\000"
     "(PredefinedType <> IfcDamperTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDamperTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcDerivedProfileDef\000"
     "SELF\\IfcProfileDef.ProfileType = ParentProfile.ProfileType\000"
+    "ProfileType is ParentProfile.ProfileType\000"
     "IfcDerivedUnit\000"
     "(SIZEOF (Elements) > 1) OR ((SIZEOF (Elements) = 1) AND (Elements[1].Exponent <> 1 ))\000"
+    "Elements has more than 1 member, or Elements has 1 member and Elements[1].Exponent is not 1\000"
     "(UnitType <> IfcDerivedUnitEnum.USERDEFINED) OR ((UnitType = IfcDerivedUnitEnum.USERDEFINED) AND (EXISTS(SELF.UserDefinedType)))\000"
+    "UnitType is not USERDEFINED, or UserDefinedType is given\000"
     "IFCDERIVEDIMENSIONALEXPONENTS\000"
     "primary\000"
     "secondary\000"
     "IfcDimensionCalloutRelationship\000"
     "SELF\\IfcDraughtingCalloutRelationship.Name IN ['primary','secondary']\000"
+    "Name is one of \"primary\" or \"secondary\"\000"
     "SIZEOF(TYPEOF(SELF\\IfcDraughtingCalloutRelationship.RelatingDraughtingCallout) * [ '\001.IFCANGULARDIMENSION', '\001.IFCDIAMETERDIMENSION', '\001.IFCLINEARDIMENSION', '\001.IFCRADIUSDIMENSION']) = 1\000"
+    "RelatingDraughtingCallout is an IfcAngularDimension, IfcDiameterDimension, IfcLinearDimension or IfcRadiusDimension\000"
     "WR13\000"
     "NOT ('\001.IFCDIMENSIONCURVEDIRECTEDCALLOUT' IN TYPEOF (SELF\\IfcDraughtingCalloutRelationship.RelatedDraughtingCallout))\000"
+    "RelatedDraughtingCallout is not an IfcDimensionCurveDirectedCallout\000"
     "IFCDRAUGHTINGCALLOUT.CONTENTS\000"
     "IfcDimensionCurve\000"
     "WR51\000"
     "SIZEOF(USEDIN(SELF,'\001.IFCDRAUGHTINGCALLOUT.CONTENTS')) >= 1\000"
+    "the users of the instance by IfcDraughtingCallout.Contents is not empty\000"
     "IFCTERMINATORSYMBOL.ANNOTATEDCURVE\000"
     "ORIGIN\000"
     "TARGET\000"
     "WR52\000"
     "(SIZEOF(QUERY (Dct1 <* USEDIN(SELF,'\001.' + 'IFCTERMINATORSYMBOL.ANNOTATEDCURVE') | (Dct1.Role = IfcDimensionExtentUsage.ORIGIN))) <= 1) AND (SIZEOF(QUERY (Dct2 <* USEDIN(SELF,'\001.' + 'IFCTERMINATORSYMBOL.ANNOTATEDCURVE') | (Dct2.Role = IfcDimensionExtentUsage.TARGET))) <= 1)\000"
+    "at most 1 user of the instance by IfcTerminatorSymbol.AnnotatedCurve has Role ORIGIN, and at most 1 user of the instance by IfcTerminatorSymbol.AnnotatedCurve has Role TARGET\000"
     "WR53\000"
     "SIZEOF(QUERY (Dct <* AnnotatedBySymbols | NOT('\001.IFCDIMENSIONCURVETERMINATOR' IN TYPEOF(Dct)))) = 0\000"
+    "every member of AnnotatedBySymbols is an IfcDimensionCurveTerminator\000"
     "AnnotatedBySymbols\000"
     "SET [0:2] OF IfcTerminatorSymbol FOR AnnotatedCurve\000"
     "IfcDimensionCurveDirectedCallout\000"
     "SIZEOF(QUERY (Dc <* SELF\\IfcDraughtingCallout.Contents | ( '\001.IFCDIMENSIONCURVE' IN TYPEOF(Dc)))) = 1\000"
+    "exactly 1 member of Contents is an IfcDimensionCurve\000"
     "SIZEOF (QUERY (Dc <* SELF.contents | ('\001.IFCPROJECTIONCURVE' IN TYPEOF (Dc)))) <= 2\000"
+    "for at most 2 Dc of contents, Dc is an IfcProjectionCurve\000"
     "IfcDimensionCurveTerminator\000"
     "'\001.IFCDIMENSIONCURVE' IN TYPEOF (SELF\\IfcTerminatorSymbol.AnnotatedCurve)\000"
+    "AnnotatedCurve is an IfcDimensionCurve\000"
     "chained\000"
     "parallel\000"
     "IfcDimensionPair\000"
     "SELF.Name IN ['chained','parallel']\000"
+    "Name is one of \"chained\" or \"parallel\"\000"
     "SIZEOF(TYPEOF(SELF.RelatingDraughtingCallout) * [ '\001.IFCANGULARDIMENSION', '\001.IFCDIAMETERDIMENSION', '\001.IFCLINEARDIMENSION', '\001.IFCRADIUSDIMENSION']) = 1\000"
     "SIZEOF(TYPEOF(SELF.RelatedDraughtingCallout) * [ '\001.IFCANGULARDIMENSION', '\001.IFCDIAMETERDIMENSION', '\001.IFCLINEARDIMENSION', '\001.IFCRADIUSDIMENSION']) = 1\000"
+    "RelatedDraughtingCallout is an IfcAngularDimension, IfcDiameterDimension, IfcLinearDimension or IfcRadiusDimension\000"
     "IfcDistributionControlElement\000"
     "AssignedToFlowElement\000"
     "SET [0:1] OF IfcRelFlowControlElements FOR RelatedControlElements\000"
@@ -3380,6 +3479,7 @@ constexpr Texts texts = {
     "SET [0:1] OF IfcRelFlowControlElements FOR RelatingFlowElement\000"
     "IfcDocumentElectronicFormat\000"
     "EXISTS(FileExtension) OR EXISTS(MimeContentType)\000"
+    "FileExtension or MimeContentType is given\000"
     "IfcDocumentInformation\000"
     "IsPointedTo\000"
     "SET [0:?] OF IfcDocumentInformationRelationship FOR RelatedDocuments\000"
@@ -3387,18 +3487,24 @@ constexpr Texts texts = {
     "SET [0:1] OF IfcDocumentInformationRelationship FOR RelatingDocument\000"
     "IfcDocumentReference\000"
     "EXISTS(Name) XOR EXISTS(ReferenceToDocument[1])\000"
+    "exactly one of Name and ReferenceToDocument[1] is given\000"
     "ReferenceToDocument\000"
     "SET [0:1] OF IfcDocumentInformation FOR DocumentReferences\000"
     "IfcDoorLiningProperties\000"
     "NOT(NOT(EXISTS(LiningDepth)) AND EXISTS(LiningThickness))\000"
+    "LiningDepth is given, or LiningThickness is not given\000"
     "WR32\000"
     "NOT(NOT(EXISTS(ThresholdDepth)) AND EXISTS(ThresholdThickness))\000"
+    "ThresholdDepth is given, or ThresholdThickness is not given\000"
     "WR33\000"
     "(EXISTS(TransomOffset) AND EXISTS(TransomThickness)) XOR (NOT(EXISTS(TransomOffset)) AND NOT(EXISTS(TransomThickness)))\000"
+    "TransomOffset and TransomThickness are given, or neither TransomOffset nor TransomThickness is given\000"
     "WR34\000"
     "(EXISTS(CasingDepth) AND EXISTS(CasingThickness)) XOR (NOT(EXISTS(CasingDepth)) AND NOT(EXISTS(CasingThickness)))\000"
+    "CasingDepth and CasingThickness are given, or neither CasingDepth nor CasingThickness is given\000"
     "WR35\000"
     "EXISTS(SELF\\IfcPropertySetDefinition.DefinesType[1]) AND ('\001.IFCDOORSTYLE' IN TYPEOF(SELF\\IfcPropertySetDefinition.DefinesType[1]))\000"
+    "DefinesType[1] is given and an IfcDoorStyle\000"
     "IfcDoorPanelProperties\000"
     "IfcDraughtingCallout\000"
     "IsRelatedFromCallout\000"
@@ -3415,6 +3521,7 @@ constexpr Texts texts = {
     "white\000"
     "IfcDraughtingPreDefinedColour\000"
     "SELF\\IfcPreDefinedItem.Name IN ['black','red','green','blue','yellow', 'magenta','cyan','white','by layer']\000"
+    "Name is one of \"black\", \"red\", \"green\", \"blue\", \"yellow\", \"magenta\", \"cyan\", \"white\" or \"by layer\"\000"
     "continuous\000"
     "chain\000"
     "chain double dash\000"
@@ -3422,10 +3529,12 @@ constexpr Texts texts = {
     "dotted\000"
     "IfcDraughtingPreDefinedCurveFont\000"
     "SELF\\IfcPredefinedItem.Name IN ['continuous', 'chain', 'chain double dash', 'dashed', 'dotted', 'by layer']\000"
+    "Name is one of \"continuous\", \"chain\", \"chain double dash\", \"dashed\", \"dotted\" or \"by layer\"\000"
     "ISO 3098-1 font A\000"
     "ISO 3098-1 font B\000"
     "IfcDraughtingPreDefinedTextFont\000"
     "SELF\\IfcPreDefinedItem.Name IN ['ISO 3098-1 font A','ISO 3098-1 font B']\000"
+    "Name is one of \"ISO 3098-1 font A\" or \"ISO 3098-1 font B\"\000"
     "IfcDuctFittingType\000"
     "(PredefinedType <> IfcDuctFittingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDuctFittingTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcDuctSegmentType\000"
@@ -3434,10 +3543,13 @@ constexpr Texts texts = {
     "(PredefinedType <> IfcDuctSilencerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDuctSilencerTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcEdgeLoop\000"
     "(EdgeList[1].EdgeStart) :=: (EdgeList[Ne].EdgeEnd)\000"
+    "EdgeList[1].EdgeStart is the same instance as EdgeList[Ne].EdgeEnd\000"
     "IFCLOOPHEADTOTAIL\000"
     "IfcLoopHeadToTail(SELF)\000"
+    "every edge begins where the one before ends\000"
     "IfcElectricDistributionPoint\000"
     "(DistributionPointFunction <> IfcElectricDistributionPointFunctionEnum.USERDEFINED) OR ((DistributionPointFunction = IfcElectricDistributionPointFunctionEnum.USERDEFINED) AND EXISTS(SELF\\IfcElectricDistributionPoint.UserDefinedFunction))\000"
+    "DistributionPointFunction is not USERDEFINED, or UserDefinedFunction is given\000"
     "IfcElement\000"
     "HasStructuralMember\000"
     "SET [0:?] OF IfcRelConnectsStructuralElement FOR RelatingElement\000"
@@ -3463,19 +3575,24 @@ constexpr Texts texts = {
     "SET [0:?] OF IfcRelConnectsElements FOR RelatedElement\000"
     "IfcElementAssembly\000"
     "(PredefinedType <> IfcElementAssemblyTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElementAssemblyTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcObject.ObjectType))\000"
+    "PredefinedType is not USERDEFINED, or ObjectType is given\000"
     "IfcEnvironmentalImpactValue\000"
     "(Category <> IfcEnvironmentalImpactCategoryEnum.USERDEFINED) OR ((Category = IfcEnvironmentalImpactCategoryEnum.USERDEFINED) AND EXISTS(SELF\\IfcEnvironmentalImpactValue.UserDefinedCategory))\000"
+    "Category is not USERDEFINED, or UserDefinedCategory is given\000"
     "IfcEvaporativeCoolerType\000"
     "(PredefinedType <> IfcEvaporativeCoolerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcEvaporativeCoolerTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcEvaporatorType\000"
     "(PredefinedType <> IfcEvaporatorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcEvaporatorTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcExternalReference\000"
     "EXISTS(ItemReference) OR EXISTS(Location) OR EXISTS(Name)\000"
+    "ItemReference, Location or Name is given\000"
     "IFCDOTPRODUCT\000"
     "IfcExtrudedAreaSolid\000"
     "IfcDotProduct(IfcRepresentationItem() || IfcGeometricRepresentationItem() || IfcDirection([0.0,0.0,1.0]), SELF.ExtrudedDirection) <> 0.0\000"
+    "IfcDotProduct(IfcDirection([0, 0, 1]), ExtrudedDirection) is not 0\000"
     "IfcFace\000"
     "SIZEOF(QUERY(temp <* Bounds | '\001.IFCFACEOUTERBOUND' IN TYPEOF(temp))) <= 1\000"
+    "at most 1 member of Bounds is an IfcFaceOuterBound\000"
     "IfcFanType\000"
     "(PredefinedType <> IfcFanTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFanTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcFeatureElementAddition\000"
@@ -3486,14 +3603,20 @@ constexpr Texts texts = {
     "IfcRelVoidsElement FOR RelatedOpeningElement\000"
     "IfcFillAreaStyle\000"
     "SIZEOF(QUERY(Style <* SELF.FillStyles | '\001.IFCCOLOUR' IN TYPEOF(Style) )) <= 1\000"
+    "at most 1 member of FillStyles is an IfcColour\000"
     "SIZEOF(QUERY(Style <* SELF.FillStyles | '\001.IFCEXTERNALLYDEFINEDHATCHSTYLE' IN TYPEOF(Style) )) <= 1\000"
+    "at most 1 member of FillStyles is an IfcExternallyDefinedHatchStyle\000"
     "IFCCORRECTFILLAREASTYLE\000"
     "IfcCorrectFillAreaStyle(SELF.FillStyles)\000"
+    "FillStyles have at most one external hatch style, which stands alone, at most one colour, and not both hatching and tiles\000"
     "IfcFillAreaStyleHatching\000"
     "NOT( '\001.IFCTWODIRECTIONREPEATFACTOR' IN TYPEOF(StartOfNextHatchLine) )\000"
+    "StartOfNextHatchLine is not an IfcTwoDirectionRepeatFactor\000"
     "NOT(EXISTS(PatternStart)) OR (PatternStart.Dim = 2)\000"
+    "PatternStart is not given, or PatternStart.Dim is 2\000"
     "WR23\000"
     "NOT(EXISTS(PointOfReferenceHatchLine)) OR (PointOfReferenceHatchLine.Dim = 2)\000"
+    "PointOfReferenceHatchLine is not given, or PointOfReferenceHatchLine.Dim is 2\000"
     "IfcFilterType\000"
     "(PredefinedType <> IfcFilterTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFilterTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcFlowMeterType\000"
@@ -3508,21 +3631,29 @@ constexpr Texts texts = {
     "IfcGeneralMaterialProperties\000"
     "IfcGeneralProfileProperties\000"
     "NOT(EXISTS(CrossSectionArea)) OR (CrossSectionArea > 0.)\000"
+    "CrossSectionArea is not given or above 0\000"
     "IfcGeometricCurveSet\000"
     "SIZEOF(QUERY(Temp <* SELF\\IfcGeometricSet.Elements | '\001.IFCSURFACE' IN TYPEOF(Temp))) = 0\000"
+    "no member of Elements is an IfcSurface\000"
     "IfcGeometricRepresentationContext\000"
     "HasSubContexts\000"
     "SET [0:?] OF IfcGeometricRepresentationSubContext FOR ParentContext\000"
     "IfcGeometricRepresentationSubContext\000"
     "NOT('\001.IFCGEOMETRICREPRESENTATIONSUBCONTEXT' IN TYPEOF(ParentContext))\000"
+    "ParentContext is not an IfcGeometricRepresentationSubContext\000"
     "(TargetView <> IfcGeometricProjectionEnum.USERDEFINED) OR ((TargetView = IfcGeometricProjectionEnum.USERDEFINED) AND EXISTS(UserDefinedTargetView))\000"
+    "TargetView is not USERDEFINED, or UserDefinedTargetView is given\000"
     "IfcGeometricSet\000"
     "SIZEOF(QUERY(Temp <* Elements | Temp.Dim <> Elements[1].Dim)) = 0\000"
+    "Dim of every member of Elements is Elements[1].Dim\000"
     "IfcGrid\000"
     "EXISTS(SELF\\IfcProduct.ObjectPlacement)\000"
+    "ObjectPlacement is given\000"
     "IfcGridAxis\000"
     "AxisCurve.Dim = 2\000"
+    "AxisCurve.Dim is 2\000"
     "(SIZEOF(PartOfU) = 1) XOR (SIZEOF(PartOfV) = 1) XOR (SIZEOF(PartOfW) = 1)\000"
+    "an odd number of PartOfU, PartOfV and PartOfW has 1 member\000"
     "PartOfW\000"
     "SET [0:1] OF IfcGrid FOR WAxes\000"
     "PartOfV\000"
@@ -3541,50 +3672,70 @@ constexpr Texts texts = {
     "IfcHygroscopicMaterialProperties\000"
     "IfcIShapeProfileDef\000"
     "FlangeThickness < (OverallDepth / 2.)\000"
+    "FlangeThickness is below OverallDepth / 2\000"
     "WebThickness < OverallWidth\000"
+    "WebThickness is below OverallWidth\000"
     "NOT(EXISTS(FilletRadius)) OR ((FilletRadius <= (OverallWidth - WebThickness)/2.) AND (FilletRadius <= (OverallDepth - (2. * FlangeThickness))/2.))\000"
+    "FilletRadius is not given, or FilletRadius is at most (OverallWidth - WebThickness) / 2 and at most (OverallDepth - 2 * FlangeThickness) / 2\000"
     "IfcInventory\000"
     "SIZEOF(QUERY(temp <* SELF\\IfcGroup.IsGroupedBy.RelatedObjects | NOT( ('\001.IFCSPACE' IN TYPEOF (temp)) OR ('\001.IFCASSET' IN TYPEOF (temp)) OR ('\001.IFCFURNISHINGELEMENT' IN TYPEOF (temp)) ))) = 0\000"
+    "every member of IsGroupedBy.RelatedObjects is an IfcSpace, an IfcAsset or an IfcFurnishingElement\000"
     "IfcLShapeProfileDef\000"
     "Thickness < Depth\000"
+    "Thickness is below Depth\000"
     "NOT(EXISTS(Width)) OR (Thickness < Width)\000"
+    "Width is not given, or Thickness is below Width\000"
     "IfcLibraryReference\000"
     "ReferenceIntoLibrary\000"
     "SET [0:1] OF IfcLibraryInformation FOR LibraryReference\000"
     "IfcLine\000"
     "Dir.Dim = Pnt.Dim\000"
+    "Dir.Dim is Pnt.Dim\000"
     "IFCCORRECTLOCALPLACEMENT\000"
     "IfcLocalPlacement\000"
     "IfcCorrectLocalPlacement(RelativePlacement, PlacementRelTo)\000"
+    "RelativePlacement is 2D, or as 3D as the placement in PlacementRelTo\000"
     "IFCVALIDTIME\000"
     "IfcLocalTime\000"
     "IfcValidTime (SELF)\000"
+    "a second is given with a minute only\000"
     "IfcMaterial\000"
     "HasRepresentation\000"
     "SET [0:1] OF IfcMaterialDefinitionRepresentation FOR RepresentedMaterial\000"
     "SET [0:1] OF IfcMaterialClassificationRelationship FOR ClassifiedMaterial\000"
     "IfcMaterialDefinitionRepresentation\000"
     "SIZEOF(QUERY(temp <* Representations | (NOT('\001.IFCSTYLEDREPRESENTATION' IN TYPEOF(temp))) )) = 0\000"
+    "every member of Representations is an IfcStyledRepresentation\000"
     "IfcMaterialLayer\000"
     "ToMaterialLayerSet\000"
     "IfcMaterialLayerSet FOR MaterialLayers\000"
     "IFCMLSTOTALTHICKNESS\000"
     "IfcMechanicalMaterialProperties\000"
     "NOT(EXISTS(YoungModulus)) OR (YoungModulus >= 0.0)\000"
+    "YoungModulus is not given or at least 0\000"
     "NOT(EXISTS(ShearModulus)) OR (ShearModulus >= 0.0)\000"
+    "ShearModulus is not given or at least 0\000"
     "IfcMechanicalSteelMaterialProperties\000"
     "NOT(EXISTS(YieldStress)) OR (YieldStress >= 0.)\000"
+    "YieldStress is not given or at least 0\000"
     "NOT(EXISTS(UltimateStress)) OR (UltimateStress >= 0.)\000"
+    "UltimateStress is not given or at least 0\000"
     "NOT(EXISTS(HardeningModule)) OR (HardeningModule >= 0.)\000"
+    "HardeningModule is not given or at least 0\000"
     "NOT(EXISTS(ProportionalStress)) OR (ProportionalStress >= 0.)\000"
+    "ProportionalStress is not given or at least 0\000"
     "IfcMove\000"
     "SIZEOF(SELF\\IfcProcess.OperatesOn) >= 1\000"
+    "OperatesOn is not empty\000"
     "SIZEOF(QUERY(temp <* OperatesOn | SIZEOF(QUERY(temp2 <* temp.RelatedObjects | ('\001.IFCACTOR' IN TYPEOF (temp2)) OR ('\001.IFCEQUIPMENTELEMENT' IN TYPEOF (temp2)) OR ('\001.IFCFURNISHINGELEMENT' IN TYPEOF (temp2)) )) >=1 )) >= 1\000"
+    "for at least 1 temp of OperatesOn, at least 1 member of temp.RelatedObjects is an IfcActor, an IfcEquipmentElement or an IfcFurnishingElement\000"
     "IFCCORRECTDIMENSIONS\000"
     "IfcNamedUnit\000"
     "IfcCorrectDimensions (SELF.UnitType, SELF.Dimensions)\000"
+    "Dimensions are the dimensions of a unit of type UnitType\000"
     "IfcObject\000"
     "SIZEOF(QUERY(temp <* IsDefinedBy | '\001.IFCRELDEFINESBYTYPE' IN TYPEOF(temp))) <= 1\000"
+    "at most 1 member of IsDefinedBy is an IfcRelDefinesByType\000"
     "IsDefinedBy\000"
     "SET [0:?] OF IfcRelDefines FOR RelatedObjects\000"
     "IfcObjectDefinition\000"
@@ -3603,12 +3754,15 @@ constexpr Texts texts = {
     "SET [0:?] OF IfcLocalPlacement FOR PlacementRelTo\000"
     "IfcObjective\000"
     "(ObjectiveQualifier <> IfcObjectiveEnum.USERDEFINED) OR ((ObjectiveQualifier = IfcObjectiveEnum.USERDEFINED) AND EXISTS(SELF\\IfcObjective.UserDefinedQualifier))\000"
+    "ObjectiveQualifier is not USERDEFINED, or UserDefinedQualifier is given\000"
     "IfcOccupant\000"
     "NOT(PredefinedType = IfcOccupantTypeEnum.USERDEFINED) OR EXISTS(SELF\\IfcObject.ObjectType)\000"
     "IfcOffsetCurve2D\000"
     "BasisCurve.Dim = 2\000"
+    "BasisCurve.Dim is 2\000"
     "IfcOffsetCurve3D\000"
     "BasisCurve.Dim = 3\000"
+    "BasisCurve.Dim is 3\000"
     "IfcOpeningElement\000"
     "HasFillings\000"
     "SET [0:?] OF IfcRelFillsElement FOR RelatingOpeningElement\000"
@@ -3623,6 +3777,7 @@ constexpr Texts texts = {
     "SET [0:?] OF IfcPersonAndOrganization FOR TheOrganization\000"
     "IfcOrientedEdge\000"
     "NOT('\001.IFCORIENTEDEDGE' IN TYPEOF(EdgeElement))\000"
+    "EdgeElement is not an IfcOrientedEdge\000"
     "IFCBOOLEANCHOOSE\000"
     "IFCPATHHEADTOTAIL\000"
     "IfcPath\000"
@@ -3631,10 +3786,12 @@ constexpr Texts texts = {
     "PermitID\000"
     "IfcPerson\000"
     "EXISTS(FamilyName) OR EXISTS(GivenName)\000"
+    "FamilyName or GivenName is given\000"
     "EngagedIn\000"
     "SET [0:?] OF IfcPersonAndOrganization FOR ThePerson\000"
     "IfcPhysicalComplexQuantity\000"
     "SIZEOF(QUERY(temp <* HasQuantities | SELF :=: temp)) = 0\000"
+    "no member of HasQuantities is the instance itself\000"
     "IfcPhysicalQuantity\000"
     "PartOfComplex\000"
     "SET [0:1] OF IfcPhysicalComplexQuantity FOR HasQuantities\000"
@@ -3646,17 +3803,25 @@ constexpr Texts texts = {
     "(PredefinedType <> IfcPipeSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcPipeSegmentTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcPixelTexture\000"
     "Width >= 1\000"
+    "Width is at least 1\000"
     "Height >= 1\000"
+    "Height is at least 1\000"
     "{1 <= ColourComponents <= 4}\000"
+    "ColourComponents is from 1 to 4\000"
     "WR24\000"
     "SIZEOF(Pixel) = (Width * Height)\000"
+    "the number of members of Pixel is Width * Height\000"
     "IfcPolyLoop\000"
     "SIZEOF(QUERY(Temp <* Polygon | Temp.Dim <> Polygon[1].Dim)) = 0\000"
+    "Dim of every member of Polygon is Polygon[1].Dim\000"
     "IfcPolygonalBoundedHalfSpace\000"
     "PolygonalBoundary.Dim = 2\000"
+    "PolygonalBoundary.Dim is 2\000"
     "SIZEOF(TYPEOF(PolygonalBoundary) * [ '\001.IFCPOLYLINE', '\001.IFCCOMPOSITECURVE'] ) = 1\000"
+    "PolygonalBoundary is an IfcPolyline or IfcCompositeCurve\000"
     "IfcPolyline\000"
     "SIZEOF(QUERY(Temp <* Points | Temp.Dim <> Points[1].Dim)) = 0\000"
+    "Dim of every member of Points is Points[1].Dim\000"
     "IfcPort\000"
     "ContainedIn\000"
     "IfcRelConnectsPortToElement FOR RelatingPort\000"
@@ -3664,6 +3829,7 @@ constexpr Texts texts = {
     "SET [0:1] OF IfcRelConnectsPorts FOR RelatingPort\000"
     "IfcPostalAddress\000"
     "EXISTS (InternalLocation) OR EXISTS (AddressLines) OR EXISTS (PostalBox) OR EXISTS (PostalCode) OR EXISTS (Town) OR EXISTS (Region) OR EXISTS (Country)\000"
+    "InternalLocation, AddressLines, PostalBox, PostalCode, Town, Region or Country is given\000"
     "arc length\000"
     "conical taper\000"
     "counterbore\000"
@@ -3678,6 +3844,7 @@ constexpr Texts texts = {
     "square\000"
     "IfcPreDefinedDimensionSymbol\000"
     "SELF\\IfcPreDefinedItem.Name IN ['arc length','conical taper','counterbore', 'countersink','depth','diameter','plus minus','radius', 'slope','spherical diameter','spherical radius','square']\000"
+    "Name is one of \"arc length\", \"conical taper\", \"counterbore\", \"countersink\", \"depth\", \"diameter\", \"plus minus\", \"radius\", \"slope\", \"spherical diameter\", \"spherical radius\" or \"square\"\000"
     "asterisk\000"
     "circle\000"
     "dot\000"
@@ -3686,6 +3853,7 @@ constexpr Texts texts = {
     "x\000"
     "IfcPreDefinedPointMarkerSymbol\000"
     "SELF\\IfcPreDefinedItem.Name IN ['asterisk','circle','dot','plus','square','triangle','x']\000"
+    "Name is one of \"asterisk\", \"circle\", \"dot\", \"plus\", \"square\", \"triangle\" or \"x\"\000"
     "blanked arrow\000"
     "blanked box\000"
     "blanked dot\000"
@@ -3699,10 +3867,14 @@ constexpr Texts texts = {
     "unfilled arrow\000"
     "IfcPreDefinedTerminatorSymbol\000"
     "SELF\\IfcPreDefinedItem.Name IN ['blanked arrow','blanked box', 'blanked dot','dimension origin','filled arrow','filled box', 'filled dot','integral symbol','open arrow','slash','unfilled arrow']\000"
+    "Name is one of \"blanked arrow\", \"blanked box\", \"blanked dot\", \"dimension origin\", \"filled arrow\", \"filled box\", \"filled dot\", \"integral symbol\", \"open arrow\", \"slash\" or \"unfilled arrow\"\000"
     "IfcProcedure\000"
     "SIZEOF(QUERY(temp <* SELF\\IfcObjectDefinition.Decomposes | NOT('\001.IFCRELNESTS' IN TYPEOF(temp)))) = 0\000"
+    "every member of Decomposes is an IfcRelNests\000"
     "SIZEOF(QUERY(temp <* SELF\\IfcObjectDefinition.IsDecomposedBy | NOT('\001.IFCRELNESTS' IN TYPEOF(temp)))) = 0\000"
+    "every member of IsDecomposedBy is an IfcRelNests\000"
     "(ProcedureType <> IfcProcedureTypeEnum.USERDEFINED) OR ((ProcedureType = IfcProcedureTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcProcedure.UserDefinedProcedureType))\000"
+    "ProcedureType is not USERDEFINED, or UserDefinedProcedureType is given\000"
     "IfcProcess\000"
     "OperatesOn\000"
     "SET [0:?] OF IfcRelAssignsToProcess FOR RelatingProcess\000"
@@ -3712,10 +3884,12 @@ constexpr Texts texts = {
     "SET [0:?] OF IfcRelSequence FOR RelatingProcess\000"
     "IfcProduct\000"
     "(EXISTS(Representation) AND EXISTS(ObjectPlacement)) OR (EXISTS(Representation) AND (NOT('\001.IFCPRODUCTDEFINITIONSHAPE' IN TYPEOF(Representation)))) OR (NOT(EXISTS(Representation)))\000"
+    "ObjectPlacement is given, or Representation is not an IfcProductDefinitionShape or not given\000"
     "ReferencedBy\000"
     "SET [0:?] OF IfcRelAssignsToProduct FOR RelatingProduct\000"
     "IfcProductDefinitionShape\000"
     "SIZEOF(QUERY(temp <* Representations | (NOT('\001.IFCSHAPEMODEL' IN TYPEOF(temp))) )) = 0\000"
+    "every member of Representations is an IfcShapeModel\000"
     "ShapeOfProduct\000"
     "SET [1:1] OF IfcProduct FOR Representation\000"
     "HasShapeAspects\000"
@@ -3723,7 +3897,9 @@ constexpr Texts texts = {
     "IfcProductsOfCombustionProperties\000"
     "IfcProject\000"
     "SIZEOF(QUERY(Temp <* RepresentationContexts | '\001.IFCGEOMETRICREPRESENTATIONSUBCONTEXT' IN TYPEOF(Temp) )) = 0\000"
+    "no member of RepresentationContexts is an IfcGeometricRepresentationSubContext\000"
     "SIZEOF(SELF\\IfcObjectDefinition.Decomposes) = 0\000"
+    "Decomposes is empty\000"
     "IfcProjectOrder\000"
     "IfcProperty\000"
     "PropertyForDependance\000"
@@ -3733,17 +3909,23 @@ constexpr Texts texts = {
     "SET [0:1] OF IfcComplexProperty FOR HasProperties\000"
     "IfcPropertyBoundedValue\000"
     "NOT(EXISTS(UpperBoundValue)) OR NOT(EXISTS(LowerBoundValue)) OR (TYPEOF(UpperBoundValue) = TYPEOF(LowerBoundValue))\000"
+    "UpperBoundValue is not given or of the same type as LowerBoundValue, or LowerBoundValue is not given\000"
     "EXISTS(UpperBoundValue) OR EXISTS(LowerBoundValue)\000"
+    "UpperBoundValue or LowerBoundValue is given\000"
     "IfcPropertyDefinition\000"
     "IfcPropertyDependencyRelationship\000"
     "DependingProperty :<>: DependantProperty\000"
+    "DependingProperty is another instance than DependantProperty\000"
     "IfcPropertyEnumeratedValue\000"
     "NOT(EXISTS(EnumerationReference)) OR (SIZEOF(QUERY(temp <* EnumerationValues | temp IN EnumerationReference.EnumerationValues)) = SIZEOF(EnumerationValues))\000"
+    "EnumerationReference is not given, or every member of EnumerationValues is a member of EnumerationReference.EnumerationValues\000"
     "IfcPropertyEnumeration\000"
     "SIZEOF(QUERY(temp <* SELF.EnumerationValues | NOT(TYPEOF(SELF.EnumerationValues[1]) = TYPEOF(temp)) )) = 0\000"
+    "every member of EnumerationValues is of the same type as EnumerationValues[1]\000"
     "Name\000"
     "IfcPropertyListValue\000"
     "SIZEOF(QUERY(temp <* SELF.ListValues | NOT(TYPEOF(SELF.ListValues[1]) = TYPEOF(temp)) )) = 0\000"
+    "every member of ListValues is of the same type as ListValues[1]\000"
     "IfcPropertySet\000"
     "IfcPropertySetDefinition\000"
     "PropertyDefinitionOf\000"
@@ -3752,97 +3934,143 @@ constexpr Texts texts = {
     "SET [0:1] OF IfcTypeObject FOR HasPropertySets\000"
     "IfcPropertyTableValue\000"
     "SIZEOF(DefiningValues) = SIZEOF(DefinedValues)\000"
+    "DefiningValues has as many members as DefinedValues\000"
     "SIZEOF(QUERY(temp <* SELF.DefiningValues | TYPEOF(temp) <> TYPEOF(SELF.DefiningValues[1])))=0\000"
+    "every member of DefiningValues is of the same type as DefiningValues[1]\000"
     "SIZEOF(QUERY(temp <* SELF.DefinedValues | TYPEOF(temp) <> TYPEOF(SELF.DefinedValues[1])))=0\000"
+    "every member of DefinedValues is of the same type as DefinedValues[1]\000"
     "IfcProxy\000"
     "IfcPumpType\000"
     "(PredefinedType <> IfcPumpTypeEnum.USERDEFINED) OR ((PredefinedType = IfcPumpTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "AREAUNIT\000"
     "IfcQuantityArea\000"
     "NOT(EXISTS(SELF\\IfcPhysicalSimpleQuantity.Unit)) OR (SELF\\IfcPhysicalSimpleQuantity.Unit.UnitType = IfcUnitEnum.AREAUNIT)\000"
+    "Unit is not given, or Unit.UnitType is AREAUNIT\000"
     "AreaValue >= 0.\000"
+    "AreaValue is at least 0\000"
     "IfcQuantityCount\000"
     "CountValue >= 0.\000"
+    "CountValue is at least 0\000"
     "LENGTHUNIT\000"
     "IfcQuantityLength\000"
     "NOT(EXISTS(SELF\\IfcPhysicalSimpleQuantity.Unit)) OR (SELF\\IfcPhysicalSimpleQuantity.Unit.UnitType = IfcUnitEnum.LENGTHUNIT)\000"
+    "Unit is not given, or Unit.UnitType is LENGTHUNIT\000"
     "LengthValue >= 0.\000"
+    "LengthValue is at least 0\000"
     "TIMEUNIT\000"
     "IfcQuantityTime\000"
     "NOT(EXISTS(SELF\\IfcPhysicalSimpleQuantity.Unit)) OR (SELF\\IfcPhysicalSimpleQuantity.Unit.UnitType = IfcUnitEnum.TIMEUNIT)\000"
+    "Unit is not given, or Unit.UnitType is TIMEUNIT\000"
     "TimeValue >= 0.\000"
+    "TimeValue is at least 0\000"
     "VOLUMEUNIT\000"
     "IfcQuantityVolume\000"
     "NOT(EXISTS(SELF\\IfcPhysicalSimpleQuantity.Unit)) OR (SELF\\IfcPhysicalSimpleQuantity.Unit.UnitType = IfcUnitEnum.VOLUMEUNIT)\000"
+    "Unit is not given, or Unit.UnitType is VOLUMEUNIT\000"
     "VolumeValue >= 0.\000"
+    "VolumeValue is at least 0\000"
     "MASSUNIT\000"
     "IfcQuantityWeight\000"
     "NOT(EXISTS(SELF\\IfcPhysicalSimpleQuantity.Unit)) OR (SELF\\IfcPhysicalSimpleQuantity.Unit.UnitType = IfcUnitEnum.MASSUNIT)\000"
+    "Unit is not given, or Unit.UnitType is MASSUNIT\000"
     "WeightValue >= 0.\000"
+    "WeightValue is at least 0\000"
     "IfcRailing\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcRailingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcRailingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "IfcRamp\000"
     "(HIINDEX(SELF\\IfcObjectDefinition.IsDecomposedBy) = 0) OR ((HIINDEX(SELF\\IfcObjectDefinition.IsDecomposedBy) = 1) AND (NOT(EXISTS(SELF\\IfcProduct.Representation))))\000"
+    "IsDecomposedBy is empty, or IsDecomposedBy has 1 member and Representation is not given\000"
     "IfcRationalBezierCurve\000"
     "SIZEOF(WeightsData) = SIZEOF(SELF\\IfcBSplineCurve.ControlPointsList)\000"
+    "WeightsData has as many members as ControlPointsList\000"
     "IFCCURVEWEIGHTSPOSITIVE\000"
     "IfcCurveWeightsPositive(SELF)\000"
+    "every weight is above 0\000"
     "IfcRectangleHollowProfileDef\000"
     "(WallThickness < (SELF\\IfcRectangleProfileDef.XDim/2.)) AND (WallThickness < (SELF\\IfcRectangleProfileDef.YDim/2.))\000"
+    "WallThickness is below XDim / 2 and below YDim / 2\000"
     "NOT(EXISTS(OuterFilletRadius)) OR ((OuterFilletRadius <= (SELF\\IfcRectangleProfileDef.XDim/2.)) AND (OuterFilletRadius <= (SELF\\IfcRectangleProfileDef.YDim/2.)))\000"
+    "OuterFilletRadius is not given, or OuterFilletRadius is at most XDim / 2 and at most YDim / 2\000"
     "NOT(EXISTS(InnerFilletRadius)) OR ((InnerFilletRadius <= (SELF\\IfcRectangleProfileDef.XDim/2. - WallThickness)) AND (InnerFilletRadius <= (SELF\\IfcRectangleProfileDef.YDim/2. - WallThickness)))\000"
+    "InnerFilletRadius is not given, or InnerFilletRadius is at most XDim / 2 - WallThickness and at most YDim / 2 - WallThickness\000"
     "IfcRectangularTrimmedSurface\000"
     "U1 <> U2\000"
+    "U1 is not U2\000"
     "V1 <> V2\000"
+    "V1 is not V2\000"
     "(('\001.IFCELEMENTARYSURFACE' IN TYPEOF(BasisSurface)) AND (NOT ('\001.IFCPLANE' IN TYPEOF(BasisSurface)))) OR ('\001.IFCSURFACEOFREVOLUTION' IN TYPEOF(BasisSurface)) OR (Usense = (U2 > U1))\000"
+    "BasisSurface is an IfcElementarySurface and not an IfcPlane, or BasisSurface is an IfcSurfaceOfRevolution, or Usense tells whether U2 is above U1\000"
     "Vsense = (V2 > V1)\000"
+    "Vsense tells whether V2 is above V1\000"
     "IfcReinforcingBar\000"
     "(BarRole <> IfcReinforcingBarRoleEnum.USERDEFINED) OR ((BarRole = IfcReinforcingBarRoleEnum.USERDEFINED) AND EXISTS(SELF\\IfcObject.ObjectType))\000"
+    "BarRole is not USERDEFINED, or ObjectType is given\000"
     "IFCCORRECTOBJECTASSIGNMENT\000"
     "IfcRelAssigns\000"
     "IfcCorrectObjectAssignment(RelatedObjectsType, RelatedObjects)\000"
+    "RelatedObjects are objects of the kind that RelatedObjectsType names\000"
     "IfcRelAssignsTasks\000"
     "HIINDEX(SELF\\IfcRelAssigns.RelatedObjects) = 1\000"
+    "RelatedObjects has 1 member\000"
     "'\001.IFCTASK' IN TYPEOF(SELF\\IfcRelAssigns.RelatedObjects[1])\000"
+    "RelatedObjects[1] is an IfcTask\000"
     "'\001.IFCWORKCONTROL' IN TYPEOF(SELF\\IfcRelAssignsToControl.RelatingControl)\000"
+    "RelatingControl is an IfcWorkControl\000"
     "IfcRelAssignsToActor\000"
     "SIZEOF(QUERY(Temp <* SELF\\IfcRelAssigns.RelatedObjects | RelatingActor :=: Temp)) = 0\000"
+    "every member of RelatedObjects is another instance than RelatingActor\000"
     "IfcRelAssignsToControl\000"
     "SIZEOF(QUERY(Temp <* SELF\\IfcRelAssigns.RelatedObjects | RelatingControl :=: Temp)) = 0\000"
+    "every member of RelatedObjects is another instance than RelatingControl\000"
     "IfcRelAssignsToGroup\000"
     "SIZEOF(QUERY(Temp <* SELF\\IfcRelAssigns.RelatedObjects | RelatingGroup :=: Temp)) = 0\000"
+    "every member of RelatedObjects is another instance than RelatingGroup\000"
     "IfcRelAssignsToProcess\000"
     "SIZEOF(QUERY(Temp <* SELF\\IfcRelAssigns.RelatedObjects | RelatingProcess :=: Temp)) = 0\000"
+    "every member of RelatedObjects is another instance than RelatingProcess\000"
     "IfcRelAssignsToProduct\000"
     "SIZEOF(QUERY(Temp <* SELF\\IfcRelAssigns.RelatedObjects | RelatingProduct :=: Temp)) = 0\000"
+    "every member of RelatedObjects is another instance than RelatingProduct\000"
     "IfcRelAssignsToResource\000"
     "SIZEOF(QUERY(Temp <* SELF\\IfcRelAssigns.RelatedObjects | RelatingResource :=: Temp)) = 0\000"
+    "every member of RelatedObjects is another instance than RelatingResource\000"
     "IfcRelAssociates\000"
     "SIZEOF(QUERY(temp <* RelatedObjects | NOT(('\001.IFCOBJECTDEFINITION' IN TYPEOF(temp)) OR ('\001.IFCPROPERTYDEFINITION' IN TYPEOF(temp))) )) = 0\000"
+    "every member of RelatedObjects is an IfcObjectDefinition or an IfcPropertyDefinition\000"
     "IfcRelAssociatesMaterial\000"
     "SIZEOF(QUERY(temp <* SELF\\IfcRelAssociates.RelatedObjects | ('\001.IFCFEATUREELEMENTSUBTRACTION' IN TYPEOF(temp)) OR ('\001.IFCVIRTUALELEMENT' IN TYPEOF(temp)) )) = 0\000"
+    "no member of RelatedObjects is an IfcFeatureElementSubtraction or an IfcVirtualElement\000"
     "SIZEOF(QUERY(temp <* SELF\\IfcRelAssociates.RelatedObjects | (NOT('\001.IFCPRODUCT' IN TYPEOF(temp)) AND NOT('\001.IFCTYPEPRODUCT' IN TYPEOF(temp))) )) = 0\000"
+    "every member of RelatedObjects is an IfcProduct or an IfcTypeProduct\000"
     "IfcRelConnectsElements\000"
     "RelatingElement :<>: RelatedElement\000"
+    "RelatingElement is another instance than RelatedElement\000"
     "IfcRelContainedInSpatialStructure\000"
     "SIZEOF(QUERY(temp <* RelatedElements | '\001.IFCSPATIALSTRUCTUREELEMENT' IN TYPEOF(temp))) = 0\000"
+    "no member of RelatedElements is an IfcSpatialStructureElement\000"
     "IfcRelDecomposes\000"
     "SIZEOF(QUERY(Temp <* RelatedObjects | RelatingObject :=: Temp)) = 0\000"
+    "every member of RelatedObjects is another instance than RelatingObject\000"
     "IfcRelNests\000"
     "SIZEOF(QUERY(Temp <* SELF\\IfcRelDecomposes.RelatedObjects | NOT(TYPEOF(SELF\\IfcRelDecomposes.RelatingObject) = TYPEOF(Temp)))) = 0\000"
+    "every member of RelatedObjects is of the same type as RelatingObject\000"
     "IfcRelOverridesProperties\000"
     "SIZEOF(SELF\\IfcRelDefines.RelatedObjects) = 1\000"
     "IfcRelReferencedInSpatialStructure\000"
     "IfcRelSchedulesCostItems\000"
     "SIZEOF(QUERY(temp <* SELF\\IfcRelAssigns.RelatedObjects | NOT('\001.IFCCOSTITEM' IN TYPEOF(temp)) )) = 0\000"
+    "every member of RelatedObjects is an IfcCostItem\000"
     "'\001.IFCCOSTSCHEDULE' IN TYPEOF (SELF\\IfcRelAssignsToControl.RelatingControl)\000"
+    "RelatingControl is an IfcCostSchedule\000"
     "IfcRelSequence\000"
     "RelatingProcess :<>: RelatedProcess\000"
+    "RelatingProcess is another instance than RelatedProcess\000"
     "PHYSICAL\000"
     "VIRTUAL\000"
     "NOTDEFINED\000"
     "IfcRelSpaceBoundary\000"
     "((PhysicalOrVirtualBoundary = IfcPhysicalOrVirtualEnum.Physical) AND (EXISTS(RelatedBuildingElement) AND NOT('\001.IFCVIRTUALELEMENT' IN TYPEOF(RelatedBuildingElement)))) OR ((PhysicalOrVirtualBoundary = IfcPhysicalOrVirtualEnum.Virtual) AND (NOT(EXISTS(RelatedBuildingElement)) OR ('\001.IFCVIRTUALELEMENT' IN TYPEOF(RelatedBuildingElement)))) OR (PhysicalOrVirtualBoundary = IfcPhysicalOrVirtualEnum.NotDefined)\000"
+    "PhysicalOrVirtualBoundary is Physical and RelatedBuildingElement is given and not an IfcVirtualElement, or PhysicalOrVirtualBoundary is Virtual and RelatedBuildingElement is not given or an IfcVirtualElement, or PhysicalOrVirtualBoundary is NotDefined\000"
     "IfcRepresentation\000"
     "RepresentationMap\000"
     "SET [0:1] OF IfcRepresentationMap FOR MappedRepresentation\000"
@@ -3864,32 +4092,43 @@ constexpr Texts texts = {
     "SET [0:?] OF IfcRelAssignsToResource FOR RelatingResource\000"
     "IfcRevolvedAreaSolid\000"
     "Axis.Location.Coordinates[3] = 0.0\000"
+    "Axis.Location.Coordinates[3] is 0\000"
     "Axis.Z.DirectionRatios[3] = 0.0\000"
+    "Axis.Z.DirectionRatios[3] is 0\000"
     "IfcRoof\000"
     "IfcRoot\000"
     "GlobalId\000"
     "IfcRoundedRectangleProfileDef\000"
     "((RoundingRadius <= (SELF\\IfcRectangleProfileDef.XDim/2.)) AND (RoundingRadius <= (SELF\\IfcRectangleProfileDef.YDim/2.)))\000"
+    "RoundingRadius is at most XDim / 2 and at most YDim / 2\000"
     "IFCDIMENSIONSFORSIUNIT\000"
     "IfcScheduleTimeControl\000"
     "ScheduleTimeControlAssigned\000"
     "IfcRelAssignsTasks FOR TimeForTask\000"
     "IfcSectionedSpine\000"
     "SIZEOF(CrossSections) = SIZEOF(CrossSectionPositions)\000"
+    "CrossSections has as many members as CrossSectionPositions\000"
     "SIZEOF(QUERY(temp <* CrossSections | CrossSections[1].ProfileType <> temp.ProfileType)) = 0\000"
+    "ProfileType of every member of CrossSections is CrossSections[1].ProfileType\000"
     "SpineCurve.Dim = 3\000"
+    "SpineCurve.Dim is 3\000"
     "IfcServiceLifeFactor\000"
     "NOT(PredefinedType = IfcServiceLifeFactorTypeEnum.USERDEFINED) OR EXISTS(SELF\\IfcObject.ObjectType)\000"
     "IfcShapeModel\000"
     "(SIZEOF(SELF\\IfcRepresentation.OfProductRepresentation) = 1) XOR (SIZEOF(SELF\\IfcRepresentation.RepresentationMap) = 1) XOR (SIZEOF(OfShapeAspect) = 1)\000"
+    "an odd number of OfProductRepresentation, RepresentationMap and OfShapeAspect has 1 member\000"
     "OfShapeAspect\000"
     "SET [0:1] OF IfcShapeAspect FOR ShapeRepresentations\000"
     "IfcShapeRepresentation\000"
     "'\001.IFCGEOMETRICREPRESENTATIONCONTEXT' IN TYPEOF(SELF\\IfcRepresentation.ContextOfItems)\000"
+    "ContextOfItems is an IfcGeometricRepresentationContext\000"
     "SIZEOF(QUERY(temp <* Items | ('\001.IFCTOPOLOGICALREPRESENTATIONITEM' IN TYPEOF(temp)) AND (NOT(SIZEOF( ['\001.IFCVERTEXPOINT', '\001.IFCEDGECURVE', '\001.IFCFACESURFACE'] * TYPEOF(temp)) = 1)) )) = 0\000"
+    "no member of Items is an IfcTopologicalRepresentationItem and not an IfcVertexPoint, IfcEdgeCurve or IfcFaceSurface\000"
     "EXISTS(SELF\\IfcRepresentation.RepresentationType)\000"
+    "RepresentationType is given\000"
     "IFCSHAPEREPRESENTATIONTYPES\000"
     "IfcShapeRepresentationTypes(SELF\\IfcRepresentation.RepresentationType, SELF\\IfcRepresentation.Items)\000"
+    "Items are what a representation of type RepresentationType may have\000"
     "IfcSlab\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcSlabTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSlabTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "IfcSpace\000"
@@ -3905,6 +4144,7 @@ constexpr Texts texts = {
     "SET [0:?] OF IfcRelInteractionRequirements FOR RelatingSpaceProgram\000"
     "IfcSpatialStructureElement\000"
     "(HIINDEX(SELF\\IfcObjectDefinition.Decomposes) = 1) AND ('\001.IFCRELAGGREGATES' IN TYPEOF(SELF\\IfcObjectDefinition.Decomposes[1])) AND (('\001.IFCPROJECT' IN TYPEOF (SELF\\IfcObjectDefinition.Decomposes[1].RelatingObject)) OR ('\001.IFCSPATIALSTRUCTUREELEMENT' IN TYPEOF (SELF\\IfcObjectDefinition.Decomposes[1].RelatingObject)) )\000"
+    "Decomposes has 1 member, and Decomposes[1] is an IfcRelAggregates, and Decomposes[1].RelatingObject is an IfcProject or an IfcSpatialStructureElement\000"
     "ReferencesElements\000"
     "SET [0:?] OF IfcRelReferencedInSpatialStructure FOR RelatingStructure\000"
     "ServicedBySystems\000"
@@ -3923,6 +4163,7 @@ constexpr Texts texts = {
     "SET [0:?] OF IfcRelConnectsStructuralActivity FOR RelatingElement\000"
     "IfcStructuralLinearAction\000"
     "SIZEOF(['\001.IFCSTRUCTURALLOADLINEARFORCE', '\001.IFCSTRUCTURALLOADTEMPERATURE'] * TYPEOF(SELF\\IfcStructuralActivity.AppliedLoad)) = 1\000"
+    "AppliedLoad is an IfcStructuralLoadLinearForce or IfcStructuralLoadTemperature\000"
     "IFCADDTOBEGINOFLIST\000"
     "IfcStructuralLoadGroup\000"
     "SourceOfResultGroup\000"
@@ -3936,12 +4177,16 @@ constexpr Texts texts = {
     "SET [0:?] OF IfcRelConnectsStructuralMember FOR RelatingStructuralMember\000"
     "IfcStructuralPlanarAction\000"
     "SIZEOF(['\001.IFCSTRUCTURALLOADPLANARFORCE', '\001.IFCSTRUCTURALLOADTEMPERATURE'] * TYPEOF(SELF\\IfcStructuralActivity.AppliedLoad)) = 1\000"
+    "AppliedLoad is an IfcStructuralLoadPlanarForce or IfcStructuralLoadTemperature\000"
     "IfcStructuralPointAction\000"
     "SIZEOF(['\001.IFCSTRUCTURALLOADSINGLEFORCE', '\001.IFCSTRUCTURALLOADSINGLEDISPLACEMENT'] * TYPEOF(SELF\\IfcStructuralActivity.AppliedLoad)) = 1\000"
+    "AppliedLoad is an IfcStructuralLoadSingleForce or IfcStructuralLoadSingleDisplacement\000"
     "IfcStructuralPointReaction\000"
     "IfcStructuralProfileProperties\000"
     "NOT(EXISTS(ShearDeformationAreaY)) OR (ShearDeformationAreaY >= 0.)\000"
+    "ShearDeformationAreaY is not given or at least 0\000"
     "NOT(EXISTS(ShearDeformationAreaZ)) OR (ShearDeformationAreaZ >= 0.)\000"
+    "ShearDeformationAreaZ is not given or at least 0\000"
     "IfcStructuralReaction\000"
     "Causes\000"
     "SET [0:?] OF IfcStructuralAction FOR CausedBy\000"
@@ -3950,13 +4195,18 @@ constexpr Texts texts = {
     "SET [0:1] OF IfcStructuralAnalysisModel FOR HasResults\000"
     "IfcStructuralSteelProfileProperties\000"
     "NOT(EXISTS(ShearAreaY)) OR (ShearAreaY >= 0.)\000"
+    "ShearAreaY is not given or at least 0\000"
     "NOT(EXISTS(ShearAreaZ)) OR (ShearAreaZ >= 0.)\000"
+    "ShearAreaZ is not given or at least 0\000"
     "IfcStructuralSurfaceMemberVarying\000"
     "EXISTS(SELF\\IfcStructuralSurfaceMember.Thickness)\000"
+    "Thickness is given\000"
     "WR62\000"
     "SIZEOF(QUERY(temp <* SELF.VaryingThicknessLocation.ShapeRepresentations | NOT(SIZEOF(temp\\IfcRepresentation.Items) = 1) )) = 0\000"
+    "Items of every member of VaryingThicknessLocation.ShapeRepresentations has 1 member\000"
     "WR63\000"
     "SIZEOF(QUERY(temp <* SELF.VaryingThicknessLocation.ShapeRepresentations | NOT(('\001.IFCCARTESIANPOINT' IN TYPEOF(temp\\IfcRepresentation.Items[1])) OR ('\001.IFCPOINTONSURFACE' IN TYPEOF(temp\\IfcRepresentation.Items[1]))) )) = 0\000"
+    "Items[1] of every member of VaryingThicknessLocation.ShapeRepresentations is an IfcCartesianPoint or an IfcPointOnSurface\000"
     "dimension value\000"
     "tolerance value\000"
     "unit text\000"
@@ -3964,38 +4214,57 @@ constexpr Texts texts = {
     "suffix text\000"
     "IfcStructuredDimensionCallout\000"
     "SIZEOF(QUERY ( Ato <* QUERY ( Con <* SELF.contents | ( '\001.IFCANNOTATIONTEXTOCCURRENCE' IN TYPEOF(Con)) ) | (NOT (Ato.Name IN ['dimension value', 'tolerance value','unit text','prefix text','suffix text'])))) = 0\000"
+    "Name of every member of the members Con of contents where Con is an IfcAnnotationTextOccurrence is one of \"dimension value\", \"tolerance value\", \"unit text\", \"prefix text\" or \"suffix text\"\000"
     "IfcStyledItem\000"
     "SIZEOF(Styles) = 1\000"
+    "Styles has 1 member\000"
     "NOT('\001.IFCSTYLEDITEM' IN TYPEOF(Item))\000"
+    "Item is not an IfcStyledItem\000"
     "IfcStyledRepresentation\000"
     "SIZEOF(QUERY(temp <* SELF\\IfcRepresentation.Items | (NOT('\001.IFCSTYLEDITEM' IN TYPEOF(temp))) )) = 0\000"
+    "every member of Items is an IfcStyledItem\000"
     "IfcSurfaceOfLinearExtrusion\000"
     "Depth > 0.\000"
+    "Depth is above 0\000"
     "IfcSurfaceStyle\000"
     "SIZEOF(QUERY(Style <* SELF.Styles | '\001.IFCSURFACESTYLESHADING' IN TYPEOF(Style) )) <= 1\000"
+    "at most 1 member of Styles is an IfcSurfaceStyleShading\000"
     "SIZEOF(QUERY(Style <* SELF.Styles | '\001.IFCSURFACESTYLELIGHTING' IN TYPEOF(Style) )) <= 1\000"
+    "at most 1 member of Styles is an IfcSurfaceStyleLighting\000"
     "SIZEOF(QUERY(Style <* SELF.Styles | '\001.IFCSURFACESTYLEREFRACTION' IN TYPEOF(Style) )) <= 1\000"
+    "at most 1 member of Styles is an IfcSurfaceStyleRefraction\000"
     "WR14\000"
     "SIZEOF(QUERY(Style <* SELF.Styles | '\001.IFCSURFACESTYLEWITHTEXTURES' IN TYPEOF(Style) )) <= 1\000"
+    "at most 1 member of Styles is an IfcSurfaceStyleWithTextures\000"
     "WR15\000"
     "SIZEOF(QUERY(Style <* SELF.Styles | '\001.IFCEXTERNALLYDEFINEDSURFACESTYLE' IN TYPEOF(Style) )) <= 1\000"
+    "at most 1 member of Styles is an IfcExternallyDefinedSurfaceStyle\000"
     "IfcSweptAreaSolid\000"
     "SweptArea.ProfileType = IfcProfileTypeEnum.Area\000"
+    "SweptArea.ProfileType is Area\000"
     "IfcSweptDiskSolid\000"
     "Directrix.Dim = 3\000"
+    "Directrix.Dim is 3\000"
     "(NOT EXISTS(InnerRadius)) OR (Radius > InnerRadius)\000"
+    "InnerRadius is not given, or Radius is above InnerRadius\000"
     "IfcSweptSurface\000"
     "NOT('\001.IFCDERIVEDPROFILEDEF' IN TYPEOF(SweptCurve))\000"
+    "SweptCurve is not an IfcDerivedProfileDef\000"
     "SweptCurve.ProfileType = IfcProfileTypeEnum.Curve\000"
+    "SweptCurve.ProfileType is Curve\000"
     "IfcSystem\000"
     "ServicesBuildings\000"
     "SET [0:1] OF IfcRelServicesBuildings FOR RelatingSystem\000"
     "IfcTShapeProfileDef\000"
     "FlangeThickness < Depth\000"
+    "FlangeThickness is below Depth\000"
     "WebThickness < FlangeWidth\000"
+    "WebThickness is below FlangeWidth\000"
     "IfcTable\000"
     "SIZEOF(QUERY( Temp <* Rows | HIINDEX(Temp.RowCells) <> HIINDEX(Rows[1].RowCells))) = 0\000"
+    "RowCells of every member of Rows has as many members as Rows[1].RowCells\000"
     "{ 0 <= NumberOfHeadings <= 1 }\000"
+    "NumberOfHeadings is from 0 to 1\000"
     "IfcTableRow\000"
     "OfTable\000"
     "IfcTable FOR Rows\000"
@@ -4004,32 +4273,41 @@ constexpr Texts texts = {
     "IfcTask\000"
     "IfcTelecomAddress\000"
     "EXISTS (TelephoneNumbers) OR EXISTS (PagerNumber) OR EXISTS (FacsimileNumbers) OR EXISTS (ElectronicMailAddresses) OR EXISTS (WWWHomePageURL)\000"
+    "TelephoneNumbers, PagerNumber, FacsimileNumbers, ElectronicMailAddresses or WWWHomePageURL is given\000"
     "IfcTendon\000"
     "(PredefinedType <> IfcTendonTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTendonTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcObject.ObjectType))\000"
     "IfcTextLiteralWithExtent\000"
     "NOT('\001.IFCPLANARBOX' IN TYPEOF(Extent))\000"
+    "Extent is not an IfcPlanarBox\000"
     "IfcTextStyleFontModel\000"
     "('\001.IFCLENGTHMEASURE' IN TYPEOF(SELF.FontSize)) AND (SELF.FontSize > 0.)\000"
+    "FontSize is an IfcLengthMeasure and above 0\000"
     "IfcTextureCoordinate\000"
     "AnnotatedSurface\000"
     "SET [1:1] OF IfcAnnotationSurface FOR TextureCoordinates\000"
     "IfcTextureMap\000"
     "SIZEOF([ '\001.IFCSHELLBASEDSURFACEMODEL', '\001.IFCFACEBASEDSURFACEMODEL', '\001.IFCFACETEDBREP', '\001.IFCFACETEDBREPWITHVOIDS'] * TYPEOF(SELF\\IfcTextureCoordinate.AnnotatedSurface[1].Item) ) >= 1\000"
+    "AnnotatedSurface[1].Item is an IfcShellBasedSurfaceModel, IfcFaceBasedSurfaceModel, IfcFacetedBrep or IfcFacetedBrepWithVoids\000"
     "IfcThermalMaterialProperties\000"
     "IfcTimeSeries\000"
     "DocumentedBy\000"
     "SET [0:1] OF IfcTimeSeriesReferenceRelationship FOR ReferencedTimeSeries\000"
     "IfcTimeSeriesSchedule\000"
     "NOT(TimeSeriesScheduleType=IfcTimeSeriesScheduleTypeEnum.USERDEFINED) OR EXISTS(SELF\\IfcObject.ObjectType)\000"
+    "TimeSeriesScheduleType is not USERDEFINED, or ObjectType is given\000"
     "IfcTopologyRepresentation\000"
     "SIZEOF(QUERY(temp <* SELF\\IfcRepresentation.Items | NOT('\001.IFCTOPOLOGICALREPRESENTATIONITEM' IN TYPEOF(temp)) )) = 0\000"
+    "every member of Items is an IfcTopologicalRepresentationItem\000"
     "IFCTOPOLOGYREPRESENTATIONTYPES\000"
     "IfcTopologyRepresentationTypes(SELF\\IfcRepresentation.RepresentationType, SELF\\IfcRepresentation.Items)\000"
     "IfcTrimmedCurve\000"
     "(HIINDEX(Trim1) = 1) OR (TYPEOF(Trim1[1]) <> TYPEOF(Trim1[2]))\000"
+    "Trim1 has 1 member, or Trim1[1] is of another type than Trim1[2]\000"
     "(HIINDEX(Trim2) = 1) OR (TYPEOF(Trim2[1]) <> TYPEOF(Trim2[2]))\000"
+    "Trim2 has 1 member, or Trim2[1] is of another type than Trim2[2]\000"
     "WR43\000"
     "NOT('\001.IFCBOUNDEDCURVE' IN TYPEOF(BasisCurve))\000"
+    "BasisCurve is not an IfcBoundedCurve\000"
     "IfcTubeBundleType\000"
     "(PredefinedType <> IfcTubeBundleTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTubeBundleTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcTypeObject\000"
@@ -4037,42 +4315,55 @@ constexpr Texts texts = {
     "SET [0:1] OF IfcRelDefinesByType FOR RelatingType\000"
     "IfcTypeProduct\000"
     "NOT(EXISTS(SELF\\IfcTypeObject.ObjectTypeOf[1])) OR (SIZEOF(QUERY(temp <* SELF\\IfcTypeObject.ObjectTypeOf[1].RelatedObjects | NOT('\001.IFCPRODUCT' IN TYPEOF(temp))) ) = 0)\000"
+    "ObjectTypeOf[1] is not given, or every member of ObjectTypeOf[1].RelatedObjects is an IfcProduct\000"
     "IfcUShapeProfileDef\000"
     "FlangeThickness < (Depth / 2.)\000"
+    "FlangeThickness is below Depth / 2\000"
     "IFCCORRECTUNITASSIGNMENT\000"
     "IfcUnitAssignment\000"
     "IfcCorrectUnitAssignment(Units)\000"
+    "Units have at most one unit of each UnitType but USERDEFINED, and at most one IfcMonetaryUnit\000"
     "IfcUnitaryEquipmentType\000"
     "(PredefinedType <> IfcUnitaryEquipmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcUnitaryEquipmentTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcValveType\000"
     "(PredefinedType <> IfcValveTypeEnum.USERDEFINED) OR ((PredefinedType = IfcValveTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcVector\000"
     "Magnitude >= 0.0\000"
+    "Magnitude is at least 0\000"
     "IfcVibrationIsolatorType\000"
     "(PredefinedType <> IfcVibrationIsolatorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcVibrationIsolatorTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcWall\000"
     "SIZEOF (QUERY(temp <* SELF\\IfcObjectDefinition.HasAssociations | '\001.IFCRELASSOCIATESMATERIAL' IN TYPEOF(temp) )) <= 1\000"
+    "at most 1 member of HasAssociations is an IfcRelAssociatesMaterial\000"
     "IFCRELASSOCIATES.RELATEDOBJECTS\000"
     "IfcWallStandardCase\000"
     "SIZEOF (QUERY(temp <* USEDIN(SELF, '\001.IFCRELASSOCIATES.RELATEDOBJECTS') | ('\001.IFCRELASSOCIATESMATERIAL' IN TYPEOF(temp)) AND ('\001.IFCMATERIALLAYERSETUSAGE' IN TYPEOF(temp.RelatingMaterial)) )) = 1\000"
+    "for exactly 1 user temp of the instance by IfcRelAssociates.RelatedObjects, temp is an IfcRelAssociatesMaterial and temp.RelatingMaterial is an IfcMaterialLayerSetUsage\000"
     "IfcWaterProperties\000"
     "IfcWindowLiningProperties\000"
     "NOT(NOT(EXISTS(FirstTransomOffset)) AND EXISTS(SecondTransomOffset))\000"
+    "FirstTransomOffset is given, or SecondTransomOffset is not given\000"
     "NOT(NOT(EXISTS(FirstMullionOffset)) AND EXISTS(SecondMullionOffset))\000"
+    "FirstMullionOffset is given, or SecondMullionOffset is not given\000"
     "EXISTS(SELF\\IfcPropertySetDefinition.DefinesType[1]) AND ('\001.IFCWINDOWSTYLE' IN TYPEOF(SELF\\IfcPropertySetDefinition.DefinesType[1]))\000"
+    "DefinesType[1] is given and an IfcWindowStyle\000"
     "IfcWorkControl\000"
     "(WorkControlType <> IfcWorkControlTypeEnum.USERDEFINED) OR ((WorkControlType = IfcWorkControlTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcWorkControl.UserDefinedControlType))\000"
+    "WorkControlType is not USERDEFINED, or UserDefinedControlType is given\000"
     "IfcZShapeProfileDef\000"
     "IfcZone\000"
     "SIZEOF (QUERY (temp <* SELF\\IfcGroup.IsGroupedBy.RelatedObjects | NOT(('\001.IFCZONE' IN TYPEOF(temp)) OR ('\001.IFCSPACE' IN TYPEOF(temp))) )) = 0\000"
+    "every member of IsGroupedBy.RelatedObjects is an IfcZone or an IfcSpace\000"
     "IFCSAMEVALIDPRECISION\000"
     "IFCSAMEAXIS2PLACEMENT\000"
     "IFCREPRESENTATIONCONTEXTSAMEWCS\000"
     "IfcRepresentationContextSameWCS\000"
     "IsDifferent = FALSE\000"
+    "IsDifferent is FALSE\000"
     "IFCSINGLEPROJECTINSTANCE\000"
     "IfcSingleProjectInstance\000"
     "SIZEOF(IfcProject) <= 1\000"
+    "the model has at most 1 IfcProject\000"
     "IFCFIRSTPROJAXIS\000"
     "IFCSECONDPROJAXIS\000"
     "IFCORTHOGONALCOMPLEMENT\000"
@@ -4168,21 +4459,28 @@ constexpr Texts texts = {
     "SELF > 0\000"
     "MinutesInRange\000"
     "ABS(SELF[2]) < 60\000"
+    "the absolute value of member 2 is below 60\000"
     "SecondsInRange\000"
     "ABS(SELF[3]) < 60\000"
+    "the absolute value of member 3 is below 60\000"
     "MicrosecondsInRange\000"
     "(SIZEOF(SELF) = 3) OR (ABS(SELF[4]) < 1000000)\000"
-    "ConsistentSign\000"
+    "the value has 3 members, or the absolute value of member 4 is below 1000000\000"
+    "ConsistentSign",
     "((SELF[1] >= 0) AND (SELF[2] >= 0) AND (SELF[3] >= 0) AND ((SIZEOF(SELF) = 3) OR (SELF[4] >= 0))) OR ((SELF[1] <= 0) AND (SELF[2] <= 0) AND (SELF[3] <= 0) AND ((SIZEOF(SELF) = 3) OR (SELF[4] <= 0)))\000"
+    "member 1, member 2 and member 3 are at least 0 and (the value has 3 members or member 4 is at least 0), or member 1, member 2 and member 3 are at most 0 and (the value has 3 members or member 4 is at most 0)\000"
     "IfcDayInMonthNumber\000"
     "ValidRange\000"
     "{1 <= SELF <= 31}\000"
+    "the value is from 1 to 31\000"
     "IfcDayInWeekNumber\000"
     "{1 <= SELF <= 7}\000"
+    "the value is from 1 to 7\000"
     "{1 <= SELF <= 12}\000"
     "IfcNonNegativeLengthMeasure\000"
     "NotNegative\000"
     "SELF >= 0.\000"
+    "the value is at least 0\000"
     "IfcPositiveInteger\000"
     "HasExternalReference\000"
     "SET [0:?] OF IfcExternalReferenceRelationship FOR RelatedResourceObjects\000"
@@ -4191,37 +4489,48 @@ constexpr Texts texts = {
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcActuatorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcActuatorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "CorrectTypeAssigned\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCACTUATORTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcActuatorType\000"
     "IfcActuatorType\000"
     "(PredefinedType <> IfcActuatorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcActuatorTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcAdvancedBrep\000"
     "HasAdvancedFaces\000"
     "SIZEOF(QUERY(Afs <* SELF\\IfcManifoldSolidBrep.Outer.CfsFaces | (NOT ('\001.IFCADVANCEDFACE' IN TYPEOF(Afs))) )) = 0\000"
+    "every member of Outer.CfsFaces is an IfcAdvancedFace\000"
     "IfcAdvancedBrepWithVoids\000"
     "VoidsHaveAdvancedFaces\000"
     "SIZEOF (QUERY (Vsh <* Voids | SIZEOF (QUERY (Afs <* Vsh.CfsFaces | (NOT ('\001.IFCADVANCEDFACE' IN TYPEOF(Afs))) )) = 0 )) = 0\000"
+    "for every Vsh of Voids, at least 1 member of Vsh.CfsFaces is not an IfcAdvancedFace\000"
     "IfcAdvancedFace\000"
     "ApplicableSurface\000"
     "SIZEOF ( ['\001.IFCELEMENTARYSURFACE', '\001.IFCSWEPTSURFACE', '\001.IFCBSPLINESURFACE'] * TYPEOF(SELF\\IfcFaceSurface.FaceSurface)) = 1\000"
+    "FaceSurface is an IfcElementarySurface, IfcSweptSurface or IfcBSplineSurface\000"
     "RequiresEdgeCurve\000"
     "SIZEOF(QUERY (ElpFbnds <* QUERY (Bnds <* SELF\\IfcFace.Bounds | '\001.IFCEDGELOOP' IN TYPEOF(Bnds.Bound)) | NOT (SIZEOF (QUERY (Oe <* ElpFbnds.Bound\\IfcEdgeLoop.EdgeList | NOT('\001.IFCEDGECURVE' IN TYPEOF(Oe\\IfcOrientedEdge.EdgeElement) ))) = 0 ))) = 0\000"
+    "for every ElpFbnds of the members Bnds of Bounds where Bnds.Bound is an IfcEdgeLoop, EdgeElement of every member of ElpFbnds.Bound.EdgeList is an IfcEdgeCurve\000"
     "ApplicableEdgeCurves\000"
     "SIZEOF(QUERY (ElpFbnds <* QUERY (Bnds <* SELF\\IfcFace.Bounds | '\001.IFCEDGELOOP' IN TYPEOF(Bnds.Bound)) | NOT (SIZEOF (QUERY (Oe <* ElpFbnds.Bound\\IfcEdgeLoop.EdgeList | NOT (SIZEOF (['\001.IFCLINE', '\001.IFCCONIC', '\001.IFCPOLYLINE', '\001.IFCBSPLINECURVE'] * TYPEOF(Oe\\IfcOrientedEdge.EdgeElement\\IfcEdgeCurve.EdgeGeometry)) = 1 ) )) = 0 ))) = 0\000"
+    "for every ElpFbnds of the members Bnds of Bounds where Bnds.Bound is an IfcEdgeLoop, EdgeElement.EdgeGeometry of every member of ElpFbnds.Bound.EdgeList is an IfcLine, IfcConic, IfcPolyline or IfcBSplineCurve\000"
     "IfcAirTerminal\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcAirTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcAirTerminalTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCAIRTERMINALTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcAirTerminalType\000"
     "IfcAirTerminalBox\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcAirTerminalBoxTypeEnum.USERDEFINED) OR ((PredefinedType = IfcAirTerminalBoxTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCAIRTERMINALBOXTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcAirTerminalBoxType\000"
     "IfcAirToAirHeatRecovery\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcAirToAirHeatRecoveryTypeEnum.USERDEFINED) OR ((PredefinedType = IfcAirToAirHeatRecoveryTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCAIRTOAIRHEATRECOVERYTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcAirToAirHeatRecoveryType\000"
     "IfcAlarm\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcAlarmTypeEnum.USERDEFINED) OR ((PredefinedType = IfcAlarmTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCALARMTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcAlarmType\000"
     "IfcAlarmType\000"
     "(PredefinedType <> IfcAlarmTypeEnum.USERDEFINED) OR ((PredefinedType = IfcAlarmTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "HasIdentifierOrName\000"
     "EXISTS (Identifier) OR EXISTS (Name)\000"
+    "Identifier or Name is given\000"
     "HasExternalReferences\000"
     "ApprovedObjects\000"
     "SET [0:?] OF IfcRelAssociatesApproval FOR RelatingApproval\000"
@@ -4231,15 +4540,20 @@ constexpr Texts texts = {
     "IfcAsymmetricIShapeProfileDef\000"
     "ValidFlangeThickness\000"
     "NOT(EXISTS(TopFlangeThickness)) OR ((BottomFlangeThickness + TopFlangeThickness) < OverallDepth)\000"
+    "TopFlangeThickness is not given, or BottomFlangeThickness + TopFlangeThickness is below OverallDepth\000"
     "ValidWebThickness\000"
     "(WebThickness < BottomFlangeWidth) AND (WebThickness < TopFlangeWidth)\000"
+    "WebThickness is below BottomFlangeWidth and below TopFlangeWidth\000"
     "ValidBottomFilletRadius\000"
     "(NOT(EXISTS(BottomFlangeFilletRadius))) OR (BottomFlangeFilletRadius <= (BottomFlangeWidth - WebThickness)/2.)\000"
+    "BottomFlangeFilletRadius is not given or at most (BottomFlangeWidth - WebThickness) / 2\000"
     "ValidTopFilletRadius\000"
     "(NOT(EXISTS(TopFlangeFilletRadius))) OR (TopFlangeFilletRadius <= (TopFlangeWidth - WebThickness)/2.)\000"
+    "TopFlangeFilletRadius is not given or at most (TopFlangeWidth - WebThickness) / 2\000"
     "IfcAudioVisualAppliance\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcAudioVisualApplianceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcAudioVisualApplianceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCAUDIOVISUALAPPLIANCETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcAudioVisualApplianceType\000"
     "IfcAudioVisualApplianceType\000"
     "(PredefinedType <> IfcAudioVisualApplianceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcAudioVisualApplianceTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "AxisIs3D\000"
@@ -4254,41 +4568,54 @@ constexpr Texts texts = {
     "IfcBSplineCurveWithKnots\000"
     "ConsistentBSpline\000"
     "IfcConstraintsParamBSpline(Degree, UpperIndexOnKnots, UpperIndexOnControlPoints, KnotMultiplicities, Knots)\000"
+    "Degree, UpperIndexOnKnots, UpperIndexOnControlPoints, KnotMultiplicities and Knots fit each other as those of a B-spline do\000"
     "CorrespondingKnotLists\000"
     "SIZEOF(KnotMultiplicities) = UpperIndexOnKnots\000"
+    "KnotMultiplicities has UpperIndexOnKnots members\000"
     "IFCMAKEARRAYOFARRAY\000"
     "IfcBSplineSurfaceWithKnots\000"
     "UDirectionConstraints\000"
     "IfcConstraintsParamBSpline ( SELF\\IfcBSplineSurface.UDegree, KnotUUpper, SELF\\IfcBSplineSurface.UUpper, UMultiplicities, UKnots)\000"
+    "UDegree, KnotUUpper, UUpper, UMultiplicities and UKnots fit each other as those of a B-spline do\000"
     "VDirectionConstraints\000"
     "IfcConstraintsParamBSpline ( SELF\\IfcBSplineSurface.VDegree, KnotVUpper, SELF\\IfcBSplineSurface.VUpper, VMultiplicities, VKnots)\000"
+    "VDegree, KnotVUpper, VUpper, VMultiplicities and VKnots fit each other as those of a B-spline do\000"
     "CorrespondingULists\000"
     "SIZEOF(UMultiplicities) = KnotUUpper\000"
+    "UMultiplicities has KnotUUpper members\000"
     "CorrespondingVLists\000"
     "SIZEOF(VMultiplicities) = KnotVUpper\000"
+    "VMultiplicities has KnotVUpper members\000"
     "IfcBeam\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcBeamTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBeamTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCBEAMTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcBeamType\000"
     "IfcBeamStandardCase\000"
     "HasMaterialProfileSetUsage\000"
     "SIZEOF (QUERY(temp <* USEDIN(SELF, '\001.IFCRELASSOCIATES.RELATEDOBJECTS') | ('\001.IFCRELASSOCIATESMATERIAL' IN TYPEOF(temp)) AND ('\001.IFCMATERIALPROFILESETUSAGE' IN TYPEOF(temp.RelatingMaterial)) )) = 1\000"
+    "for exactly 1 user temp of the instance by IfcRelAssociates.RelatedObjects, temp is an IfcRelAssociatesMaterial and temp.RelatingMaterial is an IfcMaterialProfileSetUsage\000"
     "IfcBeamType\000"
     "(PredefinedType <> IfcBeamTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBeamTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "SupportedRasterFormat\000"
     "RasterCodeByteStream\000"
     "BLENGTH(RasterCode) MOD 8 = 0\000"
+    "the number of bits of RasterCode is a multiple of 8\000"
     "IfcBoiler\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcBoilerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBoilerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCBOILERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcBoilerType\000"
     "IFC4.IFCSWEPTDISCSOLID\000"
     "FirstOperandType\000"
     "('\001.IFCSWEPTAREASOLID' IN TYPEOF(FirstOperand)) OR ('\001.IFCSWEPTDISCSOLID' IN TYPEOF(FirstOperand)) OR ('\001.IFCBOOLEANCLIPPINGRESULT' IN TYPEOF(FirstOperand))\000"
+    "FirstOperand is an IfcSweptAreaSolid, an IFCSWEPTDISCSOLID or an IfcBooleanClippingResult\000"
     "SecondOperandType\000"
     "OperatorType\000"
     "FirstOperandClosed\000"
     "NOT('\001.IFCTESSELLATEDFACESET' IN TYPEOF(FirstOperand)) OR (EXISTS(FirstOperand.Closed) AND FirstOperand.Closed)\000"
+    "FirstOperand is not an IfcTessellatedFaceSet, or FirstOperand.Closed is given and TRUE\000"
     "SecondOperandClosed\000"
     "NOT('\001.IFCTESSELLATEDFACESET' IN TYPEOF(SecondOperand)) OR (EXISTS(SecondOperand.Closed) AND SecondOperand.Closed)\000"
+    "SecondOperand is not an IfcTessellatedFaceSet, or SecondOperand.Closed is given and TRUE\000"
     "IfcBoundaryCurve\000"
     "IsClosed\000"
     "UnboundedSurface\000"
@@ -4297,38 +4624,46 @@ constexpr Texts texts = {
     "IfcBuildingElementPart\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcBuildingElementPartTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBuildingElementPartTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCBUILDINGELEMENTPARTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcBuildingElementPartType\000"
     "IfcBuildingElementPartType\000"
     "(PredefinedType <> IfcBuildingElementPartTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBuildingElementPartTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "HasObjectName\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcBuildingElementProxyTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBuildingElementProxyTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCBUILDINGELEMENTPROXYTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcBuildingElementProxyType\000"
     "IfcBuildingElementProxyType\000"
     "(PredefinedType <> IfcBuildingElementProxyTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBuildingElementProxyTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcBurner\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcBurnerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBurnerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCBURNERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcBurnerType\000"
     "IfcBurnerType\000"
     "(PredefinedType <> IfcBurnerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBurnerTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "ValidGirth\000"
     "ValidInternalFilletRadius\000"
     "NOT(EXISTS(InternalFilletRadius)) OR ((InternalFilletRadius <= Width/2. - WallThickness) AND (InternalFilletRadius <= Depth/2. - WallThickness))\000"
+    "InternalFilletRadius is not given, or InternalFilletRadius is at most Width / 2 - WallThickness and at most Depth / 2 - WallThickness\000"
     "ValidWallThickness\000"
     "IfcCableCarrierFitting\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCableCarrierFittingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableCarrierFittingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCABLECARRIERFITTINGTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCableCarrierFittingType\000"
     "IfcCableCarrierSegment\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCableCarrierSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableCarrierSegmentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCABLECARRIERSEGMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCableCarrierSegmentType\000"
     "IfcCableCarrierSegmentType\000"
     "(PredefinedType <> IfcCableCarrierSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableCarrierSegmentTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcCableFitting\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCableFittingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableFittingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCABLEFITTINGTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCableFittingType\000"
     "IfcCableFittingType\000"
     "(PredefinedType <> IfcCableFittingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableFittingTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcCableSegment\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCableSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableSegmentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCABLESEGMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCableSegmentType\000"
     "IfcCableSegmentType\000"
     "(PredefinedType <> IfcCableSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableSegmentTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "CP2Dor3D\000"
@@ -4346,9 +4681,11 @@ constexpr Texts texts = {
     "IfcChiller\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcChillerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcChillerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCHILLERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcChillerType\000"
     "IfcChimney\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcChimneyTypeEnum.USERDEFINED) OR ((PredefinedType = IfcChimneyTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCHIMNEYTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcChimneyType\000"
     "IfcChimneyType\000"
     "(PredefinedType <> IfcChimneyTypeEnum.USERDEFINED) OR ((PredefinedType = IfcChimneyTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "ClassificationForObjects\000"
@@ -4360,27 +4697,33 @@ constexpr Texts texts = {
     "IfcCoil\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCoilTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCoilTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCOILTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCoilType\000"
     "IfcColumn\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcColumnTypeEnum.USERDEFINED) OR ((PredefinedType = IfcColumnTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCOLUMNTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcColumnType\000"
     "IfcColumnStandardCase\000"
     "IfcColumnType\000"
     "(PredefinedType <> IfcColumnTypeEnum.USERDEFINED) OR ((PredefinedType = IfcColumnTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcCommunicationsAppliance\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCommunicationsApplianceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCommunicationsApplianceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCOMMUNICATIONSAPPLIANCETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCommunicationsApplianceType\000"
     "IfcCommunicationsApplianceType\000"
     "(PredefinedType <> IfcCommunicationsApplianceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCommunicationsApplianceTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IFCUNIQUEPROPERTYTEMPLATENAMES\000"
     "IfcComplexPropertyTemplate\000"
     "UniquePropertyNames\000"
     "IfcUniquePropertyTemplateNames(HasPropertyTemplates)\000"
+    "no two of HasPropertyTemplates have the same name\000"
     "NoSelfReference\000"
     "SIZEOF(QUERY(temp <* HasPropertyTemplates | SELF :=: temp)) = 0\000"
+    "no member of HasPropertyTemplates is the instance itself\000"
     "CurveContinuous\000"
     "IfcCompositeCurveOnSurface\000"
     "SameSurface\000"
     "SIZEOF(BasisSurface) > 0\000"
+    "BasisSurface is not empty\000"
     "IFCGETBASISSURFACE\000"
     "ParentIsBoundedCurve\000"
     "InvariantProfileType\000"
@@ -4388,14 +4731,17 @@ constexpr Texts texts = {
     "IfcCompressor\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCompressorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCompressorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCOMPRESSORTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCompressorType\000"
     "IfcCondenser\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCondenserTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCondenserTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCONDENSERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCondenserType\000"
     "SET [0:?] OF IfcResourceConstraintRelationship FOR RelatingConstraint\000"
     "IfcConstructionEquipmentResource\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcConstructionEquipmentResourceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcConstructionEquipmentResourceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "IfcConstructionEquipmentResourceType\000"
     "(PredefinedType <> IfcConstructionEquipmentResourceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcConstructionEquipmentResourceTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcTypeResource.ResourceType))\000"
+    "PredefinedType is not USERDEFINED, or ResourceType is given\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcConstructionMaterialResourceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcConstructionMaterialResourceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "IfcConstructionMaterialResourceType\000"
     "(PredefinedType <> IfcConstructionMaterialResourceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcConstructionMaterialResourceTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcTypeResource.ResourceType))\000"
@@ -4410,19 +4756,23 @@ constexpr Texts texts = {
     "IfcController\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcControllerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcControllerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCONTROLLERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcControllerType\000"
     "IfcControllerType\000"
     "(PredefinedType <> IfcControllerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcControllerTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcConversionBasedUnit\000"
     "IfcCooledBeam\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCooledBeamTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCooledBeamTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCOOLEDBEAMTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCooledBeamType\000"
     "IfcCoolingTower\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCoolingTowerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCoolingTowerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCOOLINGTOWERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCoolingTowerType\000"
     "IfcCoordinateReferenceSystem\000"
     "HasCoordinateOperation\000"
-    "SET [0:1] OF IfcCoordinateOperation FOR SourceCRS",
+    "SET [0:1] OF IfcCoordinateOperation FOR SourceCRS\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCOVERINGTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCoveringType\000"
     "CoversElements\000"
     "IfcCoveringType\000"
     "(PredefinedType <> IfcCoveringTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCoveringTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
@@ -4433,26 +4783,32 @@ constexpr Texts texts = {
     "IfcCurtainWall\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCurtainWallTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCurtainWallTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCURTAINWALLTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCurtainWallType\000"
     "IfcCurtainWallType\000"
     "(PredefinedType <> IfcCurtainWallTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCurtainWallTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "MeasureOfWidth\000"
     "IdentifiableCurveStyle\000"
     "EXISTS(CurveFont) OR EXISTS(CurveWidth) OR EXISTS(CurveColour)\000"
+    "CurveFont, CurveWidth or CurveColour is given\000"
     "VisibleLengthGreaterEqualZero\000"
     "IfcDamper\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcDamperTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDamperTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCDAMPERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcDamperType\000"
     "IfcDirection\000"
     "MagnitudeGreaterZero\000"
     "SIZEOF(QUERY(Tmp <* DirectionRatios | Tmp <> 0.0)) > 0\000"
+    "at least 1 member of DirectionRatios is not 0\000"
     "IfcDiscreteAccessory\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcDiscreteAccessoryTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDiscreteAccessoryTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCDISCRETEACCESSORYTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcDiscreteAccessoryType\000"
     "IfcDiscreteAccessoryType\000"
     "(PredefinedType <> IfcDiscreteAccessoryTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDiscreteAccessoryTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcDistributionChamberElement\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcDistributionChamberElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDistributionChamberElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCDISTRIBUTIONCHAMBERELEMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcDistributionChamberElementType\000"
     "IfcDistributionChamberElementType\000"
     "(PredefinedType <> IfcDistributionChamberElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDistributionChamberElementTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcDistributionElement\000"
@@ -4461,13 +4817,18 @@ constexpr Texts texts = {
     "HasDocumentReferences\000"
     "SET [0:?] OF IfcDocumentReference FOR ReferencedDocument\000"
     "EXISTS(Name) XOR EXISTS(ReferencedDocument)\000"
+    "exactly one of Name and ReferencedDocument is given\000"
     "DocumentRefForObjects\000"
     "IfcDoor\000"
     "CorrectStyleAssigned\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCDOORTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcDoorType\000"
     "NOT(EXISTS(LiningDepth) AND NOT(EXISTS(LiningThickness)))\000"
+    "LiningDepth is not given, or LiningThickness is given\000"
     "NOT(EXISTS(ThresholdDepth) AND NOT(EXISTS(ThresholdThickness)))\000"
+    "ThresholdDepth is not given, or ThresholdThickness is given\000"
     "(EXISTS(SELF\\IfcPropertySetDefinition.DefinesType[1])) AND ( ('\001.IFCDOORTYPE' IN TYPEOF(SELF\\IfcPropertySetDefinition.DefinesType[1])) OR ('\001.IFCDOORSTYLE' IN TYPEOF(SELF\\IfcPropertySetDefinition.DefinesType[1])) )\000"
+    "DefinesType[1] is given, and DefinesType[1] is an IfcDoorType or an IfcDoorStyle\000"
     "ApplicableToType\000"
     "IfcDoorType\000"
     "(PredefinedType <> IfcDoorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDoorTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
@@ -4476,41 +4837,50 @@ constexpr Texts texts = {
     "IfcDuctFitting\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcDuctFittingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDuctFittingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCDUCTFITTINGTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcDuctFittingType\000"
     "IfcDuctSegment\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcDuctSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDuctSegmentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCDUCTSEGMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcDuctSegmentType\000"
     "IfcDuctSilencer\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcDuctSilencerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDuctSilencerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCDUCTSILENCERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcDuctSilencerType\000"
     "IsContinuous\000"
     "IfcElectricAppliance\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcElectricApplianceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricApplianceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCELECTRICAPPLIANCETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcElectricApplianceType\000"
     "IfcElectricApplianceType\000"
     "(PredefinedType <> IfcElectricApplianceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricApplianceTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcElectricDistributionBoard\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcElectricDistributionBoardTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricDistributionBoardTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCELECTRICDISTRIBUTIONBOARDTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcElectricDistributionBoardType\000"
     "IfcElectricDistributionBoardType\000"
     "(PredefinedType <> IfcElectricDistributionBoardTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricDistributionBoardTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcElectricFlowStorageDevice\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcElectricFlowStorageDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricFlowStorageDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCELECTRICFLOWSTORAGEDEVICETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcElectricFlowStorageDeviceType\000"
     "IfcElectricFlowStorageDeviceType\000"
     "(PredefinedType <> IfcElectricFlowStorageDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricFlowStorageDeviceTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcElectricGenerator\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcElectricGeneratorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricGeneratorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCELECTRICGENERATORTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcElectricGeneratorType\000"
     "IfcElectricGeneratorType\000"
     "(PredefinedType <> IfcElectricGeneratorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricGeneratorTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcElectricMotor\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcElectricMotorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricMotorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCELECTRICMOTORTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcElectricMotorType\000"
     "IfcElectricMotorType\000"
     "(PredefinedType <> IfcElectricMotorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricMotorTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcElectricTimeControl\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcElectricTimeControlTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricTimeControlTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCELECTRICTIMECONTROLTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcElectricTimeControlType\000"
     "IfcElectricTimeControlType\000"
     "(PredefinedType <> IfcElectricTimeControlTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricTimeControlTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IsInterferedByElements\000"
@@ -4519,31 +4889,40 @@ constexpr Texts texts = {
     "SET [0:?] OF IfcRelInterferesElements FOR RelatingElement\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcElementAssemblyTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElementAssemblyTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCELEMENTASSEMBLYTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcElementAssemblyType\000"
     "IfcElementAssemblyType\000"
     "(PredefinedType <> IfcElementAssemblyTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElementAssemblyTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IFCUNIQUEQUANTITYNAMES\000"
     "IfcElementQuantity\000"
     "UniqueQuantityNames\000"
     "IfcUniqueQuantityNames(Quantities)\000"
+    "no two of Quantities have the same name\000"
     "IfcEngine\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcEngineTypeEnum.USERDEFINED) OR ((PredefinedType = IfcEngineTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCENGINETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcEngineType\000"
     "IfcEngineType\000"
     "(PredefinedType <> IfcEngineTypeEnum.USERDEFINED) OR ((PredefinedType = IfcEngineTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcEvaporativeCooler\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcEvaporativeCoolerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcEvaporativeCoolerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCEVAPORATIVECOOLERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcEvaporativeCoolerType\000"
     "IfcEvaporator\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcEvaporatorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcEvaporatorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCEVAPORATORTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcEvaporatorType\000"
     "IfcEvent\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcEventTypeEnum.USERDEFINED) OR ((PredefinedType = IfcEventTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcObject.ObjectType))\000"
     "NOT(EXISTS(EventTriggerType)) OR (EventTriggerType <> IfcEventTriggerTypeEnum.USERDEFINED) OR ((EventTriggerType = IfcEventTriggerTypeEnum.USERDEFINED) AND EXISTS(UserDefinedEventTriggerType))\000"
+    "EventTriggerType is not given or not USERDEFINED, or UserDefinedEventTriggerType is given\000"
     "IfcEventType\000"
     "(PredefinedType <> IfcEventTypeEnum.USERDEFINED) OR ((PredefinedType = IfcEventTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcTypeProcess.ProcessType))\000"
+    "PredefinedType is not USERDEFINED, or ProcessType is given\000"
     "CorrectEventTriggerType\000"
     "(EventTriggerType <> IfcEventTriggerTypeEnum.USERDEFINED) OR ((EventTriggerType = IfcEventTriggerTypeEnum.USERDEFINED) AND EXISTS(UserDefinedEventTriggerType))\000"
+    "EventTriggerType is not USERDEFINED, or UserDefinedEventTriggerType is given\000"
     "EXISTS(Identification) OR EXISTS(Location) OR EXISTS(Name)\000"
+    "Identification, Location or Name is given\000"
     "ExternalReferenceForResources\000"
     "SET [0:?] OF IfcExternalReferenceRelationship FOR RelatingReference\000"
     "IfcExternalSpatialElement\000"
@@ -4552,21 +4931,26 @@ constexpr Texts texts = {
     "IfcExtrudedAreaSolidTapered\000"
     "CorrectProfileAssignment\000"
     "IfcTaperedSweptAreaProfiles(SELF\\IfcSweptAreaSolid.SweptArea, SELF.EndSweptArea)\000"
+    "EndSweptArea is of the type of SweptArea, or derived from it\000"
     "HasOuterBound\000"
     "HasTextureMaps\000"
     "SET [0:?] OF IfcTextureMap FOR MappedTo\000"
     "IfcFan\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcFanTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFanTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCFANTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcFanType\000"
     "IfcFastener\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcFastenerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFastenerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCFASTENERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcFastenerType\000"
     "IfcFastenerType\000"
     "(PredefinedType <> IfcFastenerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFastenerTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "HasNoSubtraction\000"
     "SIZEOF(SELF\\IfcElement.HasOpenings) = 0\000"
+    "HasOpenings is empty\000"
     "IsNotFilling\000"
     "SIZEOF(SELF\\IfcElement.FillsVoids) = 0\000"
+    "FillsVoids is empty\000"
     "MaxOneColour\000"
     "MaxOneExtHatchStyle\000"
     "ConsistentHatchStyleDef\000"
@@ -4575,43 +4959,53 @@ constexpr Texts texts = {
     "IfcFilter\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcFilterTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFilterTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCFILTERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcFilterType\000"
     "IfcFireSuppressionTerminal\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcFireSuppressionTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFireSuppressionTerminalTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCFIRESUPPRESSIONTERMINALTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcFireSuppressionTerminalType\000"
     "IfcFireSuppressionTerminalType\000"
     "(PredefinedType <> IfcFireSuppressionTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFireSuppressionTerminalTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcFixedReferenceSweptAreaSolid\000"
     "DirectrixBounded\000"
     "(EXISTS(StartParam) AND EXISTS(EndParam)) OR (SIZEOF(['\001.IFCCONIC', '\001.IFCBOUNDEDCURVE'] * TYPEOF(Directrix)) = 1)\000"
+    "StartParam and EndParam are given, or Directrix is an IfcConic or IfcBoundedCurve\000"
     "IfcFlowInstrument\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcFlowInstrumentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFlowInstrumentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCFLOWINSTRUMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcFlowInstrumentType\000"
     "IfcFlowInstrumentType\000"
     "(PredefinedType <> IfcFlowInstrumentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFlowInstrumentTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcFlowMeter\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcFlowMeterTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFlowMeterTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCFLOWMETERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcFlowMeterType\000"
     "NOT EXISTS(PredefinedType) OR (PredefinedType <> IfcFootingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFootingTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCFOOTINGTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcFootingType\000"
     "IfcFootingType\000"
     "(PredefinedType <> IfcFootingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFootingTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcFurniture\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcFurnitureTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFurnitureTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCFURNITURETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcFurnitureType\000"
     "IfcFurnitureType\000"
     "(PredefinedType <> IfcFurnitureTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFurnitureTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcGeographicElement\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcGeographicElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcGeographicElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCGEOGRAPHICELEMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcGeographicElementType\000"
     "IfcGeographicElementType\000"
     "(PredefinedType <> IfcGeographicElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcGeographicElementTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "NoSurfaces\000"
     "North2D\000"
     "NOT(EXISTS(TrueNorth)) OR (HIINDEX(TrueNorth.DirectionRatios) = 2)\000"
+    "TrueNorth is not given, or TrueNorth.DirectionRatios has 2 members\000"
     "ParentNoSub\000"
     "UserTargetProvided\000"
     "NoCoordOperation\000"
     "SIZEOF(SELF\\IfcGeometricRepresentationContext.HasCoordinateOperation) = 0\000"
+    "HasCoordinateOperation is empty\000"
     "IFCCONVERTDIRECTIONINTO2D\000"
     "ConsistentDim\000"
     "HasPlacement\000"
@@ -4619,36 +5013,45 @@ constexpr Texts texts = {
     "IfcHeatExchanger\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcHeatExchangerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcHeatExchangerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCHEATEXCHANGERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcHeatExchangerType\000"
     "IfcHumidifier\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcHumidifierTypeEnum.USERDEFINED) OR ((PredefinedType = IfcHumidifierTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCHUMIDIFIERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcHumidifierType\000"
     "(2. * FlangeThickness) < OverallDepth\000"
+    "2 * FlangeThickness is below OverallDepth\000"
     "ValidFilletRadius\000"
     "IFCCONSECUTIVESEGMENTS\000"
     "IfcIndexedPolyCurve\000"
     "Consecutive\000"
     "(SIZEOF(Segments) = 0) OR IfcConsecutiveSegments(Segments)\000"
+    "Segments is empty, or each of Segments begins where the one before ends\000"
     "IfcIndexedPolygonalFace\000"
     "ToFaceSet\000"
     "SET [1:?] OF IfcPolygonalFaceSet FOR Faces\000"
     "IfcInterceptor\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcInterceptorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcInterceptorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCINTERCEPTORTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcInterceptorType\000"
     "IfcInterceptorType\000"
     "(PredefinedType <> IfcInterceptorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcInterceptorTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcIntersectionCurve\000"
     "TwoPCurves\000"
     "SIZEOF(SELF\\IfcSurfaceCurve.AssociatedGeometry) = 2\000"
+    "AssociatedGeometry has 2 members\000"
     "IFCASSOCIATEDSURFACE\000"
     "DistinctSurfaces\000"
     "IfcAssociatedSurface(SELF\\IfcSurfaceCurve.AssociatedGeometry[1]) <> IfcAssociatedSurface(SELF\\IfcSurfaceCurve.AssociatedGeometry[2])\000"
+    "the surface of AssociatedGeometry[1] is not the surface of AssociatedGeometry[2]\000"
     "IfcJunctionBox\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcJunctionBoxTypeEnum.USERDEFINED) OR ((PredefinedType = IfcJunctionBoxTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCJUNCTIONBOXTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcJunctionBoxType\000"
     "IfcJunctionBoxType\000"
     "(PredefinedType <> IfcJunctionBoxTypeEnum.USERDEFINED) OR ((PredefinedType = IfcJunctionBoxTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "ValidThickness\000"
     "(Thickness < Depth) AND (NOT(EXISTS(Width)) OR (Thickness < Width))\000"
+    "Thickness is below Depth, and either Width is not given or Thickness is below Width\000"
     "IfcLaborResource\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcLaborResourceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcLaborResourceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "IfcLaborResourceType\000"
@@ -4656,6 +5059,7 @@ constexpr Texts texts = {
     "IfcLamp\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcLampTypeEnum.USERDEFINED) OR ((PredefinedType = IfcLampTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCLAMPTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcLampType\000"
     "IfcLampType\000"
     "(PredefinedType <> IfcLampTypeEnum.USERDEFINED) OR ((PredefinedType = IfcLampTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcLibraryInformation\000"
@@ -4667,6 +5071,7 @@ constexpr Texts texts = {
     "IfcLightFixture\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcLightFixtureTypeEnum.USERDEFINED) OR ((PredefinedType = IfcLightFixtureTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCLIGHTFIXTURETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcLightFixtureType\000"
     "IfcLightFixtureType\000"
     "(PredefinedType <> IfcLightFixtureTypeEnum.USERDEFINED) OR ((PredefinedType = IfcLightFixtureTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "SET [0:?] OF IfcMaterialRelationship FOR RelatedMaterials\000"
@@ -4683,6 +5088,7 @@ constexpr Texts texts = {
     "OnlyStyledRepresentations\000"
     "NormalizedPriority\000"
     "NOT(EXISTS(Priority)) OR {0 <= Priority <= 100}\000"
+    "Priority is not given or from 0 to 100\000"
     "IfcMaterialProfile\000"
     "ToMaterialProfileSet\000"
     "IfcMaterialProfileSet FOR MaterialProfiles\000"
@@ -4691,27 +5097,32 @@ constexpr Texts texts = {
     "IfcMechanicalFastener\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcMechanicalFastenerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMechanicalFastenerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCMECHANICALFASTENERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcMechanicalFastenerType\000"
     "IfcMechanicalFastenerType\000"
     "(PredefinedType <> IfcMechanicalFastenerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMechanicalFastenerTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcMedicalDevice\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcMedicalDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMedicalDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCMEDICALDEVICETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcMedicalDeviceType\000"
     "IfcMedicalDeviceType\000"
     "(PredefinedType <> IfcMedicalDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMedicalDeviceTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcMember\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcMemberTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMemberTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCMEMBERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcMemberType\000"
     "IfcMemberStandardCase\000"
     "IfcMemberType\000"
     "(PredefinedType <> IfcMemberTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMemberTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcMotorConnection\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcMotorConnectionTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMotorConnectionTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCMOTORCONNECTIONTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcMotorConnectionType\000"
     "IfcMotorConnectionType\000"
     "(PredefinedType <> IfcMotorConnectionTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMotorConnectionTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IFCUNIQUEDEFINITIONNAMES\000"
     "UniquePropertySetNames\000"
     "((SIZEOF(IsDefinedBy) = 0) OR IfcUniqueDefinitionNames(IsDefinedBy))\000"
+    "IsDefinedBy is empty, or no two property sets of IsDefinedBy have the same name\000"
     "IsDeclaredBy\000"
     "SET [0:1] OF IfcRelDefinesByObject FOR RelatedObjects\000"
     "SET [0:?] OF IfcRelDefinesByObject FOR RelatingObject\000"
@@ -4731,38 +5142,49 @@ constexpr Texts texts = {
     "IfcOutlet\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcOutletTypeEnum.USERDEFINED) OR ((PredefinedType = IfcOutletTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCOUTLETTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcOutletType\000"
     "IfcOutletType\000"
     "(PredefinedType <> IfcOutletTypeEnum.USERDEFINED) OR ((PredefinedType = IfcOutletTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "NOCHANGE\000"
     "IfcOwnerHistory\000"
     "CorrectChangeAction\000"
     "(EXISTS(LastModifiedDate)) OR (NOT(EXISTS(LastModifiedDate)) AND NOT(EXISTS(ChangeAction))) OR (NOT(EXISTS(LastModifiedDate)) AND EXISTS(ChangeAction) AND ((ChangeAction = IfcChangeActionEnum.NOTDEFINED) OR (ChangeAction = IfcChangeActionEnum.NOCHANGE)))\000"
+    "LastModifiedDate is given, or ChangeAction is not given, NOTDEFINED or NOCHANGE\000"
     "IfcPcurve\000"
     "ReferenceCurve.Dim = 2\000"
+    "ReferenceCurve.Dim is 2\000"
     "IdentifiablePerson\000"
     "EXISTS(Identification) OR EXISTS(FamilyName) OR EXISTS(GivenName)\000"
+    "Identification, FamilyName or GivenName is given\000"
     "ValidSetOfNames\000"
     "NOT EXISTS(MiddleNames) OR EXISTS(FamilyName) OR EXISTS(GivenName)\000"
+    "MiddleNames is not given, or FamilyName or GivenName is given\000"
     "IfcUniqueQuantityNames(HasQuantities)\000"
+    "no two of HasQuantities have the same name\000"
     "NOT EXISTS(PredefinedType) OR (PredefinedType <> IfcPileTypeEnum.USERDEFINED) OR ((PredefinedType = IfcPileTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCPILETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcPileType\000"
     "IfcPileType\000"
     "(PredefinedType <> IfcPileTypeEnum.USERDEFINED) OR ((PredefinedType = IfcPileTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcPipeFitting\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcPipeFittingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcPipeFittingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCPIPEFITTINGTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcPipeFittingType\000"
     "IfcPipeSegment\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcPipeSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcPipeSegmentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCPIPESEGMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcPipeSegmentType\000"
     "MinPixelInS\000"
     "MinPixelInT\000"
     "NumberOfColours\000"
     "SizeOfPixelList\000"
     "PixelAsByteAndSameLength\000"
     "SIZEOF(QUERY(temp<* Pixel | (BLENGTH(temp) MOD 8 = 0) AND (BLENGTH(temp) = BLENGTH(Pixel[1])) )) = SIZEOF(Pixel)\000"
+    "for every temp of Pixel, the number of bits of temp is a multiple of 8 and the number of bits of Pixel[1]\000"
     "IfcPlate\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcPlateTypeEnum.USERDEFINED) OR ((PredefinedType = IfcPlateTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCPLATETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcPlateType\000"
     "IfcPlateStandardCase\000"
     "HasMaterialLayerSetUsage\000"
     "IfcPlateType\000"
@@ -4774,25 +5196,30 @@ constexpr Texts texts = {
     "IfcPresentationLayerAssignment\000"
     "ApplicableItems\000"
     "SIZEOF(QUERY(temp <* AssignedItems | ( SIZEOF(TYPEOF(temp) * [ '\001.IFCSHAPEREPRESENTATION', '\001.IFCGEOMETRICREPRESENTATIONITEM', '\001.IFCMAPPEDITEM']) = 1) )) = SIZEOF(AssignedItems)\000"
+    "every member of AssignedItems is an IfcShapeRepresentation, IfcGeometricRepresentationItem or IfcMappedItem\000"
     "IfcPresentationLayerWithStyle\000"
     "ApplicableOnlyToItems\000"
     "SIZEOF(QUERY(temp <* AssignedItems | ( SIZEOF(TYPEOF(temp) * [ '\001.IFCGEOMETRICREPRESENTATIONITEM', '\001.IFCMAPPEDITEM']) = 1) )) = SIZEOF(AssignedItems)\000"
+    "every member of AssignedItems is an IfcGeometricRepresentationItem or IfcMappedItem\000"
     "HasName\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcProcedureTypeEnum.USERDEFINED) OR ((PredefinedType = IfcProcedureTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcObject.ObjectType))\000"
     "IfcProcedureType\000"
     "(PredefinedType <> IfcProcedureTypeEnum.USERDEFINED) OR ((PredefinedType = IfcProcedureTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcTypeProcess.ProcessType))\000"
     "PlacementForShapeRepresentation\000"
     "(EXISTS(Representation) AND EXISTS(ObjectPlacement)) OR (EXISTS(Representation) AND (SIZEOF(QUERY(temp <* Representation.Representations | '\001.IFCSHAPEREPRESENTATION' IN TYPEOF(temp))) = 0)) OR (NOT(EXISTS(Representation)))\000"
+    "ObjectPlacement is given, or no member of Representation.Representations is an IfcShapeRepresentation, or Representation is not given\000"
     "OnlyShapeModel\000"
     "SET [1:?] OF IfcProduct FOR Representation\000"
     "IfcProfileDef\000"
     "SET [0:?] OF IfcProfileProperties FOR ProfileDefinition\000"
     "CorrectContext\000"
     "NOT(EXISTS(SELF\\IfcContext.RepresentationContexts)) OR (SIZEOF(QUERY(Temp <* SELF\\IfcContext.RepresentationContexts | '\001.IFCGEOMETRICREPRESENTATIONSUBCONTEXT' IN TYPEOF(Temp) )) = 0)\000"
+    "RepresentationContexts is not given, or no member of RepresentationContexts is an IfcGeometricRepresentationSubContext\000"
     "NoDecomposition\000"
     "IfcProjectedCRS\000"
     "IsLengthUnit\000"
     "NOT(EXISTS(MapUnit)) OR (MapUnit.UnitType = IfcUnitEnum.LENGTHUNIT)\000"
+    "MapUnit is not given, or MapUnit.UnitType is LENGTHUNIT\000"
     "PartOfPset\000"
     "SET [0:?] OF IfcPropertySet FOR HasProperties\000"
     "SET [0:?] OF IfcComplexProperty FOR HasProperties\000"
@@ -4804,9 +5231,12 @@ constexpr Texts texts = {
     "SameUnitUpperLower\000"
     "SameUnitUpperSet\000"
     "NOT(EXISTS(UpperBoundValue)) OR NOT(EXISTS(SetPointValue)) OR (TYPEOF(UpperBoundValue) = TYPEOF(SetPointValue))\000"
+    "UpperBoundValue is not given or of the same type as SetPointValue, or SetPointValue is not given\000"
     "SameUnitLowerSet\000"
     "NOT(EXISTS(LowerBoundValue)) OR NOT(EXISTS(SetPointValue)) OR (TYPEOF(LowerBoundValue) = TYPEOF(SetPointValue))\000"
+    "LowerBoundValue is not given or of the same type as SetPointValue, or SetPointValue is not given\000"
     "NOT(EXISTS(EnumerationReference)) OR NOT(EXISTS(EnumerationValues)) OR (SIZEOF(QUERY(temp <* EnumerationValues | temp IN EnumerationReference.EnumerationValues)) = SIZEOF(EnumerationValues))\000"
+    "EnumerationReference or EnumerationValues is not given, or every member of EnumerationValues is a member of EnumerationReference.EnumerationValues\000"
     "ExistsName\000"
     "SET [0:?] OF IfcTypeObject FOR HasPropertySets\000"
     "SET [0:?] OF IfcRelDefinesByTemplate FOR RelatedPropertySets\000"
@@ -4816,8 +5246,11 @@ constexpr Texts texts = {
     "Defines\000"
     "SET [0:?] OF IfcRelDefinesByTemplate FOR RelatingTemplate\000"
     "(NOT(EXISTS(DefiningValues)) AND NOT(EXISTS(DefinedValues))) OR (SIZEOF(DefiningValues) = SIZEOF(DefinedValues))\000"
+    "neither DefiningValues nor DefinedValues is given, or DefiningValues has as many members as DefinedValues\000"
     "NOT(EXISTS(DefiningValues)) OR (SIZEOF(QUERY(temp <* SELF.DefiningValues | TYPEOF(temp) <> TYPEOF(SELF.DefiningValues[1]) )) = 0)\000"
+    "DefiningValues is not given, or every member of DefiningValues is of the same type as DefiningValues[1]\000"
     "NOT(EXISTS(DefinedValues)) OR (SIZEOF(QUERY(temp <* SELF.DefinedValues | TYPEOF(temp) <> TYPEOF(SELF.DefinedValues[1]) )) = 0)\000"
+    "DefinedValues is not given, or every member of DefinedValues is of the same type as DefinedValues[1]\000"
     "IfcPropertyTemplate\000"
     "PartOfComplexTemplate\000"
     "SET [0:?] OF IfcComplexPropertyTemplate FOR HasPropertyTemplates\000"
@@ -4826,9 +5259,11 @@ constexpr Texts texts = {
     "IfcProtectiveDevice\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcProtectiveDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcProtectiveDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCPROTECTIVEDEVICETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcProtectiveDeviceType\000"
     "IfcProtectiveDeviceTrippingUnit\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcProtectiveDeviceTrippingUnitTypeEnum.USERDEFINED) OR ((PredefinedType = IfcProtectiveDeviceTrippingUnitTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCPROTECTIVEDEVICETRIPPINGUNITTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcProtectiveDeviceTrippingUnitType\000"
     "IfcProtectiveDeviceTrippingUnitType\000"
     "(PredefinedType <> IfcProtectiveDeviceTrippingUnitTypeEnum.USERDEFINED) OR ((PredefinedType = IfcProtectiveDeviceTrippingUnitTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcProtectiveDeviceType\000"
@@ -4836,14 +5271,18 @@ constexpr Texts texts = {
     "IfcPump\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcPumpTypeEnum.USERDEFINED) OR ((PredefinedType = IfcPumpTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCPUMPTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcPumpType\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCRAILINGTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcRailingType\000"
     "IfcRailingType\000"
     "(PredefinedType <> IfcRailingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcRailingTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcRampTypeEnum.USERDEFINED) OR ((PredefinedType = IfcRampTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCRAMPTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcRampType\000"
     "IfcRampFlight\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcRampFlightTypeEnum.USERDEFINED) OR ((PredefinedType = IfcRampFlightTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCRAMPFLIGHTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcRampFlightType\000"
     "IfcRampFlightType\000"
     "(PredefinedType <> IfcRampFlightTypeEnum.USERDEFINED) OR ((PredefinedType = IfcRampFlightTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcRampType\000"
@@ -4854,6 +5293,7 @@ constexpr Texts texts = {
     "IfcRationalBSplineSurfaceWithKnots\000"
     "CorrespondingWeightsDataLists\000"
     "(SIZEOF(WeightsData) = SIZEOF(SELF\\IfcBSplineSurface.ControlPointsList)) AND (SIZEOF(WeightsData[1]) = SIZEOF(SELF\\IfcBSplineSurface.ControlPointsList[1]))\000"
+    "WeightsData has as many members as ControlPointsList, and WeightsData[1] has as many members as ControlPointsList[1]\000"
     "IFCSURFACEWEIGHTSPOSITIVE\000"
     "WeightValuesGreaterZero\000"
     "IfcSurfaceWeightsPositive(SELF)\000"
@@ -4865,40 +5305,52 @@ constexpr Texts texts = {
     "VsenseCompatible\000"
     "NOT EXISTS(PredefinedType) OR (PredefinedType <> IfcReinforcingBarTypeEnum.USERDEFINED) OR ((PredefinedType = IfcReinforcingBarTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCREINFORCINGBARTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcReinforcingBarType\000"
     "IfcReinforcingBarType\000"
     "(PredefinedType <> IfcReinforcingBarTypeEnum.USERDEFINED) OR ((PredefinedType = IfcReinforcingBarTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "BendingShapeCodeProvided\000"
     "NOT EXISTS(BendingParameters) OR EXISTS(BendingShapeCode)\000"
-    "IfcReinforcingMesh\000"
+    "BendingParameters is not given, or BendingShapeCode is given\000"
+    "IfcReinforcingMesh",
     "NOT EXISTS(PredefinedType) OR (PredefinedType <> IfcReinforcingMeshTypeEnum.USERDEFINED) OR ((PredefinedType = IfcReinforcingMeshTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCREINFORCINGMESHTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcReinforcingMeshType\000"
     "IfcReinforcingMeshType\000"
     "(PredefinedType <> IfcReinforcingMeshTypeEnum.USERDEFINED) OR ((PredefinedType = IfcReinforcingMeshTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcRelAggregates\000"
     "NoVoidElement\000"
     "AllowedElements\000"
     "SIZEOF(QUERY(temp <* SELF\\IfcRelAssociates.RelatedObjects | ( SIZEOF(TYPEOF(temp) * [ '\001.IFCELEMENT', '\001.IFCELEMENTTYPE', '\001.IFCWINDOWSTYLE', '\001.IFCDOORSTYLE', '\001.IFCSTRUCTURALMEMBER', '\001.IFCPORT']) = 0) )) = 0\000"
+    "every member of RelatedObjects is an IfcElement, IfcElementType, IfcWindowStyle, IfcDoorStyle, IfcStructuralMember or IfcPort\000"
     "IfcRelConnectsPathElements\000"
     "NormalizedRelatingPriorities\000"
     "(SIZEOF(RelatingPriorities) = 0) OR (SIZEOF (QUERY (temp <* RelatingPriorities | {0 <= temp <= 100} )) = SIZEOF(RelatingPriorities))\000"
+    "RelatingPriorities is empty, or every member of RelatingPriorities is from 0 to 100\000"
     "NormalizedRelatedPriorities\000"
     "(SIZEOF(RelatedPriorities) = 0) OR (SIZEOF (QUERY (temp <* RelatedPriorities | {0 <= temp <= 100} )) = SIZEOF(RelatedPriorities))\000"
+    "RelatedPriorities is empty, or every member of RelatedPriorities is from 0 to 100\000"
     "IfcRelConnectsPorts\000"
     "RelatingPort :<>: RelatedPort\000"
+    "RelatingPort is another instance than RelatedPort\000"
     "IfcRelDeclares\000"
     "SIZEOF(QUERY(Temp <* RelatedDefinitions | RelatingContext :=: Temp)) = 0\000"
+    "every member of RelatedDefinitions is another instance than RelatingContext\000"
     "IfcRelDefinesByProperties\000"
     "NoRelatedTypeObject\000"
     "SIZEOF(QUERY(Types <* SELF\\IfcRelDefinesByProperties.RelatedObjects | '\001.IFCTYPEOBJECT' IN TYPEOF(Types))) = 0\000"
+    "no member of RelatedObjects is an IfcTypeObject\000"
     "IfcRelInterferesElements\000"
     "NotSelfReference\000"
     "AllowedRelatedElements\000"
     "SIZEOF(QUERY(temp <* RelatedElements | ('\001.IFCSPATIALSTRUCTUREELEMENT' IN TYPEOF(temp)) AND (NOT ('\001.IFCSPACE' IN TYPEOF(temp))) )) = 0\000"
+    "no member of RelatedElements is an IfcSpatialStructureElement and not an IfcSpace\000"
     "AvoidInconsistentSequence\000"
     "CorrectSequenceType\000"
     "(SequenceType <> IfcSequenceEnum.USERDEFINED) OR ((SequenceType = IfcSequenceEnum.USERDEFINED) AND EXISTS(UserDefinedSequenceType))\000"
+    "SequenceType is not USERDEFINED, or UserDefinedSequenceType is given\000"
     "CorrectPhysOrVirt\000"
     "((PhysicalOrVirtualBoundary = IfcPhysicalOrVirtualEnum.Physical) AND (NOT('\001.IFCVIRTUALELEMENT' IN TYPEOF(RelatedBuildingElement)))) OR ((PhysicalOrVirtualBoundary = IfcPhysicalOrVirtualEnum.Virtual) AND (('\001.IFCVIRTUALELEMENT' IN TYPEOF(RelatedBuildingElement)) OR ('\001.IFCOPENINGELEMENT' IN TYPEOF(RelatedBuildingElement)))) OR (PhysicalOrVirtualBoundary = IfcPhysicalOrVirtualEnum.NotDefined)\000"
+    "PhysicalOrVirtualBoundary is Physical and RelatedBuildingElement is not an IfcVirtualElement, or PhysicalOrVirtualBoundary is Virtual and RelatedBuildingElement is an IfcVirtualElement or an IfcOpeningElement, or PhysicalOrVirtualBoundary is NotDefined\000"
     "IfcRelSpaceBoundary1stLevel\000"
     "InnerBoundaries\000"
     "SET [0:?] OF IfcRelSpaceBoundary1stLevel FOR ParentBoundary\000"
@@ -4908,48 +5360,58 @@ constexpr Texts texts = {
     "IfcReparametrisedCompositeCurveSegment\000"
     "PositiveLengthParameter\000"
     "ParamLength > 0.0\000"
+    "ParamLength is above 0\000"
     "SET [0:?] OF IfcProductRepresentation FOR Representations\000"
     "LayerAssignment\000"
     "SET [0:1] OF IfcPresentationLayerAssignment FOR AssignedItems\000"
     "ApplicableMappedRepr\000"
     "'\001.IFCSHAPEMODEL' IN TYPEOF(MappedRepresentation)\000"
+    "MappedRepresentation is an IfcShapeModel\000"
     "AxisStartInXY\000"
     "AxisDirectionInXY\000"
     "IfcRevolvedAreaSolidTapered\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcRoofTypeEnum.USERDEFINED) OR ((PredefinedType = IfcRoofTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCROOFTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcRoofType\000"
     "IfcRoofType\000"
     "(PredefinedType <> IfcRoofTypeEnum.USERDEFINED) OR ((PredefinedType = IfcRoofTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "ValidRadius\000"
     "IfcSanitaryTerminal\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcSanitaryTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSanitaryTerminalTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSANITARYTERMINALTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcSanitaryTerminalType\000"
     "IfcSanitaryTerminalType\000"
     "(PredefinedType <> IfcSanitaryTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSanitaryTerminalTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcSeamCurve\000"
     "IfcAssociatedSurface(SELF\\IfcSurfaceCurve.AssociatedGeometry[1]) = IfcAssociatedSurface(SELF\\IfcSurfaceCurve.AssociatedGeometry[2])\000"
+    "the surface of AssociatedGeometry[1] is the surface of AssociatedGeometry[2]\000"
     "CorrespondingSectionPositions\000"
     "ConsistentProfileTypes\000"
     "SpineCurveDim\000"
     "IfcSensor\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcSensorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSensorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSENSORTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcSensorType\000"
     "IfcSensorType\000"
     "(PredefinedType <> IfcSensorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSensorTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcShadingDevice\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcShadingDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcShadingDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSHADINGDEVICETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcShadingDeviceType\000"
     "IfcShadingDeviceType\000"
     "(PredefinedType <> IfcShadingDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcShadingDeviceTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "NoTopologicalItem\000"
     "HasRepresentationType\000"
     "HasRepresentationIdentifier\000"
     "EXISTS(SELF\\IfcRepresentation.RepresentationIdentifier)\000"
+    "RepresentationIdentifier is given\000"
     "CorrectItemsForType\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSLABTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcSlabType\000"
     "IfcSlabElementedCase\000"
     "HasDecomposition\000"
     "HIINDEX(SELF\\IfcObjectDefinition.IsDecomposedBy) > 0\000"
+    "IsDecomposedBy is not empty\000"
     "IfcSlabStandardCase\000"
     "HasMaterialLayerSetusage\000"
     "IfcSlabType\000"
@@ -4957,32 +5419,39 @@ constexpr Texts texts = {
     "IfcSolarDevice\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcSolarDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSolarDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSOLARDEVICETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcSolarDeviceType\000"
     "IfcSolarDeviceType\000"
     "(PredefinedType <> IfcSolarDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSolarDeviceTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcSpaceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSpaceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSPACETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcSpaceType\000"
     "SET [0:?] OF IfcRelCoversSpaces FOR RelatingSpace\000"
     "IfcSpaceHeater\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcSpaceHeaterTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSpaceHeaterTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSPACEHEATERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcSpaceHeaterType\000"
     "IfcSpaceType\000"
     "(PredefinedType <> IfcSpaceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSpaceTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcSpatialElementType.ElementType))\000"
     "IfcSpatialElement\000"
     "IfcSpatialZone\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcSpatialZoneTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSpatialZoneTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSPATIALZONETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcSpatialZoneType\000"
     "IfcSpatialZoneType\000"
     "(PredefinedType <> IfcSpatialZoneTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSpatialZoneTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcSpatialElementType.ElementType))\000"
     "IfcStackTerminal\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcStackTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcStackTerminalTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSTACKTERMINALTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcStackTerminalType\000"
     "IfcStackTerminalType\000"
     "(PredefinedType <> IfcStackTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcStackTerminalTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcStairTypeEnum.USERDEFINED) OR ((PredefinedType = IfcStairTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSTAIRTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcStairType\000"
     "IfcStairFlight\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcStairFlightTypeEnum.USERDEFINED) OR ((PredefinedType = IfcStairFlightTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSTAIRFLIGHTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcStairFlightType\000"
     "IfcStairFlightType\000"
     "(PredefinedType <> IfcStairFlightTypeEnum.USERDEFINED) OR ((PredefinedType = IfcStairFlightTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcStairType\000"
@@ -4996,30 +5465,38 @@ constexpr Texts texts = {
     "IfcStructuralCurveAction\000"
     "ProjectedIsGlobal\000"
     "(NOT EXISTS(ProjectedOrTrue)) OR ((ProjectedOrTrue <> PROJECTED_LENGTH) OR (SELF\\IfcStructuralActivity.GlobalOrLocal = GLOBAL_COORDS))\000"
+    "ProjectedOrTrue is not given or not PROJECTED_LENGTH, or GlobalOrLocal is GLOBAL_COORDS\000"
     "(PredefinedType <> IfcStructuralCurveActivityTypeEnum.USERDEFINED) OR EXISTS(SELF\\IfcObject.ObjectType)\000"
     "EQUIDISTANT\000"
     "SuitablePredefinedType\000"
     "PredefinedType <> IfcStructuralCurveActivityTypeEnum.EQUIDISTANT\000"
+    "PredefinedType is not EQUIDISTANT\000"
     "IfcStructuralCurveMember\000"
     "(PredefinedType <> IfcStructuralCurveMemberTypeEnum.USERDEFINED) OR EXISTS(SELF\\IfcObject.ObjectType)\000"
     "IfcStructuralCurveReaction\000"
     "SINUS\000"
     "PARABOLA\000"
     "(PredefinedType <> IfcStructuralCurveActivityTypeEnum.SINUS) AND (PredefinedType <> IfcStructuralCurveActivityTypeEnum.PARABOLA)\000"
+    "PredefinedType is not SINUS and not PARABOLA\000"
     "SuitableLoadType\000"
     "CONST\000"
     "ConstPredefinedType\000"
     "SELF\\IfcStructuralCurveAction.PredefinedType = IfcStructuralCurveActivityTypeEnum.CONST\000"
+    "PredefinedType is CONST\000"
     "LOAD_CASE\000"
     "IfcStructuralLoadCase\000"
     "IsLoadCasePredefinedType\000"
     "SELF\\IfcStructuralLoadGroup.PredefinedType = IfcLoadGroupTypeEnum.LOAD_CASE\000"
+    "PredefinedType is LOAD_CASE\000"
     "IfcStructuralLoadConfiguration\000"
     "ValidListSize\000"
     "NOT EXISTS(Locations) OR (SIZEOF(Locations) = SIZEOF(Values))\000"
+    "Locations is not given or has as many members as Values\000"
     "( (PredefinedType <> IfcLoadGroupTypeEnum.USERDEFINED) AND (ActionType <> IfcActionTypeEnum.USERDEFINED) AND (ActionSource <> IfcActionSourceTypeEnum.USERDEFINED) ) OR EXISTS(SELF\\IfcObject.ObjectType)\000"
+    "neither PredefinedType, ActionType nor ActionSource is USERDEFINED, or ObjectType is given\000"
     "SELF\\IfcStructuralSurfaceAction.PredefinedType = IfcStructuralSurfaceActivityTypeEnum.CONST\000"
     "(TheoryType <> IfcAnalysisTheoryTypeEnum.USERDEFINED) OR EXISTS(SELF\\IfcObject.ObjectType)\000"
+    "TheoryType is not USERDEFINED, or ObjectType is given\000"
     "IfcStructuralSurfaceAction\000"
     "(PredefinedType <> IfcStructuralSurfaceActivityTypeEnum.USERDEFINED) OR EXISTS(SELF\\IfcObject.ObjectType)\000"
     "IfcStructuralSurfaceMember\000"
@@ -5035,8 +5512,10 @@ constexpr Texts texts = {
     "IfcSurfaceCurve\000"
     "CurveIs3D\000"
     "Curve3D.Dim = 3\000"
+    "Curve3D.Dim is 3\000"
     "CurveIsNotPcurve\000"
     "NOT ('\001.IFCPCURVE' IN TYPEOF(Curve3D))\000"
+    "Curve3D is not an IfcPcurve\000"
     "IfcSurfaceCurveSweptAreaSolid\000"
     "IfcSurfaceFeature\000"
     "NOT EXISTS(PredefinedType) OR (PredefinedType <> IfcSurfaceFeatureTypeEnum.USERDEFINED) OR EXISTS(SELF\\IfcObject.ObjectType)\000"
@@ -5044,12 +5523,16 @@ constexpr Texts texts = {
     "IfcSurfaceReinforcementArea\000"
     "SurfaceAndOrShearAreaSpecified\000"
     "EXISTS(SurfaceReinforcement1) OR EXISTS(SurfaceReinforcement2) OR EXISTS(ShearReinforcement)\000"
+    "SurfaceReinforcement1, SurfaceReinforcement2 or ShearReinforcement is given\000"
     "NonnegativeArea1\000"
     "(NOT EXISTS(SurfaceReinforcement1)) OR ( (SurfaceReinforcement1[1] >= 0.) AND (SurfaceReinforcement1[2] >= 0.) AND ((SIZEOF(SurfaceReinforcement1) = 1) OR (SurfaceReinforcement1[1] >= 0.)) )\000"
+    "SurfaceReinforcement1 is not given, or SurfaceReinforcement1[1] and SurfaceReinforcement1[2] are at least 0 and (SurfaceReinforcement1 has 1 member or SurfaceReinforcement1[1] is at least 0)\000"
     "NonnegativeArea2\000"
     "(NOT EXISTS(SurfaceReinforcement2)) OR ( (SurfaceReinforcement2[1] >= 0.) AND (SurfaceReinforcement2[2] >= 0.) AND ((SIZEOF(SurfaceReinforcement2) = 1) OR (SurfaceReinforcement2[1] >= 0.)) )\000"
+    "SurfaceReinforcement2 is not given, or SurfaceReinforcement2[1] and SurfaceReinforcement2[2] are at least 0 and (SurfaceReinforcement2 has 1 member or SurfaceReinforcement2[1] is at least 0)\000"
     "NonnegativeArea3\000"
     "(NOT EXISTS(ShearReinforcement)) OR (ShearReinforcement >= 0.)\000"
+    "ShearReinforcement is not given or at least 0\000"
     "MaxOneShading\000"
     "MaxOneLighting\000"
     "MaxOneRefraction\000"
@@ -5066,32 +5549,40 @@ constexpr Texts texts = {
     "IfcSweptDiskSolidPolygonal\000"
     "CorrectRadii\000"
     "NOT(EXISTS(FilletRadius)) OR (FilletRadius >= SELF\\IfcSweptDiskSolid.Radius)\000"
+    "FilletRadius is not given or at least Radius\000"
     "DirectrixIsPolyline\000"
     "('\001.IFCPOLYLINE' IN TYPEOF(SELF\\IfcSweptDiskSolid.Directrix)) OR (('\001.IFCINDEXEDPOLYCURVE' IN TYPEOF(SELF\\IfcSweptDiskSolid.Directrix)) AND NOT(EXISTS(SELF\\IfcSweptDiskSolid.Directrix.Segments)))\000"
+    "Directrix is an IfcPolyline, or Directrix is an IfcIndexedPolyCurve and Directrix.Segments is not given\000"
     "SweptCurveType\000"
     "IfcSwitchingDevice\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcSwitchingDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSwitchingDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSWITCHINGDEVICETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcSwitchingDeviceType\000"
     "IfcSwitchingDeviceType\000"
     "(PredefinedType <> IfcSwitchingDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSwitchingDeviceTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcSystemFurnitureElement\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcSystemFurnitureElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSystemFurnitureElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSYSTEMFURNITUREELEMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcSystemFurnitureElementType\000"
     "IfcSystemFurnitureElementType\000"
     "(PredefinedType <> IfcSystemFurnitureElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSystemFurnitureElementTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcTank\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcTankTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTankTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCTANKTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcTankType\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcTaskTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTaskTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcObject.ObjectType))\000"
     "IfcTaskType\000"
     "(PredefinedType <> IfcTaskTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTaskTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcTypeProcess.ProcessType))\000"
     "MinimumDataProvided\000"
     "EXISTS (TelephoneNumbers) OR EXISTS (FacsimileNumbers) OR EXISTS (PagerNumber) OR EXISTS (ElectronicMailAddresses) OR EXISTS (WWWHomePageURL) OR EXISTS (MessagingIDs)\000"
+    "TelephoneNumbers, FacsimileNumbers, PagerNumber, ElectronicMailAddresses, WWWHomePageURL or MessagingIDs is given\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcTendonTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTendonTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCTENDONTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcTendonType\000"
     "IfcTendonAnchor\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcTendonAnchorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTendonAnchorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCTENDONANCHORTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcTendonAnchorType\000"
     "IfcTendonAnchorType\000"
     "(PredefinedType <> IfcTendonAnchorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTendonAnchorTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcTendonType\000"
@@ -5106,15 +5597,18 @@ constexpr Texts texts = {
     "IfcToroidalSurface\000"
     "MajorLargerMinor\000"
     "MinorRadius < MajorRadius\000"
+    "MinorRadius is below MajorRadius\000"
     "IfcTransformer\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcTransformerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTransformerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "IFC4.IFCTRANFORMERTYPE\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCTRANFORMERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IFCTRANFORMERTYPE\000"
     "IfcTransformerType\000"
     "(PredefinedType <> IfcTransformerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTransformerTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcTransportElement\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcTransportElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTransportElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCTRANSPORTELEMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcTransportElementType\000"
     "IfcTransportElementType\000"
     "(PredefinedType <> IfcTransportElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTransportElementTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "Trim1ValuesConsistent\000"
@@ -5123,44 +5617,55 @@ constexpr Texts texts = {
     "IfcTubeBundle\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcTubeBundleTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTubeBundleTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCTUBEBUNDLETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcTubeBundleType\000"
     "NameRequired\000"
     "IFCUNIQUEPROPERTYSETNAMES\000"
     "(NOT(EXISTS(HasPropertySets))) OR IfcUniquePropertySetNames(HasPropertySets)\000"
+    "HasPropertySets is not given, or no two property sets of HasPropertySets have the same name\000"
     "Types\000"
     "IfcTypeProcess\000"
     "ApplicableOccurrence\000"
     "NOT(EXISTS(SELF\\IfcTypeObject.Types[1])) OR (SIZEOF(QUERY(temp <* SELF\\IfcTypeObject.Types[1].RelatedObjects | NOT('\001.IFCPRODUCT' IN TYPEOF(temp))) ) = 0)\000"
+    "Types[1] is not given, or every member of Types[1].RelatedObjects is an IfcProduct\000"
     "IfcTypeResource\000"
     "IfcUnitaryControlElement\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcUnitaryControlElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcUnitaryControlElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCUNITARYCONTROLELEMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcUnitaryControlElementType\000"
     "IfcUnitaryControlElementType\000"
     "(PredefinedType <> IfcUnitaryControlElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcUnitaryControlElementTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcUnitaryEquipment\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcUnitaryEquipmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcUnitaryEquipmentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCUNITARYEQUIPMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcUnitaryEquipmentType\000"
     "IfcValve\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcValveTypeEnum.USERDEFINED) OR ((PredefinedType = IfcValveTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCVALVETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcValveType\000"
     "MagGreaterOrEqualZero\000"
     "IfcVibrationIsolator\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcVibrationIsolatorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcVibrationIsolatorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCVIBRATIONISOLATORTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcVibrationIsolatorType\000"
     "IfcVoidingFeature\000"
     "NOT EXISTS(PredefinedType) OR (PredefinedType <> IfcVoidingFeatureTypeEnum.USERDEFINED) OR EXISTS(SELF\\IfcObject.ObjectType)\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcWallTypeEnum.USERDEFINED) OR ((PredefinedType = IfcWallTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCWALLTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcWallType\000"
     "IfcWallElementedCase\000"
     "IfcWallType\000"
     "(PredefinedType <> IfcWallTypeEnum.USERDEFINED) OR ((PredefinedType = IfcWallTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcWasteTerminal\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcWasteTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcWasteTerminalTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCWASTETERMINALTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcWasteTerminalType\000"
     "IfcWasteTerminalType\000"
     "(PredefinedType <> IfcWasteTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcWasteTerminalTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcWindow\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCWINDOWTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcWindowType\000"
     "(EXISTS(SELF\\IfcPropertySetDefinition.DefinesType[1])) AND ( ('\001.IFCWINDOWTYPE' IN TYPEOF(SELF\\IfcPropertySetDefinition.DefinesType[1])) OR ('\001.IFCWINDOWSTYLE' IN TYPEOF(SELF\\IfcPropertySetDefinition.DefinesType[1])) )\000"
+    "DefinesType[1] is given, and DefinesType[1] is an IfcWindowType or an IfcWindowStyle\000"
     "IfcWindowPanelProperties\000"
     "IfcWindowType\000"
     "(PredefinedType <> IfcWindowTypeEnum.USERDEFINED) OR ((PredefinedType = IfcWindowTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
@@ -5171,6 +5676,7 @@ constexpr Texts texts = {
     "IfcWorkSchedule\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcWorkScheduleTypeEnum.USERDEFINED) OR ((PredefinedType = IfcWorkScheduleTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(SELF\\IfcGroup.IsGroupedBy) = 0) OR (SIZEOF (QUERY (temp <* SELF\\IfcGroup.IsGroupedBy[1].RelatedObjects | NOT(('\001.IFCZONE' IN TYPEOF(temp)) OR ('\001.IFCSPACE' IN TYPEOF(temp)) OR ('\001.IFCSPATIALZONE' IN TYPEOF(temp)) ))) = 0)\000"
+    "IsGroupedBy is empty, or every member of IsGroupedBy[1].RelatedObjects is an IfcZone, an IfcSpace or an IfcSpatialZone\000"
     "Point\000"
     "PointCloud\000"
     "Curve\000"
@@ -5205,17 +5711,21 @@ constexpr Texts texts = {
     "DirectrixIs3D\000"
     "SectionsSameType\000"
     "SIZEOF(QUERY(temp <* CrossSections | TYPEOF(CrossSections[1]) :<>: TYPEOF(temp))) = 0\000"
+    "every member of CrossSections is of the same type as CrossSections[1]\000"
     "IfcSectionedSolidHorizontal\000"
     "NoLongitudinalOffsets\000"
     "SIZEOF(QUERY(temp <* CrossSectionPositions | EXISTS(temp.OffsetLongitudinal))) = 0\000"
+    "OffsetLongitudinal of every member of CrossSectionPositions is not given\000"
     "IfcShapeAspect\000"
     "IFC4X1.IFCTRANFORMERTYPE\000"
     "IfcTriangulatedIrregularNetwork\000"
     "NotClosed\000"
     "SELF\\IfcTriangulatedFaceSet.Closed = FALSE\000"
+    "Closed is FALSE\000"
     "IfcBearing\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcBearingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBearingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCBEARINGTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcBearingType\000"
     "IfcBearingType\000"
     "(PredefinedType <> IfcBearingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBearingTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IFC4X2.IFCSWEPTDISCSOLID\000"
@@ -5225,10 +5735,12 @@ constexpr Texts texts = {
     "IfcCaissonFoundation\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCaissonFoundationTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCaissonFoundationTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCAISSONFOUNDATIONTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCaissonFoundationType\000"
     "IfcCaissonFoundationType\000"
     "(PredefinedType <> IfcCaissonFoundationTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCaissonFoundationTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IfcDeepFoundation\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCDEEPFOUNDATIONTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcDeepFoundationType\000"
     "Positions\000"
     "SET [0:?] OF IfcRelPositions FOR RelatingPositioningElement\000"
     "IFC4X2.IfcGeometricRepresentationItem\000"
@@ -5237,15 +5749,18 @@ constexpr Texts texts = {
     "SET [0:1] OF IfcRelPositions FOR RelatedProducts\000"
     "IfcRelPositions\000"
     "SIZEOF(QUERY(temp <* RelatedProducts | RelatingPositioningElement :=: temp)) = 0\000"
+    "every member of RelatedProducts is another instance than RelatingPositioningElement\000"
     "IfcTendonConduit\000"
     "NOT EXISTS(PredefinedType) OR (PredefinedType <> IfcTendonConduitTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTendonConduitTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCTENDONCONDUITTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcTendonConduitType\000"
     "IfcTendonConduitType\000"
     "(PredefinedType <> IfcTendonConduitTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTendonConduitTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "IFC4X2.IFCTRANFORMERTYPE\000"
     "IfcVibrationDamper\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcVibrationDamperTypeEnum.USERDEFINED) OR ((PredefinedType = IfcVibrationDamperTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCVIBRATIONDAMPERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcVibrationDamperType\000"
     "IfcVibrationDamperType\000"
     "(PredefinedType <> IfcVibrationDamperTypeEnum.USERDEFINED) OR ((PredefinedType = IfcVibrationDamperTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcActuatorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcActuatorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5256,8 +5771,10 @@ constexpr Texts texts = {
     "(PredefinedType <> IfcAudioVisualApplianceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcAudioVisualApplianceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "LocationIsCP\000"
     "'\001.IFCCARTESIANPOINT' IN TYPEOF(SELF\\IfcPlacement.Location)\000"
+    "Location is an IfcCartesianPoint\000"
     "IfcAxis2PlacementLinear\000"
     "'\001.IFCPOINTBYDISTANCEEXPRESSION' IN TYPEOF(SELF\\IfcPlacement.Location)\000"
+    "Location is an IfcPointByDistanceExpression\000"
     "(PredefinedType <> IfcBeamTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBeamTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcBearingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBearingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcBoilerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBoilerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5275,7 +5792,7 @@ constexpr Texts texts = {
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcBuiltSystemTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBuiltSystemTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(PredefinedType <> IfcBurnerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcBurnerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcCableCarrierFittingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableCarrierFittingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
-    "(PredefinedType <> IfcCableCarrierSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableCarrierSegmentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))",
+    "(PredefinedType <> IfcCableCarrierSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableCarrierSegmentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcCableFittingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableFittingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcCableSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCableSegmentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcCaissonFoundationTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCaissonFoundationTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5290,17 +5807,20 @@ constexpr Texts texts = {
     "IfcConveyorSegment\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcConveyorSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcConveyorSegmentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCONVEYORSEGMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcConveyorSegmentType\000"
     "IfcConveyorSegmentType\000"
     "(PredefinedType <> IfcConveyorSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcConveyorSegmentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcCooledBeamTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCooledBeamTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcCoolingTowerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCoolingTowerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "NameOrWKT\000"
     "(HIINDEX(WellKnownText) = 1) OR EXISTS(Name)\000"
+    "WellKnownText has 1 member, or Name is given\000"
     "WellKnownText\000"
     "SET [0:1] OF IfcWellKnownText FOR CoordinateReferenceSystem\000"
     "IfcCourse\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcCourseTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCourseTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCCOURSETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcCourseType\000"
     "IfcCourseType\000"
     "(PredefinedType <> IfcCourseTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCourseTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcCoveringTypeEnum.USERDEFINED) OR ((PredefinedType = IfcCoveringTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5311,6 +5831,7 @@ constexpr Texts texts = {
     "IfcDistributionBoard\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcDistributionBoardTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDistributionBoardTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCDISTRIBUTIONBOARDTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcDistributionBoardType\000"
     "IfcDistributionBoardType\000"
     "(PredefinedType <> IfcDistributionBoardTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDistributionBoardTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcDistributionChamberElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDistributionChamberElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5318,6 +5839,7 @@ constexpr Texts texts = {
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcDistributionSystemEnum.USERDEFINED) OR ((PredefinedType = IfcDistributionSystemEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcDoorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDoorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(EXISTS(SELF\\IfcPropertySetDefinition.DefinesType[1])) AND ('\001.IFCDOORTYPE' IN TYPEOF(SELF\\IfcPropertySetDefinition.DefinesType[1]))\000"
+    "DefinesType[1] is given and an IfcDoorType\000"
     "(PredefinedType <> IfcDoorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDoorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcDuctFittingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDuctFittingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcDuctSegmentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcDuctSegmentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5332,6 +5854,7 @@ constexpr Texts texts = {
     "IfcElectricFlowTreatmentDevice\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcElectricFlowTreatmentDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricFlowTreatmentDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCELECTRICFLOWTREATMENTDEVICETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcElectricFlowTreatmentDeviceType\000"
     "IfcElectricFlowTreatmentDeviceType\000"
     "(PredefinedType <> IfcElectricFlowTreatmentDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricFlowTreatmentDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcElectricGeneratorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcElectricGeneratorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5350,6 +5873,7 @@ constexpr Texts texts = {
     "IfcFeatureElement\000"
     "NotContained\000"
     "SIZEOF(ContainedInStructure) = 0\000"
+    "ContainedInStructure is empty\000"
     "(PredefinedType <> IfcFilterTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFilterTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcFireSuppressionTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFireSuppressionTerminalTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcFlowInstrumentTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFlowInstrumentTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5357,11 +5881,14 @@ constexpr Texts texts = {
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcFootingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFootingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(PredefinedType <> IfcFootingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFootingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcFurnitureTypeEnum.USERDEFINED) OR ((PredefinedType = IfcFurnitureTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
+    "PredefinedType is not given or not USERDEFINED, or ElementType is given\000"
     "IfcGeographicCRS\000"
     "AngleUnitIsPlaneAngle\000"
     "NOT(EXISTS(SELF.AngleUnit)) OR (SELF.AngleUnit.UnitType=IfcUnitEnum.PLANEANGLEUNIT)\000"
+    "AngleUnit is not given, or AngleUnit.UnitType is PLANEANGLEUNIT\000"
     "HeightUnitIsLength\000"
     "NOT(EXISTS(SELF.HeightUnit)) OR (SELF.HeightUnit.UnitType=IfcUnitEnum.LENGTHUNIT)\000"
+    "HeightUnit is not given, or HeightUnit.UnitType is LENGTHUNIT\000"
     "(PredefinedType <> IfcGeographicElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcGeographicElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "IfcGeotechnicalStratum\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcGeotechnicalStratumTypeEnum.USERDEFINED) OR ((PredefinedType = IfcGeotechnicalStratumTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
@@ -5370,9 +5897,11 @@ constexpr Texts texts = {
     "IfcImpactProtectionDevice\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcImpactProtectionDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcImpactProtectionDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCIMPACTPROTECTIONDEVICETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcImpactProtectionDeviceType\000"
     "IfcImpactProtectionDeviceType\000"
     "(PredefinedType <> IfcImpactProtectionDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcImpactProtectionDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "NOT(EXISTS(Segments)) OR IfcConsecutiveSegments(Segments)\000"
+    "Segments is not given, or each of Segments begins where the one before ends\000"
     "HasTexCoords\000"
     "SET [0:1] OF IfcTextureCoordinateIndices FOR TexCoordsOf\000"
     "(PredefinedType <> IfcInterceptorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcInterceptorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5380,6 +5909,7 @@ constexpr Texts texts = {
     "IfcKerb\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcKerbTypeEnum.USERDEFINED) OR ((PredefinedType = IfcKerbTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCKERBTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcKerbType\000"
     "IfcKerbType\000"
     "(PredefinedType <> IfcKerbTypeEnum.USERDEFINED) OR ((PredefinedType = IfcKerbTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcLampTypeEnum.USERDEFINED) OR ((PredefinedType = IfcLampTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5387,11 +5917,13 @@ constexpr Texts texts = {
     "IfcLiquidTerminal\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcLiquidTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcLiquidTerminalTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCLIQUIDTERMINALTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcLiquidTerminalType\000"
     "IfcLiquidTerminalType\000"
     "(PredefinedType <> IfcLiquidTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcLiquidTerminalTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "IfcMapConversion\000"
     "TargetCRSOnlyProjected\000"
     "'\001.IFCPROJECTEDCRS' IN TYPEOF(SELF\\IfcCoordinateOperation.TargetCRS)\000"
+    "TargetCRS is an IfcProjectedCRS\000"
     "IfcMarineFacility\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcMarineFacilityTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMarineFacilityTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "IfcMarinePart\000"
@@ -5402,32 +5934,39 @@ constexpr Texts texts = {
     "IfcMobileTelecommunicationsAppliance\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcMobileTelecommunicationsApplianceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMobileTelecommunicationsApplianceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCMOBILETELECOMMUNICATIONSAPPLIANCETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcMobileTelecommunicationsApplianceType\000"
     "IfcMobileTelecommunicationsApplianceType\000"
     "(PredefinedType <> IfcMobileTelecommunicationsApplianceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMobileTelecommunicationsApplianceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "IfcMooringDevice\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcMooringDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMooringDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCMOORINGDEVICETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcMooringDeviceType\000"
     "IfcMooringDeviceType\000"
     "(PredefinedType <> IfcMooringDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMooringDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcMotorConnectionTypeEnum.USERDEFINED) OR ((PredefinedType = IfcMotorConnectionTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "IfcNavigationElement\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcNavigationElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcNavigationElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCNAVIGATIONELEMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcNavigationElementType\000"
     "IfcNavigationElementType\000"
     "(PredefinedType <> IfcNavigationElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcNavigationElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "SET [0:?] OF IfcObjectPlacement FOR PlacementRelTo\000"
     "IfcOpenCrossProfileDef\000"
     "CorrectProfileType\000"
     "SELF\\IfcProfileDef.ProfileType = IfcProfileTypeEnum.CURVE\000"
+    "ProfileType is CURVE\000"
     "CorrespondingSlopeWidths\000"
     "SIZEOF(Slopes) = SIZEOF(Widths)\000"
+    "Slopes has as many members as Widths\000"
     "CorrespondingTags\000"
     "(NOT EXISTS (Tags)) OR (SIZEOF(Tags) = (SIZEOF(Slopes) + 1))\000"
+    "Tags is not given, or the number of members of Tags is the number of members of Slopes + 1\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcOpeningElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcOpeningElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(PredefinedType <> IfcOutletTypeEnum.USERDEFINED) OR ((PredefinedType = IfcOutletTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "IfcPavement\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcPavementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcPavementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCPAVEMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcPavementType\000"
     "IfcPavementType\000"
     "(PredefinedType <> IfcPavementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcPavementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcPileTypeEnum.USERDEFINED) OR ((PredefinedType = IfcPileTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
@@ -5437,11 +5976,14 @@ constexpr Texts texts = {
     "(PredefinedType <> IfcPlateTypeEnum.USERDEFINED) OR ((PredefinedType = IfcPlateTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "IFCPOINTDIM\000"
     "SIZEOF(TYPEOF(PolygonalBoundary) * [ '\001.IFCPOLYLINE', '\001.IFCCOMPOSITECURVE', '\001.IFCINDEXEDPOLYCURVE' ]) = 1\000"
+    "PolygonalBoundary is an IfcPolyline, IfcCompositeCurve or IfcIndexedPolyCurve\000"
     "IfcPolynomialCurve\000"
     "CorrectPositionDim\000"
     "((Position.Dim=2) AND (NOT EXISTS(CoefficientsZ))) OR (Position.Dim=3)\000"
+    "Position.Dim is 2 and CoefficientsZ is not given, or Position.Dim is 3\000"
     "ValidCoefficients\000"
     "(EXISTS(CoefficientsX) AND EXISTS(CoefficientsY)) OR (EXISTS(CoefficientsX) AND EXISTS(CoefficientsZ)) OR (EXISTS(CoefficientsY) AND EXISTS(CoefficientsZ)) OR (EXISTS(CoefficientsX) AND EXISTS(CoefficientsY) AND EXISTS(CoefficientsZ))\000"
+    "CoefficientsX and CoefficientsY are given, or CoefficientsX and CoefficientsZ are given, or CoefficientsY and CoefficientsZ are given, or CoefficientsX, CoefficientsY and CoefficientsZ are given\000"
     "IFC4X3_ADD2.IfcGeometricRepresentationItem\000"
     "IFC4X3_ADD2.IfcMappedItem\000"
     "SET [0:?] OF IfcRelPositions FOR RelatedProducts\000"
@@ -5456,6 +5998,7 @@ constexpr Texts texts = {
     "IfcRail\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcRailTypeEnum.USERDEFINED) OR ((PredefinedType = IfcRailTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCRAILTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcRailType\000"
     "IfcRailType\000"
     "(PredefinedType <> IfcRailTypeEnum.USERDEFINED) OR ((PredefinedType = IfcRailTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcRailingTypeEnum.USERDEFINED) OR ((PredefinedType = IfcRailingTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5472,10 +6015,13 @@ constexpr Texts texts = {
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcReinforcingMeshTypeEnum.USERDEFINED) OR ((PredefinedType = IfcReinforcingMeshTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(PredefinedType <> IfcReinforcingMeshTypeEnum.USERDEFINED) OR ((PredefinedType = IfcReinforcingMeshTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "SIZEOF(QUERY(temp <* SELF\\IfcRelAssociates.RelatedObjects | ( SIZEOF(TYPEOF(temp) * [ '\001.IFCELEMENT', '\001.IFCELEMENTTYPE', '\001.IFCSTRUCTURALMEMBER', '\001.IFCPORT']) = 0) )) = 0\000"
+    "every member of RelatedObjects is an IfcElement, IfcElementType, IfcStructuralMember or IfcPort\000"
     "('\001.IFCCARTESIANPOINT' IN TYPEOF(Axis.Location)) AND (Axis.Location\\IfcCartesianPoint.Coordinates[3] = 0.0)\000"
+    "Axis.Location is an IfcCartesianPoint, and Axis.Location.Coordinates[3] is 0\000"
     "IfcRigidOperation\000"
     "SameCoordinateType\000"
     "(('\001.IFCLENGTHMEASURE' IN TYPEOF(FirstCoordinate)) AND ('\001.IFCLENGTHMEASURE' IN TYPEOF(SecondCoordinate))) OR (('\001.IFCPLANEANGLEMEASURE' IN TYPEOF(FirstCoordinate)) AND ('\001.IFCPLANEANGLEMEASURE' IN TYPEOF(SecondCoordinate)))\000"
+    "FirstCoordinate and SecondCoordinate are an IfcLengthMeasure, or FirstCoordinate and SecondCoordinate are an IfcPlaneAngleMeasure\000"
     "IfcRoad\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcRoadTypeEnum.USERDEFINED) OR ((PredefinedType = IfcRoadTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "IfcRoadPart\000"
@@ -5483,23 +6029,28 @@ constexpr Texts texts = {
     "(PredefinedType <> IfcRoofTypeEnum.USERDEFINED) OR ((PredefinedType = IfcRoofTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcSanitaryTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSanitaryTerminalTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "SIZEOF(QUERY(temp <* CrossSectionPositions | EXISTS(temp.Location.OffsetLongitudinal))) = 0\000"
+    "Location.OffsetLongitudinal of every member of CrossSectionPositions is not given\000"
     "IfcSectionedSurface\000"
     "AreaProfileTypes\000"
     "SIZEOF(QUERY(temp <* CrossSections | temp.ProfileType = IfcProfileTypeEnum.CURVE)) <> 0\000"
+    "at least 1 member of CrossSections has ProfileType CURVE\000"
     "NoOffsets\000"
     "SIZEOF(QUERY(temp <* CrossSectionPositions | EXISTS(temp.Location.OffsetLateral) OR EXISTS(temp.Location.OffsetVertical) OR EXISTS(temp.Location.OffsetLongitudinal))) = 0\000"
+    "for every temp of CrossSectionPositions, neither temp.Location.OffsetLateral, temp.Location.OffsetVertical nor temp.Location.OffsetLongitudinal is given\000"
     "IFCSEGMENTDIM\000"
     "IfcSegment\000"
     "(PredefinedType <> IfcSensorTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSensorTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcShadingDeviceTypeEnum.USERDEFINED) OR ((PredefinedType = IfcShadingDeviceTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "IfcSign\000"
-    "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcSignTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSignTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
+    "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcSignTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSignTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))",
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSIGNTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcSignType\000"
     "IfcSignType\000"
     "(PredefinedType <> IfcSignTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSignTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "IfcSignal\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcSignalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSignalTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCSIGNALTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcSignalType\000"
     "IfcSignalType\000"
     "(PredefinedType <> IfcSignalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSignalTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcSlabTypeEnum.USERDEFINED) OR ((PredefinedType = IfcSlabTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5527,9 +6078,11 @@ constexpr Texts texts = {
     "IfcTrackElement\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcTrackElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTrackElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCTRACKELEMENTTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcTrackElementType\000"
     "IfcTrackElementType\000"
     "(PredefinedType <> IfcTrackElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTrackElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCTRANSFORMERTYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcTransformerType\000"
     "(PredefinedType <> IfcTransformerTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTransformerTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcTransportElementTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTransportElementTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcTubeBundleTypeEnum.USERDEFINED) OR ((PredefinedType = IfcTubeBundleTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5539,6 +6092,7 @@ constexpr Texts texts = {
     "IfcVehicle\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcVehicleTypeEnum.USERDEFINED) OR ((PredefinedType = IfcVehicleTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(SIZEOF(IsTypedBy) = 0) OR ('\001.IFCVEHICLETYPE' IN TYPEOF(SELF\\IfcObject.IsTypedBy[1].RelatingType))\000"
+    "IsTypedBy is empty, or IsTypedBy[1].RelatingType is an IfcVehicleType\000"
     "IfcVehicleType\000"
     "(PredefinedType <> IfcVehicleTypeEnum.USERDEFINED) OR ((PredefinedType = IfcVehicleTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "(PredefinedType <> IfcVibrationDamperTypeEnum.USERDEFINED) OR ((PredefinedType = IfcVibrationDamperTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
@@ -5550,6 +6104,7 @@ constexpr Texts texts = {
     "(PredefinedType <> IfcWasteTerminalTypeEnum.USERDEFINED) OR ((PredefinedType = IfcWasteTerminalTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "NOT(EXISTS(PredefinedType)) OR (PredefinedType <> IfcWindowTypeEnum.USERDEFINED) OR ((PredefinedType = IfcWindowTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\000"
     "(EXISTS(SELF\\IfcPropertySetDefinition.DefinesType[1])) AND ('\001.IFCWINDOWTYPE' IN TYPEOF(SELF\\IfcPropertySetDefinition.DefinesType[1]))\000"
+    "DefinesType[1] is given and an IfcWindowType\000"
     "(PredefinedType <> IfcWindowTypeEnum.USERDEFINED) OR ((PredefinedType = IfcWindowTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcElementType.ElementType))\000"
     "IFC4X3_ADD2.IFCCURVESEGMENT2D\000"
     "Segment\000"
@@ -5619,6 +6174,7 @@ constexpr Texts texts = {
     "IFC4X3_RC3.IFCTRANFORMERTYPE\000"
     "NOT(EXISTS(PredefinedType)) OR ((PredefinedType <> IfcTransportElementFixedTypeEnum.USERDEFINED) AND (PredefinedType <> IfcTransportElementNonFixedTypeEnum.USERDEFINED)) OR (((PredefinedType = IfcTransportElementFixedTypeEnum.USERDEFINED) OR (PredefinedType = IfcTransportElementNonFixedTypeEnum.USERDEFINED)) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
     "((PredefinedType <> IfcTransportElementFixedTypeEnum.USERDEFINED) AND (PredefinedType <> IfcTransportElementNonFixedTypeEnum.USERDEFINED)) OR ((PredefinedType = IfcTransportElementFixedTypeEnum.USERDEFINED) OR (PredefinedType = IfcTransportElementNonFixedTypeEnum.USERDEFINED) AND EXISTS(SELF\\IfcElementType.ElementType))\000"
+    "PredefinedType is not USERDEFINED or USERDEFINED, or ElementType is given\000"
     "IFC4X3_RC3.IFCCURVESEGMENT2D"};
 
 constexpr std::uint32_t textPlaces[] = {
@@ -5811,168 +6367,203 @@ constexpr std::uint32_t textPlaces[] = {
     55121, 55132, 55143, 55150, 55157, 55171, 55187, 55201, 55218, 55238, 55244, 55258, 55267, 55280, 55297, 55305,
     55317, 55329, 55343, 55373, 55402, 55408, 55415, 55427, 55439, 55455, 55468, 55479, 55501, 55516, 55530, 55544,
     55549, 55557, 55562, 55576, 55588, 55596, 55609, 55611, 55616, 55624, 55629, 55638, 55649, 55659, 55671, 55678,
-    55691, 55703, 55717, 55730, 55746, 55750, 55887, 55888, 55917, 55943, 55947, 55971, 55975, 55999, 56003, 56116,
-    56138, 56157, 56175, 56193, 56200, 56207, 56215, 56228, 56266, 56277, 56292, 56324, 56328, 56332, 56336, 56340,
-    56344, 56348, 56352, 56356, 56360, 56374, 56460, 56483, 56493, 56506, 56525, 56541, 56560, 56581, 56600, 56626,
-    56647, 56660, 56665, 56687, 56712, 56741, 56765, 56783, 56804, 56825, 56830, 56836, 56844, 56861, 56908, 56913,
-    56923, 56932, 56945, 56951, 56969, 57036, 57047, 57057, 57067, 57089, 57146, 57166, 57201, 57223, 57240, 57244,
-    57254, 57263, 57276, 57328, 57340, 57353, 57458, 57469, 57625, 57634, 57671, 57686, 57729, 57751, 57915, 57934,
-    58092, 58120, 58296, 58310, 58331, 58398, 58427, 58432, 58523, 58555, 58659, 58680, 58685, 58857, 58888, 59074,
-    59104, 59203, 59231, 59328, 59343, 59347, 59369, 59398, 59414, 59466, 59483, 59545, 59563, 59625, 59639, 59695,
-    59707, 59714, 59769, 59783, 59840, 59848, 59906, 59935, 59954, 59993, 60041, 60047, 60074, 60079, 60188, 60193,
-    60207, 60212, 60244, 60282, 60337, 60406, 60415, 60521, 60539, 60579, 60614, 60627, 60647, 60703, 60738, 60752,
-    60772, 60828, 60844, 60955, 60959, 61009, 61022, 61038, 61043, 61127, 61142, 61146, 61150, 61154, 61158, 61173,
-    61223, 61237, 61385, 61410, 61516, 61565, 61576, 61598, 61615, 61652, 61670, 61747, 61771, 61797, 61817, 61838,
-    61951, 62009, 62036, 62210, 62231, 62247, 62275, 62293, 62319, 62354, 62364, 62401, 62449, 62567, 62685, 62697,
-    62744, 62755, 62792, 62840, 62958, 63076, 63114, 63161, 63172, 63187, 63337, 63363, 63411, 63429, 63438, 63484,
-    63506, 63525, 63589, 63609, 63673, 63685, 63829, 63848, 63905, 63927, 63932, 63969, 63983, 64001, 64192, 64197,
-    64265, 64290, 64335, 64347, 64391, 64414, 64496, 64577, 64595, 64751, 64768, 64922, 64944, 64958, 65112, 65125,
-    65203, 65222, 65284, 65346, 65370, 65440, 65451, 65524, 65539, 65612, 65649, 65726, 65752, 65784, 65824, 65832,
-    65959, 65990, 66001, 66010, 66066, 66084, 66240, 66260, 66420, 66436, 66439, 66451, 66456, 66634, 66647, 66700,
-    66707, 66766, 66778, 66787, 66801, 66968, 66993, 67020, 67034, 67182, 67203, 67262, 67277, 67363, 67492, 67522,
-    67530, 67540, 67572, 67642, 67829, 67834, 67952, 67982, 68000, 68005, 68065, 68100, 68107, 68114, 68119, 68393,
-    68398, 68498, 68517, 68569, 68602, 68704, 68788, 68816, 68890, 68898, 68907, 68924, 68960, 69114, 69267, 69297,
-    69319, 69385, 69412, 69431, 69494, 69522, 69571, 69594, 69606, 69675, 69685, 69754, 69775, 69823, 69843, 69902,
-    69926, 69984, 69989, 70053, 70058, 70178, 70183, 70297, 70302, 70434, 70457, 70478, 70499, 70574, 70593, 70669,
-    70675, 70679, 70685, 70690, 70697, 70705, 70710, 70716, 70746, 70854, 70865, 70871, 70889, 70896, 70903, 70936,
-    71044, 71062, 71080, 71112, 71185, 71204, 71362, 71381, 71539, 71559, 71719, 71731, 71782, 71800, 71824, 71853,
-    72091, 72102, 72122, 72187, 72198, 72257, 72269, 72325, 72338, 72404, 72419, 72474, 72497, 72565, 72574, 72634,
-    72646, 72706, 72730, 72801, 72820, 72880, 72894, 72949, 72968, 73128, 73156, 73347, 73372, 73542, 73560, 73716,
-    73737, 73795, 73809, 73830, 73967, 73975, 74050, 74061, 74203, 74229, 74246, 74294, 74323, 74337, 74382, 74399,
-    74478, 74578, 74602, 74643, 74668, 74739, 74791, 74796, 74874, 74888, 75036, 75053, 75207, 75218, 75362, 75380,
-    75385, 75394, 75413, 75571, 75600, 75628, 75685, 75706, 75796, 75830, 75845, 75913, 75950, 76021, 76169, 76185,
-    76251, 76259, 76299, 76311, 76329, 76403, 76411, 76442, 76450, 76481, 76489, 76520, 76537, 76598, 76607, 76619,
-    76658, 76679, 76841, 76859, 77015, 77048, 77068, 77106, 77134, 77281, 77294, 77485, 77505, 77523, 77565, 77585,
-    77606, 77662, 77670, 77688, 77713, 77731, 77791, 77804, 77817, 77837, 77849, 77867, 77940, 78014, 78050, 78147,
-    78164, 78183, 78222, 78243, 78275, 78326, 78377, 78414, 78462, 78516, 78572, 78634, 78642, 78682, 78903, 78924,
-    78937, 78991, 79001, 79083, 79095, 79141, 79161, 79176, 79222, 79237, 79286, 79297, 79346, 79362, 79411, 79430,
-    79443, 79487, 79510, 79560, 79573, 79734, 79746, 79837, 79854, 79873, 79890, 79909, 79927, 79939, 79998, 80027,
-    80042, 80051, 80067, 80079, 80145, 80211, 80219, 80277, 80293, 80341, 80358, 80376, 80384, 80408, 80418, 80427,
-    80437, 80477, 80487, 80539, 80566, 80623, 80643, 80657, 80715, 80723, 80861, 80880, 81038, 81057, 81215, 81231,
-    81242, 81254, 81283, 81288, 81321, 81333, 81397, 81426, 81452, 81535, 81547, 81609, 81617, 81629, 81674, 81723,
-    81773, 81790, 81942, 81953, 81967, 81979, 81991, 81997, 82006, 82017, 82024, 82030, 82049, 82066, 82073, 82102,
-    82292, 82301, 82308, 82312, 82317, 82326, 82328, 82359, 82449, 82463, 82475, 82487, 82504, 82517, 82528, 82539,
-    82555, 82566, 82572, 82587, 82617, 82812, 82825, 82927, 83033, 83196, 83207, 83218, 83274, 83290, 83337, 83353,
-    83401, 83412, 83593, 83606, 83662, 83688, 83775, 83790, 83833, 83849, 83910, 83944, 83955, 84065, 84113, 84129,
-    84141, 84163, 84232, 84250, 84319, 84369, 84393, 84509, 84560, 84582, 84616, 84657, 84684, 84841, 84864, 84971,
-    84976, 84997, 85090, 85105, 85130, 85151, 85221, 85233, 85280, 85302, 85349, 85443, 85535, 85544, 85556, 85700,
-    85709, 85725, 85847, 85863, 85880, 85897, 85908, 85926, 86050, 86068, 86077, 86093, 86215, 86231, 86242, 86260,
-    86384, 86402, 86411, 86429, 86551, 86569, 86580, 86756, 86764, 86929, 86952, 87021, 87045, 87075, 87104, 87220,
-    87382, 87576, 87605, 87614, 87623, 87805, 87824, 87842, 87986, 88013, 88027, 88090, 88109, 88156, 88216, 88290,
-    88311, 88397, 88420, 88508, 88529, 88615, 88638, 88726, 88749, 88837, 88861, 88950, 88967, 89106, 89131, 89292,
-    89441, 89464, 89500, 89534, 89626, 89643, 89711, 89723, 89854, 89880, 89926, 89961, 89986, 90087, 90163, 90178,
-    90214, 90223, 90231, 90242, 90262, 90670, 90688, 90706, 90765, 90782, 90844, 90868, 90926, 90951, 90976, 91026,
-    91048, 91061, 91097, 91118, 91127, 91172, 91184, 91195, 91253, 91274, 91309, 91341, 91349, 91357, 91366, 91396,
-    91518, 91541, 91564, 91592, 91627, 91645, 91699, 91791, 91810, 91831, 91931, 91945, 92097, 92111, 92164, 92187,
-    92274, 92463, 92513, 92541, 92642, 92650, 92820, 92829, 92878, 92888, 92939, 92958, 93116, 93132, 93155, 93222,
-    93243, 93311, 93338, 93658, 93677, 93747, 93765, 93823, 93840, 93909, 93918, 93940, 93965, 94028, 94052, 94078,
-    94154, 94172, 94199, 94265, 94291, 94421, 94441, 94464, 94484, 94545, 94558, 94611, 94631, 94649, 94722, 94734,
-    94807, 94833, 94963, 94988, 95125, 95152, 95183, 95251, 95319, 95341, 95348, 95394, 95419, 95434, 95489, 95525,
-    95571, 95617, 95651, 95701, 95706, 95833, 95838, 96061, 96077, 96093, 96103, 96115, 96127, 96157, 96369, 96383,
-    96402, 96441, 96465, 96565, 96593, 96604, 96620, 96708, 96797, 96888, 96893, 96986, 96991, 97089, 97107, 97155,
-    97173, 97191, 97243, 97259, 97311, 97361, 97371, 97389, 97445, 97465, 97489, 97516, 97525, 97612, 97643, 97655,
-    97663, 97681, 97693, 97837, 97845, 97863, 98005, 98015, 98157, 98182, 98222, 98244, 98317, 98338, 98355, 98412,
-    98426, 98613, 98642, 98656, 98669, 98742, 98764, 98871, 98897, 99014, 99045, 99149, 99165, 99228, 99291, 99296,
-    99343, 99361, 99517, 99531, 99544, 99594, 99609, 99778, 99798, 99829, 99854, 99872, 99904, 99928, 100096, 100109,
-    100255, 100265, 100282, 100307, 100477, 100485, 100603, 100635, 100655, 100851, 100870, 100896, 100965, 101034, 101168, 101183,
-    101354, 101374, 101382, 101524, 101546, 101568, 101600, 101632, 101652, 101677, 101702, 101726, 101743, 101761, 101785, 101805,
-    101834, 101856, 101878, 101893, 101908, 101925, 101943, 101967, 101986, 102005, 102029, 102049, 102072, 102083, 102093, 102107,
-    102122, 102138, 102155, 102172, 102196, 102206, 102219, 102227, 102235, 102244, 102250, 102256, 102264, 102270, 102283, 102295,
-    102300, 102307, 102314, 102321, 102326, 102334, 102341, 102351, 102357, 102364, 102371, 102377, 102382, 102390, 102395, 102401,
-    102405, 102413, 102419, 102425, 102431, 102446, 102452, 102456, 102466, 102471, 102479, 102500, 102520, 102532, 102549, 102571,
-    102584, 102592, 102605, 102618, 102636, 102649, 102660, 102671, 102675, 102684, 102703, 102708, 102720, 102735, 102756, 102763,
-    102768, 102773, 102778, 102784, 102794, 102807, 102833, 102849, 102858, 102873, 102891, 102906, 102924, 102944, 102991, 103006,
-    103205, 103225, 103236, 103254, 103273, 103290, 103308, 103336, 103348, 103359, 103378, 103399, 103472, 103484, 103506, 103684,
-    103704, 103805, 103821, 103973, 103989, 104006, 104119, 104144, 104167, 104291, 104307, 104325, 104452, 104470, 104717, 104738,
-    105074, 105089, 105273, 105377, 105395, 105585, 105692, 105716, 105918, 106031, 106040, 106212, 106310, 106323, 106469, 106489,
-    106526, 106548, 106564, 106623, 106641, 106707, 106765, 106795, 106816, 106913, 106931, 107002, 107026, 107137, 107158, 107260,
-    107284, 107486, 107599, 107627, 107803, 107812, 107825, 107836, 107849, 107860, 107881, 107904, 107912, 107939, 107964, 107982,
-    108090, 108113, 108160, 108180, 108207, 108229, 108358, 108380, 108509, 108529, 108566, 108586, 108623, 108631, 108801, 108898,
-    108918, 108945, 109143, 109155, 109299, 109321, 109342, 109372, 109382, 109556, 109655, 109678, 109695, 109852, 109870, 109883,
-    109902, 110014, 110034, 110149, 110166, 110175, 110192, 110211, 110237, 110260, 110460, 110572, 110599, 110773, 110787, 110989,
-    111102, 111130, 111306, 111316, 111490, 111589, 111603, 111751, 111762, 111788, 111933, 111952, 111975, 112175, 112287, 112310,
-    112510, 112622, 112649, 112823, 112839, 113025, 113130, 113150, 113310, 113326, 113512, 113617, 113637, 113797, 113806, 113822,
-    113839, 113849, 113859, 113869, 113887, 113895, 113905, 113915, 113925, 113943, 113954, 114130, 114230, 114241, 114417, 114517,
-    114532, 114682, 114707, 114778, 114792, 114853, 114880, 114908, 114916, 115086, 115183, 115193, 115367, 115466, 115488, 115502,
-    115650, 115677, 115885, 116001, 116032, 116214, 116245, 116272, 116292, 116345, 116361, 116425, 116441, 116468, 116480, 116505,
-    116524, 116545, 116566, 116578, 116592, 116774, 116877, 116890, 117070, 117172, 117242, 117275, 117495, 117532, 117728, 117946,
-    117982, 118176, 118392, 118427, 118619, 118630, 118688, 118697, 118745, 118769, 118783, 118965, 119068, 119086, 119242, 119265,
-    119279, 119461, 119564, 119580, 119766, 119871, 119900, 119923, 119973, 120074, 120089, 120105, 120257, 120273, 120459, 120479,
-    120641, 120656, 120840, 120944, 120963, 121121, 121136, 121159, 121222, 121252, 121262, 121436, 121535, 121548, 121569, 121624,
-    121645, 121841, 121951, 121976, 122146, 122176, 122390, 122509, 122543, 122731, 122754, 122777, 122836, 122858, 122915, 122959,
-    122981, 122989, 123010, 123107, 123165, 123229, 123444, 123461, 123473, 123617, 123639, 123664, 123679, 123863, 123967, 123982,
-    124166, 124270, 124286, 124472, 124577, 124590, 124611, 124807, 124917, 124942, 125112, 125141, 125353, 125471, 125504, 125690,
-    125719, 125931, 126049, 126082, 126268, 126289, 126485, 126595, 126620, 126790, 126807, 126995, 127101, 127122, 127284, 127307,
-    127507, 127619, 127646, 127820, 127843, 127900, 127919, 127977, 128169, 128277, 128300, 128466, 128489, 128508, 128528, 128563,
-    128573, 128747, 128846, 128860, 129008, 129029, 129225, 129335, 129349, 129531, 129634, 129643, 129814, 130007, 130020, 130166,
-    130190, 130350, 130409, 130439, 130507, 130533, 130557, 130585, 130613, 130638, 130719, 130733, 130748, 130788, 130795, 130963,
-    131059, 131071, 131249, 131350, 131366, 131518, 131535, 131575, 131588, 131627, 131640, 131660, 131684, 131699, 131714, 131724,
-    131898, 131997, 132024, 132232, 132348, 132379, 132561, 132593, 132610, 132725, 132743, 132933, 133040, 133062, 133226, 133239,
-    133419, 133521, 133695, 133795, 133810, 133960, 133973, 134153, 134255, 134272, 134426, 134447, 134643, 134753, 134778, 134948,
-    134959, 134967, 135034, 135046, 135065, 135082, 135156, 135182, 135196, 135209, 135261, 135278, 135466, 135572, 135586, 135768,
-    135871, 135909, 135927, 135950, 135970, 135982, 136041, 136065, 136075, 136118, 136133, 136317, 136421, 136440, 136598, 136619,
-    136630, 136682, 136703, 136720, 136853, 136868, 137052, 137156, 137175, 137333, 137348, 137416, 137433, 137621, 137642, 137806,
-    137814, 137984, 138081, 138093, 138237, 138259, 138281, 138338, 138359, 138414, 138435, 138451, 138637, 138742, 138762, 138922,
-    138980, 138990, 139048, 139071, 139096, 139147, 139169, 139182, 139241, 139255, 139303, 139329, 139348, 139396, 139415, 139436,
-    139479, 139506, 139565, 139587, 139785, 139896, 139922, 140094, 140111, 140299, 140405, 140426, 140588, 140598, 140772, 140871,
-    140893, 140907, 141055, 141074, 141266, 141374, 141397, 141563, 141588, 141611, 141680, 141693, 141747, 141801, 141811, 141863,
-    141869, 141913, 141924, 141968, 141979, 142030, 142079, 142128, 142172, 142180, 142203, 142213, 142387, 142486, 142500, 142648,
-    142657, 142673, 142693, 142948, 142958, 142981, 143000, 143066, 143082, 143149, 143187, 143355, 143452, 143464, 143608, 143623,
-    143807, 143911, 143926, 144110, 144214, 144226, 144238, 144254, 144270, 144295, 144408, 144417, 144589, 144687, 144708, 144733,
-    144746, 144892, 144909, 144921, 144934, 144992, 145023, 145039, 145218, 145248, 145270, 145421, 145429, 145608, 145625, 145779,
-    145811, 146034, 146049, 146092, 146106, 146162, 146177, 146360, 146376, 146392, 146405, 146473, 146484, 146530, 146580, 146595,
-    146669, 146682, 146754, 146777, 146796, 146813, 146925, 146942, 147054, 147245, 147256, 147303, 147364, 147382, 147452, 147475,
-    147483, 147541, 147654, 147784, 147911, 147931, 147953, 148018, 148037, 148098, 148118, 148312, 148421, 148453, 148671, 148792,
-    148828, 149020, 149044, 149212, 149220, 149390, 149487, 149587, 149602, 149752, 149922, 150019, 150033, 150215, 150318, 150336,
-    150492, 150504, 150648, 150681, 150707, 150726, 150761, 150791, 150947, 150973, 150997, 151029, 151046, 151063, 151080, 151097,
-    151114, 151131, 151319, 151426, 151448, 151612, 151637, 151695, 151714, 151904, 152012, 152035, 152201, 152218, 152232, 152248,
-    152459, 152486, 152515, 152648, 152676, 152806, 152826, 152856, 152871, 152944, 152970, 152990, 153101, 153126, 153143, 153166,
-    153302, 153328, 153348, 153480, 153498, 153893, 153921, 153937, 153997, 154025, 154037, 154104, 154143, 154167, 154185, 154243,
-    154259, 154321, 154342, 154392, 154406, 154424, 154452, 154622, 154719, 154731, 154875, 154887, 154907, 155101, 155210, 155234,
-    155402, 155415, 155547, 155577, 155600, 155614, 155624, 155798, 155897, 155911, 156059, 156076, 156264, 156370, 156391, 156553,
-    156571, 156593, 156621, 156677, 156697, 156794, 156815, 156832, 156885, 156905, 156930, 156942, 157086, 157101, 157285, 157389,
-    157408, 157566, 157738, 157836, 157886, 157901, 158085, 158189, 158202, 158355, 158373, 158388, 158572, 158676, 158695, 158860,
-    158877, 159065, 159171, 159192, 159354, 159526, 159624, 159639, 159823, 159927, 159946, 160104, 160117, 160263, 160339, 160366,
-    160380, 160474, 160491, 160505, 160530, 160548, 160683, 160787, 160799, 160822, 160887, 160912, 161014, 161041, 161047, 161056,
-    161185, 161202, 161208, 161228, 161316, 161326, 161348, 161373, 161449, 161480, 161494, 161556, 161758, 161850, 161941, 161968,
-    162074, 162101, 162205, 162234, 162252, 162267, 162283, 162306, 162506, 162533, 162709, 162725, 162735, 162751, 162768, 162807,
-    162837, 162855, 162980, 162997, 163025, 163056, 163149, 163166, 163357, 163374, 163565, 163582, 163645, 163659, 163674, 163691,
-    163706, 163723, 163741, 163752, 163795, 163808, 163862, 163876, 163889, 163905, 163932, 163945, 164022, 164042, 164238, 164253,
-    164272, 164464, 164572, 164595, 164761, 164787, 164993, 165108, 165138, 165318, 165326, 165496, 165593, 165762, 165774, 165918,
-    165938, 166105, 166279, 166378, 166394, 166580, 166685, 166705, 166865, 166879, 167027, 167049, 167060, 167106, 167118, 167165,
-    167183, 167256, 167275, 167292, 167318, 167333, 167517, 167540, 167643, 167662, 167820, 167840, 168034, 168143, 168167, 168335,
-    168357, 168379, 168401, 168415, 168597, 168700, 168713, 168739, 168816, 168822, 168837, 168858, 169013, 169029, 169054, 169258,
-    169372, 169401, 169579, 169599, 169793, 169902, 169911, 170083, 170181, 170203, 170224, 170420, 170530, 170548, 170673, 170843,
-    170940, 170961, 170973, 171117, 171134, 171322, 171428, 171449, 171611, 171621, 171720, 171939, 171964, 171978, 172126, 172142,
-    172327, 172339, 172516, 172532, 172717, 172947, 172953, 172964, 172970, 172978, 172986, 172996, 173006, 173015, 173020, 173036,
-    173049, 173069, 173082, 173094, 173119, 173136, 173182, 173214, 173227, 173278, 173301, 173345, 173375, 173386, 173435, 173460,
-    173482, 173520, 173541, 173689, 173707, 173721, 173738, 173824, 173852, 173874, 173957, 173972, 173997, 174029, 174039, 174082,
-    174093, 174269, 174369, 174384, 174534, 174559, 174575, 174594, 174631, 174652, 174848, 174958, 174983, 175153, 175171, 175278,
-    175288, 175348, 175386, 175407, 175428, 175477, 175493, 175574, 175591, 175777, 175883, 175904, 176066, 176091, 176110, 176302,
-    176410, 176433, 176599, 176752, 176917, 177076, 177253, 177400, 177577, 177590, 177650, 177674, 177745, 177890, 178041, 178190,
-    178220, 178230, 178404, 178418, 178600, 178775, 178952, 178970, 179160, 179176, 179191, 179375, 179524, 179699, 179874, 180035,
-    180196, 180367, 180518, 180669, 180814, 180963, 181146, 181303, 181458, 181615, 181634, 181826, 181934, 181957, 182124, 182281,
-    182442, 182452, 182497, 182511, 182571, 182581, 182755, 182854, 182868, 183017, 183170, 183329, 183478, 183510, 183681, 183702,
-    183898, 184008, 184033, 184204, 184393, 184415, 184605, 184775, 184908, 185053, 185212, 185371, 185532, 185549, 185737, 185755,
-    185945, 186116, 186303, 186490, 186521, 186737, 186857, 186892, 187083, 187254, 187417, 187592, 187611, 187667, 187834, 187983,
-    188154, 188311, 188333, 188531, 188674, 188827, 188845, 188858, 188891, 189040, 189223, 189388, 189543, 189719, 189870, 190056,
-    190073, 190095, 190179, 190198, 190280, 190451, 190474, 190674, 190837, 190994, 191020, 191226, 191341, 191371, 191552, 191610,
-    191623, 191680, 191839, 191998, 192006, 192176, 192273, 192285, 192430, 192575, 192736, 192754, 192944, 193051, 193073, 193238,
-    193255, 193278, 193347, 193365, 193555, 193569, 193751, 193924, 194087, 194236, 194273, 194501, 194627, 194668, 194871, 194888,
-    195076, 195182, 195203, 195366, 195533, 195554, 195750, 195860, 195885, 196056, 196107, 196130, 196149, 196207, 196232, 196264,
-    196282, 196343, 196533, 196682, 196694, 196872, 196973, 196989, 197142, 197312, 197457, 197616, 197775, 197922, 197934, 198042,
-    198061, 198080, 198151, 198169, 198404, 198447, 198473, 198522, 198538, 198616, 198637, 198833, 199026, 199195, 199340, 199356,
-    199364, 199534, 199631, 199643, 199788, 199939, 199950, 200126, 200141, 200325, 200482, 200627, 200645, 200835, 201025, 201190,
-    201382, 201549, 201722, 201830, 201848, 201867, 202092, 202100, 202270, 202282, 202460, 202605, 202774, 202866, 202886, 202903,
-    202991, 203001, 203172, 203186, 203197, 203346, 203509, 203517, 203687, 203784, 203796, 203941, 203951, 204125, 204224, 204238,
-    204387, 204532, 204691, 204850, 205013, 205172, 205319, 205476, 205666, 205683, 205733, 205949, 206116, 206135, 206347, 206492,
-    206653, 206841, 207004, 207153, 207181, 207190, 207240, 207256, 207442, 207547, 207567, 207728, 207832, 207991, 208160, 208317,
-    208496, 208665, 208812, 208823, 208999, 209099, 209114, 209265, 209432, 209603, 209621, 209811, 210001, 210146, 210309, 210483,
-    210618, 210767, 210797, 210805, 210822, 210848, 210855, 210900, 210926, 210939, 210997, 211026, 211076, 211259, 211450, 211616,
-    211789, 211937, 212132, 212302, 212489, 212678, 212893, 213083, 213288, 213468, 213527, 213716, 213880, 214069, 214296, 214498,
-    214685, 214847, 215042, 215212, 215254, 215279, 215448, 215592, 215781, 215950, 216094, 216267, 216415, 216600, 216760, 216789,
-    217138, 217462, 217491, 217664, 217853, 217869, 218489, 218501, 218960, 219388, 219577, 219754, 219906, 219948, 219973, 220168,
-    220286, 220401, 220588, 220617, 220972, 221294, 221323,
+    55691, 55703, 55717, 55730, 55746, 55750, 55887, 56036, 56065, 56091, 56131, 56135, 56159, 56197, 56201, 56225,
+    56263, 56267, 56380, 56477, 56499, 56518, 56543, 56561, 56579, 56614, 56621, 56628, 56636, 56649, 56687, 56739,
+    56750, 56765, 56797, 56842, 56846, 56850, 56854, 56858, 56862, 56866, 56870, 56874, 56878, 56892, 56978, 57086,
+    57109, 57119, 57140, 57153, 57172, 57209, 57225, 57244, 57270, 57291, 57310, 57336, 57362, 57383, 57408, 57421,
+    57426, 57448, 57474, 57499, 57528, 57552, 57570, 57591, 57628, 57649, 57654, 57660, 57668, 57685, 57732, 57791,
+    57796, 57806, 57815, 57828, 57834, 57852, 57919, 57998, 58009, 58019, 58029, 58051, 58108, 58177, 58197, 58232,
+    58252, 58274, 58283, 58300, 58304, 58314, 58323, 58336, 58388, 58400, 58413, 58518, 58571, 58582, 58738, 58810,
+    58819, 58856, 58871, 58914, 58936, 59100, 59159, 59178, 59336, 59364, 59540, 59554, 59575, 59642, 59671, 59676,
+    59767, 59800, 59832, 59936, 59982, 60003, 60008, 60180, 60309, 60340, 60526, 60631, 60661, 60760, 60801, 60829,
+    60926, 60965, 60980, 60984, 61006, 61035, 61051, 61103, 61146, 61163, 61225, 61243, 61305, 61319, 61375, 61387,
+    61394, 61449, 61463, 61520, 61528, 61586, 61615, 61634, 61654, 61693, 61722, 61770, 61808, 61814, 61841, 61846,
+    61955, 62023, 62028, 62042, 62057, 62062, 62094, 62132, 62152, 62207, 62247, 62316, 62355, 62364, 62470, 62530,
+    62548, 62588, 62624, 62659, 62677, 62690, 62710, 62766, 62818, 62853, 62871, 62885, 62905, 62961, 63013, 63029,
+    63140, 63235, 63239, 63289, 63339, 63352, 63368, 63373, 63457, 63526, 63541, 63545, 63549, 63553, 63557, 63572,
+    63622, 63674, 63688, 63836, 63861, 63967, 64035, 64084, 64122, 64133, 64155, 64178, 64195, 64232, 64270, 64288,
+    64365, 64408, 64432, 64458, 64472, 64492, 64513, 64538, 64651, 64753, 64811, 64864, 64891, 65065, 65086, 65102,
+    65130, 65164, 65182, 65208, 65243, 65278, 65288, 65303, 65340, 65388, 65506, 65544, 65662, 65700, 65712, 65759,
+    65770, 65786, 65823, 65871, 65880, 65998, 66036, 66154, 66192, 66230, 66268, 66315, 66326, 66342, 66357, 66507,
+    66533, 66581, 66611, 66629, 66638, 66684, 66706, 66725, 66789, 66809, 66873, 66885, 67029, 67048, 67105, 67155,
+    67177, 67182, 67219, 67262, 67276, 67294, 67485, 67659, 67664, 67732, 67783, 67808, 67853, 67887, 67899, 67943,
+    67966, 68048, 68115, 68196, 68247, 68265, 68421, 68438, 68592, 68614, 68628, 68782, 68847, 68860, 68938, 68957,
+    69019, 69081, 69105, 69175, 69186, 69259, 69274, 69347, 69384, 69461, 69540, 69566, 69598, 69638, 69670, 69678,
+    69805, 69880, 69911, 69922, 69931, 69987, 70005, 70161, 70181, 70341, 70357, 70360, 70372, 70377, 70555, 70626,
+    70639, 70692, 70699, 70758, 70770, 70779, 70793, 70960, 71073, 71098, 71125, 71160, 71174, 71322, 71343, 71402,
+    71443, 71458, 71544, 71636, 71765, 71822, 71852, 71860, 71870, 71902, 71972, 72012, 72199, 72315, 72320, 72438,
+    72506, 72536, 72554, 72559, 72619, 72691, 72726, 72733, 72740, 72745, 73019, 73194, 73199, 73299, 73368, 73387,
+    73439, 73472, 73574, 73627, 73711, 73769, 73797, 73871, 73910, 73918, 73927, 73944, 73980, 74019, 74173, 74326,
+    74441, 74471, 74493, 74559, 74586, 74605, 74668, 74696, 74745, 74787, 74810, 74822, 74891, 74901, 74970, 74991,
+    75039, 75095, 75115, 75174, 75198, 75256, 75310, 75315, 75379, 75439, 75444, 75564, 75665, 75670, 75784, 75879,
+    75884, 76016, 76060, 76083, 76104, 76125, 76200, 76219, 76295, 76301, 76305, 76311, 76316, 76323, 76331, 76336,
+    76342, 76372, 76480, 76579, 76590, 76596, 76614, 76621, 76628, 76661, 76769, 76861, 76879, 76897, 76929, 77002,
+    77060, 77079, 77237, 77256, 77414, 77434, 77594, 77606, 77657, 77724, 77742, 77766, 77810, 77839, 78077, 78155,
+    78166, 78186, 78251, 78262, 78321, 78333, 78389, 78402, 78468, 78483, 78538, 78561, 78629, 78638, 78698, 78710,
+    78770, 78794, 78865, 78884, 78944, 78958, 79013, 79032, 79192, 79250, 79278, 79469, 79530, 79555, 79725, 79743,
+    79899, 79920, 79978, 80019, 80033, 80054, 80191, 80258, 80266, 80341, 80392, 80403, 80545, 80571, 80588, 80636,
+    80665, 80679, 80724, 80741, 80820, 80867, 80967, 81035, 81059, 81100, 81222, 81247, 81318, 81377, 81429, 81481,
+    81486, 81564, 81642, 81656, 81804, 81821, 81975, 81986, 82130, 82148, 82153, 82162, 82181, 82339, 82368, 82396,
+    82453, 82494, 82515, 82605, 82644, 82678, 82693, 82761, 82798, 82869, 82930, 83078, 83143, 83159, 83225, 83276,
+    83284, 83324, 83349, 83361, 83379, 83398, 83472, 83531, 83539, 83570, 83578, 83609, 83617, 83648, 83665, 83726,
+    83735, 83747, 83786, 83807, 83969, 83987, 84143, 84176, 84196, 84234, 84276, 84304, 84339, 84486, 84627, 84640,
+    84831, 84929, 84949, 84967, 84992, 85034, 85082, 85102, 85123, 85179, 85187, 85205, 85224, 85249, 85267, 85327,
+    85396, 85409, 85422, 85442, 85479, 85491, 85509, 85582, 85656, 85692, 85789, 85851, 85868, 85887, 85926, 85947,
+    85979, 86030, 86070, 86121, 86161, 86198, 86246, 86285, 86339, 86381, 86437, 86480, 86542, 86588, 86596, 86636,
+    86660, 86881, 87023, 87044, 87057, 87111, 87168, 87178, 87260, 87318, 87330, 87376, 87396, 87411, 87457, 87472,
+    87521, 87532, 87581, 87597, 87646, 87665, 87678, 87722, 87745, 87795, 87808, 87969, 88041, 88053, 88144, 88161,
+    88180, 88200, 88217, 88236, 88256, 88274, 88286, 88345, 88374, 88389, 88398, 88414, 88426, 88492, 88558, 88566,
+    88624, 88640, 88688, 88726, 88743, 88761, 88769, 88793, 88803, 88812, 88822, 88862, 88895, 88905, 88957, 88984,
+    89041, 89091, 89111, 89125, 89183, 89191, 89329, 89348, 89506, 89525, 89683, 89699, 89710, 89730, 89742, 89763,
+    89792, 89824, 89829, 89862, 89911, 89923, 89987, 90036, 90065, 90091, 90118, 90201, 90258, 90270, 90332, 90379,
+    90387, 90399, 90444, 90493, 90543, 90560, 90712, 90800, 90811, 90825, 90837, 90849, 90855, 90864, 90875, 90882,
+    90888, 90907, 90924, 90931, 90960, 91150, 91333, 91342, 91349, 91353, 91358, 91367, 91369, 91400, 91490, 91570,
+    91584, 91596, 91608, 91625, 91638, 91649, 91660, 91676, 91687, 91693, 91708, 91738, 91933, 92120, 92133, 92235,
+    92280, 92386, 92435, 92598, 92669, 92680, 92691, 92747, 92763, 92810, 92826, 92874, 92885, 93066, 93159, 93172,
+    93228, 93254, 93341, 93393, 93408, 93451, 93467, 93528, 93562, 93573, 93683, 93762, 93810, 93830, 93846, 93858,
+    93880, 93949, 93967, 94036, 94086, 94110, 94226, 94327, 94378, 94422, 94444, 94478, 94519, 94580, 94607, 94764,
+    94890, 94913, 95020, 95098, 95103, 95124, 95217, 95281, 95296, 95321, 95342, 95412, 95424, 95471, 95493, 95540,
+    95592, 95686, 95758, 95850, 95920, 95929, 95941, 96085, 96094, 96110, 96232, 96280, 96296, 96320, 96337, 96354,
+    96379, 96390, 96408, 96532, 96582, 96600, 96626, 96635, 96651, 96773, 96821, 96837, 96861, 96872, 96890, 97014,
+    97064, 97082, 97108, 97117, 97135, 97257, 97305, 97323, 97349, 97360, 97536, 97544, 97709, 97797, 97820, 97889,
+    97942, 97966, 97996, 98020, 98049, 98165, 98216, 98378, 98472, 98666, 98792, 98821, 98830, 98843, 98852, 98865,
+    99047, 99193, 99212, 99248, 99266, 99410, 99461, 99488, 99502, 99565, 99634, 99653, 99700, 99728, 99788, 99820,
+    99894, 99931, 99952, 100038, 100108, 100131, 100219, 100291, 100312, 100398, 100468, 100491, 100579, 100651, 100674, 100762,
+    100834, 100858, 100947, 101020, 101037, 101176, 101261, 101286, 101447, 101534, 101683, 101752, 101775, 101811, 101867, 101901,
+    101993, 102055, 102072, 102140, 102211, 102223, 102354, 102423, 102449, 102495, 102530, 102555, 102656, 102705, 102781, 102819,
+    102834, 102870, 102926, 102935, 102943, 102954, 102974, 103382, 103634, 103652, 103670, 103729, 103746, 103808, 103832, 103890,
+    103915, 103940, 103990, 104012, 104025, 104061, 104082, 104091, 104136, 104148, 104159, 104217, 104238, 104273, 104307, 104339,
+    104370, 104378, 104386, 104395, 104425, 104547, 104603, 104626, 104649, 104677, 104712, 104730, 104784, 104843, 104935, 105012,
+    105031, 105051, 105072, 105172, 105186, 105338, 105429, 105443, 105496, 105519, 105606, 105661, 105850, 105966, 106016, 106044,
+    106072, 106173, 106241, 106249, 106419, 106428, 106477, 106487, 106538, 106557, 106715, 106731, 106754, 106821, 106842, 106910,
+    106937, 107257, 107407, 107426, 107496, 107514, 107572, 107589, 107658, 107667, 107689, 107714, 107777, 107801, 107827, 107903,
+    107921, 107948, 108014, 108040, 108170, 108249, 108269, 108292, 108312, 108373, 108386, 108439, 108459, 108477, 108550, 108562,
+    108635, 108661, 108791, 108870, 108895, 109032, 109118, 109145, 109176, 109244, 109293, 109361, 109410, 109432, 109439, 109485,
+    109510, 109525, 109580, 109616, 109662, 109700, 109746, 109784, 109818, 109868, 109887, 109892, 110019, 110103, 110108, 110331,
+    110453, 110469, 110485, 110495, 110507, 110519, 110549, 110761, 110949, 110963, 110982, 111002, 111041, 111070, 111094, 111194,
+    111236, 111264, 111275, 111292, 111308, 111396, 111452, 111541, 111598, 111689, 111748, 111753, 111846, 111907, 111912, 112010,
+    112076, 112094, 112142, 112172, 112190, 112208, 112227, 112279, 112336, 112352, 112404, 112446, 112496, 112528, 112538, 112556,
+    112612, 112632, 112656, 112687, 112714, 112748, 112757, 112844, 112917, 112948, 112980, 112992, 113000, 113018, 113030, 113174,
+    113182, 113200, 113342, 113442, 113452, 113594, 113619, 113659, 113689, 113711, 113784, 113828, 113849, 113866, 113923, 113937,
+    114124, 114250, 114279, 114293, 114306, 114379, 114401, 114508, 114574, 114600, 114717, 114778, 114809, 114913, 114929, 114992,
+    115057, 115120, 115185, 115190, 115237, 115274, 115292, 115448, 115462, 115475, 115525, 115540, 115709, 115806, 115826, 115857,
+    115892, 115917, 115935, 115967, 116061, 116085, 116253, 116266, 116412, 116422, 116439, 116463, 116488, 116658, 116666, 116784,
+    116851, 116883, 116903, 117099, 117268, 117287, 117313, 117382, 117447, 117516, 117581, 117715, 117761, 117776, 117947, 118018,
+    118038, 118046, 118188, 118260, 118282, 118304, 118336, 118368, 118388, 118409, 118434, 118459, 118483, 118518, 118535, 118553,
+    118577, 118597, 118626, 118648, 118670, 118685, 118700, 118717, 118735, 118759, 118778, 118797, 118821, 118841, 118864, 118875,
+    118885, 118899, 118914, 118930, 118947, 118964, 118988, 118998, 119011, 119019, 119027, 119036, 119042, 119048, 119056, 119062,
+    119075, 119087, 119092, 119099, 119106, 119113, 119118, 119126, 119133, 119143, 119149, 119156, 119163, 119169, 119174, 119182,
+    119187, 119193, 119197, 119205, 119211, 119217, 119223, 119238, 119244, 119248, 119258, 119263, 119271, 119292, 119312, 119324,
+    119341, 119363, 119376, 119384, 119397, 119410, 119428, 119441, 119452, 119463, 119467, 119476, 119495, 119500, 119512, 119527,
+    119548, 119555, 119560, 119565, 119570, 119576, 119586, 119599, 119625, 119641, 119650, 119665, 119683, 119726, 119741, 119759,
+    119802, 119822, 119869, 119945, 119960, 120159, 120367, 120387, 120398, 120416, 120442, 120461, 120478, 120503, 120521, 120549,
+    120561, 120572, 120596, 120615, 120636, 120709, 120721, 120743, 120921, 120941, 121042, 121113, 121129, 121281, 121297, 121314,
+    121427, 121480, 121505, 121528, 121652, 121736, 121752, 121770, 121897, 121974, 121992, 122239, 122398, 122419, 122755, 122964,
+    122979, 123163, 123267, 123341, 123359, 123549, 123656, 123733, 123757, 123959, 124072, 124155, 124164, 124336, 124434, 124502,
+    124515, 124661, 124681, 124718, 124746, 124768, 124784, 124843, 124861, 124927, 124985, 125015, 125036, 125133, 125234, 125252,
+    125323, 125388, 125412, 125523, 125611, 125632, 125734, 125816, 125840, 126042, 126155, 126238, 126266, 126442, 126451, 126464,
+    126475, 126488, 126499, 126520, 126543, 126551, 126578, 126603, 126621, 126729, 126853, 126876, 126923, 126972, 126992, 127019,
+    127041, 127170, 127267, 127289, 127418, 127515, 127535, 127572, 127611, 127631, 127668, 127707, 127715, 127885, 127982, 128049,
+    128069, 128096, 128294, 128465, 128477, 128621, 128643, 128664, 128694, 128746, 128756, 128930, 129029, 129098, 129121, 129138,
+    129295, 129385, 129403, 129416, 129435, 129547, 129634, 129654, 129769, 129858, 129875, 129884, 129901, 129920, 129946, 129969,
+    130169, 130281, 130363, 130390, 130564, 130578, 130780, 130893, 130976, 131004, 131180, 131190, 131364, 131463, 131532, 131546,
+    131694, 131705, 131731, 131876, 132010, 132029, 132052, 132252, 132364, 132446, 132469, 132669, 132781, 132863, 132890, 133064,
+    133080, 133266, 133371, 133446, 133466, 133626, 133642, 133828, 133933, 134008, 134028, 134188, 134197, 134213, 134230, 134240,
+    134250, 134260, 134278, 134286, 134296, 134306, 134316, 134334, 134345, 134521, 134621, 134691, 134702, 134878, 134978, 135048,
+    135063, 135213, 135238, 135309, 135323, 135384, 135411, 135439, 135447, 135617, 135714, 135781, 135791, 135965, 136064, 136133,
+    136155, 136169, 136317, 136344, 136552, 136668, 136754, 136785, 136967, 136998, 137025, 137045, 137098, 137148, 137164, 137228,
+    137285, 137301, 137328, 137340, 137365, 137391, 137410, 137431, 137452, 137464, 137478, 137660, 137763, 137836, 137849, 138029,
+    138131, 138203, 138273, 138306, 138526, 138563, 138759, 138819, 139037, 139073, 139267, 139483, 139518, 139710, 139721, 139779,
+    139788, 139836, 139860, 139874, 140056, 140159, 140232, 140250, 140406, 140429, 140443, 140625, 140728, 140801, 140817, 141003,
+    141108, 141183, 141212, 141235, 141285, 141386, 141457, 141472, 141488, 141640, 141656, 141842, 141862, 142024, 142039, 142223,
+    142327, 142401, 142420, 142578, 142593, 142616, 142679, 142725, 142755, 142765, 142939, 143038, 143107, 143120, 143141, 143196,
+    143242, 143263, 143459, 143569, 143649, 143674, 143844, 143874, 144088, 144207, 144296, 144330, 144518, 144541, 144564, 144623,
+    144645, 144702, 144746, 144798, 144820, 144828, 144849, 144946, 145013, 145071, 145125, 145189, 145249, 145464, 145545, 145562,
+    145574, 145718, 145740, 145765, 145780, 145964, 146068, 146142, 146157, 146341, 146445, 146519, 146535, 146721, 146826, 146901,
+    146914, 146935, 147131, 147241, 147321, 147346, 147516, 147545, 147757, 147875, 147963, 147996, 148182, 148211, 148423, 148541,
+    148629, 148662, 148848, 148869, 149065, 149175, 149255, 149280, 149450, 149467, 149655, 149761, 149837, 149858, 150020, 150043,
+    150243, 150355, 150437, 150464, 150638, 150661, 150718, 150737, 150795, 150987, 151095, 151173, 151196, 151362, 151385, 151404,
+    151424, 151459, 151499, 151509, 151683, 151782, 151851, 151865, 152013, 152034, 152230, 152340, 152420, 152434, 152616, 152719,
+    152792, 152801, 152972, 153165, 153255, 153268, 153414, 153473, 153497, 153657, 153734, 153793, 153835, 153865, 153933, 153959,
+    153983, 154011, 154039, 154064, 154145, 154206, 154220, 154235, 154275, 154282, 154450, 154546, 154612, 154624, 154802, 154903,
+    154974, 154990, 155142, 155159, 155199, 155220, 155233, 155272, 155292, 155305, 155325, 155349, 155364, 155379, 155389, 155563,
+    155662, 155731, 155758, 155966, 156082, 156168, 156199, 156381, 156413, 156430, 156545, 156627, 156645, 156835, 156942, 157019,
+    157041, 157205, 157218, 157398, 157500, 157572, 157746, 157846, 157916, 157931, 158081, 158094, 158274, 158376, 158448, 158465,
+    158619, 158640, 158836, 158946, 159026, 159051, 159221, 159232, 159240, 159307, 159374, 159386, 159405, 159422, 159496, 159528,
+    159554, 159568, 159581, 159633, 159650, 159838, 159944, 160020, 160034, 160216, 160319, 160392, 160430, 160472, 160490, 160513,
+    160533, 160545, 160604, 160676, 160700, 160710, 160753, 160768, 160952, 161056, 161130, 161149, 161307, 161328, 161339, 161391,
+    161424, 161445, 161462, 161595, 161676, 161691, 161875, 161979, 162053, 162072, 162230, 162245, 162313, 162397, 162414, 162602,
+    162623, 162787, 162795, 162965, 163062, 163129, 163141, 163285, 163307, 163329, 163386, 163407, 163462, 163483, 163499, 163685,
+    163790, 163865, 163885, 164045, 164103, 164113, 164171, 164194, 164219, 164270, 164292, 164305, 164364, 164378, 164426, 164452,
+    164471, 164519, 164558, 164577, 164598, 164641, 164668, 164727, 164749, 164947, 165058, 165139, 165165, 165337, 165354, 165542,
+    165648, 165724, 165745, 165907, 165917, 166091, 166190, 166259, 166281, 166295, 166443, 166462, 166654, 166762, 166840, 166863,
+    167029, 167054, 167077, 167146, 167226, 167239, 167293, 167347, 167357, 167409, 167415, 167459, 167470, 167514, 167525, 167576,
+    167625, 167674, 167718, 167726, 167749, 167759, 167933, 168032, 168101, 168115, 168263, 168272, 168288, 168308, 168563, 168643,
+    168653, 168676, 168700, 168719, 168785, 168834, 168850, 168917, 168979, 169017, 169060, 169228, 169325, 169392, 169404, 169548,
+    169563, 169747, 169851, 169925, 169940, 170124, 170228, 170302, 170314, 170326, 170342, 170358, 170383, 170496, 170602, 170611,
+    170783, 170881, 170949, 170970, 170995, 171008, 171154, 171171, 171183, 171196, 171254, 171285, 171301, 171480, 171588, 171618,
+    171640, 171791, 171875, 171883, 172062, 172079, 172233, 172265, 172488, 172622, 172637, 172680, 172694, 172750, 172765, 172948,
+    173067, 173083, 173099, 173112, 173180, 173236, 173247, 173293, 173343, 173358, 173432, 173445, 173517, 173540, 173559, 173576,
+    173688, 173785, 173802, 173914, 174011, 174202, 174349, 174360, 174407, 174468, 174486, 174556, 174579, 174587, 174645, 174758,
+    174864, 174994, 175098, 175225, 175326, 175346, 175368, 175433, 175452, 175513, 175533, 175727, 175836, 175915, 175947, 176165,
+    176286, 176377, 176413, 176605, 176629, 176797, 176805, 176975, 177072, 177139, 177239, 177309, 177324, 177474, 177644, 177741,
+    177808, 177822, 178004, 178107, 178180, 178198, 178354, 178366, 178510, 178543, 178569, 178588, 178623, 178653, 178809, 178926,
+    178952, 178976, 179008, 179025, 179042, 179059, 179076, 179093, 179110, 179298, 179405, 179482, 179504, 179668, 179693, 179751,
+    179812, 179831, 180021, 180129, 180207, 180230, 180396, 180413, 180427, 180443, 180654, 180780, 180807, 180836, 180969, 181053,
+    181081, 181211, 181293, 181313, 181343, 181393, 181408, 181481, 181557, 181583, 181603, 181714, 181762, 181787, 181804, 181827,
+    181963, 182045, 182071, 182091, 182223, 182292, 182310, 182705, 182958, 182986, 183002, 183062, 183090, 183102, 183169, 183208,
+    183232, 183250, 183273, 183331, 183347, 183409, 183430, 183480, 183521, 183535, 183553, 183581, 183751, 183848, 183915, 183927,
+    184071, 184083, 184103, 184297, 184406, 184485, 184509, 184677, 184690, 184822, 184899, 184929, 184952, 184966, 184976, 185150,
+    185249, 185318, 185332, 185480, 185497, 185685, 185791, 185867, 185888, 186050, 186068, 186090, 186118, 186174, 186208, 186228,
+    186325, 186392, 186413, 186430, 186483, 186511, 186531, 186556, 186568, 186712, 186727, 186911, 187015, 187089, 187108, 187266,
+    187438, 187536, 187604, 187654, 187669, 187853, 187957, 188031, 188044, 188197, 188215, 188230, 188414, 188518, 188592, 188611,
+    188776, 188793, 188981, 189087, 189163, 189184, 189346, 189518, 189616, 189684, 189699, 189883, 189987, 190061, 190080, 190238,
+    190251, 190397, 190473, 190500, 190514, 190608, 190625, 190639, 190664, 190682, 190817, 190905, 191009, 191021, 191044, 191109,
+    191143, 191168, 191270, 191297, 191303, 191312, 191441, 191486, 191503, 191509, 191529, 191617, 191641, 191651, 191673, 191698,
+    191774, 191802, 191833, 191847, 191909, 191965, 192167, 192258, 192350, 192441, 192495, 192522, 192628, 192655, 192759, 192788,
+    192806, 192821, 192837, 192860, 193060, 193087, 193263, 193279, 193289, 193305, 193322, 193339, 193378, 193406, 193436, 193454,
+    193579, 193596, 193624, 193655, 193748, 193824, 193841, 194032, 194223, 194240, 194431, 194622, 194639, 194702, 194748, 194762,
+    194777, 194794, 194809, 194826, 194844, 194855, 194898, 194911, 194965, 194979, 194992, 195008, 195035, 195048, 195125, 195170,
+    195190, 195386, 195490, 195505, 195524, 195716, 195824, 195902, 195925, 196091, 196117, 196323, 196438, 196523, 196553, 196733,
+    196741, 196911, 197008, 197075, 197244, 197256, 197400, 197420, 197587, 197701, 197875, 197974, 198043, 198059, 198245, 198350,
+    198425, 198445, 198605, 198619, 198767, 198789, 198800, 198846, 198858, 198905, 198923, 198996, 199015, 199032, 199058, 199091,
+    199106, 199290, 199313, 199416, 199489, 199508, 199666, 199686, 199880, 199989, 200068, 200092, 200260, 200282, 200304, 200326,
+    200340, 200522, 200625, 200698, 200711, 200737, 200814, 200906, 200912, 200927, 200948, 201103, 201186, 201202, 201227, 201431,
+    201545, 201629, 201658, 201836, 201856, 202050, 202159, 202238, 202247, 202419, 202517, 202585, 202607, 202628, 202824, 202934,
+    203014, 203032, 203157, 203327, 203424, 203491, 203512, 203524, 203668, 203685, 203873, 203979, 204055, 204076, 204238, 204248,
+    204347, 204416, 204635, 204720, 204745, 204759, 204907, 204923, 205108, 205120, 205297, 205313, 205498, 205728, 205847, 205853,
+    205864, 205870, 205878, 205886, 205896, 205906, 205915, 205920, 205936, 205949, 205969, 205982, 205994, 206019, 206036, 206082,
+    206114, 206127, 206178, 206201, 206245, 206275, 206286, 206335, 206360, 206382, 206420, 206441, 206589, 206607, 206621, 206638,
+    206724, 206794, 206822, 206844, 206927, 207000, 207015, 207040, 207072, 207082, 207125, 207141, 207152, 207328, 207428, 207498,
+    207513, 207663, 207688, 207704, 207723, 207760, 207781, 207977, 208087, 208167, 208192, 208362, 208380, 208487, 208564, 208574,
+    208634, 208672, 208693, 208714, 208763, 208779, 208860, 208944, 208961, 209147, 209253, 209329, 209350, 209512, 209537, 209556,
+    209748, 209856, 209934, 209957, 210123, 210276, 210441, 210600, 210777, 210924, 211101, 211114, 211174, 211207, 211231, 211302,
+    211346, 211491, 211642, 211791, 211821, 211831, 212005, 212019, 212201, 212376, 212553, 212571, 212761, 212777, 212792, 212976,
+    213125, 213300, 213475, 213636, 213797, 213968, 214119, 214270, 214415, 214564, 214747, 214904, 215059, 215216, 215235, 215427,
+    215535, 215613, 215636, 215803, 215960, 216121, 216131, 216176, 216221, 216235, 216295, 216305, 216479, 216578, 216647, 216661,
+    216810, 216963, 217122, 217271, 217303, 217474, 217495, 217691, 217801, 217881, 217906, 218077, 218266, 218288, 218478, 218648,
+    218781, 218824, 218969, 219128, 219287, 219448, 219465, 219653, 219671, 219861, 220032, 220219, 220406, 220437, 220653, 220773,
+    220863, 220898, 221089, 221260, 221423, 221598, 221617, 221673, 221840, 221989, 222160, 222317, 222339, 222537, 222680, 222833,
+    222851, 222864, 222897, 222927, 223076, 223259, 223424, 223579, 223755, 223906, 224092, 224164, 224181, 224203, 224287, 224351,
+    224370, 224452, 224514, 224685, 224708, 224908, 225071, 225228, 225254, 225460, 225575, 225660, 225690, 225871, 225929, 226005,
+    226018, 226075, 226234, 226393, 226401, 226571, 226668, 226735, 226747, 226892, 227037, 227198, 227216, 227406, 227513, 227590,
+    227612, 227777, 227794, 227817, 227886, 227918, 227936, 228126, 228140, 228322, 228495, 228658, 228807, 228844, 229072, 229198,
+    229294, 229335, 229538, 229555, 229743, 229849, 229925, 229946, 230109, 230276, 230297, 230493, 230603, 230683, 230708, 230879,
+    230930, 230953, 230972, 231030, 231051, 231076, 231108, 231145, 231163, 231224, 231315, 231505, 231654, 231666, 231844, 231945,
+    232016, 232032, 232185, 232355, 232500, 232659, 232818, 232965, 232977, 233085, 233163, 233182, 233201, 233272, 233343, 233361,
+    233596, 233791, 233834, 233860, 233909, 233925, 234003, 234024, 234220, 234413, 234582, 234727, 234743, 234751, 234921, 235018,
+    235085, 235097, 235242, 235393, 235404, 235580, 235595, 235779, 235936, 236081, 236099, 236289, 236479, 236644, 236836, 237003,
+    237176, 237272, 237380, 237457, 237475, 237494, 237719, 237849, 237857, 238027, 238039, 238217, 238362, 238531, 238623, 238705,
+    238725, 238742, 238830, 238887, 238897, 239068, 239221, 239235, 239246, 239395, 239558, 239566, 239736, 239833, 239900, 239912,
+    240057, 240067, 240241, 240340, 240409, 240423, 240572, 240717, 240876, 241035, 241198, 241357, 241504, 241661, 241851, 241868,
+    241918, 242134, 242301, 242320, 242532, 242677, 242838, 243026, 243189, 243338, 243366, 243375, 243425, 243441, 243627, 243732,
+    243807, 243827, 243988, 244092, 244166, 244325, 244494, 244651, 244830, 244999, 245146, 245157, 245333, 245433, 245503, 245518,
+    245669, 245836, 246007, 246025, 246215, 246405, 246550, 246713, 246887, 247022, 247067, 247216, 247246, 247254, 247271, 247297,
+    247304, 247349, 247375, 247388, 247446, 247475, 247525, 247708, 247899, 248065, 248238, 248386, 248581, 248751, 248938, 249127,
+    249342, 249532, 249737, 249917, 249976, 250165, 250329, 250518, 250745, 250947, 251134, 251296, 251491, 251661, 251703, 251728,
+    251897, 252041, 252230, 252399, 252543, 252716, 252864, 253049, 253209, 253238, 253587, 253911, 253940, 254113, 254302, 254318,
+    254938, 254950, 255409, 255837, 256026, 256203, 256355, 256397, 256422, 256617, 256735, 256850, 257037, 257066, 257421, 257743,
+    257817, 257846,
 };
 
 constexpr std::int64_t integers[] = {
@@ -5995,29 +6586,29 @@ constexpr std::uint16_t code[] = {
     11, 4, 2, 21, 4, 0, 46, 40, 56, 57, 11, 4, 3, 21, 4, 0,
     46, 40, 41, 61, 1, 4, 0, 11, 17, 14, 0, 46, 13, 0, 4, 2,
     46, 40, 61, 1, 4, 0, 11, 17, 14, 0, 45, 13, 0, 4, 3, 46,
-    40, 61, 0, 11, 23, 7, 3043, 24, 7, 3044, 24, 7, 3045, 24, 51, 61,
-    0, 11, 23, 7, 3043, 24, 7, 3048, 24, 51, 61, 0, 11, 23, 7, 3043,
-    24, 7, 3048, 24, 7, 3051, 24, 7, 3052, 24, 7, 3053, 24, 7, 3054, 24,
-    7, 3055, 24, 7, 3056, 24, 7, 3057, 24, 7, 3058, 24, 7, 3059, 24, 51,
+    40, 61, 0, 11, 23, 7, 3049, 24, 7, 3050, 24, 7, 3051, 24, 51, 61,
+    0, 11, 23, 7, 3049, 24, 7, 3055, 24, 51, 61, 0, 11, 23, 7, 3049,
+    24, 7, 3055, 24, 7, 3059, 24, 7, 3060, 24, 7, 3061, 24, 7, 3062, 24,
+    7, 3063, 24, 7, 3064, 24, 7, 3065, 24, 7, 3066, 24, 7, 3067, 24, 51,
     61, 0, 11, 6, 0, 47, 61, 1, 4, 0, 11, 17, 14, 0, 46, 13,
     0, 4, 24, 45, 40, 61, 1, 4, 0, 11, 17, 14, 0, 46, 13, 0,
     4, 59, 46, 40, 61, 1, 4, 1, 11, 17, 14, 0, 46, 13, 0, 4,
     12, 46, 40, 61, 1, 6, 0, 11, 17, 14, 0, 46, 13, 0, 6, 1,
     46, 40, 61, 1, 6, 0, 11, 17, 14, 0, 46, 13, 0, 6, 2, 46,
     40, 61, 1, 6, 0, 11, 17, 14, 0, 46, 13, 0, 6, 3, 45, 40,
-    61, 0, 11, 23, 7, 3081, 24, 7, 3082, 24, 7, 3022, 24, 7, 3083, 24,
-    51, 61, 0, 11, 23, 7, 3086, 24, 7, 3087, 24, 7, 3088, 24, 7, 3089,
-    24, 7, 3090, 24, 51, 61, 0, 11, 23, 7, 3093, 24, 7, 3094, 24, 7,
-    3095, 24, 7, 3086, 24, 51, 61, 0, 11, 20, 241, 18, 1706, 61, 0, 11,
-    20, 332, 18, 1838, 4, 2, 43, 61, 0, 19, 2610, 10, 1169, 3107, 44, 57,
-    23, 19, 2610, 10, 1169, 3107, 43, 56, 22, 19, 2929, 63, 6, 40, 41, 61,
-    0, 19, 2440, 63, 6, 39, 57, 31, 19, 2440, 10, 14, 3107, 44, 57, 30,
-    19, 2440, 10, 14, 3107, 43, 56, 29, 19, 2927, 63, 6, 40, 41, 41, 61,
-    0, 19, 2402, 10, 22, 3107, 44, 57, 26, 19, 2402, 10, 22, 3107, 43, 56,
+    61, 0, 11, 23, 7, 3097, 24, 7, 3098, 24, 7, 3022, 24, 7, 3099, 24,
+    51, 61, 0, 11, 23, 7, 3103, 24, 7, 3104, 24, 7, 3105, 24, 7, 3106,
+    24, 7, 3107, 24, 51, 61, 0, 11, 23, 7, 3111, 24, 7, 3112, 24, 7,
+    3113, 24, 7, 3103, 24, 51, 61, 0, 11, 20, 241, 18, 1706, 61, 0, 11,
+    20, 332, 18, 1838, 4, 2, 43, 61, 0, 19, 2610, 10, 1169, 3128, 44, 57,
+    23, 19, 2610, 10, 1169, 3128, 43, 56, 22, 19, 2929, 63, 6, 40, 41, 61,
+    0, 19, 2440, 63, 6, 39, 57, 31, 19, 2440, 10, 14, 3128, 44, 57, 30,
+    19, 2440, 10, 14, 3128, 43, 56, 29, 19, 2927, 63, 6, 40, 41, 41, 61,
+    0, 19, 2402, 10, 22, 3128, 44, 57, 26, 19, 2402, 10, 22, 3128, 43, 56,
     25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 24,
-    3107, 44, 57, 26, 19, 2402, 10, 24, 3107, 43, 56, 25, 11, 20, 501, 18,
-    1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 27, 3107, 44, 57, 26, 19,
-    2402, 10, 27, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
+    3128, 44, 57, 26, 19, 2402, 10, 24, 3128, 43, 56, 25, 11, 20, 501, 18,
+    1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 27, 3128, 44, 57, 26, 19,
+    2402, 10, 27, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
     61, 0, 11, 20, 1340, 18, 2114, 63, 6, 39, 57, 19, 11, 20, 1340, 18,
     2114, 53, 332, 41, 61, 0, 11, 20, 1340, 18, 2114, 63, 6, 39, 57, 19,
     11, 20, 1340, 18, 2114, 53, 65, 41, 61, 0, 23, 9, 1347, 24, 9, 1217,
@@ -6030,105 +6621,105 @@ constexpr std::uint16_t code[] = {
     1340, 18, 2114, 53, 1411, 41, 61, 0, 19, 1615, 63, 6, 57, 12, 19, 2941,
     63, 6, 41, 61, 0, 19, 2326, 18, 1838, 4, 2, 43, 61, 0, 19, 2326,
     53, 744, 39, 61, 0, 19, 2326, 53, 869, 39, 61, 0, 11, 53, 194, 57,
-    16, 11, 20, 980, 18, 2424, 10, 982, 3162, 43, 41, 61, 0, 19, 1792, 18,
-    1838, 4, 2, 43, 61, 0, 11, 20, 980, 18, 2424, 10, 982, 3168, 43, 61,
+    16, 11, 20, 980, 18, 2424, 10, 982, 3196, 43, 41, 61, 0, 19, 1792, 18,
+    1838, 4, 2, 43, 61, 0, 11, 20, 980, 18, 2424, 10, 982, 3204, 43, 61,
     1, 19, 2054, 58, 0, 1, 18, 13, 0, 18, 1838, 4, 2, 44, 59, 0,
     1, 7, 4, 0, 43, 61, 1, 19, 2054, 58, 0, 1, 15, 13, 0, 53,
     744, 59, 0, 1, 7, 4, 0, 43, 61, 1, 11, 20, 659, 18, 2093, 18,
     2512, 58, 0, 1, 21, 13, 0, 53, 492, 39, 59, 0, 1, 12, 4, 0,
     43, 61, 0, 19, 1635, 63, 6, 39, 57, 16, 19, 1635, 18, 1838, 4, 3,
     43, 41, 61, 0, 11, 20, 921, 18, 2189, 18, 1838, 4, 3, 43, 61, 0,
-    19, 1635, 60, 3178, 1, 23, 6, 0, 24, 6, 0, 24, 6, 1, 24, 62,
+    19, 1635, 60, 3220, 1, 23, 6, 0, 24, 6, 0, 24, 6, 1, 24, 62,
     382, 1, 63, 17, 61, 0, 19, 2465, 63, 6, 39, 57, 16, 19, 2465, 18,
     1838, 4, 2, 43, 41, 61, 0, 11, 20, 921, 18, 2189, 18, 1838, 4, 2,
-    43, 61, 0, 19, 2465, 60, 3182, 1, 26, 61, 0, 19, 2465, 63, 6, 39,
+    43, 61, 0, 19, 2465, 60, 3226, 1, 26, 61, 0, 19, 2465, 63, 6, 39,
     57, 16, 19, 2465, 18, 1838, 4, 3, 43, 41, 61, 0, 19, 1635, 63, 6,
     39, 57, 14, 19, 2465, 63, 6, 39, 41, 57, 29, 19, 1635, 19, 2465, 60,
-    3185, 2, 18, 2210, 6, 0, 47, 41, 61, 0, 19, 1635, 63, 6, 19, 2465,
-    63, 6, 42, 39, 61, 0, 19, 1635, 19, 2465, 60, 3189, 2, 26, 61, 1,
+    3230, 2, 18, 2210, 6, 0, 47, 41, 61, 0, 19, 1635, 63, 6, 19, 2465,
+    63, 6, 42, 39, 61, 0, 19, 1635, 19, 2465, 60, 3236, 2, 26, 61, 1,
     19, 1758, 58, 0, 1, 23, 13, 0, 18, 1838, 19, 1758, 4, 1, 21, 18,
     1838, 44, 59, 0, 1, 7, 4, 0, 43, 61, 0, 19, 1758, 4, 0, 19,
-    2904, 60, 3193, 3, 4, 0, 4, 255, 29, 61, 0, 19, 1758, 63, 21, 4,
-    1, 32, 61, 0, 19, 2454, 23, 7, 3194, 24, 7, 3195, 24, 7, 3196, 24,
-    7, 3197, 24, 51, 61, 0, 19, 2402, 10, 119, 3107, 44, 57, 26, 19, 2402,
-    10, 119, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
+    2904, 60, 3241, 3, 4, 0, 4, 255, 29, 61, 0, 19, 1758, 63, 21, 4,
+    1, 32, 61, 0, 19, 2454, 23, 7, 3242, 24, 7, 3243, 24, 7, 3244, 24,
+    7, 3245, 24, 51, 61, 0, 19, 2402, 10, 119, 3128, 44, 57, 26, 19, 2402,
+    10, 119, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
     0, 19, 1946, 53, 1366, 57, 12, 19, 1946, 53, 121, 41, 61, 0, 19, 2651,
-    53, 660, 61, 0, 19, 2319, 10, 123, 3205, 43, 61, 0, 19, 1946, 18, 1838,
+    53, 660, 61, 0, 19, 2319, 10, 123, 3256, 43, 61, 0, 19, 1946, 18, 1838,
     19, 2651, 18, 1838, 43, 61, 0, 19, 1946, 18, 1838, 61, 0, 4, 3, 61,
     0, 11, 20, 660, 18, 1655, 53, 333, 39, 61, 0, 11, 20, 1173, 18, 2274,
     63, 6, 61, 0, 19, 1984, 19, 1831, 6, 4, 34, 45, 61, 0, 19, 2072,
     63, 6, 39, 57, 28, 19, 2072, 19, 2996, 6, 4, 34, 46, 56, 27, 19,
     2072, 19, 1831, 6, 4, 34, 46, 40, 41, 61, 0, 19, 2980, 19, 2996, 6,
     4, 34, 45, 56, 20, 19, 2980, 19, 1831, 6, 4, 34, 45, 40, 61, 0,
-    19, 2402, 10, 170, 3107, 44, 57, 26, 19, 2402, 10, 170, 3107, 43, 56, 25,
-    11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 11, 60, 3219, 1, 61,
+    19, 2402, 10, 170, 3128, 44, 57, 26, 19, 2402, 10, 170, 3128, 43, 56, 25,
+    11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 11, 60, 3277, 1, 61,
     0, 19, 1763, 63, 10, 4, 2, 48, 61, 0, 19, 1763, 63, 10, 61, 0,
     19, 2641, 6, 0, 47, 61, 0, 19, 2626, 6, 1, 63, 17, 61, 0, 19,
     2188, 18, 1838, 61, 0, 11, 20, 189, 18, 1838, 4, 2, 43, 61, 0, 11,
     20, 189, 18, 1636, 63, 6, 39, 57, 22, 11, 20, 189, 18, 1636, 18, 1838,
     4, 2, 43, 41, 61, 0, 11, 20, 189, 18, 1637, 63, 6, 39, 57, 22,
     11, 20, 189, 18, 1637, 18, 1838, 4, 2, 43, 41, 61, 0, 4, 2, 11,
-    20, 189, 18, 1636, 11, 20, 189, 18, 1637, 0, 60, 3230, 4, 26, 61, 0,
+    20, 189, 18, 1636, 11, 20, 189, 18, 1637, 0, 60, 3293, 4, 26, 61, 0,
     19, 2642, 6, 0, 47, 61, 0, 19, 2627, 11, 20, 189, 18, 2641, 63, 17,
     61, 0, 11, 20, 189, 18, 1838, 4, 3, 43, 61, 0, 11, 20, 189, 18,
     1636, 63, 6, 39, 57, 22, 11, 20, 189, 18, 1636, 18, 1838, 4, 3, 43,
     41, 61, 0, 11, 20, 189, 18, 1637, 63, 6, 39, 57, 22, 11, 20, 189,
     18, 1637, 18, 1838, 4, 3, 43, 41, 61, 0, 19, 1638, 63, 6, 39, 57,
     16, 19, 1638, 18, 1838, 4, 3, 43, 41, 61, 0, 4, 3, 11, 20, 189,
-    18, 1636, 11, 20, 189, 18, 1637, 19, 1638, 60, 3230, 4, 26, 61, 0, 19,
+    18, 1636, 11, 20, 189, 18, 1637, 19, 1638, 60, 3293, 4, 26, 61, 0, 19,
     2643, 6, 0, 47, 61, 0, 19, 2628, 11, 20, 189, 18, 2641, 63, 17, 61,
-    0, 19, 2402, 10, 200, 3107, 44, 57, 26, 19, 2402, 10, 200, 3107, 43, 56,
+    0, 19, 2402, 10, 200, 3128, 44, 57, 26, 19, 2402, 10, 200, 3128, 43, 56,
     25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2980, 11, 20,
-    206, 18, 2450, 45, 61, 0, 19, 2402, 10, 223, 3107, 44, 57, 26, 19, 2402,
-    10, 223, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
+    206, 18, 2450, 45, 61, 0, 19, 2402, 10, 223, 3128, 44, 57, 26, 19, 2402,
+    10, 223, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
     1, 19, 2014, 58, 0, 1, 15, 11, 13, 0, 49, 59, 0, 1, 7, 4,
-    0, 43, 61, 0, 19, 2014, 60, 3256, 1, 61, 2, 19, 1706, 39, 56, 28,
-    19, 2657, 58, 0, 1, 24, 13, 0, 18, 2860, 10, 1459, 3259, 43, 59, 0,
+    0, 43, 61, 0, 19, 2014, 60, 3327, 1, 61, 2, 19, 1706, 39, 56, 28,
+    19, 2657, 58, 0, 1, 24, 13, 0, 18, 2860, 10, 1459, 3331, 43, 59, 0,
     1, 12, 4, 1, 43, 40, 57, 57, 19, 1706, 56, 56, 19, 2657, 58, 1,
-    1, 52, 13, 1, 18, 2860, 10, 1459, 3259, 43, 59, 1, 1, 40, 4, 0,
+    1, 52, 13, 1, 18, 2860, 10, 1459, 3331, 43, 59, 1, 1, 40, 4, 0,
     43, 40, 41, 61, 1, 19, 2657, 58, 0, 1, 23, 13, 0, 18, 1838, 19,
     2657, 4, 1, 21, 18, 1838, 44, 59, 0, 1, 7, 4, 0, 43, 61, 0,
-    19, 2657, 63, 21, 61, 0, 19, 2657, 19, 2286, 21, 18, 2860, 10, 1459, 3259,
+    19, 2657, 63, 21, 61, 0, 19, 2657, 19, 2286, 21, 18, 2860, 10, 1459, 3331,
     44, 61, 0, 19, 2348, 53, 133, 61, 0, 19, 2348, 18, 1838, 61, 1, 19,
     2422, 58, 0, 1, 23, 13, 0, 18, 2424, 19, 2422, 4, 1, 21, 18, 2424,
     44, 59, 0, 1, 7, 4, 0, 43, 61, 1, 19, 2422, 58, 0, 1, 15,
     13, 0, 53, 244, 59, 0, 1, 7, 4, 0, 43, 61, 0, 19, 2402, 10,
-    248, 3107, 44, 57, 26, 19, 2402, 10, 248, 3107, 43, 56, 25, 11, 20, 501,
-    18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 251, 3107, 44, 57, 26,
-    19, 2402, 10, 251, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
-    41, 61, 0, 19, 1745, 10, 268, 3107, 44, 57, 26, 19, 1745, 10, 268, 3107,
+    248, 3128, 44, 57, 26, 19, 2402, 10, 248, 3128, 43, 56, 25, 11, 20, 501,
+    18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 251, 3128, 44, 57, 26,
+    19, 2402, 10, 251, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
+    41, 61, 0, 19, 1745, 10, 268, 3128, 44, 57, 26, 19, 1745, 10, 268, 3128,
     43, 56, 25, 11, 20, 265, 18, 2922, 63, 6, 40, 41, 61, 1, 19, 2500,
     58, 0, 1, 16, 13, 0, 19, 2538, 49, 59, 0, 1, 7, 4, 0, 43,
     61, 0, 11, 20, 1150, 18, 2597, 63, 21, 4, 1, 46, 61, 0, 11, 20,
     1150, 18, 2597, 4, 1, 21, 63, 6, 39, 57, 29, 11, 20, 1150, 18, 2597,
-    4, 1, 21, 18, 2513, 10, 864, 3294, 43, 41, 61, 0, 19, 2402, 10, 295,
-    3107, 44, 57, 26, 19, 2402, 10, 295, 3107, 43, 56, 25, 11, 20, 501, 18,
-    1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 298, 3107, 44, 57, 26, 19,
-    2402, 10, 298, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 316, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 316, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
-    6, 40, 41, 61, 0, 11, 60, 3313, 1, 61, 0, 19, 1659, 18, 1838, 61,
+    4, 1, 21, 18, 2513, 10, 864, 3374, 43, 41, 61, 0, 19, 2402, 10, 295,
+    3128, 44, 57, 26, 19, 2402, 10, 295, 3128, 43, 56, 25, 11, 20, 501, 18,
+    1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 298, 3128, 44, 57, 26, 19,
+    2402, 10, 298, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 316, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 316, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    6, 40, 41, 61, 0, 11, 60, 3395, 1, 61, 0, 19, 1659, 18, 1838, 61,
     0, 19, 1803, 63, 6, 39, 57, 13, 19, 1803, 53, 945, 41, 57, 28, 19,
-    1803, 53, 372, 56, 27, 19, 1803, 7, 3314, 43, 40, 41, 61, 0, 19, 2965,
-    6, 0, 48, 61, 0, 19, 2402, 10, 350, 3107, 44, 57, 26, 19, 2402, 10,
-    350, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0,
+    1803, 53, 372, 56, 27, 19, 1803, 7, 3396, 43, 40, 41, 61, 0, 19, 2965,
+    6, 0, 48, 61, 0, 19, 2402, 10, 350, 3128, 44, 57, 26, 19, 2402, 10,
+    350, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0,
     11, 20, 980, 18, 2424, 19, 2350, 18, 2424, 43, 61, 0, 19, 1887, 63, 21,
     4, 1, 47, 57, 31, 19, 1887, 63, 21, 4, 1, 43, 56, 30, 19, 1887,
     4, 1, 21, 18, 1917, 4, 1, 44, 40, 41, 61, 0, 19, 2901, 10, 371,
-    3107, 44, 57, 23, 19, 2901, 10, 371, 3107, 43, 56, 22, 19, 2933, 63, 6,
-    40, 41, 61, 0, 19, 1887, 60, 3326, 1, 61, 0, 11, 20, 430, 18, 2274,
-    23, 7, 3327, 24, 7, 3328, 24, 51, 61, 0, 11, 20, 430, 18, 2543, 63,
+    3128, 44, 57, 23, 19, 2901, 10, 371, 3128, 43, 56, 22, 19, 2933, 63, 6,
+    40, 41, 61, 0, 19, 1887, 60, 3413, 1, 61, 0, 11, 20, 430, 18, 2274,
+    23, 7, 3414, 24, 7, 3415, 24, 51, 61, 0, 11, 20, 430, 18, 2543, 63,
     24, 23, 9, 61, 24, 9, 373, 24, 9, 747, 24, 9, 1034, 24, 33, 63,
     21, 4, 1, 43, 61, 0, 11, 20, 430, 18, 2505, 53, 378, 39, 61, 0,
-    11, 7, 3334, 63, 25, 63, 21, 4, 1, 48, 61, 2, 11, 7, 3338, 63,
-    25, 58, 0, 1, 22, 13, 0, 18, 2610, 10, 380, 3339, 43, 59, 0, 1,
-    10, 4, 1, 46, 56, 52, 11, 7, 3338, 63, 25, 58, 1, 1, 48, 13,
-    1, 18, 2610, 10, 380, 3340, 43, 59, 1, 1, 36, 4, 1, 46, 40, 61,
+    11, 7, 3424, 63, 25, 63, 21, 4, 1, 48, 61, 2, 11, 7, 3429, 63,
+    25, 58, 0, 1, 22, 13, 0, 18, 2610, 10, 380, 3430, 43, 59, 0, 1,
+    10, 4, 1, 46, 56, 52, 11, 7, 3429, 63, 25, 58, 1, 1, 48, 13,
+    1, 18, 2610, 10, 380, 3431, 43, 59, 1, 1, 36, 4, 1, 46, 40, 61,
     1, 19, 1602, 58, 0, 1, 16, 13, 0, 53, 379, 39, 59, 0, 1, 7,
     4, 0, 43, 61, 1, 11, 20, 428, 18, 1752, 58, 0, 1, 18, 13, 0,
     53, 377, 59, 0, 1, 10, 4, 1, 43, 61, 1, 19, 1752, 58, 0, 1,
     15, 13, 0, 53, 986, 59, 0, 1, 7, 4, 2, 46, 61, 0, 11, 20,
-    1403, 18, 1603, 53, 377, 61, 0, 19, 2274, 23, 7, 3352, 24, 7, 3353, 24,
+    1403, 18, 1603, 53, 377, 61, 0, 19, 2274, 23, 7, 3448, 24, 7, 3449, 24,
     51, 61, 0, 19, 2543, 63, 24, 23, 9, 61, 24, 9, 373, 24, 9, 747,
     24, 9, 1034, 24, 33, 63, 21, 4, 1, 43, 61, 0, 19, 2505, 63, 24,
     23, 9, 61, 24, 9, 373, 24, 9, 747, 24, 9, 1034, 24, 33, 63, 21,
@@ -6141,48 +6732,48 @@ constexpr std::uint16_t code[] = {
     1690, 63, 6, 56, 12, 19, 1691, 63, 6, 40, 19, 1690, 63, 6, 39, 56,
     25, 19, 1691, 63, 6, 39, 40, 42, 61, 0, 11, 20, 1005, 18, 1816, 4,
     1, 21, 63, 6, 56, 24, 11, 20, 1005, 18, 1816, 4, 1, 21, 53, 421,
-    40, 61, 0, 11, 20, 953, 18, 2274, 23, 7, 3391, 24, 7, 3392, 24, 7,
-    3393, 24, 7, 3394, 24, 7, 3395, 24, 7, 3396, 24, 7, 3397, 24, 7, 3398,
-    24, 7, 3314, 24, 51, 61, 0, 11, 20, 953, 18, 2274, 23, 7, 3401, 24,
-    7, 3402, 24, 7, 3403, 24, 7, 3404, 24, 7, 3405, 24, 7, 3314, 24, 51,
-    61, 0, 11, 20, 953, 18, 2274, 23, 7, 3408, 24, 7, 3409, 24, 51, 61,
-    0, 19, 2402, 10, 436, 3107, 44, 57, 26, 19, 2402, 10, 436, 3107, 43, 56,
+    40, 61, 0, 11, 20, 953, 18, 2274, 23, 7, 3496, 24, 7, 3497, 24, 7,
+    3498, 24, 7, 3499, 24, 7, 3500, 24, 7, 3501, 24, 7, 3502, 24, 7, 3503,
+    24, 7, 3396, 24, 51, 61, 0, 11, 20, 953, 18, 2274, 23, 7, 3507, 24,
+    7, 3508, 24, 7, 3509, 24, 7, 3510, 24, 7, 3511, 24, 7, 3396, 24, 51,
+    61, 0, 11, 20, 953, 18, 2274, 23, 7, 3515, 24, 7, 3516, 24, 51, 61,
+    0, 19, 2402, 10, 436, 3128, 44, 57, 26, 19, 2402, 10, 436, 3128, 43, 56,
     25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 439,
-    3107, 44, 57, 26, 19, 2402, 10, 439, 3107, 43, 56, 25, 11, 20, 501, 18,
-    1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 442, 3107, 44, 57, 26, 19,
-    2402, 10, 442, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
+    3128, 44, 57, 26, 19, 2402, 10, 439, 3128, 43, 56, 25, 11, 20, 501, 18,
+    1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 442, 3128, 44, 57, 26, 19,
+    2402, 10, 442, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
     61, 0, 19, 1876, 4, 1, 21, 18, 1878, 19, 1876, 19, 2275, 21, 18, 1874,
-    49, 61, 0, 11, 60, 3420, 1, 61, 0, 19, 1876, 63, 21, 61, 0, 19,
-    1856, 10, 472, 3107, 44, 57, 26, 19, 1856, 10, 472, 3107, 43, 56, 25, 11,
-    20, 471, 18, 2921, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 496, 3107, 44,
-    57, 26, 19, 2402, 10, 496, 3107, 43, 56, 25, 11, 20, 858, 18, 2300, 63,
-    6, 40, 41, 61, 0, 19, 2395, 18, 1838, 61, 0, 19, 1692, 10, 512, 3107,
-    44, 57, 26, 19, 1692, 10, 512, 3107, 43, 56, 25, 11, 20, 513, 18, 2916,
-    63, 6, 40, 41, 61, 0, 19, 2402, 10, 518, 3107, 44, 57, 26, 19, 2402,
-    10, 518, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
-    0, 19, 2402, 10, 521, 3107, 44, 57, 26, 19, 2402, 10, 521, 3107, 43, 56,
+    49, 61, 0, 11, 60, 3529, 1, 61, 0, 19, 1876, 63, 21, 61, 0, 19,
+    1856, 10, 472, 3128, 44, 57, 26, 19, 1856, 10, 472, 3128, 43, 56, 25, 11,
+    20, 471, 18, 2921, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 496, 3128, 44,
+    57, 26, 19, 2402, 10, 496, 3128, 43, 56, 25, 11, 20, 858, 18, 2300, 63,
+    6, 40, 41, 61, 0, 19, 2395, 18, 1838, 61, 0, 19, 1692, 10, 512, 3128,
+    44, 57, 26, 19, 1692, 10, 512, 3128, 43, 56, 25, 11, 20, 513, 18, 2916,
+    63, 6, 40, 41, 61, 0, 19, 2402, 10, 518, 3128, 44, 57, 26, 19, 2402,
+    10, 518, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
+    0, 19, 2402, 10, 521, 3128, 44, 57, 26, 19, 2402, 10, 521, 3128, 43, 56,
     25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2116, 63, 6,
     57, 12, 19, 2189, 63, 6, 41, 57, 19, 19, 2274, 63, 6, 41, 61, 0,
     23, 6, 0, 24, 6, 0, 24, 6, 1, 24, 62, 382, 1, 19, 1922, 60,
-    3457, 2, 6, 0, 44, 61, 1, 19, 1677, 58, 0, 1, 15, 13, 0, 53,
-    545, 59, 0, 1, 7, 4, 1, 46, 61, 0, 19, 2402, 10, 558, 3107, 44,
-    57, 26, 19, 2402, 10, 558, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
+    3571, 2, 6, 0, 44, 61, 1, 19, 1677, 58, 0, 1, 15, 13, 0, 53,
+    545, 59, 0, 1, 7, 4, 1, 46, 61, 0, 19, 2402, 10, 558, 3128, 44,
+    57, 26, 19, 2402, 10, 558, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
     6, 40, 41, 61, 1, 19, 1936, 58, 0, 1, 15, 13, 0, 53, 224, 59,
     0, 1, 7, 4, 1, 46, 61, 1, 19, 1936, 58, 0, 1, 15, 13, 0,
-    53, 531, 59, 0, 1, 7, 4, 1, 46, 61, 0, 19, 1936, 60, 3473, 1,
+    53, 531, 59, 0, 1, 7, 4, 1, 46, 61, 0, 19, 1936, 60, 3591, 1,
     61, 0, 19, 2731, 53, 1485, 39, 61, 0, 19, 2362, 63, 6, 39, 57, 16,
     19, 2362, 18, 1838, 4, 2, 43, 41, 61, 0, 19, 2384, 63, 6, 39, 57,
-    16, 19, 2384, 18, 1838, 4, 2, 43, 41, 61, 0, 19, 2402, 10, 576, 3107,
-    44, 57, 26, 19, 2402, 10, 576, 3107, 43, 56, 25, 11, 20, 501, 18, 1888,
-    63, 6, 40, 41, 61, 0, 19, 2402, 10, 591, 3107, 44, 57, 26, 19, 2402,
-    10, 591, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
-    0, 19, 2402, 10, 608, 3107, 44, 57, 26, 19, 2402, 10, 608, 3107, 43, 56,
+    16, 19, 2384, 18, 1838, 4, 2, 43, 41, 61, 0, 19, 2402, 10, 576, 3128,
+    44, 57, 26, 19, 2402, 10, 576, 3128, 43, 56, 25, 11, 20, 501, 18, 1888,
+    63, 6, 40, 41, 61, 0, 19, 2402, 10, 591, 3128, 44, 57, 26, 19, 2402,
+    10, 591, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
+    0, 19, 2402, 10, 608, 3128, 44, 57, 26, 19, 2402, 10, 608, 3128, 43, 56,
     25, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 619,
-    3107, 44, 57, 26, 19, 2402, 10, 619, 3107, 43, 56, 25, 11, 20, 501, 18,
+    3128, 44, 57, 26, 19, 2402, 10, 619, 3128, 43, 56, 25, 11, 20, 501, 18,
     1888, 63, 6, 40, 41, 61, 0, 19, 1785, 63, 6, 39, 57, 14, 19, 1785,
     6, 0, 47, 41, 61, 1, 11, 20, 631, 18, 1887, 58, 0, 1, 18, 13,
     0, 53, 1347, 59, 0, 1, 10, 4, 0, 43, 61, 0, 19, 2347, 53, 630,
-    39, 61, 0, 19, 2772, 10, 627, 3107, 44, 57, 23, 19, 2772, 10, 627, 3107,
+    39, 61, 0, 19, 2772, 10, 627, 3128, 44, 57, 23, 19, 2772, 10, 627, 3128,
     43, 56, 22, 19, 2931, 63, 6, 40, 41, 61, 0, 19, 2347, 18, 3003, 61,
     0, 19, 2347, 18, 1764, 61, 0, 19, 2347, 18, 2883, 19, 3003, 18, 2336, 4,
     2, 21, 63, 17, 61, 0, 19, 2347, 18, 2401, 6, 5, 63, 17, 61, 1,
@@ -6191,9 +6782,9 @@ constexpr std::uint16_t code[] = {
     18, 1838, 61, 0, 11, 20, 974, 18, 2299, 63, 6, 61, 0, 19, 1639, 18,
     1838, 4, 2, 43, 61, 0, 19, 2357, 63, 21, 4, 1, 43, 19, 2358, 63,
     21, 4, 1, 43, 42, 19, 2359, 63, 21, 4, 1, 43, 42, 61, 0, 19,
-    2402, 10, 664, 3107, 44, 57, 26, 19, 2402, 10, 664, 3107, 43, 56, 25, 11,
-    20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 670, 3107, 44,
-    57, 26, 19, 2402, 10, 670, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
+    2402, 10, 664, 3128, 44, 57, 26, 19, 2402, 10, 664, 3128, 43, 56, 25, 11,
+    20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 670, 3128, 44,
+    57, 26, 19, 2402, 10, 670, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
     6, 40, 41, 61, 0, 19, 1954, 19, 2328, 6, 4, 34, 45, 61, 0, 19,
     2988, 19, 2330, 45, 61, 0, 19, 1935, 63, 6, 39, 57, 37, 19, 1935, 19,
     2330, 19, 2988, 32, 6, 4, 34, 46, 56, 36, 19, 1935, 19, 2328, 6, 4,
@@ -6202,9 +6793,9 @@ constexpr std::uint16_t code[] = {
     92, 41, 57, 30, 13, 0, 53, 612, 41, 39, 59, 0, 1, 12, 4, 0,
     43, 61, 0, 19, 2815, 19, 1831, 45, 61, 0, 19, 2996, 63, 6, 39, 57,
     14, 19, 2815, 19, 2996, 45, 41, 61, 0, 19, 1840, 18, 1838, 19, 2383, 18,
-    1838, 43, 61, 0, 19, 2573, 19, 2374, 60, 3539, 2, 61, 0, 11, 60, 3542,
+    1838, 43, 61, 0, 19, 2573, 19, 2374, 60, 3676, 2, 61, 0, 11, 60, 3680,
     1, 61, 1, 19, 2587, 58, 0, 1, 16, 13, 0, 53, 1341, 39, 59, 0,
-    1, 7, 4, 0, 43, 61, 0, 11, 60, 3554, 1, 61, 0, 19, 3013, 63,
+    1, 7, 4, 0, 43, 61, 0, 11, 60, 3694, 1, 61, 0, 19, 3013, 63,
     6, 39, 57, 14, 19, 3013, 6, 0, 48, 41, 61, 0, 19, 2685, 63, 6,
     39, 57, 14, 19, 2685, 6, 0, 48, 41, 61, 0, 19, 3011, 63, 6, 39,
     57, 14, 19, 3011, 6, 0, 48, 41, 61, 0, 19, 2894, 63, 6, 39, 57,
@@ -6214,21 +6805,21 @@ constexpr std::uint16_t code[] = {
     48, 61, 2, 19, 2317, 58, 0, 1, 44, 13, 0, 18, 2512, 58, 1, 1,
     37, 13, 1, 53, 7, 57, 26, 13, 1, 53, 514, 41, 57, 33, 13, 1,
     53, 612, 41, 59, 1, 1, 15, 4, 1, 48, 59, 0, 1, 7, 4, 1,
-    48, 61, 0, 19, 2901, 19, 1839, 60, 3566, 2, 61, 1, 19, 2091, 58, 0,
+    48, 61, 0, 19, 2901, 19, 1839, 60, 3714, 2, 61, 1, 19, 2091, 58, 0,
     1, 15, 13, 0, 53, 1127, 59, 0, 1, 7, 4, 1, 46, 61, 0, 19,
-    2298, 10, 861, 3107, 44, 57, 26, 19, 2298, 10, 861, 3107, 43, 56, 25, 11,
-    20, 860, 18, 2928, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 867, 3107, 43,
+    2298, 10, 861, 3128, 44, 57, 26, 19, 2298, 10, 861, 3128, 43, 56, 25, 11,
+    20, 860, 18, 2928, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 867, 3128, 43,
     39, 57, 18, 11, 20, 858, 18, 2300, 63, 6, 41, 61, 0, 19, 1658, 18,
     1838, 4, 2, 43, 61, 0, 19, 1658, 18, 1838, 4, 3, 43, 61, 0, 19,
     1873, 53, 884, 39, 61, 0, 19, 2320, 19, 1873, 18, 1878, 19, 1873, 18, 1874,
-    60, 3609, 3, 61, 0, 19, 2320, 19, 1873, 18, 1874, 19, 1873, 18, 1878, 60,
-    3609, 3, 61, 0, 11, 60, 3610, 1, 61, 0, 19, 1931, 63, 6, 57, 12,
+    60, 3763, 3, 61, 0, 19, 2320, 19, 1873, 18, 1874, 19, 1873, 18, 1878, 60,
+    3763, 3, 61, 0, 11, 60, 3764, 1, 61, 0, 19, 1931, 63, 6, 57, 12,
     19, 1985, 63, 6, 41, 61, 1, 19, 2017, 58, 0, 1, 15, 11, 13, 0,
-    49, 59, 0, 1, 7, 4, 0, 43, 61, 0, 19, 2402, 10, 913, 3107, 44,
-    57, 26, 19, 2402, 10, 913, 3107, 43, 56, 25, 11, 20, 858, 18, 2300, 63,
-    6, 40, 41, 61, 0, 19, 2402, 10, 916, 3107, 44, 57, 26, 19, 2402, 10,
-    916, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0,
-    19, 2402, 10, 919, 3107, 44, 57, 26, 19, 2402, 10, 919, 3107, 43, 56, 25,
+    49, 59, 0, 1, 7, 4, 0, 43, 61, 0, 19, 2402, 10, 913, 3128, 44,
+    57, 26, 19, 2402, 10, 913, 3128, 43, 56, 25, 11, 20, 858, 18, 2300, 63,
+    6, 40, 41, 61, 0, 19, 2402, 10, 916, 3128, 44, 57, 26, 19, 2402, 10,
+    916, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0,
+    19, 2402, 10, 919, 3128, 44, 57, 26, 19, 2402, 10, 919, 3128, 43, 56, 25,
     11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2996, 4, 1, 48,
     61, 0, 19, 2033, 4, 1, 48, 61, 1, 4, 1, 19, 1716, 17, 14, 0,
     46, 13, 0, 4, 4, 46, 40, 61, 0, 19, 2369, 63, 21, 19, 2996, 19,
@@ -6241,18 +6832,18 @@ constexpr std::uint16_t code[] = {
     43, 61, 0, 19, 2073, 63, 6, 57, 12, 19, 1590, 63, 6, 41, 57, 19,
     19, 2399, 63, 6, 41, 57, 26, 19, 2400, 63, 6, 41, 57, 33, 19, 2859,
     63, 6, 41, 57, 40, 19, 2491, 63, 6, 41, 57, 47, 19, 1774, 63, 6,
-    41, 61, 0, 11, 20, 953, 18, 2274, 23, 7, 3650, 24, 7, 3651, 24, 7,
-    3652, 24, 7, 3653, 24, 7, 3654, 24, 7, 3655, 24, 7, 3656, 24, 7, 3657,
-    24, 7, 3658, 24, 7, 3659, 24, 7, 3660, 24, 7, 3661, 24, 51, 61, 0,
-    11, 20, 953, 18, 2274, 23, 7, 3664, 24, 7, 3665, 24, 7, 3666, 24, 7,
-    3667, 24, 7, 3661, 24, 7, 3668, 24, 7, 3669, 24, 51, 61, 0, 11, 20,
-    953, 18, 2274, 23, 7, 3672, 24, 7, 3673, 24, 7, 3674, 24, 7, 3675, 24,
-    7, 3676, 24, 7, 3677, 24, 7, 3678, 24, 7, 3679, 24, 7, 3680, 24, 7,
-    3681, 24, 7, 3682, 24, 51, 61, 1, 11, 20, 859, 18, 1811, 58, 0, 1,
+    41, 61, 0, 11, 20, 953, 18, 2274, 23, 7, 3815, 24, 7, 3816, 24, 7,
+    3817, 24, 7, 3818, 24, 7, 3819, 24, 7, 3820, 24, 7, 3821, 24, 7, 3822,
+    24, 7, 3823, 24, 7, 3824, 24, 7, 3825, 24, 7, 3826, 24, 51, 61, 0,
+    11, 20, 953, 18, 2274, 23, 7, 3830, 24, 7, 3831, 24, 7, 3832, 24, 7,
+    3833, 24, 7, 3826, 24, 7, 3834, 24, 7, 3835, 24, 51, 61, 0, 11, 20,
+    953, 18, 2274, 23, 7, 3839, 24, 7, 3840, 24, 7, 3841, 24, 7, 3842, 24,
+    7, 3843, 24, 7, 3844, 24, 7, 3845, 24, 7, 3846, 24, 7, 3847, 24, 7,
+    3848, 24, 7, 3849, 24, 51, 61, 1, 11, 20, 859, 18, 1811, 58, 0, 1,
     19, 13, 0, 53, 1132, 39, 59, 0, 1, 10, 4, 0, 43, 61, 1, 11,
     20, 859, 18, 2090, 58, 0, 1, 19, 13, 0, 53, 1132, 39, 59, 0, 1,
-    10, 4, 0, 43, 61, 0, 19, 2414, 10, 971, 3107, 44, 57, 26, 19, 2414,
-    10, 971, 3107, 43, 56, 25, 11, 20, 969, 18, 2925, 63, 6, 40, 41, 61,
+    10, 4, 0, 43, 61, 0, 19, 2414, 10, 971, 3128, 44, 57, 26, 19, 2414,
+    10, 971, 3128, 43, 56, 25, 11, 20, 969, 18, 2925, 63, 6, 40, 41, 61,
     0, 19, 2582, 63, 6, 56, 12, 19, 2299, 63, 6, 40, 57, 27, 19, 2582,
     63, 6, 56, 26, 19, 2582, 53, 975, 39, 40, 41, 57, 35, 19, 2582, 63,
     6, 39, 41, 61, 1, 19, 2587, 58, 0, 1, 16, 13, 0, 53, 1213, 39,
@@ -6271,25 +6862,25 @@ constexpr std::uint16_t code[] = {
     13, 0, 63, 24, 19, 1818, 4, 1, 21, 63, 24, 44, 59, 0, 1, 7,
     4, 0, 43, 61, 1, 19, 1813, 58, 0, 1, 23, 13, 0, 63, 24, 19,
     1813, 4, 1, 21, 63, 24, 44, 59, 0, 1, 7, 4, 0, 43, 61, 0,
-    19, 2402, 10, 1024, 3107, 44, 57, 26, 19, 2402, 10, 1024, 3107, 43, 56, 25,
+    19, 2402, 10, 1024, 3128, 44, 57, 26, 19, 2402, 10, 1024, 3128, 43, 56, 25,
     11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 11, 20, 909, 18, 2896,
-    63, 6, 39, 57, 23, 11, 20, 909, 18, 2896, 18, 2901, 10, 1500, 3743, 43,
+    63, 6, 39, 57, 23, 11, 20, 909, 18, 2896, 18, 2901, 10, 1500, 3927, 43,
     41, 61, 0, 19, 1624, 6, 0, 48, 61, 0, 19, 1775, 6, 0, 48, 61,
     0, 11, 20, 909, 18, 2896, 63, 6, 39, 57, 23, 11, 20, 909, 18, 2896,
-    18, 2901, 10, 1500, 3749, 43, 41, 61, 0, 19, 2149, 6, 0, 48, 61, 0,
+    18, 2901, 10, 1500, 3936, 43, 41, 61, 0, 19, 2149, 6, 0, 48, 61, 0,
     11, 20, 909, 18, 2896, 63, 6, 39, 57, 23, 11, 20, 909, 18, 2896, 18,
-    2901, 10, 1500, 3753, 43, 41, 61, 0, 19, 2834, 6, 0, 48, 61, 0, 11,
+    2901, 10, 1500, 3942, 43, 41, 61, 0, 19, 2834, 6, 0, 48, 61, 0, 11,
     20, 909, 18, 2896, 63, 6, 39, 57, 23, 11, 20, 909, 18, 2896, 18, 2901,
-    10, 1500, 3757, 43, 41, 61, 0, 19, 2973, 6, 0, 48, 61, 0, 11, 20,
+    10, 1500, 3948, 43, 41, 61, 0, 19, 2973, 6, 0, 48, 61, 0, 11, 20,
     909, 18, 2896, 63, 6, 39, 57, 23, 11, 20, 909, 18, 2896, 18, 2901, 10,
-    1500, 3761, 43, 41, 61, 0, 19, 2992, 6, 0, 48, 61, 0, 19, 2402, 63,
-    6, 39, 57, 15, 19, 2402, 10, 1038, 3107, 44, 41, 57, 34, 19, 2402, 10,
-    1038, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
+    1500, 3954, 43, 41, 61, 0, 19, 2992, 6, 0, 48, 61, 0, 19, 2402, 63,
+    6, 39, 57, 15, 19, 2402, 10, 1038, 3128, 44, 41, 57, 34, 19, 2402, 10,
+    1038, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
     11, 20, 859, 18, 2090, 63, 10, 4, 0, 43, 57, 35, 11, 20, 859, 18,
     2090, 63, 10, 4, 1, 43, 56, 34, 11, 20, 974, 18, 2582, 63, 6, 39,
     40, 41, 61, 0, 19, 2991, 63, 21, 11, 20, 142, 18, 1758, 63, 21, 43,
-    61, 0, 11, 60, 3771, 1, 61, 0, 19, 2991, 4, 0, 11, 20, 142, 18,
-    2904, 60, 3193, 3, 4, 0, 4, 255, 29, 61, 0, 19, 2980, 11, 20, 1058,
+    61, 0, 11, 60, 3968, 1, 61, 0, 19, 2991, 4, 0, 11, 20, 142, 18,
+    2904, 60, 3241, 3, 4, 0, 4, 255, 29, 61, 0, 19, 2980, 11, 20, 1058,
     18, 3007, 6, 4, 34, 45, 56, 26, 19, 2980, 11, 20, 1058, 18, 3009, 6,
     4, 34, 45, 40, 61, 0, 19, 2327, 63, 6, 39, 57, 34, 19, 2327, 11,
     20, 1058, 18, 3007, 6, 4, 34, 46, 56, 33, 19, 2327, 11, 20, 1058, 18,
@@ -6299,9 +6890,9 @@ constexpr std::uint16_t code[] = {
     61, 0, 19, 2887, 19, 2888, 44, 61, 0, 19, 2936, 19, 2937, 44, 61, 0,
     19, 1659, 53, 493, 56, 13, 19, 1659, 53, 925, 39, 40, 57, 20, 19, 1659,
     53, 1353, 41, 57, 31, 19, 2914, 19, 2888, 19, 2887, 47, 43, 41, 61, 0,
-    19, 2978, 19, 2937, 19, 2936, 47, 43, 61, 0, 19, 1647, 10, 1074, 3107, 44,
-    57, 26, 19, 1647, 10, 1074, 3107, 43, 56, 25, 11, 20, 858, 18, 2300, 63,
-    6, 40, 41, 61, 0, 19, 2513, 19, 2512, 60, 3784, 2, 61, 0, 11, 20,
+    19, 2978, 19, 2937, 19, 2936, 47, 43, 61, 0, 19, 1647, 10, 1074, 3128, 44,
+    57, 26, 19, 1647, 10, 1074, 3128, 43, 56, 25, 11, 20, 858, 18, 2300, 63,
+    6, 40, 41, 61, 0, 19, 2513, 19, 2512, 60, 3990, 2, 61, 0, 11, 20,
     1085, 18, 2512, 63, 10, 4, 1, 43, 61, 0, 11, 20, 1085, 18, 2512, 4,
     1, 21, 53, 1385, 61, 0, 11, 20, 1088, 18, 2540, 53, 1564, 61, 1, 11,
     20, 1085, 18, 2512, 58, 0, 1, 19, 19, 2532, 13, 0, 49, 59, 0, 1,
@@ -6326,18 +6917,18 @@ constexpr std::uint16_t code[] = {
     18, 2512, 63, 21, 4, 1, 43, 61, 1, 11, 20, 1085, 18, 2512, 58, 0,
     1, 19, 13, 0, 53, 305, 39, 59, 0, 1, 10, 4, 0, 43, 61, 0,
     11, 20, 1088, 18, 2540, 53, 307, 61, 0, 19, 2557, 19, 2518, 50, 61, 0,
-    19, 2367, 10, 907, 3824, 43, 56, 22, 19, 2496, 63, 6, 56, 21, 19, 2496,
-    53, 1525, 39, 40, 40, 57, 46, 19, 2367, 10, 907, 3825, 43, 56, 45, 19,
+    19, 2367, 10, 907, 4050, 43, 56, 22, 19, 2496, 63, 6, 56, 21, 19, 2496,
+    53, 1525, 39, 40, 40, 57, 46, 19, 2367, 10, 907, 4051, 43, 56, 45, 19,
     2496, 63, 6, 39, 57, 44, 19, 2496, 53, 1525, 41, 40, 41, 57, 55, 19,
-    2367, 10, 907, 3826, 43, 41, 61, 0, 19, 1635, 18, 2189, 18, 1763, 4, 3,
+    2367, 10, 907, 4052, 43, 41, 61, 0, 19, 1635, 18, 2189, 18, 1763, 4, 3,
     21, 6, 0, 43, 61, 0, 19, 1635, 18, 3014, 18, 1842, 4, 3, 21, 6,
     0, 43, 61, 0, 19, 1635, 18, 2189, 19, 1635, 18, 3014, 6, 1, 62, 1508,
     2, 62, 744, 2, 61, 0, 19, 2621, 11, 20, 1058, 18, 3007, 6, 4, 34,
     46, 56, 26, 19, 2621, 11, 20, 1058, 18, 3009, 6, 4, 34, 46, 40, 61,
-    0, 19, 2274, 60, 3856, 1, 61, 0, 19, 1788, 63, 21, 19, 1786, 63, 21,
+    0, 19, 2274, 60, 4086, 1, 61, 0, 19, 1788, 63, 21, 19, 1786, 63, 21,
     43, 61, 1, 19, 1788, 58, 0, 1, 23, 19, 1788, 4, 1, 21, 18, 2424,
     13, 0, 18, 2424, 44, 59, 0, 1, 7, 4, 0, 43, 61, 0, 19, 2717,
-    18, 1838, 4, 3, 43, 61, 0, 19, 2402, 10, 1206, 3107, 43, 39, 57, 18,
+    18, 1838, 4, 3, 43, 61, 0, 19, 2402, 10, 1206, 3128, 43, 39, 57, 18,
     11, 20, 858, 18, 2300, 63, 6, 41, 61, 0, 11, 20, 1146, 18, 2313, 63,
     21, 4, 1, 43, 11, 20, 1146, 18, 2585, 63, 21, 4, 1, 43, 42, 19,
     2314, 63, 21, 4, 1, 43, 42, 61, 0, 11, 20, 1146, 18, 1754, 53, 628,
@@ -6345,16 +6936,16 @@ constexpr std::uint16_t code[] = {
     1517, 24, 9, 454, 24, 9, 546, 24, 13, 0, 63, 24, 33, 63, 21, 4,
     1, 43, 39, 40, 59, 0, 1, 7, 4, 0, 43, 61, 0, 11, 20, 1146,
     18, 2589, 63, 6, 61, 0, 11, 20, 1146, 18, 2589, 11, 20, 1146, 18, 2117,
-    60, 3874, 2, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1239,
-    3107, 44, 41, 57, 34, 19, 2402, 10, 1239, 3107, 43, 56, 33, 11, 20, 858,
-    18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 1259, 3107, 44, 57, 26,
-    19, 2402, 10, 1259, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
+    60, 4111, 2, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1239,
+    3128, 44, 41, 57, 34, 19, 2402, 10, 1239, 3128, 43, 56, 33, 11, 20, 858,
+    18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 1259, 3128, 44, 57, 26,
+    19, 2402, 10, 1259, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
     41, 61, 0, 11, 20, 859, 18, 1811, 63, 10, 4, 1, 43, 56, 24, 11,
     20, 859, 18, 1811, 4, 1, 21, 53, 1084, 40, 56, 54, 11, 20, 859, 18,
     1811, 4, 1, 21, 18, 2551, 53, 983, 57, 53, 11, 20, 859, 18, 1811, 4,
     1, 21, 18, 2551, 53, 1267, 41, 40, 61, 0, 23, 9, 1311, 24, 9, 1319,
     24, 11, 20, 1291, 18, 1614, 63, 24, 33, 63, 21, 4, 1, 43, 61, 0,
-    11, 20, 1291, 18, 1614, 19, 2749, 60, 3909, 2, 26, 61, 0, 23, 9, 1313,
+    11, 20, 1291, 18, 1614, 19, 2749, 60, 4149, 2, 26, 61, 0, 23, 9, 1313,
     24, 9, 1319, 24, 11, 20, 1291, 18, 1614, 63, 24, 33, 63, 21, 4, 1,
     43, 61, 0, 23, 9, 1316, 24, 9, 1314, 24, 11, 20, 1291, 18, 1614, 63,
     24, 33, 63, 21, 4, 1, 43, 61, 0, 19, 2683, 63, 6, 39, 57, 14,
@@ -6366,10 +6957,10 @@ constexpr std::uint16_t code[] = {
     43, 39, 59, 0, 1, 9, 4, 0, 43, 61, 1, 19, 2950, 18, 2676, 58,
     0, 1, 39, 13, 0, 20, 1146, 18, 2117, 4, 1, 21, 53, 185, 57, 34,
     13, 0, 20, 1146, 18, 2117, 4, 1, 21, 53, 935, 41, 39, 59, 0, 1,
-    9, 4, 0, 43, 61, 0, 11, 20, 1333, 18, 2815, 19, 2750, 60, 3909, 2,
+    9, 4, 0, 43, 61, 0, 11, 20, 1333, 18, 2815, 19, 2750, 60, 4149, 2,
     26, 61, 2, 19, 1752, 58, 0, 0, 15, 13, 0, 53, 71, 59, 0, 0,
-    7, 58, 1, 1, 45, 13, 1, 18, 2274, 23, 7, 3943, 24, 7, 3944, 24,
-    7, 3945, 24, 7, 3946, 24, 7, 3947, 24, 51, 39, 59, 1, 1, 19, 4,
+    7, 58, 1, 1, 45, 13, 1, 18, 2274, 23, 7, 4192, 24, 7, 4193, 24,
+    7, 4194, 24, 7, 4195, 24, 7, 4196, 24, 51, 39, 59, 1, 1, 19, 4,
     0, 43, 61, 0, 19, 2745, 63, 21, 4, 1, 43, 61, 0, 19, 2114, 53,
     1340, 39, 61, 1, 11, 20, 1146, 18, 2117, 58, 0, 1, 19, 13, 0, 53,
     1340, 39, 59, 0, 1, 10, 4, 0, 43, 61, 0, 19, 1831, 6, 0, 47,
@@ -6381,51 +6972,51 @@ constexpr std::uint16_t code[] = {
     7, 4, 1, 46, 61, 1, 19, 2745, 58, 0, 1, 15, 13, 0, 53, 1363,
     59, 0, 1, 7, 4, 1, 46, 61, 1, 19, 2745, 58, 0, 1, 15, 13,
     0, 53, 532, 59, 0, 1, 7, 4, 1, 46, 61, 0, 19, 2760, 18, 2424,
-    10, 982, 3168, 43, 61, 0, 19, 1844, 18, 1838, 4, 3, 43, 61, 0, 19,
+    10, 982, 3204, 43, 61, 0, 19, 1844, 18, 1838, 4, 3, 43, 61, 0, 19,
     2056, 63, 6, 39, 57, 14, 19, 2450, 19, 2056, 47, 41, 61, 0, 19, 2761,
-    53, 368, 39, 61, 0, 19, 2761, 18, 2424, 10, 982, 3162, 43, 61, 0, 19,
+    53, 368, 39, 61, 0, 19, 2761, 18, 2424, 10, 982, 3196, 43, 61, 0, 19,
     1954, 19, 1831, 45, 61, 0, 19, 2988, 19, 1955, 45, 61, 1, 19, 2623, 58,
     0, 1, 27, 13, 0, 18, 2622, 63, 10, 19, 2623, 4, 1, 21, 18, 2622,
     63, 10, 44, 59, 0, 1, 7, 4, 0, 43, 61, 1, 4, 0, 19, 2289,
     17, 14, 0, 46, 13, 0, 4, 1, 46, 40, 61, 0, 19, 2623, 4, 1,
     21, 18, 2622, 63, 10, 61, 1, 19, 2623, 58, 0, 1, 15, 13, 0, 18,
     2094, 59, 0, 1, 7, 61, 1, 19, 2623, 58, 0, 1, 16, 13, 0, 18,
-    2094, 39, 59, 0, 1, 7, 61, 0, 19, 2402, 10, 1384, 3107, 44, 57, 26,
-    19, 2402, 10, 1384, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
+    2094, 39, 59, 0, 1, 7, 61, 0, 19, 2402, 10, 1384, 3128, 44, 57, 26,
+    19, 2402, 10, 1384, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
     41, 61, 0, 19, 2775, 63, 6, 57, 12, 19, 2337, 63, 6, 41, 57, 19,
     19, 1926, 63, 6, 41, 57, 26, 19, 1886, 63, 6, 41, 57, 33, 19, 3004,
-    63, 6, 41, 61, 0, 19, 2402, 10, 1402, 3107, 44, 57, 26, 19, 2402, 10,
-    1402, 3107, 43, 56, 25, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
+    63, 6, 41, 61, 0, 19, 2402, 10, 1402, 3128, 44, 57, 26, 19, 2402, 10,
+    1402, 3128, 43, 56, 25, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
     19, 1920, 53, 922, 39, 61, 0, 19, 1964, 53, 726, 56, 13, 19, 1964, 6,
     0, 47, 40, 61, 0, 23, 9, 1217, 24, 9, 543, 24, 9, 547, 24, 9,
     548, 24, 11, 20, 1421, 18, 1604, 4, 1, 21, 18, 2114, 63, 24, 33, 63,
-    21, 4, 1, 48, 61, 0, 19, 2831, 10, 1446, 3107, 43, 39, 57, 18, 11,
+    21, 4, 1, 48, 61, 0, 19, 2831, 10, 1446, 3128, 43, 39, 57, 18, 11,
     20, 858, 18, 2300, 63, 6, 41, 61, 1, 11, 20, 1146, 18, 2117, 58, 0,
     1, 19, 13, 0, 53, 1449, 39, 59, 0, 1, 10, 4, 0, 43, 61, 0,
-    11, 20, 1146, 18, 2589, 11, 20, 1146, 18, 2117, 60, 4009, 2, 61, 0, 19,
+    11, 20, 1146, 18, 2589, 11, 20, 1146, 18, 2117, 60, 4283, 2, 61, 0, 19,
     2881, 63, 10, 4, 1, 43, 57, 26, 19, 2881, 4, 1, 21, 63, 24, 19,
     2881, 4, 2, 21, 63, 24, 44, 41, 61, 0, 19, 2882, 63, 10, 4, 1,
     43, 57, 26, 19, 2882, 4, 1, 21, 63, 24, 19, 2882, 4, 2, 21, 63,
     24, 44, 41, 61, 0, 19, 1658, 53, 133, 39, 61, 0, 19, 2402, 10, 1480,
-    3107, 44, 57, 26, 19, 2402, 10, 1480, 3107, 43, 56, 25, 11, 20, 501, 18,
+    3128, 44, 57, 26, 19, 2402, 10, 1480, 3128, 43, 56, 25, 11, 20, 501, 18,
     1888, 63, 6, 40, 41, 61, 1, 11, 20, 1486, 18, 2301, 4, 1, 21, 63,
     6, 39, 57, 41, 11, 20, 1486, 18, 2301, 4, 1, 21, 18, 2512, 58, 0,
     1, 37, 13, 0, 53, 974, 39, 59, 0, 1, 28, 4, 0, 43, 41, 61,
-    0, 19, 1954, 19, 1831, 6, 4, 34, 45, 61, 0, 19, 2899, 60, 4025, 1,
-    61, 0, 19, 2402, 10, 1498, 3107, 44, 57, 26, 19, 2402, 10, 1498, 3107, 43,
+    0, 19, 1954, 19, 1831, 6, 4, 34, 45, 61, 0, 19, 2899, 60, 4304, 1,
+    61, 0, 19, 2402, 10, 1498, 3128, 44, 57, 26, 19, 2402, 10, 1498, 3128, 43,
     56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10,
-    1506, 3107, 44, 57, 26, 19, 2402, 10, 1506, 3107, 43, 56, 25, 11, 20, 501,
+    1506, 3128, 44, 57, 26, 19, 2402, 10, 1506, 3128, 43, 56, 25, 11, 20, 501,
     18, 1888, 63, 6, 40, 41, 61, 0, 19, 2210, 6, 0, 48, 61, 0, 19,
-    2320, 18, 1838, 61, 0, 19, 2402, 10, 1523, 3107, 44, 57, 26, 19, 2402, 10,
-    1523, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 1,
+    2320, 18, 1838, 61, 0, 19, 2402, 10, 1523, 3128, 44, 57, 26, 19, 2402, 10,
+    1523, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 1,
     11, 20, 859, 18, 1996, 58, 0, 1, 18, 13, 0, 53, 1103, 59, 0, 1,
-    10, 4, 1, 46, 61, 1, 11, 7, 4038, 63, 25, 58, 0, 1, 27, 13,
+    10, 4, 1, 46, 61, 1, 11, 7, 4320, 63, 25, 58, 0, 1, 27, 13,
     0, 53, 1103, 56, 23, 13, 0, 18, 2549, 53, 796, 40, 59, 0, 1, 10,
     4, 1, 43, 61, 0, 19, 1947, 63, 6, 39, 56, 13, 19, 2653, 63, 6,
     40, 39, 61, 0, 19, 1945, 63, 6, 39, 56, 13, 19, 2650, 63, 6, 40,
     39, 61, 0, 11, 20, 1005, 18, 1816, 4, 1, 21, 63, 6, 56, 24, 11,
     20, 1005, 18, 1816, 4, 1, 21, 53, 1556, 40, 61, 0, 19, 3000, 10, 1565,
-    3107, 44, 57, 26, 19, 3000, 10, 1565, 3107, 43, 56, 25, 11, 20, 1564, 18,
+    3128, 44, 57, 26, 19, 3000, 10, 1565, 3128, 43, 56, 25, 11, 20, 1564, 18,
     2917, 63, 6, 40, 41, 61, 1, 11, 20, 659, 18, 2093, 18, 2512, 58, 0,
     1, 28, 13, 0, 53, 1572, 57, 23, 13, 0, 53, 1255, 41, 39, 59, 0,
     1, 12, 4, 0, 43, 61, 5, 12, 628, 14, 0, 1, 14, 1, 13, 0,
@@ -6433,8 +7024,8 @@ constexpr std::uint16_t code[] = {
     1, 14, 3, 14, 4, 13, 2, 13, 4, 32, 13, 3, 33, 4, 0, 48,
     55, 126, 13, 0, 4, 1, 21, 18, 3003, 13, 0, 13, 4, 21, 18, 3003,
     50, 55, 117, 13, 0, 4, 1, 21, 18, 2401, 13, 0, 13, 4, 21, 18,
-    2401, 60, 4051, 2, 39, 57, 107, 13, 0, 4, 1, 21, 18, 3003, 13, 0,
-    13, 4, 21, 18, 3003, 13, 0, 4, 1, 21, 18, 2401, 60, 4052, 3, 39,
+    2401, 60, 4339, 2, 39, 57, 107, 13, 0, 4, 1, 21, 18, 3003, 13, 0,
+    13, 4, 21, 18, 3003, 13, 0, 4, 1, 21, 18, 2401, 60, 4340, 3, 39,
     41, 14, 1, 13, 1, 3, 43, 55, 117, 54, 126, 13, 4, 13, 3, 31,
     14, 4, 54, 31, 13, 1, 1, 43, 61, 1, 12, 983, 14, 0, 13, 0,
     63, 21, 4, 1, 46, 61, 6, 23, 26, 14, 2, 13, 0, 63, 6, 39,
@@ -6443,98 +7034,98 @@ constexpr std::uint16_t code[] = {
     14, 3, 4, 1, 14, 4, 14, 5, 13, 3, 13, 5, 32, 13, 4, 33,
     4, 0, 48, 55, 86, 13, 5, 4, 1, 31, 13, 1, 13, 5, 21, 15,
     2, 1, 65535, 13, 5, 13, 4, 31, 14, 5, 54, 50, 13, 2, 61, 0,
-    61, 8, 13, 0, 4, 3, 43, 55, 61, 13, 3, 60, 3178, 1, 23, 6,
+    61, 8, 13, 0, 4, 3, 43, 55, 61, 13, 3, 60, 3220, 1, 23, 6,
     0, 24, 6, 0, 24, 6, 1, 24, 62, 382, 1, 63, 17, 14, 6, 13,
-    6, 13, 1, 60, 4059, 2, 14, 7, 23, 13, 7, 24, 13, 6, 13, 7,
-    13, 2, 60, 4060, 3, 24, 13, 6, 24, 26, 14, 4, 54, 252, 13, 1,
-    63, 6, 55, 156, 13, 1, 60, 3178, 1, 14, 6, 23, 13, 6, 24, 13,
-    6, 60, 4061, 1, 24, 26, 14, 4, 13, 2, 63, 6, 55, 154, 13, 2,
-    13, 4, 4, 2, 21, 60, 3457, 2, 14, 5, 13, 5, 6, 0, 45, 55,
+    6, 13, 1, 60, 4349, 2, 14, 7, 23, 13, 7, 24, 13, 6, 13, 7,
+    13, 2, 60, 4350, 3, 24, 13, 6, 24, 26, 14, 4, 54, 252, 13, 1,
+    63, 6, 55, 156, 13, 1, 60, 3220, 1, 14, 6, 23, 13, 6, 24, 13,
+    6, 60, 4351, 1, 24, 26, 14, 4, 13, 2, 63, 6, 55, 154, 13, 2,
+    13, 4, 4, 2, 21, 60, 3571, 2, 14, 5, 13, 5, 6, 0, 45, 55,
     154, 4, 2, 4, 1, 13, 4, 4, 2, 21, 18, 1842, 4, 1, 21, 38,
     15, 4, 3, 65535, 1842, 65535, 4, 2, 4, 2, 13, 4, 4, 2, 21, 18,
     1842, 4, 2, 21, 38, 15, 4, 3, 65535, 1842, 65535, 54, 252, 13, 2, 63,
-    6, 55, 226, 13, 2, 60, 3178, 1, 14, 6, 23, 13, 6, 60, 4061, 1,
+    6, 55, 226, 13, 2, 60, 3220, 1, 14, 6, 23, 13, 6, 60, 4351, 1,
     24, 13, 6, 24, 26, 14, 4, 4, 1, 4, 1, 13, 4, 4, 1, 21,
     18, 1842, 4, 1, 21, 38, 15, 4, 3, 65535, 1842, 65535, 4, 1, 4, 2,
     13, 4, 4, 1, 21, 18, 1842, 4, 2, 21, 38, 15, 4, 3, 65535, 1842,
     65535, 54, 252, 23, 23, 6, 1, 24, 6, 0, 24, 62, 382, 1, 24, 23,
     6, 0, 24, 6, 1, 24, 62, 382, 1, 24, 26, 14, 4, 13, 4, 61,
     0, 61, 3, 13, 0, 55, 10, 13, 1, 61, 54, 13, 13, 2, 61, 0,
-    61, 2, 13, 0, 60, 3178, 1, 23, 6, 1, 24, 6, 0, 24, 62, 382,
-    1, 63, 17, 14, 1, 23, 13, 1, 24, 13, 1, 60, 4061, 1, 24, 61,
-    0, 61, 4, 13, 0, 60, 3178, 1, 23, 6, 0, 24, 6, 0, 24, 6,
-    1, 24, 62, 382, 1, 63, 17, 14, 2, 13, 2, 13, 1, 60, 4059, 2,
-    14, 3, 23, 13, 3, 24, 13, 2, 13, 3, 60, 3185, 2, 60, 3178, 1,
+    61, 2, 13, 0, 60, 3220, 1, 23, 6, 1, 24, 6, 0, 24, 62, 382,
+    1, 63, 17, 14, 1, 23, 13, 1, 24, 13, 1, 60, 4351, 1, 24, 61,
+    0, 61, 4, 13, 0, 60, 3220, 1, 23, 6, 0, 24, 6, 0, 24, 6,
+    1, 24, 62, 382, 1, 63, 17, 14, 2, 13, 2, 13, 1, 60, 4349, 2,
+    14, 3, 23, 13, 3, 24, 13, 2, 13, 3, 60, 3230, 2, 60, 3220, 1,
     20, 1508, 18, 2320, 24, 13, 2, 24, 61, 0, 61, 3, 13, 0, 14, 2,
-    13, 2, 10, 1500, 3749, 43, 55, 43, 13, 1, 4, 1, 4, 0, 4, 0,
+    13, 2, 10, 1500, 3936, 43, 55, 43, 13, 1, 4, 1, 4, 0, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 39, 3, 61,
-    54, 41, 1, 61, 54, 1132, 13, 2, 10, 1500, 3761, 43, 55, 81, 13, 1,
+    54, 41, 1, 61, 54, 1132, 13, 2, 10, 1500, 3954, 43, 55, 81, 13, 1,
     4, 0, 4, 1, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374,
     7, 43, 55, 77, 3, 61, 54, 79, 1, 61, 54, 1132, 13, 2, 10, 1500,
-    3753, 43, 55, 119, 13, 1, 4, 0, 4, 0, 4, 1, 4, 0, 4, 0,
+    3942, 43, 55, 119, 13, 1, 4, 0, 4, 0, 4, 1, 4, 0, 4, 0,
     4, 0, 4, 0, 62, 374, 7, 43, 55, 115, 3, 61, 54, 117, 1, 61,
-    54, 1132, 13, 2, 10, 1500, 4062, 43, 55, 157, 13, 1, 4, 0, 4, 0,
+    54, 1132, 13, 2, 10, 1500, 4352, 43, 55, 157, 13, 1, 4, 0, 4, 0,
     4, 0, 4, 1, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 153,
-    3, 61, 54, 155, 1, 61, 54, 1132, 13, 2, 10, 1500, 4063, 43, 55, 195,
+    3, 61, 54, 155, 1, 61, 54, 1132, 13, 2, 10, 1500, 4353, 43, 55, 195,
     13, 1, 4, 0, 4, 0, 4, 0, 4, 0, 4, 1, 4, 0, 4, 0,
     62, 374, 7, 43, 55, 191, 3, 61, 54, 193, 1, 61, 54, 1132, 13, 2,
-    10, 1500, 4064, 43, 55, 233, 13, 1, 4, 0, 4, 0, 4, 0, 4, 0,
+    10, 1500, 4354, 43, 55, 233, 13, 1, 4, 0, 4, 0, 4, 0, 4, 0,
     4, 0, 4, 1, 4, 0, 62, 374, 7, 43, 55, 229, 3, 61, 54, 231,
-    1, 61, 54, 1132, 13, 2, 10, 1500, 4065, 43, 55, 271, 13, 1, 4, 0,
+    1, 61, 54, 1132, 13, 2, 10, 1500, 4355, 43, 55, 271, 13, 1, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 1, 62, 374, 7, 43,
-    55, 267, 3, 61, 54, 269, 1, 61, 54, 1132, 13, 2, 10, 1500, 4066, 43,
+    55, 267, 3, 61, 54, 269, 1, 61, 54, 1132, 13, 2, 10, 1500, 4356, 43,
     55, 309, 13, 1, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
     4, 0, 62, 374, 7, 43, 55, 305, 3, 61, 54, 307, 1, 61, 54, 1132,
-    13, 2, 10, 1500, 4067, 43, 55, 347, 13, 1, 4, 0, 4, 0, 4, 0,
+    13, 2, 10, 1500, 4357, 43, 55, 347, 13, 1, 4, 0, 4, 0, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 343, 3, 61,
-    54, 345, 1, 61, 54, 1132, 13, 2, 10, 1500, 3743, 43, 55, 385, 13, 1,
+    54, 345, 1, 61, 54, 1132, 13, 2, 10, 1500, 3927, 43, 55, 385, 13, 1,
     4, 2, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374,
     7, 43, 55, 381, 3, 61, 54, 383, 1, 61, 54, 1132, 13, 2, 10, 1500,
-    3757, 43, 55, 423, 13, 1, 4, 3, 4, 0, 4, 0, 4, 0, 4, 0,
+    3948, 43, 55, 423, 13, 1, 4, 3, 4, 0, 4, 0, 4, 0, 4, 0,
     4, 0, 4, 0, 62, 374, 7, 43, 55, 419, 3, 61, 54, 421, 1, 61,
-    54, 1132, 13, 2, 10, 1500, 4068, 43, 55, 462, 13, 1, 4, 2, 4, 0,
+    54, 1132, 13, 2, 10, 1500, 4358, 43, 55, 462, 13, 1, 4, 2, 4, 0,
     4, 2, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55,
-    458, 3, 61, 54, 460, 1, 61, 54, 1132, 13, 2, 10, 1500, 4069, 43, 55,
+    458, 3, 61, 54, 460, 1, 61, 54, 1132, 13, 2, 10, 1500, 4359, 43, 55,
     501, 13, 1, 4, 0, 4, 0, 4, 1, 38, 4, 0, 4, 0, 4, 0,
     4, 0, 62, 374, 7, 43, 55, 497, 3, 61, 54, 499, 1, 61, 54, 1132,
-    13, 2, 10, 1500, 4070, 43, 55, 540, 13, 1, 4, 2, 38, 4, 1, 4,
+    13, 2, 10, 1500, 4360, 43, 55, 540, 13, 1, 4, 2, 38, 4, 1, 4,
     4, 4, 1, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 536, 3,
-    61, 54, 538, 1, 61, 54, 1132, 13, 2, 10, 1500, 4071, 43, 55, 579, 13,
+    61, 54, 538, 1, 61, 54, 1132, 13, 2, 10, 1500, 4361, 43, 55, 579, 13,
     1, 4, 2, 4, 0, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4, 0,
     62, 374, 7, 43, 55, 575, 3, 61, 54, 577, 1, 61, 54, 1132, 13, 2,
-    10, 1500, 4072, 43, 55, 617, 13, 1, 4, 0, 4, 0, 4, 1, 4, 1,
+    10, 1500, 4362, 43, 55, 617, 13, 1, 4, 0, 4, 0, 4, 1, 4, 1,
     4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 613, 3, 61, 54, 615,
-    1, 61, 54, 1132, 13, 2, 10, 1500, 4073, 43, 55, 657, 13, 1, 4, 2,
+    1, 61, 54, 1132, 13, 2, 10, 1500, 4363, 43, 55, 657, 13, 1, 4, 2,
     38, 4, 1, 38, 4, 3, 4, 2, 4, 0, 4, 0, 4, 0, 62, 374,
     7, 43, 55, 653, 3, 61, 54, 655, 1, 61, 54, 1132, 13, 2, 10, 1500,
-    4074, 43, 55, 697, 13, 1, 4, 2, 4, 1, 4, 3, 38, 4, 1, 38,
+    4364, 43, 55, 697, 13, 1, 4, 2, 4, 1, 4, 3, 38, 4, 1, 38,
     4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 693, 3, 61, 54, 695,
-    1, 61, 54, 1132, 13, 2, 10, 1500, 4075, 43, 55, 737, 13, 1, 4, 2,
+    1, 61, 54, 1132, 13, 2, 10, 1500, 4365, 43, 55, 737, 13, 1, 4, 2,
     4, 1, 4, 3, 38, 4, 2, 38, 4, 0, 4, 0, 4, 0, 62, 374,
     7, 43, 55, 733, 3, 61, 54, 735, 1, 61, 54, 1132, 13, 2, 10, 1500,
-    4076, 43, 55, 776, 13, 1, 4, 2, 4, 1, 4, 2, 38, 4, 0, 4,
+    4366, 43, 55, 776, 13, 1, 4, 2, 4, 1, 4, 2, 38, 4, 0, 4,
     0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 772, 3, 61, 54, 774, 1,
-    61, 54, 1132, 13, 2, 10, 1500, 4077, 43, 55, 815, 13, 1, 4, 1, 4,
+    61, 54, 1132, 13, 2, 10, 1500, 4367, 43, 55, 815, 13, 1, 4, 1, 4,
     1, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43,
-    55, 811, 3, 61, 54, 813, 1, 61, 54, 1132, 13, 2, 10, 1500, 4078, 43,
+    55, 811, 3, 61, 54, 813, 1, 61, 54, 1132, 13, 2, 10, 1500, 4368, 43,
     55, 854, 13, 1, 4, 0, 4, 0, 4, 1, 38, 4, 0, 4, 0, 4,
     0, 4, 0, 62, 374, 7, 43, 55, 850, 3, 61, 54, 852, 1, 61, 54,
-    1132, 13, 2, 10, 1500, 4079, 43, 55, 894, 13, 1, 4, 2, 4, 1, 4,
+    1132, 13, 2, 10, 1500, 4369, 43, 55, 894, 13, 1, 4, 2, 4, 1, 4,
     2, 38, 4, 2, 38, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55,
-    890, 3, 61, 54, 892, 1, 61, 54, 1132, 13, 2, 10, 1500, 4080, 43, 55,
+    890, 3, 61, 54, 892, 1, 61, 54, 1132, 13, 2, 10, 1500, 4370, 43, 55,
     933, 13, 1, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
     4, 1, 62, 374, 7, 43, 55, 929, 3, 61, 54, 931, 1, 61, 54, 1132,
-    13, 2, 10, 1500, 4081, 43, 55, 971, 13, 1, 4, 0, 4, 0, 4, 0,
+    13, 2, 10, 1500, 4371, 43, 55, 971, 13, 1, 4, 0, 4, 0, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 1, 62, 374, 7, 43, 55, 967, 3, 61,
-    54, 969, 1, 61, 54, 1132, 13, 2, 10, 1500, 4082, 43, 55, 1011, 13, 1,
+    54, 969, 1, 61, 54, 1132, 13, 2, 10, 1500, 4372, 43, 55, 1011, 13, 1,
     4, 2, 4, 1, 4, 2, 38, 4, 1, 38, 4, 0, 4, 0, 4, 0,
     62, 374, 7, 43, 55, 1007, 3, 61, 54, 1009, 1, 61, 54, 1132, 13, 2,
-    10, 1500, 4083, 43, 55, 1051, 13, 1, 4, 0, 4, 1, 4, 2, 38, 4,
+    10, 1500, 4373, 43, 55, 1051, 13, 1, 4, 0, 4, 1, 4, 2, 38, 4,
     1, 38, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 1047, 3, 61,
-    54, 1049, 1, 61, 54, 1132, 13, 2, 10, 1500, 4084, 43, 55, 1090, 13, 1,
+    54, 1049, 1, 61, 54, 1132, 13, 2, 10, 1500, 4374, 43, 55, 1090, 13, 1,
     4, 2, 4, 1, 4, 3, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62,
     374, 7, 43, 55, 1086, 3, 61, 54, 1088, 1, 61, 54, 1132, 13, 2, 10,
-    1500, 4085, 43, 55, 1130, 13, 1, 4, 1, 38, 4, 1, 4, 2, 38, 4,
+    1500, 4375, 43, 55, 1130, 13, 1, 4, 1, 38, 4, 1, 4, 2, 38, 4,
     0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 1126, 3, 61, 54,
     1128, 1, 61, 54, 1132, 2, 61, 0, 61, 9, 4, 0, 14, 1, 4, 0,
     14, 2, 4, 0, 14, 3, 4, 0, 14, 4, 13, 0, 58, 5, 1, 31,
@@ -6551,40 +7142,40 @@ constexpr std::uint16_t code[] = {
     0, 53, 100, 55, 52, 13, 1, 18, 2573, 18, 1838, 4, 3, 43, 55, 50,
     3, 61, 54, 52, 1, 61, 54, 56, 3, 61, 0, 61, 0, 61, 11, 4,
     0, 14, 2, 13, 0, 63, 6, 39, 55, 14, 3, 61, 13, 0, 14, 3,
-    13, 3, 10, 864, 3826, 43, 55, 30, 3, 61, 54, 263, 13, 3, 10, 864,
-    3294, 43, 55, 63, 13, 1, 58, 4, 1, 53, 13, 4, 53, 974, 39, 59,
+    13, 3, 10, 864, 4052, 43, 55, 30, 3, 61, 54, 263, 13, 3, 10, 864,
+    3374, 43, 55, 63, 13, 1, 58, 4, 1, 53, 13, 4, 53, 974, 39, 59,
     4, 1, 44, 14, 2, 13, 2, 4, 0, 43, 61, 54, 263, 13, 3, 10,
-    864, 4086, 43, 55, 96, 13, 1, 58, 5, 1, 86, 13, 5, 53, 972, 39,
+    864, 4376, 43, 55, 96, 13, 1, 58, 5, 1, 86, 13, 5, 53, 972, 39,
     59, 5, 1, 77, 14, 2, 13, 2, 4, 0, 43, 61, 54, 263, 13, 3,
-    10, 864, 4087, 43, 55, 129, 13, 1, 58, 6, 1, 119, 13, 6, 53, 284,
+    10, 864, 4377, 43, 55, 129, 13, 1, 58, 6, 1, 119, 13, 6, 53, 284,
     39, 59, 6, 1, 110, 14, 2, 13, 2, 4, 0, 43, 61, 54, 263, 13,
-    3, 10, 864, 4088, 43, 55, 162, 13, 1, 58, 7, 1, 152, 13, 7, 53,
+    3, 10, 864, 4378, 43, 55, 162, 13, 1, 58, 7, 1, 152, 13, 7, 53,
     1150, 39, 59, 7, 1, 143, 14, 2, 13, 2, 4, 0, 43, 61, 54, 263,
-    13, 3, 10, 864, 4089, 43, 55, 195, 13, 1, 58, 8, 1, 185, 13, 8,
+    13, 3, 10, 864, 4379, 43, 55, 195, 13, 1, 58, 8, 1, 185, 13, 8,
     53, 7, 39, 59, 8, 1, 176, 14, 2, 13, 2, 4, 0, 43, 61, 54,
-    263, 13, 3, 10, 864, 4090, 43, 55, 228, 13, 1, 58, 9, 1, 218, 13,
+    263, 13, 3, 10, 864, 4380, 43, 55, 228, 13, 1, 58, 9, 1, 218, 13,
     9, 53, 659, 39, 59, 9, 1, 209, 14, 2, 13, 2, 4, 0, 43, 61,
-    54, 263, 13, 3, 10, 864, 4091, 43, 55, 261, 13, 1, 58, 10, 1, 251,
+    54, 263, 13, 3, 10, 864, 4381, 43, 55, 261, 13, 1, 58, 10, 1, 251,
     13, 10, 53, 983, 39, 59, 10, 1, 242, 14, 2, 13, 2, 4, 0, 43,
     61, 54, 263, 0, 61, 0, 61, 12, 4, 0, 14, 1, 4, 0, 14, 2,
     4, 0, 14, 3, 23, 27, 14, 4, 23, 27, 14, 5, 13, 0, 58, 6,
     1, 49, 13, 6, 53, 850, 56, 45, 13, 6, 20, 850, 18, 2901, 10, 1500,
-    3107, 43, 39, 40, 59, 6, 1, 27, 14, 1, 13, 0, 58, 7, 1, 79,
-    13, 7, 53, 369, 56, 75, 13, 7, 20, 369, 18, 2901, 10, 371, 3107, 43,
+    3128, 43, 39, 40, 59, 6, 1, 27, 14, 1, 13, 0, 58, 7, 1, 79,
+    13, 7, 53, 369, 56, 75, 13, 7, 20, 369, 18, 2901, 10, 371, 3128, 43,
     39, 40, 59, 7, 1, 57, 14, 2, 13, 0, 58, 8, 1, 95, 13, 8,
     53, 841, 59, 8, 1, 87, 14, 3, 4, 1, 13, 0, 63, 21, 14, 9,
     4, 1, 14, 10, 14, 11, 13, 9, 13, 11, 32, 13, 10, 33, 4, 0,
     48, 55, 215, 13, 0, 13, 11, 21, 53, 850, 56, 148, 13, 0, 13, 11,
-    21, 20, 850, 18, 2901, 10, 1500, 3107, 43, 39, 40, 55, 165, 13, 4, 13,
+    21, 20, 850, 18, 2901, 10, 1500, 3128, 43, 39, 40, 55, 165, 13, 4, 13,
     0, 13, 11, 21, 20, 850, 18, 2901, 31, 27, 14, 4, 13, 0, 13, 11,
     21, 53, 369, 56, 189, 13, 0, 13, 11, 21, 20, 369, 18, 2901, 10, 371,
-    3107, 43, 39, 40, 55, 206, 13, 5, 13, 0, 13, 11, 21, 20, 369, 18,
+    3128, 43, 39, 40, 55, 206, 13, 5, 13, 0, 13, 11, 21, 20, 369, 18,
     2901, 31, 27, 14, 5, 13, 11, 13, 10, 31, 14, 11, 54, 111, 13, 4,
     63, 21, 13, 1, 43, 56, 232, 13, 5, 63, 21, 13, 2, 43, 40, 56,
     240, 13, 3, 4, 1, 46, 40, 61, 0, 61, 10, 13, 0, 63, 6, 39,
     57, 16, 13, 0, 18, 1838, 4, 2, 43, 41, 57, 34, 13, 1, 63, 6,
     39, 57, 33, 13, 1, 18, 1838, 4, 2, 43, 41, 41, 55, 40, 0, 61,
-    54, 228, 13, 0, 60, 3178, 1, 18, 1842, 26, 14, 4, 13, 1, 60, 3178,
+    54, 228, 13, 0, 60, 3220, 1, 18, 1842, 26, 14, 4, 13, 1, 60, 3220,
     1, 18, 1842, 26, 14, 5, 23, 13, 4, 4, 2, 21, 13, 5, 4, 3,
     21, 33, 13, 4, 4, 3, 21, 13, 5, 4, 2, 21, 33, 32, 24, 13,
     4, 4, 3, 21, 13, 5, 4, 1, 21, 33, 13, 4, 4, 1, 21, 13,
@@ -6599,7 +7190,7 @@ constexpr std::uint16_t code[] = {
     1, 13, 0, 53, 744, 55, 16, 13, 0, 20, 744, 18, 2383, 18, 1838, 61,
     13, 0, 53, 255, 55, 31, 13, 0, 20, 255, 18, 2395, 18, 1838, 61, 13,
     0, 53, 939, 55, 49, 13, 0, 20, 939, 18, 2390, 4, 1, 21, 18, 1838,
-    61, 13, 0, 53, 1474, 55, 65, 13, 0, 20, 1474, 18, 1658, 60, 3313, 1,
+    61, 13, 0, 53, 1474, 55, 65, 13, 0, 20, 1474, 18, 1658, 60, 3395, 1,
     61, 13, 0, 53, 241, 55, 83, 13, 0, 20, 241, 18, 2657, 4, 1, 21,
     18, 1838, 61, 13, 0, 53, 142, 55, 101, 13, 0, 20, 142, 18, 1758, 4,
     1, 21, 18, 1838, 61, 13, 0, 53, 869, 55, 110, 4, 2, 61, 13, 0,
@@ -6624,78 +7215,78 @@ constexpr std::uint16_t code[] = {
     1, 1, 1598, 13, 1, 18, 2209, 13, 0, 13, 4, 21, 18, 1917, 13, 0,
     13, 4, 21, 18, 2896, 18, 1839, 18, 2209, 33, 31, 15, 1, 1, 2209, 13,
     4, 13, 3, 31, 14, 4, 54, 36, 13, 1, 61, 0, 61, 2, 13, 0,
-    14, 1, 13, 1, 10, 1233, 4092, 43, 55, 33, 4, 1, 4, 0, 4, 0,
+    14, 1, 13, 1, 10, 1233, 4382, 43, 55, 33, 4, 1, 4, 0, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1,
-    10, 1233, 4093, 43, 55, 61, 4, 2, 4, 0, 4, 0, 4, 0, 4, 0,
-    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4094, 43,
+    10, 1233, 4383, 43, 55, 61, 4, 2, 4, 0, 4, 0, 4, 0, 4, 0,
+    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4384, 43,
     55, 89, 4, 3, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
-    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4095, 43, 55, 117, 4, 0,
+    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4385, 43, 55, 117, 4, 0,
     4, 1, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61,
-    54, 887, 13, 1, 10, 1233, 4096, 43, 55, 145, 4, 0, 4, 0, 4, 1,
+    54, 887, 13, 1, 10, 1233, 4386, 43, 55, 145, 4, 0, 4, 0, 4, 1,
     4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1,
-    10, 1233, 4097, 43, 55, 173, 4, 0, 4, 0, 4, 0, 4, 1, 4, 0,
-    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4098, 43,
+    10, 1233, 4387, 43, 55, 173, 4, 0, 4, 0, 4, 0, 4, 1, 4, 0,
+    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4388, 43,
     55, 201, 4, 0, 4, 0, 4, 0, 4, 0, 4, 1, 4, 0, 4, 0,
-    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4099, 43, 55, 229, 4, 0,
+    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4389, 43, 55, 229, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 0, 4, 1, 4, 0, 62, 374, 7, 61,
-    54, 887, 13, 1, 10, 1233, 4100, 43, 55, 257, 4, 0, 4, 0, 4, 0,
+    54, 887, 13, 1, 10, 1233, 4390, 43, 55, 257, 4, 0, 4, 0, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 1, 62, 374, 7, 61, 54, 887, 13, 1,
-    10, 1233, 4101, 43, 55, 285, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
-    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4102, 43,
+    10, 1233, 4391, 43, 55, 285, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
+    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4392, 43,
     55, 313, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
-    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4103, 43, 55, 342, 4, 0,
+    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4393, 43, 55, 342, 4, 0,
     4, 0, 4, 1, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7,
-    61, 54, 887, 13, 1, 10, 1233, 4104, 43, 55, 371, 4, 1, 4, 1, 4,
+    61, 54, 887, 13, 1, 10, 1233, 4394, 43, 55, 371, 4, 1, 4, 1, 4,
     2, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887,
-    13, 1, 10, 1233, 4105, 43, 55, 401, 4, 1, 38, 4, 1, 4, 2, 38,
+    13, 1, 10, 1233, 4395, 43, 55, 401, 4, 1, 38, 4, 1, 4, 2, 38,
     4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1,
-    10, 1233, 4106, 43, 55, 430, 4, 2, 4, 1, 4, 2, 38, 4, 0, 4,
-    0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4107,
+    10, 1233, 4396, 43, 55, 430, 4, 2, 4, 1, 4, 2, 38, 4, 0, 4,
+    0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4397,
     43, 55, 459, 4, 2, 4, 1, 4, 3, 38, 4, 0, 4, 0, 4, 0,
-    4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4108, 43, 55, 487,
+    4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4398, 43, 55, 487,
     4, 0, 4, 0, 4, 1, 4, 1, 4, 0, 4, 0, 4, 0, 62, 374,
-    7, 61, 54, 887, 13, 1, 10, 1233, 4109, 43, 55, 517, 4, 2, 4, 1,
+    7, 61, 54, 887, 13, 1, 10, 1233, 4399, 43, 55, 517, 4, 2, 4, 1,
     4, 3, 38, 4, 1, 38, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61,
-    54, 887, 13, 1, 10, 1233, 4110, 43, 55, 547, 4, 2, 38, 4, 1, 38,
+    54, 887, 13, 1, 10, 1233, 4400, 43, 55, 547, 4, 2, 38, 4, 1, 38,
     4, 4, 4, 1, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887,
-    13, 1, 10, 1233, 4111, 43, 55, 577, 4, 2, 4, 1, 4, 3, 38, 4,
+    13, 1, 10, 1233, 4401, 43, 55, 577, 4, 2, 4, 1, 4, 3, 38, 4,
     2, 38, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1,
-    10, 1233, 4112, 43, 55, 607, 4, 2, 38, 4, 1, 38, 4, 3, 4, 2,
+    10, 1233, 4402, 43, 55, 607, 4, 2, 38, 4, 1, 38, 4, 3, 4, 2,
     4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233,
-    4113, 43, 55, 637, 4, 2, 4, 1, 4, 2, 38, 4, 1, 38, 4, 0,
-    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4114, 43,
+    4403, 43, 55, 637, 4, 2, 4, 1, 4, 2, 38, 4, 1, 38, 4, 0,
+    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4404, 43,
     55, 667, 4, 0, 4, 1, 4, 2, 38, 4, 1, 38, 4, 0, 4, 0,
-    4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4115, 43, 55, 697,
+    4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4405, 43, 55, 697,
     4, 2, 4, 1, 4, 2, 38, 4, 2, 38, 4, 0, 4, 0, 4, 0,
-    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4116, 43, 55, 725, 4, 0,
+    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4406, 43, 55, 725, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 1, 4, 0, 4, 0, 62, 374, 7, 61,
-    54, 887, 13, 1, 10, 1233, 4117, 43, 55, 753, 4, 0, 4, 0, 4, 0,
+    54, 887, 13, 1, 10, 1233, 4407, 43, 55, 753, 4, 0, 4, 0, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 1, 62, 374, 7, 61, 54, 887, 13, 1,
-    10, 1233, 4118, 43, 55, 782, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4,
-    0, 4, 0, 4, 1, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4119,
+    10, 1233, 4408, 43, 55, 782, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4,
+    0, 4, 0, 4, 1, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4409,
     43, 55, 811, 4, 0, 4, 0, 4, 1, 38, 4, 0, 4, 0, 4, 0,
-    4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4120, 43, 55, 840,
+    4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4410, 43, 55, 840,
     4, 2, 4, 0, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62,
-    374, 7, 61, 54, 887, 13, 1, 10, 1233, 4121, 43, 55, 869, 4, 2, 4,
+    374, 7, 61, 54, 887, 13, 1, 10, 1233, 4411, 43, 55, 869, 4, 2, 4,
     0, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61,
     54, 887, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
     62, 374, 7, 61, 0, 61, 9, 13, 0, 63, 6, 39, 57, 14, 13, 1,
     63, 6, 39, 41, 55, 21, 0, 14, 2, 54, 115, 13, 0, 18, 1838, 13,
-    1, 18, 1838, 44, 55, 37, 0, 14, 2, 54, 115, 13, 0, 60, 3178, 1,
-    14, 3, 13, 1, 60, 3178, 1, 14, 4, 13, 0, 18, 1838, 14, 5, 6,
+    1, 18, 1838, 44, 55, 37, 0, 14, 2, 54, 115, 13, 0, 60, 3220, 1,
+    14, 3, 13, 1, 60, 3220, 1, 14, 4, 13, 0, 18, 1838, 14, 5, 6,
     0, 14, 2, 4, 1, 13, 5, 14, 6, 4, 1, 14, 7, 14, 8, 13,
     6, 13, 8, 32, 13, 7, 33, 4, 0, 48, 55, 115, 13, 2, 13, 3,
     18, 1842, 13, 8, 21, 13, 4, 18, 1842, 13, 8, 21, 33, 31, 14, 2,
     13, 8, 13, 7, 31, 14, 8, 54, 73, 13, 2, 61, 0, 61, 6, 13,
-    0, 63, 6, 39, 55, 12, 0, 61, 54, 145, 13, 0, 60, 3178, 1, 14,
+    0, 63, 6, 39, 55, 12, 0, 61, 54, 145, 13, 0, 60, 3220, 1, 14,
     4, 13, 1, 63, 6, 39, 55, 77, 13, 4, 18, 1842, 23, 6, 1, 24,
     6, 0, 24, 6, 0, 24, 44, 55, 60, 23, 6, 1, 24, 6, 0, 24,
     6, 0, 24, 62, 382, 1, 14, 3, 54, 75, 23, 6, 0, 24, 6, 1,
     24, 6, 0, 24, 62, 382, 1, 14, 3, 54, 113, 13, 1, 18, 1838, 4,
-    3, 44, 55, 88, 0, 61, 13, 1, 13, 4, 60, 3185, 2, 18, 2210, 6,
-    0, 43, 55, 106, 0, 61, 54, 113, 13, 1, 60, 3178, 1, 14, 3, 13,
-    3, 13, 4, 60, 3457, 2, 13, 4, 60, 4122, 2, 14, 5, 13, 3, 13,
-    5, 60, 4123, 2, 18, 2320, 14, 2, 13, 2, 60, 3178, 1, 14, 2, 13,
+    3, 44, 55, 88, 0, 61, 13, 1, 13, 4, 60, 3230, 2, 18, 2210, 6,
+    0, 43, 55, 106, 0, 61, 54, 113, 13, 1, 60, 3220, 1, 14, 3, 13,
+    3, 13, 4, 60, 3571, 2, 13, 4, 60, 4412, 2, 14, 5, 13, 3, 13,
+    5, 60, 4413, 2, 18, 2320, 14, 2, 13, 2, 60, 3220, 1, 14, 2, 13,
     2, 61, 0, 61, 1, 13, 0, 4, 4, 36, 4, 0, 43, 56, 20, 13,
     0, 4, 100, 36, 4, 0, 44, 40, 57, 31, 13, 0, 4, 400, 36, 4,
     0, 43, 41, 55, 37, 3, 61, 54, 39, 1, 61, 0, 61, 8, 13, 0,
@@ -6741,24 +7332,24 @@ constexpr std::uint16_t code[] = {
     21, 18, 1874, 13, 0, 18, 1876, 13, 5, 21, 18, 1878, 49, 40, 14, 2,
     13, 5, 13, 4, 31, 14, 5, 54, 28, 13, 2, 61, 0, 61, 3, 13,
     0, 18, 2336, 4, 1, 21, 13, 1, 18, 2336, 4, 1, 21, 13, 2, 60,
-    4125, 3, 56, 42, 13, 0, 18, 2336, 4, 2, 21, 13, 1, 18, 2336, 4,
-    2, 21, 13, 2, 60, 4125, 3, 40, 56, 58, 13, 0, 18, 2189, 13, 0,
-    18, 2189, 13, 2, 60, 4126, 3, 40, 61, 0, 61, 9, 13, 0, 18, 1763,
+    4415, 3, 56, 42, 13, 0, 18, 2336, 4, 2, 21, 13, 1, 18, 2336, 4,
+    2, 21, 13, 2, 60, 4415, 3, 40, 56, 58, 13, 0, 18, 2189, 13, 0,
+    18, 2189, 13, 2, 60, 4416, 3, 40, 61, 0, 61, 9, 13, 0, 18, 1763,
     4, 1, 21, 14, 3, 13, 0, 18, 1763, 4, 2, 21, 14, 4, 4, 0,
     14, 5, 13, 1, 18, 1763, 4, 1, 21, 14, 6, 13, 1, 18, 1763, 4,
     2, 21, 14, 7, 4, 0, 14, 8, 13, 0, 18, 1763, 63, 21, 4, 2,
     47, 55, 65, 13, 0, 18, 1763, 4, 3, 21, 14, 5, 13, 1, 18, 1763,
     63, 21, 4, 2, 47, 55, 85, 13, 1, 18, 1763, 4, 3, 21, 14, 8,
-    13, 3, 13, 6, 13, 2, 60, 4127, 3, 56, 106, 13, 4, 13, 7, 13,
-    2, 60, 4127, 3, 40, 56, 118, 13, 5, 13, 8, 13, 2, 60, 4127, 3,
+    13, 3, 13, 6, 13, 2, 60, 4417, 3, 56, 106, 13, 4, 13, 7, 13,
+    2, 60, 4417, 3, 40, 56, 118, 13, 5, 13, 8, 13, 2, 60, 4417, 3,
     40, 61, 0, 61, 9, 13, 0, 18, 1842, 4, 1, 21, 14, 3, 13, 0,
     18, 1842, 4, 2, 21, 14, 4, 4, 0, 14, 5, 13, 1, 18, 1842, 4,
     1, 21, 14, 6, 13, 1, 18, 1842, 4, 2, 21, 14, 7, 4, 0, 14,
     8, 13, 0, 18, 1842, 63, 21, 4, 2, 47, 55, 65, 13, 0, 18, 1842,
     4, 3, 21, 14, 5, 13, 1, 18, 1842, 63, 21, 4, 2, 47, 55, 85,
     13, 1, 18, 1842, 4, 3, 21, 14, 8, 13, 3, 13, 6, 13, 2, 60,
-    4127, 3, 56, 106, 13, 4, 13, 7, 13, 2, 60, 4127, 3, 40, 56, 118,
-    13, 5, 13, 8, 13, 2, 60, 4127, 3, 40, 61, 0, 61, 7, 6, 6,
+    4417, 3, 56, 106, 13, 4, 13, 7, 13, 2, 60, 4417, 3, 40, 56, 118,
+    13, 5, 13, 8, 13, 2, 60, 4417, 3, 40, 61, 0, 61, 7, 6, 6,
     14, 4, 6, 7, 14, 5, 6, 1, 14, 6, 13, 0, 13, 4, 63, 17,
     14, 2, 13, 1, 13, 4, 63, 17, 14, 3, 6, 0, 13, 2, 45, 56,
     45, 13, 2, 13, 5, 13, 3, 33, 46, 40, 56, 56, 13, 3, 13, 5,
@@ -6772,23 +7363,23 @@ constexpr std::uint16_t code[] = {
     120, 4, 1, 13, 2, 18, 1842, 63, 21, 14, 5, 4, 1, 14, 6, 14,
     7, 13, 5, 13, 7, 32, 13, 6, 33, 4, 0, 48, 55, 115, 13, 7,
     13, 2, 18, 1842, 13, 7, 21, 38, 15, 2, 2, 1842, 65535, 13, 7, 13,
-    6, 31, 14, 7, 54, 78, 13, 3, 38, 14, 3, 13, 2, 60, 3178, 1,
+    6, 31, 14, 7, 54, 78, 13, 3, 38, 14, 3, 13, 2, 60, 3220, 1,
     13, 3, 62, 1508, 2, 14, 4, 13, 4, 61, 0, 61, 6, 13, 2, 63,
     6, 39, 55, 25, 23, 6, 0, 24, 6, 1, 24, 6, 0, 24, 62, 382,
-    1, 14, 4, 54, 29, 13, 2, 14, 4, 13, 4, 13, 0, 60, 3457, 2,
-    13, 0, 60, 4122, 2, 14, 5, 13, 4, 13, 5, 60, 4123, 2, 14, 3,
-    13, 4, 13, 1, 60, 3457, 2, 13, 1, 60, 4122, 2, 14, 5, 13, 3,
-    13, 5, 60, 4123, 2, 14, 3, 13, 3, 60, 3178, 1, 14, 3, 13, 3,
+    1, 14, 4, 54, 29, 13, 2, 14, 4, 13, 4, 13, 0, 60, 3571, 2,
+    13, 0, 60, 4412, 2, 14, 5, 13, 4, 13, 5, 60, 4413, 2, 14, 3,
+    13, 4, 13, 1, 60, 3571, 2, 13, 1, 60, 4412, 2, 14, 5, 13, 3,
+    13, 5, 60, 4413, 2, 14, 3, 13, 3, 60, 3220, 1, 14, 3, 13, 3,
     18, 2320, 61, 0, 61, 22, 4, 0, 14, 2, 13, 0, 14, 3, 13, 3,
-    7, 4128, 43, 55, 44, 13, 1, 58, 4, 1, 40, 13, 4, 53, 332, 56,
+    7, 4418, 43, 55, 44, 13, 1, 58, 4, 1, 40, 13, 4, 53, 332, 56,
     36, 13, 4, 18, 1838, 4, 2, 43, 40, 59, 4, 1, 22, 14, 2, 54,
-    565, 13, 3, 7, 4129, 43, 55, 97, 13, 1, 58, 5, 1, 93, 13, 5,
+    565, 13, 3, 7, 4419, 43, 55, 97, 13, 1, 58, 5, 1, 93, 13, 5,
     63, 24, 23, 9, 932, 24, 9, 332, 24, 9, 626, 24, 9, 65, 24, 9,
     364, 24, 9, 1411, 24, 9, 428, 24, 33, 63, 21, 4, 1, 43, 59, 5,
-    1, 57, 14, 2, 54, 565, 13, 3, 7, 4130, 43, 55, 143, 13, 1, 58,
+    1, 57, 14, 2, 54, 565, 13, 3, 7, 4420, 43, 55, 143, 13, 1, 58,
     6, 1, 139, 13, 6, 53, 631, 57, 121, 13, 6, 53, 932, 41, 57, 128,
     13, 6, 53, 332, 41, 57, 135, 13, 6, 53, 1347, 41, 59, 6, 1, 110,
-    14, 2, 54, 565, 13, 3, 7, 4131, 43, 55, 267, 13, 1, 58, 7, 1,
+    14, 2, 54, 565, 13, 3, 7, 4421, 43, 55, 267, 13, 1, 58, 7, 1,
     185, 13, 7, 53, 626, 57, 167, 13, 7, 53, 631, 41, 57, 174, 13, 7,
     53, 932, 41, 57, 181, 13, 7, 53, 332, 41, 59, 7, 1, 156, 14, 2,
     4, 1, 13, 1, 63, 10, 14, 8, 4, 1, 14, 9, 14, 10, 13, 8,
@@ -6796,35 +7387,35 @@ constexpr std::uint16_t code[] = {
     53, 631, 55, 256, 13, 1, 13, 10, 21, 20, 631, 18, 1887, 58, 11, 1,
     244, 13, 11, 53, 1347, 59, 11, 1, 236, 4, 0, 47, 55, 256, 13, 2,
     4, 1, 32, 14, 2, 13, 10, 13, 9, 31, 14, 10, 54, 201, 54, 565,
-    13, 3, 7, 4132, 43, 55, 311, 13, 1, 58, 12, 1, 307, 23, 9, 1217,
+    13, 3, 7, 4422, 43, 55, 311, 13, 1, 58, 12, 1, 307, 23, 9, 1217,
     24, 9, 543, 24, 9, 547, 24, 9, 548, 24, 13, 12, 63, 24, 33, 63,
-    21, 4, 1, 48, 59, 12, 1, 280, 14, 2, 54, 565, 13, 3, 7, 4133,
+    21, 4, 1, 48, 59, 12, 1, 280, 14, 2, 54, 565, 13, 3, 7, 4423,
     43, 55, 336, 13, 1, 58, 13, 1, 332, 13, 13, 53, 1245, 59, 13, 1,
-    324, 14, 2, 54, 565, 13, 3, 7, 4134, 43, 55, 361, 13, 1, 58, 14,
+    324, 14, 2, 54, 565, 13, 3, 7, 4424, 43, 55, 361, 13, 1, 58, 14,
     1, 357, 13, 14, 53, 1366, 59, 14, 1, 349, 14, 2, 54, 565, 13, 3,
-    7, 4135, 43, 55, 386, 13, 1, 58, 15, 1, 382, 13, 15, 53, 124, 59,
-    15, 1, 374, 14, 2, 54, 565, 13, 3, 7, 4136, 43, 55, 411, 13, 1,
+    7, 4425, 43, 55, 386, 13, 1, 58, 15, 1, 382, 13, 15, 53, 124, 59,
+    15, 1, 374, 14, 2, 54, 565, 13, 3, 7, 4426, 43, 55, 411, 13, 1,
     58, 16, 1, 407, 13, 16, 53, 121, 59, 16, 1, 399, 14, 2, 54, 565,
-    13, 3, 7, 4137, 43, 55, 443, 13, 1, 58, 17, 1, 439, 13, 17, 53,
+    13, 3, 7, 4427, 43, 55, 443, 13, 1, 58, 17, 1, 439, 13, 17, 53,
     1349, 57, 435, 13, 17, 53, 1367, 41, 59, 17, 1, 424, 14, 2, 54, 565,
-    13, 3, 7, 4138, 43, 55, 475, 13, 1, 58, 18, 1, 471, 13, 18, 53,
+    13, 3, 7, 4428, 43, 55, 475, 13, 1, 58, 18, 1, 471, 13, 18, 53,
     547, 57, 467, 13, 18, 53, 548, 41, 59, 18, 1, 456, 14, 2, 54, 565,
-    13, 3, 7, 4139, 43, 55, 513, 13, 1, 58, 19, 1, 496, 13, 19, 53,
+    13, 3, 7, 4429, 43, 55, 513, 13, 1, 58, 19, 1, 496, 13, 19, 53,
     135, 59, 19, 1, 488, 14, 2, 13, 1, 63, 21, 4, 1, 47, 55, 511,
-    4, 0, 14, 2, 54, 565, 13, 3, 7, 4140, 43, 55, 538, 13, 1, 58,
+    4, 0, 14, 2, 54, 565, 13, 3, 7, 4430, 43, 55, 538, 13, 1, 58,
     20, 1, 534, 13, 20, 53, 1191, 59, 20, 1, 526, 14, 2, 54, 565, 13,
-    3, 7, 4141, 43, 55, 563, 13, 1, 58, 21, 1, 559, 13, 21, 53, 779,
+    3, 7, 4431, 43, 55, 563, 13, 1, 58, 21, 1, 559, 13, 21, 53, 779,
     59, 21, 1, 551, 14, 2, 54, 565, 0, 61, 13, 2, 13, 1, 63, 21,
     43, 61, 0, 61, 9, 4, 0, 14, 2, 13, 0, 14, 3, 13, 3, 7,
-    4142, 43, 55, 34, 13, 1, 58, 4, 1, 30, 13, 4, 53, 1514, 59, 4,
-    1, 22, 14, 2, 54, 154, 13, 3, 7, 4143, 43, 55, 59, 13, 1, 58,
+    4432, 43, 55, 34, 13, 1, 58, 4, 1, 30, 13, 4, 53, 1514, 59, 4,
+    1, 22, 14, 2, 54, 154, 13, 3, 7, 4433, 43, 55, 59, 13, 1, 58,
     5, 1, 55, 13, 5, 53, 453, 59, 5, 1, 47, 14, 2, 54, 154, 13,
-    3, 7, 4144, 43, 55, 84, 13, 1, 58, 6, 1, 80, 13, 6, 53, 892,
-    59, 6, 1, 72, 14, 2, 54, 154, 13, 3, 7, 4145, 43, 55, 109, 13,
+    3, 7, 4434, 43, 55, 84, 13, 1, 58, 6, 1, 80, 13, 6, 53, 892,
+    59, 6, 1, 72, 14, 2, 54, 154, 13, 3, 7, 4435, 43, 55, 109, 13,
     1, 58, 7, 1, 105, 13, 7, 53, 542, 59, 7, 1, 97, 14, 2, 54,
-    154, 13, 3, 7, 4146, 43, 55, 141, 13, 1, 58, 8, 1, 137, 13, 8,
+    154, 13, 3, 7, 4436, 43, 55, 141, 13, 1, 58, 8, 1, 137, 13, 8,
     53, 877, 57, 133, 13, 8, 53, 219, 41, 59, 8, 1, 122, 14, 2, 54,
-    154, 13, 3, 7, 4147, 43, 55, 152, 3, 61, 54, 154, 0, 61, 13, 2,
+    154, 13, 3, 7, 4437, 43, 55, 152, 3, 61, 54, 154, 0, 61, 13, 2,
     13, 1, 63, 21, 43, 61, 0, 61, 5, 23, 27, 14, 1, 4, 1, 13,
     0, 63, 10, 14, 2, 4, 1, 14, 3, 14, 4, 13, 2, 13, 4, 32,
     13, 3, 33, 4, 0, 48, 55, 54, 13, 1, 13, 0, 13, 4, 21, 18,
@@ -6838,7 +7429,7 @@ constexpr std::uint16_t code[] = {
     106, 4, 1, 13, 0, 18, 1808, 17, 14, 5, 46, 13, 5, 4, 30, 46,
     40, 61, 54, 188, 13, 2, 4, 11, 43, 55, 132, 4, 1, 13, 0, 18,
     1808, 17, 14, 6, 46, 13, 6, 4, 30, 46, 40, 61, 54, 188, 13, 2,
-    4, 2, 43, 55, 186, 13, 0, 18, 3010, 60, 4124, 1, 55, 167, 4, 1,
+    4, 2, 43, 55, 186, 13, 0, 18, 3010, 60, 4414, 1, 55, 167, 4, 1,
     13, 0, 18, 1808, 17, 14, 7, 46, 13, 7, 4, 29, 46, 40, 61, 54,
     184, 4, 1, 13, 0, 18, 1808, 17, 14, 8, 46, 13, 8, 4, 28, 46,
     40, 61, 54, 188, 3, 61, 0, 61, 1, 13, 0, 18, 2648, 63, 6, 55,
@@ -6849,7 +7440,7 @@ constexpr std::uint16_t code[] = {
     18, 2320, 14, 4, 54, 64, 6, 1, 14, 7, 13, 0, 14, 4, 13, 1,
     53, 1508, 55, 88, 13, 1, 20, 1508, 18, 2210, 14, 8, 13, 1, 20, 1508,
     18, 2320, 14, 5, 54, 96, 6, 1, 14, 8, 13, 1, 14, 5, 13, 4,
-    60, 3178, 1, 14, 4, 13, 5, 60, 3178, 1, 14, 5, 13, 4, 18, 1842,
+    60, 3220, 1, 14, 4, 13, 5, 60, 3220, 1, 14, 5, 13, 4, 18, 1842,
     63, 21, 14, 9, 6, 0, 14, 6, 23, 6, 0, 13, 9, 25, 62, 382,
     1, 14, 3, 4, 1, 13, 9, 14, 10, 4, 1, 14, 11, 14, 12, 13,
     10, 13, 12, 32, 13, 11, 33, 4, 0, 48, 55, 215, 13, 12, 13, 7,
@@ -6864,8 +7455,8 @@ constexpr std::uint16_t code[] = {
     1508, 18, 2210, 14, 7, 13, 0, 20, 1508, 18, 2320, 14, 4, 54, 64, 6,
     1, 14, 7, 13, 0, 14, 4, 13, 1, 53, 1508, 55, 88, 13, 1, 20,
     1508, 18, 2210, 14, 8, 13, 1, 20, 1508, 18, 2320, 14, 5, 54, 96, 6,
-    1, 14, 8, 13, 1, 14, 5, 13, 4, 60, 3178, 1, 14, 4, 13, 5,
-    60, 3178, 1, 14, 5, 13, 4, 18, 1842, 63, 21, 14, 9, 6, 0, 14,
+    1, 14, 8, 13, 1, 14, 5, 13, 4, 60, 3220, 1, 14, 4, 13, 5,
+    60, 3220, 1, 14, 5, 13, 4, 18, 1842, 63, 21, 14, 9, 6, 0, 14,
     6, 23, 6, 0, 13, 9, 25, 62, 382, 1, 14, 3, 4, 1, 13, 9,
     14, 10, 4, 1, 14, 11, 14, 12, 13, 10, 13, 12, 32, 13, 11, 33,
     4, 0, 48, 55, 215, 13, 12, 13, 7, 13, 4, 18, 1842, 13, 12, 21,
@@ -6886,10 +7477,10 @@ constexpr std::uint16_t code[] = {
     61, 1, 4, 1, 11, 17, 14, 0, 46, 13, 0, 4, 31, 46, 40, 61,
     1, 4, 1, 11, 17, 14, 0, 46, 13, 0, 4, 7, 46, 40, 61, 0,
     11, 6, 0, 48, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10,
-    12, 3107, 44, 41, 57, 34, 19, 2402, 10, 12, 3107, 43, 56, 33, 11, 20,
+    12, 3128, 44, 41, 57, 34, 19, 2402, 10, 12, 3128, 43, 56, 33, 11, 20,
     858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43,
     57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 11, 41, 61,
-    0, 19, 2402, 10, 12, 3107, 44, 57, 26, 19, 2402, 10, 12, 3107, 43, 56,
+    0, 19, 2402, 10, 12, 3128, 44, 57, 26, 19, 2402, 10, 12, 3128, 43, 56,
     25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 1, 11, 20, 776, 18,
     2324, 18, 1697, 58, 0, 1, 21, 13, 0, 53, 17, 39, 59, 0, 1, 12,
     4, 0, 43, 61, 2, 19, 2969, 58, 0, 1, 31, 13, 0, 18, 1697, 58,
@@ -6905,184 +7496,184 @@ constexpr std::uint16_t code[] = {
     72, 23, 9, 744, 24, 9, 255, 24, 9, 939, 24, 9, 142, 24, 13, 2,
     20, 884, 18, 1873, 20, 454, 18, 1875, 63, 24, 33, 63, 21, 4, 1, 43,
     39, 59, 2, 1, 36, 4, 0, 43, 39, 59, 1, 1, 24, 4, 0, 43,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 24, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 24, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 24, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 24, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20,
     858, 18, 2112, 4, 1, 21, 18, 2570, 53, 23, 41, 61, 0, 19, 2402, 63,
-    6, 39, 57, 15, 19, 2402, 10, 22, 3107, 44, 41, 57, 34, 19, 2402, 10,
-    22, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
+    6, 39, 57, 15, 19, 2402, 10, 22, 3128, 44, 41, 57, 34, 19, 2402, 10,
+    22, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
     19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1,
     21, 18, 2570, 53, 21, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 27, 3107, 44, 41, 57, 34, 19, 2402, 10, 27, 3107, 43, 56, 33,
+    2402, 10, 27, 3128, 44, 41, 57, 34, 19, 2402, 10, 27, 3128, 43, 56, 33,
     11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4,
     0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 26,
-    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 30, 3107, 44,
-    41, 57, 34, 19, 2402, 10, 30, 3107, 43, 56, 33, 11, 20, 858, 18, 2300,
+    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 30, 3128, 44,
+    41, 57, 34, 19, 2402, 10, 30, 3128, 43, 56, 33, 11, 20, 858, 18, 2300,
     63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11,
     20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 29, 41, 61, 0, 19, 2402,
-    10, 30, 3107, 44, 57, 26, 19, 2402, 10, 30, 3107, 43, 56, 25, 11, 20,
+    10, 30, 3128, 44, 57, 26, 19, 2402, 10, 30, 3128, 43, 56, 25, 11, 20,
     501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2043, 63, 6, 57, 12, 19,
     2274, 63, 6, 41, 61, 0, 19, 2847, 63, 6, 39, 57, 17, 19, 1670, 19,
     2847, 31, 19, 2328, 45, 41, 61, 0, 19, 2988, 19, 1671, 45, 56, 14, 19,
     2988, 19, 2848, 45, 40, 61, 0, 19, 1668, 63, 6, 39, 57, 20, 19, 1668,
     19, 1671, 19, 2988, 32, 6, 4, 34, 46, 41, 61, 0, 19, 2845, 63, 6,
     39, 57, 20, 19, 2845, 19, 2848, 19, 2988, 32, 6, 4, 34, 46, 41, 61,
-    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 96, 3107, 44, 41, 57,
-    34, 19, 2402, 10, 96, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
+    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 96, 3128, 44, 41, 57,
+    34, 19, 2402, 10, 96, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
     40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858,
     18, 2112, 4, 1, 21, 18, 2570, 53, 95, 41, 61, 0, 19, 2402, 10, 96,
-    3107, 44, 57, 26, 19, 2402, 10, 96, 3107, 43, 56, 25, 11, 20, 501, 18,
-    1888, 63, 6, 40, 41, 61, 0, 19, 1758, 4, 0, 19, 2904, 60, 3193, 3,
+    3128, 44, 57, 26, 19, 2402, 10, 96, 3128, 43, 56, 25, 11, 20, 501, 18,
+    1888, 63, 6, 40, 41, 61, 0, 19, 1758, 4, 0, 19, 2904, 60, 3241, 3,
     4, 0, 19, 2904, 29, 61, 0, 19, 1821, 19, 2905, 19, 2904, 19, 2120, 19,
-    2121, 60, 4236, 5, 61, 0, 19, 2120, 63, 21, 19, 2905, 43, 61, 0, 19,
+    2121, 60, 4549, 5, 61, 0, 19, 2120, 63, 21, 19, 2905, 43, 61, 0, 19,
     2121, 63, 21, 61, 0, 19, 1758, 4, 1, 21, 63, 21, 4, 1, 32, 61,
-    0, 19, 1758, 4, 0, 19, 2935, 4, 0, 19, 2979, 60, 4242, 5, 4, 0,
+    0, 19, 1758, 4, 0, 19, 2935, 4, 0, 19, 2979, 60, 4557, 5, 4, 0,
     19, 2935, 29, 61, 0, 11, 20, 145, 18, 2891, 19, 2123, 11, 20, 145, 18,
-    2935, 19, 2895, 19, 2892, 60, 4236, 5, 61, 0, 11, 20, 145, 18, 2953, 19,
-    2124, 11, 20, 145, 18, 2979, 19, 2968, 19, 2967, 60, 4236, 5, 61, 0, 19,
+    2935, 19, 2895, 19, 2892, 60, 4549, 5, 61, 0, 11, 20, 145, 18, 2953, 19,
+    2124, 11, 20, 145, 18, 2979, 19, 2968, 19, 2967, 60, 4549, 5, 61, 0, 19,
     2895, 63, 21, 19, 2123, 43, 61, 0, 19, 2968, 63, 21, 19, 2124, 43, 61,
     0, 19, 2967, 63, 21, 61, 0, 19, 2892, 63, 21, 61, 0, 19, 2402, 63,
-    6, 39, 57, 15, 19, 2402, 10, 106, 3107, 44, 41, 57, 34, 19, 2402, 10,
-    106, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
+    6, 39, 57, 15, 19, 2402, 10, 106, 3128, 44, 41, 57, 34, 19, 2402, 10,
+    106, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
     19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1,
-    21, 18, 2570, 53, 105, 41, 61, 1, 11, 7, 4038, 63, 25, 58, 0, 1,
+    21, 18, 2570, 53, 105, 41, 61, 1, 11, 7, 4320, 63, 25, 58, 0, 1,
     27, 13, 0, 53, 1103, 56, 23, 13, 0, 18, 2549, 53, 801, 40, 59, 0,
-    1, 10, 4, 1, 43, 61, 0, 19, 2402, 10, 106, 3107, 44, 57, 26, 19,
-    2402, 10, 106, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
+    1, 10, 4, 1, 43, 61, 0, 19, 2402, 10, 106, 3128, 44, 57, 26, 19,
+    2402, 10, 106, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
     61, 0, 19, 2453, 63, 4, 4, 8, 36, 4, 0, 43, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 119, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 119, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    63, 6, 39, 57, 15, 19, 2402, 10, 119, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 119, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
     0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4,
     1, 21, 18, 2570, 53, 118, 41, 61, 0, 19, 1946, 53, 1366, 57, 15, 7,
-    4266, 19, 1946, 63, 24, 51, 41, 57, 22, 19, 1946, 53, 121, 41, 61, 0,
+    4589, 19, 1946, 63, 24, 51, 41, 57, 22, 19, 1946, 53, 121, 41, 61, 0,
     19, 1946, 53, 1404, 39, 57, 22, 19, 1946, 18, 1705, 63, 6, 56, 21, 19,
     1946, 18, 1705, 40, 41, 61, 0, 19, 2651, 53, 1404, 39, 57, 22, 19, 2651,
     18, 1705, 63, 6, 56, 21, 19, 2651, 18, 1705, 40, 41, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 153, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 153, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    63, 6, 39, 57, 15, 19, 2402, 10, 153, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 153, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
     0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4,
-    1, 21, 18, 2570, 53, 152, 41, 61, 0, 19, 2402, 10, 153, 3107, 44, 57,
-    26, 19, 2402, 10, 153, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
-    40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 156, 3107,
-    44, 41, 57, 34, 19, 2402, 10, 156, 3107, 43, 56, 33, 11, 20, 858, 18,
+    1, 21, 18, 2570, 53, 152, 41, 61, 0, 19, 2402, 10, 153, 3128, 44, 57,
+    26, 19, 2402, 10, 153, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
+    40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 156, 3128,
+    44, 41, 57, 34, 19, 2402, 10, 156, 3128, 43, 56, 33, 11, 20, 858, 18,
     2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23,
     11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 155, 41, 61, 0, 19,
-    2402, 10, 156, 3107, 44, 57, 26, 19, 2402, 10, 156, 3107, 43, 56, 25, 11,
+    2402, 10, 156, 3128, 44, 57, 26, 19, 2402, 10, 156, 3128, 43, 56, 25, 11,
     20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57,
-    15, 19, 2402, 10, 167, 3107, 44, 41, 57, 34, 19, 2402, 10, 167, 3107, 43,
+    15, 19, 2402, 10, 167, 3128, 44, 41, 57, 34, 19, 2402, 10, 167, 3128, 43,
     56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63,
     21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570,
-    53, 166, 41, 61, 0, 19, 2402, 10, 167, 3107, 44, 57, 26, 19, 2402, 10,
-    167, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0,
+    53, 166, 41, 61, 0, 19, 2402, 10, 167, 3128, 44, 57, 26, 19, 2402, 10,
+    167, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0,
     19, 2072, 63, 6, 39, 57, 34, 19, 2072, 19, 2996, 6, 4, 34, 19, 2980,
     32, 46, 56, 33, 19, 2072, 19, 1831, 6, 4, 34, 19, 2980, 32, 46, 40,
-    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 170, 3107, 44,
-    41, 57, 34, 19, 2402, 10, 170, 3107, 43, 56, 33, 11, 20, 858, 18, 2300,
+    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 170, 3128, 44,
+    41, 57, 34, 19, 2402, 10, 170, 3128, 43, 56, 33, 11, 20, 858, 18, 2300,
     63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11,
     20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 169, 41, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 173, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 173, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    63, 6, 39, 57, 15, 19, 2402, 10, 173, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 173, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
     0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4,
-    1, 21, 18, 2570, 53, 172, 41, 61, 0, 19, 2402, 10, 173, 3107, 44, 57,
-    26, 19, 2402, 10, 173, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
-    40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 176, 3107,
-    44, 41, 57, 34, 19, 2402, 10, 176, 3107, 43, 56, 33, 11, 20, 858, 18,
+    1, 21, 18, 2570, 53, 172, 41, 61, 0, 19, 2402, 10, 173, 3128, 44, 57,
+    26, 19, 2402, 10, 173, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
+    40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 176, 3128,
+    44, 41, 57, 34, 19, 2402, 10, 176, 3128, 43, 56, 33, 11, 20, 858, 18,
     2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23,
     11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 175, 41, 61, 0, 19,
-    2402, 10, 176, 3107, 44, 57, 26, 19, 2402, 10, 176, 3107, 43, 56, 25, 11,
+    2402, 10, 176, 3128, 44, 57, 26, 19, 2402, 10, 176, 3128, 43, 56, 25, 11,
     20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57,
-    15, 19, 2402, 10, 179, 3107, 44, 41, 57, 34, 19, 2402, 10, 179, 3107, 43,
+    15, 19, 2402, 10, 179, 3128, 44, 41, 57, 34, 19, 2402, 10, 179, 3128, 43,
     56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63,
     21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570,
-    53, 178, 41, 61, 0, 19, 2402, 10, 179, 3107, 44, 57, 26, 19, 2402, 10,
-    179, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0,
-    11, 60, 4318, 1, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10,
-    200, 3107, 44, 41, 57, 34, 19, 2402, 10, 200, 3107, 43, 56, 33, 11, 20,
+    53, 178, 41, 61, 0, 19, 2402, 10, 179, 3128, 44, 57, 26, 19, 2402, 10,
+    179, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0,
+    11, 60, 4652, 1, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10,
+    200, 3128, 44, 41, 57, 34, 19, 2402, 10, 200, 3128, 43, 56, 33, 11, 20,
     858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43,
     57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 199, 41, 61,
-    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 203, 3107, 44, 41, 57,
-    34, 19, 2402, 10, 203, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
+    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 203, 3128, 44, 41, 57,
+    34, 19, 2402, 10, 203, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
     40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858,
     18, 2112, 4, 1, 21, 18, 2570, 53, 202, 41, 61, 0, 19, 2402, 10, 203,
-    3107, 44, 57, 26, 19, 2402, 10, 203, 3107, 43, 56, 25, 11, 20, 501, 18,
+    3128, 44, 57, 26, 19, 2402, 10, 203, 3128, 43, 56, 25, 11, 20, 501, 18,
     1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402,
-    10, 223, 3107, 44, 41, 57, 34, 19, 2402, 10, 223, 3107, 43, 56, 33, 11,
+    10, 223, 3128, 44, 41, 57, 34, 19, 2402, 10, 223, 3128, 43, 56, 33, 11,
     20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0,
     43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 222, 41,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 232, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 232, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 232, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 232, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20,
     858, 18, 2112, 4, 1, 21, 18, 2570, 53, 231, 41, 61, 0, 19, 2402, 10,
-    232, 3107, 44, 57, 26, 19, 2402, 10, 232, 3107, 43, 56, 25, 11, 20, 501,
+    232, 3128, 44, 57, 26, 19, 2402, 10, 232, 3128, 43, 56, 25, 11, 20, 501,
     18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 235, 3107, 44, 41, 57, 34, 19, 2402, 10, 235, 3107, 43, 56, 33,
+    2402, 10, 235, 3128, 44, 41, 57, 34, 19, 2402, 10, 235, 3128, 43, 56, 33,
     11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4,
     0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 234,
-    41, 61, 0, 19, 2402, 10, 235, 3107, 44, 57, 26, 19, 2402, 10, 235, 3107,
+    41, 61, 0, 19, 2402, 10, 235, 3128, 44, 57, 26, 19, 2402, 10, 235, 3128,
     43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2016,
-    60, 4357, 1, 61, 1, 19, 2016, 58, 0, 1, 15, 11, 13, 0, 49, 59,
+    60, 4696, 1, 61, 1, 19, 2016, 58, 0, 1, 15, 11, 13, 0, 49, 59,
     0, 1, 7, 4, 0, 43, 61, 0, 19, 1659, 63, 21, 4, 0, 47, 61,
-    0, 11, 60, 4367, 1, 27, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 248, 3107, 44, 41, 57, 34, 19, 2402, 10, 248, 3107, 43, 56, 33,
+    0, 11, 60, 4709, 1, 27, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
+    2402, 10, 248, 3128, 44, 41, 57, 34, 19, 2402, 10, 248, 3128, 43, 56, 33,
     11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4,
     0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 247,
-    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 251, 3107, 44,
-    41, 57, 34, 19, 2402, 10, 251, 3107, 43, 56, 33, 11, 20, 858, 18, 2300,
+    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 251, 3128, 44,
+    41, 57, 34, 19, 2402, 10, 251, 3128, 43, 56, 33, 11, 20, 858, 18, 2300,
     63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11,
     20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 250, 41, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 272, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 272, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
-    0, 19, 2402, 10, 272, 3107, 44, 57, 26, 19, 2402, 10, 272, 3107, 43, 56,
+    63, 6, 39, 57, 15, 19, 2402, 10, 272, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 272, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    0, 19, 2402, 10, 272, 3128, 44, 57, 26, 19, 2402, 10, 272, 3128, 43, 56,
     25, 11, 20, 1489, 18, 2598, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 275, 3107, 44, 41, 57, 34, 19, 2402, 10, 275,
-    3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
-    2402, 10, 275, 3107, 44, 57, 26, 19, 2402, 10, 275, 3107, 43, 56, 25, 11,
+    39, 57, 15, 19, 2402, 10, 275, 3128, 44, 41, 57, 34, 19, 2402, 10, 275,
+    3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
+    2402, 10, 275, 3128, 44, 57, 26, 19, 2402, 10, 275, 3128, 43, 56, 25, 11,
     20, 1489, 18, 2598, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57,
-    15, 19, 2402, 10, 278, 3107, 44, 41, 57, 34, 19, 2402, 10, 278, 3107, 43,
+    15, 19, 2402, 10, 278, 3128, 44, 41, 57, 34, 19, 2402, 10, 278, 3128, 43,
     56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 10,
-    278, 3107, 44, 57, 26, 19, 2402, 10, 278, 3107, 43, 56, 25, 11, 20, 1489,
+    278, 3128, 44, 57, 26, 19, 2402, 10, 278, 3128, 43, 56, 25, 11, 20, 1489,
     18, 2598, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 287, 3107, 44, 41, 57, 34, 19, 2402, 10, 287, 3107, 43, 56, 33,
+    2402, 10, 287, 3128, 44, 41, 57, 34, 19, 2402, 10, 287, 3128, 43, 56, 33,
     11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4,
     0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 286,
-    41, 61, 0, 19, 2402, 10, 287, 3107, 44, 57, 26, 19, 2402, 10, 287, 3107,
+    41, 61, 0, 19, 2402, 10, 287, 3128, 44, 57, 26, 19, 2402, 10, 287, 3128,
     43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 295, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 295, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    63, 6, 39, 57, 15, 19, 2402, 10, 295, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 295, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
     0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4,
     1, 21, 18, 2570, 53, 294, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15,
-    19, 2402, 10, 298, 3107, 44, 41, 57, 34, 19, 2402, 10, 298, 3107, 43, 56,
+    19, 2402, 10, 298, 3128, 44, 41, 57, 34, 19, 2402, 10, 298, 3128, 43, 56,
     33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21,
     4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53,
     297, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858,
     18, 2112, 4, 1, 21, 18, 2570, 53, 315, 41, 61, 0, 19, 2402, 10, 316,
-    3107, 44, 57, 26, 19, 2402, 10, 316, 3107, 43, 56, 25, 11, 20, 501, 18,
+    3128, 44, 57, 26, 19, 2402, 10, 316, 3128, 43, 56, 25, 11, 20, 501, 18,
     1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402,
-    10, 321, 3107, 44, 41, 57, 34, 19, 2402, 10, 321, 3107, 43, 56, 33, 11,
-    20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 321, 3107, 44,
-    57, 26, 19, 2402, 10, 321, 3107, 43, 56, 25, 11, 20, 1489, 18, 2598, 63,
+    10, 321, 3128, 44, 41, 57, 34, 19, 2402, 10, 321, 3128, 43, 56, 33, 11,
+    20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 321, 3128, 44,
+    57, 26, 19, 2402, 10, 321, 3128, 43, 56, 25, 11, 20, 1489, 18, 2598, 63,
     6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 330,
-    3107, 44, 41, 57, 34, 19, 2402, 10, 330, 3107, 43, 56, 33, 11, 20, 858,
+    3128, 44, 41, 57, 34, 19, 2402, 10, 330, 3128, 43, 56, 33, 11, 20, 858,
     18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57,
     23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 329, 41, 61, 0,
-    19, 2402, 10, 330, 3107, 44, 57, 26, 19, 2402, 10, 330, 3107, 43, 56, 25,
+    19, 2402, 10, 330, 3128, 44, 57, 26, 19, 2402, 10, 330, 3128, 43, 56, 25,
     11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 1795, 63, 6, 57,
     12, 19, 1803, 63, 6, 41, 57, 19, 19, 1794, 63, 6, 41, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 350, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 350, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 350, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 350, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
     61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112,
     4, 1, 21, 18, 2570, 53, 349, 41, 61, 1, 19, 1842, 58, 0, 1, 16,
     13, 0, 6, 0, 44, 59, 0, 1, 7, 4, 0, 47, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 389, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 389, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    63, 6, 39, 57, 15, 19, 2402, 10, 389, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 389, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
     0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4,
-    1, 21, 18, 2570, 53, 388, 41, 61, 0, 19, 2402, 10, 389, 3107, 44, 57,
-    26, 19, 2402, 10, 389, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
-    40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 396, 3107,
-    44, 41, 57, 34, 19, 2402, 10, 396, 3107, 43, 56, 33, 11, 20, 858, 18,
+    1, 21, 18, 2570, 53, 388, 41, 61, 0, 19, 2402, 10, 389, 3128, 44, 57,
+    26, 19, 2402, 10, 389, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
+    40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 396, 3128,
+    44, 41, 57, 34, 19, 2402, 10, 396, 3128, 43, 56, 33, 11, 20, 858, 18,
     2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23,
     11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 395, 41, 61, 0, 19,
-    2402, 10, 396, 3107, 44, 57, 26, 19, 2402, 10, 396, 3107, 43, 56, 25, 11,
+    2402, 10, 396, 3128, 44, 57, 26, 19, 2402, 10, 396, 3128, 43, 56, 25, 11,
     20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2274, 63, 6, 19, 2471,
     63, 6, 42, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20,
     858, 18, 2112, 4, 1, 21, 18, 2570, 53, 424, 41, 61, 0, 19, 2178, 63,
@@ -7090,242 +7681,242 @@ constexpr std::uint16_t code[] = {
     56, 13, 19, 2818, 63, 6, 39, 40, 39, 61, 0, 11, 20, 1005, 18, 1816,
     4, 1, 21, 63, 6, 56, 37, 11, 20, 1005, 18, 1816, 4, 1, 21, 53,
     424, 57, 36, 11, 20, 1005, 18, 1816, 4, 1, 21, 53, 421, 41, 40, 61,
-    0, 19, 2402, 10, 425, 3107, 44, 57, 26, 19, 2402, 10, 425, 3107, 43, 56,
+    0, 19, 2402, 10, 425, 3128, 44, 57, 26, 19, 2402, 10, 425, 3128, 43, 56,
     25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 436, 3107, 44, 41, 57, 34, 19, 2402, 10, 436,
-    3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
+    39, 57, 15, 19, 2402, 10, 436, 3128, 44, 41, 57, 34, 19, 2402, 10, 436,
+    3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
     2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21,
     18, 2570, 53, 435, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402,
-    10, 439, 3107, 44, 41, 57, 34, 19, 2402, 10, 439, 3107, 43, 56, 33, 11,
+    10, 439, 3128, 44, 41, 57, 34, 19, 2402, 10, 439, 3128, 43, 56, 33, 11,
     20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0,
     43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 438, 41,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 442, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 442, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 442, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 442, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20,
     858, 18, 2112, 4, 1, 21, 18, 2570, 53, 441, 41, 61, 0, 19, 2402, 63,
-    6, 39, 57, 15, 19, 2402, 10, 462, 3107, 44, 41, 57, 34, 19, 2402, 10,
-    462, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
+    6, 39, 57, 15, 19, 2402, 10, 462, 3128, 44, 41, 57, 34, 19, 2402, 10,
+    462, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
     19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1,
-    21, 18, 2570, 53, 461, 41, 61, 0, 19, 2402, 10, 462, 3107, 44, 57, 26,
-    19, 2402, 10, 462, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
-    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 470, 3107, 44,
-    41, 57, 34, 19, 2402, 10, 470, 3107, 43, 56, 33, 11, 20, 858, 18, 2300,
+    21, 18, 2570, 53, 461, 41, 61, 0, 19, 2402, 10, 462, 3128, 44, 57, 26,
+    19, 2402, 10, 462, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
+    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 470, 3128, 44,
+    41, 57, 34, 19, 2402, 10, 470, 3128, 43, 56, 33, 11, 20, 858, 18, 2300,
     63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11,
     20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 469, 41, 61, 0, 19, 2402,
-    10, 470, 3107, 44, 57, 26, 19, 2402, 10, 470, 3107, 43, 56, 25, 11, 20,
+    10, 470, 3128, 44, 57, 26, 19, 2402, 10, 470, 3128, 43, 56, 25, 11, 20,
     501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15,
-    19, 2402, 10, 475, 3107, 44, 41, 57, 34, 19, 2402, 10, 475, 3107, 43, 56,
+    19, 2402, 10, 475, 3128, 44, 41, 57, 34, 19, 2402, 10, 475, 3128, 43, 56,
     33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21,
     4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53,
-    474, 41, 61, 0, 19, 2402, 10, 475, 3107, 44, 57, 26, 19, 2402, 10, 475,
-    3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 481, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 481, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    474, 41, 61, 0, 19, 2402, 10, 475, 3128, 44, 57, 26, 19, 2402, 10, 475,
+    3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 481, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 481, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
     61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112,
-    4, 1, 21, 18, 2570, 53, 480, 41, 61, 0, 19, 2402, 10, 481, 3107, 44,
-    57, 26, 19, 2402, 10, 481, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
+    4, 1, 21, 18, 2570, 53, 480, 41, 61, 0, 19, 2402, 10, 481, 3128, 44,
+    57, 26, 19, 2402, 10, 481, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
     6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 486,
-    3107, 44, 41, 57, 34, 19, 2402, 10, 486, 3107, 43, 56, 33, 11, 20, 858,
+    3128, 44, 41, 57, 34, 19, 2402, 10, 486, 3128, 43, 56, 33, 11, 20, 858,
     18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57,
     23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 485, 41, 61, 0,
-    19, 2402, 10, 486, 3107, 44, 57, 26, 19, 2402, 10, 486, 3107, 43, 56, 25,
+    19, 2402, 10, 486, 3128, 44, 57, 26, 19, 2402, 10, 486, 3128, 43, 56, 25,
     11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39,
-    57, 15, 19, 2402, 10, 490, 3107, 44, 41, 57, 34, 19, 2402, 10, 490, 3107,
+    57, 15, 19, 2402, 10, 490, 3128, 44, 41, 57, 34, 19, 2402, 10, 490, 3128,
     43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112,
     63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
-    2570, 53, 489, 41, 61, 0, 19, 2402, 10, 490, 3107, 44, 57, 26, 19, 2402,
-    10, 490, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
-    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 496, 3107, 44, 41, 57,
-    34, 19, 2402, 10, 496, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
+    2570, 53, 489, 41, 61, 0, 19, 2402, 10, 490, 3128, 44, 57, 26, 19, 2402,
+    10, 490, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
+    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 496, 3128, 44, 41, 57,
+    34, 19, 2402, 10, 496, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
     40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858,
     18, 2112, 4, 1, 21, 18, 2570, 53, 495, 41, 61, 0, 19, 2402, 10, 496,
-    3107, 44, 57, 26, 19, 2402, 10, 496, 3107, 43, 56, 25, 11, 20, 501, 18,
-    1888, 63, 6, 40, 41, 61, 0, 19, 2445, 60, 4507, 1, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 511, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 511, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    3128, 44, 57, 26, 19, 2402, 10, 496, 3128, 43, 56, 25, 11, 20, 501, 18,
+    1888, 63, 6, 40, 41, 61, 0, 19, 2445, 60, 4877, 1, 61, 0, 19, 2402,
+    63, 6, 39, 57, 15, 19, 2402, 10, 511, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 511, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
     0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4,
-    1, 21, 18, 2570, 53, 510, 41, 61, 0, 19, 2402, 10, 511, 3107, 44, 57,
-    26, 19, 2402, 10, 511, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
-    40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 518, 3107,
-    44, 41, 57, 34, 19, 2402, 10, 518, 3107, 43, 56, 33, 11, 20, 858, 18,
+    1, 21, 18, 2570, 53, 510, 41, 61, 0, 19, 2402, 10, 511, 3128, 44, 57,
+    26, 19, 2402, 10, 511, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
+    40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 518, 3128,
+    44, 41, 57, 34, 19, 2402, 10, 518, 3128, 43, 56, 33, 11, 20, 858, 18,
     2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23,
     11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 517, 41, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 521, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 521, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 521, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 521, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
     61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112,
     4, 1, 21, 18, 2570, 53, 520, 41, 61, 0, 19, 2402, 63, 6, 39, 57,
-    15, 19, 2402, 10, 526, 3107, 44, 41, 57, 34, 19, 2402, 10, 526, 3107, 43,
+    15, 19, 2402, 10, 526, 3128, 44, 41, 57, 34, 19, 2402, 10, 526, 3128, 43,
     56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 1914, 63,
-    6, 39, 57, 15, 19, 1914, 10, 524, 3107, 44, 41, 57, 31, 19, 1914, 10,
-    524, 3107, 43, 56, 30, 19, 2920, 63, 6, 40, 41, 61, 0, 19, 2402, 10,
-    526, 3107, 44, 57, 26, 19, 2402, 10, 526, 3107, 43, 56, 25, 11, 20, 1487,
-    18, 2415, 63, 6, 40, 41, 61, 0, 19, 1914, 10, 524, 3107, 44, 57, 23,
-    19, 1914, 10, 524, 3107, 43, 56, 22, 19, 2920, 63, 6, 40, 41, 61, 0,
+    6, 39, 57, 15, 19, 1914, 10, 524, 3128, 44, 41, 57, 31, 19, 1914, 10,
+    524, 3128, 43, 56, 30, 19, 2920, 63, 6, 40, 41, 61, 0, 19, 2402, 10,
+    526, 3128, 44, 57, 26, 19, 2402, 10, 526, 3128, 43, 56, 25, 11, 20, 1487,
+    18, 2415, 63, 6, 40, 41, 61, 0, 19, 1914, 10, 524, 3128, 44, 57, 23,
+    19, 1914, 10, 524, 3128, 43, 56, 22, 19, 2920, 63, 6, 40, 41, 61, 0,
     19, 2042, 63, 6, 57, 12, 19, 2189, 63, 6, 41, 57, 19, 19, 2274, 63,
-    6, 41, 61, 0, 11, 20, 1366, 18, 2760, 19, 1904, 60, 4534, 2, 61, 0,
-    19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 558, 3107, 44, 41, 57, 34,
-    19, 2402, 10, 558, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40,
+    6, 41, 61, 0, 11, 20, 1366, 18, 2760, 19, 1904, 60, 4912, 2, 61, 0,
+    19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 558, 3128, 44, 41, 57, 34,
+    19, 2402, 10, 558, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40,
     41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18,
     2112, 4, 1, 21, 18, 2570, 53, 557, 41, 61, 0, 19, 2402, 63, 6, 39,
-    57, 15, 19, 2402, 10, 561, 3107, 44, 41, 57, 34, 19, 2402, 10, 561, 3107,
+    57, 15, 19, 2402, 10, 561, 3128, 44, 41, 57, 34, 19, 2402, 10, 561, 3128,
     43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112,
     63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
-    2570, 53, 560, 41, 61, 0, 19, 2402, 10, 561, 3107, 44, 57, 26, 19, 2402,
-    10, 561, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
+    2570, 53, 560, 41, 61, 0, 19, 2402, 10, 561, 3128, 44, 57, 26, 19, 2402,
+    10, 561, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
     0, 11, 20, 492, 18, 2011, 63, 21, 4, 0, 43, 61, 0, 11, 20, 492,
     18, 1938, 63, 21, 4, 0, 43, 61, 0, 19, 2402, 63, 6, 39, 57, 15,
-    19, 2402, 10, 576, 3107, 44, 41, 57, 34, 19, 2402, 10, 576, 3107, 43, 56,
+    19, 2402, 10, 576, 3128, 44, 41, 57, 34, 19, 2402, 10, 576, 3128, 43, 56,
     33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21,
     4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53,
-    575, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 579, 3107,
-    44, 41, 57, 34, 19, 2402, 10, 579, 3107, 43, 56, 33, 11, 20, 858, 18,
+    575, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 579, 3128,
+    44, 41, 57, 34, 19, 2402, 10, 579, 3128, 43, 56, 33, 11, 20, 858, 18,
     2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23,
     11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 578, 41, 61, 0, 19,
-    2402, 10, 579, 3107, 44, 57, 26, 19, 2402, 10, 579, 3107, 43, 56, 25, 11,
+    2402, 10, 579, 3128, 44, 57, 26, 19, 2402, 10, 579, 3128, 43, 56, 25, 11,
     20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2732, 63, 6, 56, 12,
     19, 1899, 63, 6, 40, 57, 32, 23, 9, 255, 24, 9, 133, 24, 19, 1844,
     63, 24, 33, 63, 21, 4, 1, 43, 41, 61, 0, 19, 2402, 63, 6, 39,
-    57, 15, 19, 2402, 10, 588, 3107, 44, 41, 57, 34, 19, 2402, 10, 588, 3107,
+    57, 15, 19, 2402, 10, 588, 3128, 44, 41, 57, 34, 19, 2402, 10, 588, 3128,
     43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112,
     63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
-    2570, 53, 587, 41, 61, 0, 19, 2402, 10, 588, 3107, 44, 57, 26, 19, 2402,
-    10, 588, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
-    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 591, 3107, 44, 41, 57,
-    34, 19, 2402, 10, 591, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
+    2570, 53, 587, 41, 61, 0, 19, 2402, 10, 588, 3128, 44, 57, 26, 19, 2402,
+    10, 588, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
+    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 591, 3128, 44, 41, 57,
+    34, 19, 2402, 10, 591, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
     40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858,
     18, 2112, 4, 1, 21, 18, 2570, 53, 590, 41, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 608, 3107, 44, 41, 57, 34, 19, 2402, 10, 608,
-    3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
+    39, 57, 15, 19, 2402, 10, 608, 3128, 44, 41, 57, 34, 19, 2402, 10, 608,
+    3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
     2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21,
-    18, 2570, 53, 607, 41, 61, 0, 19, 2402, 10, 608, 3107, 44, 57, 26, 19,
-    2402, 10, 608, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 617, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 617, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    18, 2570, 53, 607, 41, 61, 0, 19, 2402, 10, 608, 3128, 44, 57, 26, 19,
+    2402, 10, 608, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 617, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 617, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20,
     858, 18, 2112, 4, 1, 21, 18, 2570, 53, 616, 41, 61, 0, 19, 2402, 10,
-    617, 3107, 44, 57, 26, 19, 2402, 10, 617, 3107, 43, 56, 25, 11, 20, 501,
+    617, 3128, 44, 57, 26, 19, 2402, 10, 617, 3128, 43, 56, 25, 11, 20, 501,
     18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 625, 3107, 44, 41, 57, 34, 19, 2402, 10, 625, 3107, 43, 56, 33,
+    2402, 10, 625, 3128, 44, 41, 57, 34, 19, 2402, 10, 625, 3128, 43, 56, 33,
     11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4,
     0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 624,
-    41, 61, 0, 19, 2402, 10, 625, 3107, 44, 57, 26, 19, 2402, 10, 625, 3107,
+    41, 61, 0, 19, 2402, 10, 625, 3128, 44, 57, 26, 19, 2402, 10, 625, 3128,
     43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2883,
     63, 6, 39, 57, 18, 19, 2883, 18, 1842, 63, 10, 4, 2, 43, 41, 61,
     0, 11, 20, 628, 18, 2001, 63, 21, 4, 0, 43, 61, 0, 19, 2347, 18,
-    2883, 11, 20, 628, 18, 3003, 18, 2336, 4, 2, 21, 60, 4598, 1, 63, 17,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 664, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 664, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    2883, 11, 20, 628, 18, 3003, 18, 2336, 4, 2, 21, 60, 4991, 1, 63, 17,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 664, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 664, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20,
     858, 18, 2112, 4, 1, 21, 18, 2570, 53, 663, 41, 61, 0, 19, 2402, 63,
-    6, 39, 57, 15, 19, 2402, 10, 670, 3107, 44, 41, 57, 34, 19, 2402, 10,
-    670, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
+    6, 39, 57, 15, 19, 2402, 10, 670, 3128, 44, 41, 57, 34, 19, 2402, 10,
+    670, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
     19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1,
     21, 18, 2570, 53, 669, 41, 61, 0, 6, 4, 19, 1954, 33, 19, 2328, 45,
-    61, 0, 19, 2657, 63, 21, 4, 0, 43, 57, 16, 19, 2657, 60, 4610, 1,
-    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 695, 3107, 44,
-    41, 57, 34, 19, 2402, 10, 695, 3107, 43, 56, 33, 11, 20, 858, 18, 2300,
+    61, 0, 19, 2657, 63, 21, 4, 0, 43, 57, 16, 19, 2657, 60, 5006, 1,
+    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 695, 3128, 44,
+    41, 57, 34, 19, 2402, 10, 695, 3128, 43, 56, 33, 11, 20, 858, 18, 2300,
     63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11,
     20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 694, 41, 61, 0, 19, 2402,
-    10, 695, 3107, 44, 57, 26, 19, 2402, 10, 695, 3107, 43, 56, 25, 11, 20,
+    10, 695, 3128, 44, 57, 26, 19, 2402, 10, 695, 3128, 43, 56, 25, 11, 20,
     501, 18, 1888, 63, 6, 40, 41, 61, 0, 11, 20, 1348, 18, 1632, 63, 21,
-    4, 2, 43, 61, 0, 11, 20, 1348, 18, 1632, 4, 1, 21, 60, 4625, 1,
-    11, 20, 1348, 18, 1632, 4, 2, 21, 60, 4625, 1, 44, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 708, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 708, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    4, 2, 43, 61, 0, 11, 20, 1348, 18, 1632, 4, 1, 21, 60, 5024, 1,
+    11, 20, 1348, 18, 1632, 4, 2, 21, 60, 5024, 1, 44, 61, 0, 19, 2402,
+    63, 6, 39, 57, 15, 19, 2402, 10, 708, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 708, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
     0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4,
-    1, 21, 18, 2570, 53, 707, 41, 61, 0, 19, 2402, 10, 708, 3107, 44, 57,
-    26, 19, 2402, 10, 708, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
+    1, 21, 18, 2570, 53, 707, 41, 61, 0, 19, 2402, 10, 708, 3128, 44, 57,
+    26, 19, 2402, 10, 708, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
     40, 41, 61, 0, 19, 2815, 19, 1831, 45, 56, 22, 19, 2996, 63, 6, 39,
     57, 21, 19, 2815, 19, 2996, 45, 41, 40, 61, 0, 19, 2402, 63, 6, 39,
-    57, 15, 19, 2402, 10, 718, 3107, 44, 41, 57, 34, 19, 2402, 10, 718, 3107,
+    57, 15, 19, 2402, 10, 718, 3128, 44, 41, 57, 34, 19, 2402, 10, 718, 3128,
     43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402,
-    10, 718, 3107, 44, 57, 26, 19, 2402, 10, 718, 3107, 43, 56, 25, 11, 20,
+    10, 718, 3128, 44, 57, 26, 19, 2402, 10, 718, 3128, 43, 56, 25, 11, 20,
     1489, 18, 2598, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15,
-    19, 2402, 10, 722, 3107, 44, 41, 57, 34, 19, 2402, 10, 722, 3107, 43, 56,
+    19, 2402, 10, 722, 3128, 44, 41, 57, 34, 19, 2402, 10, 722, 3128, 43, 56,
     33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21,
     4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53,
-    721, 41, 61, 0, 19, 2402, 10, 722, 3107, 44, 57, 26, 19, 2402, 10, 722,
-    3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 736, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 736, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    721, 41, 61, 0, 19, 2402, 10, 722, 3128, 44, 57, 26, 19, 2402, 10, 722,
+    3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 736, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 736, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
     61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112,
-    4, 1, 21, 18, 2570, 53, 735, 41, 61, 0, 19, 2402, 10, 736, 3107, 44,
-    57, 26, 19, 2402, 10, 736, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
+    4, 1, 21, 18, 2570, 53, 735, 41, 61, 0, 19, 2402, 10, 736, 3128, 44,
+    57, 26, 19, 2402, 10, 736, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
     6, 40, 41, 61, 1, 19, 2412, 63, 6, 39, 57, 23, 4, 0, 19, 2412,
     17, 14, 0, 46, 13, 0, 4, 100, 46, 40, 41, 61, 0, 19, 2402, 63,
-    6, 39, 57, 15, 19, 2402, 10, 813, 3107, 44, 41, 57, 34, 19, 2402, 10,
-    813, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
+    6, 39, 57, 15, 19, 2402, 10, 813, 3128, 44, 41, 57, 34, 19, 2402, 10,
+    813, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
     19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1,
-    21, 18, 2570, 53, 812, 41, 61, 0, 19, 2402, 10, 813, 3107, 44, 57, 26,
-    19, 2402, 10, 813, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
-    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 818, 3107, 44,
-    41, 57, 34, 19, 2402, 10, 818, 3107, 43, 56, 33, 11, 20, 858, 18, 2300,
+    21, 18, 2570, 53, 812, 41, 61, 0, 19, 2402, 10, 813, 3128, 44, 57, 26,
+    19, 2402, 10, 813, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
+    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 818, 3128, 44,
+    41, 57, 34, 19, 2402, 10, 818, 3128, 43, 56, 33, 11, 20, 858, 18, 2300,
     63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11,
     20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 817, 41, 61, 0, 19, 2402,
-    10, 818, 3107, 44, 57, 26, 19, 2402, 10, 818, 3107, 43, 56, 25, 11, 20,
+    10, 818, 3128, 44, 57, 26, 19, 2402, 10, 818, 3128, 43, 56, 25, 11, 20,
     501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15,
-    19, 2402, 10, 822, 3107, 44, 41, 57, 34, 19, 2402, 10, 822, 3107, 43, 56,
+    19, 2402, 10, 822, 3128, 44, 41, 57, 34, 19, 2402, 10, 822, 3128, 43, 56,
     33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21,
     4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53,
-    821, 41, 61, 0, 19, 2402, 10, 822, 3107, 44, 57, 26, 19, 2402, 10, 822,
-    3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 23,
+    821, 41, 61, 0, 19, 2402, 10, 822, 3128, 44, 57, 26, 19, 2402, 10, 822,
+    3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 23,
     6, 1, 38, 24, 6, 0, 24, 62, 382, 1, 23, 6, 0, 24, 6, 1,
     24, 62, 382, 1, 23, 6, 0, 24, 6, 0, 24, 62, 185, 1, 6, 1,
     62, 190, 4, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 848,
-    3107, 44, 41, 57, 34, 19, 2402, 10, 848, 3107, 43, 56, 33, 11, 20, 858,
+    3128, 44, 41, 57, 34, 19, 2402, 10, 848, 3128, 43, 56, 33, 11, 20, 858,
     18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57,
     23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 847, 41, 61, 0,
-    19, 2402, 10, 848, 3107, 44, 57, 26, 19, 2402, 10, 848, 3107, 43, 56, 25,
+    19, 2402, 10, 848, 3128, 44, 57, 26, 19, 2402, 10, 848, 3128, 43, 56, 25,
     11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2091, 63, 21, 4,
-    0, 43, 57, 16, 19, 2091, 60, 4695, 1, 41, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 888, 3107, 44, 41, 57, 34, 19, 2402, 10, 888,
-    3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
+    0, 43, 57, 16, 19, 2091, 60, 5104, 1, 41, 61, 0, 19, 2402, 63, 6,
+    39, 57, 15, 19, 2402, 10, 888, 3128, 44, 41, 57, 34, 19, 2402, 10, 888,
+    3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
     2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21,
-    18, 2570, 53, 887, 41, 61, 0, 19, 2402, 10, 888, 3107, 44, 57, 26, 19,
-    2402, 10, 888, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
+    18, 2570, 53, 887, 41, 61, 0, 19, 2402, 10, 888, 3128, 44, 57, 26, 19,
+    2402, 10, 888, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
     61, 0, 19, 2129, 63, 6, 57, 21, 19, 2129, 63, 6, 39, 56, 20, 19,
     1698, 63, 6, 39, 40, 41, 57, 54, 19, 2129, 63, 6, 39, 56, 35, 19,
-    1698, 63, 6, 40, 56, 53, 19, 1698, 10, 196, 3826, 43, 57, 52, 19, 1698,
-    10, 196, 4719, 43, 41, 40, 41, 61, 0, 19, 2467, 18, 1838, 4, 2, 43,
+    1698, 63, 6, 40, 56, 53, 19, 1698, 10, 196, 4052, 43, 57, 52, 19, 1698,
+    10, 196, 5130, 43, 41, 40, 41, 61, 0, 19, 2467, 18, 1838, 4, 2, 43,
     61, 0, 19, 2042, 63, 6, 57, 12, 19, 1931, 63, 6, 41, 57, 19, 19,
     1985, 63, 6, 41, 61, 0, 19, 2244, 63, 6, 39, 57, 13, 19, 1931, 63,
-    6, 41, 57, 20, 19, 1985, 63, 6, 41, 61, 0, 19, 2017, 60, 4507, 1,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 913, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 913, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    6, 41, 57, 20, 19, 1985, 63, 6, 41, 61, 0, 19, 2017, 60, 4877, 1,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 913, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 913, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20,
     858, 18, 2112, 4, 1, 21, 18, 2570, 53, 912, 41, 61, 0, 19, 2402, 10,
-    913, 3107, 44, 57, 26, 19, 2402, 10, 913, 3107, 43, 56, 25, 11, 20, 501,
+    913, 3128, 44, 57, 26, 19, 2402, 10, 913, 3128, 43, 56, 25, 11, 20, 501,
     18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 916, 3107, 44, 41, 57, 34, 19, 2402, 10, 916, 3107, 43, 56, 33,
+    2402, 10, 916, 3128, 44, 41, 57, 34, 19, 2402, 10, 916, 3128, 43, 56, 33,
     11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4,
     0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 915,
-    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 919, 3107, 44,
-    41, 57, 34, 19, 2402, 10, 919, 3107, 43, 56, 33, 11, 20, 858, 18, 2300,
+    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 919, 3128, 44,
+    41, 57, 34, 19, 2402, 10, 919, 3128, 43, 56, 33, 11, 20, 858, 18, 2300,
     63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11,
     20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 918, 41, 61, 1, 19, 2369,
     58, 0, 1, 36, 13, 0, 63, 4, 4, 8, 36, 4, 0, 43, 56, 32,
     13, 0, 63, 4, 19, 2369, 4, 1, 21, 63, 4, 43, 40, 59, 0, 1,
     7, 19, 2369, 63, 21, 43, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 931, 3107, 44, 41, 57, 34, 19, 2402, 10, 931, 3107, 43, 56, 33,
+    2402, 10, 931, 3128, 44, 41, 57, 34, 19, 2402, 10, 931, 3128, 43, 56, 33,
     11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4,
     0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 930,
-    41, 61, 0, 19, 2402, 10, 931, 3107, 44, 57, 26, 19, 2402, 10, 931, 3107,
+    41, 61, 0, 19, 2402, 10, 931, 3128, 44, 57, 26, 19, 2402, 10, 931, 3128,
     43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 1, 19, 1628,
     58, 0, 1, 31, 13, 0, 63, 24, 23, 9, 1214, 24, 9, 629, 24, 9,
     779, 24, 33, 63, 21, 4, 1, 43, 59, 0, 1, 7, 19, 1628, 63, 21,
     43, 61, 1, 19, 1628, 58, 0, 1, 28, 13, 0, 63, 24, 23, 9, 629,
     24, 9, 779, 24, 33, 63, 21, 4, 1, 43, 59, 0, 1, 7, 19, 1628,
     63, 21, 43, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 971,
-    3107, 44, 41, 57, 34, 19, 2402, 10, 971, 3107, 43, 56, 33, 11, 20, 858,
-    18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 971, 3107, 44, 57, 26,
-    19, 2402, 10, 971, 3107, 43, 56, 25, 11, 20, 1487, 18, 2415, 63, 6, 40,
+    3128, 44, 41, 57, 34, 19, 2402, 10, 971, 3128, 43, 56, 33, 11, 20, 858,
+    18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 971, 3128, 44, 57, 26,
+    19, 2402, 10, 971, 3128, 43, 56, 25, 11, 20, 1487, 18, 2415, 63, 6, 40,
     41, 61, 1, 19, 2582, 63, 6, 56, 12, 19, 2299, 63, 6, 40, 57, 41,
     19, 2582, 63, 6, 56, 40, 19, 2582, 18, 2587, 58, 0, 1, 36, 13, 0,
     53, 1214, 59, 0, 1, 28, 4, 0, 43, 40, 41, 57, 49, 19, 2582, 63,
     6, 39, 41, 61, 1, 11, 20, 281, 18, 2583, 63, 6, 39, 57, 32, 11,
     20, 281, 18, 2583, 58, 0, 1, 28, 13, 0, 53, 630, 59, 0, 1, 20,
     4, 0, 43, 41, 61, 0, 19, 2220, 63, 6, 39, 57, 17, 19, 2220, 18,
-    2901, 10, 1500, 3749, 43, 41, 61, 0, 19, 2903, 63, 6, 39, 57, 14, 19,
+    2901, 10, 1500, 3936, 43, 41, 61, 0, 19, 2903, 63, 6, 39, 57, 14, 19,
     2672, 63, 6, 39, 41, 57, 26, 19, 2903, 63, 24, 19, 2672, 63, 24, 43,
     41, 61, 0, 19, 2203, 63, 6, 39, 57, 14, 19, 2672, 63, 6, 39, 41,
     57, 26, 19, 2203, 63, 24, 19, 2672, 63, 24, 43, 41, 61, 1, 19, 1910,
@@ -7338,50 +7929,50 @@ constexpr std::uint16_t code[] = {
     43, 41, 61, 1, 19, 1813, 63, 6, 39, 57, 34, 19, 1813, 58, 0, 1,
     30, 13, 0, 63, 24, 19, 1813, 4, 1, 21, 63, 24, 44, 59, 0, 1,
     14, 4, 0, 43, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402,
-    10, 1020, 3107, 44, 41, 57, 34, 19, 2402, 10, 1020, 3107, 43, 56, 33, 11,
+    10, 1020, 3128, 44, 41, 57, 34, 19, 2402, 10, 1020, 3128, 43, 56, 33, 11,
     20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0,
     43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1019, 41,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1018, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 1018, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1018, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 1018, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20,
     858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1017, 41, 61, 0, 19, 2402, 10,
-    1018, 3107, 44, 57, 26, 19, 2402, 10, 1018, 3107, 43, 56, 25, 11, 20, 501,
-    18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 1020, 3107, 44, 57, 26,
-    19, 2402, 10, 1020, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
-    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1024, 3107, 44,
-    41, 57, 34, 19, 2402, 10, 1024, 3107, 43, 56, 33, 11, 20, 858, 18, 2300,
+    1018, 3128, 44, 57, 26, 19, 2402, 10, 1018, 3128, 43, 56, 25, 11, 20, 501,
+    18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 1020, 3128, 44, 57, 26,
+    19, 2402, 10, 1020, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
+    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1024, 3128, 44,
+    41, 57, 34, 19, 2402, 10, 1024, 3128, 43, 56, 33, 11, 20, 858, 18, 2300,
     63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11,
     20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1023, 41, 61, 0, 19, 2112,
     63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
-    2570, 53, 1037, 41, 61, 0, 19, 2402, 10, 1038, 3107, 44, 57, 26, 19, 2402,
-    10, 1038, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
-    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1050, 3107, 44, 41, 57,
-    34, 19, 2402, 10, 1050, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
+    2570, 53, 1037, 41, 61, 0, 19, 2402, 10, 1038, 3128, 44, 57, 26, 19, 2402,
+    10, 1038, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
+    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1050, 3128, 44, 41, 57,
+    34, 19, 2402, 10, 1050, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
     40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858,
     18, 2112, 4, 1, 21, 18, 2570, 53, 1049, 41, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 1048, 3107, 44, 41, 57, 34, 19, 2402, 10, 1048,
-    3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
+    39, 57, 15, 19, 2402, 10, 1048, 3128, 44, 41, 57, 34, 19, 2402, 10, 1048,
+    3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
     2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21,
-    18, 2570, 53, 1047, 41, 61, 0, 19, 2402, 10, 1048, 3107, 44, 57, 26, 19,
-    2402, 10, 1048, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
-    61, 0, 19, 2402, 10, 1050, 3107, 44, 57, 26, 19, 2402, 10, 1050, 3107, 43,
+    18, 2570, 53, 1047, 41, 61, 0, 19, 2402, 10, 1048, 3128, 44, 57, 26, 19,
+    2402, 10, 1048, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
+    61, 0, 19, 2402, 10, 1050, 3128, 44, 57, 26, 19, 2402, 10, 1050, 3128, 43,
     56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2991, 4,
-    0, 11, 20, 142, 18, 2904, 60, 3193, 3, 4, 0, 19, 2904, 29, 61, 0,
+    0, 11, 20, 142, 18, 2904, 60, 3241, 3, 4, 0, 19, 2904, 29, 61, 0,
     19, 2991, 63, 21, 11, 20, 145, 18, 1758, 63, 21, 43, 56, 34, 19, 2991,
     4, 1, 21, 63, 21, 11, 20, 145, 18, 1758, 4, 1, 21, 63, 21, 43,
-    40, 61, 0, 11, 60, 4840, 1, 61, 0, 19, 2991, 4, 0, 19, 2935, 4,
-    0, 19, 2979, 60, 4242, 5, 4, 0, 19, 2935, 29, 61, 0, 19, 2402, 63,
-    6, 39, 57, 15, 19, 2402, 10, 1077, 3107, 44, 41, 57, 34, 19, 2402, 10,
-    1077, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
+    40, 61, 0, 11, 60, 5279, 1, 61, 0, 19, 2991, 4, 0, 19, 2935, 4,
+    0, 19, 2979, 60, 4557, 5, 4, 0, 19, 2935, 29, 61, 0, 19, 2402, 63,
+    6, 39, 57, 15, 19, 2402, 10, 1077, 3128, 44, 41, 57, 34, 19, 2402, 10,
+    1077, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
     19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1,
-    21, 18, 2570, 53, 1076, 41, 61, 0, 19, 2402, 10, 1077, 3107, 44, 57, 26,
-    19, 2402, 10, 1077, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
+    21, 18, 2570, 53, 1076, 41, 61, 0, 19, 2402, 10, 1077, 3128, 44, 57, 26,
+    19, 2402, 10, 1077, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40,
     41, 61, 0, 19, 1663, 63, 6, 39, 57, 13, 19, 1664, 63, 6, 41, 61,
-    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1082, 3107, 44, 41, 57,
-    34, 19, 2402, 10, 1082, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
+    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1082, 3128, 44, 41, 57,
+    34, 19, 2402, 10, 1082, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
     40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858,
     18, 2112, 4, 1, 21, 18, 2570, 53, 1081, 41, 61, 0, 19, 2402, 10, 1082,
-    3107, 44, 57, 26, 19, 2402, 10, 1082, 3107, 43, 56, 25, 11, 20, 501, 18,
+    3128, 44, 57, 26, 19, 2402, 10, 1082, 3128, 43, 56, 25, 11, 20, 501, 18,
     1888, 63, 6, 40, 41, 61, 1, 11, 20, 1095, 18, 2512, 58, 0, 1, 43,
     13, 0, 63, 24, 23, 9, 492, 24, 9, 501, 24, 9, 1556, 24, 9, 421,
     24, 9, 1320, 24, 9, 942, 24, 33, 63, 21, 4, 0, 43, 59, 0, 1,
@@ -7395,97 +7986,97 @@ constexpr std::uint16_t code[] = {
     43, 61, 1, 11, 20, 1125, 18, 2512, 58, 0, 1, 18, 13, 0, 53, 1486,
     59, 0, 1, 10, 4, 0, 43, 61, 1, 19, 2507, 58, 0, 1, 23, 13,
     0, 53, 1267, 56, 19, 13, 0, 53, 1255, 39, 40, 59, 0, 1, 7, 4,
-    0, 43, 61, 0, 19, 2666, 10, 1203, 3107, 44, 57, 23, 19, 2666, 10, 1203,
-    3107, 43, 56, 22, 19, 2930, 63, 6, 40, 41, 61, 0, 19, 2367, 10, 907,
-    3824, 43, 56, 15, 19, 2496, 53, 1525, 39, 40, 57, 38, 19, 2367, 10, 907,
-    3825, 43, 56, 37, 19, 2496, 53, 1525, 57, 36, 19, 2496, 53, 874, 41, 40,
-    41, 57, 47, 19, 2367, 10, 907, 3826, 43, 41, 61, 0, 19, 2345, 6, 0,
+    0, 43, 61, 0, 19, 2666, 10, 1203, 3128, 44, 57, 23, 19, 2666, 10, 1203,
+    3128, 43, 56, 22, 19, 2930, 63, 6, 40, 41, 61, 0, 19, 2367, 10, 907,
+    4050, 43, 56, 15, 19, 2496, 53, 1525, 39, 40, 57, 38, 19, 2367, 10, 907,
+    4051, 43, 56, 37, 19, 2496, 53, 1525, 57, 36, 19, 2496, 53, 874, 41, 40,
+    41, 57, 47, 19, 2367, 10, 907, 4052, 43, 41, 61, 0, 19, 2345, 6, 0,
     47, 61, 0, 19, 2213, 53, 1213, 61, 0, 19, 2402, 63, 6, 39, 57, 15,
-    19, 2402, 10, 1172, 3107, 44, 41, 57, 34, 19, 2402, 10, 1172, 3107, 43, 56,
+    19, 2402, 10, 1172, 3128, 44, 41, 57, 34, 19, 2402, 10, 1172, 3128, 43, 56,
     33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21,
     4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53,
-    1171, 41, 61, 0, 19, 2402, 10, 1172, 3107, 44, 57, 26, 19, 2402, 10, 1172,
-    3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1182, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 1182, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    1171, 41, 61, 0, 19, 2402, 10, 1172, 3128, 44, 57, 26, 19, 2402, 10, 1172,
+    3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1182, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 1182, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
     61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112,
-    4, 1, 21, 18, 2570, 53, 1181, 41, 61, 0, 19, 2402, 10, 1182, 3107, 44,
-    57, 26, 19, 2402, 10, 1182, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
-    6, 40, 41, 61, 0, 11, 20, 1348, 18, 1632, 4, 1, 21, 60, 4625, 1,
-    11, 20, 1348, 18, 1632, 4, 2, 21, 60, 4625, 1, 43, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 1202, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 1202, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    4, 1, 21, 18, 2570, 53, 1181, 41, 61, 0, 19, 2402, 10, 1182, 3128, 44,
+    57, 26, 19, 2402, 10, 1182, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
+    6, 40, 41, 61, 0, 11, 20, 1348, 18, 1632, 4, 1, 21, 60, 5024, 1,
+    11, 20, 1348, 18, 1632, 4, 2, 21, 60, 5024, 1, 43, 61, 0, 19, 2402,
+    63, 6, 39, 57, 15, 19, 2402, 10, 1202, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 1202, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
     0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4,
-    1, 21, 18, 2570, 53, 1201, 41, 61, 0, 19, 2402, 10, 1202, 3107, 44, 57,
-    26, 19, 2402, 10, 1202, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
-    40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1211, 3107,
-    44, 41, 57, 34, 19, 2402, 10, 1211, 3107, 43, 56, 33, 11, 20, 858, 18,
+    1, 21, 18, 2570, 53, 1201, 41, 61, 0, 19, 2402, 10, 1202, 3128, 44, 57,
+    26, 19, 2402, 10, 1202, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
+    40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1211, 3128,
+    44, 41, 57, 34, 19, 2402, 10, 1211, 3128, 43, 56, 33, 11, 20, 858, 18,
     2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23,
     11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1210, 41, 61, 0, 19,
-    2402, 10, 1211, 3107, 44, 57, 26, 19, 2402, 10, 1211, 3107, 43, 56, 25, 11,
+    2402, 10, 1211, 3128, 44, 57, 26, 19, 2402, 10, 1211, 3128, 43, 56, 25, 11,
     20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 11, 20, 1146, 18, 2584, 63,
     6, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18,
     2112, 4, 1, 21, 18, 2570, 53, 1238, 41, 61, 0, 11, 20, 859, 18, 2090,
-    63, 10, 4, 0, 47, 61, 0, 19, 2402, 10, 1239, 3107, 44, 57, 26, 19,
-    2402, 10, 1239, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1243, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 1243, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    63, 10, 4, 0, 47, 61, 0, 19, 2402, 10, 1239, 3128, 44, 57, 26, 19,
+    2402, 10, 1239, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1243, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 1243, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20,
     858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1242, 41, 61, 0, 19, 2402, 10,
-    1243, 3107, 44, 57, 26, 19, 2402, 10, 1243, 3107, 43, 56, 25, 11, 20, 501,
+    1243, 3128, 44, 57, 26, 19, 2402, 10, 1243, 3128, 43, 56, 25, 11, 20, 501,
     18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 1263, 3107, 44, 41, 57, 34, 19, 2402, 10, 1263, 3107, 43, 56, 33,
+    2402, 10, 1263, 3128, 44, 41, 57, 34, 19, 2402, 10, 1263, 3128, 43, 56, 33,
     11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4,
     0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1262,
-    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1259, 3107, 44,
-    41, 57, 34, 19, 2402, 10, 1259, 3107, 43, 56, 33, 11, 20, 858, 18, 2300,
+    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1259, 3128, 44,
+    41, 57, 34, 19, 2402, 10, 1259, 3128, 43, 56, 33, 11, 20, 858, 18, 2300,
     63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11,
     20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1258, 41, 61, 0, 19, 2402,
-    10, 1263, 3107, 44, 57, 26, 19, 2402, 10, 1263, 3107, 43, 56, 25, 11, 20,
+    10, 1263, 3128, 44, 57, 26, 19, 2402, 10, 1263, 3128, 43, 56, 25, 11, 20,
     1265, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15,
-    19, 2402, 10, 1271, 3107, 44, 41, 57, 34, 19, 2402, 10, 1271, 3107, 43, 56,
+    19, 2402, 10, 1271, 3128, 44, 41, 57, 34, 19, 2402, 10, 1271, 3128, 43, 56,
     33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21,
     4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53,
-    1270, 41, 61, 0, 19, 2402, 10, 1271, 3107, 44, 57, 26, 19, 2402, 10, 1271,
-    3107, 43, 56, 25, 11, 20, 1265, 18, 1888, 63, 6, 40, 41, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1281, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 1281, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    1270, 41, 61, 0, 19, 2402, 10, 1271, 3128, 44, 57, 26, 19, 2402, 10, 1271,
+    3128, 43, 56, 25, 11, 20, 1265, 18, 1888, 63, 6, 40, 41, 61, 0, 19,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1281, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 1281, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
     61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112,
-    4, 1, 21, 18, 2570, 53, 1280, 41, 61, 0, 19, 2402, 10, 1281, 3107, 44,
-    57, 26, 19, 2402, 10, 1281, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
+    4, 1, 21, 18, 2570, 53, 1280, 41, 61, 0, 19, 2402, 10, 1281, 3128, 44,
+    57, 26, 19, 2402, 10, 1281, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
     6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1287,
-    3107, 44, 41, 57, 34, 19, 2402, 10, 1287, 3107, 43, 56, 33, 11, 20, 858,
+    3128, 44, 41, 57, 34, 19, 2402, 10, 1287, 3128, 43, 56, 33, 11, 20, 858,
     18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57,
     23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1286, 41, 61, 0,
-    19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1285, 3107, 44, 41, 57, 34,
-    19, 2402, 10, 1285, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40,
+    19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1285, 3128, 44, 41, 57, 34,
+    19, 2402, 10, 1285, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40,
     41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18,
-    2112, 4, 1, 21, 18, 2570, 53, 1284, 41, 61, 0, 19, 2402, 10, 1285, 3107,
-    44, 57, 26, 19, 2402, 10, 1285, 3107, 43, 56, 25, 11, 20, 501, 18, 1888,
-    63, 6, 40, 41, 61, 0, 19, 2402, 10, 1287, 3107, 44, 57, 26, 19, 2402,
-    10, 1287, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
-    0, 19, 2402, 10, 59, 3107, 44, 57, 17, 11, 20, 858, 18, 2300, 63, 6,
-    41, 61, 0, 19, 2425, 63, 6, 39, 57, 27, 19, 2425, 10, 985, 4977, 44,
-    57, 26, 11, 20, 1291, 18, 1988, 10, 649, 4978, 43, 41, 41, 61, 0, 19,
-    2402, 10, 1297, 3107, 44, 57, 17, 11, 20, 858, 18, 2300, 63, 6, 41, 61,
-    0, 19, 2402, 10, 1297, 4983, 44, 61, 0, 19, 2402, 10, 1300, 3107, 44, 57,
-    17, 11, 20, 858, 18, 2300, 63, 6, 41, 61, 0, 19, 2402, 10, 1297, 4989,
-    44, 56, 16, 19, 2402, 10, 1297, 4990, 44, 40, 61, 0, 11, 20, 1296, 18,
-    2402, 10, 1297, 4993, 43, 61, 0, 11, 20, 1310, 18, 2402, 10, 763, 4996, 43,
+    2112, 4, 1, 21, 18, 2570, 53, 1284, 41, 61, 0, 19, 2402, 10, 1285, 3128,
+    44, 57, 26, 19, 2402, 10, 1285, 3128, 43, 56, 25, 11, 20, 501, 18, 1888,
+    63, 6, 40, 41, 61, 0, 19, 2402, 10, 1287, 3128, 44, 57, 26, 19, 2402,
+    10, 1287, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
+    0, 19, 2402, 10, 59, 3128, 44, 57, 17, 11, 20, 858, 18, 2300, 63, 6,
+    41, 61, 0, 19, 2425, 63, 6, 39, 57, 27, 19, 2425, 10, 985, 5445, 44,
+    57, 26, 11, 20, 1291, 18, 1988, 10, 649, 5446, 43, 41, 41, 61, 0, 19,
+    2402, 10, 1297, 3128, 44, 57, 17, 11, 20, 858, 18, 2300, 63, 6, 41, 61,
+    0, 19, 2402, 10, 1297, 5452, 44, 61, 0, 19, 2402, 10, 1300, 3128, 44, 57,
+    17, 11, 20, 858, 18, 2300, 63, 6, 41, 61, 0, 19, 2402, 10, 1297, 5459,
+    44, 56, 16, 19, 2402, 10, 1297, 5460, 44, 40, 61, 0, 11, 20, 1296, 18,
+    2402, 10, 1297, 5464, 43, 61, 0, 11, 20, 1310, 18, 2402, 10, 763, 5468, 43,
     61, 0, 19, 2193, 63, 6, 39, 57, 18, 19, 2193, 63, 21, 19, 2942, 63,
-    21, 43, 41, 61, 0, 19, 2402, 10, 763, 3107, 44, 56, 16, 19, 1579, 10,
-    6, 3107, 44, 40, 56, 25, 19, 1578, 10, 5, 3107, 44, 40, 57, 35, 11,
+    21, 43, 41, 61, 0, 19, 2402, 10, 763, 3128, 44, 56, 16, 19, 1579, 10,
+    6, 3128, 44, 40, 56, 25, 19, 1578, 10, 5, 3128, 44, 40, 57, 35, 11,
     20, 858, 18, 2300, 63, 6, 41, 61, 0, 11, 20, 1330, 18, 2402, 10, 1331,
-    4993, 43, 61, 0, 19, 2804, 10, 60, 3107, 44, 57, 17, 11, 20, 858, 18,
-    2300, 63, 6, 41, 61, 0, 19, 2402, 10, 1331, 3107, 44, 57, 17, 11, 20,
-    858, 18, 2300, 63, 6, 41, 61, 0, 19, 2402, 10, 1334, 3107, 44, 57, 17,
+    5464, 43, 61, 0, 19, 2804, 10, 60, 3128, 44, 57, 17, 11, 20, 858, 18,
+    2300, 63, 6, 41, 61, 0, 19, 2402, 10, 1331, 3128, 44, 57, 17, 11, 20,
+    858, 18, 2300, 63, 6, 41, 61, 0, 19, 2402, 10, 1334, 3128, 44, 57, 17,
     11, 20, 858, 18, 2300, 63, 6, 41, 61, 0, 19, 2402, 63, 6, 39, 57,
-    15, 19, 2402, 10, 1345, 3107, 44, 41, 57, 34, 19, 2402, 10, 1345, 3107, 43,
+    15, 19, 2402, 10, 1345, 3128, 44, 41, 57, 34, 19, 2402, 10, 1345, 3128, 43,
     56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 10,
-    1345, 3107, 44, 57, 26, 19, 2402, 10, 1345, 3107, 43, 56, 25, 11, 20, 1489,
+    1345, 3128, 44, 57, 26, 19, 2402, 10, 1345, 3128, 43, 56, 25, 11, 20, 1489,
     18, 2598, 63, 6, 40, 41, 61, 0, 19, 1793, 18, 1838, 4, 3, 43, 61,
     0, 19, 1793, 53, 896, 39, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 1351, 3107, 44, 41, 57, 25, 11, 20, 858, 18, 2300, 63, 6, 41,
+    2402, 10, 1351, 3128, 44, 41, 57, 25, 11, 20, 858, 18, 2300, 63, 6, 41,
     61, 0, 19, 2758, 63, 6, 57, 12, 19, 2759, 63, 6, 41, 57, 19, 19,
     2686, 63, 6, 41, 61, 0, 19, 2758, 63, 6, 39, 57, 49, 19, 2758, 4,
     1, 21, 6, 0, 48, 56, 27, 19, 2758, 4, 2, 21, 6, 0, 48, 40,
@@ -7498,97 +8089,97 @@ constexpr std::uint16_t code[] = {
     19, 1935, 11, 20, 1367, 18, 2450, 48, 41, 61, 0, 11, 20, 1367, 18, 1844,
     53, 939, 57, 31, 11, 20, 1367, 18, 1844, 53, 683, 56, 30, 11, 20, 1367,
     18, 1844, 18, 2657, 63, 6, 39, 40, 41, 61, 0, 19, 2402, 63, 6, 39,
-    57, 15, 19, 2402, 10, 1372, 3107, 44, 41, 57, 34, 19, 2402, 10, 1372, 3107,
+    57, 15, 19, 2402, 10, 1372, 3128, 44, 41, 57, 34, 19, 2402, 10, 1372, 3128,
     43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112,
     63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
-    2570, 53, 1371, 41, 61, 0, 19, 2402, 10, 1372, 3107, 44, 57, 26, 19, 2402,
-    10, 1372, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
-    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1378, 3107, 44, 41, 57,
-    34, 19, 2402, 10, 1378, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
+    2570, 53, 1371, 41, 61, 0, 19, 2402, 10, 1372, 3128, 44, 57, 26, 19, 2402,
+    10, 1372, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
+    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1378, 3128, 44, 41, 57,
+    34, 19, 2402, 10, 1378, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
     40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858,
     18, 2112, 4, 1, 21, 18, 2570, 53, 1377, 41, 61, 0, 19, 2402, 10, 1378,
-    3107, 44, 57, 26, 19, 2402, 10, 1378, 3107, 43, 56, 25, 11, 20, 501, 18,
+    3128, 44, 57, 26, 19, 2402, 10, 1378, 3128, 43, 56, 25, 11, 20, 501, 18,
     1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402,
-    10, 1384, 3107, 44, 41, 57, 34, 19, 2402, 10, 1384, 3107, 43, 56, 33, 11,
+    10, 1384, 3128, 44, 41, 57, 34, 19, 2402, 10, 1384, 3128, 43, 56, 33, 11,
     20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0,
     43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1383, 41,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1390, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 1390, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
-    6, 40, 41, 61, 0, 19, 2402, 10, 1390, 3107, 44, 57, 26, 19, 2402, 10,
-    1390, 3107, 43, 56, 25, 11, 20, 1487, 18, 2415, 63, 6, 40, 41, 61, 0,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1390, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 1390, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    6, 40, 41, 61, 0, 19, 2402, 10, 1390, 3128, 44, 57, 26, 19, 2402, 10,
+    1390, 3128, 43, 56, 25, 11, 20, 1487, 18, 2415, 63, 6, 40, 41, 61, 0,
     19, 2775, 63, 6, 57, 12, 19, 1926, 63, 6, 41, 57, 19, 19, 2337, 63,
     6, 41, 57, 26, 19, 1886, 63, 6, 41, 57, 33, 19, 3004, 63, 6, 41,
     57, 40, 19, 2242, 63, 6, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15,
-    19, 2402, 10, 1402, 3107, 44, 41, 57, 34, 19, 2402, 10, 1402, 3107, 43, 56,
+    19, 2402, 10, 1402, 3128, 44, 41, 57, 34, 19, 2402, 10, 1402, 3128, 43, 56,
     33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21,
     4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53,
-    1401, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1397, 3107,
-    44, 41, 57, 34, 19, 2402, 10, 1397, 3107, 43, 56, 33, 11, 20, 858, 18,
+    1401, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1397, 3128,
+    44, 41, 57, 34, 19, 2402, 10, 1397, 3128, 43, 56, 33, 11, 20, 858, 18,
     2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23,
     11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1396, 41, 61, 0, 19,
-    2402, 10, 1397, 3107, 44, 57, 26, 19, 2402, 10, 1397, 3107, 43, 56, 25, 11,
-    20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 1402, 3107, 44,
-    57, 26, 19, 2402, 10, 1402, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
+    2402, 10, 1397, 3128, 44, 57, 26, 19, 2402, 10, 1397, 3128, 43, 56, 25, 11,
+    20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 1402, 3128, 44,
+    57, 26, 19, 2402, 10, 1402, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
     6, 40, 41, 61, 0, 19, 2253, 19, 2212, 45, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 1458, 3107, 44, 41, 57, 34, 19, 2402, 10, 1458,
-    3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
-    2112, 63, 21, 4, 0, 43, 57, 26, 7, 5094, 11, 20, 858, 18, 2112, 4,
-    1, 21, 18, 2570, 63, 24, 51, 41, 61, 0, 19, 2402, 10, 1458, 3107, 44,
-    57, 26, 19, 2402, 10, 1458, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
+    39, 57, 15, 19, 2402, 10, 1458, 3128, 44, 41, 57, 34, 19, 2402, 10, 1458,
+    3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
+    2112, 63, 21, 4, 0, 43, 57, 26, 7, 5585, 11, 20, 858, 18, 2112, 4,
+    1, 21, 18, 2570, 63, 24, 51, 41, 61, 0, 19, 2402, 10, 1458, 3128, 44,
+    57, 26, 19, 2402, 10, 1458, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
     6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1469,
-    3107, 44, 41, 57, 34, 19, 2402, 10, 1469, 3107, 43, 56, 33, 11, 20, 858,
+    3128, 44, 41, 57, 34, 19, 2402, 10, 1469, 3128, 43, 56, 33, 11, 20, 858,
     18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57,
     23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1468, 41, 61, 0,
-    19, 2402, 10, 1469, 3107, 44, 57, 26, 19, 2402, 10, 1469, 3107, 43, 56, 25,
+    19, 2402, 10, 1469, 3128, 44, 57, 26, 19, 2402, 10, 1469, 3128, 43, 56, 25,
     11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 1765, 63, 21, 61,
-    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1480, 3107, 44, 41, 57,
-    34, 19, 2402, 10, 1480, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
+    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1480, 3128, 44, 41, 57,
+    34, 19, 2402, 10, 1480, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
     40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858,
     18, 2112, 4, 1, 21, 18, 2570, 53, 1479, 41, 61, 0, 19, 2015, 63, 6,
-    39, 57, 14, 19, 2015, 60, 5110, 1, 41, 61, 1, 11, 20, 1486, 18, 2885,
+    39, 57, 14, 19, 2015, 60, 5604, 1, 41, 61, 1, 11, 20, 1486, 18, 2885,
     4, 1, 21, 63, 6, 39, 57, 41, 11, 20, 1486, 18, 2885, 4, 1, 21,
     18, 2512, 58, 0, 1, 37, 13, 0, 53, 974, 39, 59, 0, 1, 28, 4,
     0, 43, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1495,
-    3107, 44, 41, 57, 34, 19, 2402, 10, 1495, 3107, 43, 56, 33, 11, 20, 858,
+    3128, 44, 41, 57, 34, 19, 2402, 10, 1495, 3128, 43, 56, 33, 11, 20, 858,
     18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57,
     23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1494, 41, 61, 0,
-    19, 2402, 10, 1495, 3107, 44, 57, 26, 19, 2402, 10, 1495, 3107, 43, 56, 25,
+    19, 2402, 10, 1495, 3128, 44, 57, 26, 19, 2402, 10, 1495, 3128, 43, 56, 25,
     11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39,
-    57, 15, 19, 2402, 10, 1498, 3107, 44, 41, 57, 34, 19, 2402, 10, 1498, 3107,
+    57, 15, 19, 2402, 10, 1498, 3128, 44, 41, 57, 34, 19, 2402, 10, 1498, 3128,
     43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112,
     63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
     2570, 53, 1497, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10,
-    1506, 3107, 44, 41, 57, 34, 19, 2402, 10, 1506, 3107, 43, 56, 33, 11, 20,
+    1506, 3128, 44, 41, 57, 34, 19, 2402, 10, 1506, 3128, 43, 56, 33, 11, 20,
     858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43,
     57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1505, 41, 61,
-    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1523, 3107, 44, 41, 57,
-    34, 19, 2402, 10, 1523, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
+    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1523, 3128, 44, 41, 57,
+    34, 19, 2402, 10, 1523, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
     40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858,
     18, 2112, 4, 1, 21, 18, 2570, 53, 1522, 41, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 1529, 3107, 44, 41, 57, 25, 11, 20, 858, 18,
+    39, 57, 15, 19, 2402, 10, 1529, 3128, 44, 41, 57, 25, 11, 20, 858, 18,
     2300, 63, 6, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10,
-    1539, 3107, 44, 41, 57, 34, 19, 2402, 10, 1539, 3107, 43, 56, 33, 11, 20,
+    1539, 3128, 44, 41, 57, 34, 19, 2402, 10, 1539, 3128, 43, 56, 33, 11, 20,
     858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43,
     57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1538, 41, 61,
-    0, 19, 2402, 10, 1539, 3107, 44, 57, 26, 19, 2402, 10, 1539, 3107, 43, 56,
+    0, 19, 2402, 10, 1539, 3128, 44, 57, 26, 19, 2402, 10, 1539, 3128, 43, 56,
     25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 1545, 3107, 44, 41, 57, 34, 19, 2402, 10, 1545,
-    3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
+    39, 57, 15, 19, 2402, 10, 1545, 3128, 44, 41, 57, 34, 19, 2402, 10, 1545,
+    3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
     2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21,
-    18, 2570, 53, 1544, 41, 61, 0, 19, 2402, 10, 1545, 3107, 44, 57, 26, 19,
-    2402, 10, 1545, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
+    18, 2570, 53, 1544, 41, 61, 0, 19, 2402, 10, 1545, 3128, 44, 57, 26, 19,
+    2402, 10, 1545, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41,
     61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112,
     4, 1, 21, 18, 2570, 53, 1559, 41, 61, 0, 11, 20, 1005, 18, 1816, 4,
     1, 21, 63, 6, 56, 37, 11, 20, 1005, 18, 1816, 4, 1, 21, 53, 1559,
     57, 36, 11, 20, 1005, 18, 1816, 4, 1, 21, 53, 1556, 41, 40, 61, 0,
-    19, 2402, 10, 1560, 3107, 44, 57, 26, 19, 2402, 10, 1560, 3107, 43, 56, 25,
+    19, 2402, 10, 1560, 3128, 44, 57, 26, 19, 2402, 10, 1560, 3128, 43, 56, 25,
     11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39,
-    57, 15, 19, 2402, 10, 1563, 3107, 44, 41, 57, 34, 19, 2402, 10, 1563, 3107,
+    57, 15, 19, 2402, 10, 1563, 3128, 44, 41, 57, 34, 19, 2402, 10, 1563, 3128,
     43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 1567, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 1567, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
-    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1569, 3107, 44, 41, 57,
-    34, 19, 2402, 10, 1569, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
+    63, 6, 39, 57, 15, 19, 2402, 10, 1567, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 1567, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1569, 3128, 44, 41, 57,
+    34, 19, 2402, 10, 1569, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
     40, 41, 61, 1, 11, 20, 659, 18, 2093, 63, 21, 4, 0, 43, 57, 54,
     11, 20, 659, 18, 2093, 4, 1, 21, 18, 2512, 58, 0, 1, 50, 13, 0,
     53, 1572, 57, 38, 13, 0, 53, 1255, 41, 57, 45, 13, 0, 53, 1269, 41,
@@ -7617,75 +8208,75 @@ constexpr std::uint16_t code[] = {
     13, 5, 61, 0, 61, 2, 23, 6, 0, 24, 6, 1, 24, 62, 382, 1,
     14, 1, 4, 1, 13, 0, 18, 1842, 4, 1, 21, 15, 1, 2, 1842, 65535,
     4, 2, 13, 0, 18, 1842, 4, 2, 21, 15, 1, 2, 1842, 65535, 13, 1,
-    61, 0, 61, 3, 13, 0, 14, 2, 13, 2, 10, 1500, 3749, 43, 55, 43,
+    61, 0, 61, 3, 13, 0, 14, 2, 13, 2, 10, 1500, 3936, 43, 55, 43,
     13, 1, 4, 1, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
     62, 374, 7, 43, 55, 39, 3, 61, 54, 41, 1, 61, 54, 1133, 13, 2,
-    10, 1500, 3761, 43, 55, 81, 13, 1, 4, 0, 4, 1, 4, 0, 4, 0,
+    10, 1500, 3954, 43, 55, 81, 13, 1, 4, 0, 4, 1, 4, 0, 4, 0,
     4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 77, 3, 61, 54, 79,
-    1, 61, 54, 1133, 13, 2, 10, 1500, 3753, 43, 55, 119, 13, 1, 4, 0,
+    1, 61, 54, 1133, 13, 2, 10, 1500, 3942, 43, 55, 119, 13, 1, 4, 0,
     4, 0, 4, 1, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43,
-    55, 115, 3, 61, 54, 117, 1, 61, 54, 1133, 13, 2, 10, 1500, 4062, 43,
+    55, 115, 3, 61, 54, 117, 1, 61, 54, 1133, 13, 2, 10, 1500, 4352, 43,
     55, 157, 13, 1, 4, 0, 4, 0, 4, 0, 4, 1, 4, 0, 4, 0,
     4, 0, 62, 374, 7, 43, 55, 153, 3, 61, 54, 155, 1, 61, 54, 1133,
-    13, 2, 10, 1500, 4063, 43, 55, 195, 13, 1, 4, 0, 4, 0, 4, 0,
+    13, 2, 10, 1500, 4353, 43, 55, 195, 13, 1, 4, 0, 4, 0, 4, 0,
     4, 0, 4, 1, 4, 0, 4, 0, 62, 374, 7, 43, 55, 191, 3, 61,
-    54, 193, 1, 61, 54, 1133, 13, 2, 10, 1500, 4064, 43, 55, 233, 13, 1,
+    54, 193, 1, 61, 54, 1133, 13, 2, 10, 1500, 4354, 43, 55, 233, 13, 1,
     4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 1, 4, 0, 62, 374,
     7, 43, 55, 229, 3, 61, 54, 231, 1, 61, 54, 1133, 13, 2, 10, 1500,
-    4065, 43, 55, 271, 13, 1, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
+    4355, 43, 55, 271, 13, 1, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
     4, 0, 4, 1, 62, 374, 7, 43, 55, 267, 3, 61, 54, 269, 1, 61,
-    54, 1133, 13, 2, 10, 1500, 4066, 43, 55, 309, 13, 1, 4, 0, 4, 0,
+    54, 1133, 13, 2, 10, 1500, 4356, 43, 55, 309, 13, 1, 4, 0, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 305,
-    3, 61, 54, 307, 1, 61, 54, 1133, 13, 2, 10, 1500, 4067, 43, 55, 347,
+    3, 61, 54, 307, 1, 61, 54, 1133, 13, 2, 10, 1500, 4357, 43, 55, 347,
     13, 1, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
     62, 374, 7, 43, 55, 343, 3, 61, 54, 345, 1, 61, 54, 1133, 13, 2,
-    10, 1500, 3743, 43, 55, 385, 13, 1, 4, 2, 4, 0, 4, 0, 4, 0,
+    10, 1500, 3927, 43, 55, 385, 13, 1, 4, 2, 4, 0, 4, 0, 4, 0,
     4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 381, 3, 61, 54, 383,
-    1, 61, 54, 1133, 13, 2, 10, 1500, 3757, 43, 55, 423, 13, 1, 4, 3,
+    1, 61, 54, 1133, 13, 2, 10, 1500, 3948, 43, 55, 423, 13, 1, 4, 3,
     4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43,
-    55, 419, 3, 61, 54, 421, 1, 61, 54, 1133, 13, 2, 10, 1500, 4068, 43,
+    55, 419, 3, 61, 54, 421, 1, 61, 54, 1133, 13, 2, 10, 1500, 4358, 43,
     55, 462, 13, 1, 4, 2, 4, 0, 4, 2, 38, 4, 0, 4, 0, 4,
     0, 4, 0, 62, 374, 7, 43, 55, 458, 3, 61, 54, 460, 1, 61, 54,
-    1133, 13, 2, 10, 1500, 4069, 43, 55, 501, 13, 1, 4, 0, 4, 0, 4,
+    1133, 13, 2, 10, 1500, 4359, 43, 55, 501, 13, 1, 4, 0, 4, 0, 4,
     1, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 497,
-    3, 61, 54, 499, 1, 61, 54, 1133, 13, 2, 10, 1500, 4070, 43, 55, 541,
+    3, 61, 54, 499, 1, 61, 54, 1133, 13, 2, 10, 1500, 4360, 43, 55, 541,
     13, 1, 4, 2, 38, 4, 1, 38, 4, 4, 4, 2, 4, 0, 4, 0,
     4, 0, 62, 374, 7, 43, 55, 537, 3, 61, 54, 539, 1, 61, 54, 1133,
-    13, 2, 10, 1500, 4071, 43, 55, 580, 13, 1, 4, 2, 4, 0, 4, 2,
+    13, 2, 10, 1500, 4361, 43, 55, 580, 13, 1, 4, 2, 4, 0, 4, 2,
     38, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 576, 3,
-    61, 54, 578, 1, 61, 54, 1133, 13, 2, 10, 1500, 4072, 43, 55, 618, 13,
+    61, 54, 578, 1, 61, 54, 1133, 13, 2, 10, 1500, 4362, 43, 55, 618, 13,
     1, 4, 0, 4, 0, 4, 1, 4, 1, 4, 0, 4, 0, 4, 0, 62,
     374, 7, 43, 55, 614, 3, 61, 54, 616, 1, 61, 54, 1133, 13, 2, 10,
-    1500, 4073, 43, 55, 658, 13, 1, 4, 2, 38, 4, 1, 38, 4, 3, 4,
+    1500, 4363, 43, 55, 658, 13, 1, 4, 2, 38, 4, 1, 38, 4, 3, 4,
     2, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 654, 3, 61, 54,
-    656, 1, 61, 54, 1133, 13, 2, 10, 1500, 4074, 43, 55, 698, 13, 1, 4,
+    656, 1, 61, 54, 1133, 13, 2, 10, 1500, 4364, 43, 55, 698, 13, 1, 4,
     2, 4, 1, 4, 3, 38, 4, 1, 38, 4, 0, 4, 0, 4, 0, 62,
     374, 7, 43, 55, 694, 3, 61, 54, 696, 1, 61, 54, 1133, 13, 2, 10,
-    1500, 4075, 43, 55, 738, 13, 1, 4, 2, 4, 1, 4, 3, 38, 4, 2,
+    1500, 4365, 43, 55, 738, 13, 1, 4, 2, 4, 1, 4, 3, 38, 4, 2,
     38, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 734, 3, 61, 54,
-    736, 1, 61, 54, 1133, 13, 2, 10, 1500, 4076, 43, 55, 777, 13, 1, 4,
+    736, 1, 61, 54, 1133, 13, 2, 10, 1500, 4366, 43, 55, 777, 13, 1, 4,
     2, 4, 1, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374,
     7, 43, 55, 773, 3, 61, 54, 775, 1, 61, 54, 1133, 13, 2, 10, 1500,
-    4077, 43, 55, 816, 13, 1, 4, 1, 4, 1, 4, 2, 38, 4, 0, 4,
+    4367, 43, 55, 816, 13, 1, 4, 1, 4, 1, 4, 2, 38, 4, 0, 4,
     0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 812, 3, 61, 54, 814, 1,
-    61, 54, 1133, 13, 2, 10, 1500, 4078, 43, 55, 855, 13, 1, 4, 0, 4,
+    61, 54, 1133, 13, 2, 10, 1500, 4368, 43, 55, 855, 13, 1, 4, 0, 4,
     0, 4, 1, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43,
-    55, 851, 3, 61, 54, 853, 1, 61, 54, 1133, 13, 2, 10, 1500, 4079, 43,
+    55, 851, 3, 61, 54, 853, 1, 61, 54, 1133, 13, 2, 10, 1500, 4369, 43,
     55, 895, 13, 1, 4, 2, 4, 1, 4, 2, 38, 4, 2, 38, 4, 0,
     4, 0, 4, 0, 62, 374, 7, 43, 55, 891, 3, 61, 54, 893, 1, 61,
-    54, 1133, 13, 2, 10, 1500, 4080, 43, 55, 934, 13, 1, 4, 2, 38, 4,
+    54, 1133, 13, 2, 10, 1500, 4370, 43, 55, 934, 13, 1, 4, 2, 38, 4,
     0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 1, 62, 374, 7, 43, 55,
-    930, 3, 61, 54, 932, 1, 61, 54, 1133, 13, 2, 10, 1500, 4081, 43, 55,
+    930, 3, 61, 54, 932, 1, 61, 54, 1133, 13, 2, 10, 1500, 4371, 43, 55,
     972, 13, 1, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4,
     1, 62, 374, 7, 43, 55, 968, 3, 61, 54, 970, 1, 61, 54, 1133, 13,
-    2, 10, 1500, 4082, 43, 55, 1012, 13, 1, 4, 2, 4, 1, 4, 2, 38,
+    2, 10, 1500, 4372, 43, 55, 1012, 13, 1, 4, 2, 4, 1, 4, 2, 38,
     4, 1, 38, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 1008, 3,
-    61, 54, 1010, 1, 61, 54, 1133, 13, 2, 10, 1500, 4083, 43, 55, 1052, 13,
+    61, 54, 1010, 1, 61, 54, 1133, 13, 2, 10, 1500, 4373, 43, 55, 1052, 13,
     1, 4, 0, 4, 1, 4, 2, 38, 4, 1, 38, 4, 0, 4, 0, 4,
     0, 62, 374, 7, 43, 55, 1048, 3, 61, 54, 1050, 1, 61, 54, 1133, 13,
-    2, 10, 1500, 4084, 43, 55, 1091, 13, 1, 4, 2, 4, 1, 4, 3, 38,
+    2, 10, 1500, 4374, 43, 55, 1091, 13, 1, 4, 2, 4, 1, 4, 3, 38,
     4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 43, 55, 1087, 3, 61,
-    54, 1089, 1, 61, 54, 1133, 13, 2, 10, 1500, 4085, 43, 55, 1131, 13, 1,
+    54, 1089, 1, 61, 54, 1133, 13, 2, 10, 1500, 4375, 43, 55, 1131, 13, 1,
     4, 1, 38, 4, 1, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4, 0,
     62, 374, 7, 43, 55, 1127, 3, 61, 54, 1129, 1, 61, 54, 1133, 2, 61,
     0, 61, 2, 13, 1, 63, 6, 55, 56, 13, 1, 53, 653, 55, 15, 0,
@@ -7694,8 +8285,8 @@ constexpr std::uint16_t code[] = {
     55, 52, 3, 61, 54, 54, 1, 61, 54, 58, 3, 61, 0, 61, 0, 61,
     10, 13, 0, 63, 6, 39, 57, 16, 13, 0, 18, 1838, 4, 2, 43, 41,
     57, 34, 13, 1, 63, 6, 39, 57, 33, 13, 1, 18, 1838, 4, 2, 43,
-    41, 41, 55, 40, 0, 61, 54, 232, 13, 0, 60, 3178, 1, 20, 382, 18,
-    1842, 26, 14, 4, 13, 1, 60, 3178, 1, 20, 382, 18, 1842, 26, 14, 5,
+    41, 41, 55, 40, 0, 61, 54, 232, 13, 0, 60, 3220, 1, 20, 382, 18,
+    1842, 26, 14, 4, 13, 1, 60, 3220, 1, 20, 382, 18, 1842, 26, 14, 5,
     23, 13, 4, 4, 2, 21, 13, 5, 4, 3, 21, 33, 13, 4, 4, 3,
     21, 13, 5, 4, 2, 21, 33, 32, 24, 13, 4, 4, 3, 21, 13, 5,
     4, 1, 21, 33, 13, 4, 4, 1, 21, 13, 5, 4, 3, 21, 33, 32,
@@ -7710,65 +8301,65 @@ constexpr std::uint16_t code[] = {
     16, 13, 0, 20, 744, 18, 2383, 18, 1838, 61, 13, 0, 53, 255, 55, 31,
     13, 0, 20, 255, 18, 2395, 18, 1838, 61, 13, 0, 53, 939, 55, 49, 13,
     0, 20, 939, 18, 2390, 4, 1, 21, 18, 1838, 61, 13, 0, 53, 1474, 55,
-    65, 13, 0, 20, 1474, 18, 1658, 60, 3313, 1, 61, 13, 0, 53, 241, 55,
+    65, 13, 0, 20, 1474, 18, 1658, 60, 3395, 1, 61, 13, 0, 53, 241, 55,
     83, 13, 0, 20, 241, 18, 2657, 4, 1, 21, 18, 1838, 61, 13, 0, 53,
     142, 55, 101, 13, 0, 20, 142, 18, 1758, 4, 1, 21, 18, 1838, 61, 13,
     0, 53, 869, 55, 110, 4, 2, 61, 13, 0, 53, 870, 55, 119, 4, 3,
     61, 13, 0, 53, 896, 55, 128, 4, 3, 61, 13, 0, 53, 683, 55, 143,
     13, 0, 20, 683, 18, 2390, 18, 1838, 61, 0, 61, 0, 61, 2, 13, 0,
-    14, 1, 13, 1, 10, 1233, 4092, 43, 55, 33, 4, 1, 4, 0, 4, 0,
+    14, 1, 13, 1, 10, 1233, 4382, 43, 55, 33, 4, 1, 4, 0, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1,
-    10, 1233, 4093, 43, 55, 61, 4, 2, 4, 0, 4, 0, 4, 0, 4, 0,
-    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4094, 43,
+    10, 1233, 4383, 43, 55, 61, 4, 2, 4, 0, 4, 0, 4, 0, 4, 0,
+    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4384, 43,
     55, 89, 4, 3, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
-    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4095, 43, 55, 117, 4, 0,
+    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4385, 43, 55, 117, 4, 0,
     4, 1, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61,
-    54, 887, 13, 1, 10, 1233, 4096, 43, 55, 145, 4, 0, 4, 0, 4, 1,
+    54, 887, 13, 1, 10, 1233, 4386, 43, 55, 145, 4, 0, 4, 0, 4, 1,
     4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1,
-    10, 1233, 4097, 43, 55, 173, 4, 0, 4, 0, 4, 0, 4, 1, 4, 0,
-    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4098, 43,
+    10, 1233, 4387, 43, 55, 173, 4, 0, 4, 0, 4, 0, 4, 1, 4, 0,
+    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4388, 43,
     55, 201, 4, 0, 4, 0, 4, 0, 4, 0, 4, 1, 4, 0, 4, 0,
-    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4099, 43, 55, 229, 4, 0,
+    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4389, 43, 55, 229, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 0, 4, 1, 4, 0, 62, 374, 7, 61,
-    54, 887, 13, 1, 10, 1233, 4100, 43, 55, 257, 4, 0, 4, 0, 4, 0,
+    54, 887, 13, 1, 10, 1233, 4390, 43, 55, 257, 4, 0, 4, 0, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 1, 62, 374, 7, 61, 54, 887, 13, 1,
-    10, 1233, 4101, 43, 55, 285, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
-    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4102, 43,
+    10, 1233, 4391, 43, 55, 285, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
+    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4392, 43,
     55, 313, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
-    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4103, 43, 55, 342, 4, 0,
+    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4393, 43, 55, 342, 4, 0,
     4, 0, 4, 1, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7,
-    61, 54, 887, 13, 1, 10, 1233, 4104, 43, 55, 371, 4, 1, 4, 1, 4,
+    61, 54, 887, 13, 1, 10, 1233, 4394, 43, 55, 371, 4, 1, 4, 1, 4,
     2, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887,
-    13, 1, 10, 1233, 4105, 43, 55, 401, 4, 1, 38, 4, 1, 4, 2, 38,
+    13, 1, 10, 1233, 4395, 43, 55, 401, 4, 1, 38, 4, 1, 4, 2, 38,
     4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1,
-    10, 1233, 4106, 43, 55, 430, 4, 2, 4, 1, 4, 2, 38, 4, 0, 4,
-    0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4107,
+    10, 1233, 4396, 43, 55, 430, 4, 2, 4, 1, 4, 2, 38, 4, 0, 4,
+    0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4397,
     43, 55, 459, 4, 2, 4, 1, 4, 3, 38, 4, 0, 4, 0, 4, 0,
-    4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4108, 43, 55, 487,
+    4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4398, 43, 55, 487,
     4, 0, 4, 0, 4, 1, 4, 1, 4, 0, 4, 0, 4, 0, 62, 374,
-    7, 61, 54, 887, 13, 1, 10, 1233, 4109, 43, 55, 517, 4, 2, 4, 1,
+    7, 61, 54, 887, 13, 1, 10, 1233, 4399, 43, 55, 517, 4, 2, 4, 1,
     4, 3, 38, 4, 1, 38, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61,
-    54, 887, 13, 1, 10, 1233, 4110, 43, 55, 547, 4, 2, 38, 4, 1, 38,
+    54, 887, 13, 1, 10, 1233, 4400, 43, 55, 547, 4, 2, 38, 4, 1, 38,
     4, 4, 4, 2, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887,
-    13, 1, 10, 1233, 4111, 43, 55, 577, 4, 2, 4, 1, 4, 3, 38, 4,
+    13, 1, 10, 1233, 4401, 43, 55, 577, 4, 2, 4, 1, 4, 3, 38, 4,
     2, 38, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1,
-    10, 1233, 4112, 43, 55, 607, 4, 2, 38, 4, 1, 38, 4, 3, 4, 2,
+    10, 1233, 4402, 43, 55, 607, 4, 2, 38, 4, 1, 38, 4, 3, 4, 2,
     4, 0, 4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233,
-    4113, 43, 55, 637, 4, 2, 4, 1, 4, 2, 38, 4, 1, 38, 4, 0,
-    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4114, 43,
+    4403, 43, 55, 637, 4, 2, 4, 1, 4, 2, 38, 4, 1, 38, 4, 0,
+    4, 0, 4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4404, 43,
     55, 667, 4, 0, 4, 1, 4, 2, 38, 4, 1, 38, 4, 0, 4, 0,
-    4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4115, 43, 55, 697,
+    4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4405, 43, 55, 697,
     4, 2, 4, 1, 4, 2, 38, 4, 2, 38, 4, 0, 4, 0, 4, 0,
-    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4116, 43, 55, 725, 4, 0,
+    62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4406, 43, 55, 725, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 1, 4, 0, 4, 0, 62, 374, 7, 61,
-    54, 887, 13, 1, 10, 1233, 4117, 43, 55, 753, 4, 0, 4, 0, 4, 0,
+    54, 887, 13, 1, 10, 1233, 4407, 43, 55, 753, 4, 0, 4, 0, 4, 0,
     4, 0, 4, 0, 4, 0, 4, 1, 62, 374, 7, 61, 54, 887, 13, 1,
-    10, 1233, 4118, 43, 55, 782, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4,
-    0, 4, 0, 4, 1, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4119,
+    10, 1233, 4408, 43, 55, 782, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4,
+    0, 4, 0, 4, 1, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4409,
     43, 55, 811, 4, 0, 4, 0, 4, 1, 38, 4, 0, 4, 0, 4, 0,
-    4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4120, 43, 55, 840,
+    4, 0, 62, 374, 7, 61, 54, 887, 13, 1, 10, 1233, 4410, 43, 55, 840,
     4, 2, 4, 0, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62,
-    374, 7, 61, 54, 887, 13, 1, 10, 1233, 4121, 43, 55, 869, 4, 2, 4,
+    374, 7, 61, 54, 887, 13, 1, 10, 1233, 4411, 43, 55, 869, 4, 2, 4,
     0, 4, 2, 38, 4, 0, 4, 0, 4, 0, 4, 0, 62, 374, 7, 61,
     54, 887, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0, 4, 0,
     62, 374, 7, 61, 0, 61, 9, 23, 27, 14, 1, 13, 0, 53, 896, 55,
@@ -7776,22 +8367,22 @@ constexpr std::uint16_t code[] = {
     53, 1348, 55, 92, 13, 0, 20, 1348, 18, 1632, 63, 21, 14, 2, 4, 1,
     13, 2, 14, 3, 4, 1, 14, 4, 14, 5, 13, 3, 13, 5, 32, 13,
     4, 33, 4, 0, 48, 55, 92, 13, 1, 13, 0, 20, 1348, 18, 1632, 13,
-    5, 21, 60, 4625, 1, 31, 27, 14, 1, 13, 5, 13, 4, 31, 14, 5,
+    5, 21, 60, 5024, 1, 31, 27, 14, 1, 13, 5, 13, 4, 31, 14, 5,
     54, 52, 13, 0, 53, 242, 55, 186, 13, 0, 20, 241, 18, 2657, 63, 21,
-    14, 2, 13, 0, 20, 241, 18, 2657, 4, 1, 21, 18, 2348, 60, 4367, 1,
+    14, 2, 13, 0, 20, 241, 18, 2657, 4, 1, 21, 18, 2348, 60, 4709, 1,
     27, 14, 1, 13, 2, 4, 1, 47, 55, 186, 4, 2, 13, 2, 14, 6,
     4, 1, 14, 7, 14, 8, 13, 6, 13, 8, 32, 13, 7, 33, 4, 0,
     48, 55, 186, 13, 1, 13, 0, 20, 241, 18, 2657, 4, 1, 21, 18, 2348,
-    60, 4367, 1, 33, 27, 14, 1, 13, 8, 13, 7, 31, 14, 8, 54, 144,
+    60, 4709, 1, 33, 27, 14, 1, 13, 8, 13, 7, 31, 14, 8, 54, 144,
     13, 1, 61, 0, 61, 9, 13, 2, 13, 1, 32, 4, 1, 31, 13, 0,
     63, 21, 44, 55, 18, 0, 61, 13, 4, 13, 3, 32, 4, 1, 31, 13,
     0, 4, 1, 21, 63, 21, 44, 55, 38, 0, 61, 23, 13, 0, 4, 1,
-    21, 13, 3, 13, 4, 60, 3193, 3, 13, 2, 13, 1, 32, 4, 1, 31,
+    21, 13, 3, 13, 4, 60, 3241, 3, 13, 2, 13, 1, 32, 4, 1, 31,
     25, 13, 1, 13, 2, 29, 14, 5, 4, 2, 13, 0, 63, 10, 14, 6,
     4, 1, 14, 7, 14, 8, 13, 6, 13, 8, 32, 13, 7, 33, 4, 0,
     48, 55, 147, 13, 4, 13, 3, 32, 4, 1, 31, 13, 0, 13, 8, 21,
     63, 21, 44, 55, 114, 0, 61, 13, 1, 13, 8, 31, 4, 1, 32, 13,
-    0, 13, 8, 21, 13, 3, 13, 4, 60, 3193, 3, 15, 5, 1, 65535, 13,
+    0, 13, 8, 21, 13, 3, 13, 4, 60, 3241, 3, 15, 5, 1, 65535, 13,
     8, 13, 7, 31, 14, 8, 54, 81, 13, 5, 61, 0, 61, 12, 23, 6,
     1, 24, 6, 0, 24, 62, 382, 1, 14, 2, 23, 6, 1, 24, 6, 0,
     24, 62, 382, 1, 6, 1, 62, 1508, 2, 14, 3, 13, 2, 14, 5, 13,
@@ -7812,33 +8403,33 @@ constexpr std::uint16_t code[] = {
     3, 1, 2320, 13, 3, 14, 5, 54, 272, 13, 2, 14, 5, 54, 276, 0,
     61, 13, 5, 61, 0, 61, 1, 13, 0, 53, 187, 55, 10, 4, 2, 61,
     13, 0, 53, 188, 55, 19, 4, 3, 61, 0, 61, 0, 61, 36, 4, 0,
-    14, 2, 13, 0, 14, 3, 13, 3, 7, 5157, 43, 55, 34, 13, 1, 58,
+    14, 2, 13, 0, 14, 3, 13, 3, 7, 5662, 43, 55, 34, 13, 1, 58,
     4, 1, 30, 13, 4, 53, 932, 59, 4, 1, 22, 14, 2, 54, 1024, 13,
-    3, 7, 5158, 43, 55, 59, 13, 1, 58, 5, 1, 55, 13, 5, 53, 188,
-    59, 5, 1, 47, 14, 2, 54, 1024, 13, 3, 7, 5159, 43, 55, 84, 13,
+    3, 7, 5663, 43, 55, 59, 13, 1, 58, 5, 1, 55, 13, 5, 53, 188,
+    59, 5, 1, 47, 14, 2, 54, 1024, 13, 3, 7, 5664, 43, 55, 84, 13,
     1, 58, 6, 1, 80, 13, 6, 53, 332, 59, 6, 1, 72, 14, 2, 54,
-    1024, 13, 3, 7, 4128, 43, 55, 121, 13, 1, 58, 7, 1, 117, 13, 7,
+    1024, 13, 3, 7, 4418, 43, 55, 121, 13, 1, 58, 7, 1, 117, 13, 7,
     53, 332, 56, 113, 13, 7, 20, 332, 18, 1838, 4, 2, 43, 40, 59, 7,
-    1, 97, 14, 2, 54, 1024, 13, 3, 7, 5160, 43, 55, 158, 13, 1, 58,
+    1, 97, 14, 2, 54, 1024, 13, 3, 7, 5665, 43, 55, 158, 13, 1, 58,
     8, 1, 154, 13, 8, 53, 332, 56, 150, 13, 8, 20, 332, 18, 1838, 4,
-    3, 43, 40, 59, 8, 1, 134, 14, 2, 54, 1024, 13, 3, 7, 5161, 43,
+    3, 43, 40, 59, 8, 1, 134, 14, 2, 54, 1024, 13, 3, 7, 5666, 43,
     55, 183, 13, 1, 58, 9, 1, 179, 13, 9, 53, 1347, 59, 9, 1, 171,
-    14, 2, 54, 1024, 13, 3, 7, 5162, 43, 55, 220, 13, 1, 58, 10, 1,
+    14, 2, 54, 1024, 13, 3, 7, 5667, 43, 55, 220, 13, 1, 58, 10, 1,
     216, 13, 10, 53, 1347, 56, 212, 13, 10, 20, 1347, 18, 1838, 4, 2, 43,
-    40, 59, 10, 1, 196, 14, 2, 54, 1024, 13, 3, 7, 5163, 43, 55, 257,
+    40, 59, 10, 1, 196, 14, 2, 54, 1024, 13, 3, 7, 5668, 43, 55, 257,
     13, 1, 58, 11, 1, 253, 13, 11, 53, 1347, 56, 249, 13, 11, 20, 1347,
     18, 1838, 4, 3, 43, 40, 59, 11, 1, 233, 14, 2, 54, 1024, 13, 3,
-    7, 5164, 43, 55, 282, 13, 1, 58, 12, 1, 278, 13, 12, 53, 65, 59,
-    12, 1, 270, 14, 2, 54, 1024, 13, 3, 7, 5165, 43, 55, 307, 13, 1,
+    7, 5669, 43, 55, 282, 13, 1, 58, 12, 1, 278, 13, 12, 53, 65, 59,
+    12, 1, 270, 14, 2, 54, 1024, 13, 3, 7, 5670, 43, 55, 307, 13, 1,
     58, 13, 1, 303, 13, 13, 53, 1411, 59, 13, 1, 295, 14, 2, 54, 1024,
-    13, 3, 7, 5166, 43, 55, 332, 13, 1, 58, 14, 1, 328, 13, 14, 53,
-    145, 59, 14, 1, 320, 14, 2, 54, 1024, 13, 3, 7, 4129, 43, 55, 379,
+    13, 3, 7, 5671, 43, 55, 332, 13, 1, 58, 14, 1, 328, 13, 14, 53,
+    145, 59, 14, 1, 320, 14, 2, 54, 1024, 13, 3, 7, 4419, 43, 55, 379,
     13, 1, 58, 15, 1, 375, 13, 15, 63, 24, 23, 9, 932, 24, 9, 332,
     24, 9, 626, 24, 9, 65, 24, 9, 1411, 24, 33, 63, 21, 4, 1, 43,
-    59, 15, 1, 345, 14, 2, 54, 1024, 13, 3, 7, 4130, 43, 55, 425, 13,
+    59, 15, 1, 345, 14, 2, 54, 1024, 13, 3, 7, 4420, 43, 55, 425, 13,
     1, 58, 16, 1, 421, 13, 16, 53, 631, 57, 403, 13, 16, 53, 932, 41,
     57, 410, 13, 16, 53, 332, 41, 57, 417, 13, 16, 53, 1347, 41, 59, 16,
-    1, 392, 14, 2, 54, 1024, 13, 3, 7, 4131, 43, 55, 549, 13, 1, 58,
+    1, 392, 14, 2, 54, 1024, 13, 3, 7, 4421, 43, 55, 549, 13, 1, 58,
     17, 1, 467, 13, 17, 53, 626, 57, 449, 13, 17, 53, 631, 41, 57, 456,
     13, 17, 53, 932, 41, 57, 463, 13, 17, 53, 332, 41, 59, 17, 1, 438,
     14, 2, 4, 1, 13, 1, 63, 10, 14, 18, 4, 1, 14, 19, 14, 20,
@@ -7846,35 +8437,35 @@ constexpr std::uint16_t code[] = {
     20, 21, 53, 631, 55, 538, 13, 1, 13, 20, 21, 20, 631, 18, 1887, 58,
     21, 1, 526, 13, 21, 53, 1347, 59, 21, 1, 518, 4, 0, 47, 55, 538,
     13, 2, 4, 1, 32, 14, 2, 13, 20, 13, 19, 31, 14, 20, 54, 483,
-    54, 1024, 13, 3, 7, 5167, 43, 55, 574, 13, 1, 58, 22, 1, 570, 13,
-    22, 53, 1405, 59, 22, 1, 562, 14, 2, 54, 1024, 13, 3, 7, 5168, 43,
+    54, 1024, 13, 3, 7, 5672, 43, 55, 574, 13, 1, 58, 22, 1, 570, 13,
+    22, 53, 1405, 59, 22, 1, 562, 14, 2, 54, 1024, 13, 3, 7, 5673, 43,
     55, 618, 13, 1, 58, 23, 1, 614, 23, 9, 1405, 24, 9, 1217, 24, 9,
     543, 24, 9, 1245, 24, 13, 23, 63, 24, 33, 63, 21, 4, 1, 48, 59,
-    23, 1, 587, 14, 2, 54, 1024, 13, 3, 7, 4132, 43, 55, 659, 13, 1,
+    23, 1, 587, 14, 2, 54, 1024, 13, 3, 7, 4422, 43, 55, 659, 13, 1,
     58, 24, 1, 655, 23, 9, 1405, 24, 9, 1217, 24, 9, 543, 24, 13, 24,
     63, 24, 33, 63, 21, 4, 1, 48, 59, 24, 1, 631, 14, 2, 54, 1024,
-    13, 3, 7, 4133, 43, 55, 684, 13, 1, 58, 25, 1, 680, 13, 25, 53,
-    1245, 59, 25, 1, 672, 14, 2, 54, 1024, 13, 3, 7, 4134, 43, 55, 742,
+    13, 3, 7, 4423, 43, 55, 684, 13, 1, 58, 25, 1, 680, 13, 25, 53,
+    1245, 59, 25, 1, 672, 14, 2, 54, 1024, 13, 3, 7, 4424, 43, 55, 742,
     13, 1, 58, 26, 1, 738, 23, 9, 540, 24, 9, 1158, 24, 13, 26, 63,
     24, 33, 63, 21, 4, 1, 48, 56, 734, 23, 9, 541, 24, 9, 1159, 24,
     13, 26, 63, 24, 33, 63, 21, 4, 0, 43, 40, 59, 26, 1, 697, 14,
-    2, 54, 1024, 13, 3, 7, 4137, 43, 55, 780, 13, 1, 58, 27, 1, 776,
+    2, 54, 1024, 13, 3, 7, 4427, 43, 55, 780, 13, 1, 58, 27, 1, 776,
     23, 9, 1366, 24, 9, 1367, 24, 13, 27, 63, 24, 33, 63, 21, 4, 1,
-    48, 59, 27, 1, 755, 14, 2, 54, 1024, 13, 3, 7, 4135, 43, 55, 821,
+    48, 59, 27, 1, 755, 14, 2, 54, 1024, 13, 3, 7, 4425, 43, 55, 821,
     13, 1, 58, 28, 1, 817, 23, 9, 124, 24, 9, 322, 24, 9, 324, 24,
     13, 28, 63, 24, 33, 63, 21, 4, 1, 48, 59, 28, 1, 793, 14, 2,
-    54, 1024, 13, 3, 7, 4136, 43, 55, 859, 13, 1, 58, 29, 1, 855, 23,
+    54, 1024, 13, 3, 7, 4426, 43, 55, 859, 13, 1, 58, 29, 1, 855, 23,
     9, 324, 24, 9, 121, 24, 13, 29, 63, 24, 33, 63, 21, 4, 1, 48,
-    59, 29, 1, 834, 14, 2, 54, 1024, 13, 3, 7, 4138, 43, 55, 884, 13,
+    59, 29, 1, 834, 14, 2, 54, 1024, 13, 3, 7, 4428, 43, 55, 884, 13,
     1, 58, 30, 1, 880, 13, 30, 53, 547, 59, 30, 1, 872, 14, 2, 54,
-    1024, 13, 3, 7, 5169, 43, 55, 909, 13, 1, 58, 31, 1, 905, 13, 31,
-    53, 776, 59, 31, 1, 897, 14, 2, 54, 1024, 13, 3, 7, 4139, 43, 55,
+    1024, 13, 3, 7, 5674, 43, 55, 909, 13, 1, 58, 31, 1, 905, 13, 31,
+    53, 776, 59, 31, 1, 897, 14, 2, 54, 1024, 13, 3, 7, 4429, 43, 55,
     947, 13, 1, 58, 32, 1, 930, 13, 32, 53, 135, 59, 32, 1, 922, 14,
     2, 13, 1, 63, 21, 4, 1, 47, 55, 945, 4, 0, 14, 2, 54, 1024,
-    13, 3, 7, 4140, 43, 55, 972, 13, 1, 58, 33, 1, 968, 13, 33, 53,
-    1191, 59, 33, 1, 960, 14, 2, 54, 1024, 13, 3, 7, 5170, 43, 55, 997,
+    13, 3, 7, 4430, 43, 55, 972, 13, 1, 58, 33, 1, 968, 13, 33, 53,
+    1191, 59, 33, 1, 960, 14, 2, 54, 1024, 13, 3, 7, 5675, 43, 55, 997,
     13, 1, 58, 34, 1, 993, 13, 34, 53, 738, 59, 34, 1, 985, 14, 2,
-    54, 1024, 13, 3, 7, 4141, 43, 55, 1022, 13, 1, 58, 35, 1, 1018, 13,
+    54, 1024, 13, 3, 7, 4431, 43, 55, 1022, 13, 1, 58, 35, 1, 1018, 13,
     35, 53, 779, 59, 35, 1, 1010, 14, 2, 54, 1024, 0, 61, 13, 2, 13,
     1, 63, 21, 43, 61, 0, 61, 9, 3, 14, 1, 13, 0, 18, 2990, 4,
     0, 13, 0, 20, 145, 18, 2935, 29, 14, 2, 4, 0, 13, 0, 20, 145,
@@ -7896,26 +8487,26 @@ constexpr std::uint16_t code[] = {
     2, 4, 1, 13, 2, 63, 10, 14, 8, 4, 1, 14, 9, 14, 10, 13,
     8, 13, 10, 32, 13, 9, 33, 4, 0, 48, 55, 125, 13, 3, 13, 2,
     13, 10, 21, 31, 27, 14, 3, 13, 10, 13, 9, 31, 14, 10, 54, 92,
-    13, 7, 13, 6, 31, 14, 7, 54, 30, 13, 3, 60, 5110, 1, 14, 4,
+    13, 7, 13, 6, 31, 14, 7, 54, 30, 13, 3, 60, 5604, 1, 14, 4,
     13, 4, 61, 0, 61, 6, 23, 27, 14, 1, 4, 0, 14, 2, 4, 1,
     13, 0, 63, 10, 14, 3, 4, 1, 14, 4, 14, 5, 13, 3, 13, 5,
     32, 13, 4, 33, 4, 0, 48, 55, 78, 13, 0, 13, 5, 21, 53, 1004,
     55, 62, 13, 1, 13, 0, 13, 5, 21, 20, 1173, 18, 2274, 31, 27, 14,
     1, 54, 69, 13, 2, 4, 1, 31, 14, 2, 13, 5, 13, 4, 31, 14,
     5, 54, 23, 13, 1, 63, 21, 13, 2, 31, 13, 0, 63, 21, 43, 61,
-    0, 61, 0, 19, 1946, 53, 1366, 57, 15, 7, 5182, 19, 1946, 63, 24, 51,
+    0, 61, 0, 19, 1946, 53, 1366, 57, 15, 7, 5687, 19, 1946, 63, 24, 51,
     41, 57, 22, 19, 1946, 53, 121, 41, 61, 1, 19, 1628, 58, 0, 1, 28,
-    13, 0, 63, 24, 23, 7, 5184, 24, 7, 5185, 24, 33, 63, 21, 4, 1,
+    13, 0, 63, 24, 23, 7, 5689, 24, 7, 5690, 24, 33, 63, 21, 4, 1,
     48, 59, 0, 1, 7, 19, 1628, 63, 21, 43, 61, 1, 19, 1788, 58, 0,
     1, 23, 19, 1788, 4, 1, 21, 63, 24, 13, 0, 63, 24, 50, 59, 0,
     1, 7, 4, 0, 43, 61, 1, 19, 1786, 58, 0, 1, 17, 13, 0, 18,
     2307, 63, 6, 59, 0, 1, 7, 4, 0, 43, 61, 0, 19, 2112, 63, 21,
-    4, 0, 43, 57, 26, 7, 5195, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
+    4, 0, 43, 57, 26, 7, 5702, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
     2570, 63, 24, 51, 41, 61, 0, 11, 20, 1472, 18, 1705, 1, 43, 61, 1,
     13, 0, 53, 744, 55, 16, 13, 0, 20, 744, 18, 2383, 18, 1838, 61, 13,
     0, 53, 255, 55, 31, 13, 0, 20, 255, 18, 2395, 18, 1838, 61, 13, 0,
     53, 939, 55, 49, 13, 0, 20, 939, 18, 2390, 4, 1, 21, 18, 1838, 61,
-    13, 0, 53, 1474, 55, 65, 13, 0, 20, 1474, 18, 1658, 60, 3313, 1, 61,
+    13, 0, 53, 1474, 55, 65, 13, 0, 20, 1474, 18, 1658, 60, 3395, 1, 61,
     13, 0, 53, 241, 55, 83, 13, 0, 20, 241, 18, 2657, 4, 1, 21, 18,
     1838, 61, 13, 0, 53, 142, 55, 101, 13, 0, 20, 142, 18, 1758, 4, 1,
     21, 18, 1838, 61, 13, 0, 53, 869, 55, 110, 4, 2, 61, 13, 0, 53,
@@ -7923,138 +8514,138 @@ constexpr std::uint16_t code[] = {
     0, 53, 341, 55, 137, 4, 2, 61, 13, 0, 53, 48, 55, 146, 4, 3,
     61, 13, 0, 53, 896, 55, 155, 4, 3, 61, 13, 0, 53, 683, 55, 170,
     13, 0, 20, 683, 18, 2390, 18, 1838, 61, 0, 61, 0, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 110, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 110, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    63, 6, 39, 57, 15, 19, 2402, 10, 110, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 110, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
     0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4,
-    1, 21, 18, 2570, 53, 108, 41, 61, 0, 19, 2402, 10, 110, 3107, 44, 57,
-    26, 19, 2402, 10, 110, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
-    40, 41, 61, 0, 19, 1946, 53, 1366, 57, 15, 7, 5204, 19, 1946, 63, 24,
+    1, 21, 18, 2570, 53, 108, 41, 61, 0, 19, 2402, 10, 110, 3128, 44, 57,
+    26, 19, 2402, 10, 110, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
+    40, 41, 61, 0, 19, 1946, 53, 1366, 57, 15, 7, 5713, 19, 1946, 63, 24,
     51, 41, 57, 22, 19, 1946, 53, 121, 41, 61, 0, 19, 2402, 63, 6, 39,
-    57, 15, 19, 2402, 10, 182, 3107, 44, 41, 57, 34, 19, 2402, 10, 182, 3107,
+    57, 15, 19, 2402, 10, 182, 3128, 44, 41, 57, 34, 19, 2402, 10, 182, 3128,
     43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112,
     63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
-    2570, 53, 181, 41, 61, 0, 19, 2402, 10, 182, 3107, 44, 57, 26, 19, 2402,
-    10, 182, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
+    2570, 53, 181, 41, 61, 0, 19, 2402, 10, 182, 3128, 44, 57, 26, 19, 2402,
+    10, 182, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
     0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4,
     1, 21, 18, 2570, 53, 363, 41, 61, 1, 19, 1628, 58, 0, 1, 28, 13,
-    0, 63, 24, 23, 7, 5217, 24, 7, 5218, 24, 33, 63, 21, 4, 1, 48,
+    0, 63, 24, 23, 7, 5728, 24, 7, 5729, 24, 33, 63, 21, 4, 1, 48,
     59, 0, 1, 7, 19, 1628, 63, 21, 43, 61, 1, 19, 2519, 58, 0, 1,
     16, 19, 2555, 13, 0, 49, 59, 0, 1, 7, 4, 0, 43, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1400, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 1400, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1400, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 1400, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
     61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112,
-    4, 1, 21, 18, 2570, 53, 1399, 41, 61, 0, 19, 2402, 10, 1400, 3107, 44,
-    57, 26, 19, 2402, 10, 1400, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
-    6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 26, 7, 5228,
+    4, 1, 21, 18, 2570, 53, 1399, 41, 61, 0, 19, 2402, 10, 1400, 3128, 44,
+    57, 26, 19, 2402, 10, 1400, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
+    6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 26, 7, 5741,
     11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 63, 24, 51, 41, 61, 0,
-    19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1520, 3107, 44, 41, 57, 34,
-    19, 2402, 10, 1520, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40,
+    19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1520, 3128, 44, 41, 57, 34,
+    19, 2402, 10, 1520, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40,
     41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18,
-    2112, 4, 1, 21, 18, 2570, 53, 1519, 41, 61, 0, 19, 2402, 10, 1520, 3107,
-    44, 57, 26, 19, 2402, 10, 1520, 3107, 43, 56, 25, 11, 20, 501, 18, 1888,
+    2112, 4, 1, 21, 18, 2570, 53, 1519, 41, 61, 0, 19, 2402, 10, 1520, 3128,
+    44, 57, 26, 19, 2402, 10, 1520, 3128, 43, 56, 25, 11, 20, 501, 18, 1888,
     63, 6, 40, 41, 61, 0, 11, 20, 921, 18, 2189, 53, 185, 61, 0, 11,
-    20, 921, 18, 2189, 53, 933, 61, 0, 19, 1946, 53, 1366, 57, 15, 7, 5247,
+    20, 921, 18, 2189, 53, 933, 61, 0, 19, 1946, 53, 1366, 57, 15, 7, 5763,
     19, 1946, 63, 24, 51, 41, 57, 22, 19, 1946, 53, 121, 41, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 141, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 141, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 140, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 140, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 141, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 141, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 140, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 140, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 160,
-    3107, 44, 41, 57, 34, 19, 2402, 10, 160, 3107, 43, 56, 33, 11, 20, 858,
+    3128, 44, 41, 57, 34, 19, 2402, 10, 160, 3128, 43, 56, 33, 11, 20, 858,
     18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 164, 3107, 44, 41, 57, 34, 19, 2402, 10, 164, 3107, 43, 56, 33,
+    2402, 10, 164, 3128, 44, 41, 57, 34, 19, 2402, 10, 164, 3128, 43, 56, 33,
     11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39,
-    57, 15, 19, 2402, 10, 292, 3107, 44, 41, 57, 34, 19, 2402, 10, 292, 3107,
+    57, 15, 19, 2402, 10, 292, 3128, 44, 41, 57, 34, 19, 2402, 10, 292, 3128,
     43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112,
     63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
-    2570, 53, 291, 41, 61, 0, 19, 2402, 10, 292, 3107, 44, 57, 26, 19, 2402,
-    10, 292, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
+    2570, 53, 291, 41, 61, 0, 19, 2402, 10, 292, 3128, 44, 57, 26, 19, 2402,
+    10, 292, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61,
     0, 19, 2993, 63, 10, 4, 1, 43, 57, 15, 19, 2274, 63, 6, 41, 61,
-    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 313, 3107, 44, 41, 57,
-    34, 19, 2402, 10, 313, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
+    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 313, 3128, 44, 41, 57,
+    34, 19, 2402, 10, 313, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6,
     40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858,
     18, 2112, 4, 1, 21, 18, 2570, 53, 312, 41, 61, 0, 19, 2402, 10, 313,
-    3107, 44, 57, 26, 19, 2402, 10, 313, 3107, 43, 56, 25, 11, 20, 501, 18,
+    3128, 44, 57, 26, 19, 2402, 10, 313, 3128, 43, 56, 25, 11, 20, 501, 18,
     1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402,
-    10, 393, 3107, 44, 41, 57, 34, 19, 2402, 10, 393, 3107, 43, 56, 33, 11,
+    10, 393, 3128, 44, 41, 57, 34, 19, 2402, 10, 393, 3128, 43, 56, 33, 11,
     20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0,
     43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 392, 41,
-    61, 0, 19, 2402, 10, 393, 3107, 44, 57, 26, 19, 2402, 10, 393, 3107, 43,
+    61, 0, 19, 2402, 10, 393, 3128, 44, 57, 26, 19, 2402, 10, 393, 3128, 43,
     56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63,
-    6, 39, 57, 15, 19, 2402, 10, 407, 3107, 44, 41, 57, 34, 19, 2402, 10,
-    407, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
-    19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 425, 3107, 44, 41, 57, 34,
-    19, 2402, 10, 425, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40,
+    6, 39, 57, 15, 19, 2402, 10, 407, 3128, 44, 41, 57, 34, 19, 2402, 10,
+    407, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
+    19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 425, 3128, 44, 41, 57, 34,
+    19, 2402, 10, 425, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40,
     41, 61, 0, 11, 20, 1005, 18, 1816, 4, 1, 21, 63, 6, 56, 24, 11,
     20, 1005, 18, 1816, 4, 1, 21, 53, 424, 40, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 449, 3107, 44, 41, 57, 34, 19, 2402, 10, 449,
-    3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 452, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 452, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 478, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 478, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    39, 57, 15, 19, 2402, 10, 449, 3128, 44, 41, 57, 34, 19, 2402, 10, 449,
+    3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 452, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 452, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 478, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 478, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20,
     858, 18, 2112, 4, 1, 21, 18, 2570, 53, 477, 41, 61, 0, 19, 2402, 10,
-    478, 3107, 44, 57, 26, 19, 2402, 10, 478, 3107, 43, 56, 25, 11, 20, 501,
+    478, 3128, 44, 57, 26, 19, 2402, 10, 478, 3128, 43, 56, 25, 11, 20, 501,
     18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 552, 3107, 44, 41, 57, 34, 19, 2402, 10, 552, 3107, 43, 56, 33,
+    2402, 10, 552, 3128, 44, 41, 57, 34, 19, 2402, 10, 552, 3128, 43, 56, 33,
     11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 1749, 63, 21, 4,
-    0, 43, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 617, 3107,
-    44, 41, 57, 34, 19, 2402, 10, 617, 3107, 43, 56, 33, 11, 20, 501, 18,
+    0, 43, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 617, 3128,
+    44, 41, 57, 34, 19, 2402, 10, 617, 3128, 43, 56, 33, 11, 20, 501, 18,
     1888, 63, 6, 40, 41, 61, 0, 19, 1601, 63, 6, 39, 57, 17, 19, 1601,
-    18, 2901, 10, 1500, 4066, 43, 41, 61, 0, 19, 2034, 63, 6, 39, 57, 17,
-    19, 2034, 18, 2901, 10, 1500, 3749, 43, 41, 61, 0, 19, 2402, 63, 6, 39,
-    57, 15, 19, 2402, 10, 645, 3107, 44, 41, 57, 34, 19, 2402, 10, 645, 3107,
+    18, 2901, 10, 1500, 4356, 43, 41, 61, 0, 19, 2034, 63, 6, 39, 57, 17,
+    19, 2034, 18, 2901, 10, 1500, 3936, 43, 41, 61, 0, 19, 2402, 63, 6, 39,
+    57, 15, 19, 2402, 10, 645, 3128, 44, 41, 57, 34, 19, 2402, 10, 645, 3128,
     43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 677, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 677, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    63, 6, 39, 57, 15, 19, 2402, 10, 677, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 677, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
     0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4,
-    1, 21, 18, 2570, 53, 676, 41, 61, 0, 19, 2402, 10, 677, 3107, 44, 57,
-    26, 19, 2402, 10, 677, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
-    40, 41, 61, 0, 19, 2657, 63, 6, 39, 57, 14, 19, 2657, 60, 4610, 1,
-    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 711, 3107, 44,
-    41, 57, 34, 19, 2402, 10, 711, 3107, 43, 56, 33, 11, 20, 858, 18, 2300,
+    1, 21, 18, 2570, 53, 676, 41, 61, 0, 19, 2402, 10, 677, 3128, 44, 57,
+    26, 19, 2402, 10, 677, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
+    40, 41, 61, 0, 19, 2657, 63, 6, 39, 57, 14, 19, 2657, 60, 5006, 1,
+    41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 711, 3128, 44,
+    41, 57, 34, 19, 2402, 10, 711, 3128, 43, 56, 33, 11, 20, 858, 18, 2300,
     63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11,
     20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 710, 41, 61, 0, 19, 2402,
-    10, 711, 3107, 44, 57, 26, 19, 2402, 10, 711, 3107, 43, 56, 25, 11, 20,
+    10, 711, 3128, 44, 57, 26, 19, 2402, 10, 711, 3128, 43, 56, 25, 11, 20,
     501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15,
-    19, 2402, 10, 762, 3107, 44, 41, 57, 34, 19, 2402, 10, 762, 3107, 43, 56,
+    19, 2402, 10, 762, 3128, 44, 41, 57, 34, 19, 2402, 10, 762, 3128, 43, 56,
     33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21,
     4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53,
-    761, 41, 61, 0, 19, 2402, 10, 762, 3107, 44, 57, 26, 19, 2402, 10, 762,
-    3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 11,
+    761, 41, 61, 0, 19, 2402, 10, 762, 3128, 44, 57, 26, 19, 2402, 10, 762,
+    3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 11,
     20, 300, 18, 2769, 53, 984, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 781, 3107, 44, 41, 57, 34, 19, 2402, 10, 781, 3107, 43, 56, 33,
+    2402, 10, 781, 3128, 44, 41, 57, 34, 19, 2402, 10, 781, 3128, 43, 56, 33,
     11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39,
-    57, 15, 19, 2402, 10, 783, 3107, 44, 41, 57, 34, 19, 2402, 10, 783, 3107,
+    57, 15, 19, 2402, 10, 783, 3128, 44, 41, 57, 34, 19, 2402, 10, 783, 3128,
     43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402,
-    63, 6, 39, 57, 15, 19, 2402, 10, 829, 3107, 44, 41, 57, 34, 19, 2402,
-    10, 829, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
+    63, 6, 39, 57, 15, 19, 2402, 10, 829, 3128, 44, 41, 57, 34, 19, 2402,
+    10, 829, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61,
     0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4,
-    1, 21, 18, 2570, 53, 828, 41, 61, 0, 19, 2402, 10, 829, 3107, 44, 57,
-    26, 19, 2402, 10, 829, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
-    40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 845, 3107,
-    44, 41, 57, 34, 19, 2402, 10, 845, 3107, 43, 56, 33, 11, 20, 858, 18,
+    1, 21, 18, 2570, 53, 828, 41, 61, 0, 19, 2402, 10, 829, 3128, 44, 57,
+    26, 19, 2402, 10, 829, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6,
+    40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 845, 3128,
+    44, 41, 57, 34, 19, 2402, 10, 845, 3128, 43, 56, 33, 11, 20, 858, 18,
     2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23,
     11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 844, 41, 61, 0, 19,
-    2402, 10, 845, 3107, 44, 57, 26, 19, 2402, 10, 845, 3107, 43, 56, 25, 11,
+    2402, 10, 845, 3128, 44, 57, 26, 19, 2402, 10, 845, 3128, 43, 56, 25, 11,
     20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57,
-    15, 19, 2402, 10, 853, 3107, 44, 41, 57, 34, 19, 2402, 10, 853, 3107, 43,
+    15, 19, 2402, 10, 853, 3128, 44, 41, 57, 34, 19, 2402, 10, 853, 3128, 43,
     56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63,
     21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570,
-    53, 852, 41, 61, 0, 19, 2402, 10, 853, 3107, 44, 57, 26, 19, 2402, 10,
-    853, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0,
-    11, 20, 980, 18, 2424, 10, 982, 3162, 43, 61, 0, 19, 2698, 63, 21, 19,
+    53, 852, 41, 61, 0, 19, 2402, 10, 853, 3128, 44, 57, 26, 19, 2402, 10,
+    853, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0,
+    11, 20, 980, 18, 2424, 10, 982, 3196, 43, 61, 0, 19, 2698, 63, 21, 19,
     2997, 63, 21, 43, 61, 0, 19, 2766, 63, 6, 39, 57, 21, 19, 2766, 63,
     21, 19, 2698, 63, 21, 4, 1, 31, 43, 41, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 875, 3107, 44, 41, 57, 34, 19, 2402, 10, 875,
-    3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 895, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 895, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    39, 57, 15, 19, 2402, 10, 875, 3128, 44, 41, 57, 34, 19, 2402, 10, 875,
+    3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 895, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 895, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
     61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112,
-    4, 1, 21, 18, 2570, 53, 894, 41, 61, 0, 19, 2402, 10, 895, 3107, 44,
-    57, 26, 19, 2402, 10, 895, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
-    6, 40, 41, 61, 0, 11, 60, 5421, 1, 61, 0, 19, 2393, 63, 24, 23,
+    4, 1, 21, 18, 2570, 53, 894, 41, 61, 0, 19, 2402, 10, 895, 3128, 44,
+    57, 26, 19, 2402, 10, 895, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
+    6, 40, 41, 61, 0, 11, 60, 5959, 1, 61, 0, 19, 2393, 63, 24, 23,
     9, 939, 24, 9, 241, 24, 9, 683, 24, 33, 63, 21, 4, 1, 43, 61,
     0, 19, 2395, 18, 1838, 4, 2, 43, 56, 16, 19, 1713, 63, 6, 39, 40,
     57, 26, 19, 2395, 18, 1838, 4, 3, 43, 41, 61, 0, 19, 1711, 63, 6,
@@ -8062,88 +8653,88 @@ constexpr std::uint16_t code[] = {
     1713, 63, 6, 40, 41, 57, 40, 19, 1712, 63, 6, 56, 39, 19, 1713, 63,
     6, 40, 41, 57, 61, 19, 1711, 63, 6, 56, 53, 19, 1712, 63, 6, 40,
     56, 60, 19, 1713, 63, 6, 40, 41, 61, 1, 19, 1628, 58, 0, 1, 28,
-    13, 0, 63, 24, 23, 7, 5428, 24, 7, 5429, 24, 33, 63, 21, 4, 1,
+    13, 0, 63, 24, 23, 7, 5969, 24, 7, 5970, 24, 33, 63, 21, 4, 1,
     48, 59, 0, 1, 7, 19, 1628, 63, 21, 43, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 988, 3107, 44, 41, 57, 34, 19, 2402, 10, 988,
-    3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
+    39, 57, 15, 19, 2402, 10, 988, 3128, 44, 41, 57, 34, 19, 2402, 10, 988,
+    3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
     1775, 4, 0, 48, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10,
-    1040, 3107, 44, 41, 57, 34, 19, 2402, 10, 1040, 3107, 43, 56, 33, 11, 20,
+    1040, 3128, 44, 41, 57, 34, 19, 2402, 10, 1040, 3128, 43, 56, 33, 11, 20,
     858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43,
     57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1039, 41, 61,
-    0, 19, 2402, 10, 1040, 3107, 44, 57, 26, 19, 2402, 10, 1040, 3107, 43, 56,
+    0, 19, 2402, 10, 1040, 3128, 44, 57, 26, 19, 2402, 10, 1040, 3128, 43, 56,
     25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 1044, 3107, 44, 41, 57, 34, 19, 2402, 10, 1044,
-    3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1043, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 1043, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1070, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 1070, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    39, 57, 15, 19, 2402, 10, 1044, 3128, 44, 41, 57, 34, 19, 2402, 10, 1044,
+    3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1043, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 1043, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1070, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 1070, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 1, 11, 20, 1095, 18, 2512, 58, 0, 1, 37, 13, 0,
     63, 24, 23, 9, 492, 24, 9, 501, 24, 9, 1320, 24, 9, 942, 24, 33,
     63, 21, 4, 0, 43, 59, 0, 1, 10, 4, 0, 43, 61, 0, 19, 1635,
     18, 2189, 53, 185, 56, 24, 19, 1635, 18, 2189, 20, 185, 18, 1763, 4, 3,
     21, 6, 0, 43, 40, 61, 0, 19, 1944, 53, 726, 56, 12, 19, 2649, 53,
     726, 40, 57, 26, 19, 1944, 53, 926, 56, 25, 19, 2649, 53, 926, 40, 41,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1168, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 1168, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1168, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 1168, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1167,
-    3107, 44, 41, 57, 34, 19, 2402, 10, 1167, 3107, 43, 56, 33, 11, 20, 858,
+    3128, 44, 41, 57, 34, 19, 2402, 10, 1167, 3128, 43, 56, 33, 11, 20, 858,
     18, 2300, 63, 6, 40, 41, 61, 1, 19, 1786, 58, 0, 1, 19, 13, 0,
     18, 2189, 18, 2307, 63, 6, 59, 0, 1, 7, 4, 0, 43, 61, 1, 19,
-    1788, 58, 0, 1, 19, 13, 0, 18, 2424, 10, 982, 3162, 43, 59, 0, 1,
+    1788, 58, 0, 1, 19, 13, 0, 18, 2424, 10, 982, 3196, 43, 59, 0, 1,
     7, 4, 0, 44, 61, 1, 19, 1786, 58, 0, 1, 41, 13, 0, 18, 2189,
     18, 2306, 63, 6, 57, 26, 13, 0, 18, 2189, 18, 2310, 63, 6, 41, 57,
     37, 13, 0, 18, 2189, 18, 2307, 63, 6, 41, 59, 0, 1, 7, 4, 0,
-    43, 61, 0, 11, 60, 5474, 1, 61, 0, 19, 2402, 63, 6, 39, 57, 15,
-    19, 2402, 10, 1223, 3107, 44, 41, 57, 34, 19, 2402, 10, 1223, 3107, 43, 56,
+    43, 61, 0, 11, 60, 6022, 1, 61, 0, 19, 2402, 63, 6, 39, 57, 15,
+    19, 2402, 10, 1223, 3128, 44, 41, 57, 34, 19, 2402, 10, 1223, 3128, 43, 56,
     33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21,
     4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53,
-    1222, 41, 61, 0, 19, 2402, 10, 1223, 3107, 44, 57, 26, 19, 2402, 10, 1223,
-    3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1221, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 1221, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    1222, 41, 61, 0, 19, 2402, 10, 1223, 3128, 44, 57, 26, 19, 2402, 10, 1223,
+    3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1221, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 1221, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
     61, 0, 19, 2112, 63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112,
-    4, 1, 21, 18, 2570, 53, 1220, 41, 61, 0, 19, 2402, 10, 1221, 3107, 44,
-    57, 26, 19, 2402, 10, 1221, 3107, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
-    6, 40, 41, 61, 0, 19, 2402, 10, 59, 3107, 44, 57, 26, 19, 2402, 10,
-    59, 3107, 43, 56, 25, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
-    19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1351, 3107, 44, 41, 57, 34,
-    19, 2402, 10, 1351, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40,
+    4, 1, 21, 18, 2570, 53, 1220, 41, 61, 0, 19, 2402, 10, 1221, 3128, 44,
+    57, 26, 19, 2402, 10, 1221, 3128, 43, 56, 25, 11, 20, 501, 18, 1888, 63,
+    6, 40, 41, 61, 0, 19, 2402, 10, 59, 3128, 44, 57, 26, 19, 2402, 10,
+    59, 3128, 43, 56, 25, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
+    19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1351, 3128, 44, 41, 57, 34,
+    19, 2402, 10, 1351, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40,
     41, 61, 0, 11, 20, 1367, 18, 1844, 53, 939, 57, 33, 11, 20, 1367, 18,
     1844, 53, 683, 56, 32, 11, 20, 1367, 18, 1844, 20, 683, 18, 2657, 63, 6,
     39, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1378,
-    3107, 44, 41, 57, 34, 19, 2402, 10, 1378, 3107, 43, 56, 33, 11, 20, 501,
+    3128, 44, 41, 57, 34, 19, 2402, 10, 1378, 3128, 43, 56, 33, 11, 20, 501,
     18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19,
-    2402, 10, 1455, 3107, 44, 41, 57, 34, 19, 2402, 10, 1455, 3107, 43, 56, 33,
+    2402, 10, 1455, 3128, 44, 41, 57, 34, 19, 2402, 10, 1455, 3128, 43, 56, 33,
     11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4,
     0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1454,
-    41, 61, 0, 19, 2402, 10, 1455, 3107, 44, 57, 26, 19, 2402, 10, 1455, 3107,
+    41, 61, 0, 19, 2402, 10, 1455, 3128, 44, 57, 26, 19, 2402, 10, 1455, 3128,
     43, 56, 25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2112,
     63, 21, 4, 0, 43, 57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
     2570, 53, 1457, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10,
-    1513, 3107, 44, 41, 57, 34, 19, 2402, 10, 1513, 3107, 43, 56, 33, 11, 20,
+    1513, 3128, 44, 41, 57, 34, 19, 2402, 10, 1513, 3128, 43, 56, 33, 11, 20,
     858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43,
     57, 23, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 53, 1512, 41, 61,
-    0, 19, 2402, 10, 1513, 3107, 44, 57, 26, 19, 2402, 10, 1513, 3107, 43, 56,
+    0, 19, 2402, 10, 1513, 3128, 44, 57, 26, 19, 2402, 10, 1513, 3128, 43, 56,
     25, 11, 20, 501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 63, 6,
-    39, 57, 15, 19, 2402, 10, 1526, 3107, 44, 41, 57, 34, 19, 2402, 10, 1526,
-    3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
-    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1529, 3107, 44, 41, 57, 34, 19,
-    2402, 10, 1529, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
-    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1560, 3107, 44, 41,
-    57, 34, 19, 2402, 10, 1560, 3107, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
+    39, 57, 15, 19, 2402, 10, 1526, 3128, 44, 41, 57, 34, 19, 2402, 10, 1526,
+    3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19,
+    2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1529, 3128, 44, 41, 57, 34, 19,
+    2402, 10, 1529, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63, 6, 40, 41,
+    61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1560, 3128, 44, 41,
+    57, 34, 19, 2402, 10, 1560, 3128, 43, 56, 33, 11, 20, 858, 18, 2300, 63,
     6, 40, 41, 61, 0, 11, 20, 1005, 18, 1816, 4, 1, 21, 63, 6, 56,
     24, 11, 20, 1005, 18, 1816, 4, 1, 21, 53, 1559, 40, 61, 1, 13, 0,
     53, 744, 55, 16, 13, 0, 20, 744, 18, 2383, 18, 1838, 61, 13, 0, 53,
     255, 55, 31, 13, 0, 20, 255, 18, 2395, 18, 1838, 61, 13, 0, 53, 939,
     55, 49, 13, 0, 20, 939, 18, 2390, 4, 1, 21, 18, 1838, 61, 13, 0,
-    53, 1474, 55, 65, 13, 0, 20, 1474, 18, 1658, 60, 3313, 1, 61, 13, 0,
+    53, 1474, 55, 65, 13, 0, 20, 1474, 18, 1658, 60, 3395, 1, 61, 13, 0,
     53, 650, 55, 74, 4, 3, 61, 13, 0, 53, 1198, 55, 83, 4, 3, 61,
     13, 0, 53, 241, 55, 101, 13, 0, 20, 241, 18, 2657, 4, 1, 21, 18,
     1838, 61, 13, 0, 53, 142, 55, 119, 13, 0, 20, 142, 18, 1758, 4, 1,
     21, 18, 1838, 61, 13, 0, 53, 869, 55, 128, 4, 2, 61, 13, 0, 53,
     870, 55, 137, 4, 3, 61, 13, 0, 53, 871, 55, 146, 4, 3, 61, 7,
-    5537, 13, 0, 63, 24, 51, 55, 158, 4, 2, 61, 13, 0, 53, 941, 55,
+    6091, 13, 0, 63, 24, 51, 55, 158, 4, 2, 61, 13, 0, 53, 941, 55,
     195, 13, 0, 20, 941, 18, 1713, 63, 6, 39, 56, 187, 13, 0, 20, 941,
     18, 2395, 18, 1838, 4, 2, 43, 40, 55, 192, 4, 2, 61, 4, 3, 61,
     13, 0, 53, 896, 55, 204, 4, 3, 61, 13, 0, 53, 683, 55, 219, 13,
@@ -8153,183 +8744,183 @@ constexpr std::uint16_t code[] = {
     1, 54, 92, 13, 0, 53, 1348, 55, 92, 13, 0, 20, 1348, 18, 1632, 63,
     21, 14, 2, 4, 1, 13, 2, 14, 3, 4, 1, 14, 4, 14, 5, 13,
     3, 13, 5, 32, 13, 4, 33, 4, 0, 48, 55, 92, 13, 1, 13, 0,
-    20, 1348, 18, 1632, 13, 5, 21, 60, 4625, 1, 31, 27, 14, 1, 13, 5,
+    20, 1348, 18, 1632, 13, 5, 21, 60, 5024, 1, 31, 27, 14, 1, 13, 5,
     13, 4, 31, 14, 5, 54, 52, 13, 0, 53, 242, 55, 283, 13, 0, 20,
     241, 18, 2657, 63, 21, 14, 2, 13, 0, 20, 241, 18, 2657, 4, 1, 21,
     53, 340, 55, 140, 13, 0, 20, 241, 18, 2657, 4, 1, 21, 20, 340, 18,
-    2348, 60, 4367, 1, 27, 14, 1, 13, 0, 20, 241, 18, 2657, 4, 1, 21,
+    2348, 60, 4709, 1, 27, 14, 1, 13, 0, 20, 241, 18, 2657, 4, 1, 21,
     53, 243, 55, 172, 13, 0, 20, 241, 18, 2657, 4, 1, 21, 20, 243, 18,
-    2348, 60, 4367, 1, 27, 14, 1, 13, 2, 4, 1, 47, 55, 283, 4, 2,
+    2348, 60, 4709, 1, 27, 14, 1, 13, 2, 4, 1, 47, 55, 283, 4, 2,
     13, 2, 14, 6, 4, 1, 14, 7, 14, 8, 13, 6, 13, 8, 32, 13,
     7, 33, 4, 0, 48, 55, 283, 13, 0, 20, 241, 18, 2657, 13, 8, 21,
     53, 340, 55, 239, 13, 1, 13, 0, 20, 241, 18, 2657, 13, 8, 21, 20,
-    340, 18, 2348, 60, 4367, 1, 33, 27, 14, 1, 13, 0, 20, 241, 18, 2657,
+    340, 18, 2348, 60, 4709, 1, 33, 27, 14, 1, 13, 0, 20, 241, 18, 2657,
     13, 8, 21, 53, 243, 55, 274, 13, 1, 13, 0, 20, 241, 18, 2657, 13,
-    8, 21, 20, 243, 18, 2348, 60, 4367, 1, 33, 27, 14, 1, 13, 8, 13,
+    8, 21, 20, 243, 18, 2348, 60, 4709, 1, 33, 27, 14, 1, 13, 8, 13,
     7, 31, 14, 8, 54, 191, 13, 1, 61, 0, 61, 1, 13, 0, 53, 185,
     55, 16, 13, 0, 20, 185, 18, 1763, 63, 10, 61, 13, 0, 53, 933, 55,
     31, 13, 0, 20, 933, 18, 1658, 18, 1838, 61, 13, 0, 53, 934, 55, 46,
     13, 0, 20, 934, 18, 1658, 18, 1838, 61, 13, 0, 53, 935, 55, 61, 13,
     0, 20, 935, 18, 1659, 18, 1838, 61, 0, 61, 0, 61, 3, 13, 0, 18,
-    2336, 4, 1, 21, 13, 1, 18, 2336, 4, 1, 21, 13, 2, 60, 4125, 3,
+    2336, 4, 1, 21, 13, 1, 18, 2336, 4, 1, 21, 13, 2, 60, 4415, 3,
     56, 42, 13, 0, 18, 2336, 4, 2, 21, 13, 1, 18, 2336, 4, 2, 21,
-    13, 2, 60, 4125, 3, 40, 56, 58, 13, 0, 18, 2189, 13, 1, 18, 2189,
-    13, 2, 60, 4126, 3, 40, 61, 0, 61, 1, 13, 0, 53, 340, 55, 16,
+    13, 2, 60, 4415, 3, 40, 56, 58, 13, 0, 18, 2189, 13, 1, 18, 2189,
+    13, 2, 60, 4416, 3, 40, 61, 0, 61, 1, 13, 0, 53, 340, 55, 16,
     13, 0, 20, 340, 18, 2348, 18, 1838, 61, 13, 0, 53, 243, 55, 31, 13,
     0, 20, 243, 18, 2348, 18, 1838, 61, 0, 61, 0, 61, 38, 4, 0, 14,
-    2, 13, 0, 14, 3, 13, 3, 7, 5157, 43, 55, 41, 13, 1, 58, 4,
+    2, 13, 0, 14, 3, 13, 3, 7, 5662, 43, 55, 41, 13, 1, 58, 4,
     1, 37, 13, 4, 53, 932, 57, 33, 13, 4, 53, 186, 41, 59, 4, 1,
-    22, 14, 2, 54, 1084, 13, 3, 7, 5158, 43, 55, 66, 13, 1, 58, 5,
+    22, 14, 2, 54, 1084, 13, 3, 7, 5663, 43, 55, 66, 13, 1, 58, 5,
     1, 62, 13, 5, 53, 188, 59, 5, 1, 54, 14, 2, 54, 1084, 13, 3,
-    7, 5159, 43, 55, 91, 13, 1, 58, 6, 1, 87, 13, 6, 53, 332, 59,
-    6, 1, 79, 14, 2, 54, 1084, 13, 3, 7, 4128, 43, 55, 128, 13, 1,
+    7, 5664, 43, 55, 91, 13, 1, 58, 6, 1, 87, 13, 6, 53, 332, 59,
+    6, 1, 79, 14, 2, 54, 1084, 13, 3, 7, 4418, 43, 55, 128, 13, 1,
     58, 7, 1, 124, 13, 7, 53, 332, 56, 120, 13, 7, 20, 332, 18, 1838,
-    4, 2, 43, 40, 59, 7, 1, 104, 14, 2, 54, 1084, 13, 3, 7, 5160,
+    4, 2, 43, 40, 59, 7, 1, 104, 14, 2, 54, 1084, 13, 3, 7, 5665,
     43, 55, 165, 13, 1, 58, 8, 1, 161, 13, 8, 53, 332, 56, 157, 13,
     8, 20, 332, 18, 1838, 4, 3, 43, 40, 59, 8, 1, 141, 14, 2, 54,
-    1084, 13, 3, 7, 5538, 43, 55, 190, 13, 1, 58, 9, 1, 186, 13, 9,
-    53, 1197, 59, 9, 1, 178, 14, 2, 54, 1084, 13, 3, 7, 5161, 43, 55,
+    1084, 13, 3, 7, 6092, 43, 55, 190, 13, 1, 58, 9, 1, 186, 13, 9,
+    53, 1197, 59, 9, 1, 178, 14, 2, 54, 1084, 13, 3, 7, 5666, 43, 55,
     215, 13, 1, 58, 10, 1, 211, 13, 10, 53, 1347, 59, 10, 1, 203, 14,
-    2, 54, 1084, 13, 3, 7, 5162, 43, 55, 252, 13, 1, 58, 11, 1, 248,
+    2, 54, 1084, 13, 3, 7, 5667, 43, 55, 252, 13, 1, 58, 11, 1, 248,
     13, 11, 53, 1347, 56, 244, 13, 11, 20, 1347, 18, 1838, 4, 2, 43, 40,
-    59, 11, 1, 228, 14, 2, 54, 1084, 13, 3, 7, 5163, 43, 55, 289, 13,
+    59, 11, 1, 228, 14, 2, 54, 1084, 13, 3, 7, 5668, 43, 55, 289, 13,
     1, 58, 12, 1, 285, 13, 12, 53, 1347, 56, 281, 13, 12, 20, 1347, 18,
     1838, 4, 3, 43, 40, 59, 12, 1, 265, 14, 2, 54, 1084, 13, 3, 7,
-    5539, 43, 55, 314, 13, 1, 58, 13, 1, 310, 13, 13, 53, 1192, 59, 13,
-    1, 302, 14, 2, 54, 1084, 13, 3, 7, 5164, 43, 55, 339, 13, 1, 58,
+    6093, 43, 55, 314, 13, 1, 58, 13, 1, 310, 13, 13, 53, 1192, 59, 13,
+    1, 302, 14, 2, 54, 1084, 13, 3, 7, 5669, 43, 55, 339, 13, 1, 58,
     14, 1, 335, 13, 14, 53, 65, 59, 14, 1, 327, 14, 2, 54, 1084, 13,
-    3, 7, 5165, 43, 55, 364, 13, 1, 58, 15, 1, 360, 13, 15, 53, 1411,
-    59, 15, 1, 352, 14, 2, 54, 1084, 13, 3, 7, 5166, 43, 55, 389, 13,
+    3, 7, 5670, 43, 55, 364, 13, 1, 58, 15, 1, 360, 13, 15, 53, 1411,
+    59, 15, 1, 352, 14, 2, 54, 1084, 13, 3, 7, 5671, 43, 55, 389, 13,
     1, 58, 16, 1, 385, 13, 16, 53, 145, 59, 16, 1, 377, 14, 2, 54,
-    1084, 13, 3, 7, 4129, 43, 55, 436, 13, 1, 58, 17, 1, 432, 13, 17,
+    1084, 13, 3, 7, 4419, 43, 55, 436, 13, 1, 58, 17, 1, 432, 13, 17,
     63, 24, 23, 9, 932, 24, 9, 332, 24, 9, 626, 24, 9, 65, 24, 9,
     1411, 24, 33, 63, 21, 4, 1, 43, 59, 17, 1, 402, 14, 2, 54, 1084,
-    13, 3, 7, 4130, 43, 55, 482, 13, 1, 58, 18, 1, 478, 13, 18, 53,
+    13, 3, 7, 4420, 43, 55, 482, 13, 1, 58, 18, 1, 478, 13, 18, 53,
     631, 57, 460, 13, 18, 53, 932, 41, 57, 467, 13, 18, 53, 332, 41, 57,
     474, 13, 18, 53, 1347, 41, 59, 18, 1, 449, 14, 2, 54, 1084, 13, 3,
-    7, 4131, 43, 55, 606, 13, 1, 58, 19, 1, 524, 13, 19, 53, 626, 57,
+    7, 4421, 43, 55, 606, 13, 1, 58, 19, 1, 524, 13, 19, 53, 626, 57,
     506, 13, 19, 53, 631, 41, 57, 513, 13, 19, 53, 932, 41, 57, 520, 13,
     19, 53, 332, 41, 59, 19, 1, 495, 14, 2, 4, 1, 13, 1, 63, 10,
     14, 20, 4, 1, 14, 21, 14, 22, 13, 20, 13, 22, 32, 13, 21, 33,
     4, 0, 48, 55, 604, 13, 1, 13, 22, 21, 53, 631, 55, 595, 13, 1,
     13, 22, 21, 20, 631, 18, 1887, 58, 23, 1, 583, 13, 23, 53, 1347, 59,
     23, 1, 575, 4, 0, 47, 55, 595, 13, 2, 4, 1, 32, 14, 2, 13,
-    22, 13, 21, 31, 14, 22, 54, 540, 54, 1084, 13, 3, 7, 5167, 43, 55,
+    22, 13, 21, 31, 14, 22, 54, 540, 54, 1084, 13, 3, 7, 5672, 43, 55,
     631, 13, 1, 58, 24, 1, 627, 13, 24, 53, 1405, 59, 24, 1, 619, 14,
-    2, 54, 1084, 13, 3, 7, 5168, 43, 55, 675, 13, 1, 58, 25, 1, 671,
+    2, 54, 1084, 13, 3, 7, 5673, 43, 55, 675, 13, 1, 58, 25, 1, 671,
     23, 9, 1405, 24, 9, 1217, 24, 9, 543, 24, 9, 1245, 24, 13, 25, 63,
     24, 33, 63, 21, 4, 1, 48, 59, 25, 1, 644, 14, 2, 54, 1084, 13,
-    3, 7, 4132, 43, 55, 716, 13, 1, 58, 26, 1, 712, 23, 9, 1405, 24,
+    3, 7, 4422, 43, 55, 716, 13, 1, 58, 26, 1, 712, 23, 9, 1405, 24,
     9, 1217, 24, 9, 543, 24, 13, 26, 63, 24, 33, 63, 21, 4, 1, 48,
-    59, 26, 1, 688, 14, 2, 54, 1084, 13, 3, 7, 4133, 43, 55, 741, 13,
+    59, 26, 1, 688, 14, 2, 54, 1084, 13, 3, 7, 4423, 43, 55, 741, 13,
     1, 58, 27, 1, 737, 13, 27, 53, 1245, 59, 27, 1, 729, 14, 2, 54,
-    1084, 13, 3, 7, 4134, 43, 55, 799, 13, 1, 58, 28, 1, 795, 23, 9,
+    1084, 13, 3, 7, 4424, 43, 55, 799, 13, 1, 58, 28, 1, 795, 23, 9,
     540, 24, 9, 1158, 24, 13, 28, 63, 24, 33, 63, 21, 4, 1, 48, 56,
     791, 23, 9, 541, 24, 9, 1159, 24, 13, 28, 63, 24, 33, 63, 21, 4,
-    0, 43, 40, 59, 28, 1, 754, 14, 2, 54, 1084, 13, 3, 7, 4137, 43,
+    0, 43, 40, 59, 28, 1, 754, 14, 2, 54, 1084, 13, 3, 7, 4427, 43,
     55, 840, 13, 1, 58, 29, 1, 836, 23, 9, 1366, 24, 9, 1367, 24, 9,
     1190, 24, 13, 29, 63, 24, 33, 63, 21, 4, 1, 48, 59, 29, 1, 812,
-    14, 2, 54, 1084, 13, 3, 7, 4135, 43, 55, 881, 13, 1, 58, 30, 1,
+    14, 2, 54, 1084, 13, 3, 7, 4425, 43, 55, 881, 13, 1, 58, 30, 1,
     877, 23, 9, 124, 24, 9, 322, 24, 9, 324, 24, 13, 30, 63, 24, 33,
     63, 21, 4, 1, 48, 59, 30, 1, 853, 14, 2, 54, 1084, 13, 3, 7,
-    4136, 43, 55, 919, 13, 1, 58, 31, 1, 915, 23, 9, 324, 24, 9, 121,
+    4426, 43, 55, 919, 13, 1, 58, 31, 1, 915, 23, 9, 324, 24, 9, 121,
     24, 13, 31, 63, 24, 33, 63, 21, 4, 1, 48, 59, 31, 1, 894, 14,
-    2, 54, 1084, 13, 3, 7, 4138, 43, 55, 944, 13, 1, 58, 32, 1, 940,
-    13, 32, 53, 547, 59, 32, 1, 932, 14, 2, 54, 1084, 13, 3, 7, 5169,
+    2, 54, 1084, 13, 3, 7, 4428, 43, 55, 944, 13, 1, 58, 32, 1, 940,
+    13, 32, 53, 547, 59, 32, 1, 932, 14, 2, 54, 1084, 13, 3, 7, 5674,
     43, 55, 969, 13, 1, 58, 33, 1, 965, 13, 33, 53, 776, 59, 33, 1,
-    957, 14, 2, 54, 1084, 13, 3, 7, 4139, 43, 55, 1007, 13, 1, 58, 34,
+    957, 14, 2, 54, 1084, 13, 3, 7, 4429, 43, 55, 1007, 13, 1, 58, 34,
     1, 990, 13, 34, 53, 135, 59, 34, 1, 982, 14, 2, 13, 1, 63, 21,
-    4, 1, 47, 55, 1005, 4, 0, 14, 2, 54, 1084, 13, 3, 7, 4140, 43,
+    4, 1, 47, 55, 1005, 4, 0, 14, 2, 54, 1084, 13, 3, 7, 4430, 43,
     55, 1032, 13, 1, 58, 35, 1, 1028, 13, 35, 53, 1191, 59, 35, 1, 1020,
-    14, 2, 54, 1084, 13, 3, 7, 5170, 43, 55, 1057, 13, 1, 58, 36, 1,
+    14, 2, 54, 1084, 13, 3, 7, 5675, 43, 55, 1057, 13, 1, 58, 36, 1,
     1053, 13, 36, 53, 738, 59, 36, 1, 1045, 14, 2, 54, 1084, 13, 3, 7,
-    4141, 43, 55, 1082, 13, 1, 58, 37, 1, 1078, 13, 37, 53, 779, 59, 37,
+    4431, 43, 55, 1082, 13, 1, 58, 37, 1, 1078, 13, 37, 53, 779, 59, 37,
     1, 1070, 14, 2, 54, 1084, 0, 61, 13, 2, 13, 1, 63, 21, 43, 61,
-    0, 61, 0, 19, 1946, 53, 1366, 57, 15, 7, 5546, 19, 1946, 63, 24, 51,
+    0, 61, 0, 19, 1946, 53, 1366, 57, 15, 7, 6100, 19, 1946, 63, 24, 51,
     41, 57, 22, 19, 1946, 53, 121, 41, 61, 1, 19, 1628, 58, 0, 1, 28,
-    13, 0, 63, 24, 23, 7, 5571, 24, 7, 5572, 24, 33, 63, 21, 4, 1,
+    13, 0, 63, 24, 23, 7, 6125, 24, 7, 6126, 24, 33, 63, 21, 4, 1,
     48, 59, 0, 1, 7, 19, 1628, 63, 21, 43, 61, 0, 19, 2112, 63, 21,
-    4, 0, 43, 57, 26, 7, 5582, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
+    4, 0, 43, 57, 26, 7, 6136, 11, 20, 858, 18, 2112, 4, 1, 21, 18,
     2570, 63, 24, 51, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 24, 19, 2402,
-    10, 1466, 3107, 44, 56, 23, 19, 2402, 10, 1467, 3107, 44, 40, 41, 57, 52,
-    19, 2402, 10, 1466, 3107, 43, 57, 41, 19, 2402, 10, 1467, 3107, 43, 41, 56,
+    10, 1466, 3128, 44, 56, 23, 19, 2402, 10, 1467, 3128, 44, 40, 41, 57, 52,
+    19, 2402, 10, 1466, 3128, 43, 57, 41, 19, 2402, 10, 1467, 3128, 43, 41, 56,
     51, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 1466,
-    3107, 44, 56, 16, 19, 2402, 10, 1467, 3107, 44, 40, 57, 44, 19, 2402, 10,
-    1466, 3107, 43, 57, 33, 19, 2402, 10, 1467, 3107, 43, 41, 56, 43, 11, 20,
+    3128, 44, 56, 16, 19, 2402, 10, 1467, 3128, 44, 40, 57, 44, 19, 2402, 10,
+    1466, 3128, 43, 57, 33, 19, 2402, 10, 1467, 3128, 43, 41, 56, 43, 11, 20,
     501, 18, 1888, 63, 6, 40, 41, 61, 0, 19, 1946, 53, 1366, 57, 15, 7,
-    5585, 19, 1946, 63, 24, 51, 41, 57, 22, 19, 1946, 53, 121, 41, 61, 0,
-    19, 2402, 10, 140, 3107, 44, 57, 16, 19, 2402, 10, 1043, 3107, 44, 41, 57,
-    25, 19, 2402, 10, 1167, 3107, 44, 41, 57, 34, 19, 2402, 10, 783, 3107, 44,
-    41, 57, 43, 19, 2402, 10, 552, 3107, 44, 41, 57, 98, 19, 2402, 10, 140,
-    3107, 43, 57, 60, 19, 2402, 10, 1043, 3107, 43, 41, 57, 69, 19, 2402, 10,
-    1167, 3107, 43, 41, 57, 78, 19, 2402, 10, 783, 3107, 43, 41, 57, 87, 19,
-    2402, 10, 552, 3107, 43, 41, 56, 97, 11, 20, 858, 18, 2300, 63, 6, 40,
-    41, 61, 0, 11, 60, 5590, 1, 61, 0, 19, 2402, 63, 6, 39, 57, 33,
-    19, 2402, 10, 677, 3107, 44, 57, 23, 19, 2402, 10, 1520, 3107, 44, 41, 57,
-    32, 19, 2402, 10, 1523, 3107, 44, 41, 41, 57, 70, 19, 2402, 10, 677, 3107,
-    43, 57, 50, 19, 2402, 10, 1520, 3107, 43, 41, 57, 59, 19, 2402, 10, 1523,
-    3107, 43, 41, 56, 69, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
-    19, 2402, 10, 677, 3107, 44, 57, 16, 19, 2402, 10, 1520, 3107, 44, 41, 57,
-    25, 19, 2402, 10, 1523, 3107, 44, 41, 57, 62, 19, 2402, 10, 677, 3107, 43,
-    57, 42, 19, 2402, 10, 1520, 3107, 43, 41, 57, 51, 19, 2402, 10, 1523, 3107,
+    6139, 19, 1946, 63, 24, 51, 41, 57, 22, 19, 1946, 53, 121, 41, 61, 0,
+    19, 2402, 10, 140, 3128, 44, 57, 16, 19, 2402, 10, 1043, 3128, 44, 41, 57,
+    25, 19, 2402, 10, 1167, 3128, 44, 41, 57, 34, 19, 2402, 10, 783, 3128, 44,
+    41, 57, 43, 19, 2402, 10, 552, 3128, 44, 41, 57, 98, 19, 2402, 10, 140,
+    3128, 43, 57, 60, 19, 2402, 10, 1043, 3128, 43, 41, 57, 69, 19, 2402, 10,
+    1167, 3128, 43, 41, 57, 78, 19, 2402, 10, 783, 3128, 43, 41, 57, 87, 19,
+    2402, 10, 552, 3128, 43, 41, 56, 97, 11, 20, 858, 18, 2300, 63, 6, 40,
+    41, 61, 0, 11, 60, 6144, 1, 61, 0, 19, 2402, 63, 6, 39, 57, 33,
+    19, 2402, 10, 677, 3128, 44, 57, 23, 19, 2402, 10, 1520, 3128, 44, 41, 57,
+    32, 19, 2402, 10, 1523, 3128, 44, 41, 41, 57, 70, 19, 2402, 10, 677, 3128,
+    43, 57, 50, 19, 2402, 10, 1520, 3128, 43, 41, 57, 59, 19, 2402, 10, 1523,
+    3128, 43, 41, 56, 69, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 0,
+    19, 2402, 10, 677, 3128, 44, 57, 16, 19, 2402, 10, 1520, 3128, 44, 41, 57,
+    25, 19, 2402, 10, 1523, 3128, 44, 41, 57, 62, 19, 2402, 10, 677, 3128, 43,
+    57, 42, 19, 2402, 10, 1520, 3128, 43, 41, 57, 51, 19, 2402, 10, 1523, 3128,
     43, 41, 56, 61, 11, 20, 858, 18, 2300, 63, 6, 40, 41, 61, 1, 19,
-    1628, 58, 0, 1, 28, 13, 0, 63, 24, 23, 7, 5596, 24, 7, 5597, 24,
+    1628, 58, 0, 1, 28, 13, 0, 63, 24, 23, 7, 6150, 24, 7, 6151, 24,
     33, 63, 21, 4, 1, 48, 59, 0, 1, 7, 19, 1628, 63, 21, 43, 61,
-    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1044, 3107, 44, 41, 57,
+    0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 1044, 3128, 44, 41, 57,
     25, 11, 20, 858, 18, 2300, 63, 6, 41, 61, 0, 19, 2402, 63, 6, 39,
-    57, 15, 19, 2402, 10, 1168, 3107, 44, 41, 57, 25, 11, 20, 858, 18, 2300,
+    57, 15, 19, 2402, 10, 1168, 3128, 44, 41, 57, 25, 11, 20, 858, 18, 2300,
     63, 6, 41, 61, 0, 19, 2402, 63, 6, 39, 57, 15, 19, 2402, 10, 59,
-    3107, 44, 41, 57, 34, 19, 2402, 10, 59, 3107, 43, 56, 33, 11, 20, 858,
+    3128, 44, 41, 57, 34, 19, 2402, 10, 59, 3128, 43, 56, 33, 11, 20, 858,
     18, 2300, 63, 6, 40, 41, 61, 0, 19, 2112, 63, 21, 4, 0, 43, 57,
-    26, 7, 5602, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 63, 24, 51,
-    41, 61, 0, 19, 2402, 63, 6, 39, 57, 24, 19, 2402, 10, 1466, 3107, 44,
-    56, 23, 19, 2402, 10, 1467, 3107, 44, 40, 41, 57, 52, 19, 2402, 10, 1466,
-    3107, 43, 57, 41, 19, 2402, 10, 1467, 3107, 43, 41, 56, 51, 11, 20, 501,
-    18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 1466, 3107, 44, 56, 16,
-    19, 2402, 10, 1467, 3107, 44, 40, 57, 44, 19, 2402, 10, 1466, 3107, 43, 57,
-    43, 19, 2402, 10, 1467, 3107, 43, 56, 42, 11, 20, 501, 18, 1888, 63, 6,
+    26, 7, 6156, 11, 20, 858, 18, 2112, 4, 1, 21, 18, 2570, 63, 24, 51,
+    41, 61, 0, 19, 2402, 63, 6, 39, 57, 24, 19, 2402, 10, 1466, 3128, 44,
+    56, 23, 19, 2402, 10, 1467, 3128, 44, 40, 41, 57, 52, 19, 2402, 10, 1466,
+    3128, 43, 57, 41, 19, 2402, 10, 1467, 3128, 43, 41, 56, 51, 11, 20, 501,
+    18, 1888, 63, 6, 40, 41, 61, 0, 19, 2402, 10, 1466, 3128, 44, 56, 16,
+    19, 2402, 10, 1467, 3128, 44, 40, 57, 44, 19, 2402, 10, 1466, 3128, 43, 57,
+    43, 19, 2402, 10, 1467, 3128, 43, 56, 42, 11, 20, 501, 18, 1888, 63, 6,
     40, 41, 41, 61, 1, 13, 0, 53, 744, 55, 16, 13, 0, 20, 744, 18,
     2383, 18, 1838, 61, 13, 0, 53, 255, 55, 31, 13, 0, 20, 255, 18, 2395,
     18, 1838, 61, 13, 0, 53, 939, 55, 49, 13, 0, 20, 939, 18, 2390, 4,
     1, 21, 18, 1838, 61, 13, 0, 53, 1474, 55, 65, 13, 0, 20, 1474, 18,
-    1658, 60, 3313, 1, 61, 13, 0, 53, 650, 55, 74, 4, 3, 61, 13, 0,
+    1658, 60, 3395, 1, 61, 13, 0, 53, 650, 55, 74, 4, 3, 61, 13, 0,
     53, 1198, 55, 83, 4, 3, 61, 13, 0, 53, 241, 55, 101, 13, 0, 20,
     241, 18, 2657, 4, 1, 21, 18, 1838, 61, 13, 0, 53, 142, 55, 119, 13,
     0, 20, 142, 18, 1758, 4, 1, 21, 18, 1838, 61, 13, 0, 53, 869, 55,
     128, 4, 2, 61, 13, 0, 53, 870, 55, 137, 4, 3, 61, 13, 0, 53,
-    871, 55, 146, 4, 3, 61, 7, 5605, 13, 0, 63, 24, 51, 55, 158, 4,
+    871, 55, 146, 4, 3, 61, 7, 6160, 13, 0, 63, 24, 51, 55, 158, 4,
     2, 61, 13, 0, 53, 941, 55, 195, 13, 0, 20, 941, 18, 1713, 63, 6,
     39, 56, 187, 13, 0, 20, 941, 18, 2395, 18, 1838, 4, 2, 43, 40, 55,
     192, 4, 2, 61, 4, 3, 61, 13, 0, 53, 896, 55, 204, 4, 3, 61,
     13, 0, 53, 683, 55, 219, 13, 0, 20, 683, 18, 2390, 18, 1838, 61, 0,
     61, 0, 61, 1, 4, 1, 61, 0, 61, 36, 4, 0, 14, 2, 13, 0,
-    14, 3, 13, 3, 7, 5157, 43, 55, 34, 13, 1, 58, 4, 1, 30, 13,
-    4, 53, 932, 59, 4, 1, 22, 14, 2, 54, 1027, 13, 3, 7, 5158, 43,
+    14, 3, 13, 3, 7, 5662, 43, 55, 34, 13, 1, 58, 4, 1, 30, 13,
+    4, 53, 932, 59, 4, 1, 22, 14, 2, 54, 1027, 13, 3, 7, 5663, 43,
     55, 59, 13, 1, 58, 5, 1, 55, 13, 5, 53, 188, 59, 5, 1, 47,
-    14, 2, 54, 1027, 13, 3, 7, 5159, 43, 55, 84, 13, 1, 58, 6, 1,
+    14, 2, 54, 1027, 13, 3, 7, 5664, 43, 55, 84, 13, 1, 58, 6, 1,
     80, 13, 6, 53, 332, 59, 6, 1, 72, 14, 2, 54, 1027, 13, 3, 7,
-    4128, 43, 55, 121, 13, 1, 58, 7, 1, 117, 13, 7, 53, 332, 56, 113,
+    4418, 43, 55, 121, 13, 1, 58, 7, 1, 117, 13, 7, 53, 332, 56, 113,
     13, 7, 20, 332, 18, 1838, 4, 2, 43, 40, 59, 7, 1, 97, 14, 2,
-    54, 1027, 13, 3, 7, 5160, 43, 55, 158, 13, 1, 58, 8, 1, 154, 13,
+    54, 1027, 13, 3, 7, 5665, 43, 55, 158, 13, 1, 58, 8, 1, 154, 13,
     8, 53, 332, 56, 150, 13, 8, 20, 332, 18, 1838, 4, 3, 43, 40, 59,
-    8, 1, 134, 14, 2, 54, 1027, 13, 3, 7, 5161, 43, 55, 183, 13, 1,
+    8, 1, 134, 14, 2, 54, 1027, 13, 3, 7, 5666, 43, 55, 183, 13, 1,
     58, 9, 1, 179, 13, 9, 53, 1347, 59, 9, 1, 171, 14, 2, 54, 1027,
-    13, 3, 7, 5162, 43, 55, 220, 13, 1, 58, 10, 1, 216, 13, 10, 53,
+    13, 3, 7, 5667, 43, 55, 220, 13, 1, 58, 10, 1, 216, 13, 10, 53,
     1347, 56, 212, 13, 10, 20, 1347, 18, 1838, 4, 2, 43, 40, 59, 10, 1,
-    196, 14, 2, 54, 1027, 13, 3, 7, 5163, 43, 55, 257, 13, 1, 58, 11,
+    196, 14, 2, 54, 1027, 13, 3, 7, 5668, 43, 55, 257, 13, 1, 58, 11,
     1, 253, 13, 11, 53, 1347, 56, 249, 13, 11, 20, 1347, 18, 1838, 4, 3,
-    43, 40, 59, 11, 1, 233, 14, 2, 54, 1027, 13, 3, 7, 5164, 43, 55,
+    43, 40, 59, 11, 1, 233, 14, 2, 54, 1027, 13, 3, 7, 5669, 43, 55,
     282, 13, 1, 58, 12, 1, 278, 13, 12, 53, 65, 59, 12, 1, 270, 14,
-    2, 54, 1027, 13, 3, 7, 5165, 43, 55, 307, 13, 1, 58, 13, 1, 303,
-    13, 13, 53, 1411, 59, 13, 1, 295, 14, 2, 54, 1027, 13, 3, 7, 5166,
+    2, 54, 1027, 13, 3, 7, 5670, 43, 55, 307, 13, 1, 58, 13, 1, 303,
+    13, 13, 53, 1411, 59, 13, 1, 295, 14, 2, 54, 1027, 13, 3, 7, 5671,
     43, 55, 332, 13, 1, 58, 14, 1, 328, 13, 14, 53, 145, 59, 14, 1,
-    320, 14, 2, 54, 1027, 13, 3, 7, 4129, 43, 55, 379, 13, 1, 58, 15,
+    320, 14, 2, 54, 1027, 13, 3, 7, 4419, 43, 55, 379, 13, 1, 58, 15,
     1, 375, 13, 15, 63, 24, 23, 9, 932, 24, 9, 332, 24, 9, 626, 24,
     9, 65, 24, 9, 1411, 24, 33, 63, 21, 4, 1, 43, 59, 15, 1, 345,
-    14, 2, 54, 1027, 13, 3, 7, 4130, 43, 55, 425, 13, 1, 58, 16, 1,
+    14, 2, 54, 1027, 13, 3, 7, 4420, 43, 55, 425, 13, 1, 58, 16, 1,
     421, 13, 16, 53, 631, 57, 403, 13, 16, 53, 932, 41, 57, 410, 13, 16,
     53, 332, 41, 57, 417, 13, 16, 53, 1347, 41, 59, 16, 1, 392, 14, 2,
-    54, 1027, 13, 3, 7, 4131, 43, 55, 549, 13, 1, 58, 17, 1, 467, 13,
+    54, 1027, 13, 3, 7, 4421, 43, 55, 549, 13, 1, 58, 17, 1, 467, 13,
     17, 53, 626, 57, 449, 13, 17, 53, 631, 41, 57, 456, 13, 17, 53, 932,
     41, 57, 463, 13, 17, 53, 332, 41, 59, 17, 1, 438, 14, 2, 4, 1,
     13, 1, 63, 10, 14, 18, 4, 1, 14, 19, 14, 20, 13, 18, 13, 20,
@@ -8337,35 +8928,35 @@ constexpr std::uint16_t code[] = {
     55, 538, 13, 1, 13, 20, 21, 20, 631, 18, 1887, 58, 21, 1, 526, 13,
     21, 53, 1347, 59, 21, 1, 518, 4, 0, 47, 55, 538, 13, 2, 4, 1,
     32, 14, 2, 13, 20, 13, 19, 31, 14, 20, 54, 483, 54, 1027, 13, 3,
-    7, 5167, 43, 55, 574, 13, 1, 58, 22, 1, 570, 13, 22, 53, 1405, 59,
-    22, 1, 562, 14, 2, 54, 1027, 13, 3, 7, 5168, 43, 55, 618, 13, 1,
+    7, 5672, 43, 55, 574, 13, 1, 58, 22, 1, 570, 13, 22, 53, 1405, 59,
+    22, 1, 562, 14, 2, 54, 1027, 13, 3, 7, 5673, 43, 55, 618, 13, 1,
     58, 23, 1, 614, 23, 9, 1405, 24, 9, 1217, 24, 9, 543, 24, 9, 1245,
     24, 13, 23, 63, 24, 33, 63, 21, 4, 1, 48, 59, 23, 1, 587, 14,
-    2, 54, 1027, 13, 3, 7, 4132, 43, 55, 659, 13, 1, 58, 24, 1, 655,
+    2, 54, 1027, 13, 3, 7, 4422, 43, 55, 659, 13, 1, 58, 24, 1, 655,
     23, 9, 1405, 24, 9, 1217, 24, 9, 543, 24, 13, 24, 63, 24, 33, 63,
-    21, 4, 1, 48, 59, 24, 1, 631, 14, 2, 54, 1027, 13, 3, 7, 4133,
+    21, 4, 1, 48, 59, 24, 1, 631, 14, 2, 54, 1027, 13, 3, 7, 4423,
     43, 55, 684, 13, 1, 58, 25, 1, 680, 13, 25, 53, 1245, 59, 25, 1,
-    672, 14, 2, 54, 1027, 13, 3, 7, 4134, 43, 55, 742, 13, 1, 58, 26,
+    672, 14, 2, 54, 1027, 13, 3, 7, 4424, 43, 55, 742, 13, 1, 58, 26,
     1, 738, 23, 9, 540, 24, 9, 1158, 24, 13, 26, 63, 24, 33, 63, 21,
     4, 1, 48, 56, 734, 23, 9, 541, 24, 9, 1159, 24, 13, 26, 63, 24,
     33, 63, 21, 4, 0, 43, 40, 59, 26, 1, 697, 14, 2, 54, 1027, 13,
-    3, 7, 4137, 43, 55, 783, 13, 1, 58, 27, 1, 779, 23, 9, 1366, 24,
+    3, 7, 4427, 43, 55, 783, 13, 1, 58, 27, 1, 779, 23, 9, 1366, 24,
     9, 1367, 24, 9, 1190, 24, 13, 27, 63, 24, 33, 63, 21, 4, 1, 48,
-    59, 27, 1, 755, 14, 2, 54, 1027, 13, 3, 7, 4135, 43, 55, 824, 13,
+    59, 27, 1, 755, 14, 2, 54, 1027, 13, 3, 7, 4425, 43, 55, 824, 13,
     1, 58, 28, 1, 820, 23, 9, 124, 24, 9, 322, 24, 9, 324, 24, 13,
     28, 63, 24, 33, 63, 21, 4, 1, 48, 59, 28, 1, 796, 14, 2, 54,
-    1027, 13, 3, 7, 4136, 43, 55, 862, 13, 1, 58, 29, 1, 858, 23, 9,
+    1027, 13, 3, 7, 4426, 43, 55, 862, 13, 1, 58, 29, 1, 858, 23, 9,
     324, 24, 9, 121, 24, 13, 29, 63, 24, 33, 63, 21, 4, 1, 48, 59,
-    29, 1, 837, 14, 2, 54, 1027, 13, 3, 7, 4138, 43, 55, 887, 13, 1,
+    29, 1, 837, 14, 2, 54, 1027, 13, 3, 7, 4428, 43, 55, 887, 13, 1,
     58, 30, 1, 883, 13, 30, 53, 547, 59, 30, 1, 875, 14, 2, 54, 1027,
-    13, 3, 7, 5169, 43, 55, 912, 13, 1, 58, 31, 1, 908, 13, 31, 53,
-    776, 59, 31, 1, 900, 14, 2, 54, 1027, 13, 3, 7, 4139, 43, 55, 950,
+    13, 3, 7, 5674, 43, 55, 912, 13, 1, 58, 31, 1, 908, 13, 31, 53,
+    776, 59, 31, 1, 900, 14, 2, 54, 1027, 13, 3, 7, 4429, 43, 55, 950,
     13, 1, 58, 32, 1, 933, 13, 32, 53, 135, 59, 32, 1, 925, 14, 2,
     13, 1, 63, 21, 4, 1, 47, 55, 948, 4, 0, 14, 2, 54, 1027, 13,
-    3, 7, 4140, 43, 55, 975, 13, 1, 58, 33, 1, 971, 13, 33, 53, 1191,
-    59, 33, 1, 963, 14, 2, 54, 1027, 13, 3, 7, 5170, 43, 55, 1000, 13,
+    3, 7, 4430, 43, 55, 975, 13, 1, 58, 33, 1, 971, 13, 33, 53, 1191,
+    59, 33, 1, 963, 14, 2, 54, 1027, 13, 3, 7, 5675, 43, 55, 1000, 13,
     1, 58, 34, 1, 996, 13, 34, 53, 738, 59, 34, 1, 988, 14, 2, 54,
-    1027, 13, 3, 7, 4141, 43, 55, 1025, 13, 1, 58, 35, 1, 1021, 13, 35,
+    1027, 13, 3, 7, 4431, 43, 55, 1025, 13, 1, 58, 35, 1, 1021, 13, 35,
     53, 779, 59, 35, 1, 1013, 14, 2, 54, 1027, 0, 61, 13, 2, 13, 1,
     63, 21, 43, 61, 0, 61, 0, 0, 61, 0, 0, 26, 61, 0, 0, 4,
     0, 19, 2904, 29, 61, 0, 0, 4, 0, 19, 2935, 29, 61, 0, 0, 27,

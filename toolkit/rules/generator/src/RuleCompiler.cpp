@@ -1,6 +1,7 @@
 #include "RuleCompiler.h"
 
 #include "CodeCompiler.h"
+#include "RuleWording.h"
 
 #include <algorithm>
 #include <tuple>
@@ -46,7 +47,8 @@ std::string boundsText(const express::ExpressInverseAttribute& attribute) {
 class RuleCompiler::ReleaseCompiler {
 public:
     ReleaseCompiler(const RuleSource& source, StoreBuilder& store, Release& release)
-        : diagnostics(source.name), _source(source), _names(source.schema), _store(store), _release(release) {}
+        : diagnostics(source.name), _source(source), _names(source.schema), _spelled(spelledNames(source.schema)),
+          _store(store), _release(release) {}
 
     void compile() {
         _release.schema = upperCase(_source.schema.name);
@@ -72,7 +74,7 @@ private:
                 _store.text(ownerName),
                 _store.text(where.label),
                 _store.text(withoutSchema(where.text, _release.schema)),
-                _store.text({}),
+                _store.text(worded(*where.expression, _spelled)),
                 code};
     }
 
@@ -153,6 +155,7 @@ private:
 
     const RuleSource& _source;
     SchemaNames _names;
+    SpelledNames _spelled;
     StoreBuilder& _store;
     Release& _release;
 };
