@@ -1,8 +1,9 @@
-// The reader of the dictionary generator on any bytes. A schema that can be numbered must make a
-// dictionary that has what the schema declares.
+// The reader of EXPRESS on any bytes. A schema that can be numbered must make a dictionary that has what the schema
+// declares, and one that can be compiled tables that have all its rules.
 
 #include "DictionaryLists.h"
 #include "ExpressReader.h"
+#include "RuleCompiler.h"
 #include "velkor/sdai/QORDXSdaiSchemaRestore.h"
 
 #include <cstdint>
@@ -25,6 +26,25 @@ std::vector<const char*> pointers(const std::vector<std::string>& texts) {
     return result;
 }
 
+template <class Declarations>
+std::size_t whereRules(const Declarations& declarations) {
+    std::size_t count = 0;
+    for (const auto& declaration : declarations) count += declaration.whereRules.size();
+    return count;
+}
+
+void compileRules(const velkor::express::ExpressSchema& schema) {
+    velkor::rulegen::RuleSource source{"input", schema};
+    source.schema.name = "FUZZ";
+    velkor::rulegen::RuleCompiler compiler({source});
+    for (const std::string& error : compiler.errors()) require(error.starts_with("input:"), error);
+    if (!compiler.errors().empty()) return;
+    const auto tables = compiler.tables(0);
+    require(tables.entityRules.size() == whereRules(schema.entities), "rules of entities were lost");
+    require(tables.typeRules.size() == whereRules(schema.types), "rules of types were lost");
+    require(tables.globalRules.size() == whereRules(schema.globalRules), "global rules were lost");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -37,6 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                 read.error());
         return 0;
     }
+    compileRules(schema);
     const auto lists = numberSchema("FUZZ", schema);
     if (!lists) return 0;
     const auto declarations = pointers(lists->declarations);

@@ -1,6 +1,6 @@
+#include "RuleCompiler.h"
 #include "Matchers.h"
 #include "RuleCode.h"
-#include "RuleCompiler.h"
 #include "RuleSchema.h"
 #include "RuleUnits.h"
 
@@ -17,12 +17,13 @@ std::string errorOf(const std::string& declarations) {
     }
 }
 
-constexpr const char* parts = "TYPE Colour = ENUMERATION OF (RED, BLUE); END_TYPE;\n"
-                              "TYPE Tone = ENUMERATION OF (RED, GREY); END_TYPE;\n"
-                              "ENTITY Part; Size : REAL; Tint : OPTIONAL Colour; END_ENTITY;\n"
-                              "ENTITY Bolt SUBTYPE OF (Part); Length : REAL; INVERSE UsedBy : SET OF Box FOR Bolts; END_ENTITY;\n"
-                              "ENTITY Box; Bolts : SET OF Bolt; END_ENTITY;\n"
-                              "ENTITY Other; END_ENTITY;\n";
+constexpr const char* parts =
+    "TYPE Colour = ENUMERATION OF (RED, BLUE); END_TYPE;\n"
+    "TYPE Tone = ENUMERATION OF (RED, GREY); END_TYPE;\n"
+    "ENTITY Part; Size : REAL; Tint : OPTIONAL Colour; END_ENTITY;\n"
+    "ENTITY Bolt SUBTYPE OF (Part); Length : REAL; INVERSE UsedBy : SET OF Box FOR Bolts; END_ENTITY;\n"
+    "ENTITY Box; Bolts : SET OF Bolt; END_ENTITY;\n"
+    "ENTITY Other; END_ENTITY;\n";
 
 } // namespace
 
@@ -38,7 +39,8 @@ TEST(RuleCompiler, NamesWhatNobodyDeclares) {
         {"ENTITY A; WHERE WR1 : SIZEOF(1, 2) > 0; END_ENTITY;", "SIZEOF takes 1 arguments, found 2"},
         {"ENTITY A; C : Colour; WHERE WR1 : C = Colour.GREEN; END_ENTITY;", "Colour has no enumerator GREEN"},
         {"ENTITY A; C : Colour; WHERE WR1 : C = RED; END_ENTITY;", "no error"},
-        {"ENTITY A; WHERE WR1 : SIZEOF(Part(1.) || 2) = 0; END_ENTITY;", "expected entities with their values beside ||"},
+        {"ENTITY A; WHERE WR1 : SIZEOF(Part(1.) || 2) = 0; END_ENTITY;",
+         "expected entities with their values beside ||"},
         {"ENTITY A; WHERE WR1 : Part(1.) = ?; END_ENTITY;", "Part has 2 attributes of its own, found 1"},
         {"ENTITY A; N : STRING; WHERE WR1 : SIZEOF(USEDIN(SELF, N)) = 0; END_ENTITY;",
          "expected a role of USEDIN that is a literal"},
@@ -69,23 +71,24 @@ TEST(RuleCompiler, StoresWhatReleasesShareOnce) {
         const auto read = express::readExpress(
             std::string(parts) +
                 "FUNCTION F(x : REAL) : REAL; LOCAL s : REAL := 0.5; END_LOCAL; RETURN (x + s); END_FUNCTION;\n"
-                "ENTITY A; P : Part; WHERE WR1 : '" + name + ".BOLT' IN TYPEOF(P); WR2 : F(P.Size) > 70000; END_ENTITY;",
+                "ENTITY A; P : Part; WHERE WR1 : '" +
+                name + ".BOLT' IN TYPEOF(P); WR2 : F(P.Size) > 70000; END_ENTITY;",
             name, result.schema);
         EXPECT_TRUE(read) << read.error();
         result.schema.name = name;
         return result;
     };
-    RuleCompiler one({source("ONE")});
-    RuleCompiler both({source("ONE"), source("TWO")});
+    RuleCompiler one({source("IFC1")});
+    RuleCompiler both({source("IFC1"), source("IFC2")});
     EXPECT_EQ(both.store().code.size(), one.store().code.size());
     EXPECT_EQ(both.store().textPlaces.size(), one.store().textPlaces.size());
     EXPECT_EQ(both.tables(1).entityRules[1].code, both.tables(0).entityRules[1].code);
     EXPECT_EQ(both.store().text(both.tables(1).entityRules[0].expression), "'\x01.BOLT' IN TYPEOF(P)");
 
-    const auto units = ruleUnits(both, {"ONE.exp (SHA-256 1)", "TWO.exp (SHA-256 2)"});
+    const auto units = ruleUnits(both, {"1.exp (SHA-256 1)", "2.exp (SHA-256 2)"});
     ASSERT_EQ(units.size(), 3U);
-    EXPECT_EQ(units[2].fileName, "TWORules.cpp");
-    EXPECT_THAT(units[2].text, testing::StartsWith("// Made by velkor-rulegen from TWO.exp (SHA-256 2); do not edit."));
+    EXPECT_EQ(units[2].fileName, "IFC2Rules.cpp");
+    EXPECT_THAT(units[2].text, testing::StartsWith("// Made by velkor-rulegen from 2.exp (SHA-256 2); do not edit."));
     EXPECT_THAT(units[0].text, testing::HasSubstr("'\\001.BOLT' IN TYPEOF(P)"));
 }
 

@@ -60,9 +60,9 @@ private:
             return array;
         };
         const dictgen::DictionaryLists& lists = dictionary();
-        QORDXSdaiSchemaRestore::Restore(
-            DXSdaiDictionaryRepo::TheOne(), static_cast<int>(lists.declarations.size()), copy(lists.declarations),
-            static_cast<int>(lists.statements.size()), copy(lists.statements), 1, 417);
+        QORDXSdaiSchemaRestore::Restore(DXSdaiDictionaryRepo::TheOne(), static_cast<int>(lists.declarations.size()),
+                                        copy(lists.declarations), static_cast<int>(lists.statements.size()),
+                                        copy(lists.statements), 1, 417);
     }
 
     QORDXSdaiSchemaDecl _declaration{

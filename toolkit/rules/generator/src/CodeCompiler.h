@@ -81,7 +81,8 @@ private:
     void writeRepeat(const Statement& statement);
     void writeAlias(const Statement& statement);
     void writeReturn(const Statement& statement);
-    express::ExpressionPointer withFixedIndexes(const express::ExpressionPointer& expression);
+    express::ExpressionPointer settled(const express::ExpressionPointer& expression);
+    std::string hiddenName() const;
 
     /// The value is what `writeValue` writes.
     template <class WriteValue>

@@ -81,6 +81,8 @@ bool isCallOf(const express::Expression& expression, std::string_view name) {
 } // namespace
 
 void CodeCompiler::write(const Expression& expression) {
+    // Constants within constants can be written without end.
+    if (_code.isTooLong()) return;
     switch (expression.kind) {
     case Kind::Integer:
     case Kind::Real:
@@ -138,7 +140,14 @@ void CodeCompiler::writeLiteral(const Expression& expression) {
 // A qualified name of a type is kept as one, so that the code is the same in all releases.
 void CodeCompiler::writeString(const Expression& at, const std::string& text) {
     const std::string prefix = upperCase(_names.schema().name) + '.';
-    if (!text.starts_with(prefix)) return _code.write(Operation::String, {_store.text(text)});
+    if (!text.starts_with(prefix)) {
+        const auto dot = text.find('.');
+        const std::string behind = dot == std::string::npos ? std::string() : text.substr(dot + 1);
+        if (_names.entity(behind) != nullptr || _names.type(behind) != nullptr) {
+            _diagnostics.note(at.line, '\'' + text + "' is a name of another schema");
+        }
+        return _code.write(Operation::String, {_store.text(text)});
+    }
     const std::string name = text.substr(prefix.size());
     const rules::TextId type = _store.type(name);
     const bool isType = _names.entity(name) != nullptr || _names.type(name) != nullptr;

@@ -296,31 +296,44 @@ void CodeCompiler::writeRepeat(const Statement& statement) {
     _code.place(loop.escape);
 }
 
-// What an ALIAS stands for is settled where it begins: its indexes are looked at once.
+// What an ALIAS stands for is settled where it begins: its indexes are looked at once, and its variable is meant even
+// where another of its name hides it.
 void CodeCompiler::writeAlias(const Statement& statement) {
     const std::size_t outer = _variables.size();
-    const ExpressionPointer alias = withFixedIndexes(statement.first);
+    const ExpressionPointer alias = settled(statement.first);
     _variables.push_back({upperCase(statement.text), 0, alias});
     write(statement.body);
     _variables.resize(outer);
 }
 
-ExpressionPointer CodeCompiler::withFixedIndexes(const ExpressionPointer& expression) {
-    if (expression->operands.empty()) return expression;
+ExpressionPointer CodeCompiler::settled(const ExpressionPointer& expression) {
     Expression copy = *expression;
-    copy.operands[0] = withFixedIndexes(copy.operands[0]);
+    if (copy.kind == ExpressionKind::Name) {
+        const Variable* found = variable(copy.text);
+        if (found == nullptr) error(copy, "nothing that can be assigned to is named " + copy.text);
+        if (found == nullptr || found->alias) return found != nullptr ? found->alias : expression;
+        Variable hidden = *found;
+        copy.text = hidden.name = hiddenName();
+        _variables.push_back(std::move(hidden));
+        return std::make_shared<Expression>(std::move(copy));
+    }
+    if (copy.operands.empty()) return expression;
+    copy.operands[0] = settled(copy.operands[0]);
     if (copy.kind == ExpressionKind::Index) {
-        // No name of a source has a blank.
-        const std::string name = "INDEX " + std::to_string(_variables.size());
-        write(*copy.operands[1]);
-        _code.write(Operation::Store, {addVariable(name, {})});
         Expression index;
         index.kind = ExpressionKind::Name;
         index.line = copy.line;
-        index.text = name;
-        copy.operands[1] = std::make_shared<Expression>(index);
+        index.text = hiddenName();
+        write(*copy.operands[1]);
+        _code.write(Operation::Store, {addVariable(index.text, {})});
+        copy.operands[1] = std::make_shared<Expression>(std::move(index));
     }
     return std::make_shared<Expression>(std::move(copy));
+}
+
+// No name of a source has a blank.
+std::string CodeCompiler::hiddenName() const {
+    return "HIDDEN " + std::to_string(_variables.size());
 }
 
 void CodeCompiler::writeReturn(const Statement& statement) {

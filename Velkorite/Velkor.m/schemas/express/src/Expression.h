@@ -61,6 +61,8 @@ struct Expression {
     };
     Kind kind = Kind::Indeterminate;
     int line = 0;
+    /// Of the tree below.
+    int depth = 0;
     std::string text = {};
     std::vector<ExpressionPointer> operands = {};
     Operator operation = Operator::Plus;

@@ -1,5 +1,6 @@
 #include "ExpressionReader.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -8,6 +9,8 @@ namespace velkor::express {
 namespace {
 
 using Kind = Expression::Kind;
+
+constexpr int deepestTree = 2000;
 
 struct Spelling {
     std::string_view text;
@@ -81,14 +84,25 @@ public:
     }
 
 private:
-    static ExpressionPointer make(Kind kind, int line, std::string text = {},
-                                  std::vector<ExpressionPointer> operands = {}, Operator operation = Operator::Plus) {
+    ExpressionPointer make(Kind kind, int line, std::string text = {}, std::vector<ExpressionPointer> operands = {},
+                           Operator operation = Operator::Plus) {
         Expression result;
         result.kind = kind;
         result.line = line;
         result.text = std::move(text);
         result.operands = std::move(operands);
         result.operation = operation;
+        return finished(std::move(result));
+    }
+
+    // Chains of operators and qualifiers are read without recursion; who walks their trees recurses.
+    ExpressionPointer finished(Expression result) {
+        for (const auto* list : {&result.operands, &result.repetitions}) {
+            for (const ExpressionPointer& operand : *list) {
+                if (operand) result.depth = std::max(result.depth, operand->depth + 1);
+            }
+        }
+        if (result.depth > deepestTree) _tokens.fail("a shorter expression");
         return std::make_shared<Expression>(std::move(result));
     }
 
@@ -203,7 +217,7 @@ private:
             } while (_tokens.takeSymbol(","));
             _tokens.expectSymbol("]");
         }
-        return qualified(std::make_shared<Expression>(std::move(result)));
+        return qualified(finished(std::move(result)));
     }
 
     bool isBelowInclusive() {
@@ -223,7 +237,7 @@ private:
         result.isHighInclusive = isBelowInclusive();
         result.operands.push_back(sum());
         _tokens.expectSymbol("}");
-        return std::make_shared<Expression>(std::move(result));
+        return finished(std::move(result));
     }
 
     ExpressTokens& _tokens;
