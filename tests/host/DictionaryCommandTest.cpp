@@ -11,7 +11,9 @@
 namespace velkor::host {
 
 using nlohmann::json;
+using testing::Contains;
 using testing::IsSupersetOf;
+using testing::Not;
 
 namespace {
 
@@ -56,6 +58,11 @@ TEST_F(DictionaryCommand, ListsWhatEachReleaseCarries) {
         names.push_back(schema["name"]);
         ASSERT_TRUE(expected.contains(names.back()));
         EXPECT_EQ(row(schema), expected.at(names.back())) << names.back();
+        const json& rules = schema["rules"];
+        EXPECT_EQ(rules["where"].get<int>() + rules["type"].get<int>() + rules["global"].get<int>() +
+                      rules["unique"].get<int>() + rules["inverse"].get<int>(),
+                  rules["total"]);
+        EXPECT_EQ(rules["global"], names.back() == "IFC4X4" ? 0 : 2) << names.back();
     }
     EXPECT_THAT(names,
                 ElementsAre("IFC2X3", "IFC4", "IFC4X1", "IFC4X2", "IFC4X3_ADD2", "IFC4X3_RC1", "IFC4X3_RC3", "IFC4X4"));
@@ -102,8 +109,60 @@ TEST_F(DictionaryCommand, DescribesAnEntityAsInstancesHoldIt) {
                                  "IFCOBJECTDEFINITION, IFCROOT\n"));
     EXPECT_THAT(wall, HasSubstr("\n1  GLOBALID         IFCROOT     required  IFCGLOBALLYUNIQUEID\n"));
     EXPECT_THAT(wall, HasSubstr("\n9  PREDEFINEDTYPE   IFCWALL     optional  IFCWALLTYPEENUM\n"));
-    EXPECT_THAT(run("entity 2x3 IFCAPPLICATION").out,
-                HasSubstr("\nunique UR1: APPLICATIONIDENTIFIER\nunique UR2: APPLICATIONFULLNAME VERSION\n"));
+    EXPECT_THAT(
+        run("entity 2x3 IFCAPPLICATION").out,
+        HasSubstr("\nIfcApplication.UR2  unique  no other instance has the same ApplicationFullName, Version\n"));
+    EXPECT_THAT(run("entity 4x4 IFCCARTESIANPOINT").out, EndsWith("\n\nno rules\n"));
+}
+
+TEST_F(DictionaryCommand, ListsTheRulesThatInstancesHaveToKeepThoseOfTheRootFirst) {
+    const json wall = parsed(run("entity IFC4 IfcWall --format json"));
+    std::vector<std::string> names;
+    for (const json& rule : wall["rules"]) names.push_back(rule["name"]);
+    EXPECT_EQ(names.front(), "IfcRoot.UR1");
+    EXPECT_EQ(names.back(), "IfcWall.CorrectTypeAssigned");
+    EXPECT_THAT(names, IsSupersetOf({"IfcProduct.PlacementForShapeRepresentation", "IfcElement.FillsVoids"}));
+    EXPECT_THAT(names, Not(Contains("IfcWallStandardCase.HasMaterialLayerSetUsage")));
+    EXPECT_EQ(wall["rules"].front()["kind"], "unique");
+    EXPECT_THAT(
+        run("entity IFC4 IfcWall").out,
+        HasSubstr("\nIfcElement.FillsVoids                         inverse  SET [0:1] OF IfcRelFillsElement FOR "
+                  "RelatedBuildingElement\n"));
+}
+
+TEST_F(DictionaryCommand, ShowsARule) {
+    EXPECT_EQ(run("rule 4 ifcwall.correctpredefinedtype").out,
+              "IfcWall.CorrectPredefinedType of IFC4, where rule of an entity\n"
+              "expected: PredefinedType is not given or not USERDEFINED, or ObjectType is given\n\n"
+              "    NOT(EXISTS(PredefinedType))\n"
+              "    OR (PredefinedType <> IfcWallTypeEnum.USERDEFINED)\n"
+              "    OR ((PredefinedType = IfcWallTypeEnum.USERDEFINED) AND EXISTS (SELF\\IfcObject.ObjectType))\n");
+    const json measure = parsed(run("rule 2x3 IfcPositiveLengthMeasure.WR1 --format json"));
+    const json expected{{"schema", "IFC2X3"},
+                        {"kind", "type"},
+                        {"name", "IfcPositiveLengthMeasure.WR1"},
+                        {"owner", "IfcPositiveLengthMeasure"},
+                        {"expression", "SELF > 0."},
+                        {"wording", "the value is above 0"},
+                        {"fault", nullptr},
+                        {"fault_source", nullptr}};
+    EXPECT_EQ(measure, expected);
+    const std::map<std::string, std::string> kinds{{"IfcRoot.UR1", "unique"},
+                                                   {"IfcElement.FillsVoids", "inverse"},
+                                                   {"CorrectTriggerType", "none"},
+                                                   {"IfcSingleProjectInstance", "global"}};
+    for (const auto& [name, kind] : kinds) {
+        const Outcome shown = run("rule 4x3 " + name + " --format json");
+        EXPECT_EQ(shown.status == Done ? parsed(shown)["kind"] : "none", kind) << name;
+    }
+    // A bracket that is too long for its line stands further in; a known fault and its source are told.
+    const std::string clipping = run("rule 4 IfcBooleanClippingResult.FirstOperandType").out;
+    EXPECT_THAT(clipping, AllOf(HasSubstr("\n    OR ('IFC4.IFCSWEPTDISCSOLID' IN TYPEOF(FirstOperand))\n"),
+                                HasSubstr("\nknown to be faulty, so that its findings are warnings: it means "),
+                                HasSubstr("\nsaid in: ")));
+    EXPECT_THAT(run("rule 4 IfcAdvancedBrep.HasAdvancedFaces").out,
+                EndsWith("\n    SIZEOF(\n      QUERY(\n        Afs <* SELF\\IfcManifoldSolidBrep.Outer.CfsFaces |\n"
+                         "          (NOT ('IFC4.IFCADVANCEDFACE' IN TYPEOF(Afs)))\n      )\n    ) = 0\n"));
 }
 
 TEST_F(DictionaryCommand, ComparesReleases) {
@@ -132,13 +191,35 @@ TEST_F(DictionaryCommand, ComparesReleases) {
     EXPECT_TRUE(prefix["added"].empty() && prefix["removed"].empty());
 
     EXPECT_EQ(run("diff IFC4 IFC4").out, "IFC4 -> IFC4\nentities: 0 added, 0 removed, 0 changed\n"
-                                         "types: 0 added, 0 removed, 0 changed\n");
+                                         "types: 0 added, 0 removed, 0 changed\n"
+                                         "rules: 0 added, 0 removed, 0 renamed, 0 changed\n");
     const std::string text = run("diff IFC2X3 IFC4").out;
     EXPECT_NE(text.find("\n  IFCROOT\n    ~ uniqueness rules: UR1: GLOBALID -> none\n"
                         "    ~ OWNERHISTORY: IFCOWNERHISTORY -> OPTIONAL IFCOWNERHISTORY\n"),
               std::string::npos);
     EXPECT_NE(text.find("\n  IFCWALLTYPEENUM (enumeration)\n    + MOVABLE\n"), std::string::npos);
     EXPECT_NE(text.find("\n  IFCMATERIALSELECT (select)\n    + IFCMATERIALDEFINITION\n"), std::string::npos);
+}
+
+TEST_F(DictionaryCommand, ComparesTheRulesOfReleases) {
+    const json rules = parsed(run("diff 2x3 IFC4 --format json"))["rules"];
+    const auto named = [](const json& list, const char* member, const std::string& name) {
+        return std::ranges::count_if(list, [&](const json& rule) { return rule[member] == name; });
+    };
+    EXPECT_EQ(named(rules["added"], "name", "IfcWall.CorrectPredefinedType"), 1);
+    EXPECT_EQ(named(rules["removed"], "name", "IfcWall.WR1"), 1);
+    const json renamed{{"before", "IfcAxis1Placement.WR2"}, {"after", "IfcAxis1Placement.LocationIs3D"}};
+    EXPECT_THAT(rules["renamed"], Contains(renamed));
+    EXPECT_EQ(named(rules["changed"], "name", "IfcObjectDefinition.Decomposes"), 1);
+    // The name of the release in a rule is no change.
+    for (const json& change : parsed(run("diff 4x3 IFC4X3_RC3 --format json"))["rules"]["changed"]) {
+        EXPECT_NE(change["before"], change["after"]);
+        EXPECT_NE(change["name"], "IfcAdvancedFace.RequiresEdgeCurve");
+    }
+    EXPECT_THAT(
+        run("diff IFC4X3_RC3 4x3").out,
+        HasSubstr("\n  IfcProduct.PositionedRelativeTo\n    - SET [0:1] OF IfcRelPositions FOR RelatedProducts\n"
+                  "    + SET [0:?] OF IfcRelPositions FOR RelatedProducts\n"));
 }
 
 TEST_F(DictionaryCommand, SaysWhatItKnowsInstead) {
@@ -154,6 +235,16 @@ TEST_F(DictionaryCommand, SaysWhatItKnowsInstead) {
     EXPECT_THAT(slip.err, HasSubstr("has no entity \"IFCWLAL\"; nearest: IFCWALL"));
     EXPECT_THAT(run("entity IFC4 wall").err, HasSubstr("nearest: IFCWALL"));
     EXPECT_THAT(run("entity IFC4 IFCLABEL").err, HasSubstr("is a type, not an entity: STRING(255)"));
+    const std::map<std::string, std::string> rules{
+        {"2x3 IfcWal.WR1", "velkor: IFC2X3 has no rule \"IfcWal.WR1\"; nearest: IfcWall.WR1"},
+        {"2x3 IfcWall", "velkor: IFC2X3 has no rule \"IfcWall\"; it states: IfcWall.WR1\n"},
+        {"2x3 WR31", " rules of IFC2X3 are called \"WR31\"; expected its owner as well: IfcWall.WR31\n"},
+        {"4x4 IfcWall.CorrectPredefinedType", "velkor: IFC4X4 has no rule \"IfcWall.CorrectPredefinedType\"\n"}};
+    for (const auto& [arguments, message] : rules) {
+        const Outcome outcome = run("rule " + arguments);
+        EXPECT_EQ(outcome.status, Findings) << arguments;
+        EXPECT_THAT(outcome.err, HasSubstr(message));
+    }
     EXPECT_EQ(run("entity IFC4 QQQQQQQQQQQQQQQQQQQQ").err, "velkor: IFC4 has no entity \"QQQQQQQQQQQQQQQQQQQQ\"\n");
 }
 
@@ -169,7 +260,7 @@ TEST_F(DictionaryCommand, WritesAMappingDocumentOfEveryPair) {
 }
 
 TEST_F(DictionaryCommand, ExplainsEverySubcommand) {
-    for (const char* command : {"list", "show", "entity", "diff"}) {
+    for (const char* command : {"list", "show", "entity", "rule", "diff"}) {
         const Outcome help = run(std::string(command) + " --help");
         EXPECT_EQ(help.status, Done) << command;
         EXPECT_THAT(help.out, HasSubstr("Example:\n  velkor dictionary " + std::string(command)));

@@ -1,7 +1,9 @@
-// velkor dictionary list|show|entity|diff
+// velkor dictionary list|show|entity|rule|diff
 
 #include "Commands.h"
+#include "output/DictionaryDiffText.h"
 #include "output/Json.h"
+#include "output/RuleText.h"
 #include "terminal/DisplayText.h"
 #include "terminal/TextTable.h"
 #include "velkor/dictionaries/DictionaryDiff.h"
@@ -20,7 +22,6 @@ namespace {
 
 using sdai::EntityDefinition;
 using sdai::SchemaCounts;
-using sdai::SchemaDefinition;
 using SchemaPointer = DXSdaiDictionaryRepo::SchemaPointer;
 
 constexpr const char* releaseHelp =
@@ -65,6 +66,7 @@ constexpr std::array<CountColumn, 11> countColumns{{
 void runList(CommandContext& context) {
     std::vector<TextTable::Column> columns{{"schema"}};
     for (const CountColumn& column : countColumns) columns.push_back({column.heading, TextTable::Right});
+    columns.push_back({"rules", TextTable::Right});
     TextTable table(columns);
     Json schemas = Json::array();
     for (const std::string& name : DXSdaiDictionaryRepo::TheOne().names()) {
@@ -77,6 +79,9 @@ void runList(CommandContext& context) {
             cells.push_back(std::to_string(count));
             entry[column.member] = count;
         }
+        const RuleCounts rules = ruleCounts(name);
+        cells.push_back(std::to_string(rules.total()));
+        entry["rules"] = countsJson(rules);
         table.add({cells.begin(), cells.end()});
         schemas.push_back(std::move(entry));
     }
@@ -121,7 +126,8 @@ Json entityJson(const EntityFacts& entity) {
             {"subtypes", entity.subtypes},
             {"attributes", std::move(attributes)},
             {"derived_attributes", std::move(derived)},
-            {"uniqueness_rules", std::move(rules)}};
+            {"uniqueness_rules", std::move(rules)},
+            {"rules", rulesJson(entity.rules)}};
 }
 
 void writeEntity(TextSink out, const EntityFacts& entity) {
@@ -143,8 +149,13 @@ void writeEntity(TextSink out, const EntityFacts& entity) {
         out << '\n';
         attributes.write(out);
     }
-    for (const auto& rule : entity.uniquenessRules)
-        out << "unique " << rule.label << ": " << text::joined(rule.attributes, " ") << '\n';
+    TextTable rules({{"rule"}, {"kind"}, {"expected"}});
+    for (const RuleFacts& rule : entity.rules) rules.add({rule.name, word(rule.kind), meaning(rule)});
+    out << '\n';
+    if (rules.empty())
+        out << "no rules\n";
+    else
+        rules.write(out);
 }
 
 void runEntity(CommandContext& context, const std::string& release, const std::string& name) {
@@ -169,87 +180,17 @@ void runEntity(CommandContext& context, const std::string& release, const std::s
     context.err << '\n';
 }
 
-Json changesJson(const std::vector<DictionaryDiff::Change>& changes) {
-    Json result = Json::array();
-    for (const auto& change : changes) {
-        result.push_back({{"name", change.name}, {"before", change.before}, {"after", change.after}});
+void runRule(CommandContext& context, const std::string& release, const std::string& name) {
+    const SchemaPointer schema = chooseSchema(context, release);
+    if (!schema) return;
+    if (const auto rule = ruleNamed(schema->name(), name)) {
+        if (!context.json()) return writeRule(context.out, schema->name(), *rule);
+        Json answer{{"schema", schema->name()}};
+        answer.update(ruleJson(*rule));
+        return writeJson(context.out, answer);
     }
-    return result;
-}
-
-Json itemsJson(const std::vector<DictionaryDiff::Item>& items) {
-    Json result = Json::array();
-    for (const auto& item : items) result.push_back({{"name", item.name}, {"type", item.description}});
-    return result;
-}
-
-Json diffJson(const SchemaDefinition& before, const SchemaDefinition& after, const DictionaryDiff& diff) {
-    Json entities = Json::array(), types = Json::array();
-    for (const auto& entity : diff.changedEntities) {
-        entities.push_back({{"name", entity.name},
-                            {"properties", changesJson(entity.properties)},
-                            {"added_attributes", itemsJson(entity.addedAttributes)},
-                            {"removed_attributes", itemsJson(entity.removedAttributes)},
-                            {"changed_attributes", changesJson(entity.changedAttributes)},
-                            {"reordered", entity.reordered}});
-    }
-    for (const auto& type : diff.changedTypes) {
-        types.push_back({{"name", type.name},
-                         {"kind", type.kind},
-                         {"definition", changesJson(type.definition)},
-                         {"added", type.added},
-                         {"removed", type.removed},
-                         {"reordered", type.reordered}});
-    }
-    return {{"before", before.name()},
-            {"after", after.name()},
-            {"entities", {{"added", diff.addedEntities}, {"removed", diff.removedEntities}, {"changed", entities}}},
-            {"types", {{"added", diff.addedTypes}, {"removed", diff.removedTypes}, {"changed", types}}}};
-}
-
-void writeNames(TextSink out, const char* title, const std::vector<std::string_view>& names) {
-    if (names.empty()) return;
-    out << '\n' << title << '\n';
-    for (const std::string_view name : names) out << "  " << name << '\n';
-}
-
-void writeChanges(TextSink out, const std::vector<DictionaryDiff::Change>& changes) {
-    for (const auto& change : changes) {
-        out << "    ~ " << change.name << ": " << change.before << " -> " << change.after << '\n';
-    }
-}
-
-void writeDiff(TextSink out, const SchemaDefinition& before, const SchemaDefinition& after,
-               const DictionaryDiff& diff) {
-    out << before.name() << " -> " << after.name() << '\n'
-        << "entities: " << diff.addedEntities.size() << " added, " << diff.removedEntities.size() << " removed, "
-        << diff.changedEntities.size() << " changed\n"
-        << "types: " << diff.addedTypes.size() << " added, " << diff.removedTypes.size() << " removed, "
-        << diff.changedTypes.size() << " changed\n";
-    writeNames(out, "added entities", diff.addedEntities);
-    writeNames(out, "removed entities", diff.removedEntities);
-    if (!diff.changedEntities.empty()) out << "\nchanged entities\n";
-    for (const auto& entity : diff.changedEntities) {
-        out << "  " << entity.name << '\n';
-        writeChanges(out, entity.properties);
-        for (const auto& item : entity.addedAttributes)
-            out << "    + " << item.name << ": " << item.description << '\n';
-        for (const auto& item : entity.removedAttributes) {
-            out << "    - " << item.name << ": " << item.description << '\n';
-        }
-        writeChanges(out, entity.changedAttributes);
-        if (entity.reordered) out << "    ~ attributes in another order\n";
-    }
-    writeNames(out, "added types", diff.addedTypes);
-    writeNames(out, "removed types", diff.removedTypes);
-    if (!diff.changedTypes.empty()) out << "\nchanged types\n";
-    for (const auto& type : diff.changedTypes) {
-        out << "  " << type.name << " (" << type.kind << ")\n";
-        writeChanges(out, type.definition);
-        for (const std::string& name : type.added) out << "    + " << name << '\n';
-        for (const std::string& name : type.removed) out << "    - " << name << '\n';
-        if (type.reordered) out << "    ~ in another order\n";
-    }
+    context.status = Findings;
+    context.err << "velkor: " << noSuchRule(schema->name(), name) << '\n';
 }
 
 void runDiff(CommandContext& context, const std::string& first, const std::string& second) {
@@ -259,9 +200,9 @@ void runDiff(CommandContext& context, const std::string& first, const std::strin
     if (!after) return;
     const DictionaryDiff diff = compareDictionaries(*before, *after);
     if (context.json())
-        writeJson(context.out, diffJson(*before, *after, diff));
+        writeJson(context.out, diffJson(before->name(), after->name(), diff));
     else
-        writeDiff(context.out, *before, *after, diff);
+        writeDiff(context.out, before->name(), after->name(), diff);
 }
 
 /// Appends a pair of releases that the version mapping knows; false after saying why not.
@@ -334,12 +275,20 @@ void addDictionaryCommand(const Command& app, CommandContext& context) {
     which.addFlag("--statements", arguments->statements, "What is stated about the numbered declarations");
     context.complete(show, [&context, arguments] { runShow(context, arguments->release, arguments->declarations); });
 
-    const Command entity =
-        addSubcommand(dictionary, "entity", "One entity with its inherited attributes, as instances hold them",
-                      "velkor dictionary entity 4x3 IfcWall");
+    const Command entity = addSubcommand(
+        dictionary, "entity", "One entity with its inherited attributes, as instances hold them, and its rules",
+        "velkor dictionary entity 4x3 IfcWall");
     entity.addOption("release", arguments->release, releaseHelp).required();
     entity.addOption("entity", arguments->other, "Name of an entity, in any letter case").required();
     context.complete(entity, [&context, arguments] { runEntity(context, arguments->release, arguments->other); });
+
+    const Command rule = addSubcommand(dictionary, "rule", "One rule of a release: what it says, and who states it",
+                                       "velkor dictionary rule IFC4 IfcWall.CorrectPredefinedType");
+    rule.addOption("release", arguments->release, releaseHelp).required();
+    rule.addOption("rule", arguments->other,
+                   "Owner and label, or a label or global rule alone that no other has; in any letter case")
+        .required();
+    context.complete(rule, [&context, arguments] { runRule(context, arguments->release, arguments->other); });
 
     const Command diff = addSubcommand(dictionary, "diff", "What changed from one release to another",
                                        "velkor dictionary diff IFC2X3 IFC4");

@@ -1,5 +1,7 @@
 #include "velkor/dictionaries/DictionaryDiff.h"
 
+#include "RuleDiff.h"
+
 #include <algorithm>
 #include <map>
 
@@ -155,6 +157,7 @@ DictionaryDiff compareDictionaries(const sdai::SchemaDefinition& before, const s
                 compareEntities);
     compareSets(before.definedTypes(), after.definedTypes(), diff.addedTypes, diff.removedTypes, diff.changedTypes,
                 compareTypes);
+    compareRules(before.name(), after.name(), diff);
     return diff;
 }
 

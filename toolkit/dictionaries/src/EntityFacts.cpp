@@ -13,10 +13,15 @@ EntityFacts::Attribute factsOf(const sdai::Attribute& attribute, bool isDerived,
         position};
 }
 
+void addRules(const sdai::EntityDefinition& entity, std::vector<RuleFacts>& rules) {
+    if (entity.supertype() != nullptr) addRules(*entity.supertype(), rules);
+    for (RuleFacts& rule : rulesOf(entity.schema().name(), entity.name())) rules.push_back(std::move(rule));
+}
+
 } // namespace
 
 EntityFacts entityFacts(const sdai::EntityDefinition& entity) {
-    EntityFacts facts{entity.schema().name(), entity.name(), entity.isAbstract(), {}, {}, {}, {}};
+    EntityFacts facts{entity.schema().name(), entity.name(), entity.isAbstract(), {}, {}, {}, {}, {}};
     for (const auto* up = entity.supertype(); up != nullptr; up = up->supertype())
         facts.supertypes.push_back(up->name());
     for (const sdai::EntityDefinition* subtype : entity.subtypes()) facts.subtypes.push_back(subtype->name());
@@ -29,6 +34,7 @@ EntityFacts entityFacts(const sdai::EntityDefinition& entity) {
         told.label = rule.label;
         for (const sdai::Attribute* attribute : rule.attributes) told.attributes.push_back(attribute->name());
     }
+    addRules(entity, facts.rules);
     return facts;
 }
 

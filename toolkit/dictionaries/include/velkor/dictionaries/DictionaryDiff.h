@@ -4,6 +4,7 @@
 ///     for (const auto& entity : diff.changedEntities) show(entity.name, entity.addedAttributes);
 #pragma once
 
+#include "velkor/rules/RuleCatalogue.h"
 #include "velkor/sdai/Dictionary.h"
 #include "velkor/ToolkitExport.h"
 
@@ -49,12 +50,25 @@ struct DictionaryDiff {
         std::vector<Change> definition;
     };
 
+    /// A rule that stands under another label in the second schema.
+    struct RenamedRule {
+        std::string before;
+        std::string after;
+    };
+
     std::vector<std::string_view> addedEntities;
     std::vector<std::string_view> removedEntities;
     std::vector<Entity> changedEntities;
     std::vector<std::string_view> addedTypes;
     std::vector<std::string_view> removedTypes;
     std::vector<Type> changedTypes;
+    /// Those of entities and types that only one schema has as well. Line breaks, letter case and the schema's name in
+    /// qualified names make no difference between two rules.
+    std::vector<RuleFacts> addedRules;
+    std::vector<RuleFacts> removedRules;
+    /// Of the same owner and label; before and after are EXPRESS texts.
+    std::vector<Change> changedRules;
+    std::vector<RenamedRule> renamedRules;
 };
 
 /// Everything in alphabetical order; names are views into the schemas' texts. In

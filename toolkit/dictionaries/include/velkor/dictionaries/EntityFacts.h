@@ -5,6 +5,7 @@
 ///     else suggest(nearestEntities(schema, "IfcWall"));
 #pragma once
 
+#include "velkor/rules/RuleCatalogue.h"
 #include "velkor/sdai/Dictionary.h"
 #include "velkor/ToolkitExport.h"
 
@@ -42,7 +43,10 @@ struct EntityFacts {
     std::vector<std::string_view> subtypes;
     /// In the order of an instance's values; behind them those that have no value there.
     std::vector<Attribute> attributes;
+    /// Those that the dictionary carries.
     std::vector<UniquenessRule> uniquenessRules;
+    /// All that instances have to keep, those of the root first.
+    std::vector<RuleFacts> rules;
 };
 
 /// In proportion to the attributes of the entity and the depth of its tree.
