@@ -177,9 +177,9 @@ private:
 
     // Whether something is of a type, one of several values, or a member.
     Sentence membership(const Expression& member, const Expression& whole, bool holds) {
-        if (isCall(whole, "TYPEOF") && member.kind == Kind::String) {
-            const std::string name = qualifiedName(member, _names);
-            const std::string kind = withArticle(name.empty() ? member.text : name);
+        if (isCall(whole, "TYPEOF")) {
+            const bool isPlain = member.kind == Kind::String && qualifiedName(member, _names).empty();
+            const std::string kind = withArticle(isPlain ? member.text : text(member));
             return simple(text(*whole.operands[0]), "is " + kind, "is not " + kind, holds);
         }
         if (whole.kind == Kind::Aggregate && !whole.operands.empty()) {
