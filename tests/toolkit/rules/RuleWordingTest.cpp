@@ -1,5 +1,5 @@
-#include "ExpressReader.h"
 #include "RuleWording.h"
+#include "ExpressReader.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -52,7 +52,8 @@ TEST(RuleWording, SaysWhatThereIs) {
         {"NOT(EXISTS(SELF\\IfcRoot.Name))", "Name is not given"},
         {"'IFC4.IFCWALL' IN TYPEOF(Item)", "Item is an IfcWall"},
         {"NOT('IFC4.' + 'IFCSLAB' IN TYPEOF(Item))", "Item is not an IFCSLAB"},
-        {"SIZEOF(['IFC4.IFCWALL', 'IFC4.IFCSLAB'] * TYPEOF(Item\\IfcX.Part)) = 1", "Item.Part is an IfcWall or IFCSLAB"},
+        {"SIZEOF(['IFC4.IFCWALL', 'IFC4.IFCSLAB'] * TYPEOF(Item\\IfcX.Part)) = 1",
+         "Item.Part is an IfcWall or IFCSLAB"},
         {"SIZEOF(TYPEOF(Item) * ['IFC4.IFCWALL', 'IFC4.IFCSLAB']) = 0", "Item is not an IfcWall or IFCSLAB"},
         {"TYPEOF(A) <> TYPEOF(B)", "A is of another type than B"},
         {"SIZEOF(Parts) = 0", "Parts is empty"},

@@ -21,14 +21,11 @@ struct RoleName {
     std::string_view attribute;
 };
 
-/// Nothing when the text is not of the form or names another schema. "\x01" stands for the schema.
-std::optional<RoleName> roleName(std::string_view text, std::string_view schema) noexcept {
-    const std::size_t first = text.find('.');
-    if (first == std::string_view::npos) return std::nullopt;
-    const std::string_view named = text.substr(0, first);
-    const std::size_t second = text.find('.', first + 1);
-    if ((named != schema && named != "\x01") || second == std::string_view::npos) return std::nullopt;
-    return RoleName{text.substr(first + 1, second - first - 1), text.substr(second + 1)};
+/// Nothing when the text is not of the form ENTITY.ATTRIBUTE.
+std::optional<RoleName> roleName(std::string_view text) noexcept {
+    const std::size_t dot = text.find('.');
+    if (dot == std::string_view::npos) return std::nullopt;
+    return RoleName{text.substr(0, dot), text.substr(dot + 1)};
 }
 
 /// The text of the store that is equal to one; noText when none is.
@@ -75,7 +72,7 @@ void RoleIndex::Builder::chooseRoles() {
         if (isHeld.back()) names.emplace_back(inverse.user, inverse.attribute);
     }
     for (const TextId text : needs.roles) {
-        const auto name = roleName(program.store().text(text), index._schema);
+        const auto name = roleName(program.store().text(text));
         if (!name) continue;
         const TextId entity = textNamed(program.store(), name->entity);
         const TextId attribute = textNamed(program.store(), name->attribute);
@@ -163,7 +160,7 @@ void RoleIndex::Builder::take(Part21Lexer& lexer, std::uint32_t user, std::vecto
     }
 }
 
-RoleIndex::RoleIndex(const RuleProgram& program) : _store(program.store()), _schema(program.model().schema().name()) {
+RoleIndex::RoleIndex(const RuleProgram& program) : _store(program.store()) {
     Builder builder(*this, program);
     builder.chooseRoles();
     builder.planEntities();
@@ -222,7 +219,7 @@ std::span<const std::uint32_t> RoleIndex::users(TextId entity, TextId attribute,
 
 std::optional<std::span<const std::uint32_t>> RoleIndex::users(std::string_view role,
                                                                std::uint32_t number) const noexcept {
-    const auto name = roleName(role, _schema);
+    const auto name = roleName(role);
     if (!name) return std::nullopt;
     for (const Role& held : _roles) {
         if (_store.text(held.entity) == name->entity && _store.text(held.attribute) == name->attribute)

@@ -24,7 +24,7 @@ public:
     std::span<const std::uint32_t> users(std::uint16_t role, std::uint32_t number) const noexcept;
     /// The same for any entity and attribute, for USEDIN; empty for what is no role.
     std::span<const std::uint32_t> users(TextId entity, TextId attribute, std::uint32_t number) const noexcept;
-    /// The same for a role as USEDIN names it, 'SCHEMA.ENTITY.ATTRIBUTE'; nothing for what no code asks for.
+    /// The same for a role as USEDIN has it, 'ENTITY.ATTRIBUTE'; nothing for what no code asks for.
     std::optional<std::span<const std::uint32_t>> users(std::string_view role, std::uint32_t number) const noexcept;
 
     std::size_t memoryUse() const noexcept;
@@ -50,7 +50,6 @@ private:
     std::uint16_t roleOf(TextId entity, TextId attribute) const noexcept;
 
     const RuleStore& _store;
-    std::string_view _schema;
     // Sorted by entity and attribute.
     std::vector<Role> _roles;
     // By position in the tables' inverseAttributes.
