@@ -155,6 +155,10 @@ TEST_F(DictionaryCommand, ShowsARule) {
         const Outcome shown = run("rule 4x3 " + name + " --format json");
         EXPECT_EQ(shown.status == Done ? parsed(shown)["kind"] : "none", kind) << name;
     }
+    const json all = parsed(run("rule 4x4 --format json"));
+    EXPECT_EQ(all["rules"].size(), parsed(run("list --format json"))["schemas"][7]["rules"]["total"]);
+    EXPECT_EQ(all["rules"][0]["kind"], "unique");
+    EXPECT_THAT(run("rule 4x4").out, HasSubstr("\nIfcRoot.UR1 "));
     // A bracket that is too long for its line stands further in; a known fault and its source are told.
     const std::string clipping = run("rule 4 IfcBooleanClippingResult.FirstOperandType").out;
     EXPECT_THAT(clipping, AllOf(HasSubstr("\n    OR ('IFC4.IFCSWEPTDISCSOLID' IN TYPEOF(FirstOperand))\n"),

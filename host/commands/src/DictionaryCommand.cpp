@@ -149,13 +149,8 @@ void writeEntity(TextSink out, const EntityFacts& entity) {
         out << '\n';
         attributes.write(out);
     }
-    TextTable rules({{"rule"}, {"kind"}, {"expected"}});
-    for (const RuleFacts& rule : entity.rules) rules.add({rule.name, word(rule.kind), meaning(rule)});
     out << '\n';
-    if (rules.empty())
-        out << "no rules\n";
-    else
-        rules.write(out);
+    writeRules(out, entity.rules);
 }
 
 void runEntity(CommandContext& context, const std::string& release, const std::string& name) {
@@ -183,6 +178,11 @@ void runEntity(CommandContext& context, const std::string& release, const std::s
 void runRule(CommandContext& context, const std::string& release, const std::string& name) {
     const SchemaPointer schema = chooseSchema(context, release);
     if (!schema) return;
+    if (name.empty()) {
+        const std::vector<RuleFacts> rules = rulesOf(schema->name());
+        if (!context.json()) return writeRules(context.out, rules);
+        return writeJson(context.out, {{"schema", schema->name()}, {"rules", rulesJson(rules)}});
+    }
     if (const auto rule = ruleNamed(schema->name(), name)) {
         if (!context.json()) return writeRule(context.out, schema->name(), *rule);
         Json answer{{"schema", schema->name()}};
@@ -282,12 +282,12 @@ void addDictionaryCommand(const Command& app, CommandContext& context) {
     entity.addOption("entity", arguments->other, "Name of an entity, in any letter case").required();
     context.complete(entity, [&context, arguments] { runEntity(context, arguments->release, arguments->other); });
 
-    const Command rule = addSubcommand(dictionary, "rule", "One rule of a release: what it says, and who states it",
-                                       "velkor dictionary rule IFC4 IfcWall.CorrectPredefinedType");
+    const Command rule =
+        addSubcommand(dictionary, "rule", "One rule of a release, what it says and who states it; or all of them",
+                      "velkor dictionary rule IFC4 IfcWall.CorrectPredefinedType");
     rule.addOption("release", arguments->release, releaseHelp).required();
     rule.addOption("rule", arguments->other,
-                   "Owner and label, or a label or global rule alone that no other has; in any letter case")
-        .required();
+                   "Owner and label, or a label or global rule alone that no other has; in any letter case");
     context.complete(rule, [&context, arguments] { runRule(context, arguments->release, arguments->other); });
 
     const Command diff = addSubcommand(dictionary, "diff", "What changed from one release to another",

@@ -3,6 +3,7 @@
 #include "output/ExpressText.h"
 #include "terminal/DisplayText.h"
 #include "terminal/Page.h"
+#include "terminal/TextTable.h"
 #include "velkor/text/Unicode.h"
 #include "velkor/text/Wording.h"
 
@@ -47,6 +48,15 @@ std::string noSuchRule(std::string_view schema, std::string_view name) {
     }
     const auto nearest = nearestRules(schema, name);
     return nearest.empty() ? told : told + "; nearest: " + text::joined(nearest);
+}
+
+void writeRules(TextSink out, const std::vector<RuleFacts>& rules) {
+    TextTable table({{"rule"}, {"kind"}, {"expected"}});
+    for (const RuleFacts& rule : rules) table.add({rule.name, word(rule.kind), meaning(rule)});
+    if (table.empty())
+        out << "no rules\n";
+    else
+        table.write(out);
 }
 
 void writeRule(TextSink out, std::string_view schema, const RuleFacts& rule) {

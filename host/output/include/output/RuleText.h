@@ -19,6 +19,8 @@ std::string_view meaning(const RuleFacts& rule);
 /// That a release has no rule, or several, of a name, and which may be meant.
 std::string noSuchRule(std::string_view schema, std::string_view name);
 
+/// A row for each, or "no rules".
+void writeRules(TextSink out, const std::vector<RuleFacts>& rules);
 /// Everything about one rule, its EXPRESS text in lines.
 void writeRule(TextSink out, std::string_view schema, const RuleFacts& rule);
 
