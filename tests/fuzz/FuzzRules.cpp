@@ -1,5 +1,5 @@
-// Any bytes as a model, judged by the rules of its release: whatever stands in it, all jobs come to the same findings, in file
-// order, and none of them takes its time without bound.
+// Any bytes as a model, judged by the rules of its release: whatever stands in it, all jobs come to the same findings,
+// in file order, and none of them takes its time without bound.
 
 #include "velkor/rules/RuleCheck.h"
 
@@ -33,13 +33,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     options.limit = limit;
     options.jobs = 1;
     const velkor::RuleCheckResult alone = velkor::checkRules(**model, options);
-    require(alone.isComplete && alone.problems.size() == std::min<std::uint64_t>(alone.total, limit), "problems were lost");
+    require(alone.isComplete && alone.problems.size() == std::min<std::uint64_t>(alone.total, limit),
+            "problems were lost");
     require(std::ranges::is_sorted(alone.problems, {}, &velkor::sdai::Problem::offset), "problems are out of order");
     options.jobs = 3;
     const velkor::RuleCheckResult shared = velkor::checkRules(**model, options);
     require(shared.total == alone.total && std::ranges::equal(shared.problems, alone.problems, isSame),
             "jobs have come to other findings");
-    require(shared.coverage.judgements == alone.coverage.judgements && shared.coverage.unknown == alone.coverage.unknown,
+    require(shared.coverage.judgements == alone.coverage.judgements &&
+                shared.coverage.unknown == alone.coverage.unknown,
             "jobs have judged something else");
     return 0;
 }

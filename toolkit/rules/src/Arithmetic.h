@@ -1,5 +1,5 @@
-/// Arithmetic of numbers, and texts compared with patterns (ISO 10303-11, 12.1 and 12.2.5). What overflows, divides by zero
-/// or is no finite number is indeterminate, and so is what operands of other kinds give.
+/// Arithmetic of numbers, and texts compared with patterns (ISO 10303-11, 12.1 and 12.2.5). What overflows, divides by
+/// zero or is no finite number is indeterminate, and so is what operands of other kinds give.
 #pragma once
 
 #include "Evaluation.h"

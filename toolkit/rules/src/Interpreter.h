@@ -101,7 +101,8 @@ private:
 
     void pushAttribute(const Value& receiver, TextId name);
     void pushDerived(const Value& receiver, TextId name, std::uint16_t index, std::size_t read);
-    Value explicitAttribute(const Value& receiver, const sdai::EntityDefinition& entity, TextId name, std::uint16_t slot);
+    Value explicitAttribute(const Value& receiver, const sdai::EntityDefinition& entity, TextId name,
+                            std::uint16_t slot);
     Value inverse(std::uint32_t instance, const InverseAttribute& attribute, std::uint16_t role);
     Value usersOf(std::span<const std::uint32_t> users, AggregateKind kind);
     Value indexed(const Value& aggregate, const Value& index);

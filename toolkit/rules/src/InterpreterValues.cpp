@@ -164,8 +164,8 @@ void Interpreter::storePart() {
     *place = value;
 }
 
-/// The part of a variable that a step leads to, where it may be changed; null, and the variable without a value there, when
-/// there is no such part.
+/// The part of a variable that a step leads to, where it may be changed; null, and the variable without a value there,
+/// when there is no such part.
 Value* Interpreter::step(Value& place, std::uint16_t step, const Value& index) {
     if (step == stepIndex) return memberToStore(place, index);
     makeWritable(place);
@@ -216,8 +216,7 @@ void Interpreter::makeWritable(Value& place) {
     EntityValue& copy = _evaluation.makeEntity(*definition);
     copy.holding = Holding::One;
     for (std::size_t i = 0; i < definition->attributes().size(); ++i) {
-        copy.slots[i] =
-            isShared ? place.entity().slots[i] : _reader.attribute(place.instance(), *definition, i);
+        copy.slots[i] = isShared ? place.entity().slots[i] : _reader.attribute(place.instance(), *definition, i);
         hold(copy.slots[i]);
     }
     place = Value(copy);

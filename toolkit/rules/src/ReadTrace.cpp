@@ -58,8 +58,8 @@ std::vector<Read> ReadTrace::reads(Interpreter& interpreter) const {
     for (const Note& note : _notes) {
         const sdai::EntityDefinition* entity = _program.model().entityAt(note.instance);
         reads.push_back({_program.model().file().id(note.instance),
-                         entity != nullptr ? entity->name() : std::string_view(),
-                         _program.store().text(note.attribute), shown(note, interpreter)});
+                         entity != nullptr ? entity->name() : std::string_view(), _program.store().text(note.attribute),
+                         shown(note, interpreter)});
     }
     return reads;
 }

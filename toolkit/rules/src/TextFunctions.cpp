@@ -77,7 +77,8 @@ bool fits(const PatternPart& part, std::int32_t character) noexcept {
     return fits != part.isNegated;
 }
 
-/// Positions that the first parts may have led to, all at once: no pattern takes longer than its length times the text's.
+/// Positions that the first parts may have led to, all at once: no pattern takes longer than its length times the
+/// text's.
 class Matcher {
 public:
     Matcher(std::string_view text, Evaluation& evaluation) : _evaluation(evaluation) {
@@ -172,7 +173,8 @@ Value formatted(const Value& number, std::string_view format, Evaluation& evalua
     if (!number.isNumber()) return {};
     std::string result;
     if (format.empty()) {
-        result = number.kind() == ValueKind::Integer ? std::to_string(number.integer()) : text::shortest(number.number());
+        result =
+            number.kind() == ValueKind::Integer ? std::to_string(number.integer()) : text::shortest(number.number());
     } else {
         const auto symbolic = numberFormat(format);
         if (!symbolic) return {};

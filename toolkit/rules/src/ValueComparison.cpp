@@ -92,18 +92,20 @@ Logical ValueComparison::enumerators(const Value& a, const Value& b) const {
     const sdai::EnumerationType* first = enumeration(a);
     const sdai::EnumerationType* second = enumeration(b);
     if (first != nullptr && second != nullptr && first != second) return Logical::False;
-    return rules::logical(std::ranges::equal(a.text(), b.text(), {}, [](char c) { return text::asciiUpper(c); },
-                                             [](char c) { return text::asciiUpper(c); }));
+    return rules::logical(std::ranges::equal(
+        a.text(), b.text(), {}, [](char c) { return text::asciiUpper(c); },
+        [](char c) { return text::asciiUpper(c); }));
 }
 
 Logical ValueComparison::entities(const Value& a, const Value& b, Sense sense) {
-    const bool isSame = a.kind() == b.kind() && (a.kind() == ValueKind::Instance ? a.instance() == b.instance()
-                                                                                 : &a.entity() == &b.entity());
+    const bool isSame = a.kind() == b.kind() &&
+                        (a.kind() == ValueKind::Instance ? a.instance() == b.instance() : &a.entity() == &b.entity());
     if (isSame || sense == Sense::Identity) return rules::logical(isSame);
     const sdai::EntityDefinition* entity = _types.entity(a);
     if (entity == nullptr || entity != _types.entity(b)) return Logical::False;
     for (const auto& [first, second] : _compared) {
-        if (entities(first, a, Sense::Identity) == Logical::True && entities(second, b, Sense::Identity) == Logical::True)
+        if (entities(first, a, Sense::Identity) == Logical::True &&
+            entities(second, b, Sense::Identity) == Logical::True)
             return Logical::True;
     }
     if (_compared.size() == deepest) throw BoundReached();
@@ -143,7 +145,8 @@ Logical ValueComparison::aggregates(Aggregate& a, Aggregate& b, Sense sense) {
 
 Logical ValueComparison::inOrder(std::span<const Value> a, std::span<const Value> b, Sense sense) {
     Logical result = Logical::True;
-    for (std::size_t i = 0; i < a.size() && result != Logical::False; ++i) result = both(result, compare(a[i], b[i], sense));
+    for (std::size_t i = 0; i < a.size() && result != Logical::False; ++i)
+        result = both(result, compare(a[i], b[i], sense));
     return result;
 }
 

@@ -1,5 +1,5 @@
-/// Comparison of values: by value and by instance (ISO 10303-11, 12.2), membership and order. UNKNOWN where one of them is
-/// indeterminate or the two are of kinds that do not compare.
+/// Comparison of values: by value and by instance (ISO 10303-11, 12.2), membership and order. UNKNOWN where one of them
+/// is indeterminate or the two are of kinds that do not compare.
 #pragma once
 
 #include "ValueTypes.h"

@@ -132,7 +132,8 @@ Value ValueReader::reference(const Token& token, const sdai::Type& resolved) con
     if (entity == nullptr) return {};
     const sdai::EntityDefinition* wanted = resolved.asEntity();
     const sdai::SelectType* select = resolved.asSelect();
-    const bool fits = (wanted != nullptr && entity->isKindOf(*wanted)) || (select != nullptr && select->accepts(*entity));
+    const bool fits =
+        (wanted != nullptr && entity->isKindOf(*wanted)) || (select != nullptr && select->accepts(*entity));
     return fits ? Value::ofInstance(*number) : Value();
 }
 

@@ -1,7 +1,7 @@
 /// Reads values of an open model as their declared types have them, straight from the text of the file.
 ///
-/// What does not fit its type, a dangling reference or one to a wrong entity included, is indeterminate: the check against
-/// the dictionary reports it.
+/// What does not fit its type, a dangling reference or one to a wrong entity included, is indeterminate: the check
+/// against the dictionary reports it.
 #pragma once
 
 #include "Evaluation.h"

@@ -15,8 +15,8 @@ public:
 
     /// Whether a type of the dictionary is among the value's.
     bool includes(const Value& value, const sdai::Type& named) const;
-    /// All of them in the dictionary: the entity and its supertypes, or the defined type and those that it is made of, and
-    /// every select that takes one of these, at any depth.
+    /// All of them in the dictionary: the entity and its supertypes, or the defined type and those that it is made of,
+    /// and every select that takes one of these, at any depth.
     std::span<const sdai::Type* const> of(const Value& value);
     /// Names of the built-in types that the value is of.
     static std::span<const std::string_view> builtIn(const Value& value) noexcept;
