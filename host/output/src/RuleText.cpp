@@ -35,16 +35,16 @@ std::string noSuchRule(std::string_view schema, std::string_view name) {
     const std::string told = std::string(schema) + " has no rule " + text::quoted(name);
     if (const auto stated = rulesOf(schema, name); !stated.empty())
         return told + "; it states: " + text::joined(stated, ", ", &RuleFacts::name);
-    std::size_t alike = 0;
-    std::string label = '.' + std::string(name);
+    std::vector<std::string> alike;
+    const std::string label = '.' + std::string(name);
     for (const RuleFacts& rule : rulesOf(schema)) {
         const std::string_view whole = rule.name;
         if (whole.size() > label.size() && text::equalIgnoringCase(whole.substr(whole.size() - label.size()), label))
-            ++alike;
+            alike.push_back(rule.name);
     }
-    if (alike > 1) {
-        return text::counted(alike, "rule", "rules") + " of " + std::string(schema) + " are called " +
-               text::quoted(name) + "; expected its owner as well: IfcWall." + std::string(name);
+    if (alike.size() > 1) {
+        return text::counted(alike.size(), "rule", "rules") + " of " + std::string(schema) + " are called " +
+               text::quoted(name) + "; expected the owner as well: " + alike.front();
     }
     const auto nearest = nearestRules(schema, name);
     return nearest.empty() ? told : told + "; nearest: " + text::joined(nearest);
