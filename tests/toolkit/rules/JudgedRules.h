@@ -57,8 +57,8 @@ constexpr char letter(rules::Verdict verdict) {
     return "TFU!"[static_cast<int>(verdict)];
 }
 
-/// Expects of each expression of a table, a line each, the verdict that stands before it: T holds, F broken, U unknown, !
-/// not decided. The expressions are WHERE rules of an entity Probe with these attributes, judged on instance #1.
+/// Expects of each expression of a table, a line each, the verdict that stands before it: T holds, F broken, U unknown,
+/// ! not decided. The expressions are WHERE rules of an entity Probe with these attributes, judged on instance #1.
 inline void expectVerdicts(const std::string& declarations, const std::string& attributes, const std::string& instances,
                            std::string_view table) {
     std::vector<std::pair<char, std::string>> cases;

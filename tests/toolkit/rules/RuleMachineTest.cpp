@@ -278,12 +278,12 @@ TEST(RuleMachine, JoinsAndComparesAggregates) {
 }
 
 TEST(RuleMachine, KnowsTypesOfValues) {
-    test::expectVerdicts(
-        shapes,
-        "P : Positive; M : Measure; A : Anything; E : Shape; C : Colour; T : Tone; B : BOOLEAN; G : Angle; I : INTEGER;",
-        "#1=PROBE(1.5,LABEL('x'),#6,#5,.RED.,.RED.,.T.,(1,2,3),4);"
-        "#2=POINT((0.,0.));#5=LINE((#2,#2),#2,$);#6=RAY((#2,#2),#2,*);",
-        R"(
+    test::expectVerdicts(shapes,
+                         "P : Positive; M : Measure; A : Anything; E : Shape; C : Colour; T : Tone; B : BOOLEAN; G : "
+                         "Angle; I : INTEGER;",
+                         "#1=PROBE(1.5,LABEL('x'),#6,#5,.RED.,.RED.,.T.,(1,2,3),4);"
+                         "#2=POINT((0.,0.));#5=LINE((#2,#2),#2,$);#6=RAY((#2,#2),#2,*);",
+                         R"(
         T 'SAMPLE.POSITIVE' IN TYPEOF(P)
         T 'SAMPLE.LENGTH' IN TYPEOF(P)
         T 'SAMPLE.MEASURE' IN TYPEOF(P)
@@ -426,14 +426,17 @@ TEST(RuleMachine, RunsStatements) {
         "  RETURN (p); END_FUNCTION;\n"
         "FUNCTION Named(n : INTEGER) : STRING; CASE n OF 1 : RETURN ('one'); 2, 3 : RETURN ('few');\n"
         "  OTHERWISE : RETURN ('many'); END_CASE; END_FUNCTION;\n"
-        "FUNCTION Faculty(n : INTEGER) : INTEGER; IF n <= 1 THEN RETURN (1); ELSE RETURN (n * Faculty(n - 1)); END_IF;\n"
+        "FUNCTION Faculty(n : INTEGER) : INTEGER; IF n <= 1 THEN RETURN (1); ELSE RETURN (n * Faculty(n - 1)); "
+        "END_IF;\n"
         "  END_FUNCTION;\n"
         "FUNCTION Nothing(n : INTEGER) : INTEGER; n := n + 1; END_FUNCTION;\n"
-        "FUNCTION Squares(n : INTEGER) : ARRAY OF INTEGER; LOCAL a : ARRAY [0:n] OF INTEGER := [0 : n + 1]; END_LOCAL;\n"
+        "FUNCTION Squares(n : INTEGER) : ARRAY OF INTEGER; LOCAL a : ARRAY [0:n] OF INTEGER := [0 : n + 1]; "
+        "END_LOCAL;\n"
         "  REPEAT i := 0 TO n; a[i] := i * i; END_REPEAT; RETURN (a); END_FUNCTION;\n"
         "FUNCTION Copies(l : LIST OF INTEGER) : INTEGER; LOCAL a, b : LIST OF INTEGER; END_LOCAL;\n"
         "  a := l; b := a; b[1] := 100; a[2] := 200; RETURN (a[1] + b[2] + l[1] + l[2]); END_FUNCTION;\n"
-        "FUNCTION Nested(n : INTEGER) : INTEGER; LOCAL a, b : LIST OF LIST OF INTEGER; c : LIST OF INTEGER; END_LOCAL;\n"
+        "FUNCTION Nested(n : INTEGER) : INTEGER; LOCAL a, b : LIST OF LIST OF INTEGER; c : LIST OF INTEGER; "
+        "END_LOCAL;\n"
         "  c := [n]; a := [c, c]; b := a; b[1][1] := 7; a[2][1] := 9; c[1] := 11;\n"
         "  RETURN (a[1][1] + a[2][1] * 10 + b[1][1] * 100 + b[2][1] * 1000 + c[1] * 10000); END_FUNCTION;\n"
         "FUNCTION Moved(p : Point) : REAL; LOCAL q : Point := p; END_LOCAL;\n"
@@ -443,6 +446,13 @@ TEST(RuleMachine, RunsStatements) {
         "  l[1] := n; l[2] := n + 1; RETURN (SIZEOF(l) * 100 + l[2]); END_FUNCTION;\n"
         "FUNCTION Beyond(n : INTEGER) : INTEGER; LOCAL l : LIST OF INTEGER := [1]; END_LOCAL;\n"
         "  l[5] := n; RETURN (SIZEOF(l)); END_FUNCTION;\n"
+        "FUNCTION Gathered(n : INTEGER) : SET OF INTEGER; LOCAL s : SET OF INTEGER := []; END_LOCAL;\n"
+        "  REPEAT i := 1 TO n; s := s + i; s := s + (i MOD 100); s := s + [i, n]; END_REPEAT; RETURN (s); "
+        "END_FUNCTION;\n"
+        "FUNCTION Grown(n : INTEGER) : INTEGER; LOCAL a, b, c : LIST OF INTEGER := [1]; d : SET OF INTEGER := []; "
+        "END_LOCAL;\n"
+        "  a := a + n; b := a; a := a + n; c := a; c := c + c; d := d + 1; d := d + 2; d[1] := 2; d := d + 1;\n"
+        "  RETURN (SIZEOF(a) + 10 * SIZEOF(b) + 100 * SIZEOF(c) + 1000 * SIZEOF(d)); END_FUNCTION;\n"
         "FUNCTION Put(n : INTEGER) : LIST OF INTEGER; LOCAL l : LIST OF INTEGER := [1, 2]; END_LOCAL;\n"
         "  INSERT(l, n, 0); INSERT(l, n, 2); REMOVE(l, 4); RETURN (l); END_FUNCTION;\n"
         "PROCEDURE Raise(VAR n : INTEGER; by : INTEGER); n := n + by; END_PROCEDURE;\n"
@@ -467,6 +477,8 @@ TEST(RuleMachine, RunsStatements) {
         T P.Coordinates[1] = 1.
         T Started(4) = 205
         U Beyond(4) = 1
+        T SIZEOF(Gathered(20000)) = 20001
+        T Grown(5) = 3623
         T Put(9) = [9, 1, 9]
         T Raised(3) = 10)");
 }
@@ -477,8 +489,8 @@ TEST(RuleMachine, JudgesValuesAndPopulations) {
                                  "W3 : SIZEOF(QUERY(p <* Point | p.Dim = 3)) = 2; END_RULE;",
                              std::string(points) + "#5=LINE((#2,#3),#3,$);#6=RAY((#2,#3),#3,*);#7=(POINT()LINE());");
     const auto verdict = [&](const char* type, const char* encoded) {
-        return test::letter(judged.machine().judgeValue(judged.code(type, "WR1"),
-                                                  *judged.model().schema().definedType(type), encoded));
+        return test::letter(
+            judged.machine().judgeValue(judged.code(type, "WR1"), *judged.model().schema().definedType(type), encoded));
     };
     EXPECT_EQ(verdict("POSITIVE", "1.5,$"), 'T');
     EXPECT_EQ(verdict("POSITIVE", " 0)"), 'F');

@@ -1,7 +1,7 @@
 #include "AggregateAlgebra.h"
 
 #include <algorithm>
-#include <limits>
+#include <new>
 
 namespace velkor::rules {
 
@@ -58,6 +58,23 @@ Value AggregateAlgebra::sum(const Value& a, const Value& b) {
     if (kind == Kind::Array) return {};
     if (a.isAggregate()) return made(appended(kind, _reader.members(a.aggregate()), {&b, 1}));
     return made(appended(kind, {&a, 1}, _reader.members(b.aggregate())));
+}
+
+Value AggregateAlgebra::extended(const Value& a, const Value& b) {
+    Aggregate& aggregate = a.aggregate();
+    const auto kind = kindOfSum(aggregate.kind, b.isAggregate() ? b.aggregate().kind : aggregate.kind);
+    if (kind != aggregate.kind) return sum(a, b);
+    const std::span<const Value> added = b.isAggregate() ? _reader.members(b.aggregate()) : std::span(&b, 1);
+    const auto members = _reader.members(aggregate);
+    _evaluation.spend(added.size());
+    if (*kind == Kind::Set && aggregate.seen == nullptr) {
+        aggregate.seen = new (_evaluation.room<ValueSet>(1)) ValueSet(members.size(), _evaluation, _comparison);
+        for (const Value& member : members) aggregate.seen->addAnother(member);
+    }
+    for (const Value& value : added) {
+        if (*kind != Kind::Set || aggregate.seen->add(value)) _evaluation.append(aggregate, value);
+    }
+    return a;
 }
 
 Value AggregateAlgebra::difference(const Value& a, const Value& b) {

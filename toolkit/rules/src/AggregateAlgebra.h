@@ -15,6 +15,8 @@ public:
 
     /// "a + b"; one of them may be an element.
     Value sum(const Value& a, const Value& b);
+    /// The same with a, an aggregate that nobody else holds, made the answer: adding one by one takes linear time.
+    Value extended(const Value& a, const Value& b);
     /// "a - b"; b may be an element.
     Value difference(const Value& a, const Value& b);
     /// "a * b"

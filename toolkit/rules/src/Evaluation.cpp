@@ -33,16 +33,20 @@ Aggregate& Evaluation::makeAggregate(AggregateKind kind, std::size_t capacity) {
 }
 
 void Evaluation::append(Aggregate& aggregate, const Value& member) {
-    if (aggregate.size == aggregate.capacity) {
-        const std::size_t capacity = std::max<std::size_t>(4, std::size_t{2} * aggregate.capacity);
-        if (capacity >= Aggregate::uncounted) throw BoundReached();
-        Value* members = room<Value>(capacity);
-        std::copy_n(aggregate.members, aggregate.size, members);
-        aggregate.members = members;
-        aggregate.capacity = static_cast<std::uint32_t>(capacity);
-    }
+    reserveOne(aggregate);
     hold(member);
-    aggregate.members[aggregate.size++] = member;
+    aggregate.members[aggregate.decoded++] = member;
+    aggregate.size = aggregate.decoded;
+}
+
+void Evaluation::reserveOne(Aggregate& aggregate) {
+    if (aggregate.decoded < aggregate.capacity) return;
+    const std::size_t capacity = std::max<std::size_t>(4, std::size_t{2} * aggregate.capacity);
+    if (capacity >= Aggregate::uncounted) throw BoundReached();
+    Value* members = room<Value>(capacity);
+    std::copy_n(aggregate.members, aggregate.decoded, members);
+    aggregate.members = members;
+    aggregate.capacity = static_cast<std::uint32_t>(capacity);
 }
 
 EntityValue& Evaluation::makeEntity(const sdai::EntityDefinition& entity) {

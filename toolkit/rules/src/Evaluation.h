@@ -30,6 +30,9 @@ public:
         if (_steps > _stepLimit) throw BoundReached();
     }
 
+    /// Lets so many steps more be spent, whatever was spent before.
+    void allow(std::uint64_t steps) noexcept { _stepLimit = _steps + steps; }
+
     /// Room for so many of a type that needs no destructor, not initialised.
     template <class Item>
     Item* room(std::size_t count) {
@@ -41,8 +44,10 @@ public:
 
     /// An aggregate with room for so many members and none yet.
     Aggregate& makeAggregate(AggregateKind kind, std::size_t capacity = 0);
-    /// Puts a member behind those of a decoded aggregate that nobody holds.
+    /// Puts a member behind those of an aggregate that a rule makes.
     void append(Aggregate& aggregate, const Value& member);
+    /// Makes room for one more member than there are decoded.
+    void reserveOne(Aggregate& aggregate);
     EntityValue& makeEntity(const sdai::EntityDefinition& entity);
 
 private:

@@ -142,8 +142,11 @@ void Interpreter::accessVariable(Operation operation) {
         return push(local(operand()));
     case Operation::Store: {
         const Value value = pop();
-        hold(value);
-        local(operand()) = value;
+        Value& variable = local(operand());
+        const bool isSame =
+            value.isAggregate() && variable.isAggregate() && &value.aggregate() == &variable.aggregate();
+        if (!isSame) hold(value);
+        variable = value;
         return;
     }
     case Operation::StorePart:

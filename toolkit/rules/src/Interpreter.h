@@ -38,6 +38,8 @@ public:
     /// An attribute of an instance or entity value, explicit, derived or inverse. Throws BoundReached.
     Value attribute(const Value& receiver, TextId name);
 
+    /// Lets so many steps more be spent on what the evaluation has left.
+    void allow(std::uint64_t steps) noexcept { _evaluation.allow(steps); }
     ValueReader& reader() noexcept { return _reader; }
     ValueTypes& types() noexcept { return _types; }
 
@@ -113,6 +115,7 @@ private:
     Value* step(Value& place, std::uint16_t step, const Value& index);
     Value* memberToStore(Value& place, const Value& index);
 
+    bool isStoredBack(const Value& aggregate) noexcept;
     Value sum(const Value& a, const Value& b);
     Value joined(ValueKind kind, std::string_view a, std::string_view b);
     Value product(Operation operation, const Value& a, const Value& b);

@@ -8,11 +8,10 @@ namespace velkor::rules {
 
 namespace {
 
-/// Position of an index in an aggregate of a size, counted from 0; nothing beyond its bounds.
-std::optional<std::uint32_t> position(const Value& index, std::int64_t lower, std::uint32_t size) noexcept {
+/// Position of an index in an aggregate, counted from 0; nothing before its first member.
+std::optional<std::uint64_t> position(const Value& index, std::int64_t lower) noexcept {
     if (index.kind() != ValueKind::Integer || index.integer() < lower) return std::nullopt;
-    const auto distance = static_cast<std::uint64_t>(index.integer()) - static_cast<std::uint64_t>(lower);
-    return distance < size ? std::optional(static_cast<std::uint32_t>(distance)) : std::nullopt;
+    return static_cast<std::uint64_t>(index.integer()) - static_cast<std::uint64_t>(lower);
 }
 
 } // namespace
@@ -125,9 +124,8 @@ Value Interpreter::indexed(const Value& aggregate, const Value& index) {
     if (aggregate.kind() == ValueKind::String || aggregate.kind() == ValueKind::Binary)
         return slice(aggregate, index, index);
     if (!aggregate.isAggregate()) return {};
-    Aggregate& members = aggregate.aggregate();
-    const auto place = position(index, members.lower, _reader.size(members));
-    return place ? _reader.member(members, *place) : Value();
+    const auto place = position(index, aggregate.aggregate().lower);
+    return place ? _reader.member(aggregate.aggregate(), *place) : Value();
 }
 
 Value Interpreter::slice(const Value& text, const Value& first, const Value& last) const {
@@ -195,8 +193,9 @@ Value* Interpreter::memberToStore(Value& place, const Value& index) {
     const bool grows = aggregate.kind == AggregateKind::List || aggregate.kind == AggregateKind::Initialiser;
     if (grows && index.kind() == ValueKind::Integer && index.integer() == std::int64_t{aggregate.size} + 1)
         _evaluation.append(aggregate, Value());
-    const auto found = position(index, aggregate.lower, aggregate.size);
-    if (found) return &aggregate.members[*found];
+    aggregate.seen = nullptr;
+    const auto found = position(index, aggregate.lower);
+    if (found && *found < aggregate.size) return &aggregate.members[*found];
     place = Value();
     return nullptr;
 }
@@ -222,8 +221,20 @@ void Interpreter::makeWritable(Value& place) {
     place = Value(copy);
 }
 
+/// Whether an aggregate is what a variable alone holds, and the answer is about to take its place: in "x := x + y".
+bool Interpreter::isStoredBack(const Value& aggregate) noexcept {
+    if (!aggregate.isAggregate() || aggregate.aggregate().holding != Holding::One) return false;
+    const std::uint16_t* next = _frame->next;
+    const auto operation = static_cast<Operation>(*next);
+    if (operation == Operation::AsList || operation == Operation::AsSet || operation == Operation::AsBag) ++next;
+    if (static_cast<Operation>(*next) != Operation::Store) return false;
+    const Value& variable = local(next[1]);
+    return variable.isAggregate() && &variable.aggregate() == &aggregate.aggregate();
+}
+
 Value Interpreter::sum(const Value& a, const Value& b) {
     if (a.isNumber() && b.isNumber()) return arithmetic(Operation::Add, a, b);
+    if (isStoredBack(a)) return _algebra.extended(a, b);
     if (a.isAggregate() || b.isAggregate()) return _algebra.sum(a, b);
     if (a.isText() && b.isText()) return joined(ValueKind::String, _comparison.text(a), _comparison.text(b));
     const bool areBinary = a.kind() == ValueKind::Binary && b.kind() == ValueKind::Binary;

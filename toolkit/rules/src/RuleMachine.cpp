@@ -4,6 +4,8 @@
 #include "ReadTrace.h"
 #include "ValueKey.h"
 
+#include <optional>
+
 namespace velkor::rules {
 
 namespace {
@@ -35,7 +37,7 @@ struct RuleMachine::State {
     const RuleProgram& program;
     const RoleIndex& roles;
     Interpreter interpreter;
-    Question last;
+    std::optional<Question> last;
 };
 
 Verdict RuleMachine::State::judge(const Question& asked, ReadObserver* observer) {
@@ -78,8 +80,11 @@ Verdict RuleMachine::judgeGlobal(std::uint32_t code) {
 
 std::vector<Read> RuleMachine::reads(std::size_t most) {
     ReadTrace trace(_state->program, _state->roles, most);
-    _state->judge(State::Question(_state->last), &trace);
+    if (!_state->last) return {};
+    _state->judge(State::Question(*_state->last), &trace);
     try {
+        // What ended the evaluation shall not keep it from being told.
+        _state->interpreter.allow(stepLimit);
         return trace.reads(_state->interpreter);
     } catch (const BoundReached&) {
         return {};

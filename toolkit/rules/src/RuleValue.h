@@ -11,6 +11,7 @@ namespace velkor::rules {
 
 struct Aggregate;
 struct EntityValue;
+class ValueSet;
 
 /// In the order of ISO 10303-11: FALSE < UNKNOWN < TRUE.
 enum class Logical : std::uint8_t { False, Unknown, True };
@@ -113,9 +114,11 @@ struct Aggregate {
 
     AggregateKind kind = AggregateKind::Initialiser;
     Holding holding = Holding::Nobody;
-    /// Members stand in the file, from the "(" in `encoded` on, and are decoded when they are asked for.
+    /// Members behind the first `decoded` ones stand in the file, from `encoded` on, and are decoded when asked for.
     bool isEncoded = false;
+    /// `uncounted` as long as nobody has asked.
     std::uint32_t size = 0;
+    std::uint32_t decoded = 0;
     std::uint32_t capacity = 0;
     /// Index of the first member.
     std::int64_t lower = 1;
@@ -123,6 +126,8 @@ struct Aggregate {
     const sdai::AggregateType* declared = nullptr;
     std::string_view encoded;
     Value* members = nullptr;
+    /// The members of a SET that is being added to; null when nobody has needed them.
+    ValueSet* seen = nullptr;
 
     bool isOrdered() const noexcept { return kind != AggregateKind::Set && kind != AggregateKind::Bag; }
 };

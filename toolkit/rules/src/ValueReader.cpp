@@ -19,17 +19,12 @@ std::string_view from(const char* at, std::string_view text) noexcept {
     return {at, static_cast<std::size_t>(text.data() + text.size() - at)};
 }
 
-/// Calls `take` for each member of an encoded aggregate with the text from it on. `encoded` begins with the "(".
-template <class Take>
-void forEachMember(std::string_view encoded, Take take) {
+/// Takes a member off the text of an aggregate that begins with it. False when it was the last.
+bool takeMember(std::string_view& encoded) {
     Part21Lexer lexer(encoded);
-    lexer.next();
-    const TokenKind first = lexer.peek().kind;
-    if (first == TokenKind::Close || first == TokenKind::End) return;
-    for (;;) {
-        take(from(lexer.position(), encoded));
-        if (!lexer.skipParameter() || lexer.next().kind != TokenKind::Comma) return;
-    }
+    const bool isFollowed = lexer.skipParameter() && lexer.next().kind == TokenKind::Comma;
+    encoded = from(lexer.position(), encoded);
+    return isFollowed;
 }
 
 AggregateKind kindOf(const sdai::AggregateType& type) noexcept {
@@ -146,9 +141,11 @@ Value ValueReader::opened(const Value& value, const sdai::Type& declared) {
     aggregate.kind = kindOf(*aggregate.declared);
     aggregate.lower = aggregate.kind == AggregateKind::Array ? aggregate.declared->lowerBound() : 1;
     aggregate.holding = Holding::Several;
-    aggregate.isEncoded = true;
-    aggregate.encoded = value.text();
-    aggregate.size = Aggregate::uncounted;
+    // Behind the "(".
+    aggregate.encoded = value.text().substr(1);
+    const TokenKind first = Part21Lexer(aggregate.encoded).next().kind;
+    aggregate.isEncoded = first != TokenKind::Close && first != TokenKind::End;
+    aggregate.size = aggregate.isEncoded ? Aggregate::uncounted : 0;
     return Value(aggregate).withType(value.type());
 }
 
@@ -195,38 +192,41 @@ std::string_view ValueReader::parameter(std::uint32_t number, std::size_t slot) 
 
 std::uint32_t ValueReader::size(Aggregate& aggregate) {
     if (aggregate.size != Aggregate::uncounted) return aggregate.size;
-    std::size_t count = 0;
-    std::size_t rest = 0;
-    forEachMember(aggregate.encoded, [&](std::string_view text) {
-        ++count;
-        rest = text.size();
-    });
-    _evaluation.spend(1 + (aggregate.encoded.size() - rest) / bytesPerStep);
+    std::string_view rest = aggregate.encoded;
+    std::size_t count = aggregate.decoded + std::size_t{1};
+    while (takeMember(rest)) ++count;
+    _evaluation.spend(1 + (aggregate.encoded.size() - rest.size()) / bytesPerStep);
     if (count >= Aggregate::uncounted) throw BoundReached();
     aggregate.size = static_cast<std::uint32_t>(count);
     return aggregate.size;
 }
 
-void ValueReader::decode(Aggregate& aggregate) {
-    if (!aggregate.isEncoded) return;
-    aggregate.capacity = size(aggregate);
-    aggregate.members = _evaluation.room<Value>(aggregate.capacity);
-    _evaluation.spend(aggregate.capacity);
-    Value* next = aggregate.members;
-    const sdai::Type& element = aggregate.declared->element();
-    forEachMember(aggregate.encoded, [&](std::string_view text) { *next++ = read(element, text); });
-    aggregate.isEncoded = false;
+void ValueReader::decodeOne(Aggregate& aggregate) {
+    _evaluation.spend();
+    if (aggregate.capacity == 0 && aggregate.size != Aggregate::uncounted) {
+        aggregate.members = _evaluation.room<Value>(aggregate.size);
+        aggregate.capacity = aggregate.size;
+    }
+    _evaluation.reserveOne(aggregate);
+    aggregate.members[aggregate.decoded] = read(aggregate.declared->element(), aggregate.encoded);
+    ++aggregate.decoded;
+    aggregate.isEncoded = takeMember(aggregate.encoded);
+    if (!aggregate.isEncoded) aggregate.size = aggregate.decoded;
 }
 
-Value ValueReader::member(Aggregate& aggregate, std::uint32_t position) {
-    decode(aggregate);
+Value ValueReader::member(Aggregate& aggregate, std::uint64_t position) {
+    while (aggregate.decoded <= position) {
+        if (!aggregate.isEncoded) return {};
+        decodeOne(aggregate);
+    }
     Value& member = aggregate.members[position];
     if (member.kind() == ValueKind::EncodedAggregate) member = opened(member, aggregate.declared->element());
     return member;
 }
 
 std::span<Value> ValueReader::members(Aggregate& aggregate) {
-    decode(aggregate);
+    if (aggregate.isEncoded) size(aggregate);
+    while (aggregate.isEncoded) decodeOne(aggregate);
     const std::span<Value> members(aggregate.members, aggregate.size);
     if (aggregate.declared == nullptr) return members;
     for (Value& member : members) {

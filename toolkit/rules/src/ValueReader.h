@@ -30,8 +30,8 @@ public:
 
     /// Number of members, counted without decoding them.
     std::uint32_t size(Aggregate& aggregate);
-    /// A member, counted from 0, of those that there are.
-    Value member(Aggregate& aggregate, std::uint32_t position);
+    /// A member, counted from 0; those behind it are not looked at. Indeterminate when there are fewer.
+    Value member(Aggregate& aggregate, std::uint64_t position);
     /// All members, decoded.
     std::span<Value> members(Aggregate& aggregate);
 
@@ -58,7 +58,7 @@ private:
     Value binary(std::string_view token);
     Value reference(const sdai::Token& token, const sdai::Type& resolved) const;
     Value opened(const Value& value, const sdai::Type& declared);
-    void decode(Aggregate& aggregate);
+    void decodeOne(Aggregate& aggregate);
 
     const RuleProgram& _program;
     Evaluation& _evaluation;

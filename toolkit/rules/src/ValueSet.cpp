@@ -5,10 +5,25 @@
 
 namespace velkor::rules {
 
-ValueSet::ValueSet(std::size_t most, Evaluation& evaluation, ValueComparison& comparison)
-    : _evaluation(evaluation), _comparison(comparison), _mask(std::bit_ceil(most + most / 2 + 2) - 1) {
-    _entries = evaluation.room<Entry>(_mask + 1);
-    std::fill_n(_entries, _mask + 1, Entry{0, Value(), Entry::State::Free});
+ValueSet::ValueSet(std::size_t expected, Evaluation& evaluation, ValueComparison& comparison)
+    : _evaluation(evaluation), _comparison(comparison) {
+    makeRoom(expected);
+}
+
+void ValueSet::makeRoom(std::size_t expected) {
+    const std::size_t size = std::bit_ceil(expected + expected / 2 + 2);
+    _mask = size - 1;
+    _entries = _evaluation.room<Entry>(size);
+    std::fill_n(_entries, size, Entry{0, Value(), Entry::State::Free});
+}
+
+void ValueSet::grow() {
+    const std::span<const Entry> entries(_entries, _mask + 1);
+    _evaluation.spend(entries.size());
+    makeRoom(2 * _used);
+    for (const Entry& entry : entries) {
+        if (entry.state == Entry::State::Used) place(entry.hash) = entry;
+    }
 }
 
 bool ValueSet::add(const Value& value) {
@@ -18,6 +33,7 @@ bool ValueSet::add(const Value& value) {
 }
 
 void ValueSet::addAnother(const Value& value) {
+    if (++_used > _mask - _mask / 4) grow();
     const std::uint64_t hash = _comparison.hash(value);
     place(hash) = {hash, value, Entry::State::Used};
 }

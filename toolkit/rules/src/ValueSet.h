@@ -9,12 +9,12 @@ namespace velkor::rules {
 
 class ValueSet {
 public:
-    /// Room for so many values, in the memory of the evaluation.
-    ValueSet(std::size_t most, Evaluation& evaluation, ValueComparison& comparison);
+    /// Lies in the memory of the evaluation, at first with room for so many values.
+    ValueSet(std::size_t expected, Evaluation& evaluation, ValueComparison& comparison);
 
     /// False when an identical value is there already. An indeterminate value is identical to none.
     bool add(const Value& value);
-    /// Takes one value away that is identical; false when there is none. Adding is over then.
+    /// Takes one value away that is identical; false when there is none.
     bool take(const Value& value);
     bool contains(const Value& value) { return find(value) != nullptr; }
     /// Adds a value even if there is one.
@@ -36,11 +36,14 @@ private:
 
     Entry* find(const Value& value);
     Entry& place(std::uint64_t hash);
+    void makeRoom(std::size_t expected);
+    void grow();
 
     Evaluation& _evaluation;
     ValueComparison& _comparison;
-    Entry* _entries;
-    std::size_t _mask;
+    Entry* _entries = nullptr;
+    std::size_t _mask = 0;
+    std::size_t _used = 0;
 };
 
 } // namespace velkor::rules
