@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <optional>
 #include <utility>
 
@@ -338,7 +337,7 @@ private:
                        const Sentence& statement) {
         const std::string& variable = query.text;
         const Expression& whole = *query.operands[0];
-        const bool isOne = !std::isdigit(static_cast<unsigned char>(count[count.size() - 2])) || count.ends_with(" 1 ");
+        const bool isOne = count == "every " || count == "no " || count.ends_with(" 1 ");
         const bool isSimple =
             isOne && statement.kind == Sentence::Kind::Simple && !mentions(statement.predicate, variable);
         const bool areUsers = isCall(whole, "USEDIN");
