@@ -41,8 +41,7 @@ public:
 
     CodeNeeds needs() {
         std::ranges::sort(_needs.roles);
-        const auto repeated = std::ranges::unique(_needs.roles);
-        _needs.roles.erase(repeated.begin(), repeated.end());
+        _needs.roles.erase(std::unique(_needs.roles.begin(), _needs.roles.end()), _needs.roles.end());
         return std::move(_needs);
     }
 

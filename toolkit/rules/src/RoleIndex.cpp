@@ -79,8 +79,7 @@ void RoleIndex::Builder::chooseRoles() {
         if (entity != noText && attribute != noText) names.emplace_back(entity, attribute);
     }
     std::ranges::sort(names);
-    const auto repeated = std::ranges::unique(names);
-    names.erase(repeated.begin(), repeated.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
     for (const auto& [entity, attribute] : names) {
         Role& role = index._roles.emplace_back();
         role.entity = entity;
