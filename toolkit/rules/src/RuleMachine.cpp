@@ -92,7 +92,7 @@ std::vector<Read> RuleMachine::reads(std::size_t most) {
 }
 
 bool RuleMachine::appendKey(std::uint32_t number, std::span<const TextId> attributes, std::string& key) {
-    ValueKey values(_state->program, _state->interpreter.reader());
+    ValueKey values(_state->interpreter.reader());
     try {
         _state->interpreter.begin(stepLimit, nullptr);
         for (const TextId attribute : attributes) {

@@ -10,8 +10,8 @@ namespace {
 template <class Entry>
 std::span<const Entry> entriesOf(std::span<const Entry> table, TextId Entry::*name, TextId wanted) noexcept {
     if (wanted == noText) return {};
-    const auto found = std::ranges::equal_range(table, wanted, {}, name);
-    return {found.begin(), found.end()};
+    const auto first = std::ranges::lower_bound(table, wanted, {}, name);
+    return {first, std::ranges::upper_bound(first, table.end(), wanted, {}, name)};
 }
 
 template <class Entry>

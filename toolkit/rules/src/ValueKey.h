@@ -9,7 +9,7 @@ namespace velkor::rules {
 
 class ValueKey {
 public:
-    ValueKey(const RuleProgram& program, ValueReader& reader) : _program(program), _reader(reader) {}
+    explicit ValueKey(ValueReader& reader) : _reader(reader) {}
 
     /// False, and what was appended undefined, when the value or a member of it is indeterminate.
     bool append(const Value& value, std::string& key) { return append(value, key, 0); }
@@ -20,7 +20,6 @@ private:
     void appendEnumerator(const Value& value, std::string& key) const;
     bool appendMembers(std::span<const Value> members, bool isOrdered, std::string& key, unsigned depth);
 
-    const RuleProgram& _program;
     ValueReader& _reader;
 };
 
