@@ -225,6 +225,8 @@ TEST(RuleMachine, IndexesAggregates) {
         T SIZEOF([1 : 3]) = 3
         T [1 : 2, 5] = [1, 1, 5]
         T SIZEOF([1 : 0]) = 0
+        U SIZEOF([1 : ?, 2]) = 1
+        U SIZEOF([0, 1 : -1]) = 1
         T 6 IN L
         F 8 IN L
         U 8 IN A

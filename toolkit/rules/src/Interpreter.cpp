@@ -193,20 +193,13 @@ void Interpreter::makeAggregate(Operation operation) {
         return push(Value(_evaluation.makeAggregate(AggregateKind::Initialiser)));
     case Operation::Append: {
         const Value member = pop();
-        return _evaluation.append(top().aggregate(), member);
+        if (top().isAggregate()) _evaluation.append(top().aggregate(), member);
+        return;
     }
     case Operation::AppendRepeated: {
         const Value count = pop();
         const Value member = pop();
-        if (count.kind() != ValueKind::Integer) {
-            _evaluation.append(top().aggregate(), Value());
-            return;
-        }
-        for (std::int64_t i = 0; i < count.integer(); ++i) {
-            _evaluation.spend();
-            _evaluation.append(top().aggregate(), member);
-        }
-        return;
+        return appendRepeated(member, count);
     }
     case Operation::AsList:
         top() = _algebra.converted(top(), AggregateKind::List);
@@ -228,6 +221,16 @@ void Interpreter::makeAggregate(Operation operation) {
         const bool isTyped = type != nullptr && !top().isIndeterminate() && !top().isEntity();
         if (isTyped) top() = top().withType(static_cast<std::uint16_t>(type->position() + 1));
     }
+    }
+}
+
+/// An initialiser of which nobody can say how many members it has is indeterminate.
+void Interpreter::appendRepeated(const Value& member, const Value& count) {
+    if (count.kind() != ValueKind::Integer || count.integer() < 0) top() = Value();
+    if (!top().isAggregate()) return;
+    for (std::int64_t i = 0; i < count.integer(); ++i) {
+        _evaluation.spend();
+        _evaluation.append(top().aggregate(), member);
     }
 }
 

@@ -82,6 +82,7 @@ private:
     void accessVariable(Operation operation);
     void takePart(Operation operation);
     void makeAggregate(Operation operation);
+    void appendRepeated(const Value& member, const Value& count);
     void compute(Operation operation);
     void compare(Operation operation);
     void control(Operation operation);
