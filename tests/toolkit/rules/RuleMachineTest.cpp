@@ -14,6 +14,7 @@ constexpr const char* shapes =
     "TYPE Colour = ENUMERATION OF (RED, GREEN, BLUE); END_TYPE;\n"
     "TYPE Tone = ENUMERATION OF (RED, GREY); END_TYPE;\n"
     "TYPE Measure = SELECT (Length, Positive, Label, Angle); END_TYPE;\n"
+    "TYPE Basic = SELECT (Length, Tone); END_TYPE;\n"
     "TYPE Anything = SELECT (Measure, Shape, Colour); END_TYPE;\n"
     "ENTITY Shape ABSTRACT SUPERTYPE; END_ENTITY;\n"
     "ENTITY Point SUBTYPE OF (Shape); Coordinates : LIST [1:3] OF Length;\n"
@@ -258,6 +259,11 @@ TEST(RuleMachine, JoinsAndComparesAggregates) {
         T SIZEOF([1, 1, 2] - [1]) = 2
         T SIZEOF([1, 1, 2] * [1, 1]) = 2
         T SIZEOF(S * [1, 1]) = 1
+        T SIZEOF([1, 1] * S) = 1
+        T SIZEOF([1, 1] * [1, 2]) = 1
+        T SIZEOF(L + S) = 2
+        T 'SET' IN TYPEOF(L + S)
+        T 'LIST' IN TYPEOF(L + [1])
         U SIZEOF(L - 1) = 1
         U SIZEOF(A + A) = 4
         U SIZEOF(S + ?) = 2
@@ -293,7 +299,8 @@ TEST(RuleMachine, KnowsTypesOfValues) {
         F 'SAMPLE.LABEL' IN TYPEOF(P)
         T 'REAL' IN TYPEOF(P)
         T 'NUMBER' IN TYPEOF(P)
-        T SIZEOF(TYPEOF(P)) = 6
+        T 'SAMPLE.BASIC' IN TYPEOF(P)
+        T SIZEOF(TYPEOF(P)) = 7
         T 'SAMPLE.LABEL' IN TYPEOF(M)
         T 'SAMPLE.MEASURE' IN TYPEOF(M)
         F 'SAMPLE.LENGTH' IN TYPEOF(M)
@@ -371,6 +378,9 @@ TEST(RuleMachine, TellsInstancesFromTheirValues) {
         U D = Shape() || Line(D.Points, D.First, D.Hue)
         F D = E
         T B IN S
+        F Point([1., 2., 3.]) IN S
+        T VALUE_IN(S, Point([1., 2., 3.]))
+        F VALUE_IN(S, Point([2., 2., 3.]))
         T SIZEOF(S) = 3
         F VALUE_UNIQUE(S)
         T VALUE_UNIQUE([A, B])
@@ -444,6 +454,9 @@ TEST(RuleMachine, RunsStatements) {
         "FUNCTION Moved(p : Point) : REAL; LOCAL q : Point := p; END_LOCAL;\n"
         "  q.Coordinates[1] := q.Coordinates[1] + 10.0; RETURN (q.Coordinates[1] * 100. + p.Coordinates[1]);\n"
         "  END_FUNCTION;\n"
+        "FUNCTION Shared(n : INTEGER) : REAL; LOCAL a, b : Point; END_LOCAL;\n"
+        "  a := Shape() || Point([1., 2.]); b := a; b.Coordinates := [3., 4.]; a.Coordinates[2] := 5.0;\n"
+        "  RETURN (a.Coordinates[1] + 10.0 * a.Coordinates[2] + 100.0 * b.Coordinates[2]); END_FUNCTION;\n"
         "FUNCTION Started(n : INTEGER) : INTEGER; LOCAL l : LIST OF INTEGER; END_LOCAL;\n"
         "  l[1] := n; l[2] := n + 1; RETURN (SIZEOF(l) * 100 + l[2]); END_FUNCTION;\n"
         "FUNCTION Beyond(n : INTEGER) : INTEGER; LOCAL l : LIST OF INTEGER := [1]; END_LOCAL;\n"
@@ -477,6 +490,7 @@ TEST(RuleMachine, RunsStatements) {
         T Nested(3) = 113793
         T Moved(P) = 1101.
         T P.Coordinates[1] = 1.
+        T Shared(1) = 451.
         T Started(4) = 205
         U Beyond(4) = 1
         T SIZEOF(Gathered(20000)) = 20001

@@ -8,18 +8,10 @@
 
 namespace velkor::rules {
 
-namespace {
-
-/// Values of one evaluation may take as much as a fair part of the model, and what small ones need in any case.
-std::size_t memoryBound(const sdai::Model& model) noexcept {
-    return (std::size_t{64} << 20) + model.file().text().size() / 4;
-}
-
-} // namespace
-
 struct RuleMachine::State {
     State(const RuleProgram& program_, const RoleIndex& roles_)
-        : program(program_), roles(roles_), interpreter(program, roles, memoryBound(program.model()), depthLimit) {}
+        : program(program_), roles(roles_),
+          interpreter(program, roles, memoryLimit + program.model().file().text().size() / 4, depthLimit) {}
 
     /// What a verdict is reached of.
     struct Question {

@@ -31,7 +31,8 @@ struct Read {
     std::uint64_t instance;
     std::string_view entity;
     std::string_view attribute;
-    /// As it stands in the file, "$" when unset; "3 members" for an inverse attribute; of a derived one its value.
+    /// As it stands in the file, the beginning of a long one; "$" when unset; "3 members" for an inverse attribute; of
+    /// a derived one its value.
     std::string value;
 };
 
@@ -43,6 +44,8 @@ public:
     static constexpr std::uint64_t stepsPerInstance = 200;
     /// Calls and derived attributes within each other.
     static constexpr std::uint32_t depthLimit = 200;
+    /// Bytes that the values of one verdict may take, beside a quarter of the size of the file.
+    static constexpr std::size_t memoryLimit = std::size_t{64} << 20;
 
     RuleMachine(const RuleProgram& program, const RoleIndex& roles);
     ~RuleMachine();
