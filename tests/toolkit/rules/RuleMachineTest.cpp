@@ -10,6 +10,7 @@ constexpr const char* shapes =
     "TYPE Length = REAL; END_TYPE;\n"
     "TYPE Positive = Length; WHERE WR1 : SELF > 0.0; END_TYPE;\n"
     "TYPE Label = STRING; END_TYPE;\n"
+    "TYPE Truth = LOGICAL; END_TYPE;\n"
     "TYPE Angle = LIST [3:4] OF INTEGER; WHERE WR1 : ABS(SELF[1]) < 360; END_TYPE;\n"
     "TYPE Colour = ENUMERATION OF (RED, GREEN, BLUE); END_TYPE;\n"
     "TYPE Tone = ENUMERATION OF (RED, GREY); END_TYPE;\n"
@@ -288,8 +289,8 @@ TEST(RuleMachine, JoinsAndComparesAggregates) {
 TEST(RuleMachine, KnowsTypesOfValues) {
     test::expectVerdicts(shapes,
                          "P : Positive; M : Measure; A : Anything; E : Shape; C : Colour; T : Tone; B : BOOLEAN; G : "
-                         "Angle; I : INTEGER;",
-                         "#1=PROBE(1.5,LABEL('x'),#6,#5,.RED.,.RED.,.T.,(1,2,3),4);"
+                         "Angle; I : INTEGER; Y : Truth;",
+                         "#1=PROBE(1.5,LABEL('x'),#6,#5,.RED.,.RED.,.T.,(1,2,3),4,.F.);"
                          "#2=POINT((0.,0.));#5=LINE((#2,#2),#2,$);#6=RAY((#2,#2),#2,*);",
                          R"(
         T 'SAMPLE.POSITIVE' IN TYPEOF(P)
@@ -320,6 +321,8 @@ TEST(RuleMachine, KnowsTypesOfValues) {
         T 'SAMPLE.ANYTHING' IN TYPEOF(C)
         T 'BOOLEAN' IN TYPEOF(B)
         T 'INTEGER' IN TYPEOF(I)
+        T 'LOGICAL' IN TYPEOF(Y)
+        F 'BOOLEAN' IN TYPEOF(Y)
         T 'SAMPLE.ANGLE' IN TYPEOF(G)
         T 'LIST' IN TYPEOF(G)
         T 'SET' IN TYPEOF(TYPEOF(G))

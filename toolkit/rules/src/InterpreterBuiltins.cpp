@@ -94,7 +94,7 @@ Value Interpreter::length(BuiltinFunction function, const Value& value) {
 
 Value Interpreter::typesOf(const Value& value) {
     const auto named = _types.of(value);
-    const auto builtIn = ValueTypes::builtIn(value);
+    const auto builtIn = _types.builtIn(value);
     _evaluation.spend(named.size() + builtIn.size());
     Aggregate& names = _evaluation.makeAggregate(AggregateKind::Set, named.size() + builtIn.size());
     for (const sdai::Type* type : named) _evaluation.append(names, Value(*type));

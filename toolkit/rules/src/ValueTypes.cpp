@@ -68,28 +68,51 @@ void ValueTypes::addDefined(Types& types, const sdai::DefinedType& type) const {
     }
 }
 
-std::span<const std::string_view> ValueTypes::builtIn(const Value& value) noexcept {
-    static constexpr std::array<std::string_view, 3> integer{"INTEGER", "REAL", "NUMBER"};
-    static constexpr std::array<std::string_view, 2> truth{"BOOLEAN", "LOGICAL"};
-    static constexpr std::array<std::string_view, 1> string{"STRING"};
-    static constexpr std::array<std::string_view, 1> binary{"BINARY"};
+std::span<const std::string_view> ValueTypes::builtIn(const Value& value) const noexcept {
     static constexpr std::array<std::string_view, 4> aggregates{"LIST", "SET", "BAG", "ARRAY"};
+    // The declared type counts, not the value: .F. and .U. of a LOGICAL are of the same types.
+    if (const sdai::DefinedType* own = _reader.definedType(value); own != nullptr && own->resolved().isSimple()) {
+        return builtIn(own->resolved().kind());
+    }
     switch (value.kind()) {
     case ValueKind::Integer:
-        return integer;
+        return builtIn(sdai::TypeKind::Integer);
     case ValueKind::Real:
-        return std::span(integer).subspan(1);
+        return builtIn(sdai::TypeKind::Real);
     case ValueKind::Logical:
-        return std::span(truth).subspan(value.logical() == Logical::Unknown ? 1 : 0);
+        return builtIn(value.logical() == Logical::Unknown ? sdai::TypeKind::Logical : sdai::TypeKind::Boolean);
     case ValueKind::String:
     case ValueKind::TypeName:
-        return string;
+        return builtIn(sdai::TypeKind::String);
     case ValueKind::Binary:
-        return binary;
+        return builtIn(sdai::TypeKind::Binary);
     case ValueKind::Aggregate: {
         const auto kind = static_cast<std::size_t>(value.aggregate().kind);
         return kind < aggregates.size() ? std::span(aggregates).subspan(kind, 1) : std::span<const std::string_view>();
     }
+    default:
+        return {};
+    }
+}
+
+std::span<const std::string_view> ValueTypes::builtIn(sdai::TypeKind kind) noexcept {
+    static constexpr std::array<std::string_view, 3> integer{"INTEGER", "REAL", "NUMBER"};
+    static constexpr std::array<std::string_view, 2> truth{"BOOLEAN", "LOGICAL"};
+    static constexpr std::array<std::string_view, 1> string{"STRING"};
+    static constexpr std::array<std::string_view, 1> binary{"BINARY"};
+    switch (kind) {
+    case sdai::TypeKind::Integer:
+        return integer;
+    case sdai::TypeKind::Real:
+        return std::span(integer).subspan(1);
+    case sdai::TypeKind::Boolean:
+        return truth;
+    case sdai::TypeKind::Logical:
+        return std::span(truth).subspan(1);
+    case sdai::TypeKind::String:
+        return string;
+    case sdai::TypeKind::Binary:
+        return binary;
     default:
         return {};
     }

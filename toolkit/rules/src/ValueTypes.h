@@ -19,11 +19,13 @@ public:
     /// and every select that takes one of these, at any depth.
     std::span<const sdai::Type* const> of(const Value& value);
     /// Names of the built-in types that the value is of.
-    static std::span<const std::string_view> builtIn(const Value& value) noexcept;
+    std::span<const std::string_view> builtIn(const Value& value) const noexcept;
     /// Null unless the value is an instance or an entity value.
     const sdai::EntityDefinition* entity(const Value& value) const;
 
 private:
+    static std::span<const std::string_view> builtIn(sdai::TypeKind kind) noexcept;
+
     using Types = std::vector<const sdai::Type*>;
 
     void addEntity(Types& types, const sdai::EntityDefinition& entity) const;
