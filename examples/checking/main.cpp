@@ -21,7 +21,8 @@ void tell(const std::string& message) {
 }
 
 bool check(const velkor::sdai::Model& model) {
-    const velkor::CheckResult result = velkor::checkModel(model, {.limit = 20, .progress = showProgress});
+    const velkor::CheckResult result =
+        velkor::checkModel(model, velkor::CheckOptions{.limit = 20, .progress = showProgress});
     std::cerr << '\n';
     for (const velkor::sdai::Problem& problem : result.problems) {
         std::cout << model.file().name() << ':' << problem.line << ": #" << problem.instance << ": " << problem.message

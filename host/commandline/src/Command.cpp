@@ -1,7 +1,9 @@
 #include "commandline/Command.h"
 
+#include "velkor/text/NearestNames.h"
 #include "velkor/text/Wording.h"
 
+#include <algorithm>
 #include <charconv>
 #include <CLI/CLI.hpp>
 
@@ -22,8 +24,26 @@ const Option& Option::oneOf(const std::vector<std::string>& words) const {
     return *this;
 }
 
+const Option& Option::someOf(const std::vector<std::string_view>& words) const {
+    _option->delimiter(',')->allow_extra_args(false);
+    _option->check(CLI::Validator(
+        [words](const std::string& word) -> std::string {
+            if (std::ranges::find(words, word) != words.end()) return {};
+            const auto nearest = text::nearestNames(words, word);
+            return "unknown " + text::quoted(word) +
+                   (nearest.empty() ? "; known: " + text::joined(words) : "; nearest: " + text::joined(nearest));
+        },
+        {}));
+    return *this;
+}
+
 const Option& Option::needs(const Option& other) const {
     _option->needs(other._option);
+    return *this;
+}
+
+const Option& Option::excludes(const Option& other) const {
+    _option->excludes(other._option);
     return *this;
 }
 

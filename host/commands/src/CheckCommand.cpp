@@ -4,59 +4,155 @@
 #include "LimitOption.h"
 #include "output/Json.h"
 #include "output/ProblemText.h"
+#include "output/RuleText.h"
 #include "terminal/DisplayText.h"
 #include "velkor/check/ModelCheck.h"
 #include "velkor/check/ProblemSummary.h"
 #include "velkor/text/Wording.h"
 
+#include <algorithm>
+#include <cstdio>
+#include <map>
 #include <nlohmann/json.hpp>
+#include <span>
 
 namespace velkor::host {
 
 namespace {
 
+constexpr std::size_t mostJobs = 1024;
+
 struct Options {
     std::string path;
     bool syntaxOnly = false;
+    bool withoutRules = false;
+    std::string rule;
+    CodeFilter codes;
+    std::size_t jobs = 0;
     std::size_t limit = defaultLimit;
 };
 
-void writeText(CommandContext& context, const std::string& file, const CheckResult& result) {
-    for (const sdai::Problem& problem : result.problems) writeProblem(context.out, file, problem);
+/// What a release cannot break, because its source does not state it.
+bool statesUniquenessAlone(std::string_view release) {
+    const RuleCounts counts = ruleCounts(release);
+    return counts.total() > 0 && counts.total() == counts.unique;
+}
+
+std::string secondsText(double seconds) {
+    char text[32];
+    std::snprintf(text, sizeof text, seconds < 10 ? "%.2f s" : "%.0f s", seconds);
+    return text;
+}
+
+/// What the rules were held to, and where they had no answer.
+void writeCoverage(TextSink out, const FileCheck& check, const RuleCoverage& coverage) {
+    constexpr std::size_t longestList = 3;
+    out << check.file << ": " << text::counted(coverage.instances, "instance", "instances") << " by "
+        << text::grouped(coverage.judgedRules) << " of " << text::counted(coverage.rules, "rule", "rules") << " of "
+        << check.release << ", " << text::grouped(coverage.undecided) << " undecided, " << secondsText(coverage.seconds)
+        << '\n';
+    if (statesUniquenessAlone(check.release))
+        out << check.file << ": the source of " << check.release << " states no rules but UNIQUE\n";
+    if (coverage.unknown == 0) return;
+    const auto& rules = coverage.unknownByRule;
+    const std::size_t shown = std::min(rules.size(), longestList);
+    out << check.file << ": " << text::grouped(coverage.unknown) << " of "
+        << text::counted(coverage.judgements, "judgement", "judgements")
+        << " without an answer: " << text::joined(std::span(rules).first(shown), ", ", [](const auto& each) {
+               return each.rule + " (" + text::grouped(each.count) + ')';
+           });
+    if (rules.size() > shown) out << " and of " << text::counted(rules.size() - shown, "other rule", "other rules");
+    out << '\n';
+}
+
+Json coverageJson(const RuleCoverage& coverage) {
+    Json unknown = Json::array();
+    for (const auto& each : coverage.unknownByRule) unknown.push_back({{"rule", each.rule}, {"count", each.count}});
+    return {{"instances", coverage.instances},   {"rules", coverage.rules},     {"judged_rules", coverage.judgedRules},
+            {"judgements", coverage.judgements}, {"unknown", coverage.unknown}, {"unknown_by_rule", std::move(unknown)},
+            {"undecided", coverage.undecided},   {"seconds", coverage.seconds}};
+}
+
+void writeText(CommandContext& context, const FileCheck& check) {
+    const ModelCheckResult& result = check.result;
+    for (const sdai::Problem& problem : result.problems) writeProblem(context.out, check.file, problem);
     if (result.total == 0) {
-        context.out << file << ": no problems found\n";
-        return;
+        context.out << check.file << ": no problems found\n";
+    } else {
+        const ProblemSummary summary = summarized(result.problems, result.total);
+        context.out << check.file << ": " << text::counted(summary.errors, "error", "errors") << ", "
+                    << text::counted(summary.warnings, "warning", "warnings");
+        if (summary.total > summary.listed()) {
+            context.out << " among the first " << text::grouped(summary.listed()) << " of "
+                        << text::grouped(summary.total) << " problems (--limit shows more)";
+        }
+        context.out << '\n';
     }
-    const ProblemSummary summary = summarized(result.problems, result.total);
-    context.out << file << ": " << text::counted(summary.errors, "error", "errors") << ", "
-                << text::counted(summary.warnings, "warning", "warnings");
-    if (summary.total > summary.listed()) {
-        context.out << " among the first " << text::grouped(summary.listed()) << " of " << text::grouped(summary.total)
-                    << " problems (--limit shows more)";
+    if (result.coverage) writeCoverage(context.out, check, *result.coverage);
+}
+
+/// Problems with the rule that each breaks.
+Json brokenRulesJson(const FileCheck& check) {
+    std::map<std::string, std::string> expressions;
+    for (RuleFacts& rule : rulesOf(check.release)) expressions.emplace(rule.name, std::move(rule.expression));
+    Json result = problemsJson(check.result.problems);
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        const std::string& rule = check.result.problems[i].rule;
+        const auto known = expressions.find(rule);
+        result[i]["rule"] = textOrNull(rule);
+        result[i]["expression"] = known == expressions.end() ? Json() : Json(known->second);
     }
-    context.out << '\n';
+    return result;
 }
 
 void runCheck(CommandContext& context, const Options& options) {
-    const auto check = checkFile(options.path, options.syntaxOnly, context.checkOptions(options.limit));
+    ModelCheckOptions wanted({options.limit, context.progress(), options.codes});
+    wanted.scope = options.syntaxOnly     ? CheckScope::Structure
+                   : options.withoutRules ? CheckScope::Dictionary
+                                          : CheckScope::Everything;
+    wanted.jobs = static_cast<unsigned>(options.jobs);
+    if (!options.rule.empty()) wanted.rules = {options.rule};
+    const auto check = checkFile(options.path, wanted);
     if (!check) return context.reportUnreadable(check.error().message);
-    const CheckResult& result = check->result;
-    context.status = result.total == 0 ? Done : Findings;
-    if (!context.json()) return writeText(context, check->file, result);
+    if (!options.rule.empty() && !check->release.empty() && !ruleNamed(check->release, options.rule)) {
+        context.err << "velkor: --rule: " << noSuchRule(check->release, options.rule) << '\n';
+        context.status = BadUsage;
+        return;
+    }
+    context.status = check->result.total == 0 ? Done : Findings;
+    if (!context.json()) return writeText(context, *check);
     writeJson(context.out, {{"file", check->file},
                             {"release", textOrNull(check->release)},
-                            {"total", result.total},
-                            {"problems", problemsJson(result.problems)}});
+                            {"total", check->result.total},
+                            {"problems", brokenRulesJson(*check)},
+                            {"judged", check->result.coverage ? coverageJson(*check->result.coverage) : Json()}});
 }
 
 } // namespace
 
 void addCheckCommand(const Command& app, CommandContext& context) {
     const Command command = app.addCommand(
-        "check", "What is wrong with a model's exchange structure and, by the dictionary, with its instances");
+        "check",
+        "What is wrong with a model: its exchange structure, its instances by the dictionary, and the rules of "
+        "its schema");
     const auto options = std::make_shared<Options>();
     command.addOption("MODEL", options->path, "IFC file").required();
-    command.addFlag("--syntax", options->syntaxOnly, "Judge the exchange structure (ISO 10303-21) alone");
+    const Option syntax =
+        command.addFlag("--syntax", options->syntaxOnly, "Judge the exchange structure (ISO 10303-21) alone");
+    const Option schema = command.addFlag("--schema", options->withoutRules,
+                                          "Judge structure and instances, and leave the rules of the schema out");
+    schema.excludes(syntax);
+    const Option rule = command.addOption("--rule", options->rule, "Judge this rule of the schema and nothing else");
+    rule.valueName("NAME").excludes(syntax).excludes(schema);
+    command.addOption("--only", options->codes.only, "List these kinds of problems only")
+        .valueName("CODE,…")
+        .someOf(problemCodes());
+    command.addOption("--ignore", options->codes.ignore, "List all kinds of problems but these")
+        .valueName("CODE,…")
+        .someOf(problemCodes());
+    command.addOption("--jobs", options->jobs, "Work on N cores; on all of them unless told")
+        .valueName("N")
+        .wholeNumber(1, mostJobs);
     addLimitOption(command, options->limit, "problems");
     command.example("velkor check house.ifc\n\nExit status 1 when there are problems.");
     context.complete(command, [&context, options] { runCheck(context, *options); });

@@ -31,7 +31,9 @@ void runReport(CommandContext& context, const std::string& path) {
     if (!model) return;
     const PlatformSetup setup(context.configuration, context.tell());
     Report report{modelFacts(*model), unitReport(*model), {}, 0, {}, {}, {}};
-    const CheckResult check = checkModel(*model, context.checkOptions(mostProblems));
+    ModelCheckOptions options = context.checkOptions(mostProblems);
+    options.scope = CheckScope::Dictionary;
+    const CheckResult check = checkModel(*model, options);
     report.problems = summarized(check.problems, check.total);
     const guid::GuidCheck guids = guid::checkGuids(*model, context.checkOptions(mostProblems));
     report.identifierCount = guids.count;

@@ -1,9 +1,13 @@
 #include "velkor/check/ModelCheck.h"
 
+#include "velkor/identifiers/GuidCheck.h"
+#include "velkor/rules/RuleCatalogue.h"
 #include "velkor/sdai/PopulationCheck.h"
 #include "velkor/sdai/SyntaxCheck.h"
 
 #include <array>
+#include <limits>
+#include <utility>
 
 namespace velkor {
 
@@ -26,36 +30,85 @@ sdai::Progress stepsOf(const Progress& progress, const char* work, bool& isCompl
     };
 }
 
+/// What a filter takes of findings that were not filtered before; they are all there unless it takes all.
+CheckResult chosen(CheckResult result, const CheckOptions& options) {
+    if (options.codes.takesAll()) return result;
+    std::erase_if(result.problems, [&](const sdai::Problem& problem) { return !options.codes.takes(problem.code); });
+    result.total = result.problems.size();
+    if (result.problems.size() > options.limit) result.problems.resize(options.limit);
+    return result;
+}
+
+std::size_t limitBefore(const CheckOptions& options) {
+    return options.codes.takesAll() ? options.limit : std::numeric_limits<std::size_t>::max();
+}
+
+CheckResult checkInstances(const sdai::Model& model, const CheckOptions& options) {
+    CheckResult result;
+    const auto neighbour = derivingNeighbour(model.schema());
+    const auto progress = stepsOf(options.progress, "Checking the instances", result.isComplete);
+    result.problems =
+        sdai::checkPopulation(model, {limitBefore(options), neighbour.get(), numberTypes, progress}, &result.total);
+    return chosen(std::move(result), options);
+}
+
+/// What neither the dictionary nor a rule of the release tells of identifiers already.
+CheckResult checkIdentifiers(const sdai::Model& model, const CheckOptions& options) {
+    CheckOptions rest = options;
+    rest.limit = std::numeric_limits<std::size_t>::max();
+    rest.codes.ignore.insert(rest.codes.ignore.end(), {"guid-missing", "guid-length"});
+    if (ruleNamed(model.schema().name(), "IfcRoot.UR1")) rest.codes.ignore.emplace_back("guid-duplicate");
+    CheckResult result = guid::checkGuids(model, rest).result;
+    rest.limit = options.limit;
+    return chosen(std::move(result), rest);
+}
+
+void take(ModelCheckResult& result, const CheckResult& more, std::size_t limit) {
+    result.isComplete = result.isComplete && more.isComplete;
+    result.add(more.problems, more.total, limit);
+}
+
+void judgeRules(const sdai::Model& model, const ModelCheckOptions& options, ModelCheckResult& result) {
+    const RuleCheckResult rules =
+        checkRules(model, {options.limit, options.progress, options.jobs, options.rules, options.codes});
+    take(result, rules, options.limit);
+    result.coverage = rules.coverage;
+}
+
 } // namespace
 
 CheckResult checkStructure(const sdai::Part21File& file, const CheckOptions& options) {
     CheckResult result;
     const auto progress = stepsOf(options.progress, "Checking the exchange structure", result.isComplete);
-    result.problems = sdai::checkSyntax(file, options.limit, &result.total, progress);
+    result.problems = sdai::checkSyntax(file, limitBefore(options), &result.total, progress);
+    return chosen(std::move(result), options);
+}
+
+ModelCheckResult checkModel(const sdai::Model& model, const ModelCheckOptions& options) {
+    ModelCheckResult result;
+    if (!options.rules.empty()) {
+        judgeRules(model, options, result);
+        return result;
+    }
+    take(result, checkStructure(model.file(), options), options.limit);
+    if (options.scope == CheckScope::Structure || !result.isComplete) return result;
+    take(result, checkInstances(model, options), options.limit);
+    if (options.scope == CheckScope::Dictionary || !result.isComplete) return result;
+    judgeRules(model, options, result);
+    if (result.isComplete) take(result, checkIdentifiers(model, options), options.limit);
     return result;
 }
 
-CheckResult checkModel(const sdai::Model& model, const CheckOptions& options) {
-    CheckResult result = checkStructure(model.file(), options);
-    if (!result.isComplete) return result;
-    const auto neighbour = derivingNeighbour(model.schema());
-    const auto progress = stepsOf(options.progress, "Checking the instances", result.isComplete);
-    std::uint64_t total = 0;
-    const auto population =
-        sdai::checkPopulation(model, {options.limit, neighbour.get(), numberTypes, progress}, &total);
-    result.add(population, total, options.limit);
-    return result;
-}
-
-tl::expected<FileCheck, files::OpenError> checkFile(const std::string& path, bool isStructureAlone,
-                                                    const CheckOptions& options) {
+tl::expected<FileCheck, files::OpenError> checkFile(const std::string& path, const ModelCheckOptions& options) {
     auto file = sdai::Part21File::open(path);
     if (!file) return tl::unexpected(file.error());
     FileCheck check{(*file)->name(), {}, {}};
+    const bool isStructureAlone = options.scope == CheckScope::Structure;
     const auto schemaProblem = isStructureAlone ? std::nullopt : sdai::Model::schemaProblem(**file);
     if (isStructureAlone || schemaProblem) {
-        check.result = checkStructure(**file, options);
-        if (schemaProblem) check.result.add({*schemaProblem}, 1, options.limit);
+        take(check.result, checkStructure(**file, options), options.limit);
+        if (schemaProblem && options.codes.takes(schemaProblem->code))
+            check.result.add({*schemaProblem}, 1, options.limit);
         return check;
     }
     const auto model = sdai::Model::over(std::move(*file));

@@ -12,6 +12,7 @@
 #include <functional>
 #include <limits>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace CLI {
@@ -29,8 +30,12 @@ public:
     /// What the help shows for the value: "FILE".
     const Option& valueName(const std::string& name) const;
     const Option& oneOf(const std::vector<std::string>& words) const;
+    /// Values are separated by commas, and each is one of `words`. May be given several times.
+    const Option& someOf(const std::vector<std::string_view>& words) const;
     /// It cannot be given without the other.
     const Option& needs(const Option& other) const;
+    /// The two cannot be given together.
+    const Option& excludes(const Option& other) const;
     /// Refuses what is no whole number within a range. Without an upper bound a number that no count can hold is taken
     /// as the largest one.
     const Option& wholeNumber(std::size_t least, std::size_t most = std::numeric_limits<std::size_t>::max()) const;

@@ -1,0 +1,57 @@
+#include "velkor/check/ModelCheck.h"
+
+namespace velkor {
+
+std::vector<std::string_view> problemCodes() {
+    return {
+        "abstract-entity",
+        "aggregate-size",
+        "attribute-count",
+        "byte-order-mark",
+        "character-invalid",
+        "comment-not-closed",
+        "dangling-reference",
+        "data-missing",
+        "data-parameters-missing",
+        "element-not-unique",
+        "end-missing",
+        "endsec-missing",
+        "global-rule",
+        "guid-character",
+        "guid-duplicate",
+        "guid-first-character",
+        "header-entity-missing",
+        "header-entity-repeated",
+        "header-entity-unknown",
+        "header-missing",
+        "instance-name-too-large",
+        "instance-name-zero",
+        "instance-repeated",
+        "integer-for-real",
+        "inverse-cardinality",
+        "missing-value",
+        "parameter-count",
+        "parameter-type",
+        "rule-not-decided",
+        "schema-unknown",
+        "section-skipped",
+        "semicolon-missing",
+        "start-missing",
+        "string-invalid",
+        "string-not-closed",
+        "text-behind-end",
+        "text-length",
+        "token-invalid",
+        "unexpected-token",
+        "uniqueness-rule",
+        "unknown-entity",
+        "unknown-enumerator",
+        "untyped-value",
+        "value-of-derived",
+        "where-rule",
+        "wrong-reference",
+        "wrong-type",
+    };
+}
+
+} // namespace velkor
