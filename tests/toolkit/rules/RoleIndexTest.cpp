@@ -10,12 +10,15 @@ constexpr const char* things =
     "TYPE Size = REAL; WHERE WR1 : SELF > 0.0; WR2 : SELF < 9.0; END_TYPE;\n"
     "TYPE Small = Size; WHERE WR3 : SELF < 1.0; END_TYPE;\n"
     "ENTITY Thing; INVERSE One : SET [0:1] OF Group FOR Members; Unused : SET [0:?] OF Pair FOR First;\n"
-    "  Asked : SET [0:?] OF Pair FOR Second; WHERE WR1 : SIZEOF(Asked) >= 0; END_ENTITY;\n"
+    "  Asked : SET [0:?] OF Pair FOR Second; Later : SET [0:?] OF Group FOR Head;\n"
+    "  WHERE WR1 : (SIZEOF(Asked) >= 0) OR Early(SELF); END_ENTITY;\n"
+    "FUNCTION Early(t : Thing) : BOOLEAN; IF FALSE THEN RETURN (TRUE); END_IF;\n"
+    "  RETURN (SIZEOF(QUERY(x <* [1] | SIZEOF(t.Later) > 0)) > 0); END_FUNCTION;\n"
     "ENTITY Part SUBTYPE OF (Thing); A : REAL; B : REAL; DERIVE C : REAL := A; INVERSE Both : BAG [0:9] OF Pair FOR "
     "Both;\n"
     "  SELF\\Thing.One : SET [1:1] OF Group FOR Members; WHERE WR2 : TRUE; WR1 : TRUE; END_ENTITY;\n"
     "ENTITY Bolt SUBTYPE OF (Part); DERIVE SELF\\Part.B : REAL := 1.0; WHERE WR9 : TRUE; END_ENTITY;\n"
-    "ENTITY Group; Name : STRING; Members : SET OF Thing; END_ENTITY;\n"
+    "ENTITY Group; Name : STRING; Members : SET OF Thing; Head : OPTIONAL Thing; END_ENTITY;\n"
     "ENTITY Named SUBTYPE OF (Group); END_ENTITY;\n"
     "ENTITY Pair; First : Thing; Second : Thing; Both : LIST OF LIST OF Thing;\n"
     "  WHERE WR1 : SIZEOF(USEDIN(First, 'SAMPLE.PAIR.SECOND')) + SIZEOF(USEDIN(First, 'SAMPLE.NAMED.MEMBERS')) > 0;\n"
@@ -45,7 +48,7 @@ TEST(RuleProgram, BindsRulesToTheDictionary) {
         const InverseAttribute& attribute = tables.inverseAttributes[position];
         inverse.push_back(std::string(judged.text(attribute.name)) + std::to_string(attribute.lower));
     }
-    EXPECT_THAT(inverse, testing::UnorderedElementsAre("UNUSED0", "ASKED0", "BOTH0", "ONE1"));
+    EXPECT_THAT(inverse, testing::UnorderedElementsAre("UNUSED0", "ASKED0", "LATER0", "BOTH0", "ONE1"));
 
     using Kind = RuleProgram::Part::Kind;
     const auto kind = [&](const char* entity, const char* name) {
@@ -63,7 +66,7 @@ TEST(RuleProgram, BindsRulesToTheDictionary) {
 
 TEST(RoleIndex, FindsTheUsersOfARole) {
     const test::JudgedRules judged(things, "#1=THING();#2=THING();#3=PART(1.,2.);\n"
-                                           "#10=NAMED('#2',(#1,#3,#1));#11=GROUP('(#2,'/*#2*/,(#3,#9));\n"
+                                           "#10=NAMED('#2',(#1,#3,#1),$);#11=GROUP('(#2,'/*#2*/,(#3,#9),#1);\n"
                                            "#12=PAIR(#1,#2,((#1,#2),(),(#2,#3)));#13=PAIR(#1,#1,((#1)));\n"
                                            "#14=PAIR(#1;#15=PAIR();#16=GROUP('x',(#2\n#17=GROUP('y',#2);#18=(PAIR());");
     const auto numberOf = [&](std::uint64_t id) { return *judged.model().file().find(id); };
@@ -87,6 +90,7 @@ TEST(RoleIndex, FindsTheUsersOfARole) {
     EXPECT_THAT(inverse("PART", "BOTH", 3), ElementsAre(12));
     EXPECT_THAT(inverse("THING", "ASKED", 1), ElementsAre(13));
     EXPECT_THAT(inverse("THING", "ASKED", 18), IsEmpty());
+    EXPECT_THAT(inverse("THING", "LATER", 1), ElementsAre(11));
     // Nobody asks, and no number is too large.
     EXPECT_THAT(inverse("THING", "UNUSED", 1), IsEmpty());
 

@@ -14,7 +14,8 @@ constexpr const char* shapes =
     "TYPE Angle = LIST [3:4] OF INTEGER; WHERE WR1 : ABS(SELF[1]) < 360; END_TYPE;\n"
     "TYPE Colour = ENUMERATION OF (RED, GREEN, BLUE); END_TYPE;\n"
     "TYPE Tone = ENUMERATION OF (RED, GREY); END_TYPE;\n"
-    "TYPE Measure = SELECT (Length, Positive, Label, Angle); END_TYPE;\n"
+    "TYPE Count = INTEGER; END_TYPE;\n"
+    "TYPE Measure = SELECT (Length, Positive, Label, Angle, Count); END_TYPE;\n"
     "TYPE Basic = SELECT (Length, Tone); END_TYPE;\n"
     "TYPE Anything = SELECT (Measure, Shape, Colour); END_TYPE;\n"
     "ENTITY Shape ABSTRACT SUPERTYPE; END_ENTITY;\n"
@@ -335,6 +336,7 @@ TEST(RuleMachine, KnowsTypesOfValues) {
         F Colour.RED > C
         F EXISTS(A\Point.Coordinates)
         T EXISTS(A\Line.Points)
+        F EXISTS(E\Ray.Points)
         T A\Line.Hue = Colour.BLUE
         T A.Hue = Colour.BLUE
         U E\Line.Hue = Colour.BLUE)");
@@ -344,8 +346,8 @@ TEST(RuleMachine, ReadsWhatFitsItsType) {
     test::expectVerdicts(
         shapes,
         "I : INTEGER; R : REAL; S : STRING; B : BOOLEAN; G : LOGICAL; C : Colour; P : Point; Q : Point; M : Measure;"
-        "X : Measure; L : LIST OF INTEGER; Z : OPTIONAL Label;",
-        "#1=PROBE(1.5,3,4,.U.,.U.,.PINK.,#9,#5,LENGTH('x'),COLOUR(.RED.),(1,'x',3,#2,),*);#2=POINT((0.,0.));"
+        "X : Measure; L : LIST OF INTEGER; Z : OPTIONAL Label; W : Measure;",
+        "#1=PROBE(1.5,3,4,.U.,.U.,.PINK.,#9,#5,LENGTH('x'),COLOUR(.RED.),(1,'x',3,#2,),*,#2);#2=POINT((0.,0.));"
         "#5=LINE((#2,#2),#2,$);",
         R"(
         F EXISTS(I)
@@ -358,6 +360,7 @@ TEST(RuleMachine, ReadsWhatFitsItsType) {
         F EXISTS(Q)
         F EXISTS(M)
         F EXISTS(X)
+        F EXISTS(W)
         T SIZEOF(L) = 5
         T L[3] = 3
         F EXISTS(L[2])
@@ -367,9 +370,12 @@ TEST(RuleMachine, ReadsWhatFitsItsType) {
 }
 
 TEST(RuleMachine, TellsInstancesFromTheirValues) {
-    test::expectVerdicts(shapes, "A : Point; B : Point; C : Point; D : Line; E : Line; S : SET OF Point;",
-                         std::string(points) + "#1=PROBE(#2,#3,#4,#5,#6,(#2,#3,#4));"
-                                               "#5=LINE((#2,#3),#3,$);#6=RAY((#2,#3),#3,*);",
+    test::expectVerdicts(shapes,
+                         "A : Point; B : Point; C : Point; D : Line; E : Line; S : SET OF Point;"
+                         "F : Line; G : Line;",
+                         std::string(points) + "#1=PROBE(#2,#3,#4,#5,#6,(#2,#3,#4),#7,#8);"
+                                               "#5=LINE((#2,#3),#3,$);#6=RAY((#2,#3),#3,*);#7=RAY((#2,#3),#4,*);"
+                                               "#8=RAY((#3,#3),#3,*);",
                          R"(
         T A :=: A
         F B :=: C
@@ -380,6 +386,8 @@ TEST(RuleMachine, TellsInstancesFromTheirValues) {
         T D = D\Line
         U D = Shape() || Line(D.Points, D.First, D.Hue)
         F D = E
+        T E = F
+        F E = G
         T B IN S
         F Point([1., 2., 3.]) IN S
         T VALUE_IN(S, Point([1., 2., 3.]))
@@ -402,8 +410,9 @@ TEST(RuleMachine, TellsInstancesFromTheirValues) {
 }
 
 TEST(RuleMachine, FollowsAttributes) {
-    test::expectVerdicts(shapes, "D : Line; P : Point; Q : Point;",
-                         std::string(points) + "#1=PROBE(#5,#2,#4);#5=LINE((#2,#2,#3),#3,$);#6=RAY((#3,#2),#4,*);",
+    test::expectVerdicts(shapes, "D : Line; P : Point; Q : Point; B : Point;",
+                         std::string(points) + "#1=PROBE(#5,#2,#4,#7);#5=LINE((#2,#2,#3),#3,$);#6=RAY((#3,#2),#4,*);"
+                                               "#7=POINT((0.));#8=LINE((#3,#3),#7,$);#9=LINE((#3,#3),#7,$);",
                          R"(
         T D.Dim = 2
         T D.Twice = 4
@@ -416,6 +425,7 @@ TEST(RuleMachine, FollowsAttributes) {
         T Q.Owner :=: Q.Owner
         T 'SAMPLE.RAY' IN TYPEOF(Q.Owner)
         F EXISTS(P.Owner)
+        F EXISTS(B.Owner)
         T SIZEOF(QUERY(x <* P.Lines | 'SAMPLE.RAY' IN TYPEOF(x))) = 1
         T SIZEOF(USEDIN(P, 'SAMPLE.LINE.POINTS')) = 3
         T SIZEOF(USEDIN(Q, 'SAMPLE.LINE.FIRST')) = 1
@@ -425,6 +435,7 @@ TEST(RuleMachine, FollowsAttributes) {
         F EXISTS(D.Hue)
         T (Shape() || Line([P, Q], P, ?)).Dim = 2
         T SIZEOF(Point([1.]).Lines) = 0
+        T SIZEOF(USEDIN(Point([1.]), 'SAMPLE.LINE.POINTS')) = 0
         F EXISTS(Point([1.]).Owner)
         T (Ray() || Shape() || Line([P, Q], P, ?)).Hue = Colour.BLUE)");
 }
@@ -524,6 +535,21 @@ TEST(RuleMachine, JudgesValuesAndPopulations) {
     EXPECT_EQ(global("W3"), 'T');
 }
 
+// What is remembered of many instances is told apart by attribute.
+TEST(RuleMachine, RemembersAttributesOfManyInstances) {
+    std::string instances;
+    for (int i = 1; i <= 3000; ++i) {
+        const std::string number = std::to_string(i);
+        instances += "#" + number + "=BOTH((" + number + "),(-" + number + "),(0," + number + "));";
+    }
+    test::JudgedRules judged(
+        "ENTITY Both; A, B, C : LIST OF INTEGER; DERIVE D : INTEGER := A[1] + C[2]; END_ENTITY;\n"
+        "RULE All FOR (Both); WHERE W1 : SIZEOF(QUERY(x <* Both | (x.A[1] > 0) AND (x.B[1] < 0) AND\n"
+        "(x.C[1] = 0) AND (x.A[1] = -x.B[1]) AND (x.D = 2 * x.A[1]))) = 3000; END_RULE;",
+        instances);
+    EXPECT_EQ(judged.machine().judgeGlobal(judged.code("ALL", "W1")), Verdict::Holds);
+}
+
 // A rule that has no end ends, and so does a model whose parts refer to each other.
 TEST(RuleMachine, IsBounded) {
     const std::string declarations =
@@ -531,6 +557,8 @@ TEST(RuleMachine, IsBounded) {
         "END_ENTITY;\n"
         "FUNCTION Endless(n : INTEGER) : INTEGER; REPEAT WHILE TRUE; n := n + 1; END_REPEAT; END_FUNCTION;\n"
         "FUNCTION Deep(n : INTEGER) : INTEGER; RETURN (Deep(n + 1)); END_FUNCTION;\n"
+        "FUNCTION Counted(n : INTEGER) : INTEGER; IF n = 0 THEN RETURN (0); END_IF; RETURN (1 + Counted(n - 1));\n"
+        "  END_FUNCTION;\n"
         "FUNCTION Large(n : INTEGER) : INTEGER; LOCAL l : LIST OF INTEGER := [1]; END_LOCAL;\n"
         "  REPEAT i := 1 TO 40; l := l + l; END_REPEAT; RETURN (SIZEOF(l)); END_FUNCTION;\n"
         "FUNCTION Wide(n : INTEGER) : STRING; LOCAL s : STRING := 'x'; END_LOCAL;\n"
@@ -547,13 +575,17 @@ TEST(RuleMachine, IsBounded) {
         F C :=: C.Next
         ! Endless(1) = 1
         ! Deep(1) = 1
+        T Counted(150) = 150
         ! Large(1) = 1
         ! Wide(1) = ''
         ! Nested(100000) = Nested(100001)
         U Nested(20) = Nested(21)
         T Nested(20) = Nested(20)
         T SIZEOF([1 : 10000]) = 10000
-        ! SIZEOF([1 : 100000000]) = 10000)");
+        ! SIZEOF([1 : 100000000]) = 10000
+        T SIZEOF([1 : 1500000]) = 1500000
+        T SIZEOF([[1 : 1500000], [2 : 1500000]]) = 2
+        ! SIZEOF([[1 : 1500000], [2 : 1500000], [3 : 1500000]]) = 3)");
 }
 
 TEST(RuleMachine, TellsWhatItReads) {
@@ -588,7 +620,9 @@ TEST(RuleMachine, MakesKeysOfValues) {
                                                    "#12=KEY(LABEL('a'),(1,2),#3);#13=KEY(LENGTH(1.),(1,2),#4);"
                                                    "#14=KEY(POSITIVE(1),(1.,2.),#3);#15=KEY(LABEL('x'),$,#3);"
                                                    "#16=KEY(LABEL('a\\X2\\0062\\X0\\'),(1,3),#3);"
-                                                   "#17=KEY(ANGLE((1,2,3)),(),#3);#18=KEY(ANGLE((1,3,2)),(),#3);");
+                                                   "#17=KEY(ANGLE((1,2,3)),(),#3);#18=KEY(ANGLE((1,3,2)),(),#3);"
+                                                   "#19=KEY(COUNT(1),(),#3);#20=KEY(COUNT(9007199254740993),(),#3);"
+                                                   "#21=KEY(COUNT(9007199254740992),(),#3);");
     const auto key = [&](std::uint64_t id, std::initializer_list<const char*> attributes) {
         std::vector<TextId> names;
         for (const char* name : attributes) names.push_back(judged.textId(name));
@@ -600,6 +634,8 @@ TEST(RuleMachine, MakesKeysOfValues) {
     EXPECT_EQ(key(10, {"A"}), key(16, {"A"}));
     EXPECT_NE(key(10, {"A"}), key(12, {"A"}));
     EXPECT_EQ(key(13, {"A"}), key(14, {"A"}));
+    EXPECT_EQ(key(13, {"A"}), key(19, {"A"}));
+    EXPECT_NE(key(20, {"A"}), key(21, {"A"}));
     EXPECT_EQ(key(13, {"B"}), key(14, {"B"}));
     EXPECT_NE(key(13, {"C"}), key(14, {"C"}));
     EXPECT_NE(key(17, {"A"}), key(18, {"A"}));

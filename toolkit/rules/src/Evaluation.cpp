@@ -33,15 +33,16 @@ Aggregate& Evaluation::makeAggregate(AggregateKind kind, std::size_t capacity) {
 }
 
 void Evaluation::append(Aggregate& aggregate, const Value& member) {
-    reserveOne(aggregate);
+    reserve(aggregate, 1);
     hold(member);
     aggregate.members[aggregate.decoded++] = member;
     aggregate.size = aggregate.decoded;
 }
 
-void Evaluation::reserveOne(Aggregate& aggregate) {
-    if (aggregate.decoded < aggregate.capacity) return;
-    const std::size_t capacity = std::max<std::size_t>(4, std::size_t{2} * aggregate.capacity);
+void Evaluation::reserve(Aggregate& aggregate, std::size_t more) {
+    if (more <= aggregate.capacity - aggregate.decoded) return;
+    const std::size_t capacity =
+        std::max({std::size_t{4}, std::size_t{2} * aggregate.capacity, aggregate.decoded + more});
     if (capacity >= Aggregate::uncounted) throw BoundReached();
     Value* members = room<Value>(capacity);
     std::copy_n(aggregate.members, aggregate.decoded, members);

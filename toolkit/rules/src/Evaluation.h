@@ -46,8 +46,8 @@ public:
     Aggregate& makeAggregate(AggregateKind kind, std::size_t capacity = 0);
     /// Puts a member behind those of an aggregate that a rule makes.
     void append(Aggregate& aggregate, const Value& member);
-    /// Makes room for one more member than there are decoded.
-    void reserveOne(Aggregate& aggregate);
+    /// Makes room for so many members more than there are decoded.
+    void reserve(Aggregate& aggregate, std::size_t more);
     EntityValue& makeEntity(const sdai::EntityDefinition& entity);
 
 private:

@@ -228,6 +228,7 @@ void Interpreter::makeAggregate(Operation operation) {
 void Interpreter::appendRepeated(const Value& member, const Value& count) {
     if (count.kind() != ValueKind::Integer || count.integer() < 0) top() = Value();
     if (!top().isAggregate()) return;
+    _evaluation.reserve(top().aggregate(), static_cast<std::size_t>(count.integer()));
     for (std::int64_t i = 0; i < count.integer(); ++i) {
         _evaluation.spend();
         _evaluation.append(top().aggregate(), member);

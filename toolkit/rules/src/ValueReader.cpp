@@ -203,11 +203,8 @@ std::uint32_t ValueReader::size(Aggregate& aggregate) {
 
 void ValueReader::decodeOne(Aggregate& aggregate) {
     _evaluation.spend();
-    if (aggregate.capacity == 0 && aggregate.size != Aggregate::uncounted) {
-        aggregate.members = _evaluation.room<Value>(aggregate.size);
-        aggregate.capacity = aggregate.size;
-    }
-    _evaluation.reserveOne(aggregate);
+    const bool isCounted = aggregate.size != Aggregate::uncounted;
+    _evaluation.reserve(aggregate, isCounted ? aggregate.size - aggregate.decoded : 1);
     aggregate.members[aggregate.decoded] = read(aggregate.declared->element(), aggregate.encoded);
     ++aggregate.decoded;
     aggregate.isEncoded = takeMember(aggregate.encoded);
