@@ -18,6 +18,7 @@
 #include <cstring>
 #include <dlfcn.h>
 #include <initializer_list>
+#include <iostream>
 #include <new>
 #include <sys/mman.h>
 #include <sys/resource.h>
@@ -108,7 +109,9 @@ struct Order {
     }
     if (runsAgain) {
         failingAllocation = failingRead = 0;
-        lseek(STDIN_FILENO, 0, SEEK_SET);
+        // What the first run read, the second shall read again.
+        std::rewind(stdin);
+        std::cin.clear();
         for (const int output : {STDOUT_FILENO, STDERR_FILENO}) {
             if (ftruncate(output, 0) == 0) lseek(output, 0, SEEK_SET);
         }

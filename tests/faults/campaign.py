@@ -141,8 +141,9 @@ class Outcome:
     def __init__(self, status, out, err, allocations, reads):
         self.signal = os.WTERMSIG(status) if os.WIFSIGNALED(status) else 0
         self.status = os.WEXITSTATUS(status)
-        # New identifiers are new each time.
-        self.out = re.sub(rb'^[0-9A-Za-z_$]{22}$', b'ID', out)
+        # New identifiers are new each time, and so is the time that something took.
+        out = re.sub(rb'^[0-9A-Za-z_$]{22}$', b'ID', out)
+        self.out = re.sub(rb'(, |"seconds": )[0-9][0-9.e-]*( s\n|,?\n)', rb'\1TIME\2', out)
         self.err, self.allocations, self.reads = err, allocations, reads
 
     def same(self, other):

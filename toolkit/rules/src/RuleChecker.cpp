@@ -46,8 +46,11 @@ RuleCheckResult RuleChecker::check() {
 }
 
 unsigned RuleChecker::threadCount() const {
-    const unsigned wanted = _options.jobs != 0 ? _options.jobs : std::max(std::thread::hardware_concurrency(), 1U);
-    return static_cast<unsigned>(std::clamp<std::size_t>(_rangeCount, 1, wanted));
+    // A thread takes longer to start than some ranges take to judge.
+    constexpr std::size_t rangesWorthAThread = 4;
+    if (_options.jobs != 0) return static_cast<unsigned>(std::clamp<std::size_t>(_rangeCount, 1, _options.jobs));
+    const unsigned cores = std::max(std::thread::hardware_concurrency(), 1U);
+    return static_cast<unsigned>(std::clamp<std::size_t>(_rangeCount / rangesWorthAThread, 1, cores));
 }
 
 void RuleChecker::workInThread(std::unique_ptr<InstanceJudge>& judge) noexcept {
