@@ -1,12 +1,12 @@
 #include "velkor/check/ModelCheck.h"
 
 #include "velkor/identifiers/GuidCheck.h"
+#include "velkor/rules/DerivedSlots.h"
 #include "velkor/rules/RuleCatalogue.h"
 #include "velkor/sdai/PopulationCheck.h"
 #include "velkor/sdai/SyntaxCheck.h"
 
 #include <array>
-#include <limits>
 #include <utility>
 
 namespace velkor {
@@ -14,13 +14,6 @@ namespace velkor {
 namespace {
 
 constexpr std::array<std::string_view, 2> numberTypes{"IFCCOUNTMEASURE", "IFCNUMERICMEASURE"};
-
-/// The release whose dictionary has the derived attributes that this one's leaves out.
-DXSdaiDictionaryRepo::SchemaPointer derivingNeighbour(const sdai::SchemaDefinition& schema) {
-    if (schema.name() != "IFC2X3" && schema.name() != "IFC4X1") return nullptr;
-    auto neighbour = DXSdaiDictionaryRepo::TheOne().schema("IFC4");
-    return neighbour ? *neighbour : nullptr;
-}
 
 // What a check of the platform calls.
 sdai::Progress stepsOf(const Progress& progress, const char* work, bool& isComplete) {
@@ -30,37 +23,30 @@ sdai::Progress stepsOf(const Progress& progress, const char* work, bool& isCompl
     };
 }
 
-/// What a filter takes of findings that were not filtered before; they are all there unless it takes all.
-CheckResult chosen(CheckResult result, const CheckOptions& options) {
-    if (options.codes.takesAll()) return result;
-    std::erase_if(result.problems, [&](const sdai::Problem& problem) { return !options.codes.takes(problem.code); });
-    result.total = result.problems.size();
-    if (result.problems.size() > options.limit) result.problems.resize(options.limit);
-    return result;
-}
-
-std::size_t limitBefore(const CheckOptions& options) {
-    return options.codes.takesAll() ? options.limit : std::numeric_limits<std::size_t>::max();
+// What a check of the platform asks for.
+sdai::CodeChoice choiceOf(const CodeFilter& codes) {
+    if (codes.takesAll()) return {};
+    return [&codes](std::string_view code) { return codes.takes(code); };
 }
 
 CheckResult checkInstances(const sdai::Model& model, const CheckOptions& options) {
     CheckResult result;
-    const auto neighbour = derivingNeighbour(model.schema());
-    const auto progress = stepsOf(options.progress, "Checking the instances", result.isComplete);
-    result.problems =
-        sdai::checkPopulation(model, {limitBefore(options), neighbour.get(), numberTypes, progress}, &result.total);
-    return chosen(std::move(result), options);
+    sdai::PopulationCheckOptions wanted;
+    wanted.limit = options.limit;
+    const auto slots = derivedSlots(model.schema());
+    wanted.derivedSlots = slots;
+    wanted.numberTypes = numberTypes;
+    wanted.progress = stepsOf(options.progress, "Checking the instances", result.isComplete);
+    wanted.choice = choiceOf(options.codes);
+    result.problems = sdai::checkPopulation(model, wanted, &result.total);
+    return result;
 }
 
 /// What neither the dictionary nor a rule of the release tells of identifiers already.
-CheckResult checkIdentifiers(const sdai::Model& model, const CheckOptions& options) {
-    CheckOptions rest = options;
-    rest.limit = std::numeric_limits<std::size_t>::max();
-    rest.codes.ignore.insert(rest.codes.ignore.end(), {"guid-missing", "guid-length"});
-    if (ruleNamed(model.schema().name(), "IfcRoot.UR1")) rest.codes.ignore.emplace_back("guid-duplicate");
-    CheckResult result = guid::checkGuids(model, rest).result;
-    rest.limit = options.limit;
-    return chosen(std::move(result), rest);
+CheckResult checkIdentifiers(const sdai::Model& model, CheckOptions options) {
+    options.codes.ignore.insert(options.codes.ignore.end(), {"guid-missing", "guid-length"});
+    if (ruleNamed(model.schema().name(), "IfcRoot.UR1")) options.codes.ignore.emplace_back("guid-duplicate");
+    return guid::checkGuids(model, options).result;
 }
 
 void take(ModelCheckResult& result, const CheckResult& more, std::size_t limit) {
@@ -80,8 +66,8 @@ void judgeRules(const sdai::Model& model, const ModelCheckOptions& options, Mode
 CheckResult checkStructure(const sdai::Part21File& file, const CheckOptions& options) {
     CheckResult result;
     const auto progress = stepsOf(options.progress, "Checking the exchange structure", result.isComplete);
-    result.problems = sdai::checkSyntax(file, limitBefore(options), &result.total, progress);
-    return chosen(std::move(result), options);
+    result.problems = sdai::checkSyntax(file, options.limit, &result.total, progress, choiceOf(options.codes));
+    return result;
 }
 
 ModelCheckResult checkModel(const sdai::Model& model, const ModelCheckOptions& options) {

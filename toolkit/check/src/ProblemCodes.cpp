@@ -1,57 +1,20 @@
 #include "velkor/check/ModelCheck.h"
+#include "velkor/identifiers/GuidText.h"
+#include "velkor/sdai/ProblemCode.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace velkor {
 
 std::vector<std::string_view> problemCodes() {
-    return {
-        "abstract-entity",
-        "aggregate-size",
-        "attribute-count",
-        "byte-order-mark",
-        "character-invalid",
-        "comment-not-closed",
-        "dangling-reference",
-        "data-missing",
-        "data-parameters-missing",
-        "element-not-unique",
-        "end-missing",
-        "endsec-missing",
-        "global-rule",
-        "guid-character",
-        "guid-duplicate",
-        "guid-first-character",
-        "header-entity-missing",
-        "header-entity-repeated",
-        "header-entity-unknown",
-        "header-missing",
-        "instance-name-too-large",
-        "instance-name-zero",
-        "instance-repeated",
-        "integer-for-real",
-        "inverse-cardinality",
-        "missing-value",
-        "parameter-count",
-        "parameter-type",
-        "rule-not-decided",
-        "schema-unknown",
-        "section-skipped",
-        "semicolon-missing",
-        "start-missing",
-        "string-invalid",
-        "string-not-closed",
-        "text-behind-end",
-        "text-length",
-        "token-invalid",
-        "unexpected-token",
-        "uniqueness-rule",
-        "unknown-entity",
-        "unknown-enumerator",
-        "untyped-value",
-        "value-of-derived",
-        "where-rule",
-        "wrong-reference",
-        "wrong-type",
-    };
+    std::vector<std::string_view> codes(sdai::checkCodes.begin(), sdai::checkCodes.end());
+    codes.insert(codes.end(), ruleCodes.begin(), ruleCodes.end());
+    // What else there is to say of an identifier, the dictionary says.
+    std::ranges::copy_if(guid::codes, std::back_inserter(codes),
+                         [](std::string_view code) { return code != "guid-missing" && code != "guid-length"; });
+    std::ranges::sort(codes);
+    return codes;
 }
 
 } // namespace velkor

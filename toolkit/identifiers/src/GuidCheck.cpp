@@ -1,6 +1,7 @@
 #include "velkor/identifiers/GuidCheck.h"
 
 #include "velkor/identifiers/GuidText.h"
+#include "velkor/sdai/Part21Lexer.h"
 
 #include <unordered_map>
 
@@ -11,19 +12,31 @@ namespace {
 // Instances between two looks at the clock.
 constexpr std::uint64_t progressStep = 1024;
 
+/// As the file writes it. Of an instance of one entity it is the first parameter, read without an instance object: they
+/// would be kept for all the model.
+std::string_view encodedIdentifier(const sdai::Model& model, std::uint32_t number) {
+    const sdai::EntityDefinition* entity = model.entityAt(number);
+    if (entity == nullptr || entity->attributeIndex("GLOBALID") != 0)
+        return model.instanceAt(number)->GetAttr("GLOBALID").encoded();
+    sdai::Part21Lexer lexer(model.file().instanceText(number));
+    lexer.next();
+    if (lexer.next().kind != sdai::TokenKind::Open) return {};
+    const sdai::Token token = lexer.next();
+    return token.kind == sdai::TokenKind::String ? token.text : std::string_view();
+}
+
 class Checker {
 public:
-    Checker(const sdai::Model& model, CheckResult& result, std::size_t limit)
-        : _file(model.file()), _result(result), _limit(limit) {}
+    Checker(const sdai::Model& model, CheckResult& result, const CheckOptions& options)
+        : _file(model.file()), _result(result), _options(options) {}
 
-    void check(std::uint32_t number, const sdai::Primitive& value) {
-        const std::string_view encoded = value.encoded();
-        const bool isText = value.isSet() && encoded.starts_with('\'');
+    void check(std::uint32_t number, std::string_view encoded) {
+        const bool isText = encoded.starts_with('\'');
         if (!isText) return add(number, "guid-missing", "GLOBALID: expected an identifier of 22 characters");
         // Most are well-formed as they stand.
         const std::string_view inside = encoded.substr(1, encoded.size() - std::min<std::size_t>(encoded.size(), 2));
         if (faultOf(inside)) {
-            const std::string text = value.asString();
+            const std::string text = sdai::decodeString(encoded);
             if (const auto fault = faultOf(text)) add(number, fault->code, "GLOBALID: " + fault->message);
         }
         if (inside.empty()) return;
@@ -38,7 +51,7 @@ public:
 
 private:
     void add(std::uint32_t number, const char* code, std::string message) {
-        if (++_result.total > _limit) return;
+        if (!_options.codes.takes(code) || ++_result.total > _options.limit) return;
         const std::uint64_t offset = _file.offset(number);
         _result.problems.push_back(
             {sdai::Severity::Error, offset, _file.line(offset), _file.id(number), code, std::move(message)});
@@ -46,7 +59,7 @@ private:
 
     const sdai::Part21File& _file;
     CheckResult& _result;
-    std::size_t _limit;
+    const CheckOptions& _options;
     // The instance that has an identifier first, by the identifier as the file writes it.
     std::unordered_map<std::string_view, std::uint32_t> _first;
 };
@@ -56,15 +69,14 @@ private:
 GuidCheck checkGuids(const sdai::Model& model, const CheckOptions& options) {
     GuidCheck check;
     const auto numbers = model.numbersOf("IFCROOT");
-    Checker checker(model, check.result, options.limit);
+    Checker checker(model, check.result, options);
     checker.reserve(numbers.size());
     for (std::uint64_t i = 0; i < numbers.size(); ++i) {
         if (i % progressStep == 0 && !goesOn(options.progress, {"Checking the identifiers", i, numbers.size()})) {
             check.result.isComplete = false;
             break;
         }
-        const DXSdaiAppInstance& instance = *model.instanceAt(numbers[i]);
-        checker.check(numbers[i], instance.GetAttr("GLOBALID"));
+        checker.check(numbers[i], encodedIdentifier(model, numbers[i]));
         ++check.count;
     }
     return check;

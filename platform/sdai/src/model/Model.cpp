@@ -1,6 +1,7 @@
 #include "velkor/sdai/Model.h"
 
 #include "ComplexInstance.h"
+#include "velkor/sdai/ProblemCode.h"
 #include "velkor/text/Printable.h"
 #include "velkor/text/Wording.h"
 
@@ -78,7 +79,7 @@ std::optional<Problem> Model::schemaProblem(const Part21File& file) {
     Problem problem;
     problem.offset = found == std::string_view::npos ? 0 : found;
     problem.line = file.line(problem.offset);
-    problem.code = "schema-unknown";
+    problem.code = ProblemCode("schema-unknown").text();
     problem.message =
         "expected a supported schema in FILE_SCHEMA, found " +
         (written.empty() ? "none" : text::quoted(text::excerpt(text::joined(written, "\", \""), longestExcerpt))) +

@@ -57,8 +57,9 @@ std::size_t bits(const Token& token) {
 } // namespace
 
 PopulationChecker::PopulationChecker(const Model& model, const PopulationCheckOptions& options)
-    : _model(model), _options(options), _problems(options.limit) {
-    if (options.derivedAttributes != nullptr) takeDerivedFrom(*options.derivedAttributes);
+    : _model(model), _options(options), _problems(options.limit, options.choice) {
+    for (const DerivedSlot& derived : options.derivedSlots) takeDerived(derived);
+    std::ranges::sort(_derivedElsewhere);
 }
 
 void PopulationChecker::check() {
@@ -142,16 +143,15 @@ void PopulationChecker::checkAttribute(const AttributeSlot& slot) {
     }
 }
 
-void PopulationChecker::takeDerivedFrom(const SchemaDefinition& neighbour) {
+void PopulationChecker::takeDerived(const DerivedSlot& derived) {
+    const EntityDefinition* owner = _model.schema().entity(derived.entity);
+    const int index = owner == nullptr ? -1 : owner->attributeIndex(derived.attribute);
+    if (index < 0) return;
+    // Inherited attributes come first, so that subtypes have it at the same place.
     for (const EntityDefinition* entity : _model.schema().entities()) {
-        const EntityDefinition* there = neighbour.entity(entity->name());
-        if (there == nullptr) continue;
-        for (const AttributeSlot& slot : there->attributes()) {
-            const int index = slot.isDerived ? entity->attributeIndex(slot.attribute->name()) : -1;
-            if (index >= 0) _derivedElsewhere.push_back(&entity->attributes()[static_cast<std::size_t>(index)]);
-        }
+        if (entity->isKindOf(*owner))
+            _derivedElsewhere.push_back(&entity->attributes()[static_cast<std::size_t>(index)]);
     }
-    std::ranges::sort(_derivedElsewhere);
 }
 
 bool PopulationChecker::isDerived(const AttributeSlot& slot) const {
@@ -306,7 +306,7 @@ void PopulationChecker::unexpected(const Type& declared, const Token& token) {
            "expected " + declared.expressText() + ", found " + excerpt(token));
 }
 
-void PopulationChecker::report(Severity severity, const char* at, const char* code, const std::string& message) {
+void PopulationChecker::report(Severity severity, const char* at, ProblemCode code, const std::string& message) {
     const auto offset = static_cast<std::uint64_t>(at - _model.file().text().data());
     std::string place;
     if (_entity != nullptr && _attribute != nullptr) {

@@ -24,7 +24,7 @@ private:
     const EntityDefinition* checkEntity(std::string_view keyword, bool isPart);
     void checkAttributes(const EntityDefinition& entity);
     void checkAttribute(const AttributeSlot& slot);
-    void takeDerivedFrom(const SchemaDefinition& neighbour);
+    void takeDerived(const DerivedSlot& derived);
     bool isDerived(const AttributeSlot& slot) const;
 
     bool isNumber(const Type& declared) const;
@@ -38,7 +38,7 @@ private:
     const EntityDefinition* referred(const Token& token);
 
     void unexpected(const Type& declared, const Token& token);
-    void report(Severity severity, const char* at, const char* code, const std::string& message);
+    void report(Severity severity, const char* at, ProblemCode code, const std::string& message);
 
     const Model& _model;
     const PopulationCheckOptions& _options;

@@ -7,11 +7,12 @@
 
 namespace velkor::sdai::part21 {
 
-void ProblemList::add(Severity severity, std::uint64_t offset, std::uint64_t instance, const char* code,
+void ProblemList::add(Severity severity, std::uint64_t offset, std::uint64_t instance, ProblemCode code,
                       std::string message) {
+    if (_choice && !_choice(code.text())) return;
     ++_total;
     if (isFull()) return;
-    _problems.push_back({severity, offset, 0, instance, code, std::move(message)});
+    _problems.push_back({severity, offset, 0, instance, std::string(code.text()), std::move(message)});
 }
 
 void ProblemList::finish(const LineTable& lines) {

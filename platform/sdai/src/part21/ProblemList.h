@@ -3,6 +3,7 @@
 
 #include "LineTable.h"
 #include "velkor/sdai/Problem.h"
+#include "velkor/sdai/ProblemCode.h"
 
 #include <string>
 #include <string_view>
@@ -12,12 +13,12 @@ namespace velkor::sdai::part21 {
 
 class ProblemList {
 public:
-    explicit ProblemList(std::size_t limit) noexcept : _limit(limit) {}
+    explicit ProblemList(std::size_t limit, CodeChoice choice = {}) : _limit(limit), _choice(std::move(choice)) {}
 
     /// Whether the next problem is kept; spares the making of its message.
     bool isFull() const noexcept { return _problems.size() >= _limit; }
-    /// Counts a problem and keeps it while there is room. The code is a constant.
-    void add(Severity severity, std::uint64_t offset, std::uint64_t instance, const char* code, std::string message);
+    /// Counts a problem that is wanted, and keeps it while there is room.
+    void add(Severity severity, std::uint64_t offset, std::uint64_t instance, ProblemCode code, std::string message);
     /// Puts the problems in file order and places each on its line.
     void finish(const LineTable& lines);
 
@@ -27,6 +28,7 @@ public:
 
 private:
     std::size_t _limit;
+    CodeChoice _choice;
     std::uint64_t _total = 0;
     std::vector<Problem> _problems;
 };

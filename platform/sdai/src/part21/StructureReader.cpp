@@ -425,7 +425,7 @@ const char* StructureReader::content(const char* at, const char* end) const noex
     }
 }
 
-void StructureReader::report(Severity severity, const char* at, const char* code, std::string message) {
+void StructureReader::report(Severity severity, const char* at, ProblemCode code, std::string message) {
     _structure.problems.add(severity, offset(at), _instance, code, std::move(message));
 }
 

@@ -69,8 +69,8 @@ private:
 
     const char* content(const char* at, const char* end) const noexcept;
     std::uint64_t offset(const char* at) const noexcept { return static_cast<std::uint64_t>(at - _begin); }
-    void report(Severity severity, const char* at, const char* code, std::string message);
-    void error(const char* at, const char* code, std::string message) {
+    void report(Severity severity, const char* at, ProblemCode code, std::string message);
+    void error(const char* at, ProblemCode code, std::string message) {
         report(Severity::Error, at, code, std::move(message));
     }
 

@@ -12,8 +12,8 @@
 namespace velkor::sdai {
 
 std::vector<Problem> checkSyntax(const Part21File& file, std::size_t limit, std::uint64_t* total,
-                                 const Progress& progress) {
-    part21::SyntaxChecker checker(file, limit, progress);
+                                 const Progress& progress, const CodeChoice& choice) {
+    part21::SyntaxChecker checker(file, limit, progress, choice);
     checker.check();
     if (total != nullptr) *total = checker.problems().total();
     return std::move(checker.problems().problems());
@@ -47,9 +47,13 @@ constexpr char listOfStrings = 'L';
 constexpr char emptyList = '0';
 constexpr char otherParameter = '-';
 
-const char* shapeText(char expected, char found) {
-    if (expected == stringParameter) return "a string";
-    return found == emptyList ? "at least one string in the list" : "a list of strings";
+/// What is expected of a parameter: "a list of strings for author", "at least one schema identifier".
+std::string shapeText(char expected, char found, std::string_view name) {
+    if (expected == stringParameter) return "a string for " + std::string(name);
+    if (found != emptyList) return "a list of strings for " + std::string(name);
+    std::string member(name.substr(0, name.size() - (name.ends_with('s') ? 1 : 0)));
+    std::ranges::replace(member, '_', ' ');
+    return "at least one " + member;
 }
 
 /// Deepest nesting of lists that is judged; schemas stay below ten.
@@ -73,8 +77,9 @@ std::string describe(const Token& token) {
 
 } // namespace
 
-SyntaxChecker::SyntaxChecker(const Part21File& file, std::size_t limit, const Progress& progress)
-    : _file(file), _progress(progress), _problems(limit), _begin(file.text().data()) {}
+SyntaxChecker::SyntaxChecker(const Part21File& file, std::size_t limit, const Progress& progress,
+                             const CodeChoice& choice)
+    : _file(file), _progress(progress), _problems(limit, choice), _begin(file.text().data()) {}
 
 void SyntaxChecker::check() {
     const std::string_view text = _file.text();
@@ -99,7 +104,7 @@ void SyntaxChecker::check() {
     if (!_stopped) checkPiece(done, text.size());
     if (!_stopped && _place != Place::End) {
         const bool inSection = _place == Place::Header || _place == Place::Data;
-        error(_begin + text.size(), inSection ? "endsec-missing" : "end-missing",
+        error(_begin + text.size(), inSection ? ProblemCode("endsec-missing") : ProblemCode("end-missing"),
               std::string("expected ") + expectedAt[static_cast<std::size_t>(_place)] + ", found the end of the text");
     }
 
@@ -142,7 +147,7 @@ void SyntaxChecker::checkStatement(const Token& first) {
     if (_place == Place::End) {
         const bool signature = first.text == "SIGNATURE";
         report(signature ? Severity::Warning : Severity::Error, first.text.data(),
-               signature ? "section-skipped" : "text-behind-end",
+               signature ? ProblemCode("section-skipped") : ProblemCode("text-behind-end"),
                signature ? "the section SIGNATURE belongs to edition 3 and is skipped"
                          : "expected the end of the text behind \"END-ISO-10303-21;\", found " + describe(first));
         _stopped = true;
@@ -413,8 +418,8 @@ void SyntaxChecker::checkShape(const Token& keyword, const HeaderEntity& expecte
     for (std::size_t i = 0; i < _shape.size(); ++i) {
         if (_shape[i] == expected.shape[i]) continue;
         error(keyword.text.data(), "parameter-type",
-              std::string("expected ") + shapeText(expected.shape[i], _shape[i]) + " for " + expected.names[i] +
-                  ", parameter " + std::to_string(i + 1) + of + (_shape[i] == emptyList ? ", found ()" : ""));
+              "expected " + shapeText(expected.shape[i], _shape[i], expected.names[i]) + ", parameter " +
+                  std::to_string(i + 1) + of + (_shape[i] == emptyList ? ", found ()" : ""));
     }
 }
 
@@ -464,16 +469,16 @@ bool SyntaxChecker::expect(TokenKind kind, const char* what) {
 /// Reports a token that does not fit; answers false so that a caller can return it.
 bool SyntaxChecker::unexpected(const Token& token, const char* expected) {
     const bool string = token.kind == TokenKind::Bad && token.text[0] == '\'';
-    error(token.text.data(), string ? "string-not-closed" : "unexpected-token",
+    error(token.text.data(), string ? ProblemCode("string-not-closed") : ProblemCode("unexpected-token"),
           std::string("expected ") + expected + ", found " + describe(token));
     return false;
 }
 
-void SyntaxChecker::error(const char* at, const char* code, std::string message) {
+void SyntaxChecker::error(const char* at, ProblemCode code, std::string message) {
     report(Severity::Error, at, code, std::move(message));
 }
 
-void SyntaxChecker::report(Severity severity, const char* at, const char* code, std::string message) {
+void SyntaxChecker::report(Severity severity, const char* at, ProblemCode code, std::string message) {
     _problems.add(severity, static_cast<std::uint64_t>(at - _begin), _instance, code, std::move(message));
 }
 

@@ -17,7 +17,7 @@ struct HeaderEntity;
 /// not hide the next.
 class SyntaxChecker {
 public:
-    SyntaxChecker(const Part21File& file, std::size_t limit, const Progress& progress);
+    SyntaxChecker(const Part21File& file, std::size_t limit, const Progress& progress, const CodeChoice& choice);
 
     void check();
     ProblemList& problems() noexcept { return _problems; }
@@ -54,8 +54,8 @@ private:
     void checkGap(const char* from, const char* to);
     bool expect(TokenKind kind, const char* what);
     bool unexpected(const Token& token, const char* expected);
-    void error(const char* at, const char* code, std::string message);
-    void report(Severity severity, const char* at, const char* code, std::string message);
+    void error(const char* at, ProblemCode code, std::string message);
+    void report(Severity severity, const char* at, ProblemCode code, std::string message);
     /// Stops when the caller wants no more.
     void showProgress(std::uint64_t done);
 

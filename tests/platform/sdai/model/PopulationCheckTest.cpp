@@ -78,29 +78,36 @@ TEST_F(PopulationCheck, JudgesEntitiesAndTheirAttributes) {
     }
 }
 
-TEST_F(PopulationCheck, ANeighbouringReleaseTellsWhatIsDerived) {
-    // There LEAF is what PART is here: its SIZE is derived.
-    SampleSchema swapped;
-    for (std::string& text : swapped.declarations) {
-        if (text.starts_with("Entity(PART"))
-            text.replace(7, 4, "LEAF");
-        else if (text.starts_with("Entity(LEAF"))
-            text.replace(7, 4, "PART");
-    }
-    const auto neighbour = swapped.restore();
-    ASSERT_TRUE(neighbour) << neighbour.error();
-    const Model& model = open("#1=LEAF('n',*,());\n#2=LEAF(*,*,());\n#3=LEAF('n',1,());\n#4=LEAF('n',$,());\n");
-    PopulationCheckOptions options;
-    options.derivedAttributes = neighbour->get();
-    const auto judged = [&] {
+TEST_F(PopulationCheck, TheCallerTellsWhatIsDerivedBesides) {
+    const std::string instances = "#1=LEAF('n',*,());\n#2=LEAF(*,*,());\n#3=LEAF('n',1,());\n#4=LEAF('n',$,());\n"
+                                  "#5=PART('p',*,$);\n";
+    const Model& model = open(instances);
+    const auto judged = [&](std::vector<DerivedSlot> slots) {
+        PopulationCheckOptions options;
+        options.derivedSlots = slots;
         std::string result;
         for (const Problem& one : checkPopulation(model, options))
             result += std::to_string(one.instance) + one.code + ' ';
         return result;
     };
-    EXPECT_EQ(judged(), "2wrong-type 3value-of-derived 4value-of-derived ");
-    options.derivedAttributes = nullptr;
-    EXPECT_EQ(judged(), "1wrong-type 2wrong-type 2wrong-type ");
+    EXPECT_EQ(judged({}), "1wrong-type 2wrong-type 2wrong-type 5missing-value ");
+    EXPECT_EQ(judged({{"LEAF", "size"}}), "2wrong-type 3value-of-derived 4value-of-derived 5missing-value ");
+    EXPECT_EQ(judged({{"ROOT", "NAME"}}), "1value-of-derived 1wrong-type 2wrong-type 3value-of-derived "
+                                          "4value-of-derived 5value-of-derived 5missing-value ")
+        << "of subtypes as well";
+    EXPECT_EQ(judged({{"NOTHING", "SIZE"}, {"LEAF", "NOTHING"}}), judged({}));
+}
+
+TEST_F(PopulationCheck, WhatIsNotWantedIsNotCounted) {
+    const Model& model = open("#1=OTHER(1);\n#2=NOTHING();\n#3=OTHER(1);\n");
+    PopulationCheckOptions options;
+    options.limit = 1;
+    options.choice = [](std::string_view code) { return code == "unknown-entity"; };
+    std::uint64_t total = 0;
+    const auto problems = checkPopulation(model, options, &total);
+    ASSERT_EQ(problems.size(), 1u);
+    EXPECT_EQ(problems[0].instance, 2u);
+    EXPECT_EQ(total, 1u);
 }
 
 TEST_F(PopulationCheck, CountsAllKeepsTheFirstAndTellsItsProgress) {

@@ -78,10 +78,17 @@ TEST(SyntaxCheck, HeaderAndSectionsAreCompleteAndInOrder) {
     for (const auto& [problems, texts] : cases) {
         for (const std::string& text : texts) EXPECT_EQ(placed(syntaxOf(text)), problems) << text;
     }
-    const auto empty = syntaxOf(withHeader(description + "FILE_NAME('','',(),(''),'','','');" + schema));
-    ASSERT_EQ(codeOf(empty), "parameter-type");
-    EXPECT_EQ(empty[0].message,
-              "expected at least one string in the list for author, parameter 3 of FILE_NAME, found ()");
+    const std::string name = "FILE_NAME('','',(''),(''),'','','');";
+    const std::pair<std::string, std::string> empty[] = {
+        {"FILE_DESCRIPTION((),'2;1');" + name + schema, "description, parameter 1 of FILE_DESCRIPTION"},
+        {description + "FILE_NAME('','',(),(''),'','','');" + schema, "author, parameter 3 of FILE_NAME"},
+        {description + "FILE_NAME('','',(''),(),'','','');" + schema, "organization, parameter 4 of FILE_NAME"},
+        {description + name + "FILE_SCHEMA(());", "schema identifier, parameter 1 of FILE_SCHEMA"}};
+    for (const auto& [texts, what] : empty) {
+        const auto problems = syntaxOf(withHeader(texts));
+        ASSERT_EQ(codeOf(problems), "parameter-type");
+        EXPECT_EQ(problems[0].message, "expected at least one " + what + ", found ()");
+    }
 }
 
 TEST(SyntaxCheck, InstancesAreJudgedStrictlyAndInTheirPlace) {

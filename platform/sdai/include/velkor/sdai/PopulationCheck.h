@@ -10,16 +10,22 @@
 
 namespace velkor::sdai {
 
+/// An entity and one of its attributes by name, letter case ignored.
+struct DerivedSlot {
+    std::string_view entity;
+    std::string_view attribute;
+};
+
 struct PopulationCheckOptions {
     std::size_t limit = 10'000;
-    /// A neighbouring release whose dictionary carries all derived attributes, for schemas
-    /// whose own does not: an attribute that an entity of the same name derives there counts as
-    /// derived. May be null.
-    const SchemaDefinition* derivedAttributes = nullptr;
+    /// Explicit attributes that entities redeclare as derived, for schemas whose dictionary does not carry them: an
+    /// instance of the entity or a subtype has "*" there. What the schema does not know is passed over.
+    std::span<const DerivedSlot> derivedSlots;
     /// Defined types that are NUMBER in EXPRESS, upper case: dictionaries state them as REAL, but a whole
     /// number may stand there.
     std::span<const std::string_view> numberTypes;
     Progress progress;
+    CodeChoice choice;
 };
 
 /// Decodes every instance once: unknown and abstract entities, wrong number or type of

@@ -3,6 +3,7 @@
 
 #include "velkor/PlatformExport.h"
 #include "velkor/sdai/Part21File.h"
+#include "velkor/sdai/ProblemCode.h"
 
 #include <functional>
 
@@ -16,6 +17,7 @@ using Progress = std::function<bool(std::uint64_t done, std::uint64_t total)>;
 /// unique, balanced lists, valid tokens and string directives. At most `limit` problems
 /// are given, in file order; `total`, when given, receives the full count.
 VELKOR_PLATFORM_API std::vector<Problem> checkSyntax(const Part21File& file, std::size_t limit,
-                                                     std::uint64_t* total = nullptr, const Progress& progress = {});
+                                                     std::uint64_t* total = nullptr, const Progress& progress = {},
+                                                     const CodeChoice& choice = {});
 
 } // namespace velkor::sdai

@@ -6,12 +6,17 @@
 
 #include "velkor/ToolkitExport.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <tl/expected.hpp>
 
 namespace velkor::guid {
+
+/// What findings about the identifiers of a model are coded by.
+inline constexpr std::array<std::string_view, 5> codes{"guid-character", "guid-duplicate", "guid-first-character",
+                                                       "guid-length", "guid-missing"};
 
 /// What is wrong with the 22 characters of an identifier.
 struct Fault {

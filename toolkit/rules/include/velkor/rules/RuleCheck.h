@@ -10,11 +10,16 @@
 #include "velkor/sdai/Model.h"
 #include "velkor/ToolkitExport.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 namespace velkor {
+
+/// What findings of rules are coded by.
+inline constexpr std::array<std::string_view, 6> ruleCodes{
+    "element-not-unique", "global-rule", "inverse-cardinality", "rule-not-decided", "uniqueness-rule", "where-rule"};
 
 struct RuleCheckOptions {
     /// How many findings are listed at most; all are counted.
@@ -53,8 +58,7 @@ struct RuleCheckResult : CheckResult {
     RuleCoverage coverage;
 };
 
-/// Codes of the findings: where-rule, global-rule, uniqueness-rule, inverse-cardinality, element-not-unique,
-/// rule-not-decided. In file order. Time and memory in proportion to the file.
+/// Findings in file order. Time and memory in proportion to the file.
 VELKOR_TOOLKIT_API RuleCheckResult checkRules(const sdai::Model& model, const RuleCheckOptions& options = {});
 
 } // namespace velkor

@@ -1,0 +1,77 @@
+/// The kinds of problems that reading and judging a model tells of, by their codes.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <string_view>
+
+namespace velkor::sdai {
+
+/// What checkSyntax, checkPopulation and Model::schemaProblem tell, in alphabetical order.
+inline constexpr std::array<std::string_view, 38> checkCodes{
+    "abstract-entity",
+    "aggregate-size",
+    "attribute-count",
+    "byte-order-mark",
+    "character-invalid",
+    "comment-not-closed",
+    "dangling-reference",
+    "data-missing",
+    "data-parameters-missing",
+    "end-missing",
+    "endsec-missing",
+    "header-entity-missing",
+    "header-entity-repeated",
+    "header-entity-unknown",
+    "header-missing",
+    "instance-name-too-large",
+    "instance-name-zero",
+    "instance-repeated",
+    "integer-for-real",
+    "missing-value",
+    "parameter-count",
+    "parameter-type",
+    "schema-unknown",
+    "section-skipped",
+    "semicolon-missing",
+    "start-missing",
+    "string-invalid",
+    "string-not-closed",
+    "text-behind-end",
+    "text-length",
+    "token-invalid",
+    "unexpected-token",
+    "unknown-entity",
+    "unknown-enumerator",
+    "untyped-value",
+    "value-of-derived",
+    "wrong-reference",
+    "wrong-type",
+};
+
+/// What opening a file alone tells, where it goes on behind damage.
+inline constexpr std::array<std::string_view, 4> openingCodes{"comment-in-comment", "keyword-missing", "statement-empty",
+                                                              "unexpected-text"};
+
+/// One of them: a word that is none does not compile.
+class ProblemCode {
+public:
+    consteval ProblemCode(const char* code) : _text(code) {
+        if (!isAmong(checkCodes) && !isAmong(openingCodes)) throw "no code of a problem";
+    }
+    constexpr std::string_view text() const noexcept { return _text; }
+
+private:
+    template <class Codes>
+    consteval bool isAmong(const Codes& codes) const {
+        return std::ranges::find(codes, _text) != codes.end();
+    }
+
+    std::string_view _text;
+};
+
+/// Whether problems of a code are wanted; empty for all. Those that are not are neither listed nor counted.
+using CodeChoice = std::function<bool(std::string_view code)>;
+
+} // namespace velkor::sdai
