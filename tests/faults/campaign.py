@@ -68,6 +68,7 @@ OTHER_COMMANDS = [
     ['guid', 'compress', '3f81e10a-25b0-49ff-9520-63f2a763150a'],
     ['dictionary', 'list'], ['dictionary', 'show', '2x3', '--declarations'],
     ['dictionary', 'entity', '4', 'IfcWall'], ['dictionary', 'entity', '4', 'IfcWal'],
+    ['dictionary', 'rule', '4', 'IfcWall.CorrectPredefinedType'], ['dictionary', 'rule', '4', 'IfcWal.WR1'],
     ['dictionary', 'diff', '4x2', '4'], ['dictionary', 'diff', '2x3', '4', '--as-mapping'],
     VERSION_MAPPING,
     ['map', 'version', '--from', '2x3', '--to', '4', '--deprecated'],
@@ -75,7 +76,7 @@ OTHER_COMMANDS = [
     ['resources', 'check'], ['resources', 'check', '--format', 'json'],
 ]
 # What is not answered with status 0 when nothing fails.
-STATUSES = {'rapport': 2, 'report': 2, 'report missing.ifc': 3, 'dictionary entity 4 IfcWal': 1,
+STATUSES = {'rapport': 2, 'report': 2, 'report missing.ifc': 3, 'dictionary entity 4 IfcWal': 1, 'dictionary rule 4 IfcWal.WR1': 1,
             'classify model.ifc': 1, 'classify model.ifc --format csv': 1}
 # Commands that make trees of JSON. Those allocate when they are destroyed, which ends a process that goes on without
 # memory.
