@@ -1,4 +1,5 @@
 #include "Matchers.h"
+#include "output/ExpressText.h"
 #include "output/Json.h"
 #include "TemporaryFolder.h"
 #include "terminal/DisplayText.h"
@@ -155,6 +156,22 @@ TEST(DisplayText, GroupsDigits) {
     EXPECT_EQ(text::grouped(std::numeric_limits<std::uint64_t>::max()), "18,446,744,073,709,551,615");
     EXPECT_EQ(text::counted(1, "error", "errors"), "1 error");
     EXPECT_EQ(text::counted(1200, "error", "errors"), "1,200 errors");
+}
+
+TEST(ExpressText, BreaksWhereTheWeakestConnectiveStands) {
+    const std::pair<const char*, std::vector<std::string>> cases[] = {
+        {"EXISTS(Name)", {"EXISTS(Name)"}},
+        {"Aaaaa AND Bbbbbbb OR Ccccccccc", {"Aaaaa AND Bbbbbbb", "OR Ccccccccc"}},
+        {"Aaaaaaaaa AND Bbbbbbbbbbb", {"Aaaaaaaaa", "AND Bbbbbbbbbbb"}},
+        {"Name IN ['a OR b', 'c)', 'dd'] OR Bb", {"Name IN [", "  'a OR b', 'c)',", "  'dd'", "]", "OR Bb"}},
+        {"ORDER + BORDER + FLOOR_OR_MORE", {"ORDER + BORDER + FLOOR_OR_MORE"}},
+        {"SIZEOF(QUERY(t <* Items | t || u = 1)) = 0",
+         {"SIZEOF(", "  QUERY(", "    t <* Items |", "      t || u = 1", "  )", ") = 0"}},
+        {"((Aaaaaaaa = 1) AND (Bbbb <> 2))", {"(", "  (Aaaaaaaa = 1)", "  AND (Bbbb <> 2)", ")"}},
+        // What is not closed stays in its line.
+        {"Aaaaaaaaaaaa(Bbbbbbbbbbb = Ccc", {"Aaaaaaaaaaaa(Bbbbbbbbbbb = Ccc"}},
+    };
+    for (const auto& [expression, lines] : cases) EXPECT_EQ(expressLines(expression, 20), lines) << expression;
 }
 
 } // namespace velkor::host
