@@ -1,6 +1,6 @@
-// What judging all rules costs beside what structure and dictionary take, how it grows, and what memory it needs beyond the
-// open model. The model is made up: a sound building of IFC2X3, elements with swept and faceted shapes, properties, and a place in
-// a storey.
+// What judging all rules costs beside what structure and dictionary take, how it grows, and what memory it needs beyond
+// the open model. The model is made up: a sound building of IFC2X3, elements with swept and faceted shapes, properties,
+// and a place in a storey.
 
 #include "CpuTime.h"
 #include "velkor/check/ModelCheck.h"
@@ -127,7 +127,8 @@ private:
         for (unsigned i = 0; i < 8; ++i) {
             corners[i] = point(x + (i & 1U ? 1.0 : 0.0), i & 2U ? 1.0 : 0.0, i & 4U ? 1.0 : 0.0);
         }
-        constexpr unsigned sides[6][4]{{0, 2, 3, 1}, {4, 5, 7, 6}, {0, 1, 5, 4}, {2, 6, 7, 3}, {0, 4, 6, 2}, {1, 3, 7, 5}};
+        constexpr unsigned sides[6][4]{{0, 2, 3, 1}, {4, 5, 7, 6}, {0, 1, 5, 4},
+                                       {2, 6, 7, 3}, {0, 4, 6, 2}, {1, 3, 7, 5}};
         std::string faces;
         for (const auto& side : sides) {
             std::string loop;
@@ -149,7 +150,8 @@ private:
             addRoot("IFCBUILDINGELEMENTPROXY", together({"'Element',$,$,", placement, ",", shape, ",$,$"}));
         std::string members;
         for (const char* name : {"Reference", "FireRating", "IsExternal", "Status"}) {
-            members.append(members.empty() ? "" : ",").append(add("IFCPROPERTYSINGLEVALUE", together({"'", name, "',$,IFCLABEL('a value'),$"})));
+            members.append(members.empty() ? "" : ",")
+                .append(add("IFCPROPERTYSINGLEVALUE", together({"'", name, "',$,IFCLABEL('a value'),$"})));
         }
         const std::string set = addRoot("IFCPROPERTYSET", together({"'Pset_Element',$,(", members, ")"}));
         addRoot("IFCRELDEFINESBYPROPERTIES", together({"$,$,(", element, "),", set}));
@@ -166,8 +168,8 @@ const std::string& building(std::int64_t megabytes) {
     return buildings.try_emplace(megabytes, static_cast<std::size_t>(megabytes) * 1'000'000).first->second.text();
 }
 
-/// The processor time of a check of the model of state.range(0) MB, without that of opening it, and the most memory that it
-/// held beyond the open model, to the size of the file.
+/// The processor time of a check of the model of state.range(0) MB, without that of opening it, and the most memory
+/// that it held beyond the open model, to the size of the file.
 template <class Check>
 void checkBuilding(benchmark::State& state, Check check) {
     const std::string& text = building(state.range(0));
@@ -211,8 +213,8 @@ BENCHMARK(structureAndDictionary)->Arg(110)->UseManualTime()->Unit(benchmark::kM
 BENCHMARK(rules)->Arg(110)->Arg(11)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(rulesOnTwoCores)->Arg(110)->UseManualTime()->Unit(benchmark::kMillisecond);
 
-// Each of the kinds that look at whole populations, where linear growth is 10 times: as many identifiers, users of one instance,
-// members of one set.
+// Each of the kinds that look at whole populations, where linear growth is 10 times: as many identifiers, users of one
+// instance, members of one set.
 std::string population(std::int64_t count) {
     std::string text = "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\nFILE_NAME('','',(''),(''),'','','');\n"
                        "FILE_SCHEMA(('IFC4'));\nENDSEC;\nDATA;\n#1=IFCGROUP('0000000000000000000001',$,$,$,$);\n";

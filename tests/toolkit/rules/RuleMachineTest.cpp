@@ -585,6 +585,29 @@ TEST(RuleMachine, IsBounded) {
         ! SIZEOF([[1 : 1500000], [2 : 1500000], [3 : 1500000]]) = 3)");
 }
 
+// What verdicts share ends those that take much, and no others; global rules and what is read again take nothing of it.
+TEST(RuleMachine, SharesSteps) {
+    test::JudgedRules judged("ENTITY Probe; N : INTEGER; WHERE W1 : N > 1; W2 : Counted(N) = N; END_ENTITY;\n"
+                             "RULE All FOR (Probe); WHERE W3 : Counted(9000) = 9000; END_RULE;\n"
+                             "FUNCTION Counted(n : INTEGER) : INTEGER; LOCAL s : INTEGER := 0; END_LOCAL;\n"
+                             "  REPEAT i := 1 TO n; s := s + 1; END_REPEAT; RETURN (s); END_FUNCTION;",
+                             "#1=PROBE(3000);");
+    RuleMachine& machine = judged.machine();
+    machine.share(150'000);
+    std::string verdicts;
+    for (int i = 0; i < 6; ++i) {
+        verdicts += test::letter(judged.judge("PROBE", "W2"));
+        verdicts += test::letter(machine.judgeGlobal(judged.code("ALL", "W3")));
+        machine.reads(9);
+    }
+    EXPECT_EQ(verdicts, "TTTT!T!T!T!T");
+    EXPECT_EQ(judged.judge("PROBE", "W2"), Verdict::NotDecided);
+    EXPECT_THAT(machine.reads(9), SizeIs(1));
+    EXPECT_EQ(judged.judge("PROBE", "W1"), Verdict::Holds);
+    machine.share(RuleMachine::stepLimit);
+    EXPECT_EQ(judged.judge("PROBE", "W2"), Verdict::Holds);
+}
+
 TEST(RuleMachine, TellsWhatItReads) {
     test::JudgedRules judged(std::string(shapes) +
                                  "ENTITY Probe; L : Line; S : OPTIONAL Label; WHERE W1 : (L.Dim > 2) AND EXISTS(S) OR\n"

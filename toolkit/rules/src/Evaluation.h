@@ -30,6 +30,7 @@ public:
         if (_steps > _stepLimit) throw BoundReached();
     }
 
+    std::uint64_t steps() const noexcept { return _steps; }
     /// Lets so many steps more be spent, whatever was spent before.
     void allow(std::uint64_t steps) noexcept { _stepLimit = _steps + steps; }
 

@@ -26,8 +26,12 @@ class InstanceJudge {
 public:
     InstanceJudge(const JudgementPlan& plan, const RoleIndex& roles, const CodeFilter& codes);
 
-    /// Begins a range of instances of which at most so many findings are kept.
-    void begin(std::size_t limit) { _reporter.begin(limit); }
+    /// Begins a range of instances of which at most so many findings are kept. What they take is bounded together, and
+    /// so that of all in proportion to their number.
+    void begin(std::size_t limit) {
+        _reporter.begin(limit);
+        _machine.share(RuleMachine::stepLimit);
+    }
     RangeFindings take() { return _reporter.take(); }
 
     void judge(std::uint32_t number);

@@ -40,6 +40,8 @@ public:
 
     /// Lets so many steps more be spent on what the evaluation has left.
     void allow(std::uint64_t steps) noexcept { _evaluation.allow(steps); }
+    /// Spent since begin().
+    std::uint64_t steps() const noexcept { return _evaluation.steps(); }
     ValueReader& reader() noexcept { return _reader; }
     ValueTypes& types() noexcept { return _types; }
 

@@ -4,6 +4,8 @@
 #include "ReadTrace.h"
 #include "ValueKey.h"
 
+#include <algorithm>
+#include <limits>
 #include <optional>
 
 namespace velkor::rules {
@@ -20,25 +22,37 @@ struct RuleMachine::State {
         std::uint32_t instance = 0;
         const sdai::DefinedType* type = nullptr;
         std::string_view encoded;
+        std::uint64_t steps = 0;
     };
 
-    Verdict judge(const Question& asked, ReadObserver* observer);
+    Verdict judge(Question asked);
+    Verdict answer(const Question& asked, ReadObserver* observer);
     Value self(const Question& asked);
-    std::uint64_t steps(const Question& asked) const noexcept;
 
     const RuleProgram& program;
     const RoleIndex& roles;
     Interpreter interpreter;
     std::optional<Question> last;
+    // What is left of the steps that verdicts share.
+    std::uint64_t shared = std::numeric_limits<std::uint64_t>::max();
 };
 
-Verdict RuleMachine::State::judge(const Question& asked, ReadObserver* observer) {
+Verdict RuleMachine::State::judge(Question asked) {
+    const bool isGlobal = asked.self == Question::Self::None;
+    asked.steps = isGlobal ? stepLimit + stepsPerInstance * program.model().file().instanceCount()
+                           : std::clamp(shared, stepsInAnyCase, stepLimit);
     last = asked;
+    const Verdict verdict = answer(asked, nullptr);
+    if (!isGlobal) shared -= std::min(shared, interpreter.steps());
+    return verdict;
+}
+
+Verdict RuleMachine::State::answer(const Question& asked, ReadObserver* observer) {
     try {
-        interpreter.begin(steps(asked), observer);
-        const Value answer = interpreter.run(asked.code, self(asked));
-        if (answer.logical() == Logical::Unknown) return Verdict::Unknown;
-        return answer.logical() == Logical::True ? Verdict::Holds : Verdict::Broken;
+        interpreter.begin(asked.steps, observer);
+        const Logical truth = interpreter.run(asked.code, self(asked)).logical();
+        if (truth == Logical::Unknown) return Verdict::Unknown;
+        return truth == Logical::True ? Verdict::Holds : Verdict::Broken;
     } catch (const BoundReached&) {
         return Verdict::NotDecided;
     }
@@ -49,31 +63,31 @@ Value RuleMachine::State::self(const Question& asked) {
     return asked.self == Question::Self::Value ? interpreter.reader().value(*asked.type, asked.encoded) : Value();
 }
 
-std::uint64_t RuleMachine::State::steps(const Question& asked) const noexcept {
-    if (asked.self != Question::Self::None) return stepLimit;
-    return stepLimit + stepsPerInstance * program.model().file().instanceCount();
-}
-
 RuleMachine::RuleMachine(const RuleProgram& program, const RoleIndex& roles)
     : _state(std::make_unique<State>(program, roles)) {}
 RuleMachine::~RuleMachine() = default;
 
+void RuleMachine::share(std::uint64_t steps) noexcept {
+    _state->shared = steps;
+}
+
 Verdict RuleMachine::judgeInstance(std::uint32_t code, std::uint32_t number) {
-    return _state->judge({code, State::Question::Self::Instance, number, nullptr, {}}, nullptr);
+    return _state->judge({code, State::Question::Self::Instance, number, nullptr, {}});
 }
 
 Verdict RuleMachine::judgeValue(std::uint32_t code, const sdai::DefinedType& type, std::string_view encoded) {
-    return _state->judge({code, State::Question::Self::Value, 0, &type, encoded}, nullptr);
+    return _state->judge({code, State::Question::Self::Value, 0, &type, encoded});
 }
 
 Verdict RuleMachine::judgeGlobal(std::uint32_t code) {
-    return _state->judge({code, State::Question::Self::None, 0, nullptr, {}}, nullptr);
+    return _state->judge({code, State::Question::Self::None, 0, nullptr, {}});
 }
 
 std::vector<Read> RuleMachine::reads(std::size_t most) {
     ReadTrace trace(_state->program, _state->roles, most);
     if (!_state->last) return {};
-    _state->judge(State::Question(*_state->last), &trace);
+    // What it takes is nobody's: how often it is asked for decides no verdict.
+    _state->answer(*_state->last, &trace);
     try {
         // What ended the evaluation shall not keep it from being told.
         _state->interpreter.allow(stepLimit);

@@ -42,6 +42,7 @@ public:
     /// each instance of the model.
     static constexpr std::uint64_t stepLimit = 20'000'000;
     static constexpr std::uint64_t stepsPerInstance = 200;
+    static constexpr std::uint64_t stepsInAnyCase = 2'000;
     /// Calls and derived attributes within each other.
     static constexpr std::uint32_t depthLimit = 200;
     /// Bytes that the values of one verdict may take, beside a quarter of the size of the file.
@@ -49,6 +50,11 @@ public:
 
     RuleMachine(const RuleProgram& program, const RoleIndex& roles);
     ~RuleMachine();
+
+    /// Verdicts of instances and values from here on, until it is called again, have so many steps together. Those that
+    /// come when these are spent have `stepsInAnyCase` each. What many instances make of a part that all of them share
+    /// is bounded that way.
+    void share(std::uint64_t steps) noexcept;
 
     /// SELF is the instance of a number.
     Verdict judgeInstance(std::uint32_t code, std::uint32_t number);
