@@ -16,11 +16,13 @@ using testing::IsEmpty;
 
 std::vector<std::string> written(const CheckResult& result) {
     std::vector<std::string> lines;
-    for (const sdai::Problem& problem : result.problems) lines.push_back(problem.code + " #" + std::to_string(problem.instance));
+    for (const sdai::Problem& problem : result.problems)
+        lines.push_back(problem.code + " #" + std::to_string(problem.instance));
     return lines;
 }
 
-ModelCheckResult checked(const std::string& release, const std::string& instances, const ModelCheckOptions& options = {}) {
+ModelCheckResult checked(const std::string& release, const std::string& instances,
+                         const ModelCheckOptions& options = {}) {
     const std::string text = test::modelText(release, instances);
     const auto model = sdai::Model::fromText(text, "test");
     EXPECT_TRUE(model);
@@ -34,10 +36,11 @@ ModelCheckOptions within(CheckScope scope) {
 }
 
 // One problem of each pass; an identifier that is too long and one that is used twice.
-const std::string sample = "#1=IFCCIRCLE(#3,-1.);#2=IFCCIRCLE(#3,@);#3=IFCAXIS2PLACEMENT2D(#4,'x');#4=IFCCARTESIANPOINT((0.,0.));"
-                           "#5=IFCWALL('!000000000000000000000',$,$,$,$,$,$,$,$);"
-                           "#6=IFCWALL('!000000000000000000000',$,$,$,$,$,$,$,$);"
-                           "#7=IFCWALL('00000000000000000000001',$,$,$,$,$,$,$,$);";
+const std::string sample =
+    "#1=IFCCIRCLE(#3,-1.);#2=IFCCIRCLE(#3,@);#3=IFCAXIS2PLACEMENT2D(#4,'x');#4=IFCCARTESIANPOINT((0.,0.));"
+    "#5=IFCWALL('!000000000000000000000',$,$,$,$,$,$,$,$);"
+    "#6=IFCWALL('!000000000000000000000',$,$,$,$,$,$,$,$);"
+    "#7=IFCWALL('00000000000000000000001',$,$,$,$,$,$,$,$);";
 
 } // namespace
 
@@ -48,8 +51,8 @@ TEST(ModelCheck, GoesAsFarAsItsScopeAndTellsEachThingOnce) {
     EXPECT_FALSE(dictionary.coverage);
     const auto everything = checked("IFC4", sample);
     EXPECT_THAT(written(everything),
-                ElementsAre("where-rule #1", "token-invalid #2", "wrong-type #3", "guid-character #5", "uniqueness-rule #6",
-                            "guid-character #6", "text-length #7"));
+                ElementsAre("where-rule #1", "token-invalid #2", "wrong-type #3", "guid-character #5",
+                            "uniqueness-rule #6", "guid-character #6", "text-length #7"));
     EXPECT_EQ(everything.total, 7u);
     ASSERT_TRUE(everything.coverage);
     EXPECT_EQ(everything.coverage->instances, 7u);
@@ -70,10 +73,11 @@ TEST(ModelCheck, ChosenCodesUseUpNoLimit) {
 
 TEST(ModelCheck, OnlyAnAsteriskStandsForWhatIsDerived) {
     for (const char* release : {"IFC2X3", "IFC4", "IFC4X1", "IFC4X2", "IFC4X3_RC1", "IFC4X3_RC3", "IFC4X3_ADD2"}) {
-        const auto result = checked(release,
-                                    "#1=IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.);#2=IFCSIUNIT($,.LENGTHUNIT.,$,.METRE.);"
-                                    "#3=IFCSIUNIT(#4,.LENGTHUNIT.,$,.METRE.);#4=IFCDIMENSIONALEXPONENTS(1,0,0,0,0,0,0);",
-                                    within(CheckScope::Dictionary));
+        const auto result =
+            checked(release,
+                    "#1=IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.);#2=IFCSIUNIT($,.LENGTHUNIT.,$,.METRE.);"
+                    "#3=IFCSIUNIT(#4,.LENGTHUNIT.,$,.METRE.);#4=IFCDIMENSIONALEXPONENTS(1,0,0,0,0,0,0);",
+                    within(CheckScope::Dictionary));
         EXPECT_THAT(written(result), ElementsAre("value-of-derived #2", "value-of-derived #3")) << release;
         EXPECT_THAT(result.problems[0].message, HasSubstr("expected * for a derived attribute, found $"));
     }
@@ -89,9 +93,9 @@ TEST(ModelCheck, EveryCodeIsListed) {
     EXPECT_EQ(std::ranges::adjacent_find(codes), codes.end());
     for (const std::string& line : written(checked("IFC4", sample)))
         EXPECT_THAT(codes, testing::Contains(line.substr(0, line.find(' '))));
-    for (const char* code : {"where-rule", "global-rule", "uniqueness-rule", "inverse-cardinality", "element-not-unique",
-                             "rule-not-decided", "guid-character", "guid-duplicate", "guid-first-character", "wrong-type",
-                             "string-not-closed", "schema-unknown"})
+    for (const char* code : {"where-rule", "global-rule", "uniqueness-rule", "inverse-cardinality",
+                             "element-not-unique", "rule-not-decided", "guid-character", "guid-duplicate",
+                             "guid-first-character", "wrong-type", "string-not-closed", "schema-unknown"})
         EXPECT_THAT(codes, testing::Contains(code));
     EXPECT_THAT(codes, testing::Not(testing::Contains("guid-length"))) << "a text-length";
 }

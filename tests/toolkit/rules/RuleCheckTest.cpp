@@ -93,11 +93,13 @@ TEST(RuleCheck, EveryKindOfRuleHasItsVerdict) {
          {"where-rule #1 IfcPositiveInteger.WR1"}},
         // Global rules.
         {"IFC4", project, {}},
-        {"IFC4", project + rooted(2, "IFCPROJECT", "2", "$,'n',$,$,$,$,$,$"), {"global-rule #0 IfcSingleProjectInstance.WR1"}},
+        {"IFC4",
+         project + rooted(2, "IFCPROJECT", "2", "$,'n',$,$,$,$,$,$"),
+         {"global-rule #0 IfcSingleProjectInstance.WR1"}},
         // UNIQUE: over subtypes, joint ones, with an unset attribute; the texts decoded.
         {"IFC4",
-         rooted(1, "IFCDOORTYPE", "a", "$,'n',$,$,$,$,$,$,.DOOR.,.NOTDEFINED.,$,$") + rooted(2, "IFCWALL", "\\X\\61", "$,$,$,$,$,$,$,$") +
-             rooted(3, "IFCWALL", "a", "$,$,$,$,$,$,$,$"),
+         rooted(1, "IFCDOORTYPE", "a", "$,'n',$,$,$,$,$,$,.DOOR.,.NOTDEFINED.,$,$") +
+             rooted(2, "IFCWALL", "\\X\\61", "$,$,$,$,$,$,$,$") + rooted(3, "IFCWALL", "a", "$,$,$,$,$,$,$,$"),
          {"uniqueness-rule #2 IfcRoot.UR1", "uniqueness-rule #3 IfcRoot.UR1"}},
         {"IFC4", "#1=IFCWALL($,$,$,$,$,$,$,$,$);#2=IFCWALL($,$,$,$,$,$,$,$,$);", {}},
         {"IFC4",
@@ -152,8 +154,9 @@ TEST(RuleCheck, EqualMembersAreThoseOfOneValue) {
         {"(IFCLABEL('a'),IFCLABEL('a'", ""},
     };
     for (const auto& [members, found] : cases) {
-        const auto result = checkRules(
-            *modelOf("IFC2X3", std::string("#1=IFCPROPERTYENUMERATION('e',") + members + ",$);"), {.codes = {{"element-not-unique"}, {}}});
+        const auto result =
+            checkRules(*modelOf("IFC2X3", std::string("#1=IFCPROPERTYENUMERATION('e',") + members + ",$);"),
+                       {.codes = {{"element-not-unique"}, {}}});
         ASSERT_EQ(result.problems.size(), *found == '\0' ? 0u : 1u) << members;
         for (const sdai::Problem& problem : result.problems)
             EXPECT_THAT(problem.message, EndsWith(std::string("found ") + found));
@@ -172,21 +175,25 @@ TEST(RuleCheck, EqualMembersAreThoseOfOneValue) {
 TEST(RuleCheck, AFindingShowsRulePlaceAndValues) {
     const auto circle = onlyFinding("IFC4", geometry + "\n\n#1=IFCCIRCLE(#91, -1.);");
     EXPECT_EQ(circle.line, 3u);
-    EXPECT_EQ(circle.message, "IFCCIRCLE.RADIUS breaks IfcPositiveLengthMeasure.WR1: expected that the value is above 0, "
-                              "found -1.");
+    EXPECT_EQ(circle.message,
+              "IFCCIRCLE.RADIUS breaks IfcPositiveLengthMeasure.WR1: expected that the value is above 0, "
+              "found -1.");
     EXPECT_GT(circle.offset, geometry.size()) << "where the value stands";
     const auto project = onlyFinding("IFC4", rooted(1, "IFCPROJECT", "1", "$,$,$,$,$,$,$,$"));
     EXPECT_EQ(project.message,
               "IFCPROJECT breaks IfcProject.HasName: expected that Name is given; found #1 IFCPROJECT.NAME = $");
     EXPECT_EQ(project.severity, sdai::Severity::Error);
-    const auto twin = onlyFinding("IFC4", rooted(1, "IFCWALL", "x", "$,$,$,$,$,$,$,$") + rooted(2, "IFCWALL", "x", "$,$,$,$,$,$,$,$"));
+    const auto twin = onlyFinding("IFC4", rooted(1, "IFCWALL", "x", "$,$,$,$,$,$,$,$") +
+                                              rooted(2, "IFCWALL", "x", "$,$,$,$,$,$,$,$"));
     EXPECT_THAT(twin.message, EndsWith("#2 has the same GlobalId 'x' as #1"));
     const auto placement = onlyFinding("IFC2X3", geometry + "#1=IFCLOCALPLACEMENT($,#94);");
-    EXPECT_THAT(placement.message, EndsWith("expected to be referred to by 1 IFCPRODUCT by OBJECTPLACEMENT, found none"));
+    EXPECT_THAT(placement.message,
+                EndsWith("expected to be referred to by 1 IFCPRODUCT by OBJECTPLACEMENT, found none"));
     // A rule that is itself wrong is judged as it stands.
-    const auto clipping = onlyFinding("IFC4", geometry + "#1=IFCBOOLEANCLIPPINGRESULT(.DIFFERENCE.,#2,#3);"
-                                                         "#2=IFCSWEPTDISKSOLID(#4,1.,$,$,$);#3=IFCHALFSPACESOLID(#5,.T.);"
-                                                         "#4=IFCPOLYLINE((#93,#96));#5=IFCPLANE(#94);");
+    const auto clipping =
+        onlyFinding("IFC4", geometry + "#1=IFCBOOLEANCLIPPINGRESULT(.DIFFERENCE.,#2,#3);"
+                                       "#2=IFCSWEPTDISKSOLID(#4,1.,$,$,$);#3=IFCHALFSPACESOLID(#5,.T.);"
+                                       "#4=IFCPOLYLINE((#93,#96));#5=IFCPLANE(#94);");
     EXPECT_EQ(clipping.rule, "IfcBooleanClippingResult.FirstOperandType");
     EXPECT_EQ(clipping.severity, sdai::Severity::Warning);
     EXPECT_THAT(clipping.message, HasSubstr("; the rule itself is faulty: it means IfcSweptDiskSolid"));
@@ -202,7 +209,8 @@ TEST(RuleCheck, FindingsAreTheSameWhateverTheThreadsAndTheLimit) {
     const auto shown = [](const RuleCheckResult& result) {
         std::vector<std::string> lines;
         for (const auto& problem : result.problems)
-            lines.push_back(std::to_string(problem.line) + ' ' + std::to_string(problem.offset) + ' ' + problem.message);
+            lines.push_back(std::to_string(problem.line) + ' ' + std::to_string(problem.offset) + ' ' +
+                            problem.message);
         return lines;
     };
     const auto whole = checkRules(*model, {.jobs = 1});
@@ -211,13 +219,15 @@ TEST(RuleCheck, FindingsAreTheSameWhateverTheThreadsAndTheLimit) {
     EXPECT_GT(whole.total, 10'000u);
     EXPECT_TRUE(std::ranges::is_sorted(whole.problems, {}, &sdai::Problem::offset));
     EXPECT_EQ(whole.problems[0].code, "global-rule");
-    for (const std::size_t limit : {std::size_t{0}, std::size_t{1}, std::size_t{777}, std::size_t{5000}, defaultLimit}) {
+    for (const std::size_t limit :
+         {std::size_t{0}, std::size_t{1}, std::size_t{777}, std::size_t{5000}, defaultLimit}) {
         for (const unsigned jobs : {1U, 2U, 7U}) {
             const auto result = checkRules(*model, {.limit = limit, .jobs = jobs});
             EXPECT_EQ(result.total, whole.total);
             EXPECT_EQ(result.coverage.judgements, whole.coverage.judgements);
             EXPECT_EQ(result.coverage.instances, whole.coverage.instances);
-            EXPECT_EQ(shown(result), std::vector(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(std::min(limit, lines.size()))))
+            EXPECT_EQ(shown(result), std::vector(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(
+                                                                                    std::min(limit, lines.size()))))
                 << limit << ' ' << jobs;
         }
     }
@@ -248,19 +258,23 @@ TEST(RuleCheck, TheCallerFollowsAndEndsTheWork) {
         EXPECT_LT(ended.total, whole.total);
     }
     EXPECT_TRUE(whole.isComplete);
-    EXPECT_THROW(checkRules(*model, {.progress = [](const ProgressStep&) -> bool { throw std::bad_alloc(); }, .jobs = 2}),
-                 std::bad_alloc);
+    EXPECT_THROW(
+        checkRules(*model, {.progress = [](const ProgressStep&) -> bool { throw std::bad_alloc(); }, .jobs = 2}),
+        std::bad_alloc);
 }
 
 TEST(RuleCheck, RulesAndKindsAreChosen) {
     const std::string text = geometry + "#1=IFCCIRCLE(#91,-1.);#2=IFCPOLYLOOP((#93,#96,#93));" +
-                             rooted(3, "IFCPROJECT", "1", "$,$,$,$,$,$,$,$") + rooted(4, "IFCPROJECT", "1", "$,$,$,$,$,$,$,$");
+                             rooted(3, "IFCPROJECT", "1", "$,$,$,$,$,$,$,$") +
+                             rooted(4, "IFCPROJECT", "1", "$,$,$,$,$,$,$,$");
     const auto all = findings("IFC4", text);
-    EXPECT_THAT(all, ElementsAre("global-rule #0 IfcSingleProjectInstance.WR1", "where-rule #1 IfcPositiveLengthMeasure.WR1",
-                                 "element-not-unique #2 IFCPOLYLOOP.POLYGON", "where-rule #3 IfcProject.HasName",
-                                 "where-rule #4 IfcProject.HasName", "uniqueness-rule #4 IfcRoot.UR1"));
+    EXPECT_THAT(all,
+                ElementsAre("global-rule #0 IfcSingleProjectInstance.WR1", "where-rule #1 IfcPositiveLengthMeasure.WR1",
+                            "element-not-unique #2 IFCPOLYLOOP.POLYGON", "where-rule #3 IfcProject.HasName",
+                            "where-rule #4 IfcProject.HasName", "uniqueness-rule #4 IfcRoot.UR1"));
     EXPECT_THAT(findings("IFC4", text, {.rules = {"ifcroot.ur1"}}), ElementsAre(all[5]));
-    EXPECT_THAT(findings("IFC4", text, {.rules = {"IfcProject.HasName", "IfcSingleProjectInstance"}}), ElementsAre(all[0], all[3], all[4]));
+    EXPECT_THAT(findings("IFC4", text, {.rules = {"IfcProject.HasName", "IfcSingleProjectInstance"}}),
+                ElementsAre(all[0], all[3], all[4]));
     EXPECT_THAT(findings("IFC4", text, {.rules = {"nothing"}}), IsEmpty());
     EXPECT_THAT(findings("IFC4", text, {.limit = 1, .codes = {{"uniqueness-rule", "where-rule"}, {"where-rule"}}}),
                 ElementsAre(all[5]));
@@ -286,8 +300,9 @@ TEST(RuleCheck, WhatIsUnknownBreaksNothingAndIsCounted) {
 
 TEST(RuleCheck, ARuleBeyondItsBoundsIsReported) {
     // What a context derives from its parent has no end where the parents go round.
-    const auto result = checkRules(*modelOf("IFC4", "#1=IFCGEOMETRICREPRESENTATIONSUBCONTEXT('a','b',*,*,*,*,#2,$,.MODEL_VIEW.,$);"
-                                                    "#2=IFCGEOMETRICREPRESENTATIONSUBCONTEXT('a','b',*,*,*,*,#1,$,.MODEL_VIEW.,$);"));
+    const auto result =
+        checkRules(*modelOf("IFC4", "#1=IFCGEOMETRICREPRESENTATIONSUBCONTEXT('a','b',*,*,*,*,#2,$,.MODEL_VIEW.,$);"
+                                    "#2=IFCGEOMETRICREPRESENTATIONSUBCONTEXT('a','b',*,*,*,*,#1,$,.MODEL_VIEW.,$);"));
     EXPECT_GT(result.coverage.undecided, 0u);
     bool isTold = false;
     for (const auto& problem : result.problems) {
@@ -316,9 +331,9 @@ TEST(RuleCatalogue, RulesAreFoundByNameAndListedByOwner) {
     std::vector<std::string> names;
     for (const RuleFacts& one : rulesOf("IFC4", "ifcproject")) names.push_back(one.name);
     EXPECT_TRUE(std::ranges::is_sorted(names));
-    EXPECT_THAT(names, ElementsAre("IfcProject.CorrectContext", "IfcProject.HasName"
-                                   , "IfcProject.NoDecomposition"));
-    for (const char* release : {"IFC2X3", "IFC4", "IFC4X1", "IFC4X2", "IFC4X3_RC1", "IFC4X3_RC3", "IFC4X3_ADD2", "IFC4X4"}) {
+    EXPECT_THAT(names, ElementsAre("IfcProject.CorrectContext", "IfcProject.HasName", "IfcProject.NoDecomposition"));
+    for (const char* release :
+         {"IFC2X3", "IFC4", "IFC4X1", "IFC4X2", "IFC4X3_RC1", "IFC4X3_RC3", "IFC4X3_ADD2", "IFC4X4"}) {
         const RuleCounts counts = ruleCounts(release);
         EXPECT_EQ(rulesOf(release).size(), counts.total());
         EXPECT_EQ(counts.where == 0, std::string(release) == "IFC4X4");

@@ -194,8 +194,16 @@ std::uint32_t ValueReader::size(Aggregate& aggregate) {
     if (aggregate.size != Aggregate::uncounted) return aggregate.size;
     std::string_view rest = aggregate.encoded;
     std::size_t count = aggregate.decoded + std::size_t{1};
-    while (takeMember(rest)) ++count;
-    _evaluation.spend(1 + (aggregate.encoded.size() - rest.size()) / bytesPerStep);
+    // Paid for while it goes on, so that a list is not looked through for nothing.
+    constexpr std::size_t bytesAtOnce = 16 * 1024;
+    std::size_t paid = rest.size();
+    while (takeMember(rest)) {
+        ++count;
+        if (paid - rest.size() < bytesAtOnce) continue;
+        _evaluation.spend((paid - rest.size()) / bytesPerStep);
+        paid = rest.size();
+    }
+    _evaluation.spend(1 + (paid - rest.size()) / bytesPerStep);
     if (count >= Aggregate::uncounted) throw BoundReached();
     aggregate.size = static_cast<std::uint32_t>(count);
     return aggregate.size;
