@@ -38,12 +38,15 @@ struct RuleMachine::State {
 };
 
 Verdict RuleMachine::State::judge(Question asked) {
+    const sdai::Part21File& file = program.model().file();
     const bool isGlobal = asked.self == Question::Self::None;
-    asked.steps = isGlobal ? stepLimit + stepsPerInstance * program.model().file().instanceCount()
-                           : std::clamp(shared, stepsInAnyCase, stepLimit);
+    const std::size_t bytes =
+        asked.self == Question::Self::Instance ? file.instanceText(asked.instance).size() : asked.encoded.size();
+    const std::uint64_t own = isGlobal ? stepsPerInstance * file.instanceCount() : stepsPerByte * bytes;
+    asked.steps = own + (isGlobal ? stepLimit : std::clamp(shared, stepsInAnyCase, stepLimit));
     last = asked;
     const Verdict verdict = answer(asked, nullptr);
-    if (!isGlobal) shared -= std::min(shared, interpreter.steps());
+    if (!isGlobal && interpreter.steps() > own) shared -= std::min(shared, interpreter.steps() - own);
     return verdict;
 }
 

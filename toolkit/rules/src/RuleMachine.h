@@ -42,17 +42,19 @@ public:
     /// each instance of the model.
     static constexpr std::uint64_t stepLimit = 20'000'000;
     static constexpr std::uint64_t stepsPerInstance = 200;
+    /// What is asked of an instance or a value takes time by its length: so many steps more for each byte of it.
+    static constexpr std::uint64_t stepsPerByte = 32;
     static constexpr std::uint64_t stepsInAnyCase = 2'000;
     /// Calls and derived attributes within each other.
-    static constexpr std::uint32_t depthLimit = 200;
+    static constexpr std::uint32_t depthLimit = 1'000;
     /// Bytes that the values of one verdict may take, beside a quarter of the size of the file.
     static constexpr std::size_t memoryLimit = std::size_t{64} << 20;
 
     RuleMachine(const RuleProgram& program, const RoleIndex& roles);
     ~RuleMachine();
 
-    /// Verdicts of instances and values from here on, until it is called again, have so many steps together. Those that
-    /// come when these are spent have `stepsInAnyCase` each. What many instances make of a part that all of them share
+    /// Verdicts of instances and values from here on, until it is called again, have so many steps together, beside those
+    /// for their bytes. Those that come when these are spent have `stepsInAnyCase` each. What many instances make of a part that all of them share
     /// is bounded that way.
     void share(std::uint64_t steps) noexcept;
 
