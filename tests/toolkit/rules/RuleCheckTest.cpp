@@ -85,6 +85,11 @@ TEST(RuleCheck, EveryKindOfRuleHasItsVerdict) {
         {"IFC4",
          "#1=IFCPROPERTYLISTVALUE('a',$,(IFCPOSITIVELENGTHMEASURE(-1.),IFCPOSITIVELENGTHMEASURE(0.)),$);",
          {"where-rule #1 IfcPositiveLengthMeasure.WR1", "where-rule #1 IfcPositiveLengthMeasure.WR1"}},
+        // Each where it stands: an aggregate before its members.
+        {"IFC4",
+         "#1=IFCPROPERTYENUMERATION('a',(IFCPOSITIVELENGTHMEASURE(0.),IFCPOSITIVELENGTHMEASURE(0.)),$);",
+         {"element-not-unique #1 IFCPROPERTYENUMERATION.ENUMERATIONVALUES",
+          "where-rule #1 IfcPositiveLengthMeasure.WR1", "where-rule #1 IfcPositiveLengthMeasure.WR1"}},
         {"IFC4",
          "#1=IFCPROPERTYSINGLEVALUE('a',$,IFCCOMPOUNDPLANEANGLEMEASURE((1,60,0)),$);",
          {"where-rule #1 IfcCompoundPlaneAngleMeasure.MinutesInRange"}},

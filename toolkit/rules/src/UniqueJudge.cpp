@@ -32,7 +32,6 @@ std::vector<Repetition> repetitions(std::vector<UniqueEntry>& entries, std::span
             if (!isNew) result.push_back({entry.number, first->second});
         }
     }
-    std::ranges::sort(result, {}, &Repetition::number);
     return result;
 }
 

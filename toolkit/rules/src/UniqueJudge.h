@@ -9,7 +9,7 @@
 namespace velkor::rules {
 
 /// Entries of one rule, in any order, which are sorted. Instances that may share values are compared by them; the
-/// answer is in file order. `goesOn` is asked now and then; false ends the work.
+/// answer is in no order. `goesOn` is asked now and then; false ends the work.
 std::vector<Repetition> repetitions(std::vector<UniqueEntry>& entries, std::span<const TextId> attributes,
                                     RuleMachine& machine, const std::function<bool()>& goesOn);
 
