@@ -7,6 +7,7 @@
 #include "velkor/check/ModelCheck.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/identifiers/GuidCheck.h"
+#include "velkor/identifiers/GuidText.h"
 #include "velkor/sdai/Model.h"
 
 #include <nlohmann/json.hpp>
@@ -32,7 +33,8 @@ void runReport(CommandContext& context, const std::string& path) {
     const PlatformSetup setup(context.configuration, context.tell());
     Report report{modelFacts(*model), unitReport(*model), {}, 0, {}, {}, {}};
     ModelCheckOptions options = context.checkOptions(mostProblems);
-    options.scope = CheckScope::Dictionary;
+    // Those of identifiers stand for themselves.
+    options.codes.ignore.assign(guid::codes.begin(), guid::codes.end());
     const CheckResult check = checkModel(*model, options);
     report.problems = summarized(check.problems, check.total);
     const guid::GuidCheck guids = guid::checkGuids(*model, context.checkOptions(mostProblems));

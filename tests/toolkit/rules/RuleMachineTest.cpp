@@ -456,7 +456,7 @@ TEST(RuleMachine, RunsStatements) {
         "END_IF;\n"
         "  END_FUNCTION;\n"
         "FUNCTION Nothing(n : INTEGER) : INTEGER; n := n + 1; END_FUNCTION;\n"
-        "FUNCTION Squares(n : INTEGER) : ARRAY OF INTEGER; LOCAL a : ARRAY [0:n] OF INTEGER := [0 : n + 1]; "
+        "FUNCTION Squares(n : INTEGER) : ARRAY OF INTEGER; LOCAL a : ARRAY [0:n] OF INTEGER; "
         "END_LOCAL;\n"
         "  REPEAT i := 0 TO n; a[i] := i * i; END_REPEAT; RETURN (a); END_FUNCTION;\n"
         "FUNCTION Copies(l : LIST OF INTEGER) : INTEGER; LOCAL a, b : LIST OF INTEGER; END_LOCAL;\n"

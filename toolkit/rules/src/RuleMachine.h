@@ -53,9 +53,9 @@ public:
     RuleMachine(const RuleProgram& program, const RoleIndex& roles);
     ~RuleMachine();
 
-    /// Verdicts of instances and values from here on, until it is called again, have so many steps together, beside those
-    /// for their bytes. Those that come when these are spent have `stepsInAnyCase` each. What many instances make of a part that all of them share
-    /// is bounded that way.
+    /// Verdicts of instances and values from here on, until it is called again, have so many steps together, beside
+    /// those for their bytes. Those that come when these are spent have `stepsInAnyCase` each. What many instances make
+    /// of a part that all of them share is bounded that way.
     void share(std::uint64_t steps) noexcept;
 
     /// SELF is the instance of a number.

@@ -75,8 +75,11 @@ void CodeCompiler::declare(const express::ExpressVariable& variable) {
 }
 
 void CodeCompiler::begin(const express::ExpressVariable& variable) {
-    if (!variable.value) return;
-    write(*variable.value);
+    // An ARRAY has its places from the beginning.
+    const bool hasPlaces =
+        variable.type.kind == ExpressType::Kind::Array && (variable.type.upper != -1 || variable.type.upperExpression);
+    if (!variable.value && !hasPlaces) return;
+    variable.value ? write(*variable.value) : _code.write(Operation::EmptyAggregate);
     writeAs(variable.type);
     _code.write(Operation::Store, {this->variable(variable.name)->place});
 }
