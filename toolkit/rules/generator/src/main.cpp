@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr int different = 1;
 constexpr int badUsage = 2;
 constexpr int unreadable = 3;
 
@@ -59,19 +58,7 @@ int run(int argc, char** argv) {
     for (const std::string& error : compiler.errors()) std::cerr << error << '\n';
     if (!compiler.errors().empty()) return unreadable;
     const auto units = rulegen::ruleUnits(compiler, inputs);
-
-    if (check) {
-        const auto lines = express::differences(units, folder);
-        for (const std::string& line : lines) std::cerr << line << '\n';
-        if (!lines.empty()) return different;
-        std::cout << units.size() << " units are what the sources give\n";
-        return 0;
-    }
-    const auto written = express::writeUnits(units, folder);
-    if (!written) return fail(written.error());
-    for (const std::string& name : *written) std::cout << "wrote " << name << '\n';
-    if (written->empty()) std::cout << units.size() << " units were up to date\n";
-    return 0;
+    return express::finish("velkor-rulegen", units, folder, check);
 }
 
 } // namespace

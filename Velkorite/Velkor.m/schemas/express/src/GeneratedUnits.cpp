@@ -3,6 +3,7 @@
 #include "SourceFile.h"
 
 #include <fstream>
+#include <iostream>
 #include <sstream>
 
 namespace velkor::express {
@@ -55,6 +56,26 @@ tl::expected<std::vector<std::string>, std::string> writeUnits(const std::vector
         written.push_back(unit.fileName);
     }
     return written;
+}
+
+int finish(const std::string& program, const std::vector<GeneratedUnit>& units, const std::string& folder,
+           bool isComparison) {
+    constexpr int different = 1, unwritable = 3;
+    if (isComparison) {
+        const auto lines = differences(units, folder);
+        for (const std::string& line : lines) std::cerr << line << '\n';
+        if (!lines.empty()) return different;
+        std::cout << units.size() << " units are what the sources give\n";
+        return 0;
+    }
+    const auto written = writeUnits(units, folder);
+    if (!written) {
+        std::cerr << program << ": " << written.error() << '\n';
+        return unwritable;
+    }
+    for (const std::string& name : *written) std::cout << "wrote " << name << '\n';
+    if (written->empty()) std::cout << units.size() << " units were up to date\n";
+    return 0;
 }
 
 } // namespace velkor::express

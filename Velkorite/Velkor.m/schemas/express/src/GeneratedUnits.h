@@ -20,4 +20,10 @@ std::vector<std::string> differences(const std::vector<GeneratedUnit>& units, co
 [[nodiscard]] tl::expected<std::vector<std::string>, std::string> writeUnits(const std::vector<GeneratedUnit>& units,
                                                                              const std::string& folder);
 
+/// What the program of a generator does with its units and tells on standard output and standard error: writes those
+/// that are not in the folder yet, or compares. The status is 0, 1 when a comparison finds a difference, or 3 when a
+/// unit cannot be written.
+int finish(const std::string& program, const std::vector<GeneratedUnit>& units, const std::string& folder,
+           bool isComparison);
+
 } // namespace velkor::express

@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr int different = 1;
 constexpr int badUsage = 2;
 constexpr int unreadable = 3;
 
@@ -18,7 +17,6 @@ int fail(const std::string& message) {
 
 int run(int argc, char** argv) {
     using namespace velkor::dictgen;
-    using namespace velkor::express;
     std::string sources, folder = VELKOR_UNITS, profilesPath = VELKOR_PROFILES;
     bool check = false;
     CLI::App app("Writes the source units of the schema dictionaries.", "velkor-dictgen");
@@ -37,19 +35,7 @@ int run(int argc, char** argv) {
     if (!profiles) return fail(profiles.error());
     const auto units = generate(*profiles, sources);
     if (!units) return fail(units.error());
-
-    if (check) {
-        const auto lines = differences(*units, folder);
-        for (const std::string& line : lines) std::cerr << line << '\n';
-        if (!lines.empty()) return different;
-        std::cout << units->size() << " units are what the sources give\n";
-        return 0;
-    }
-    const auto written = writeUnits(*units, folder);
-    if (!written) return fail(written.error());
-    for (const std::string& name : *written) std::cout << "wrote " << name << '\n';
-    if (written->empty()) std::cout << units->size() << " units were up to date\n";
-    return 0;
+    return velkor::express::finish("velkor-dictgen", *units, folder, check);
 }
 
 } // namespace
