@@ -1,9 +1,9 @@
 /// The kinds of problems that reading and judging a model tells of, by their codes.
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <functional>
+#include <span>
 #include <string_view>
 
 namespace velkor::sdai {
@@ -39,14 +39,16 @@ inline constexpr std::array<std::string_view, 4> openingCodes{"comment-in-commen
 class ProblemCode {
 public:
     consteval ProblemCode(const char* code) : _text(code) {
-        if (!isAmong(checkCodes) && !isAmong(openingCodes)) throw "no code of a problem";
+        if (!isAmong(checkCodes, code) && !isAmong(openingCodes, code)) throw "no code of a problem";
     }
     constexpr std::string_view text() const noexcept { return _text; }
 
 private:
-    template <class Codes>
-    consteval bool isAmong(const Codes& codes) const {
-        return std::ranges::find(codes, _text) != codes.end();
+    static constexpr bool isAmong(std::span<const std::string_view> codes, std::string_view code) {
+        for (const std::string_view known : codes) {
+            if (known == code) return true;
+        }
+        return false;
     }
 
     std::string_view _text;
