@@ -13,6 +13,32 @@
 
 namespace velkor::test {
 
+/// A schema of one of everything that expressions meet.
+inline constexpr const char* shapes =
+    "TYPE Length = REAL; END_TYPE;\n"
+    "TYPE Positive = Length; WHERE WR1 : SELF > 0.0; END_TYPE;\n"
+    "TYPE Label = STRING; END_TYPE;\n"
+    "TYPE Truth = LOGICAL; END_TYPE;\n"
+    "TYPE Angle = LIST [3:4] OF INTEGER; WHERE WR1 : ABS(SELF[1]) < 360; END_TYPE;\n"
+    "TYPE Colour = ENUMERATION OF (RED, GREEN, BLUE); END_TYPE;\n"
+    "TYPE Tone = ENUMERATION OF (RED, GREY); END_TYPE;\n"
+    "TYPE Count = INTEGER; END_TYPE;\n"
+    "TYPE Measure = SELECT (Length, Positive, Label, Angle, Count); END_TYPE;\n"
+    "TYPE Basic = SELECT (Length, Tone); END_TYPE;\n"
+    "TYPE Anything = SELECT (Measure, Shape, Colour); END_TYPE;\n"
+    "ENTITY Shape ABSTRACT SUPERTYPE; END_ENTITY;\n"
+    "ENTITY Point SUBTYPE OF (Shape); Coordinates : LIST [1:3] OF Length;\n"
+    "  DERIVE Dim : INTEGER := HIINDEX(Coordinates);\n"
+    "  INVERSE Lines : SET [0:?] OF Line FOR Points; Ends : BAG [0:?] OF Line FOR Points; Owner : Line FOR First;\n"
+    "END_ENTITY;\n"
+    "ENTITY Line SUBTYPE OF (Shape); Points : LIST [2:?] OF Point; First : Point; Hue : OPTIONAL Colour;\n"
+    "  DERIVE Dim : INTEGER := Points[1].Dim; Twice : INTEGER := 2 * SELF.Dim;\n"
+    "END_ENTITY;\n"
+    "ENTITY Ray SUBTYPE OF (Line); DERIVE SELF\\Line.Hue : Colour := Colour.BLUE; END_ENTITY;\n";
+
+/// Instances of it.
+inline constexpr const char* points = "#2=POINT((0.,0.));#3=POINT((1.,2.,3.));#4=POINT((1.,2.,3.));";
+
 class JudgedRules {
 public:
     JudgedRules(const std::string& declarations, const std::string& instances)
