@@ -57,4 +57,5 @@ void program(benchmark::State& state, const std::vector<std::string>& words) {
 
 VELKOR_PROGRAM(units, "units");
 VELKOR_PROGRAM(syntax, "check", "--syntax");
+VELKOR_PROGRAM(schema, "check", "--schema");
 VELKOR_PROGRAM(check, "check");
