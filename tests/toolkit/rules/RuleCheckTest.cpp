@@ -202,6 +202,13 @@ TEST(RuleCheck, AFindingShowsRulePlaceAndValues) {
     EXPECT_EQ(clipping.rule, "IfcBooleanClippingResult.FirstOperandType");
     EXPECT_EQ(clipping.severity, sdai::Severity::Warning);
     EXPECT_THAT(clipping.message, HasSubstr("; the rule itself is faulty: it means IfcSweptDiskSolid"));
+    // One that is at fault with capacitances alone.
+    const std::string dimensions = "#2=IFCDIMENSIONALEXPONENTS(-2,-1,4,1,0,0,0);";
+    EXPECT_EQ(
+        onlyFinding("IFC2X3", "#1=IFCCONTEXTDEPENDENTUNIT(#2,.ELECTRICCAPACITANCEUNIT.,'f');" + dimensions).severity,
+        sdai::Severity::Warning);
+    EXPECT_EQ(onlyFinding("IFC2X3", "#1=IFCCONTEXTDEPENDENTUNIT(#2,.FORCEUNIT.,'f');" + dimensions).severity,
+              sdai::Severity::Error);
 }
 
 TEST(RuleCheck, FindingsAreTheSameWhateverTheThreadsAndTheLimit) {

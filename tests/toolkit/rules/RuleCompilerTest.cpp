@@ -23,7 +23,7 @@ constexpr const char* parts =
     "ENTITY Part; Size : REAL; Tint : OPTIONAL Colour; END_ENTITY;\n"
     "ENTITY Bolt SUBTYPE OF (Part); Length : REAL; INVERSE UsedBy : SET OF Box FOR Bolts; END_ENTITY;\n"
     "ENTITY Box; Bolts : SET OF Bolt; END_ENTITY;\n"
-    "ENTITY Other; END_ENTITY;\n";
+    "ENTITY Other; Bolts : REAL; END_ENTITY;\n";
 
 } // namespace
 
@@ -59,10 +59,12 @@ TEST(RuleCompiler, NamesWhatNobodyDeclares) {
 TEST(RuleCompiler, NotesNamesThatTypeofNeverGives) {
     const test::RuleSchema schema(std::string(parts) +
                                   "ENTITY A; P : Part; WHERE WR1 : 'SAMPLE.Bolt' IN TYPEOF(P);\n"
-                                  "WR2 : 'SAMPLE.BOLD' IN TYPEOF(P); WR3 : 'SAMPLE.BOLT' IN TYPEOF(P); END_ENTITY;");
+                                  "WR2 : 'SAMPLE.BOLD' IN TYPEOF(P); WR3 : 'SAMPLE.BOLT' IN TYPEOF(P);\n"
+                                  "WR4 : EXISTS(P\\Bolt.Length); WR5 : EXISTS(P\\Other.Bolts); END_ENTITY;");
     EXPECT_THAT(schema.notes(),
                 ElementsAre("sample.exp:7: 'SAMPLE.Bolt' is never a name of TYPEOF, which are in upper case",
-                            "sample.exp:8: 'SAMPLE.BOLD' names no type"));
+                            "sample.exp:8: 'SAMPLE.BOLD' names no type",
+                            "sample.exp:9: what is of Part is never of Other"));
 }
 
 TEST(RuleCompiler, StoresWhatReleasesShareOnce) {

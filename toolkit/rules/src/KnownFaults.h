@@ -13,6 +13,9 @@ struct KnownFault {
     /// What is wrong, for people, and where that can be looked up.
     std::string_view reason;
     std::string_view source;
+    /// What an attribute must be in the file for the fault to show; none when every instance meets it.
+    std::string_view attribute = {};
+    std::string_view value = {};
 };
 
 /// Null when nothing is known against the rule of a release.

@@ -54,12 +54,20 @@ void RuleReporter::add(const char* code, std::string rule, std::uint32_t number,
     problem.code = code;
     problem.message = std::move(message);
     problem.severity = severity;
-    if (const KnownFault* fault = knownFault(_plan.program().tables().schema, rule)) {
+    if (const KnownFault* fault = knownFault(_plan.program().tables().schema, rule);
+        fault != nullptr && isMet(*fault, number)) {
         problem.severity = sdai::Severity::Warning;
         problem.message.append("; the rule itself is faulty: ").append(fault->reason);
     }
     problem.rule = std::move(rule);
     _findings.problems.push_back(std::move(problem));
+}
+
+bool RuleReporter::isMet(const KnownFault& fault, std::uint32_t number) const {
+    if (fault.attribute.empty()) return true;
+    const sdai::EntityDefinition* entity = _plan.program().model().entityAt(number);
+    const int index = entity == nullptr ? -1 : entity->attributeIndex(fault.attribute);
+    return index >= 0 && parameterText(number, static_cast<std::size_t>(index)) == fault.value;
 }
 
 std::string RuleReporter::entityText(std::uint32_t number) const {
@@ -142,11 +150,14 @@ std::string RuleReporter::attributeText(std::uint32_t number, TextId attribute) 
     const sdai::EntityDefinition* entity = program.model().entityAt(number);
     if (entity == nullptr) return "?";
     const RuleProgram::Part part = program.part(*entity, attribute);
-    if (part.kind != RuleProgram::Part::Kind::Explicit) return "(derived)";
-    sdai::Part21Lexer lexer(program.model().file().instanceText(number));
+    return part.kind == RuleProgram::Part::Kind::Explicit ? parameterText(number, part.index) : "(derived)";
+}
+
+std::string RuleReporter::parameterText(std::uint32_t number, std::size_t index) const {
+    sdai::Part21Lexer lexer(_plan.program().model().file().instanceText(number));
     lexer.next();
     lexer.next();
-    for (std::uint16_t i = 0; i < part.index; ++i) {
+    for (std::size_t i = 0; i < index; ++i) {
         if (!lexer.skipParameter() || lexer.next().kind != sdai::TokenKind::Comma) return "?";
     }
     const char* const begin = lexer.peek().text.data();

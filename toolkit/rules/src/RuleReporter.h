@@ -2,6 +2,7 @@
 #pragma once
 
 #include "JudgementPlan.h"
+#include "KnownFaults.h"
 #include "RuleMachine.h"
 #include "velkor/sdai/Problem.h"
 
@@ -49,6 +50,9 @@ private:
     std::string entityText(std::uint32_t number) const;
     std::string expectation(const WhereRule& rule) const;
     std::string readsText();
+    /// Whether the fault of a rule shows on an instance.
+    bool isMet(const KnownFault& fault, std::uint32_t number) const;
+    std::string parameterText(std::uint32_t number, std::size_t index) const;
     std::string attributeText(std::uint32_t number, TextId attribute) const;
 
     const JudgementPlan& _plan;

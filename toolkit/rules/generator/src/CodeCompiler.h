@@ -58,6 +58,7 @@ private:
     void writeName(const Expression& expression);
     void writeEnumerator(const Expression& expression, const std::string& type, const std::string& name);
     void writeAttribute(const Expression& expression);
+    void writeGroup(const Expression& expression);
     void writeCall(const Expression& expression);
     bool writeBuiltin(const Expression& expression);
     void writeConstructor(const Expression& expression);

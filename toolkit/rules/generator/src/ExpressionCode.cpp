@@ -100,10 +100,7 @@ void CodeCompiler::write(const Expression& expression) {
     case Kind::Attribute:
         return writeAttribute(expression);
     case Kind::Group:
-        write(*expression.operands[0]);
-        if (_names.entity(expression.text) == nullptr)
-            error(expression, "expected an entity, found " + expression.text);
-        return _code.write(Operation::Group, {_store.type(expression.text)});
+        return writeGroup(expression);
     case Kind::Index:
         for (const auto& operand : expression.operands) write(*operand);
         return _code.write(expression.operands.size() == 2 ? Operation::Index : Operation::Slice);
@@ -220,6 +217,18 @@ void CodeCompiler::checkAttribute(const Expression& expression, const StaticType
         error(expression, (owner.entity != nullptr ? owner.entity->name : "what stands before it") +
                               " has no attribute " + expression.text);
     }
+}
+
+void CodeCompiler::writeGroup(const Expression& expression) {
+    write(*expression.operands[0]);
+    const auto* group = _names.entity(expression.text);
+    const auto* is = _names.resolved(typeOf(*expression.operands[0])).entity;
+    if (group == nullptr) {
+        error(expression, "expected an entity, found " + expression.text);
+    } else if (is != nullptr && !_names.isKindOf(*is, *group) && !_names.isKindOf(*group, *is)) {
+        _diagnostics.note(expression.line, "what is of " + is->name + " is never of " + group->name);
+    }
+    _code.write(Operation::Group, {_store.type(expression.text)});
 }
 
 void CodeCompiler::writeCall(const Expression& expression) {
