@@ -322,7 +322,8 @@ TEST(RuleMachine, ReadsWhatFitsItsType) {
         shapes,
         "I : INTEGER; R : REAL; S : STRING; B : BOOLEAN; G : LOGICAL; C : Colour; P : Point; Q : Point; M : Measure;"
         "X : Measure; L : LIST OF INTEGER; Z : OPTIONAL Label; W : Measure;",
-        "#1=PROBE(1.5,3,4,.U.,.U.,.PINK.,#9,#5,LENGTH('x'),COLOUR(.RED.),(1,'x',3,#2,),*,#2);#2=POINT((0.,0.));"
+        "#1=PROBE(1.5,3,4,.U.,.U.,.PINK.,#9,#5,LENGTH('x'),COLOUR(.RED.),(1,'x',3,#2,,99999999999999999999),*,#2);#2="
+        "POINT((0.,0.));"
         "#5=LINE((#2,#2),#2,$);",
         R"(
         F EXISTS(I)
@@ -336,11 +337,12 @@ TEST(RuleMachine, ReadsWhatFitsItsType) {
         F EXISTS(M)
         F EXISTS(X)
         F EXISTS(W)
-        T SIZEOF(L) = 5
+        T SIZEOF(L) = 6
         T L[3] = 3
         F EXISTS(L[2])
         F EXISTS(L[4])
         F EXISTS(L[5])
+        T L[6] > 1.E19
         F EXISTS(Z))");
 }
 

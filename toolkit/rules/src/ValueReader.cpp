@@ -79,8 +79,11 @@ Value ValueReader::simple(TypeKind kind, const Token& token) {
     switch (kind) {
     case TypeKind::Integer: {
         std::int64_t number = 0;
-        const bool fits = token.kind == TokenKind::Integer && sdai::decodeInteger(token.text, number);
-        return fits ? Value(number) : Value();
+        double wide = 0.0;
+        if (token.kind != TokenKind::Integer) return {};
+        if (sdai::decodeInteger(token.text, number)) return Value(number);
+        // One that needs more than 64 bits is as large as it is, if not exact.
+        return sdai::decodeReal(token.text, wide) ? Value(wide) : Value();
     }
     case TypeKind::Real: {
         double number = 0.0;
