@@ -78,7 +78,6 @@ TEST(SyntaxCheck, HeaderAndSectionsAreCompleteAndInOrder) {
     for (const auto& [problems, texts] : cases) {
         for (const std::string& text : texts) EXPECT_EQ(placed(syntaxOf(text)), problems) << text;
     }
-    const std::string name = "FILE_NAME('','',(''),(''),'','','');";
     const std::pair<std::string, std::string> empty[] = {
         {"FILE_DESCRIPTION((),'2;1');" + name + schema, "description, parameter 1 of FILE_DESCRIPTION"},
         {description + "FILE_NAME('','',(),(''),'','','');" + schema, "author, parameter 3 of FILE_NAME"},
