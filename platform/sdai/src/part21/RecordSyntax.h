@@ -1,0 +1,19 @@
+/// Whether a piece of text is a record or a parameter of the standard, and where it ends.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace velkor::sdai::part21 {
+
+/// Bytes of the record that a statement begins with, up to its ";". npos when it is no record followed by
+/// ";".
+std::size_t recordLength(std::string_view statement) noexcept;
+
+/// Whether a text is one record and nothing else.
+bool isRecord(std::string_view text) noexcept;
+
+/// Whether a text is one parameter and nothing else.
+bool isParameter(std::string_view text) noexcept;
+
+} // namespace velkor::sdai::part21

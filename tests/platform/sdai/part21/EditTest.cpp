@@ -1,0 +1,157 @@
+#include "ExchangeText.h"
+#include "TemporaryFolder.h"
+#include "velkor/files/FileContents.h"
+#include "velkor/sdai/Part21Edit.h"
+
+#include <filesystem>
+#include <functional>
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace velkor::sdai::test {
+
+namespace {
+
+using velkor::test::TemporaryFolder;
+
+std::string contents(const std::string& path) {
+    return files::readFile(path, std::numeric_limits<std::size_t>::max()).value_or("cannot be read");
+}
+
+std::string written(const Part21Edit& edit) {
+    const TemporaryFolder folder;
+    const std::string path = folder / "out.ifc";
+    auto output = files::OutputFile::create(QORUnicodeString(std::string_view(path)));
+    if (!output) return output.error().message;
+    edit.write(*output);
+    const auto done = output->commit();
+    return done ? contents(path) : done.error().message;
+}
+
+const std::string sound = "#1=A($,'x');\n#2 = /* two */ B( 1. , (#1,#3) /* , */ ,T(.U.)) ; /* behind */\n"
+                          "#3=(C()D(*));\n#2=TWICE();\n";
+
+} // namespace
+
+TEST(Edit, PutsItsChangesInPlaceAndCopiesTheRest) {
+    struct Case {
+        std::function<bool(Part21Edit&)> change;
+        const char* expected;
+    };
+    const Case cases[] = {
+        {[](Part21Edit&) { return true; }, sound.c_str()},
+        {[](Part21Edit& e) { return e.setParameter(2, 1, "$") && e.setParameter(2, 2, "\"0F\""); },
+         "#1=A($,'x');\n#2 = /* two */ B( 1. , $ /* , */ ,\"0F\") ; /* behind */\n#3=(C()D(*));\n#2=TWICE();\n"},
+        {[](Part21Edit& e) { return e.replace(3, "NEW(#1)") && e.setParameter(3, 0, "T('a''b')"); },
+         "#1=A($,'x');\n#2 = /* two */ B( 1. , (#1,#3) /* , */ ,T(.U.)) ; /* behind */\n#3=NEW(T('a''b'));\n"
+         "#2=TWICE();\n"},
+        {[](Part21Edit& e) { return e.drop(1) && e.drop(2) && e.drop(3); }, "\n /* behind */\n#2=TWICE();\n"},
+        {[](Part21Edit& e) {
+             return e.add("N(1)") == 4U && e.add("(N()M())") == 5U && e.add("N(3)") == 6U && e.drop(5) &&
+                    e.setParameter(6, 0, "(4,5)") && !e.record(5) && e.record(6) == "N((4,5))";
+         },
+         "#1=A($,'x');\n#2 = /* two */ B( 1. , (#1,#3) /* , */ ,T(.U.)) ; /* behind */\n#3=(C()D(*));\n#2=TWICE();\n"
+         "#4=N(1);\n#6=N((4,5));\n"},
+    };
+    const std::string text = withData(sound);
+    const auto file = read(text);
+    for (const Case& one : cases) {
+        Part21Edit edit(*file);
+        EXPECT_TRUE(one.change(edit)) << one.expected;
+        EXPECT_EQ(written(edit), one.expected[0] == '\n'
+                                     ? withHeader(soundHeader, "DATA;" + std::string(one.expected) + "ENDSEC;\n")
+                                     : withData(one.expected));
+    }
+}
+
+TEST(Edit, AddsBehindTheLastInstanceThoughThatIsDropped) {
+    const std::string text = withData("#7=A();\r\n#8=B();\r\n");
+    const auto file = read(text);
+    Part21Edit edit(*file);
+    EXPECT_TRUE(edit.drop(8));
+    EXPECT_EQ(edit.add("C(#7)"), 9U);
+    EXPECT_EQ(written(edit), withData("#7=A();\n#9=C(#7);\r\n"));
+}
+
+TEST(Edit, RefusesWhatItDoesNotUnderstand) {
+    // The second lacks its end, the third a parameter, the fourth holds a comment that is not closed.
+    const std::string text = withData("#1=A($);\n#2=A(1\n#3=A(1,);\n#5=B(/*);\n");
+    const auto file = read(text);
+    Part21Edit edit(*file);
+    for (const std::uint64_t id : {2U, 3U, 5U, 6U, 0U}) {
+        EXPECT_FALSE(edit.record(id)) << id;
+        EXPECT_FALSE(edit.drop(id)) << id;
+        EXPECT_FALSE(edit.replace(id, "A()")) << id;
+        EXPECT_FALSE(edit.setParameter(id, 0, "$")) << id;
+    }
+    for (const char* record : {"", "A", "A(", "A()B()", "A();", "A(1 2)", "A(,)", "A(1,)", "A(wall)", "(A()", "()",
+                               "#1=A()", "A($))", "A(T)", "A('x)", "A()/*", "A(/*)", "A(1E5)", "A()'"}) {
+        EXPECT_FALSE(edit.replace(1, record)) << record;
+        EXPECT_FALSE(edit.add(record)) << record;
+    }
+    for (const char* value : {"", "1,2", "1)", ")", "(1", "'x", "$;", "T", "/*", "1/*", "1 2", "1E5"})
+        EXPECT_FALSE(edit.setParameter(1, 0, value)) << value;
+    EXPECT_FALSE(edit.setParameter(1, 1, "$"));
+    EXPECT_EQ(edit.setParameter(2, 0, "$").error(), "the statement of #2 is damaged and stays as it is");
+    EXPECT_EQ(edit.record(6).error(), "there is no instance #6");
+    EXPECT_EQ(written(edit), text);
+
+    EXPECT_TRUE(edit.add("N('/*',*) /* closed */"));
+    EXPECT_TRUE(edit.drop(1));
+    EXPECT_EQ(edit.drop(1).error(), "#1 was dropped");
+
+    const std::string last = withData("#18446744073709551615=A();\n");
+    const auto full = read(last);
+    EXPECT_FALSE(Part21Edit(*full).add("A()"));
+    const std::string none = withData("");
+    const auto empty = read(none);
+    EXPECT_FALSE(Part21Edit(*empty).add("A()"));
+}
+
+TEST(Edit, WritesTheHeaderAnewAndKeepsWhatElseStandsThere) {
+    const std::string text = withHeader("/* a */ FILE_DESCRIPTION((''),'2;1'); /* FILE_NAME( */\n"
+                                        "FILE_NAME('','',(''),(''),'','','');FILE_SCHEMA(('OLD'));\nOTHER('x');\n");
+    const auto file = read(text);
+    FileHeader header{{"a'b", "\xC3\xA4"}, "2;1", "n", "t", {"Ada"}, {}, "p", "o", "z", {"NEW"}};
+    Part21Edit edit(*file);
+    ASSERT_TRUE(edit.setHeader(header));
+    EXPECT_EQ(written(edit),
+              withHeader("/* a */ FILE_DESCRIPTION(('a''b','\\X2\\00E4\\X0\\'),'2;1'); /* FILE_NAME( */\n"
+                         "FILE_NAME('n','t',('Ada'),(''),'p','o','z');FILE_SCHEMA(('NEW'));\n"
+                         "OTHER('x');\n"));
+    const std::string lacking = withHeader("FILE_SCHEMA(('OLD'));\n");
+    const auto other = read(lacking);
+    Part21Edit refusing(*other);
+    EXPECT_FALSE(refusing.setHeader(header));
+    EXPECT_EQ(written(refusing), lacking);
+}
+
+TEST(Edit, CopiesEveryModelByteByByteAndWritesOverItsOwnSource) {
+    const TemporaryFolder folder;
+    int models = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(VELKOR_SOURCE_DIR "/examples/models")) {
+        if (entry.path().extension() != ".ifc") continue;
+        ++models;
+        const std::string path = folder / "same.ifc";
+        std::filesystem::copy_file(entry.path(), path, std::filesystem::copy_options::overwrite_existing);
+        const std::string before = contents(path);
+        const auto file = Part21File::open(path);
+        ASSERT_TRUE(file.has_value());
+        Part21Edit edit(**file);
+        EXPECT_EQ(written(edit), before) << path;
+        const auto id = edit.add("IFCADDED('later')");
+        ASSERT_TRUE(id.has_value()) << id.error();
+        auto output = files::OutputFile::create(QORUnicodeString(std::string_view(path)));
+        ASSERT_TRUE(output.has_value());
+        edit.write(*output);
+        ASSERT_TRUE(output->commit().has_value());
+        const auto again = Part21File::open(path);
+        ASSERT_TRUE(again.has_value());
+        EXPECT_EQ((*again)->instanceCount(), (*file)->instanceCount() + 1) << entry.path();
+        EXPECT_EQ((*again)->problemCount(), (*file)->problemCount()) << entry.path();
+        EXPECT_TRUE((*again)->find(*id).has_value());
+    }
+    EXPECT_GE(models, 4);
+}
+
+} // namespace velkor::sdai::test
