@@ -238,7 +238,8 @@ Part21Edit::Result<void> Part21Edit::setParameter(std::uint64_t id, std::size_t 
     behind.skipParameter();
     // A comment behind the value stays.
     const char* end = begin;
-    for (Token token = lexer.next(); lexer.position() <= behind.position(); token = lexer.next())
+    for (Token token = lexer.next(); token.kind != TokenKind::End && lexer.position() <= behind.position();
+         token = lexer.next())
         end = token.text.data() + token.text.size();
     std::string record(old->data(), begin);
     (record += value).append(end, old->data() + old->size());

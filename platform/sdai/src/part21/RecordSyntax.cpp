@@ -11,7 +11,7 @@ bool isScalar(TokenKind kind) noexcept {
 }
 
 /// Reads what stands in a list of parameters behind its "(", its ")" included; nesting costs a counter alone.
-bool takeList(Part21Lexer& lexer) noexcept {
+bool takeList(Part21Lexer& lexer, std::size_t around) noexcept {
     bool isValueNext = true;
     bool isFirst = true;
     for (std::size_t depth = 1; depth > 0;) {
@@ -35,7 +35,7 @@ bool takeList(Part21Lexer& lexer) noexcept {
             if (token.kind != TokenKind::Open) return false;
         }
         if (token.kind == TokenKind::Open) {
-            ++depth;
+            if (++depth + around == deepestNesting) return false;
             isFirst = true;
         } else if (!isScalar(token.kind)) {
             return false;
@@ -51,7 +51,8 @@ bool takeRecord(Part21Lexer& lexer) noexcept {
     const bool isComplex = token.kind == TokenKind::Open;
     if (isComplex) token = lexer.next();
     do {
-        if (token.kind != TokenKind::Keyword || lexer.next().kind != TokenKind::Open || !takeList(lexer)) return false;
+        if (token.kind != TokenKind::Keyword || lexer.next().kind != TokenKind::Open || !takeList(lexer, 0))
+            return false;
         if (isComplex) token = lexer.next();
     } while (isComplex && token.kind != TokenKind::Close);
     return true;
@@ -97,7 +98,7 @@ bool isParameter(std::string_view text) noexcept {
         if (token.kind != TokenKind::Open) return false;
     }
     if (token.kind == TokenKind::Open)
-        return takeList(lexer) && lexer.next().kind == TokenKind::End && !hasOpenComment(text);
+        return takeList(lexer, 1) && lexer.next().kind == TokenKind::End && !hasOpenComment(text);
     return isScalar(token.kind) && lexer.next().kind == TokenKind::End && !hasOpenComment(text);
 }
 

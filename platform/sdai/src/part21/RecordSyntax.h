@@ -6,6 +6,9 @@
 
 namespace velkor::sdai::part21 {
 
+/// Lists are nested less deeply than this, what stands around them counted; schemas stay below ten.
+inline constexpr std::size_t deepestNesting = 200;
+
 /// Bytes of the record that a statement begins with, up to its ";". npos when it is no record followed by
 /// ";".
 std::size_t recordLength(std::string_view statement) noexcept;

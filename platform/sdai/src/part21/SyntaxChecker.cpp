@@ -1,5 +1,6 @@
 #include "SyntaxChecker.h"
 
+#include "RecordSyntax.h"
 #include "Separators.h"
 #include "StringDecoder.h"
 #include "velkor/text/Printable.h"
@@ -56,8 +57,6 @@ std::string shapeText(char expected, char found, std::string_view name) {
     return "at least one " + member;
 }
 
-/// Deepest nesting of lists that is judged; schemas stay below ten.
-constexpr std::size_t deepestNesting = 200;
 constexpr std::uint64_t progressStep = 4 << 20;
 
 /// What may stand at each place, in the order of SyntaxChecker::Place.

@@ -91,6 +91,9 @@ TEST(Edit, RefusesWhatItDoesNotUnderstand) {
     }
     for (const char* value : {"", "1,2", "1)", ")", "(1", "'x", "$;", "T", "/*", "1/*", "1 2", "1E5"})
         EXPECT_FALSE(edit.setParameter(1, 0, value)) << value;
+    // As deep as the syntax check allows, the record's own list counted.
+    EXPECT_FALSE(edit.setParameter(1, 0, std::string(199, '(') + std::string(199, ')')));
+    EXPECT_TRUE(Part21Edit(*file).setParameter(1, 0, std::string(198, '(') + std::string(198, ')')));
     EXPECT_FALSE(edit.setParameter(1, 1, "$"));
     EXPECT_EQ(edit.setParameter(2, 0, "$").error(), "the statement of #2 is damaged and stays as it is");
     EXPECT_EQ(edit.record(6).error(), "there is no instance #6");
