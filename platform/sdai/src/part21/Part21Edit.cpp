@@ -5,6 +5,8 @@
 #include "velkor/sdai/Part21Lexer.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <span>
 #include <unordered_map>
 #include <vector>
@@ -78,17 +80,19 @@ struct Part21Edit::State {
     std::string texts;
     // By number of the instance.
     std::unordered_map<std::uint32_t, Piece> changed;
-    // The first has firstAdded for its id.
-    std::vector<Piece> added;
-    std::uint64_t firstAdded = 0;
+    // By id, rising.
+    std::vector<std::pair<std::uint64_t, Piece>> added;
+    // Above all ids of the file and those given; 0 as long as nobody asked.
+    std::uint64_t nextId = 0;
     std::vector<Patch> header;
 
     std::string_view view(const Piece& piece) const {
         return std::string_view(texts).substr(piece.begin, piece.length);
     }
     std::uint64_t offset(const char* at) const { return static_cast<std::uint64_t>(at - text.data()); }
-    bool isAdded(std::uint64_t id) const {
-        return !added.empty() && id >= firstAdded && id - firstAdded < added.size();
+    Piece* findAdded(std::uint64_t id) {
+        const auto at = std::ranges::lower_bound(added, id, {}, &std::pair<std::uint64_t, Piece>::first);
+        return at != added.end() && at->first == id ? &at->second : nullptr;
     }
 
     Piece keep(std::string_view record) {
@@ -106,8 +110,8 @@ struct Part21Edit::State {
     }
 
     void put(std::uint64_t id, Piece piece) {
-        if (isAdded(id)) {
-            added[static_cast<std::size_t>(id - firstAdded)] = piece;
+        if (Piece* addition = findAdded(id)) {
+            *addition = piece;
         } else if (const auto number = file.find(id)) {
             changed[*number] = piece;
         }
@@ -128,20 +132,33 @@ struct Part21Edit::State {
         return 0;
     }
 
+    Result<std::uint64_t> reserve(std::uint64_t count) {
+        if (nextId == 0) nextId = largestId() + 1;
+        const std::uint64_t first = nextId;
+        if (first == 0 || first + count < first) return refused("no id is left above those of the file");
+        nextId += count;
+        return first;
+    }
+
     std::vector<Patch> patches() const;
     Patch patch(std::uint32_t number, const Piece& piece) const;
+    /// Takes away an instance whose statement ends before a place.
+    Patch line(std::uint32_t number, const char* behind) const;
     void writeAdditions(files::OutputFile& output) const;
 };
 
 Patch Part21Edit::State::patch(std::uint32_t number, const Piece& piece) const {
     const std::string_view record = original(number);
-    const std::uint64_t recordEnd = offset(record.data() + record.size());
-    if (piece.length > 0) return {offset(record.data()), recordEnd, piece};
+    if (piece.length > 0) return {offset(record.data()), offset(record.data() + record.size()), piece};
+    return line(number, record.data() + record.size() + 1);
+}
+
+Patch Part21Edit::State::line(std::uint32_t number, const char* behind) const {
     // A line that holds nothing else goes with its statement, by the line end before it: what is added begins
     // behind a statement, dropped or not.
     const auto isLineEnd = [this](std::uint64_t at) { return text[at] == '\n' || text[at] == '\r'; };
     std::uint64_t begin = file.offset(number);
-    const std::uint64_t end = recordEnd + 1;
+    const std::uint64_t end = offset(behind);
     if (begin > 0 && isLineEnd(begin - 1) && (end == text.size() || isLineEnd(end))) {
         --begin;
         if (text[begin] == '\n' && begin > 0 && text[begin - 1] == '\r') --begin;
@@ -159,12 +176,12 @@ std::vector<Patch> Part21Edit::State::patches() const {
 
 void Part21Edit::State::writeAdditions(files::OutputFile& output) const {
     const std::string_view lineEnd = lineEndOf(text);
-    for (std::size_t i = 0; i < added.size(); ++i) {
-        if (added[i].length == 0) continue;
+    for (const auto& [id, piece] : added) {
+        if (piece.length == 0) continue;
         output.write(lineEnd);
-        output.write(named(firstAdded + i));
+        output.write(named(id));
         output.write("=");
-        output.write(view(added[i]));
+        output.write(view(piece));
         output.write(";");
     }
 }
@@ -175,10 +192,10 @@ Part21Edit::Part21Edit(Part21Edit&&) noexcept = default;
 Part21Edit& Part21Edit::operator=(Part21Edit&&) noexcept = default;
 
 Part21Edit::Result<std::string_view> Part21Edit::record(std::uint64_t id) const {
-    const State& state = *_state;
+    State& state = *_state;
     std::string_view found;
-    if (state.isAdded(id)) {
-        found = state.view(state.added[static_cast<std::size_t>(id - state.firstAdded)]);
+    if (const Piece* addition = state.findAdded(id)) {
+        found = state.view(*addition);
     } else {
         const auto number = state.file.find(id);
         if (!number) return refused("there is no instance " + named(id));
@@ -197,14 +214,21 @@ Part21Edit::Result<std::string_view> Part21Edit::record(std::uint64_t id) const 
 Part21Edit::Result<std::uint64_t> Part21Edit::add(std::string_view record) {
     State& state = *_state;
     if (!isRecord(record)) return refused("expected a keyword with its parameters, as ISO 10303-21 writes them");
-    if (state.added.empty()) {
-        if (state.endOfInstances() == 0) return refused("the data has no sound instance that a new one could follow");
-        state.firstAdded = state.largestId() + 1;
-    }
-    const std::uint64_t id = state.firstAdded + state.added.size();
-    if (state.firstAdded == 0 || id < state.firstAdded) return refused("no id is left above those of the file");
-    state.added.push_back(state.keep(record));
+    if (state.added.empty() && state.endOfInstances() == 0)
+        return refused("the data has no sound instance that a new one could follow");
+    const auto id = state.reserve(1);
+    if (id) state.added.emplace_back(*id, state.keep(record));
     return id;
+}
+
+bool Part21Edit::isEdited(std::uint64_t id) const {
+    if (_state->findAdded(id) != nullptr) return true;
+    const auto number = _state->file.find(id);
+    return number && _state->changed.contains(*number);
+}
+
+Part21Edit::Result<std::uint64_t> Part21Edit::reserve(std::uint64_t count) {
+    return _state->reserve(count);
 }
 
 Part21Edit::Result<void> Part21Edit::replace(std::uint64_t id, std::string_view record) {
@@ -284,29 +308,122 @@ Part21Edit::Result<void> Part21Edit::setHeader(const FileHeader& header) {
     return {};
 }
 
-void Part21Edit::write(files::OutputFile& output) const {
-    const State& state = *_state;
-    std::uint64_t at = 0;
-    const auto copyTo = [&](std::uint64_t end) {
-        output.write(state.text.substr(at, end - at));
-        at = end;
-    };
-    const std::uint64_t additions = state.added.empty() ? state.text.size() : state.endOfInstances();
-    bool isAdded = state.added.empty();
-    const auto addBefore = [&](std::uint64_t next) {
-        if (isAdded || next < additions) return;
-        copyTo(additions);
-        state.writeAdditions(output);
-        isAdded = true;
-    };
-    for (const Patch& patch : state.patches()) {
-        addBefore(patch.begin);
-        copyTo(patch.begin);
-        output.write(state.view(patch.text));
-        at = patch.end;
+RecordRewriter::~RecordRewriter() = default;
+
+std::uint64_t RecordOutput::add(std::string_view addition) {
+    add(_nextId, addition);
+    return _nextId++;
+}
+
+void RecordOutput::add(std::uint64_t id, std::string_view addition) {
+    std::array<char, 20> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), id).ptr;
+    (_additions += _lineEnd) += '#';
+    _additions.append(digits.data(), end) += '=';
+    (_additions += addition) += ';';
+}
+
+/// Writes a structure from its beginning to its end, with other text in the place of some, and the instances that
+/// were added.
+class Part21Edit::StructureWriter {
+public:
+    StructureWriter(const State& state, files::OutputFile& output)
+        : _state(state), _output(output), _patches(state.patches()), _isAdded(state.added.empty()),
+          _additions(_isAdded ? 0 : state.endOfInstances()) {}
+
+    void copyTo(std::uint64_t end) {
+        _output.write(_state.text.substr(_at, end - _at));
+        _at = end;
     }
-    addBefore(state.text.size());
-    copyTo(state.text.size());
+    void put(std::uint64_t begin, std::uint64_t end, std::string_view text) {
+        copyTo(begin);
+        _output.write(text);
+        _at = end;
+    }
+    /// What is known to stand before a place.
+    void putBefore(std::uint64_t place) {
+        for (;;) {
+            const bool isPatch = _next < _patches.size() && _patches[_next].begin < place;
+            if (!_isAdded && _additions <= (isPatch ? _patches[_next].begin : place)) {
+                copyTo(_additions);
+                _state.writeAdditions(_output);
+                _isAdded = true;
+            } else if (isPatch) {
+                const Patch& patch = _patches[_next++];
+                put(patch.begin, patch.end, _state.view(patch.text));
+            } else {
+                return;
+            }
+        }
+    }
+    void finish() {
+        putBefore(_state.text.size());
+        copyTo(_state.text.size());
+    }
+
+private:
+    const State& _state;
+    files::OutputFile& _output;
+    const std::vector<Patch> _patches;
+    std::size_t _next = 0;
+    bool _isAdded;
+    const std::uint64_t _additions;
+    std::uint64_t _at = 0;
+};
+
+namespace {
+
+/// Wants nothing.
+class Copying : public RecordRewriter {
+public:
+    bool wants(std::uint16_t) const override { return false; }
+    Outcome rewrite(const RecordView&, RecordOutput&) override { return Outcome::Keep; }
+};
+
+} // namespace
+
+void Part21Edit::write(files::OutputFile& output) const {
+    Copying copying;
+    write(output, copying);
+}
+
+void Part21Edit::write(files::OutputFile& output, RecordRewriter& rewriter) const {
+    State& state = *_state;
+    StructureWriter writer(state, output);
+    RecordOutput rewritten;
+    rewritten._nextId = state.nextId == 0 ? state.largestId() + 1 : state.nextId;
+    rewritten._lineEnd = lineEndOf(state.text);
+    std::vector<char> wanted(Part21File::unlistedKeyword + 1, 0);
+    for (std::size_t i = 0; i < state.file.keywords().size(); ++i)
+        wanted[i] = rewriter.wants(static_cast<std::uint16_t>(i));
+    wanted[Part21File::unlistedKeyword] = rewriter.wants(Part21File::unlistedKeyword);
+    std::vector<std::string_view> parameters;
+    const auto keywords = state.file.keywordNumbers();
+    for (std::uint32_t number = 0; number < keywords.size(); ++number) {
+        if (wanted[keywords[number]] == 0 || state.changed.contains(number)) continue;
+        const std::string_view statement = state.file.instanceText(number);
+        RecordView view{number, {}, {}};
+        const std::size_t length = splitRecord(statement, view.keyword, parameters);
+        if (length == std::string_view::npos) continue;
+        view.parameters = parameters;
+        rewritten.record.clear();
+        rewritten._additions.clear();
+        const RecordRewriter::Outcome outcome = rewriter.rewrite(view, rewritten);
+        if (outcome == RecordRewriter::Outcome::Drop) {
+            const Patch line = state.line(number, statement.data() + length + 1);
+            writer.putBefore(line.begin);
+            writer.put(line.begin, line.end, {});
+        } else if (outcome == RecordRewriter::Outcome::Replace) {
+            const std::uint64_t begin = state.offset(statement.data());
+            writer.putBefore(begin);
+            writer.put(begin, begin + length, rewritten.record);
+        }
+        if (rewritten._additions.empty()) continue;
+        writer.putBefore(state.offset(statement.data()) + length + 1);
+        writer.copyTo(state.offset(statement.data()) + length + 1);
+        output.write(rewritten._additions);
+    }
+    writer.finish();
 }
 
 std::size_t Part21Edit::memoryUse() const noexcept {

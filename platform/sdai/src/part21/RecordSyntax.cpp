@@ -10,12 +10,39 @@ bool isScalar(TokenKind kind) noexcept {
     return kind >= TokenKind::InstanceName && kind <= TokenKind::Derived;
 }
 
+/// Takes no note of the parameters of a list.
+struct Ignored {
+    void token(const Token&) noexcept {}
+    void end() noexcept {}
+};
+
+/// Takes down the parameters of a list as they stand.
+struct Split {
+    std::vector<std::string_view>& parameters;
+    const char* begin = nullptr;
+    const char* behind = nullptr;
+
+    void token(const Token& token) noexcept {
+        if (begin == nullptr) begin = token.text.data();
+        behind = token.text.data() + token.text.size();
+    }
+    void end() {
+        if (begin != nullptr) parameters.emplace_back(begin, static_cast<std::size_t>(behind - begin));
+        begin = nullptr;
+    }
+};
+
 /// Reads what stands in a list of parameters behind its "(", its ")" included; nesting costs a counter alone.
-bool takeList(Part21Lexer& lexer, std::size_t around) noexcept {
+template <class Note>
+bool takeList(Part21Lexer& lexer, std::size_t around, Note note) {
     bool isValueNext = true;
     bool isFirst = true;
     for (std::size_t depth = 1; depth > 0;) {
         Token token = lexer.next();
+        if (depth == 1 && (token.kind == TokenKind::Comma || token.kind == TokenKind::Close))
+            note.end();
+        else
+            note.token(token);
         if (!isValueNext) {
             if (token.kind != TokenKind::Comma && token.kind != TokenKind::Close) return false;
             isValueNext = token.kind == TokenKind::Comma;
@@ -33,6 +60,7 @@ bool takeList(Part21Lexer& lexer, std::size_t around) noexcept {
         if (token.kind == TokenKind::Keyword) {
             token = lexer.next();
             if (token.kind != TokenKind::Open) return false;
+            note.token(token);
         }
         if (token.kind == TokenKind::Open) {
             if (++depth + around == deepestNesting) return false;
@@ -46,12 +74,12 @@ bool takeList(Part21Lexer& lexer, std::size_t around) noexcept {
     return true;
 }
 
-bool takeRecord(Part21Lexer& lexer) noexcept {
+bool takeRecord(Part21Lexer& lexer) {
     Token token = lexer.next();
     const bool isComplex = token.kind == TokenKind::Open;
     if (isComplex) token = lexer.next();
     do {
-        if (token.kind != TokenKind::Keyword || lexer.next().kind != TokenKind::Open || !takeList(lexer, 0))
+        if (token.kind != TokenKind::Keyword || lexer.next().kind != TokenKind::Open || !takeList(lexer, 0, Ignored{}))
             return false;
         if (isComplex) token = lexer.next();
     } while (isComplex && token.kind != TokenKind::Close);
@@ -60,6 +88,7 @@ bool takeRecord(Part21Lexer& lexer) noexcept {
 
 /// Whether a comment is begun and not closed, which the lexer passes over: what is written behind would be part of it.
 bool hasOpenComment(std::string_view text) noexcept {
+    if (text.find("/*") == std::string_view::npos) return false;
     const std::size_t close = text.rfind("*/");
     Part21Lexer lexer(text);
     for (;;) {
@@ -85,6 +114,21 @@ std::size_t recordLength(std::string_view statement) noexcept {
     return hasOpenComment(statement.substr(0, length)) ? std::string_view::npos : length;
 }
 
+std::size_t splitRecord(std::string_view statement, std::string_view& keyword,
+                        std::vector<std::string_view>& parameters) {
+    parameters.clear();
+    Part21Lexer lexer(statement);
+    const Token first = lexer.next();
+    keyword = first.text;
+    if (first.kind != TokenKind::Keyword || lexer.next().kind != TokenKind::Open ||
+        !takeList(lexer, 0, Split{parameters}))
+        return std::string_view::npos;
+    const Token token = lexer.next();
+    if (token.kind != TokenKind::Semicolon) return std::string_view::npos;
+    const auto length = static_cast<std::size_t>(token.text.data() - statement.data());
+    return hasOpenComment(statement.substr(0, length)) ? std::string_view::npos : length;
+}
+
 bool isRecord(std::string_view text) noexcept {
     Part21Lexer lexer(text);
     return takeRecord(lexer) && lexer.next().kind == TokenKind::End && !hasOpenComment(text);
@@ -98,7 +142,7 @@ bool isParameter(std::string_view text) noexcept {
         if (token.kind != TokenKind::Open) return false;
     }
     if (token.kind == TokenKind::Open)
-        return takeList(lexer, 1) && lexer.next().kind == TokenKind::End && !hasOpenComment(text);
+        return takeList(lexer, 1, Ignored{}) && lexer.next().kind == TokenKind::End && !hasOpenComment(text);
     return isScalar(token.kind) && lexer.next().kind == TokenKind::End && !hasOpenComment(text);
 }
 

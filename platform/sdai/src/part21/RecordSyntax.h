@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string_view>
+#include <vector>
 
 namespace velkor::sdai::part21 {
 
@@ -12,6 +13,10 @@ inline constexpr std::size_t deepestNesting = 200;
 /// Bytes of the record that a statement begins with, up to its ";". npos when it is no record followed by
 /// ";".
 std::size_t recordLength(std::string_view statement) noexcept;
+
+/// The same of a simple record, with its keyword and its parameters as they stand.
+std::size_t splitRecord(std::string_view statement, std::string_view& keyword,
+                        std::vector<std::string_view>& parameters);
 
 /// Whether a text is one record and nothing else.
 bool isRecord(std::string_view text) noexcept;

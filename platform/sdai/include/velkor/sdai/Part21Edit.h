@@ -15,11 +15,53 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <tl/expected.hpp>
 
 namespace velkor::sdai {
+
+/// A simple record as it is met while a structure is written.
+struct RecordView {
+    /// Of the instance, in file order.
+    std::uint32_t number = 0;
+    std::string_view keyword;
+    /// As they stand in the file, white space and comments around them left out.
+    std::span<const std::string_view> parameters;
+};
+
+/// Where a rewriter puts what stands in place of a record.
+class VELKOR_PLATFORM_API RecordOutput {
+public:
+    /// Empty when a record comes to be rewritten; what stands here takes its place. Nobody looks at its syntax.
+    std::string record;
+
+    /// One more instance behind that one, with the next id above all others.
+    std::uint64_t add(std::string_view addition);
+    /// The same with an id that Part21Edit::reserve() gave.
+    void add(std::uint64_t id, std::string_view addition);
+
+private:
+    friend class Part21Edit;
+    std::uint64_t _nextId = 0;
+    std::string_view _lineEnd;
+    // Statements.
+    std::string _additions;
+};
+
+/// Makes other records of those of a structure while it is written, so that nothing is held for them.
+class VELKOR_PLATFORM_API RecordRewriter {
+public:
+    enum class Outcome : std::uint8_t { Keep, Replace, Drop };
+
+    virtual ~RecordRewriter();
+    /// Whether instances with this keyword number (Part21File.h) are to be seen; others are copied.
+    virtual bool wants(std::uint16_t keyword) const = 0;
+    /// Called in file order for what was neither edited nor dropped before. Complex instances and damaged
+    /// statements are never seen: they are copied.
+    virtual Outcome rewrite(const RecordView& record, RecordOutput& output) = 0;
+};
 
 /// Records are what stands between "#12=" and ";", simple or complex, in the encoding of the standard. An error is
 /// one line that says why nothing was changed. Of several instances with one id the first is meant.
@@ -38,6 +80,11 @@ public:
     /// not have, for what was dropped, and for an instance whose statement is damaged.
     Result<std::string_view> record(std::uint64_t id) const;
 
+    /// Whether an instance was replaced, changed or dropped here, or is one of those added.
+    bool isEdited(std::uint64_t id) const;
+    /// The first of so many ids in a row that no instance has and no other call gives.
+    Result<std::uint64_t> reserve(std::uint64_t count);
+
     /// A new instance behind the last sound one of the file; its id is above all others.
     Result<std::uint64_t> add(std::string_view record);
     Result<void> replace(std::uint64_t id, std::string_view record);
@@ -52,12 +99,15 @@ public:
 
     /// Puts the whole structure behind what the output holds. That it arrived, OutputFile::commit() says.
     void write(files::OutputFile& output) const;
+    /// The same; the rewriter sees the instances that were not edited.
+    void write(files::OutputFile& output, RecordRewriter& rewriter) const;
 
     /// Bytes held beside the file.
     std::size_t memoryUse() const noexcept;
 
 private:
     struct State;
+    class StructureWriter;
     std::unique_ptr<State> _state;
 };
 
