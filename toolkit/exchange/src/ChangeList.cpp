@@ -30,8 +30,8 @@ RuleUse& ChangeList::count(const ConversionRule& rule) {
 void ChangeList::add(RuleUse& use, std::uint32_t number, std::string detail) {
     const std::string_view text = _file.instanceText(number);
     const std::uint64_t offset = _file.offset(number);
-    use.first.push_back({_file.id(number), _file.line(offset), std::string(text.substr(0, text.find_first_of("( \t\r\n/;"))),
-                         std::move(detail)});
+    use.first.push_back({_file.id(number), _file.line(offset),
+                         std::string(text.substr(0, text.find_first_of("( \t\r\n/;"))), std::move(detail)});
 }
 
 std::vector<RuleUse> ChangeList::uses(std::span<const ConversionRule* const> order) const {

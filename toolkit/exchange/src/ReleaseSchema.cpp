@@ -5,7 +5,8 @@
 namespace velkor::exchange {
 
 ReleaseSchema::ReleaseSchema(const sdai::SchemaDefinition& definition) : _definition(&definition) {
-    const auto take = [this](const auto& self, const sdai::EntityDefinition& entity, std::string_view attribute) -> void {
+    const auto take = [this](const auto& self, const sdai::EntityDefinition& entity,
+                             std::string_view attribute) -> void {
         const int index = entity.attributeIndex(attribute);
         if (index < 0) return;
         const sdai::AttributeSlot& slot = entity.attributes()[static_cast<std::size_t>(index)];
@@ -13,7 +14,8 @@ ReleaseSchema::ReleaseSchema(const sdai::SchemaDefinition& definition) : _defini
         for (const sdai::EntityDefinition* subtype : entity.subtypes()) self(self, *subtype, attribute);
     };
     for (const sdai::DerivedSlot& derived : derivedSlots(definition))
-        if (const sdai::EntityDefinition* entity = definition.entity(derived.entity)) take(take, *entity, derived.attribute);
+        if (const sdai::EntityDefinition* entity = definition.entity(derived.entity))
+            take(take, *entity, derived.attribute);
 }
 
 bool ReleaseSchema::isDerived(const sdai::EntityDefinition& entity, std::size_t slot) const {

@@ -140,19 +140,28 @@ struct DefaultRule {
     std::optional<std::string> (*make)(Rebuilding& rebuilding) = nullptr;
 };
 
-/// Entities that are called otherwise; both directions unless the way back is not the same.
+/// Enumerators that are called otherwise. A rule holds where the target's type has `after` and lacks `before`.
 struct EnumeratorRule {
     ConversionRule rule;
-    /// Of the target, upper case.
+    /// The enumeration, upper case.
     std::string_view type;
     std::string_view before;
     std::string_view after;
 };
 
-/// The tables, each in a source of its own.
-std::span<const RebuildRule> rebuildRules();
-std::span<const ValueRule> valueRules();
-std::span<const DefaultRule> defaultRules();
-std::span<const EnumeratorRule> enumeratorRules();
+/// The rules of one source unit.
+struct RuleTable {
+    std::span<const RebuildRule> rebuild = {};
+    std::span<const ValueRule> values = {};
+    std::span<const DefaultRule> defaults = {};
+    std::span<const EnumeratorRule> enumerators = {};
+};
+
+/// Shapes: facets, indexed curves, splines.
+RuleTable geometryRules();
+/// What newer releases say in another way than IFC2X3.
+RuleTable forwardRules();
+/// What older releases lack.
+RuleTable backwardRules();
 
 } // namespace velkor::exchange

@@ -78,9 +78,8 @@ struct IdentifierReport : StepReport {
     std::vector<Entry> identifiers;
 };
 
-VELKOR_TOOLKIT_API Converted<IdentifierReport> convertIdentifiers(const sdai::Model& model,
-                                                                  const IdentifierOptions& options,
-                                                                  files::OutputFile& output);
+VELKOR_TOOLKIT_API Converted<IdentifierReport>
+convertIdentifiers(const sdai::Model& model, const IdentifierOptions& options, files::OutputFile& output);
 
 enum class MappingDirection : std::uint8_t { Import, Export };
 
