@@ -100,6 +100,11 @@ public:
     virtual std::uint64_t add(std::string_view record) = 0;
     virtual void add(std::uint64_t id, std::string_view record) = 0;
 
+    /// An instance of the target that several can use: made when first asked for by this key.
+    virtual std::uint64_t shared(std::string_view key, std::uint64_t (*make)(Rebuilding& rebuilding)) = 0;
+    /// Of the conversion, ISO 8601.
+    virtual std::string_view timeStamp() const = 0;
+
     /// Takes down that a rule was followed at this instance.
     virtual void note(const ConversionRule& rule, std::string detail) = 0;
 };
