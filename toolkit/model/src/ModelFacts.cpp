@@ -55,18 +55,6 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
 }
 
-// What stands in the brackets of "ViewDefinition [...]", wherever that stands; empty when the
-// entry names no view.
-std::string_view viewDefinition(std::string_view entry) {
-    constexpr std::string_view keyword = "ViewDefinition";
-    const auto found = entry.find(keyword);
-    if (found == std::string_view::npos) return {};
-    const std::string_view rest = trimmed(entry.substr(found + keyword.size()));
-    const auto end = rest.find(']');
-    return rest.starts_with('[') && end != std::string_view::npos ? trimmed(rest.substr(1, end - 1))
-                                                                  : std::string_view();
-}
-
 void takeDescription(ModelFacts& facts) {
     for (const std::string& entry : facts.header.description) {
         if (const auto view = viewDefinition(entry); !view.empty())
@@ -82,6 +70,16 @@ ProjectFacts projectFacts(const DXSdaiAppInstance& project) {
 }
 
 } // namespace
+
+std::string_view viewDefinition(std::string_view entry) {
+    constexpr std::string_view keyword = "ViewDefinition";
+    const auto found = entry.find(keyword);
+    if (found == std::string_view::npos) return {};
+    const std::string_view rest = trimmed(entry.substr(found + keyword.size()));
+    const auto end = rest.find(']');
+    return rest.starts_with('[') && end != std::string_view::npos ? trimmed(rest.substr(1, end - 1))
+                                                                  : std::string_view();
+}
 
 ModelFacts modelFacts(const sdai::Model& model) {
     ModelFacts facts;

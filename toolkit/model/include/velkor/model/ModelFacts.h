@@ -55,6 +55,10 @@ struct ModelFacts {
     std::vector<ContentCount> contents;
 };
 
+/// What stands in the brackets of "ViewDefinition [...]", wherever that stands in an entry of a description; empty when
+/// it names no view.
+VELKOR_TOOLKIT_API std::string_view viewDefinition(std::string_view entry);
+
 /// One pass over the index, two bytes an instance. Texts are copied; the entities of `keywords` are those of
 /// the model.
 VELKOR_TOOLKIT_API ModelFacts modelFacts(const sdai::Model& model);
