@@ -1,0 +1,290 @@
+#include "release/ReleaseRewriter.h"
+
+#include "velkor/sdai/Part21Encoding.h"
+#include "velkor/sdai/Part21Lexer.h"
+
+#include <algorithm>
+
+namespace velkor::exchange {
+
+using sdai::EntityDefinition;
+using sdai::RecordView;
+
+namespace {
+
+constexpr std::uint32_t progressStep = 1 << 14;
+
+bool isUnset(std::string_view value) {
+    return value.empty() || value == sdai::omittedValue || value == sdai::derivedValue;
+}
+
+std::string becomes(std::string_view before, std::string_view after) {
+    std::string words(before);
+    words += " becomes ";
+    return words += after;
+}
+
+} // namespace
+
+ReleaseRewriter::ReleaseRewriter(ReleasePlan& plan, ChangeList& changes, std::string timeStamp, const Progress& progress)
+    : _plan(plan), _changes(changes), _timeStamp(std::move(timeStamp)), _progress(progress) {}
+
+bool ReleaseRewriter::wants(std::uint16_t keyword) const {
+    const exchange::Outcome* common = _plan.common(keyword);
+    if (common == nullptr || _plan.hasLater(keyword)) return true;
+    if (common->kind == Successor::Kind::NotHere) return false;
+    if (common->isGone() || common->rule != nullptr || common->reason != nullptr) return true;
+    return !const_cast<EntityPlans&>(_plans).plan(*common->source, *common->target).isIdentity;
+}
+
+bool ReleaseRewriter::begin(const RecordView& record) {
+    _record = record;
+    _outcome = &_plan.outcome(record.number);
+    _hasNote = false;
+    _become.clear();
+    _missing = {};
+    _values.takeUserDefined();
+    return _outcome->source != nullptr && record.parameters.size() == _outcome->source->attributes().size();
+}
+
+sdai::RecordRewriter::Outcome ReleaseRewriter::rewrite(const RecordView& record, sdai::RecordOutput& output) {
+    const auto& file = _plan.model().file();
+    if (record.number % progressStep == 0 && !_isEnded)
+        _isEnded = !goesOn(_progress, {"Writing the instances", file.offset(record.number), file.text().size()});
+    if (_isEnded) return Outcome::Keep;
+    if (!begin(record)) {
+        ++_counts.kept;
+        return Outcome::Keep;
+    }
+    _output = &output;
+    if (_outcome->kind == Successor::Kind::Lost) {
+        note(*_outcome->reason, [this] {
+            return _outcome->attribute.empty() ? std::string() : std::string(_outcome->attribute) + " has no value";
+        });
+        ++_counts.lost;
+        return Outcome::Drop;
+    }
+    makeRecord();
+    const bool isRebuilt = _outcome->rule != nullptr && _outcome->rule->rule.effect == Effect::Rebuilt;
+    if (_outcome->rule != nullptr || _outcome->reason != nullptr) {
+        const std::string_view now = _outcome->target != nullptr ? _outcome->target->name() : std::string_view();
+        note(_outcome->rule != nullptr ? _outcome->rule->rule : *_outcome->reason, [&] {
+            return now.empty() || now == _outcome->source->name() ? std::string() : becomes(_outcome->source->name(), now);
+        });
+    }
+    ++(isRebuilt ? _counts.rebuilt : _hasNote ? _counts.converted : _counts.kept);
+    if (_outcome->kind == Successor::Kind::Absorbed) return Outcome::Drop;
+    if (isUnchanged()) return Outcome::Keep;
+    output.record = _become;
+    return Outcome::Replace;
+}
+
+bool ReleaseRewriter::isUnchanged() const {
+    std::string_view rest = _become;
+    if (!rest.starts_with(_record.keyword)) return false;
+    rest.remove_prefix(_record.keyword.size());
+    for (const std::string_view parameter : _record.parameters) {
+        if (rest.empty() || !rest.substr(1).starts_with(parameter)) return false;
+        rest.remove_prefix(1 + parameter.size());
+        if (rest.empty() || (rest.front() != ',' && rest.front() != ')')) return false;
+    }
+    return rest == ")";
+}
+
+void ReleaseRewriter::makeRecord() {
+    if (_outcome->rule != nullptr && _outcome->rule->rebuild != nullptr) _outcome->rule->rebuild(*this);
+    if (_outcome->kind == Successor::Kind::Absorbed || !_become.empty()) return;
+    const EntityPlan& plan = _plans.plan(*_outcome->source, *_outcome->target);
+    std::vector<std::string> values;
+    takeValues(plan, values);
+    keepTexts(plan, values);
+    takeLater(plan, values);
+    noteDropped(plan);
+    (_become = plan.target->name()) += listOf(values);
+}
+
+void ReleaseRewriter::takeValues(const EntityPlan& plan, std::vector<std::string>& values) {
+    values.reserve(plan.slots.size());
+    for (const EntityPlan::Slot& slot : plan.slots) {
+        std::string& value = values.emplace_back();
+        _attribute = slot.attribute->name();
+        if (slot.isDerived) {
+            value = sdai::derivedValue;
+        } else if (!takeValue(plan, slot, value)) {
+            value = sdai::omittedValue;
+        }
+        if (slot.renamed != nullptr && !isUnset(value))
+            note(*slot.renamed, [&] {
+                return becomes(plan.source->attributes()[static_cast<std::size_t>(slot.source)].attribute->name(), _attribute);
+            });
+    }
+}
+
+bool ReleaseRewriter::takeValue(const EntityPlan& plan, const EntityPlan::Slot& slot, std::string& value) {
+    const std::string_view given = slot.source < 0 ? std::string_view() : _record.parameters[static_cast<std::size_t>(slot.source)];
+    if (isUnset(given)) {
+        if (!slot.introduced.empty()) {
+            if (auto introduced = _values.encoded(slot.introduced, slot.attribute->type())) {
+                note(rules::valueIntroduced, [&] { return std::string(_attribute) + " = " + slot.introduced; });
+                value = std::move(*introduced);
+                return true;
+            }
+        }
+        if (!slot.isRequired || takeDefault(*plan.target, slot, value)) return slot.isRequired;
+        // What was missing before is missing still.
+        const bool wasWrong = !given.empty() && !plan.source->attributes()[static_cast<std::size_t>(slot.source)].attribute->isOptional() &&
+                              given == sdai::omittedValue;
+        if (!wasWrong) _missing = {&rules::requiredMissing, _attribute};
+        return false;
+    }
+    if (slot.isRaw) {
+        value = given;
+        return true;
+    }
+    if (_values.translate(given, *slot.from, slot.attribute->type(), value)) {
+        if (!slot.isRequired || !isUnset(value)) return true;
+    }
+    if (slot.isRequired && takeDefault(*plan.target, slot, value)) {
+        noteLoss(slot, given);
+        return true;
+    }
+    if (slot.isRequired)
+        _missing = {&rules::requiredLost, _attribute};
+    else
+        noteLoss(slot, given);
+    return false;
+}
+
+void ReleaseRewriter::noteLoss(const EntityPlan::Slot& slot, std::string_view value) {
+    if (slot.from->resolved().isSimple() || slot.from->resolved().asEnumeration() != nullptr)
+        return note(rules::noValue, [&] { return std::string(_attribute) + ' ' + std::string(value.substr(0, 40)); });
+    const bool isShape = _attribute == "REPRESENTATION" && _outcome->source->isKindOf("IFCPRODUCT");
+    note(isShape || _attribute == "REPRESENTATIONMAPS" ? rules::shapeLost : rules::referenceLost, [&] {
+        if (!isShape) return std::string(_attribute);
+        const std::string_view name = encoded("NAME");
+        return isUnset(name) ? std::string() : sdai::decodeString(name);
+    });
+}
+
+bool ReleaseRewriter::takeDefault(const EntityDefinition& entity, const EntityPlan::Slot& slot, std::string& value) {
+    for (const DefaultRule* rule : _plan.book().defaults(entity, slot.attribute->name())) {
+        std::optional<std::string> made = rule->encoded != nullptr ? std::optional<std::string>(rule->encoded) : rule->make(*this);
+        if (!made) continue;
+        value = std::move(*made);
+        note(rule->rule, [&] { return std::string(slot.attribute->name()) + " = " + value.substr(0, 40); });
+        return true;
+    }
+    return false;
+}
+
+void ReleaseRewriter::keepTexts(const EntityPlan& plan, std::vector<std::string>& values) {
+    const std::string enumerator = _values.takeUserDefined();
+    const bool isSupertype = _outcome->reason == &rules::supertype;
+    if (enumerator.empty() && !isSupertype) return;
+    std::string* place = plan.userText < 0 ? nullptr : &values[static_cast<std::size_t>(plan.userText)];
+    const bool isFree = place != nullptr && isUnset(*place);
+    if (!enumerator.empty()) {
+        const bool isPredefined = plan.predefinedType >= 0 && values[static_cast<std::size_t>(plan.predefinedType)] == ".USERDEFINED.";
+        if (isPredefined && isFree) {
+            *place = literal(enumerator);
+            note(rules::enumeratorAsText, [&] { return enumerator; });
+            return;
+        }
+        note(rules::noEnumerator, [&] { return enumerator; });
+        for (std::string& value : values)
+            if (!isPredefined && value == ".USERDEFINED.") value = ".NOTDEFINED.";
+    }
+    if (isSupertype && isFree) *place = literal(_outcome->source->name());
+}
+
+void ReleaseRewriter::takeLater(const EntityPlan& plan, std::vector<std::string>& values) {
+    const auto* later = _plan.later(_record.number);
+    if (later == nullptr) return;
+    for (const ReleasePlan::Later& value : *later)
+        if (const int index = plan.target->attributeIndex(value.attribute); index >= 0) {
+            values[static_cast<std::size_t>(index)] = value.encoded;
+            if (_missing.attribute == value.attribute) _missing = {};
+        }
+    _hasNote = true;
+}
+
+void ReleaseRewriter::noteDropped(const EntityPlan& plan) {
+    for (const std::size_t place : plan.dropped) {
+        if (isUnset(_record.parameters[place])) continue;
+        note(rules::noAttribute, [&] {
+            std::string words(plan.source->attributes()[place].attribute->name());
+            words += ' ';
+            return words += _record.parameters[place].substr(0, 40);
+        });
+    }
+}
+
+std::string_view ReleaseRewriter::encoded(std::string_view attribute) const {
+    const int index = _outcome->source->attributeIndex(attribute);
+    return index < 0 ? sdai::omittedValue : _record.parameters[static_cast<std::size_t>(index)];
+}
+
+std::optional<std::string> ReleaseRewriter::translated(std::string_view encoded, const sdai::Type& from, const sdai::Type& to) {
+    std::string text;
+    if (isUnset(encoded) || !_values.translate(encoded, from, to, text)) return std::nullopt;
+    return text;
+}
+
+RecordBuilder ReleaseRewriter::carried(const EntityDefinition& entity) {
+    RecordBuilder record(target(), entity);
+    const EntityPlan& plan = _plans.plan(*_outcome->source, entity);
+    std::vector<std::string> values;
+    takeValues(plan, values);
+    keepTexts(plan, values);
+    takeLater(plan, values);
+    for (std::size_t i = 0; i < values.size(); ++i) record.set(plan.slots[i].attribute->name(), std::move(values[i]));
+    _missing = {};
+    return record;
+}
+
+const EntityDefinition* ReleaseRewriter::successorOf(std::uint64_t id) const {
+    const auto number = _plan.model().file().find(id);
+    return number ? _plan.outcome(*number).target : nullptr;
+}
+
+void ReleaseRewriter::become(const RecordBuilder& record) {
+    _become = record.text();
+    for (const sdai::AttributeSlot& slot : record.entity().attributes())
+        if (!slot.attribute->isOptional() && record.value(slot.attribute->name()) == sdai::omittedValue)
+            _missing = {&rules::requiredMissing, slot.attribute->name()};
+}
+
+std::uint64_t ReleaseRewriter::add(std::string_view record) {
+    if (_isDry) return 1;
+    ++_counts.added;
+    return _output->add(record);
+}
+
+void ReleaseRewriter::add(std::uint64_t id, std::string_view record) {
+    if (_isDry) return;
+    ++_counts.added;
+    _output->add(id, record);
+}
+
+std::uint64_t ReleaseRewriter::shared(std::string_view key, std::uint64_t (*make)(Rebuilding& rebuilding)) {
+    if (_isDry) return 1;
+    const auto [found, isNew] = _shared.try_emplace(std::string(key), 0);
+    // What is made may ask for others.
+    if (isNew) {
+        const std::uint64_t id = make(*this);
+        return _shared[std::string(key)] = id;
+    }
+    return found->second;
+}
+
+void ReleaseRewriter::note(const ConversionRule& rule, std::string detail) {
+    note(rule, [&] { return detail; });
+}
+
+void ReleaseRewriter::note(const ConversionRule& rule, const std::function<std::string()>& detail) {
+    if (_isDry) return;
+    _hasNote = true;
+    _changes.note(rule, _record.number, detail);
+}
+
+} // namespace velkor::exchange

@@ -1,0 +1,109 @@
+/// Writes the instances of a model as the plan of a release says.
+#pragma once
+
+#include "ChangeList.h"
+#include "release/EntityPlan.h"
+#include "release/Rebuilding.h"
+#include "release/ReleasePlan.h"
+#include "release/TypeFit.h"
+#include "release/ValueTranslator.h"
+#include "velkor/model/Progress.h"
+#include "velkor/sdai/Part21Edit.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace velkor::exchange {
+
+class ReleaseRewriter final : public sdai::RecordRewriter, private Rebuilding, private ValueNotes {
+public:
+    ReleaseRewriter(ReleasePlan& plan, ChangeList& changes, std::string timeStamp, const Progress& progress);
+
+    /// Takes back successors of instances that would lack what they need, and of those that need these, until all that
+    /// is left can stand. To be called before anything is written.
+    void settle();
+
+    bool wants(std::uint16_t keyword) const override;
+    Outcome rewrite(const sdai::RecordView& record, sdai::RecordOutput& output) override;
+
+    /// Counts of what was seen; what was copied unseen is not among it.
+    struct Counts {
+        std::uint64_t kept = 0;
+        std::uint64_t converted = 0;
+        std::uint64_t rebuilt = 0;
+        std::uint64_t lost = 0;
+        std::uint64_t added = 0;
+    };
+    const Counts& counts() const noexcept { return _counts; }
+    bool isEnded() const noexcept { return _isEnded; }
+
+private:
+    /// What stops a record.
+    struct Missing {
+        const ConversionRule* rule = nullptr;
+        std::string_view attribute;
+    };
+
+    const sdai::Model& source() const override { return _plan.model(); }
+    const Releases& releases() const override { return _plan.releases(); }
+    std::uint64_t id() const override { return _plan.model().file().id(_record.number); }
+    const sdai::EntityDefinition& entity() const override { return *_outcome->source; }
+    DXSdaiAppInstance& instance() const override { return *_plan.model().instanceAt(_record.number); }
+    std::string_view encoded(std::string_view attribute) const override;
+    std::optional<std::string> translated(std::string_view encoded, const sdai::Type& from, const sdai::Type& to) override;
+    RecordBuilder carried(const sdai::EntityDefinition& entity) override;
+    const sdai::EntityDefinition* successorOf(std::uint64_t id) const override;
+    std::uint64_t reserved(std::uint64_t id) const override { return _plan.reserved(id); }
+    void become(const RecordBuilder& record) override;
+    std::uint64_t add(const RecordBuilder& record) override { return add(record.text()); }
+    void add(std::uint64_t id, const RecordBuilder& record) override { add(id, record.text()); }
+    std::uint64_t add(std::string_view record) override;
+    void add(std::uint64_t id, std::string_view record) override;
+    std::uint64_t shared(std::string_view key, std::uint64_t (*make)(Rebuilding& rebuilding)) override;
+    std::string_view timeStamp() const override { return _timeStamp; }
+    void note(const ConversionRule& rule, std::string detail) override;
+    void note(const ConversionRule& rule, const std::function<std::string()>& detail) override;
+
+    /// False when a record has another number of parameters than its entity has attributes.
+    bool begin(const sdai::RecordView& record);
+    void makeRecord();
+    bool isUnchanged() const;
+    bool canStand(std::uint32_t number);
+    std::vector<std::uint32_t> dropRisky();
+    void dropUsers(std::vector<std::uint32_t> lost);
+    void dropLeftOvers();
+    void takeValues(const EntityPlan& plan, std::vector<std::string>& values);
+    void takeLater(const EntityPlan& plan, std::vector<std::string>& values);
+    bool takeValue(const EntityPlan& plan, const EntityPlan::Slot& slot, std::string& value);
+    bool takeDefault(const sdai::EntityDefinition& entity, const EntityPlan::Slot& slot, std::string& value);
+    void keepTexts(const EntityPlan& plan, std::vector<std::string>& values);
+    void noteDropped(const EntityPlan& plan);
+    void noteLoss(const EntityPlan::Slot& slot, std::string_view value);
+    ReleasePlan& _plan;
+    ChangeList& _changes;
+    std::string _timeStamp;
+    const Progress& _progress;
+    TypeFit _fit{_plan};
+    EntityPlans _plans{_plan, _fit};
+    ValueTranslator _values{_plan, _fit, *this, *this};
+    Counts _counts;
+    bool _isEnded = false;
+
+    // The instance at work.
+    sdai::RecordView _record;
+    const exchange::Outcome* _outcome = nullptr;
+    sdai::RecordOutput* _output = nullptr;
+    // While it is only asked whether an instance can stand nothing is added and nothing noted.
+    bool _isDry = false;
+    bool _hasNote = false;
+    std::string_view _attribute;
+    std::string _become;
+    Missing _missing;
+    std::unordered_map<std::string, std::uint64_t> _shared;
+};
+
+} // namespace velkor::exchange

@@ -1,0 +1,70 @@
+/// The rules of all tables, found by what they are for.
+#pragma once
+
+#include "release/Rebuilding.h"
+
+#include <array>
+#include <optional>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace velkor::exchange {
+
+class RuleBook {
+public:
+    explicit RuleBook(const Releases& releases);
+
+    /// Rules for an entity of the source: its own before those of its supertypes.
+    const std::vector<const RebuildRule*>& rebuilds(const sdai::EntityDefinition& entity);
+    /// Values for an attribute of an entity of the target, nearest first.
+    std::vector<const DefaultRule*> defaults(const sdai::EntityDefinition& entity, std::string_view attribute) const;
+    /// What an enumerator that the target's type lacks is called there; empty when no rule knows.
+    const EnumeratorRule* enumerator(const sdai::EnumerationType& to, std::string_view before) const;
+
+    template <class Take>
+    void eachValueRule(Take take) const {
+        for (const RuleTable& table : _tables)
+            for (const ValueRule& rule : table.values)
+                if (take(rule)) return;
+    }
+
+    /// Every rule of the tables in their order, those that follow from the dictionaries alone first.
+    static std::vector<const ConversionRule*> all();
+
+private:
+    static std::array<RuleTable, 3> tables();
+
+    const std::array<RuleTable, 3> _tables = tables();
+    std::unordered_map<std::string_view, std::vector<const RebuildRule*>> _byEntity;
+    std::unordered_map<const sdai::EntityDefinition*, std::vector<const RebuildRule*>> _rebuilds;
+};
+
+/// Rules that follow from the two dictionaries.
+namespace rules {
+extern const ConversionRule entityRenamed;
+extern const ConversionRule entityMapped;
+extern const ConversionRule supertype;
+extern const ConversionRule attributeRenamed;
+extern const ConversionRule attributeMapped;
+extern const ConversionRule valueIntroduced;
+extern const ConversionRule enumeratorRenamed;
+extern const ConversionRule enumeratorAsText;
+extern const ConversionRule selectType;
+extern const ConversionRule numberForm;
+extern const ConversionRule oneOfSeveral;
+extern const ConversionRule viewDefinitions;
+extern const ConversionRule noEntity;
+extern const ConversionRule noUse;
+extern const ConversionRule noAttribute;
+extern const ConversionRule noEnumerator;
+extern const ConversionRule noValue;
+extern const ConversionRule textShortened;
+extern const ConversionRule referenceLost;
+extern const ConversionRule memberLost;
+extern const ConversionRule requiredLost;
+extern const ConversionRule requiredMissing;
+extern const ConversionRule shapeLost;
+} // namespace rules
+
+} // namespace velkor::exchange
