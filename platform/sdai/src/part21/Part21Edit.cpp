@@ -308,6 +308,13 @@ Part21Edit::Result<void> Part21Edit::setHeader(const FileHeader& header) {
     return {};
 }
 
+const RecordView* RecordReader::read(const Part21File& file, std::uint32_t number) {
+    _view.number = number;
+    _length = splitRecord(file.instanceText(number), _view.keyword, _parameters);
+    _view.parameters = _parameters;
+    return _length == std::string_view::npos ? nullptr : &_view;
+}
+
 RecordRewriter::~RecordRewriter() = default;
 
 std::uint64_t RecordOutput::add(std::string_view addition) {
@@ -397,18 +404,17 @@ void Part21Edit::write(files::OutputFile& output, RecordRewriter& rewriter) cons
     for (std::size_t i = 0; i < state.file.keywords().size(); ++i)
         wanted[i] = rewriter.wants(static_cast<std::uint16_t>(i));
     wanted[Part21File::unlistedKeyword] = rewriter.wants(Part21File::unlistedKeyword);
-    std::vector<std::string_view> parameters;
+    RecordReader reader;
     const auto keywords = state.file.keywordNumbers();
     for (std::uint32_t number = 0; number < keywords.size(); ++number) {
         if (wanted[keywords[number]] == 0 || state.changed.contains(number)) continue;
+        const RecordView* record = reader.read(state.file, number);
+        if (record == nullptr) continue;
         const std::string_view statement = state.file.instanceText(number);
-        RecordView view{number, {}, {}};
-        const std::size_t length = splitRecord(statement, view.keyword, parameters);
-        if (length == std::string_view::npos) continue;
-        view.parameters = parameters;
+        const std::size_t length = reader.length();
         rewritten.record.clear();
         rewritten._additions.clear();
-        const RecordRewriter::Outcome outcome = rewriter.rewrite(view, rewritten);
+        const RecordRewriter::Outcome outcome = rewriter.rewrite(*record, rewritten);
         if (outcome == RecordRewriter::Outcome::Drop) {
             const Patch line = state.line(number, statement.data() + length + 1);
             writer.putBefore(line.begin);

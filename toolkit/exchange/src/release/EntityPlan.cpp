@@ -33,12 +33,14 @@ std::unique_ptr<EntityPlan> EntityPlans::make(const EntityDefinition& source, co
             slot.from = &source.attributes()[from].attribute->type();
             const bool wasDerived = releases.source.isDerived(source, from);
             const bool wasOptional = source.attributes()[from].attribute->isOptional() || wasDerived;
-            slot.isRaw = !wasDerived && (!slot.isRequired || !wasOptional) && _fit.isRaw(*slot.from, slot.attribute->type());
+            slot.isRaw =
+                !wasDerived && (!slot.isRequired || !wasOptional) && _fit.isRaw(*slot.from, slot.attribute->type());
             if (slot.isDerived && wasDerived) slot.isRaw = true;
         } else {
             slot.introduced = _plan.names().introduced(target, slot.attribute->name());
         }
-        plan->isIdentity = plan->isIdentity && slot.isRaw && place.index == static_cast<int>(i) && place.rule == nullptr;
+        plan->isIdentity =
+            plan->isIdentity && slot.isRaw && place.index == static_cast<int>(i) && place.rule == nullptr;
         plan->isRisky = plan->isRisky || (slot.isRequired && !slot.isDerived && !slot.isRaw);
         plan->slots.push_back(std::move(slot));
     }

@@ -56,7 +56,8 @@ private:
 
     const ReleasePlan& _plan;
     TypeFit& _fit;
-    std::map<std::pair<const sdai::EntityDefinition*, const sdai::EntityDefinition*>, std::unique_ptr<EntityPlan>> _plans;
+    std::map<std::pair<const sdai::EntityDefinition*, const sdai::EntityDefinition*>, std::unique_ptr<EntityPlan>>
+        _plans;
 };
 
 } // namespace velkor::exchange

@@ -34,7 +34,8 @@ ReleaseNames::Entity ReleaseNames::entity(const sdai::EntityDefinition& source) 
     const ReleaseSchema& target = _releases.target;
     if (_document) {
         const std::string mapped = _document->entityName(source.name());
-        if (const auto* entity = mapped.empty() ? nullptr : concrete(target, mapped)) return {entity, &rules::entityMapped};
+        if (const auto* entity = mapped.empty() ? nullptr : concrete(target, mapped))
+            return {entity, &rules::entityMapped};
     }
     if (!_document || !_document->isDeprecated(source.name()))
         if (const auto* same = concrete(target, source.name())) return {same, nullptr};
@@ -61,7 +62,8 @@ ReleaseNames::Slot ReleaseNames::slot(const sdai::EntityDefinition& source, std:
             const std::string_view name = source.attributes()[i].attribute->name();
             const auto mapped = _document->property(source.name(), name);
             if (mapped && text::toUpper(mapped->second) == attribute)
-                return {static_cast<int>(i), mapped->second.empty() || name == attribute ? nullptr : &rules::attributeMapped};
+                return {static_cast<int>(i),
+                        mapped->second.empty() || name == attribute ? nullptr : &rules::attributeMapped};
         }
     }
     if (const int same = source.attributeIndex(attribute); same >= 0) return {same, nullptr};
@@ -71,7 +73,9 @@ ReleaseNames::Slot ReleaseNames::slot(const sdai::EntityDefinition& source, std:
 
 ReleaseNames::Slot ReleaseNames::renamedSlot(const sdai::EntityDefinition& source, std::string_view attribute) const {
     for (const AttributeRename& rename : attributeRenames) {
-        const char* name = rename.after == attribute ? rename.before : rename.before == attribute ? rename.after : nullptr;
+        const char* name = rename.after == attribute    ? rename.before
+                           : rename.before == attribute ? rename.after
+                                                        : nullptr;
         if (name == nullptr || !isKindOf(source, rename.entity)) continue;
         if (const int index = source.attributeIndex(name); index >= 0) return {index, &rules::attributeRenamed};
     }
@@ -81,7 +85,8 @@ ReleaseNames::Slot ReleaseNames::renamedSlot(const sdai::EntityDefinition& sourc
 std::string ReleaseNames::introduced(const sdai::EntityDefinition& target, std::string_view attribute) const {
     if (_document)
         for (const IntroducedValue& value : _document->introduced())
-            if (text::toUpper(value.property) == attribute && isKindOf(target, text::toUpper(value.entity))) return value.value;
+            if (text::toUpper(value.property) == attribute && isKindOf(target, text::toUpper(value.entity)))
+                return value.value;
     return {};
 }
 

@@ -10,15 +10,15 @@ using sdai::Part21File;
 namespace {
 
 bool isSame(const Outcome& a, const Outcome& b) {
-    return a.kind == b.kind && a.source == b.source && a.target == b.target && a.rule == b.rule && a.reason == b.reason &&
-           a.attribute == b.attribute;
+    return a.kind == b.kind && a.source == b.source && a.target == b.target && a.rule == b.rule &&
+           a.reason == b.reason && a.attribute == b.attribute;
 }
 
 /// What stands for itself, so that a supertype says a part of it and nothing wrong. A shape, a profile or a unit that
 /// says less is another one.
 bool mayBecomeSupertype(const EntityDefinition& entity) {
-    constexpr std::string_view never[] = {"IFCREPRESENTATIONITEM", "IFCPROFILEDEF", "IFCNAMEDUNIT", "IFCRELATIONSHIP",
-                                          "IFCOBJECTPLACEMENT", "IFCCOORDINATEOPERATION"};
+    constexpr std::string_view never[] = {"IFCREPRESENTATIONITEM", "IFCPROFILEDEF",      "IFCNAMEDUNIT",
+                                          "IFCRELATIONSHIP",       "IFCOBJECTPLACEMENT", "IFCCOORDINATEOPERATION"};
     return std::ranges::none_of(never, [&](std::string_view name) { return entity.isKindOf(name); });
 }
 
@@ -98,7 +98,8 @@ void ReleasePlan::decideByRules(std::uint16_t keyword) {
     }
 }
 
-std::optional<Outcome> ReleasePlan::byRule(const RebuildRule& rule, std::uint32_t number, const EntityDefinition& entity) {
+std::optional<Outcome> ReleasePlan::byRule(const RebuildRule& rule, std::uint32_t number,
+                                           const EntityDefinition& entity) {
     DXSdaiAppInstance& instance = *_model.instanceAt(number);
     const Successor successor = rule.becomes(_releases, instance);
     if (successor.kind == Successor::Kind::NotHere) return std::nullopt;
@@ -190,7 +191,8 @@ void Planning::decide(std::uint64_t id, Successor successor) {
     if (before.source == nullptr) return;
     _plan._decided[*number] = true;
     const bool isLost = successor.kind == Successor::Kind::Lost;
-    _plan.put(*number, {successor.kind, before.source, successor.entity, nullptr, isLost ? &rules::noEntity : before.reason});
+    _plan.put(*number,
+              {successor.kind, before.source, successor.entity, nullptr, isLost ? &rules::noEntity : before.reason});
 }
 
 void Planning::setLater(std::uint64_t id, std::string_view attribute, std::string encoded) {

@@ -18,15 +18,20 @@ bool isUnset(std::string_view value) {
     return value.empty() || value == sdai::omittedValue || value == sdai::derivedValue;
 }
 
+std::string words(std::string_view first, std::string_view between, std::string_view last) {
+    std::string text(first);
+    text += between;
+    return text += last.substr(0, 40);
+}
+
 std::string becomes(std::string_view before, std::string_view after) {
-    std::string words(before);
-    words += " becomes ";
-    return words += after;
+    return words(before, " becomes ", after);
 }
 
 } // namespace
 
-ReleaseRewriter::ReleaseRewriter(ReleasePlan& plan, ChangeList& changes, std::string timeStamp, const Progress& progress)
+ReleaseRewriter::ReleaseRewriter(ReleasePlan& plan, ChangeList& changes, std::string timeStamp,
+                                 const Progress& progress)
     : _plan(plan), _changes(changes), _timeStamp(std::move(timeStamp)), _progress(progress) {}
 
 bool ReleaseRewriter::wants(std::uint16_t keyword) const {
@@ -58,9 +63,8 @@ sdai::RecordRewriter::Outcome ReleaseRewriter::rewrite(const RecordView& record,
     }
     _output = &output;
     if (_outcome->kind == Successor::Kind::Lost) {
-        note(*_outcome->reason, [this] {
-            return _outcome->attribute.empty() ? std::string() : std::string(_outcome->attribute) + " has no value";
-        });
+        note(*_outcome->reason,
+             [this] { return words(_outcome->attribute, _outcome->attribute.empty() ? "" : " has no value", ""); });
         ++_counts.lost;
         return Outcome::Drop;
     }
@@ -69,7 +73,8 @@ sdai::RecordRewriter::Outcome ReleaseRewriter::rewrite(const RecordView& record,
     if (_outcome->rule != nullptr || _outcome->reason != nullptr) {
         const std::string_view now = _outcome->target != nullptr ? _outcome->target->name() : std::string_view();
         note(_outcome->rule != nullptr ? _outcome->rule->rule : *_outcome->reason, [&] {
-            return now.empty() || now == _outcome->source->name() ? std::string() : becomes(_outcome->source->name(), now);
+            return now.empty() || now == _outcome->source->name() ? std::string()
+                                                                  : becomes(_outcome->source->name(), now);
         });
     }
     ++(isRebuilt ? _counts.rebuilt : _hasNote ? _counts.converted : _counts.kept);
@@ -115,25 +120,29 @@ void ReleaseRewriter::takeValues(const EntityPlan& plan, std::vector<std::string
         }
         if (slot.renamed != nullptr && !isUnset(value))
             note(*slot.renamed, [&] {
-                return becomes(plan.source->attributes()[static_cast<std::size_t>(slot.source)].attribute->name(), _attribute);
+                return becomes(plan.source->attributes()[static_cast<std::size_t>(slot.source)].attribute->name(),
+                               _attribute);
             });
     }
 }
 
 bool ReleaseRewriter::takeValue(const EntityPlan& plan, const EntityPlan::Slot& slot, std::string& value) {
-    const std::string_view given = slot.source < 0 ? std::string_view() : _record.parameters[static_cast<std::size_t>(slot.source)];
+    const std::string_view given =
+        slot.source < 0 ? std::string_view() : _record.parameters[static_cast<std::size_t>(slot.source)];
     if (isUnset(given)) {
         if (!slot.introduced.empty()) {
             if (auto introduced = _values.encoded(slot.introduced, slot.attribute->type())) {
-                note(rules::valueIntroduced, [&] { return std::string(_attribute) + " = " + slot.introduced; });
+                note(rules::valueIntroduced, [&] { return words(_attribute, " = ", slot.introduced); });
                 value = std::move(*introduced);
                 return true;
             }
         }
         if (!slot.isRequired || takeDefault(*plan.target, slot, value)) return slot.isRequired;
         // What was missing before is missing still.
-        const bool wasWrong = !given.empty() && !plan.source->attributes()[static_cast<std::size_t>(slot.source)].attribute->isOptional() &&
-                              given == sdai::omittedValue;
+        const bool wasWrong =
+            !given.empty() &&
+            !plan.source->attributes()[static_cast<std::size_t>(slot.source)].attribute->isOptional() &&
+            given == sdai::omittedValue;
         if (!wasWrong) _missing = {&rules::requiredMissing, _attribute};
         return false;
     }
@@ -157,7 +166,7 @@ bool ReleaseRewriter::takeValue(const EntityPlan& plan, const EntityPlan::Slot& 
 
 void ReleaseRewriter::noteLoss(const EntityPlan::Slot& slot, std::string_view value) {
     if (slot.from->resolved().isSimple() || slot.from->resolved().asEnumeration() != nullptr)
-        return note(rules::noValue, [&] { return std::string(_attribute) + ' ' + std::string(value.substr(0, 40)); });
+        return note(rules::noValue, [&] { return words(_attribute, " ", value); });
     const bool isShape = _attribute == "REPRESENTATION" && _outcome->source->isKindOf("IFCPRODUCT");
     note(isShape || _attribute == "REPRESENTATIONMAPS" ? rules::shapeLost : rules::referenceLost, [&] {
         if (!isShape) return std::string(_attribute);
@@ -168,10 +177,11 @@ void ReleaseRewriter::noteLoss(const EntityPlan::Slot& slot, std::string_view va
 
 bool ReleaseRewriter::takeDefault(const EntityDefinition& entity, const EntityPlan::Slot& slot, std::string& value) {
     for (const DefaultRule* rule : _plan.book().defaults(entity, slot.attribute->name())) {
-        std::optional<std::string> made = rule->encoded != nullptr ? std::optional<std::string>(rule->encoded) : rule->make(*this);
+        std::optional<std::string> made =
+            rule->encoded != nullptr ? std::optional<std::string>(rule->encoded) : rule->make(*this);
         if (!made) continue;
         value = std::move(*made);
-        note(rule->rule, [&] { return std::string(slot.attribute->name()) + " = " + value.substr(0, 40); });
+        note(rule->rule, [&] { return words(slot.attribute->name(), " = ", value); });
         return true;
     }
     return false;
@@ -184,7 +194,8 @@ void ReleaseRewriter::keepTexts(const EntityPlan& plan, std::vector<std::string>
     std::string* place = plan.userText < 0 ? nullptr : &values[static_cast<std::size_t>(plan.userText)];
     const bool isFree = place != nullptr && isUnset(*place);
     if (!enumerator.empty()) {
-        const bool isPredefined = plan.predefinedType >= 0 && values[static_cast<std::size_t>(plan.predefinedType)] == ".USERDEFINED.";
+        const bool isPredefined =
+            plan.predefinedType >= 0 && values[static_cast<std::size_t>(plan.predefinedType)] == ".USERDEFINED.";
         if (isPredefined && isFree) {
             *place = literal(enumerator);
             note(rules::enumeratorAsText, [&] { return enumerator; });
@@ -211,11 +222,8 @@ void ReleaseRewriter::takeLater(const EntityPlan& plan, std::vector<std::string>
 void ReleaseRewriter::noteDropped(const EntityPlan& plan) {
     for (const std::size_t place : plan.dropped) {
         if (isUnset(_record.parameters[place])) continue;
-        note(rules::noAttribute, [&] {
-            std::string words(plan.source->attributes()[place].attribute->name());
-            words += ' ';
-            return words += _record.parameters[place].substr(0, 40);
-        });
+        note(rules::noAttribute,
+             [&] { return words(plan.source->attributes()[place].attribute->name(), " ", _record.parameters[place]); });
     }
 }
 
@@ -224,7 +232,8 @@ std::string_view ReleaseRewriter::encoded(std::string_view attribute) const {
     return index < 0 ? sdai::omittedValue : _record.parameters[static_cast<std::size_t>(index)];
 }
 
-std::optional<std::string> ReleaseRewriter::translated(std::string_view encoded, const sdai::Type& from, const sdai::Type& to) {
+std::optional<std::string> ReleaseRewriter::translated(std::string_view encoded, const sdai::Type& from,
+                                                       const sdai::Type& to) {
     std::string text;
     if (isUnset(encoded) || !_values.translate(encoded, from, to, text)) return std::nullopt;
     return text;

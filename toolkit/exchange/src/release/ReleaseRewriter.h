@@ -54,7 +54,8 @@ private:
     const sdai::EntityDefinition& entity() const override { return *_outcome->source; }
     DXSdaiAppInstance& instance() const override { return *_plan.model().instanceAt(_record.number); }
     std::string_view encoded(std::string_view attribute) const override;
-    std::optional<std::string> translated(std::string_view encoded, const sdai::Type& from, const sdai::Type& to) override;
+    std::optional<std::string> translated(std::string_view encoded, const sdai::Type& from,
+                                          const sdai::Type& to) override;
     RecordBuilder carried(const sdai::EntityDefinition& entity) override;
     const sdai::EntityDefinition* successorOf(std::uint64_t id) const override;
     std::uint64_t reserved(std::uint64_t id) const override { return _plan.reserved(id); }
@@ -73,8 +74,8 @@ private:
     void makeRecord();
     bool isUnchanged() const;
     bool canStand(std::uint32_t number);
-    std::vector<std::uint32_t> dropRisky();
-    void dropUsers(std::vector<std::uint32_t> lost);
+    void dropRisky();
+    void dropUsers(std::vector<std::uint32_t> gone);
     void dropLeftOvers();
     void takeValues(const EntityPlan& plan, std::vector<std::string>& values);
     void takeLater(const EntityPlan& plan, std::vector<std::string>& values);
@@ -94,6 +95,7 @@ private:
     bool _isEnded = false;
 
     // The instance at work.
+    sdai::RecordReader _reader;
     sdai::RecordView _record;
     const exchange::Outcome* _outcome = nullptr;
     sdai::RecordOutput* _output = nullptr;

@@ -9,7 +9,8 @@ using enum Effect;
 const ConversionRule entityMapped{
     "entity-mapped", Converted, "An entity is called what the version mapping document calls it in the target release",
     "The document of the set-up answers before the dictionaries do"};
-const ConversionRule entityRenamed{"entity-renamed", Converted, "An entity takes the name that it has in the target release",
+const ConversionRule entityRenamed{"entity-renamed", Converted,
+                                   "An entity takes the name that it has in the target release",
                                    "The change logs of the releases name the one as successor of the other"};
 const ConversionRule supertype{
     "supertype", Converted,
@@ -19,13 +20,15 @@ const ConversionRule supertype{
 const ConversionRule attributeMapped{"attribute-mapped", Converted,
                                      "An attribute is called what the version mapping document calls it",
                                      "The document of the set-up answers before the dictionaries do"};
-const ConversionRule attributeRenamed{"attribute-renamed", Converted, "An attribute takes the name that it has in the target",
+const ConversionRule attributeRenamed{"attribute-renamed", Converted,
+                                      "An attribute takes the name that it has in the target",
                                       "The change logs of the releases name the one as successor of the other"};
-const ConversionRule valueIntroduced{"value-introduced", Converted,
-                                     "An attribute that the target introduces has the value of the version mapping document",
-                                     "The document of the set-up says with which value the attribute begins"};
-const ConversionRule enumeratorRenamed{"enumerator-renamed", Converted, "An enumerator takes the name that it has in the target",
-                                       "Both mean the same"};
+const ConversionRule valueIntroduced{
+    "value-introduced", Converted,
+    "An attribute that the target introduces has the value of the version mapping document",
+    "The document of the set-up says with which value the attribute begins"};
+const ConversionRule enumeratorRenamed{"enumerator-renamed", Converted,
+                                       "An enumerator takes the name that it has in the target", "Both mean the same"};
 const ConversionRule enumeratorAsText{
     "enumerator-as-text", Converted,
     "A predefined type that the target lacks becomes USERDEFINED, with the old one in ObjectType or ElementType",
@@ -38,37 +41,40 @@ const ConversionRule numberForm{"number-form", Converted, "An integer becomes a 
 const ConversionRule oneOfSeveral{"one-of-several", Converted,
                                   "A single value stands as the only member of an aggregate, or the other way round",
                                   "The attribute takes one value in one release and several in the other"};
-const ConversionRule viewDefinitions{"view-definition", Converted,
-                                     "Model views that are not defined for the target release leave the header",
-                                     "A model view is a subset of one release and promises what holds for that alone"};
 const ConversionRule noEntity{"no-entity", Lost, "An instance is dropped whose entity the target lacks",
                               "No entity of the target says the same, nor a part of it that would be right"};
 const ConversionRule noUse{"left-over", Lost, "What only dropped instances used goes with them",
                            "It says nothing on its own"};
-const ConversionRule noAttribute{"no-attribute", Lost, "The value of an attribute is dropped that the target's entity lacks",
+const ConversionRule noAttribute{"no-attribute", Lost,
+                                 "The value of an attribute is dropped that the target's entity lacks",
                                  "There is no place for it"};
-const ConversionRule noEnumerator{"no-enumerator", Lost, "An enumerator that the target lacks becomes NOTDEFINED, or unset",
+const ConversionRule noEnumerator{"no-enumerator", Lost,
+                                  "An enumerator that the target lacks becomes NOTDEFINED, or unset",
                                   "The target has no name for it, and no text that could keep the old one"};
 const ConversionRule noValue{"no-value", Lost, "A value is dropped that the target's type cannot say",
                              "No type that may stand there has such values"};
 const ConversionRule textShortened{"text-shortened", Lost, "A text is cut to the length that the target allows",
                                    "Longer ones are not valid there"};
-const ConversionRule referenceLost{"reference-lost", Lost, "A reference to what is dropped, or cannot stand there, is unset",
+const ConversionRule referenceLost{"reference-lost", Lost,
+                                   "A reference to what is dropped, or cannot stand there, is unset",
                                    "The attribute is optional"};
 const ConversionRule memberLost{"member-lost", Lost, "What is dropped, or cannot stand there, leaves an aggregate",
                                 "The others stay"};
-const ConversionRule requiredLost{"required-lost", Lost, "An instance is dropped with something that it cannot live without",
-                                  "A required attribute would refer to what is dropped, or an aggregate have too few members"};
-const ConversionRule requiredMissing{"required-missing", Lost, "An instance is dropped that has no value for a required attribute",
+const ConversionRule requiredLost{
+    "required-lost", Lost, "An instance is dropped with something that it cannot live without",
+    "A required attribute would refer to what is dropped, or an aggregate have too few members"};
+const ConversionRule requiredMissing{"required-missing", Lost,
+                                     "An instance is dropped that has no value for a required attribute",
                                      "The target wants it, and no rule knows one"};
 const ConversionRule shapeLost{"shape-lost", Lost, "A product has no shape any more",
                                "The target cannot say its geometry in any form, or not exactly"};
 
-constexpr const ConversionRule* general[] = {
-    &entityMapped,  &entityRenamed,     &supertype,        &attributeMapped, &attributeRenamed, &valueIntroduced,
-    &enumeratorRenamed, &enumeratorAsText, &selectType,    &numberForm,      &oneOfSeveral,     &viewDefinitions,
-    &shapeLost,     &noEntity,          &noUse,            &noAttribute,     &noEnumerator,     &noValue,
-    &textShortened, &referenceLost,     &memberLost,       &requiredLost,    &requiredMissing};
+constexpr const ConversionRule* general[] = {&entityMapped,     &entityRenamed,   &supertype,         &attributeMapped,
+                                             &attributeRenamed, &valueIntroduced, &enumeratorRenamed, &enumeratorAsText,
+                                             &selectType,       &numberForm,      &oneOfSeveral,      &shapeLost,
+                                             &noEntity,         &noUse,           &noAttribute,       &noEnumerator,
+                                             &noValue,          &textShortened,   &referenceLost,     &memberLost,
+                                             &requiredLost,     &requiredMissing};
 
 } // namespace rules
 
@@ -86,13 +92,15 @@ const std::vector<const RebuildRule*>& RuleBook::rebuilds(const sdai::EntityDefi
     if (isNew) {
         for (const sdai::EntityDefinition* at = &entity; at != nullptr; at = at->supertype()) {
             const auto own = _byEntity.find(at->name());
-            if (own != _byEntity.end()) found->second.insert(found->second.end(), own->second.begin(), own->second.end());
+            if (own != _byEntity.end())
+                found->second.insert(found->second.end(), own->second.begin(), own->second.end());
         }
     }
     return found->second;
 }
 
-std::vector<const DefaultRule*> RuleBook::defaults(const sdai::EntityDefinition& entity, std::string_view attribute) const {
+std::vector<const DefaultRule*> RuleBook::defaults(const sdai::EntityDefinition& entity,
+                                                   std::string_view attribute) const {
     std::vector<const DefaultRule*> result;
     for (const sdai::EntityDefinition* at = &entity; at != nullptr; at = at->supertype())
         for (const RuleTable& table : _tables)
@@ -104,7 +112,8 @@ std::vector<const DefaultRule*> RuleBook::defaults(const sdai::EntityDefinition&
 const EnumeratorRule* RuleBook::enumerator(const sdai::EnumerationType& to, std::string_view before) const {
     for (const RuleTable& table : _tables)
         for (const EnumeratorRule& rule : table.enumerators)
-            if (rule.type == to.definedType().name() && rule.before == before && to.position(rule.after) >= 0) return &rule;
+            if (rule.type == to.definedType().name() && rule.before == before && to.position(rule.after) >= 0)
+                return &rule;
     return nullptr;
 }
 

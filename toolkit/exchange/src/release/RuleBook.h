@@ -53,7 +53,6 @@ extern const ConversionRule enumeratorAsText;
 extern const ConversionRule selectType;
 extern const ConversionRule numberForm;
 extern const ConversionRule oneOfSeveral;
-extern const ConversionRule viewDefinitions;
 extern const ConversionRule noEntity;
 extern const ConversionRule noUse;
 extern const ConversionRule noAttribute;

@@ -29,7 +29,8 @@ bool TypeFit::findRaw(const Type& fromType, const Type& toType) {
         const auto* wanted = to.asAggregate();
         const auto isWithin = [](int upper, int limit) { return limit < 0 || (upper >= 0 && upper <= limit); };
         return wanted != nullptr && wanted->lowerBound() <= aggregate->lowerBound() &&
-               isWithin(aggregate->upperBound(), wanted->upperBound()) && isRaw(aggregate->element(), wanted->element());
+               isWithin(aggregate->upperBound(), wanted->upperBound()) &&
+               isRaw(aggregate->element(), wanted->element());
     }
     if (const auto* enumeration = from.asEnumeration()) {
         const auto* wanted = to.asEnumeration();

@@ -68,11 +68,16 @@ bool ValueTranslator::translate(std::string_view value, const Type& from, const 
     const std::size_t before = text.size();
     const bool isDone = [&] {
         switch (Part21Lexer(value).next().kind) {
-        case TokenKind::InstanceName: return reference(value, from, to, text);
-        case TokenKind::Keyword: return typedValue(value, from, to, text);
-        case TokenKind::Open: return aggregate(value, from, to, text);
-        case TokenKind::Enumeration: return enumeration(value, from, to, text);
-        default: return simple(value, from, to, text);
+        case TokenKind::InstanceName:
+            return reference(value, from, to, text);
+        case TokenKind::Keyword:
+            return typedValue(value, from, to, text);
+        case TokenKind::Open:
+            return aggregate(value, from, to, text);
+        case TokenKind::Enumeration:
+            return enumeration(value, from, to, text);
+        default:
+            return simple(value, from, to, text);
         }
     }();
     if (!isDone) text.resize(before);
@@ -122,12 +127,13 @@ const sdai::DefinedType* ValueTranslator::choice(const sdai::SelectType& select,
     const auto& target = _plan.releases().target.definition();
     // Its own name, then those of the types that it is made of: IFCPOSITIVELENGTHMEASURE, IFCLENGTHMEASURE.
     for (const Type* at = &type; at->asDefined() != nullptr; at = &at->asDefined()->underlying())
-        if (const auto* same = target.definedType(at->asDefined()->name()); same != nullptr && select.accepts(*same)) return same;
+        if (const auto* same = target.definedType(at->asDefined()->name()); same != nullptr && select.accepts(*same))
+            return same;
     constexpr std::pair<TypeKind, std::string_view> plain[] = {
-        {TypeKind::String, "IFCLABEL"},     {TypeKind::String, "IFCTEXT"},       {TypeKind::String, "IFCIDENTIFIER"},
-        {TypeKind::Real, "IFCREAL"},        {TypeKind::Real, "IFCNUMERICMEASURE"}, {TypeKind::Integer, "IFCINTEGER"},
-        {TypeKind::Integer, "IFCREAL"},     {TypeKind::Boolean, "IFCBOOLEAN"},   {TypeKind::Boolean, "IFCLOGICAL"},
-        {TypeKind::Logical, "IFCLOGICAL"},  {TypeKind::Enumeration, "IFCLABEL"}, {TypeKind::Real, "IFCRATIOMEASURE"}};
+        {TypeKind::String, "IFCLABEL"},    {TypeKind::String, "IFCTEXT"},         {TypeKind::String, "IFCIDENTIFIER"},
+        {TypeKind::Real, "IFCREAL"},       {TypeKind::Real, "IFCNUMERICMEASURE"}, {TypeKind::Integer, "IFCINTEGER"},
+        {TypeKind::Integer, "IFCREAL"},    {TypeKind::Boolean, "IFCBOOLEAN"},     {TypeKind::Boolean, "IFCLOGICAL"},
+        {TypeKind::Logical, "IFCLOGICAL"}, {TypeKind::Enumeration, "IFCLABEL"},   {TypeKind::Real, "IFCRATIOMEASURE"}};
     for (const auto& [kind, name] : plain) {
         if (kind != type.resolved().kind()) continue;
         if (const auto* other = target.definedType(name); other != nullptr && select.accepts(*other)) return other;
@@ -135,11 +141,13 @@ const sdai::DefinedType* ValueTranslator::choice(const sdai::SelectType& select,
     return nullptr;
 }
 
-bool ValueTranslator::chosen(std::string_view value, const Type& from, const sdai::SelectType& select, std::string& text) {
+bool ValueTranslator::chosen(std::string_view value, const Type& from, const sdai::SelectType& select,
+                             std::string& text) {
     const sdai::DefinedType* type = choice(select, from);
     if (type == nullptr) return false;
     (text += type->name()) += '(';
-    if (!translate(value, from.asDefined() != nullptr ? from.asDefined()->underlying() : from, type->underlying(), text))
+    if (!translate(value, from.asDefined() != nullptr ? from.asDefined()->underlying() : from, type->underlying(),
+                   text))
         return false;
     text += ')';
     return true;
@@ -241,7 +249,8 @@ bool ValueTranslator::members(std::string_view value, const sdai::AggregateType&
     if (!lost.empty() && isNested) return false;
     const int count = static_cast<int>(parts.size());
     if (kept < to.lowerBound() && (kept < count || count >= from.lowerBound())) return false;
-    if (to.upperBound() >= 0 && kept > to.upperBound() && (from.upperBound() < 0 || count <= from.upperBound())) return false;
+    if (to.upperBound() >= 0 && kept > to.upperBound() && (from.upperBound() < 0 || count <= from.upperBound()))
+        return false;
     for (const std::string_view part : lost) _notes.note(rules::memberLost, [&] { return dropped(part); });
     return true;
 }
@@ -253,7 +262,8 @@ bool ValueTranslator::simple(std::string_view value, const Type& from, const Typ
         return true;
     }
     const Type& wanted = to.resolved();
-    if (const auto* plain = wanted.asSimple()) return asSimple(value, *type, *plain, text) || adapted(value, from, to, text);
+    if (const auto* plain = wanted.asSimple())
+        return asSimple(value, *type, *plain, text) || adapted(value, from, to, text);
     if (adapted(value, from, to, text)) return true;
     if (const auto* select = wanted.asSelect()) return chosen(value, from, *select, text);
     if (const auto* list = wanted.asEnumeration(); list != nullptr && type->kind() == TypeKind::String) {
@@ -327,7 +337,9 @@ std::optional<std::string> ValueTranslator::encoded(std::string_view plain, cons
     if (const auto* list = type.asEnumeration())
         return list->position(plain) >= 0 && sdai::appendEnumeration(text, plain) ? std::optional(text) : std::nullopt;
     switch (type.kind()) {
-    case TypeKind::String: sdai::appendString(text, plain); return text;
+    case TypeKind::String:
+        sdai::appendString(text, plain);
+        return text;
     case TypeKind::Integer:
     case TypeKind::Real:
         if (!sdai::decodeReal(plain, real)) return std::nullopt;
@@ -342,7 +354,8 @@ std::optional<std::string> ValueTranslator::encoded(std::string_view plain, cons
         if (!isTrue && word != "F" && word != "FALSE") return std::nullopt;
         return isTrue ? ".T." : ".F.";
     }
-    default: return std::nullopt;
+    default:
+        return std::nullopt;
     }
 }
 

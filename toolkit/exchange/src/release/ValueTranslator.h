@@ -41,7 +41,8 @@ private:
     bool typedValue(std::string_view value, const sdai::Type& from, const sdai::Type& to, std::string& text);
     bool enumeration(std::string_view value, const sdai::Type& from, const sdai::Type& to, std::string& text);
     bool aggregate(std::string_view value, const sdai::Type& from, const sdai::Type& to, std::string& text);
-    bool members(std::string_view value, const sdai::AggregateType& from, const sdai::AggregateType& to, std::string& text);
+    bool members(std::string_view value, const sdai::AggregateType& from, const sdai::AggregateType& to,
+                 std::string& text);
     bool simple(std::string_view value, const sdai::Type& from, const sdai::Type& to, std::string& text);
     bool asSimple(std::string_view value, const sdai::SimpleType& from, const sdai::SimpleType& to, std::string& text);
     bool number(std::string_view value, const sdai::SimpleType& to, std::string& text);

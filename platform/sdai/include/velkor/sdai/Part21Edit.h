@@ -19,6 +19,7 @@
 #include <string>
 #include <string_view>
 #include <tl/expected.hpp>
+#include <vector>
 
 namespace velkor::sdai {
 
@@ -29,6 +30,21 @@ struct RecordView {
     std::string_view keyword;
     /// As they stand in the file, white space and comments around them left out.
     std::span<const std::string_view> parameters;
+};
+
+/// Takes records apart.
+class VELKOR_PLATFORM_API RecordReader {
+public:
+    /// The record of an instance as its file has it; null for a complex instance and a damaged statement. Valid until
+    /// the next call.
+    const RecordView* read(const Part21File& file, std::uint32_t number);
+    /// Bytes of the record that was read, white space before it included.
+    std::size_t length() const noexcept { return _length; }
+
+private:
+    RecordView _view;
+    std::vector<std::string_view> _parameters;
+    std::size_t _length = 0;
 };
 
 /// Where a rewriter puts what stands in place of a record.

@@ -31,7 +31,7 @@ public:
     VELKOR_TOOLKIT_API bool isDeprecated(std::string_view entity) const;
     /// What a property of an entity is in the target: entity (that asked for when none is named) and property.
     VELKOR_TOOLKIT_API std::optional<std::pair<std::string, std::string>> property(std::string_view entity,
-                                                                                  std::string_view property) const;
+                                                                                   std::string_view property) const;
     const std::vector<IntroducedValue>& introduced() const noexcept { return _introduced; }
 
 private:
