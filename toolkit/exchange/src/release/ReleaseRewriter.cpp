@@ -114,9 +114,10 @@ void ReleaseRewriter::takeValues(const EntityPlan& plan, std::vector<std::string
         std::string& value = values.emplace_back();
         _attribute = slot.attribute->name();
         if (slot.isDerived) {
-            value = sdai::derivedValue;
+            value += sdai::derivedValue;
         } else if (!takeValue(plan, slot, value)) {
-            value = sdai::omittedValue;
+            value.clear();
+            value += sdai::omittedValue;
         }
         if (slot.renamed != nullptr && !isUnset(value))
             note(*slot.renamed, [&] {

@@ -54,10 +54,6 @@ std::vector<std::string_view> membersOf(std::string_view value) {
     return members;
 }
 
-std::string typeName(const Type& type) {
-    return type.expressText();
-}
-
 } // namespace
 
 bool ValueTranslator::translate(std::string_view value, const Type& from, const Type& to, std::string& text) {
