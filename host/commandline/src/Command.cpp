@@ -37,6 +37,11 @@ const Option& Option::someOf(const std::vector<std::string_view>& words) const {
     return *this;
 }
 
+const Option& Option::oneWord() const {
+    _option->allow_extra_args(false);
+    return *this;
+}
+
 const Option& Option::needs(const Option& other) const {
     _option->needs(other._option);
     return *this;

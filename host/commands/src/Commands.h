@@ -17,5 +17,8 @@ void addResourcesCommand(const Command& app, CommandContext& context);
 void addResourcesCheckCommand(const Command& resources, CommandContext& context);
 void addMapCommand(const Command& app, CommandContext& context);
 void addClassifyCommand(const Command& app, CommandContext& context);
+void addConvertCommand(const Command& app, CommandContext& context);
+/// "--guids from-plm ATTRIBUTE" of `convert` as one word that the parser takes; anything else stays as it is.
+std::vector<std::string> withJoinedGuidWords(std::vector<std::string> words);
 
 } // namespace velkor::host

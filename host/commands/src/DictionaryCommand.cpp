@@ -4,6 +4,7 @@
 #include "output/DictionaryDiffText.h"
 #include "output/Json.h"
 #include "output/RuleText.h"
+#include "ReleaseName.h"
 #include "terminal/DisplayText.h"
 #include "terminal/TextTable.h"
 #include "velkor/dictionaries/DictionaryDiff.h"
@@ -24,20 +25,11 @@ using sdai::EntityDefinition;
 using sdai::SchemaCounts;
 using SchemaPointer = DXSdaiDictionaryRepo::SchemaPointer;
 
-constexpr const char* releaseHelp =
-    "Schema name; a name as files write it (IFC2X3_TC1) or a short form (2x3, 4, 4x3) is matched";
-
 /// The schema that a user means. Null after saying why there is none and setting the status.
 SchemaPointer chooseSchema(CommandContext& context, const std::string& release) {
-    auto& repository = DXSdaiDictionaryRepo::TheOne();
-    const std::string name = releaseMeant(release);
-    if (name.empty()) {
-        context.err << "velkor: unknown release " << text::quoted(release)
-                    << "; supported: " << text::joined(repository.names()) << '\n';
-        context.status = BadUsage;
-        return nullptr;
-    }
-    auto schema = repository.schema(name);
+    const std::string name = releaseNamed(context, release);
+    if (name.empty()) return nullptr;
+    auto schema = DXSdaiDictionaryRepo::TheOne().schema(name);
     if (schema) return *schema;
     context.reportUnreadable(schema.error().message);
     return nullptr;

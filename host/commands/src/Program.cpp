@@ -20,6 +20,7 @@ void addCommands(const Command& program, CommandContext& context) {
     addUnitsCommand(program, context);
     addDictionaryCommand(program, context);
     addMapCommand(program, context);
+    addConvertCommand(program, context);
     addOptionsCommand(program, context);
     addResourcesCommand(program, context);
 }
@@ -29,7 +30,7 @@ void addCommands(const Command& program, CommandContext& context) {
 int run(std::vector<std::string> words, CommandContext& context) {
     try {
         context.words = words;
-        const auto status = parse(std::move(words), context.out, context.err,
+        const auto status = parse(withJoinedGuidWords(std::move(words)), context.out, context.err,
                                   [&](const Command& program) { addCommands(program, context); });
         if (status) return *status;
     } catch (const std::bad_alloc&) {

@@ -32,6 +32,8 @@ public:
     const Option& oneOf(const std::vector<std::string>& words) const;
     /// Values are separated by commas, and each is one of `words`. May be given several times.
     const Option& someOf(const std::vector<std::string_view>& words) const;
+    /// Takes one value each time that it is given; may be given several times.
+    const Option& oneWord() const;
     /// It cannot be given without the other.
     const Option& needs(const Option& other) const;
     /// The two cannot be given together.

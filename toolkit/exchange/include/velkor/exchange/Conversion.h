@@ -101,6 +101,9 @@ struct ConversionOptions : StepOptions {
     std::optional<UnitOptions> units;
     std::optional<IdentifierOptions> identifiers;
     std::optional<PropertyOptions> properties;
+    /// What stands between two steps is put on the disk of this path; in the system's temporary folder when it is
+    /// empty.
+    std::string scratchBeside = {};
 };
 
 struct FullReport : ConversionReport {
@@ -108,7 +111,8 @@ struct FullReport : ConversionReport {
 };
 
 /// All steps one after the other; what stands between two of them lies in a file without a name. Limit and progress of
-/// the whole hold for every step.
+/// the whole hold for every step. Places are those of the model: what a later step changes in an instance that an
+/// earlier one has added is told without a line. Without a step it is a copy, byte for byte.
 VELKOR_TOOLKIT_API Converted<FullReport> convertModel(const sdai::Model& model, const ConversionOptions& options,
                                                       files::OutputFile& output);
 

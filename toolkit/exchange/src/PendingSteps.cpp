@@ -1,0 +1,18 @@
+// Steps that are still to come say so.
+
+#include "velkor/exchange/Conversion.h"
+
+namespace velkor {
+
+[[gnu::weak]] Converted<StepReport> convertUnits(const sdai::Model&, const UnitOptions&, files::OutputFile&) {
+    return tl::unexpected(std::string("other units are not written yet"));
+}
+[[gnu::weak]] Converted<IdentifierReport> convertIdentifiers(const sdai::Model&, const IdentifierOptions&,
+                                                             files::OutputFile&) {
+    return tl::unexpected(std::string("other identifiers are not written yet"));
+}
+[[gnu::weak]] Converted<StepReport> convertProperties(const sdai::Model&, const PropertyOptions&, files::OutputFile&) {
+    return tl::unexpected(std::string("other properties are not written yet"));
+}
+
+} // namespace velkor
