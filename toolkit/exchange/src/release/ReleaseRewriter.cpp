@@ -110,6 +110,7 @@ void ReleaseRewriter::makeRecord() {
 
 void ReleaseRewriter::takeValues(const EntityPlan& plan, std::vector<std::string>& values) {
     values.reserve(plan.slots.size());
+    _userDefined.clear();
     for (const EntityPlan::Slot& slot : plan.slots) {
         std::string& value = values.emplace_back();
         _attribute = slot.attribute->name();
@@ -119,6 +120,8 @@ void ReleaseRewriter::takeValues(const EntityPlan& plan, std::vector<std::string
             value.clear();
             value += sdai::omittedValue;
         }
+        if (std::string enumerator = _values.takeUserDefined(); !enumerator.empty())
+            _userDefined.emplace_back(values.size() - 1, std::move(enumerator));
         if (slot.renamed != nullptr && !isUnset(value))
             note(*slot.renamed, [&] {
                 return becomes(plan.source->attributes()[static_cast<std::size_t>(slot.source)].attribute->name(),
@@ -188,25 +191,31 @@ bool ReleaseRewriter::takeDefault(const EntityDefinition& entity, const EntityPl
     return false;
 }
 
+/// Place of a text for what USERDEFINED stands for in an attribute: ObjectType and its like for the predefined type, for
+/// others the attribute that begins with that word. Null when there is none that is free.
+std::string* ReleaseRewriter::userText(const EntityPlan& plan, std::size_t slot, std::vector<std::string>& values) const {
+    int place = static_cast<int>(slot) == plan.predefinedType ? plan.userText : -1;
+    for (std::size_t i = 0; i < plan.slots.size() && static_cast<int>(slot) != plan.predefinedType; ++i)
+        if (plan.slots[i].attribute->name().starts_with("USERDEFINED")) place = static_cast<int>(i);
+    std::string* text = place < 0 ? nullptr : &values[static_cast<std::size_t>(place)];
+    return text != nullptr && isUnset(*text) ? text : nullptr;
+}
+
 void ReleaseRewriter::keepTexts(const EntityPlan& plan, std::vector<std::string>& values) {
-    const std::string enumerator = _values.takeUserDefined();
-    const bool isSupertype = _outcome->reason == &rules::supertype;
-    if (enumerator.empty() && !isSupertype) return;
-    std::string* place = plan.userText < 0 ? nullptr : &values[static_cast<std::size_t>(plan.userText)];
-    const bool isFree = place != nullptr && isUnset(*place);
-    if (!enumerator.empty()) {
-        const bool isPredefined =
-            plan.predefinedType >= 0 && values[static_cast<std::size_t>(plan.predefinedType)] == ".USERDEFINED.";
-        if (isPredefined && isFree) {
-            *place = literal(enumerator);
+    for (const auto& [slot, enumerator] : _userDefined) {
+        if (std::string* text = userText(plan, slot, values)) {
+            *text = literal(enumerator);
             note(rules::enumeratorAsText, [&] { return enumerator; });
-            return;
+            continue;
         }
         note(rules::noEnumerator, [&] { return enumerator; });
-        for (std::string& value : values)
-            if (!isPredefined && value == ".USERDEFINED.") value = ".NOTDEFINED.";
+        const auto* type = plan.slots[slot].attribute->type().resolved().asEnumeration();
+        if (type != nullptr && type->position("NOTDEFINED") >= 0) values[slot] = exchange::enumerator("NOTDEFINED");
     }
-    if (isSupertype && isFree) *place = literal(_outcome->source->name());
+    _userDefined.clear();
+    if (_outcome->reason != &rules::supertype || plan.userText < 0) return;
+    std::string& text = values[static_cast<std::size_t>(plan.userText)];
+    if (isUnset(text)) text = literal(_outcome->source->name());
 }
 
 void ReleaseRewriter::takeLater(const EntityPlan& plan, std::vector<std::string>& values) {

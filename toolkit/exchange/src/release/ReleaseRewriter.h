@@ -81,6 +81,7 @@ private:
     void takeLater(const EntityPlan& plan, std::vector<std::string>& values);
     bool takeValue(const EntityPlan& plan, const EntityPlan::Slot& slot, std::string& value);
     bool takeDefault(const sdai::EntityDefinition& entity, const EntityPlan::Slot& slot, std::string& value);
+    std::string* userText(const EntityPlan& plan, std::size_t slot, std::vector<std::string>& values) const;
     void keepTexts(const EntityPlan& plan, std::vector<std::string>& values);
     void noteDropped(const EntityPlan& plan);
     void noteLoss(const EntityPlan::Slot& slot, std::string_view value);
@@ -103,6 +104,8 @@ private:
     bool _isDry = false;
     bool _hasNote = false;
     std::string_view _attribute;
+    // Slots with USERDEFINED, and what that stands for.
+    std::vector<std::pair<std::size_t, std::string>> _userDefined;
     std::string _become;
     Missing _missing;
     std::unordered_map<std::string, std::uint64_t> _shared;

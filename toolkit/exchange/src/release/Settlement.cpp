@@ -43,6 +43,11 @@ private:
     std::unordered_map<std::uint32_t, unsigned> _looks;
 };
 
+/// What means something without any user.
+bool standsAlone(const sdai::EntityDefinition& entity) {
+    return entity.isKindOf("IFCROOT") || entity.isKindOf("IFCREPRESENTATIONCONTEXT");
+}
+
 /// The instances that a record refers to, each once.
 std::vector<std::uint32_t> references(const sdai::Part21File& file, const sdai::RecordView& record) {
     std::vector<std::uint32_t> numbers;
@@ -132,7 +137,7 @@ void ReleaseRewriter::dropLeftOvers() {
         if (record == nullptr) continue;
         for (const std::uint32_t used : references(file, *record)) {
             const exchange::Outcome& outcome = _plan.outcome(used);
-            if (outcome.isGone() || outcome.source == nullptr || outcome.source->isKindOf("IFCROOT")) continue;
+            if (outcome.isGone() || outcome.source == nullptr || standsAlone(*outcome.source)) continue;
             if (++lostUsers[used] < _plan.index().users(used).size()) continue;
             _plan.lose(used, rules::noUse, {});
             lost.push_back(used);
