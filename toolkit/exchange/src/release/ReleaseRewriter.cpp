@@ -39,7 +39,7 @@ bool ReleaseRewriter::wants(std::uint16_t keyword) const {
     if (common == nullptr || _plan.hasLater(keyword)) return true;
     if (common->kind == Successor::Kind::NotHere) return false;
     if (common->isGone() || common->rule != nullptr || common->reason != nullptr) return true;
-    return !const_cast<EntityPlans&>(_plans).plan(*common->source, *common->target).isIdentity;
+    return !_plans.plan(*common->source, *common->target).isIdentity;
 }
 
 bool ReleaseRewriter::begin(const RecordView& record) {
@@ -191,9 +191,10 @@ bool ReleaseRewriter::takeDefault(const EntityDefinition& entity, const EntityPl
     return false;
 }
 
-/// Place of a text for what USERDEFINED stands for in an attribute: ObjectType and its like for the predefined type, for
-/// others the attribute that begins with that word. Null when there is none that is free.
-std::string* ReleaseRewriter::userText(const EntityPlan& plan, std::size_t slot, std::vector<std::string>& values) const {
+/// Place of a text for what USERDEFINED stands for in an attribute: ObjectType and its like for the predefined type,
+/// for others the attribute that begins with that word. Null when there is none that is free.
+std::string* ReleaseRewriter::userText(const EntityPlan& plan, std::size_t slot,
+                                       std::vector<std::string>& values) const {
     int place = static_cast<int>(slot) == plan.predefinedType ? plan.userText : -1;
     for (std::size_t i = 0; i < plan.slots.size() && static_cast<int>(slot) != plan.predefinedType; ++i)
         if (plan.slots[i].attribute->name().starts_with("USERDEFINED")) place = static_cast<int>(i);

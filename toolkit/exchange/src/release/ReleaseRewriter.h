@@ -90,7 +90,8 @@ private:
     std::string _timeStamp;
     const Progress& _progress;
     TypeFit _fit{_plan};
-    EntityPlans _plans{_plan, _fit};
+    // Asked for plans by the questions of the writer too.
+    mutable EntityPlans _plans{_plan, _fit};
     ValueTranslator _values{_plan, _fit, *this, *this};
     Counts _counts;
     bool _isEnded = false;
