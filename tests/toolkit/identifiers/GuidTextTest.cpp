@@ -1,4 +1,5 @@
 #include "velkor/identifiers/GuidText.h"
+#include "velkor/identifiers/NamedGuid.h"
 
 #include <gmock/gmock.h>
 #include <random>
@@ -45,6 +46,20 @@ TEST(GuidText, BadTextsAreSaidToBe) {
         ASSERT_FALSE(converted) << text;
         EXPECT_THAT(converted.error(), testing::HasSubstr(expected));
     }
+}
+
+// The first is the example of RFC 9562, A.4; the others are for lengths about those of a block of the hash.
+TEST(GuidText, NamesHaveTheirIdentifiers) {
+    EXPECT_EQ(guid::named(guid::dnsSpace, "www.example.com"), "2ed6657d-e927-568b-95e1-2665a8aea6a2");
+    for (const auto& [length, expected] :
+         {std::pair<std::size_t, const char*>{0, "4ebd0208-8328-5d69-8c44-ec50939c0967"},
+          {39, "5824f981-4282-59d4-9716-acb6d741350e"},
+          {40, "39f39c20-db47-5131-8879-62f8f67f9014"},
+          {47, "660c273c-8a00-5941-b6f4-8d0afed88966"},
+          {48, "7280cc42-274a-5c4a-91fc-ae23f853eeb7"},
+          {112, "ab683ad5-4de4-5faf-bf37-0788e34176da"},
+          {1000, "062a6b1a-ddc3-5fcc-b238-790846e533d6"}})
+        EXPECT_EQ(guid::named(guid::dnsSpace, std::string(length, 'a')), expected) << length;
 }
 
 } // namespace velkor

@@ -5,7 +5,7 @@
 namespace velkor {
 
 std::string_view word(Effect effect) {
-    constexpr std::string_view words[] = {"converted", "rebuilt", "lost"};
+    constexpr std::string_view words[] = {"converted", "rebuilt", "lost", "kept"};
     return words[static_cast<std::size_t>(effect)];
 }
 

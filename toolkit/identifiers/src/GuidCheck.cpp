@@ -12,19 +12,6 @@ namespace {
 // Instances between two looks at the clock.
 constexpr std::uint64_t progressStep = 1024;
 
-/// As the file writes it. Of an instance of one entity it is the first parameter, read without an instance object: they
-/// would be kept for all the model.
-std::string_view encodedIdentifier(const sdai::Model& model, std::uint32_t number) {
-    const sdai::EntityDefinition* entity = model.entityAt(number);
-    if (entity == nullptr || entity->attributeIndex("GLOBALID") != 0)
-        return model.instanceAt(number)->GetAttr("GLOBALID").encoded();
-    sdai::Part21Lexer lexer(model.file().instanceText(number));
-    lexer.next();
-    if (lexer.next().kind != sdai::TokenKind::Open) return {};
-    const sdai::Token token = lexer.next();
-    return token.kind == sdai::TokenKind::String ? token.text : std::string_view();
-}
-
 class Checker {
 public:
     Checker(const sdai::Model& model, CheckResult& result, const CheckOptions& options)
@@ -65,6 +52,19 @@ private:
 };
 
 } // namespace
+
+std::string_view encodedIdentifier(const sdai::Model& model, std::uint32_t number) {
+    // Of an instance of one entity it is the first parameter, read without an instance object: they would be kept for
+    // all the model.
+    const sdai::EntityDefinition* entity = model.entityAt(number);
+    if (entity == nullptr || entity->attributeIndex("GLOBALID") != 0)
+        return model.instanceAt(number)->GetAttr("GLOBALID").encoded();
+    sdai::Part21Lexer lexer(model.file().instanceText(number));
+    lexer.next();
+    if (lexer.next().kind != sdai::TokenKind::Open) return {};
+    const sdai::Token token = lexer.next();
+    return token.kind == sdai::TokenKind::String ? token.text : std::string_view();
+}
 
 GuidCheck checkGuids(const sdai::Model& model, const CheckOptions& options) {
     GuidCheck check;

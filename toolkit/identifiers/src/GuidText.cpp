@@ -1,5 +1,6 @@
 #include "velkor/identifiers/GuidText.h"
 
+#include "UuidBytes.h"
 #include "velkor/text/Unicode.h"
 #include "velkor/text/Wording.h"
 
@@ -18,7 +19,7 @@ constexpr std::size_t identifierLength = 22;
 constexpr std::array<std::size_t, 4> hyphens{8, 13, 18, 23};
 constexpr std::size_t uuidLength = 36;
 
-using Bytes = std::array<std::uint8_t, 16>;
+using Bytes = Uuid;
 
 // Digit values by character, -1 for what is none.
 constexpr std::array<std::int8_t, 256> digitValues = [] {
@@ -67,6 +68,16 @@ bool isHyphen(std::size_t position) {
 
 } // namespace
 
+std::string hexadecimalText(const Uuid& bytes) {
+    std::string uuid;
+    for (const std::uint8_t byte : bytes) {
+        if (isHyphen(uuid.size())) uuid += '-';
+        uuid += hexadecimal[byte >> 4];
+        uuid += hexadecimal[byte & 15U];
+    }
+    return uuid;
+}
+
 std::optional<Fault> faultOf(std::string_view identifier) {
     if (const std::size_t length = text::characterCount(identifier); length != identifierLength) {
         return Fault{"guid-length",
@@ -88,13 +99,7 @@ std::optional<Fault> faultOf(std::string_view identifier) {
 
 tl::expected<std::string, std::string> expanded(std::string_view identifier) {
     if (auto fault = faultOf(identifier)) return tl::unexpected(std::move(fault->message));
-    std::string uuid;
-    for (const std::uint8_t byte : decoded(identifier)) {
-        if (isHyphen(uuid.size())) uuid += '-';
-        uuid += hexadecimal[byte >> 4];
-        uuid += hexadecimal[byte & 15U];
-    }
-    return uuid;
+    return hexadecimalText(decoded(identifier));
 }
 
 tl::expected<std::string, std::string> compressed(std::string_view text) {

@@ -14,10 +14,11 @@
 
 namespace velkor {
 
-/// What becomes of what a rule is for. What is converted or rebuilt says the same as before in another form.
-enum class Effect : std::uint8_t { Converted, Rebuilt, Lost };
+/// What becomes of what a rule is for. What is converted or rebuilt says the same as before in another form; what is
+/// kept stays though the step was asked to change it.
+enum class Effect : std::uint8_t { Converted, Rebuilt, Lost, Kept };
 
-/// "converted", "rebuilt", "lost".
+/// "converted", "rebuilt", "lost", "kept".
 VELKOR_TOOLKIT_API std::string_view word(Effect effect);
 
 /// A row of the tables of rules; lasts as long as the process.

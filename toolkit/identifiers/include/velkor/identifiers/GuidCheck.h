@@ -17,6 +17,9 @@ struct GuidCheck {
     CheckResult result;
 };
 
+/// The GlobalId of an instance of IFCROOT as the file writes it; no literal when there is none.
+VELKOR_TOOLKIT_API std::string_view encodedIdentifier(const sdai::Model& model, std::uint32_t number);
+
 /// Checks every instance of IFCROOT. Memory is in proportion to their number.
 VELKOR_TOOLKIT_API GuidCheck checkGuids(const sdai::Model& model, const CheckOptions& options = {});
 
