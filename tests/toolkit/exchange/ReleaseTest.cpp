@@ -27,11 +27,11 @@ std::string guid(int number) {
 } // namespace
 
 TEST(Release, TakesAttributesByNameAndLeavesNewOnesUnset) {
-    const auto result = toRelease("IFC2X3",
-                                  owner + "#1=IFCDOOR(" + guid(1) + ",#94,'Door',$,$,$,$,'tag',2.1,0.9);#2=IFCSTAIRFLIGHT(" +
-                                      guid(2) + ",#94,$,$,$,$,$,$,16,15,0.2,0.3);#3=IFCSITE(" + guid(3) +
-                                      ",#94,$,$,$,$,$,$,.ELEMENT.,(1,2,3),$,0.,$,$);",
-                                  "IFC4");
+    const auto result = toRelease(
+        "IFC2X3",
+        owner + "#1=IFCDOOR(" + guid(1) + ",#94,'Door',$,$,$,$,'tag',2.1,0.9);#2=IFCSTAIRFLIGHT(" + guid(2) +
+            ",#94,$,$,$,$,$,$,16,15,0.2,0.3);#3=IFCSITE(" + guid(3) + ",#94,$,$,$,$,$,$,.ELEMENT.,(1,2,3),$,0.,$,$);",
+        "IFC4");
     EXPECT_EQ(result.record(1), "IFCDOOR(" + guid(1) + ",#94,'Door',$,$,$,$,'tag',2.1,0.9,$,$,$)");
     EXPECT_EQ(result.record(3), "IFCSITE(" + guid(3) + ",#94,$,$,$,$,$,$,.ELEMENT.,(1,2,3),$,0.,$,$)");
     EXPECT_THAT(result.problems(), IsEmpty());
@@ -40,7 +40,8 @@ TEST(Release, TakesAttributesByNameAndLeavesNewOnesUnset) {
 }
 
 TEST(Release, CopiesWhatIsTheSameByteByByte) {
-    const std::string untouched = "/* a comment */ #1 = IFCCARTESIANPOINT ( ( 0. , 1.E0 ) ) ;\r\n#2=IFCDIRECTION((1.,0.));";
+    const std::string untouched =
+        "/* a comment */ #1 = IFCCARTESIANPOINT ( ( 0. , 1.E0 ) ) ;\r\n#2=IFCDIRECTION((1.,0.));";
     const auto result = toRelease("IFC2X3", untouched, "IFC4X3_ADD2");
     EXPECT_THAT(result.text, HasSubstr(untouched));
     EXPECT_EQ(result.report.kept, 2u);
@@ -50,8 +51,8 @@ TEST(Release, LeavesWhatItDoesNotUnderstand) {
     // An unknown entity, a wrong number of values, a value of another kind, a damaged and a complex statement, and
     // references to nothing.
     const std::string strange = "#1=IFCUNKNOWN(1);#2=IFCDOOR('x');#3=IFCDIRECTION((1.,);#4=(IFCLINE()IFCPOINT());";
-    const auto result =
-        toRelease("IFC2X3", owner + strange + "#5=IFCDOOR(7,#94,#77,$,$,#88,$,$,'x',.T.);#6=IFCPOLYLINE((#1,#2,#99));", "IFC4");
+    const auto result = toRelease(
+        "IFC2X3", owner + strange + "#5=IFCDOOR(7,#94,#77,$,$,#88,$,$,'x',.T.);#6=IFCPOLYLINE((#1,#2,#99));", "IFC4");
     EXPECT_THAT(result.text, HasSubstr(strange));
     EXPECT_EQ(result.record(5), "IFCDOOR(7,#94,#77,$,$,#88,$,$,'x',.T.,$,$,$)");
     EXPECT_EQ(result.record(6), "IFCPOLYLINE((#1,#2,#99))");
@@ -59,21 +60,22 @@ TEST(Release, LeavesWhatItDoesNotUnderstand) {
 }
 
 TEST(Release, KeepsTheNameOfWhatBecomesItsSupertype) {
-    const auto result = toRelease("IFC4",
-                                  owner + "#1=IFCWALLELEMENTEDCASE(" + guid(1) + ",#94,$,$,$,$,$,$,$);#2=IFCWALLELEMENTEDCASE(" +
-                                      guid(2) + ",#94,$,$,'mine',$,$,$,.SOLIDWALL.);",
-                                  "IFC4X3_ADD2");
+    const auto result =
+        toRelease("IFC4",
+                  owner + "#1=IFCWALLELEMENTEDCASE(" + guid(1) + ",#94,$,$,$,$,$,$,$);#2=IFCWALLELEMENTEDCASE(" +
+                      guid(2) + ",#94,$,$,'mine',$,$,$,.SOLIDWALL.);",
+                  "IFC4X3_ADD2");
     EXPECT_EQ(result.record(1), "IFCWALL(" + guid(1) + ",#94,$,$,'IFCWALLELEMENTEDCASE',$,$,$,$)");
     EXPECT_EQ(result.record(2), "IFCWALL(" + guid(2) + ",#94,$,$,'mine',$,$,$,.SOLIDWALL.)");
     EXPECT_EQ(result.count("supertype"), 2u);
 }
 
 TEST(Release, KeepsEnumeratorsThatTheTargetLacksAsTexts) {
-    const auto result = toRelease("IFC4X3_ADD2",
-                                  owner + "#1=IFCWALL(" + guid(1) + ",#94,$,$,$,$,$,$,.WAVEWALL.);#2=IFCWALL(" + guid(2) +
-                                      ",#94,$,$,'mine',$,$,$,.WAVEWALL.);#3=IFCWALL(" + guid(3) +
-                                      ",#94,$,$,$,$,$,$,.PARAPET.);",
-                                  "IFC4");
+    const auto result =
+        toRelease("IFC4X3_ADD2",
+                  owner + "#1=IFCWALL(" + guid(1) + ",#94,$,$,$,$,$,$,.WAVEWALL.);#2=IFCWALL(" + guid(2) +
+                      ",#94,$,$,'mine',$,$,$,.WAVEWALL.);#3=IFCWALL(" + guid(3) + ",#94,$,$,$,$,$,$,.PARAPET.);",
+                  "IFC4");
     EXPECT_THAT(result.problems(), IsEmpty());
     EXPECT_EQ(result.record(3), "IFCWALL(" + guid(3) + ",#94,$,$,$,$,$,$,.PARAPET.)");
     EXPECT_EQ(result.record(1), "IFCWALL(" + guid(1) + ",#94,$,$,'WAVEWALL',$,$,$,.USERDEFINED.)");
@@ -85,15 +87,18 @@ TEST(Release, KeepsEnumeratorsThatTheTargetLacksAsTexts) {
 TEST(Release, RepairsWhatRefersToSomethingDropped) {
     // A surface that IFC2X3 lacks: its representation has no other item, the product no other representation; a
     // second product keeps the rest of its own.
-    const auto result = toRelease(
-        "IFC4",
-        owner + "#1=IFCCARTESIANPOINT((0.,0.,0.));#2=IFCAXIS2PLACEMENT3D(#1,$,$);#3=IFCCYLINDRICALSURFACE(#2,1.);"
-                "#4=IFCGEOMETRICREPRESENTATIONCONTEXT($,'Model',3,$,#2,$);#5=IFCSHAPEREPRESENTATION(#4,'Body','Surface3D',(#3));"
-                "#6=IFCPRODUCTDEFINITIONSHAPE($,$,(#5));#7=IFCWALL(" +
-            guid(1) + ",#94,'lost',$,$,$,#6,$,$);#8=IFCSHAPEREPRESENTATION(#4,'Body','GeometricSet',(#3,#1));"
+    const auto result =
+        toRelease("IFC4",
+                  owner +
+                      "#1=IFCCARTESIANPOINT((0.,0.,0.));#2=IFCAXIS2PLACEMENT3D(#1,$,$);#3=IFCCYLINDRICALSURFACE(#2,1.);"
+                      "#4=IFCGEOMETRICREPRESENTATIONCONTEXT($,'Model',3,$,#2,$);#5=IFCSHAPEREPRESENTATION(#4,'Body','"
+                      "Surface3D',(#3));"
+                      "#6=IFCPRODUCTDEFINITIONSHAPE($,$,(#5));#7=IFCWALL(" +
+                      guid(1) +
+                      ",#94,'lost',$,$,$,#6,$,$);#8=IFCSHAPEREPRESENTATION(#4,'Body','GeometricSet',(#3,#1));"
                       "#9=IFCPRODUCTDEFINITIONSHAPE($,$,(#5,#8));#10=IFCWALL(" +
-            guid(2) + ",#94,'half',$,$,$,#9,$,$);",
-        "IFC2X3");
+                      guid(2) + ",#94,'half',$,$,$,#9,$,$);",
+                  "IFC2X3");
     EXPECT_THAT(result.problems(), IsEmpty());
     EXPECT_EQ(result.record(3), "");
     EXPECT_EQ(result.record(5), "");
@@ -112,8 +117,9 @@ TEST(Release, RepairsWhatRefersToSomethingDropped) {
 TEST(Release, DropsChainsAndCyclesInLinearTime) {
     // Each item needs the one before; the first needs what the target lacks. One list has them all.
     constexpr int count = 20000;
-    std::string text = "#1=IFCCARTESIANPOINT((0.,0.,0.));#2=IFCAXIS2PLACEMENT3D(#1,$,$);#3=IFCCYLINDRICALSURFACE(#2,1.);"
-                       "#4=IFCRECTANGULARTRIMMEDSURFACE(#3,0.,1.,0.,1.,.T.,.T.);";
+    std::string text =
+        "#1=IFCCARTESIANPOINT((0.,0.,0.));#2=IFCAXIS2PLACEMENT3D(#1,$,$);#3=IFCCYLINDRICALSURFACE(#2,1.);"
+        "#4=IFCRECTANGULARTRIMMEDSURFACE(#3,0.,1.,0.,1.,.T.,.T.);";
     std::string all;
     for (int i = 5; i < count; ++i) {
         const std::string id = std::to_string(i);

@@ -100,19 +100,24 @@ void ReleaseRewriter::makeRecord() {
     if (_outcome->rule != nullptr && _outcome->rule->rebuild != nullptr) _outcome->rule->rebuild(*this);
     if (_outcome->kind == Successor::Kind::Absorbed || !_become.empty()) return;
     const EntityPlan& plan = _plans.plan(*_outcome->source, *_outcome->target);
-    std::vector<std::string> values;
+    std::vector<std::string>& values = _slotValues;
     takeValues(plan, values);
     keepTexts(plan, values);
     takeLater(plan, values);
     noteDropped(plan);
-    (_become = plan.target->name()) += listOf(values);
+    _become += plan.target->name();
+    char separator = '(';
+    for (const std::string& value : values) (_become += separator) += value, separator = ',';
+    _become += values.empty() ? "()" : ")";
 }
 
 void ReleaseRewriter::takeValues(const EntityPlan& plan, std::vector<std::string>& values) {
-    values.reserve(plan.slots.size());
+    values.resize(plan.slots.size());
     _userDefined.clear();
-    for (const EntityPlan::Slot& slot : plan.slots) {
-        std::string& value = values.emplace_back();
+    for (std::size_t i = 0; i < plan.slots.size(); ++i) {
+        const EntityPlan::Slot& slot = plan.slots[i];
+        std::string& value = values[i];
+        value.clear();
         _attribute = slot.attribute->name();
         if (slot.isDerived) {
             value += sdai::derivedValue;
@@ -121,7 +126,7 @@ void ReleaseRewriter::takeValues(const EntityPlan& plan, std::vector<std::string
             value += sdai::omittedValue;
         }
         if (std::string enumerator = _values.takeUserDefined(); !enumerator.empty())
-            _userDefined.emplace_back(values.size() - 1, std::move(enumerator));
+            _userDefined.emplace_back(i, std::move(enumerator));
         if (slot.renamed != nullptr && !isUnset(value))
             note(*slot.renamed, [&] {
                 return becomes(plan.source->attributes()[static_cast<std::size_t>(slot.source)].attribute->name(),
@@ -151,7 +156,7 @@ bool ReleaseRewriter::takeValue(const EntityPlan& plan, const EntityPlan::Slot& 
         return false;
     }
     if (slot.isRaw) {
-        value = given;
+        value += given;
         return true;
     }
     if (_values.translate(given, *slot.from, slot.attribute->type(), value)) {

@@ -108,6 +108,8 @@ private:
     // Slots with USERDEFINED, and what that stands for.
     std::vector<std::pair<std::size_t, std::string>> _userDefined;
     std::string _become;
+    // Kept from record to record for their memory.
+    std::vector<std::string> _slotValues;
     Missing _missing;
     std::unordered_map<std::string, std::uint64_t> _shared;
 };
