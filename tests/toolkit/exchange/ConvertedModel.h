@@ -81,10 +81,12 @@ ConvertedModel convertText(const std::string& text, Step step) {
 }
 
 /// The instances of a model of one release in another.
-inline ConvertedModel toRelease(const std::string& from, const std::string& instances, const std::string& to) {
+inline ConvertedModel toRelease(const std::string& from, const std::string& instances, const std::string& to,
+                                const PlatformSetup* setup = nullptr) {
     return convertText(modelText(from, instances), [&](const sdai::Model& model, files::OutputFile& output) {
         ReleaseOptions options;
         options.release = to;
+        options.setup = setup;
         return convertRelease(model, options, output);
     });
 }

@@ -1,5 +1,7 @@
 // What follows from the two dictionaries alone.
+#include "ConfiguredTest.h"
 #include "ConvertedModel.h"
+#include "TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 
@@ -132,6 +134,37 @@ TEST(Release, DropsChainsAndCyclesInLinearTime) {
     EXPECT_EQ(result.record(1000000), "IFCGEOMETRICSET((#1))");
     EXPECT_EQ(result.record(count - 1), "");
     EXPECT_EQ(result.record(1), "IFCCARTESIANPOINT((0.,0.,0.))");
+}
+
+class MappedRelease : public test::ConfiguredTest {};
+
+TEST_F(MappedRelease, AsksTheDocumentOfTheSetUpFirst) {
+    const test::TemporaryFolder folder;
+    folder.file("site/ifc/releases.xml", R"(<Releases><Version from="2x3" to="4">
+        <Mapping fromEntity="IfcSlab" toEntity="IfcRoof"/>
+        <Mapping fromEntity="IfcWall" fromProperty="Tag" toProperty="Description"/>
+        <Deprecation entity="IfcColumn"/>
+        <Introduction entity="IfcPlate" property="PredefinedType" propertyValue="SHEET"/>
+        <Introduction entity="IfcMember" property="PredefinedType" propertyValue="NOSUCH"/>
+        </Version></Releases>)");
+    Configuration configuration;
+    configuration.collectionStandard = {{folder / "site"}};
+    const PlatformSetup setup(configuration);
+    const auto element = [](const char* entity, int number) {
+        std::string text = "#" + std::to_string(number);
+        return text.append("=").append(entity).append("(").append(guid(number)).append(",#94,$,$,$,$,$,'tag'");
+    };
+    const std::string text = owner + element("IFCSLAB", 1) + ",.FLOOR.);" + element("IFCWALL", 2) + ");" +
+                             element("IFCCOLUMN", 3) + ");" + element("IFCPLATE", 4) + ");" + element("IFCMEMBER", 5) +
+                             ");";
+    const auto result = toRelease("IFC2X3", text, "IFC4", &setup);
+    EXPECT_EQ(result.record(1), "IFCROOF(" + guid(1) + ",#94,$,$,'FLOOR',$,$,'tag',.USERDEFINED.)");
+    EXPECT_EQ(result.record(2), "IFCWALL(" + guid(2) + ",#94,$,'tag',$,$,$,$,$)");
+    EXPECT_EQ(result.record(3), "");
+    EXPECT_EQ(result.record(4), "IFCPLATE(" + guid(4) + ",#94,$,$,$,$,$,'tag',.SHEET.)");
+    EXPECT_EQ(result.record(5), "IFCMEMBER(" + guid(5) + ",#94,$,$,$,$,$,'tag',$)");
+    // Another pair of releases is not meant.
+    EXPECT_THAT(toRelease("IFC2X3", text, "IFC4X1", &setup).record(1), HasSubstr("IFCSLAB"));
 }
 
 TEST(Release, RefusesReleasesThatItDoesNotKnow) {

@@ -56,19 +56,19 @@ ReleaseNames::Entity ReleaseNames::supertype(const sdai::EntityDefinition& sourc
 }
 
 ReleaseNames::Slot ReleaseNames::slot(const sdai::EntityDefinition& source, std::string_view attribute) const {
-    if (_document) {
+    const int same = source.attributeIndex(attribute);
+    bool isMovedAway = false;
+    for (std::size_t i = 0; _document && i < source.attributes().size(); ++i) {
         // The document goes from the source's names to the target's.
-        for (std::size_t i = 0; i < source.attributes().size(); ++i) {
-            const std::string_view name = source.attributes()[i].attribute->name();
-            const auto mapped = _document->property(source.name(), name);
-            if (mapped && text::toUpper(mapped->second) == attribute)
-                return {static_cast<int>(i),
-                        mapped->second.empty() || name == attribute ? nullptr : &rules::attributeMapped};
-        }
+        const std::string_view name = source.attributes()[i].attribute->name();
+        const auto mapped = _document->property(source.name(), name);
+        if (!mapped || mapped->second.empty()) continue;
+        const std::string property = text::toUpper(mapped->second);
+        if (property == attribute) return {static_cast<int>(i), property == name ? nullptr : &rules::attributeMapped};
+        isMovedAway = isMovedAway || static_cast<int>(i) == same;
     }
-    if (const int same = source.attributeIndex(attribute); same >= 0) return {same, nullptr};
-    if (const Slot renamed = renamedSlot(source, attribute); renamed.index >= 0) return renamed;
-    return {};
+    if (same >= 0 && !isMovedAway) return {same, nullptr};
+    return renamedSlot(source, attribute);
 }
 
 ReleaseNames::Slot ReleaseNames::renamedSlot(const sdai::EntityDefinition& source, std::string_view attribute) const {

@@ -103,6 +103,9 @@ std::optional<Outcome> ReleasePlan::byRule(const RebuildRule& rule, std::uint32_
     DXSdaiAppInstance& instance = *_model.instanceAt(number);
     const Successor successor = rule.becomes(_releases, instance);
     if (successor.kind == Successor::Kind::NotHere) return std::nullopt;
+    // Where the version mapping document names an entity, a rule may only say how instances become that.
+    const Outcome& named = _outcomes[_common[_model.file().keyword(number)]];
+    if (named.reason == &rules::entityMapped && named.target != successor.entity) return std::nullopt;
     const bool isLost = successor.kind == Successor::Kind::Lost;
     if (isLost) return Outcome{successor.kind, &entity, nullptr, &rule, &rule.rule};
     Planning planning(*this);
