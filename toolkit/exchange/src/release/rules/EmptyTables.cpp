@@ -3,10 +3,6 @@
 
 namespace velkor::exchange {
 
-RuleTable geometryRules() {
-    return {};
-}
-
 RuleTable forwardRules() {
     return {};
 }

@@ -1,0 +1,112 @@
+#include "release/rules/FaceLoops.h"
+
+#include "release/rules/GeometryText.h"
+
+#include <algorithm>
+
+namespace velkor::exchange {
+
+std::optional<FaceLoops> FaceLoops::of(const sdai::Model& model, const DXSdaiAppInstance& faceSet) {
+    FaceLoops loops;
+    const sdai::Primitive pointIndex = faceSet.GetAttr("PNINDEX");
+    if (pointIndex.isSet() && !readIndices(pointIndex.encoded(), loops._pointIndex)) return std::nullopt;
+    if (faceSet.IsKindOf("IFCTRIANGULATEDFACESET")) {
+        if (!loops.takeTriangles(faceSet.GetAttr("COORDINDEX").encoded())) return std::nullopt;
+    } else {
+        std::vector<std::uint32_t> indices;
+        for (const sdai::Primitive face : faceSet.GetAttr("FACES").asAggregate()) {
+            const auto number = model.file().find(sdai::decodeInstanceName(face.encoded()));
+            if (!number || !loops.takeFace(model, *number, indices)) return std::nullopt;
+        }
+    }
+    for (const std::uint32_t point : loops._points) loops._bound = std::max<std::uint64_t>(loops._bound, point + 1ULL);
+    return loops;
+}
+
+bool FaceLoops::takeTriangles(std::string_view encoded) {
+    sdai::Part21Lexer lexer(encoded);
+    if (lexer.next().kind != sdai::TokenKind::Open) return false;
+    std::vector<std::uint32_t> triangle;
+    while (true) {
+        triangle.clear();
+        if (!readIndices(lexer, triangle) || triangle.size() != 3 || !followPointIndex(triangle)) return false;
+        if (addLoop(triangle)) endFace();
+        const sdai::TokenKind behind = lexer.next().kind;
+        if (behind == sdai::TokenKind::Close) return true;
+        if (behind != sdai::TokenKind::Comma) return false;
+    }
+}
+
+bool FaceLoops::takeFace(const sdai::Model& model, std::uint32_t number, std::vector<std::uint32_t>& indices) {
+    const sdai::EntityDefinition* entity = model.entityAt(number);
+    if (!entity || !entity->isKindOf("IFCINDEXEDPOLYGONALFACE")) return false;
+    const auto parameter = [&](std::string_view attribute) {
+        const int place = entity->attributeIndex(attribute);
+        return place < 0 ? std::string_view() : parameterOf(model, number, static_cast<std::size_t>(place));
+    };
+    indices.clear();
+    if (!readIndices(parameter("COORDINDEX"), indices) || !followPointIndex(indices)) return false;
+    const bool hasOuter = addLoop(indices);
+    if (entity->attributeIndex("INNERCOORDINDICES") >= 0) {
+        sdai::Part21Lexer lexer(parameter("INNERCOORDINDICES"));
+        if (lexer.next().kind != sdai::TokenKind::Open) return false;
+        for (sdai::TokenKind behind = sdai::TokenKind::Comma; behind != sdai::TokenKind::Close;) {
+            indices.clear();
+            if (!readIndices(lexer, indices) || !followPointIndex(indices)) return false;
+            if (hasOuter) addLoop(indices);
+            behind = lexer.next().kind;
+            if (behind != sdai::TokenKind::Comma && behind != sdai::TokenKind::Close) return false;
+        }
+    }
+    if (hasOuter) endFace();
+    return true;
+}
+
+bool FaceLoops::addLoop(std::span<const std::uint32_t> indices) {
+    const std::size_t start = _points.size();
+    for (const std::uint32_t index : indices)
+        if (_points.size() == start || _points.back() != index) _points.push_back(index);
+    while (_points.size() > start + 1 && _points.back() == _points[start]) _points.pop_back();
+    if (_points.size() - start < 3) {
+        _points.resize(start);
+        ++_degenerate;
+        return false;
+    }
+    _loopEnds.push_back(_points.size());
+    return true;
+}
+
+void FaceLoops::endFace() {
+    _faceEnds.push_back(_loopEnds.size());
+}
+
+bool FaceLoops::followPointIndex(std::vector<std::uint32_t>& indices) const {
+    if (_pointIndex.empty()) return true;
+    for (std::uint32_t& index : indices) {
+        if (index >= _pointIndex.size()) return false;
+        index = _pointIndex[index];
+    }
+    return true;
+}
+
+bool FaceLoops::isClosed() const {
+    // An edge by its lower and upper point, and in the lowest bit its direction.
+    std::vector<std::uint64_t> edges;
+    edges.reserve(_points.size());
+    for (std::size_t loop = 0, start = 0; loop < _loopEnds.size(); start = _loopEnds[loop++]) {
+        for (std::size_t i = start; i < _loopEnds[loop]; ++i) {
+            const std::uint64_t from = _points[i];
+            const std::uint64_t to = _points[i + 1 < _loopEnds[loop] ? i + 1 : start];
+            edges.push_back(from < to ? from << 33U | to << 1U : to << 33U | from << 1U | 1U);
+        }
+    }
+    if (edges.empty() || edges.size() % 2) return false;
+    std::ranges::sort(edges);
+    for (std::size_t i = 0; i < edges.size(); i += 2) {
+        if (edges[i] % 2 || edges[i + 1] != edges[i] + 1) return false;
+        if (i + 2 < edges.size() && edges[i + 2] == edges[i]) return false;
+    }
+    return true;
+}
+
+} // namespace velkor::exchange

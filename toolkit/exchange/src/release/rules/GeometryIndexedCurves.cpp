@@ -1,0 +1,195 @@
+// Indexed polygonal curves as polylines and arcs.
+#include "release/rules/CircularArc.h"
+#include "release/rules/GeometryTables.h"
+#include "release/rules/GeometryText.h"
+
+#include "velkor/sdai/Part21Encoding.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace velkor::exchange {
+
+namespace {
+
+/// A part of a curve: points by their places in the list, from 0.
+struct Segment {
+    bool isArc = false;
+    std::vector<std::uint32_t> points;
+};
+
+/// The segments as the file has them; none when the curve goes through all points of its list. Nothing when they were
+/// not understood or do not follow each other.
+std::optional<std::vector<Segment>> readSegments(const DXSdaiAppInstance& curve) {
+    std::vector<Segment> segments;
+    const sdai::Primitive encoded = curve.GetAttr("SEGMENTS");
+    if (!encoded.isSet()) return segments;
+    sdai::Part21Lexer lexer(encoded.encoded());
+    if (lexer.next().kind != sdai::TokenKind::Open) return std::nullopt;
+    for (sdai::TokenKind behind = sdai::TokenKind::Comma; behind == sdai::TokenKind::Comma;) {
+        const sdai::Token type = lexer.next();
+        Segment segment{type.text == "IFCARCINDEX", {}};
+        if (type.kind != sdai::TokenKind::Keyword || (!segment.isArc && type.text != "IFCLINEINDEX"))
+            return std::nullopt;
+        if (lexer.next().kind != sdai::TokenKind::Open || !readIndices(lexer, segment.points)) return std::nullopt;
+        if (lexer.next().kind != sdai::TokenKind::Close) return std::nullopt;
+        if (segment.isArc ? segment.points.size() != 3 : segment.points.size() < 2) return std::nullopt;
+        if (!segments.empty() && segments.back().points.back() != segment.points.front()) return std::nullopt;
+        segments.push_back(std::move(segment));
+        behind = lexer.next().kind;
+        if (behind != sdai::TokenKind::Comma && behind != sdai::TokenKind::Close) return std::nullopt;
+    }
+    return segments;
+}
+
+bool hasArcs(const std::vector<Segment>& segments) {
+    return std::ranges::any_of(segments, &Segment::isArc);
+}
+
+Successor becomesCurve(const Releases& releases, DXSdaiAppInstance& curve) {
+    if (releases.target.entity("IFCINDEXEDPOLYCURVE")) return Successor::notHere();
+    const std::optional<std::vector<Segment>> segments = readSegments(curve);
+    return Successor::of(releases, segments && hasArcs(*segments) ? "IFCCOMPOSITECURVE" : "IFCPOLYLINE");
+}
+
+bool planCurve(Planning& planning, DXSdaiAppInstance& curve) {
+    const std::optional<PointList> points = PointList::of(curve, "POINTS");
+    const std::optional<std::vector<Segment>> segments = readSegments(curve);
+    const std::optional<std::uint64_t> count = points ? points->count() : std::nullopt;
+    if (!segments || !count || (segments->empty() && *count < 2)) return false;
+    for (const Segment& segment : *segments) {
+        if (std::ranges::max(segment.points) >= *count) return false;
+        // Two points say nothing of the circle that leads back to the first.
+        if (segment.isArc && segment.points.front() == segment.points.back()) return false;
+    }
+    return planning.reserve(points->id, *count) != 0;
+}
+
+/// Writes the segments of a curve, one after the other.
+class SegmentWriter {
+public:
+    SegmentWriter(Rebuilding& rebuilding, const PointList& points)
+        : _rebuilding(rebuilding), _points(points), _first(rebuilding.reserved(points.id)) {
+        readTuples(points.coordinates, points.dimension, [this](std::string_view tuple) {
+            _tuples.push_back(tuple);
+            return true;
+        });
+    }
+
+    std::uint64_t add(const Segment& segment, bool isLast) {
+        RecordBuilder record(_rebuilding.target(), "IFCCOMPOSITECURVESEGMENT");
+        record.set("TRANSITION", enumerator(isLast ? "DISCONTINUOUS" : "CONTINUOUS"));
+        record.set("SAMESENSE", enumerator("T"));
+        record.set("PARENTCURVE", reference(segment.isArc ? arc(segment.points) : line(segment.points)));
+        return _rebuilding.add(record);
+    }
+    bool areSame(std::uint32_t one, std::uint32_t other) const {
+        return one == other || point(one) == point(other);
+    }
+
+private:
+    std::optional<Point> point(std::uint32_t place) const { return readPoint(_tuples[place]); }
+    std::string pointReference(std::uint32_t place) const { return reference(_first + place); }
+
+    std::uint64_t line(const std::vector<std::uint32_t>& points) {
+        std::vector<std::string> members;
+        for (const std::uint32_t place : points) members.push_back(pointReference(place));
+        RecordBuilder record(_rebuilding.target(), "IFCPOLYLINE");
+        record.set("POINTS", listOf(members));
+        return _rebuilding.add(record);
+    }
+
+    std::uint64_t arc(const std::vector<std::uint32_t>& points) {
+        const std::optional<Point> start = point(points[0]);
+        const std::optional<Point> middle = point(points[1]);
+        const std::optional<Point> end = point(points[2]);
+        const auto found = start && middle && end ? CircularArc::through(*start, *middle, *end) : std::nullopt;
+        if (!found) return line(points);
+        RecordBuilder record(_rebuilding.target(), "IFCTRIMMEDCURVE");
+        record.set("BASISCURVE", reference(circle(*found)));
+        record.set("TRIM1", listOf({pointReference(points[0])}));
+        record.set("TRIM2", listOf({pointReference(points[2])}));
+        // In space the axis is put so that the arc runs with its circle.
+        record.set("SENSEAGREEMENT", enumerator(_points.dimension == 3 || found->axis[2] > 0 ? "T" : "F"));
+        record.set("MASTERREPRESENTATION", enumerator("CARTESIAN"));
+        return _rebuilding.add(record);
+    }
+
+    std::uint64_t circle(const CircularArc& arc) {
+        const bool isInSpace = _points.dimension == 3;
+        RecordBuilder placement(_rebuilding.target(), isInSpace ? "IFCAXIS2PLACEMENT3D" : "IFCAXIS2PLACEMENT2D");
+        placement.set("LOCATION", reference(add("IFCCARTESIANPOINT", "COORDINATES", arc.centre)));
+        if (isInSpace) placement.set("AXIS", reference(add("IFCDIRECTION", "DIRECTIONRATIOS", arc.axis)));
+        placement.set("REFDIRECTION", reference(add("IFCDIRECTION", "DIRECTIONRATIOS", arc.direction)));
+        RecordBuilder record(_rebuilding.target(), "IFCCIRCLE");
+        record.set("POSITION", reference(_rebuilding.add(placement)));
+        record.set("RADIUS", real(arc.radius));
+        return _rebuilding.add(record);
+    }
+
+    std::uint64_t add(std::string_view entity, std::string_view attribute, const Point& numbers) {
+        RecordBuilder record(_rebuilding.target(), entity);
+        record.set(attribute, encodedTuple(numbers, _points.dimension));
+        return _rebuilding.add(record);
+    }
+
+    Rebuilding& _rebuilding;
+    PointList _points;
+    std::uint64_t _first;
+    std::vector<std::string_view> _tuples;
+};
+
+// Through all points of the list when there are no segments.
+RecordBuilder polyline(Rebuilding& rebuilding, const PointList& points, const std::vector<Segment>& segments) {
+    const std::uint64_t first = rebuilding.reserved(points.id);
+    std::vector<std::string> members;
+    if (segments.empty()) {
+        const std::uint64_t count = points.count().value_or(0);
+        for (std::uint64_t i = 0; i < count; ++i) members.push_back(reference(first + i));
+    } else {
+        members.push_back(reference(first + segments.front().points.front()));
+    }
+    for (const Segment& segment : segments)
+        for (std::size_t i = 1; i < segment.points.size(); ++i)
+            members.push_back(reference(first + segment.points[i]));
+    RecordBuilder record(rebuilding.target(), "IFCPOLYLINE");
+    record.set("POINTS", listOf(members));
+    return record;
+}
+
+RecordBuilder compositeCurve(Rebuilding& rebuilding, const PointList& points, const std::vector<Segment>& segments) {
+    SegmentWriter writer(rebuilding, points);
+    const bool isClosed = writer.areSame(segments.front().points.front(), segments.back().points.back());
+    std::vector<std::string> members;
+    for (const Segment& segment : segments)
+        members.push_back(reference(writer.add(segment, !isClosed && &segment == &segments.back())));
+    RecordBuilder record(rebuilding.target(), "IFCCOMPOSITECURVE");
+    record.set("SEGMENTS", listOf(members));
+    const std::string_view selfIntersect = rebuilding.encoded("SELFINTERSECT");
+    record.set("SELFINTERSECT", selfIntersect == sdai::omittedValue ? enumerator("U") : std::string(selfIntersect));
+    return record;
+}
+
+void rebuildCurve(Rebuilding& rebuilding) {
+    const std::optional<PointList> points = PointList::of(rebuilding.instance(), "POINTS");
+    const std::optional<std::vector<Segment>> segments = readSegments(rebuilding.instance());
+    if (!points || !segments) return;
+    rebuilding.become(hasArcs(*segments) ? compositeCurve(rebuilding, *points, *segments)
+                                         : polyline(rebuilding, *points, *segments));
+}
+
+constexpr RebuildRule rules[] = {
+    {{"indexed-curves", Effect::Rebuilt, "Indexed polygonal curves become polylines, with arcs composite curves",
+      "Lines go through the same points; an arc is the circle through its three points, trimmed at the first and the "
+      "last of them, which no unit of angles can change"},
+     "IFCINDEXEDPOLYCURVE", becomesCurve, planCurve, rebuildCurve},
+};
+
+} // namespace
+
+std::span<const RebuildRule> indexedCurveRules() {
+    return rules;
+}
+
+} // namespace velkor::exchange

@@ -1,0 +1,30 @@
+/// The parts that the table of geometry is put together from.
+#pragma once
+
+#include "release/Rebuilding.h"
+
+#include <span>
+#include <string_view>
+
+namespace velkor::exchange {
+
+std::span<const RebuildRule> faceSetRules();
+std::span<const RebuildRule> indexedCurveRules();
+std::span<const RebuildRule> splineRules();
+std::span<const RebuildRule> plainerShapeRules();
+std::span<const RebuildRule> representationTypeRules();
+std::span<const RebuildRule> lostGeometryRules();
+std::span<const DefaultRule> geometryDefaults();
+std::span<const ValueRule> geometryValues();
+
+/// The rule of the table that has a name.
+const ConversionRule& geometryRule(std::string_view name);
+
+/// For rows that are there to be noted alone.
+Successor notHere(const Releases& releases, DXSdaiAppInstance& instance);
+/// Another entity where the target lacks the instance's own.
+Successor replacedBy(const Releases& releases, const DXSdaiAppInstance& instance, std::string_view entity);
+/// Nothing where the target lacks the instance's entity.
+Successor lostWhereLacking(const Releases& releases, DXSdaiAppInstance& instance);
+
+} // namespace velkor::exchange
