@@ -44,7 +44,7 @@ TEST(Program, TellsItsVersionAndItsCommands) {
     const Outcome help = shell("velkor --help");
     EXPECT_EQ(help.status, 0);
     for (const std::string command :
-         {"report", "check", "validate", "guid check", "units", "dictionary entity", "options", "resources"}) {
+         {"report", "check", "validate", "guid check", "units", "dictionary entity", "convert", "options", "resources"}) {
         EXPECT_THAT(help.text, HasSubstr("\n  " + command.substr(0, command.find(' '))));
         const Outcome one = shell("velkor " + command + " --help");
         EXPECT_EQ(one.status, 0) << command;
@@ -93,4 +93,20 @@ TEST(Program, ResultsThatCannotBeWrittenAreNoSuccess) {
     const Outcome reader =
         shell("{ { velkor dictionary show IFC4 --declarations; echo $? >&3; } 2>&3 | head -1 >/dev/null; } 3>&1");
     EXPECT_EQ(reader.text, "0\n");
+}
+
+TEST(Program, WritesAModelToStandardOutputAndSaysTheRestBesideIt) {
+    const std::string house = "examples/models/house-ifc2x3.ifc";
+    EXPECT_EQ(shell("velkor convert " + house + " -o - 2>/dev/null | cmp - " + house).status, 0);
+    const Outcome said = shell("velkor convert " + house + " -o - --to 4 2>&1 >/dev/null");
+    EXPECT_EQ(said.status, 0);
+    EXPECT_THAT(said.text, AllOf(HasSubstr(house + " to standard output"), HasSubstr("nothing lost")));
+
+    const Outcome full = shell("velkor convert " + house + " -o - 2>&1 >/dev/full");
+    EXPECT_EQ(full.status, 3);
+    EXPECT_EQ(full.text, "velkor: standard output: cannot be written: No space left on device\n");
+    // Half a model is no answer, also where the reader wants no more of it.
+    const Outcome closed = shell("{ { sleep 0.2; velkor convert " + house +
+                                 " -o - 2>/dev/null; echo $? >&3; } | exec true; } 3>&1");
+    EXPECT_EQ(closed.text, "3\n");
 }

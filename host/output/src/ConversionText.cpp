@@ -45,7 +45,8 @@ std::string placeText(const Change& change) {
     std::string text(1, '#');
     text += std::to_string(change.id);
     if (change.line != 0) (text += " in line ") += std::to_string(change.line);
-    return (((text += ", ") += change.entity) += ": ") += change.detail;
+    (text += ", ") += change.entity;
+    return change.detail.empty() ? text : (text += ": ") += change.detail;
 }
 
 void writePlaces(Page& page, const RuleUse& use) {
@@ -91,7 +92,7 @@ Json changeJson(const Change& change) {
     return {{"instance", change.id == 0 ? Json() : Json(change.id)},
             {"line", change.line == 0 ? Json() : Json(change.line)},
             {"entity", textOrNull(change.entity)},
-            {"detail", change.detail}};
+            {"detail", textOrNull(change.detail)}};
 }
 
 Json ruleJson(const ConversionRule& rule) {
