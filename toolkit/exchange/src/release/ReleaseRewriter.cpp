@@ -208,7 +208,9 @@ std::string* ReleaseRewriter::userText(const EntityPlan& plan, std::size_t slot,
 }
 
 void ReleaseRewriter::keepTexts(const EntityPlan& plan, std::vector<std::string>& values) {
-    for (const auto& [slot, enumerator] : _userDefined) {
+    for (const auto& entry : _userDefined) {
+        const std::size_t slot = entry.first;
+        const std::string& enumerator = entry.second;
         if (std::string* text = userText(plan, slot, values)) {
             *text = literal(enumerator);
             note(rules::enumeratorAsText, [&] { return enumerator; });
