@@ -21,8 +21,8 @@ void ChangeList::noteFile(const ConversionRule& rule, std::string detail) {
 }
 
 RuleUse& ChangeList::count(const ConversionRule& rule) {
-    RuleUse& use = _uses[&rule];
-    use.rule = &rule;
+    RuleUse& use = _uses[rule.name];
+    if (use.rule == nullptr) use.rule = &rule;
     ++use.count;
     return use;
 }
@@ -37,7 +37,7 @@ void ChangeList::add(RuleUse& use, std::uint32_t number, std::string detail) {
 std::vector<RuleUse> ChangeList::uses(std::span<const ConversionRule* const> order) const {
     std::vector<RuleUse> result;
     for (const ConversionRule* rule : order) {
-        const auto found = _uses.find(rule);
+        const auto found = _uses.find(rule->name);
         if (found == _uses.end()) continue;
         result.push_back(found->second);
         std::ranges::stable_sort(result.back().first, {}, &Change::line);

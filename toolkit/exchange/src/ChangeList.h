@@ -6,6 +6,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 namespace velkor::exchange {
@@ -32,7 +33,8 @@ private:
 
     const sdai::Part21File& _file;
     std::size_t _limit;
-    std::unordered_map<const ConversionRule*, RuleUse> _uses;
+    // By name: rows of a table that share a rule have copies of it.
+    std::unordered_map<std::string_view, RuleUse> _uses;
 };
 
 } // namespace velkor::exchange

@@ -23,6 +23,8 @@ struct EntityPlan {
         bool isRaw = false;
         bool isDerived = false;
         bool isRequired = false;
+        /// An aggregate that stays only with all of its members.
+        bool isWhole = false;
         /// Why it has another name; null for most.
         const ConversionRule* renamed = nullptr;
         /// Of the version mapping document; empty for most.

@@ -154,12 +154,21 @@ struct EnumeratorRule {
     std::string_view after;
 };
 
+/// An aggregate that would say something else without one of its members: the segments of a curve, the faces of a
+/// solid. Rather than leave it, a member that is lost takes the attribute along.
+struct WholeAggregate {
+    /// Of the target, upper case; its subtypes are meant too.
+    std::string_view entity;
+    std::string_view attribute;
+};
+
 /// The rules of one source unit.
 struct RuleTable {
     std::span<const RebuildRule> rebuild = {};
     std::span<const ValueRule> values = {};
     std::span<const DefaultRule> defaults = {};
     std::span<const EnumeratorRule> enumerators = {};
+    std::span<const WholeAggregate> wholes = {};
 };
 
 /// Shapes: facets, indexed curves, splines.

@@ -4,6 +4,7 @@
 #include "velkor/sdai/Part21Lexer.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace velkor::exchange {
 
@@ -48,6 +49,7 @@ bool ReleaseRewriter::begin(const RecordView& record) {
     _hasNote = false;
     _become.clear();
     _missing = {};
+    _missingCarried = {};
     _values.takeUserDefined();
     return _outcome->source != nullptr && record.parameters.size() == _outcome->source->attributes().size();
 }
@@ -159,6 +161,7 @@ bool ReleaseRewriter::takeValue(const EntityPlan& plan, const EntityPlan::Slot& 
         value += given;
         return true;
     }
+    _values.keepWhole(slot.isWhole);
     if (_values.translate(given, *slot.from, slot.attribute->type(), value)) {
         if (!slot.isRequired || !isUnset(value)) return true;
     }
@@ -265,7 +268,7 @@ RecordBuilder ReleaseRewriter::carried(const EntityDefinition& entity) {
     keepTexts(plan, values);
     takeLater(plan, values);
     for (std::size_t i = 0; i < values.size(); ++i) record.set(plan.slots[i].attribute->name(), std::move(values[i]));
-    _missing = {};
+    _missingCarried = std::exchange(_missing, {});
     return record;
 }
 
@@ -278,7 +281,9 @@ void ReleaseRewriter::become(const RecordBuilder& record) {
     _become = record.text();
     for (const sdai::AttributeSlot& slot : record.entity().attributes())
         if (!slot.attribute->isOptional() && record.value(slot.attribute->name()) == sdai::omittedValue)
-            _missing = {&rules::requiredMissing, slot.attribute->name()};
+            _missing = _missingCarried.attribute == slot.attribute->name()
+                           ? _missingCarried
+                           : Missing{&rules::requiredMissing, slot.attribute->name()};
 }
 
 std::uint64_t ReleaseRewriter::add(std::string_view record) {

@@ -111,6 +111,8 @@ private:
     // Kept from record to record for their memory.
     std::vector<std::string> _slotValues;
     Missing _missing;
+    // What carried() found missing last.
+    Missing _missingCarried;
     std::unordered_map<std::string, std::uint64_t> _shared;
 };
 

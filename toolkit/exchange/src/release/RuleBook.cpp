@@ -1,5 +1,7 @@
 #include "release/RuleBook.h"
 
+#include <unordered_set>
+
 namespace velkor::exchange {
 
 namespace rules {
@@ -117,13 +119,25 @@ const EnumeratorRule* RuleBook::enumerator(const sdai::EnumerationType& to, std:
     return nullptr;
 }
 
+bool RuleBook::isWhole(const sdai::EntityDefinition& entity, std::string_view attribute) const {
+    for (const RuleTable& table : _tables)
+        for (const WholeAggregate& whole : table.wholes)
+            if (whole.attribute == attribute && entity.isKindOf(whole.entity)) return true;
+    return false;
+}
+
 std::vector<const ConversionRule*> RuleBook::all() {
     std::vector<const ConversionRule*> result(std::begin(rules::general), std::end(rules::general));
+    std::unordered_set<std::string_view> names;
+    const auto take = [&](const auto& rows) {
+        for (const auto& row : rows)
+            if (names.insert(row.rule.name).second) result.push_back(&row.rule);
+    };
     for (const RuleTable& table : tables()) {
-        for (const auto& rule : table.rebuild) result.push_back(&rule.rule);
-        for (const auto& rule : table.values) result.push_back(&rule.rule);
-        for (const auto& rule : table.defaults) result.push_back(&rule.rule);
-        for (const auto& rule : table.enumerators) result.push_back(&rule.rule);
+        take(table.rebuild);
+        take(table.values);
+        take(table.defaults);
+        take(table.enumerators);
     }
     return result;
 }

@@ -22,6 +22,9 @@ public:
     /// What an enumerator that the target's type lacks is called there; empty when no rule knows.
     const EnumeratorRule* enumerator(const sdai::EnumerationType& to, std::string_view before) const;
 
+    /// Whether an aggregate of an entity of the target is another one without one of its members.
+    bool isWhole(const sdai::EntityDefinition& entity, std::string_view attribute) const;
+
     template <class Take>
     void eachValueRule(Take take) const {
         for (const RuleTable& table : _tables)
@@ -29,7 +32,7 @@ public:
                 if (take(rule)) return;
     }
 
-    /// Every rule of the tables in their order, those that follow from the dictionaries alone first.
+    /// Every rule of the tables in their order, each once, those that follow from the dictionaries alone first.
     static std::vector<const ConversionRule*> all();
 
 private:

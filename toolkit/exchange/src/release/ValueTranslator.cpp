@@ -242,7 +242,7 @@ bool ValueTranslator::members(std::string_view value, const sdai::AggregateType&
     _isMember = wasMember;
     text += ')';
     // A number or a row that is missing makes another thing of the whole.
-    if (!lost.empty() && isNested) return false;
+    if (!lost.empty() && (isNested || _isWhole)) return false;
     const int count = static_cast<int>(parts.size());
     if (kept < to.lowerBound() && (kept < count || count >= from.lowerBound())) return false;
     if (to.upperBound() >= 0 && kept > to.upperBound() && (from.upperBound() < 0 || count <= from.upperBound()))

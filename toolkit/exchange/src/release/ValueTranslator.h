@@ -29,6 +29,9 @@ public:
     /// fit the source's own type is not understood and stays as it is.
     bool translate(std::string_view value, const sdai::Type& from, const sdai::Type& to, std::string& text);
 
+    /// Whether an aggregate that loses a member is lost as a whole, until this is said otherwise.
+    void keepWhole(bool isWhole) { _isWhole = isWhole; }
+
     /// An enumerator that became USERDEFINED since this was asked last; empty for none.
     std::string takeUserDefined();
 
@@ -61,6 +64,7 @@ private:
     std::string _userDefined;
     // Of a member of an aggregate rules may make several.
     bool _isMember = false;
+    bool _isWhole = false;
 };
 
 } // namespace velkor::exchange

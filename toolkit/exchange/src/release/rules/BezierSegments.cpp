@@ -17,8 +17,8 @@ ControlPoint between(const ControlPoint& from, const ControlPoint& to, double pa
     return result;
 }
 
-/// One segment, over the range from v[degree - 1] to v[degree], of the 2 * degree knots v around it: knots are put in at
-/// both ends until the segment has them alone.
+/// One segment, over the range from v[degree - 1] to v[degree], of the 2 * degree knots v around it: knots are put in
+/// at both ends until the segment has them alone.
 void takeApart(std::span<ControlPoint> points, std::span<const double> v) {
     const std::size_t degree = points.size() - 1;
     const double start = v[degree - 1];

@@ -123,8 +123,8 @@ void rebuildFaces(Rebuilding& rebuilding) {
     if (rebuilding.encoded("NORMALS") != sdai::omittedValue)
         rebuilding.note(geometryRule("facet-normals"), "Normals are left out");
     if (loops->degenerateCount())
-        rebuilding.note(geometryRule("degenerate-facets"),
-                        text::counted(loops->degenerateCount(), "loop", "loops") + " of fewer than three different points");
+        rebuilding.note(geometryRule("degenerate-facets"), text::counted(loops->degenerateCount(), "loop", "loops") +
+                                                               " of fewer than three different points");
     if (isCalledClosed(faceSet) && !isSolid)
         rebuilding.note(geometryRule("closed-face-sets"), "Its edges are not passed once in each direction");
 }
@@ -153,21 +153,32 @@ constexpr RebuildRule rules[] = {
     {{"face-sets", Effect::Rebuilt, "Tessellated face sets become faces bounded by polygons",
       "Every facet is a face over the same points; where each edge is passed once in each direction and the set is "
       "called closed they bound a solid, IfcFacetedBrep, else they are a surface, IfcShellBasedSurfaceModel"},
-     "IFCTESSELLATEDFACESET", becomesFaces, planFaces, rebuildFaces},
+     "IFCTESSELLATEDFACESET",
+     becomesFaces,
+     planFaces,
+     rebuildFaces},
     {{"facet-loops", Effect::Rebuilt, "Indexed polygonal faces become faces bounded by polygons",
       "What they said stands in the face that is made with their face set"},
-     "IFCINDEXEDPOLYGONALFACE", becomesPartOfSet},
+     "IFCINDEXEDPOLYGONALFACE",
+     becomesPartOfSet},
     {{"point-lists", Effect::Rebuilt, "Lists of points become points",
       "There is one IfcCartesianPoint for each, which faces and curves share as they shared its index"},
-     "IFCCARTESIANPOINTLIST", becomesPoints, nullptr, rebuildPoints},
-    {{"facet-normals", Effect::Lost, "Normals of facets are left out", "Faces bounded by polygons have none but their own"},
-     "IFCTESSELLATEDFACESET", notHere},
+     "IFCCARTESIANPOINTLIST",
+     becomesPoints,
+     nullptr,
+     rebuildPoints},
+    {{"facet-normals", Effect::Lost, "Normals of facets are left out",
+      "Faces bounded by polygons have none but their own"},
+     "IFCTESSELLATEDFACESET",
+     notHere},
     {{"degenerate-facets", Effect::Rebuilt, "Facets without area are left out",
       "Fewer than three different points bound no face, and nothing is missed where there was no area"},
-     "IFCTESSELLATEDFACESET", notHere},
+     "IFCTESSELLATEDFACESET",
+     notHere},
     {{"closed-face-sets", Effect::Lost, "Face sets that are called closed and are not become surfaces",
       "What their faces leave open bounds no solid"},
-     "IFCTESSELLATEDFACESET", notHere},
+     "IFCTESSELLATEDFACESET",
+     notHere},
 };
 
 } // namespace

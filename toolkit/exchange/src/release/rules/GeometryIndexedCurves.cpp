@@ -84,9 +84,7 @@ public:
         record.set("PARENTCURVE", reference(segment.isArc ? arc(segment.points) : line(segment.points)));
         return _rebuilding.add(record);
     }
-    bool areSame(std::uint32_t one, std::uint32_t other) const {
-        return one == other || point(one) == point(other);
-    }
+    bool areSame(std::uint32_t one, std::uint32_t other) const { return one == other || point(one) == point(other); }
 
 private:
     std::optional<Point> point(std::uint32_t place) const { return readPoint(_tuples[place]); }
@@ -151,8 +149,7 @@ RecordBuilder polyline(Rebuilding& rebuilding, const PointList& points, const st
         members.push_back(reference(first + segments.front().points.front()));
     }
     for (const Segment& segment : segments)
-        for (std::size_t i = 1; i < segment.points.size(); ++i)
-            members.push_back(reference(first + segment.points[i]));
+        for (std::size_t i = 1; i < segment.points.size(); ++i) members.push_back(reference(first + segment.points[i]));
     RecordBuilder record(rebuilding.target(), "IFCPOLYLINE");
     record.set("POINTS", listOf(members));
     return record;
@@ -183,7 +180,10 @@ constexpr RebuildRule rules[] = {
     {{"indexed-curves", Effect::Rebuilt, "Indexed polygonal curves become polylines, with arcs composite curves",
       "Lines go through the same points; an arc is the circle through its three points, trimmed at the first and the "
       "last of them, which no unit of angles can change"},
-     "IFCINDEXEDPOLYCURVE", becomesCurve, planCurve, rebuildCurve},
+     "IFCINDEXEDPOLYCURVE",
+     becomesCurve,
+     planCurve,
+     rebuildCurve},
 };
 
 } // namespace

@@ -53,16 +53,14 @@ constexpr ConversionRule advancedBreps = {
 constexpr ConversionRule curvedSurfaces = {"curved-surfaces", Effect::Lost,
                                            "Cylindrical, spherical, toroidal and B-spline surfaces are lost",
                                            "The release has planes and swept surfaces alone"};
-constexpr ConversionRule boundedSurfaces = {
-    "bounded-surfaces", Effect::Lost, "Surfaces bounded by curves are lost",
-    "The release has no bounds for them but those of planes and rectangles"};
+constexpr ConversionRule boundedSurfaces = {"bounded-surfaces", Effect::Lost, "Surfaces bounded by curves are lost",
+                                            "The release has no bounds for them but those of planes and rectangles"};
 constexpr ConversionRule surfaceCurves = {"surface-curves", Effect::Lost,
                                           "Curves given in the parameters of a surface are lost",
                                           "The release has no such parameters"};
 constexpr ConversionRule taperedSolids = {"tapered-solids", Effect::Lost, "Tapered extrusions and revolutions are lost",
                                           "The release sweeps one profile that stays what it is"};
-constexpr ConversionRule fillets = {"filleted-disks", Effect::Lost,
-                                    "Disks swept along a polygon with fillets are lost",
+constexpr ConversionRule fillets = {"filleted-disks", Effect::Lost, "Disks swept along a polygon with fillets are lost",
                                     "The release cannot say the curve with its fillets as one of lines"};
 constexpr ConversionRule referenceSweeps = {"reference-sweeps", Effect::Lost,
                                             "Profiles swept with a fixed or inclined reference are lost",
@@ -133,10 +131,40 @@ constexpr RebuildRule rules[] = {
     {facetColours, "IFCTEXTUREVERTEXLIST", lostWhereLacking},
 };
 
+constexpr WholeAggregate wholes[] = {
+    {"IFCCOMPOSITECURVE", "SEGMENTS"},
+    {"IFCPOLYLINE", "POINTS"},
+    {"IFCBSPLINECURVE", "CONTROLPOINTSLIST"},
+    {"IFCPOLYLOOP", "POLYGON"},
+    {"IFCEDGELOOP", "EDGELIST"},
+    {"IFCPATH", "EDGELIST"},
+    {"IFCFACE", "BOUNDS"},
+    {"IFCCLOSEDSHELL", "CFSFACES"},
+    {"IFCFACETEDBREPWITHVOIDS", "VOIDS"},
+    {"IFCADVANCEDBREPWITHVOIDS", "VOIDS"},
+    {"IFCPOLYGONALFACESET", "FACES"},
+    {"IFCARBITRARYPROFILEDEFWITHVOIDS", "INNERCURVES"},
+    {"IFCCOMPOSITEPROFILEDEF", "PROFILES"},
+    {"IFCCURVEBOUNDEDPLANE", "INNERBOUNDARIES"},
+    {"IFCCURVEBOUNDEDSURFACE", "BOUNDARIES"},
+    {"IFCANNOTATIONFILLAREA", "INNERBOUNDARIES"},
+    {"IFCSECTIONEDSPINE", "CROSSSECTIONS"},
+    {"IFCSECTIONEDSPINE", "CROSSSECTIONPOSITIONS"},
+    {"IFCSECTIONEDSOLID", "CROSSSECTIONS"},
+    {"IFCSECTIONEDSOLID", "CROSSSECTIONPOSITIONS"},
+    {"IFCSECTIONEDSURFACE", "CROSSSECTIONS"},
+    {"IFCSECTIONEDSURFACE", "CROSSSECTIONPOSITIONS"},
+    {"IFCOFFSETCURVEBYDISTANCES", "OFFSETVALUES"},
+};
+
 } // namespace
 
 std::span<const RebuildRule> lostGeometryRules() {
     return rules;
+}
+
+std::span<const WholeAggregate> wholeShapes() {
+    return wholes;
 }
 
 } // namespace velkor::exchange

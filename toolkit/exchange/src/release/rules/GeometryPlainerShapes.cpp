@@ -83,6 +83,11 @@ std::uint64_t addTuple(Rebuilding& rebuilding, std::string_view entity, std::str
     return rebuilding.add(record);
 }
 
+// What is more of the instance than the other entity says is said already.
+void carry(Rebuilding& rebuilding) {
+    rebuilding.become(rebuilding.carried(*rebuilding.successorOf(rebuilding.id())));
+}
+
 std::uint64_t makeMirror(Rebuilding& rebuilding) {
     RecordBuilder record(rebuilding.target(), "IFCCARTESIANTRANSFORMATIONOPERATOR2D");
     record.set("AXIS1", reference(addTuple(rebuilding, "IFCDIRECTION", "DIRECTIONRATIOS", {-1, 0, 0}, 2)));
@@ -122,38 +127,62 @@ void rebuildRenamedSpiral(Rebuilding& rebuilding) {
 }
 
 constexpr RebuildRule rules[] = {
-    {{"closed-composite-curves", Effect::Rebuilt, "Composite curves of a plane and of boundaries become composite curves",
+    {{"closed-composite-curves", Effect::Rebuilt,
+      "Composite curves of a plane and of boundaries become composite curves",
       "That they lie in a plane or in a surface is seen from their segments"},
-     "IFCCOMPOSITECURVE", becomesCompositeCurve},
+     "IFCCOMPOSITECURVE",
+     becomesCompositeCurve},
     {{"curve-segments-parameters", Effect::Rebuilt, "Segments with a parameter length of their own become plain ones",
       "The shape is the same; the parameters along the curve are those of the segments"},
-     "IFCREPARAMETRISEDCOMPOSITECURVESEGMENT", becomesSegment},
+     "IFCREPARAMETRISEDCOMPOSITECURVESEGMENT",
+     becomesSegment},
     {{"networks", Effect::Rebuilt, "Triangulated irregular networks become triangulated face sets",
       "The triangles are the same"},
-     "IFCTRIANGULATEDIRREGULARNETWORK", becomesTriangles},
+     "IFCTRIANGULATEDIRREGULARNETWORK",
+     becomesTriangles},
     {{"advanced-faces", Effect::Rebuilt, "Advanced faces become faces of a surface",
       "They have the same surface and bounds; what is more of them are rules that they keep"},
-     "IFCADVANCEDFACE", becomesFaceSurface},
+     "IFCADVANCEDFACE",
+     becomesFaceSurface},
     {{"subfaces", Effect::Rebuilt, "Subfaces become faces", "Their bounds say where they are"},
-     "IFCSUBFACE", becomesFace},
+     "IFCSUBFACE",
+     becomesFace},
     {{"mirrored-profiles", Effect::Rebuilt, "Mirrored profiles become derived ones",
       "The operator that mirrors at the vertical axis is what a mirrored profile goes without"},
-     "IFCMIRROREDPROFILEDEF", becomesDerivedProfile, nullptr, rebuildMirrored},
+     "IFCMIRROREDPROFILEDEF",
+     becomesDerivedProfile,
+     nullptr,
+     rebuildMirrored},
     {{"zero-radii", Effect::Converted, "A fillet or edge without radius is left out",
       "The release has positive radii alone, and none at all for sharp edges"},
-     "IFCPARAMETERIZEDPROFILEDEF", becomesSharp, nullptr, rebuildSharp},
+     "IFCPARAMETERIZEDPROFILEDEF",
+     becomesSharp,
+     nullptr,
+     rebuildSharp},
     {{"polygonal-disks", Effect::Rebuilt, "Disks swept along a polygon become disks swept along a curve",
       "Without a fillet there is nothing more to the polygon than to any curve"},
-     "IFCSWEPTDISKSOLIDPOLYGONAL", becomesDisk},
+     "IFCSWEPTDISKSOLIDPOLYGONAL",
+     becomesDisk,
+     nullptr,
+     carry},
     {{"untapered-extrusions", Effect::Rebuilt, "Tapered extrusions that end as they begin become extrusions",
       "Their two profiles are one"},
-     "IFCEXTRUDEDAREASOLIDTAPERED", becomesExtrusion},
+     "IFCEXTRUDEDAREASOLIDTAPERED",
+     becomesExtrusion,
+     nullptr,
+     carry},
     {{"untapered-revolutions", Effect::Rebuilt, "Tapered revolutions that end as they begin become revolutions",
       "Their two profiles are one"},
-     "IFCREVOLVEDAREASOLIDTAPERED", becomesRevolution},
+     "IFCREVOLVEDAREASOLIDTAPERED",
+     becomesRevolution,
+     nullptr,
+     carry},
     {{"cubic-terms", Effect::Rebuilt, "The cubic term of a spiral gets its other name",
       "A release candidate spelled it with a Q"},
-     "IFCTHIRDORDERPOLYNOMIALSPIRAL", becomesRenamedSpiral, nullptr, rebuildRenamedSpiral},
+     "IFCTHIRDORDERPOLYNOMIALSPIRAL",
+     becomesRenamedSpiral,
+     nullptr,
+     rebuildRenamedSpiral},
 };
 
 std::uint64_t makePlacement(Rebuilding& rebuilding, std::string_view entity, std::size_t dimension) {
@@ -163,15 +192,13 @@ std::uint64_t makePlacement(Rebuilding& rebuilding, std::string_view entity, std
 }
 
 std::optional<std::string> originOfPlane(Rebuilding& rebuilding) {
-    return reference(rebuilding.shared("placement in a plane", [](Rebuilding& maker) {
-        return makePlacement(maker, "IFCAXIS2PLACEMENT2D", 2);
-    }));
+    return reference(rebuilding.shared(
+        "placement in a plane", [](Rebuilding& maker) { return makePlacement(maker, "IFCAXIS2PLACEMENT2D", 2); }));
 }
 
 std::optional<std::string> originOfSpace(Rebuilding& rebuilding) {
-    return reference(rebuilding.shared("placement in space", [](Rebuilding& maker) {
-        return makePlacement(maker, "IFCAXIS2PLACEMENT3D", 3);
-    }));
+    return reference(rebuilding.shared(
+        "placement in space", [](Rebuilding& maker) { return makePlacement(maker, "IFCAXIS2PLACEMENT3D", 3); }));
 }
 
 // An edge's vertex at the start or the end of an oriented edge.

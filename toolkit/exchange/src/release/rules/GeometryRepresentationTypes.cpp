@@ -43,9 +43,7 @@ const std::vector<RepresentationType>& representationTypes() {
         {"BoundingBox", {"IFCBOUNDINGBOX"}, {"IFCBOUNDINGBOX"}},
         {"SectionedSpine", {"IFCSECTIONEDSPINE"}, {"IFCSECTIONEDSPINE"}},
         {"MappedRepresentation", {"IFCMAPPEDITEM"}, {"IFCMAPPEDITEM"}},
-        {"GeometricCurveSet",
-         {"IFCGEOMETRICSET", "IFCPOINT", "IFCCURVE"},
-         {"IFCGEOMETRICSET", "IFCPOINT", "IFCCURVE"}},
+        {"GeometricCurveSet", {"IFCGEOMETRICSET", "IFCPOINT", "IFCCURVE"}, {"IFCGEOMETRICSET", "IFCPOINT", "IFCCURVE"}},
         {"GeometricSet",
          {"IFCGEOMETRICSET", "IFCPOINT", "IFCCURVE", "IFCSURFACE"},
          {"IFCGEOMETRICSET", "IFCPOINT", "IFCCURVE", "IFCSURFACE"}},
@@ -89,10 +87,10 @@ using Items = std::vector<const sdai::EntityDefinition*>;
 bool fits(const RepresentationType& type, const ReleaseSchema& release, const Items& items) {
     const bool isPlainSweep = type.name == "SweptSolid" && hasTessellation(release);
     return std::ranges::all_of(items, [&](const sdai::EntityDefinition* item) {
-        const bool isTapered = item->isKindOf("IFCEXTRUDEDAREASOLIDTAPERED") || item->isKindOf("IFCREVOLVEDAREASOLIDTAPERED");
-        return !(isPlainSweep && isTapered) && std::ranges::any_of(acceptedIn(type, release), [&](auto entity) {
-            return item->isKindOf(entity);
-        });
+        const bool isTapered =
+            item->isKindOf("IFCEXTRUDEDAREASOLIDTAPERED") || item->isKindOf("IFCREVOLVEDAREASOLIDTAPERED");
+        return !(isPlainSweep && isTapered) &&
+               std::ranges::any_of(acceptedIn(type, release), [&](auto entity) { return item->isKindOf(entity); });
     });
 }
 
@@ -160,7 +158,10 @@ void rebuildCalledSo(Rebuilding& rebuilding) {
 const RebuildRule rules[] = {
     {{"representation-types", Effect::Converted, "Representations are called by what stands in them",
       "The types of representations are not the same in all releases, and each allows items of its own alone"},
-     "IFCSHAPEREPRESENTATION", becomesCalledSo, planPoints, rebuildCalledSo},
+     "IFCSHAPEREPRESENTATION",
+     becomesCalledSo,
+     planPoints,
+     rebuildCalledSo},
 };
 
 std::optional<std::vector<std::string>> asPoints(Rebuilding& rebuilding, std::string_view encoded, const sdai::Type&,

@@ -20,7 +20,7 @@ std::vector<RebuildRule> allRules() {
 
 RuleTable geometryRules() {
     static const std::vector<RebuildRule> all = allRules();
-    return {.rebuild = all, .values = geometryValues(), .defaults = geometryDefaults()};
+    return {.rebuild = all, .values = geometryValues(), .defaults = geometryDefaults(), .wholes = wholeShapes()};
 }
 
 const ConversionRule& geometryRule(std::string_view name) {

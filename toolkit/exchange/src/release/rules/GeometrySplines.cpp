@@ -180,13 +180,22 @@ constexpr RebuildRule rules[] = {
     {{"splines-to-bezier", Effect::Rebuilt, "B-spline curves with knots become chains of Bezier curves",
       "Knots put in until each segment has its own change nothing of the shape; the parameters of the segments follow "
       "each other at a distance of one then"},
-     "IFCBSPLINECURVEWITHKNOTS", becomesBezier, planBezier, rebuildBezier},
+     "IFCBSPLINECURVEWITHKNOTS",
+     becomesBezier,
+     planBezier,
+     rebuildBezier},
     {{"bezier-to-splines", Effect::Rebuilt, "Bezier curves become B-spline curves with knots",
       "A chain of Bezier curves is the B-spline whose knots lie one from each other, as often as its degree says"},
-     "IFCBEZIERCURVE", becomesKnotted, planBezierKnots, rebuildBezierKnots},
+     "IFCBEZIERCURVE",
+     becomesKnotted,
+     planBezierKnots,
+     rebuildBezierKnots},
     {{"uniform-curves", Effect::Rebuilt, "Uniform B-spline curves get the knots that they go without",
       "They lie one from each other, from minus the degree on"},
-     "IFCUNIFORMCURVE", becomesKnotted, planUniformKnots, rebuildUniformKnots},
+     "IFCUNIFORMCURVE",
+     becomesKnotted,
+     planUniformKnots,
+     rebuildUniformKnots},
 };
 
 } // namespace

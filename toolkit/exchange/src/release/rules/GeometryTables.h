@@ -16,6 +16,7 @@ std::span<const RebuildRule> representationTypeRules();
 std::span<const RebuildRule> lostGeometryRules();
 std::span<const DefaultRule> geometryDefaults();
 std::span<const ValueRule> geometryValues();
+std::span<const WholeAggregate> wholeShapes();
 
 /// The rule of the table that has a name.
 const ConversionRule& geometryRule(std::string_view name);
