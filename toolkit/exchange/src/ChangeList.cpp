@@ -39,8 +39,17 @@ std::vector<RuleUse> ChangeList::uses(std::span<const ConversionRule* const> ord
     for (const ConversionRule* rule : order) {
         const auto found = _uses.find(rule->name);
         if (found == _uses.end()) continue;
-        result.push_back(found->second);
-        std::ranges::stable_sort(result.back().first, {}, &Change::line);
+        const auto same = std::ranges::find(result, rule->name, [](const RuleUse& use) { return use.rule->name; });
+        if (same == result.end()) {
+            result.push_back(found->second);
+            continue;
+        }
+        same->count += found->second.count;
+        same->first.insert(same->first.end(), found->second.first.begin(), found->second.first.end());
+    }
+    for (RuleUse& use : result) {
+        std::ranges::stable_sort(use.first, {}, &Change::line);
+        if (use.first.size() > _limit) use.first.resize(_limit);
     }
     return result;
 }

@@ -24,7 +24,8 @@ public:
     /// Of the file as a whole.
     void noteFile(const ConversionRule& rule, std::string detail);
 
-    /// In the order of the rules given; changes of one rule in file order.
+    /// In the order of the rules given; changes of one rule in file order. Rows of tables with the same name are one
+    /// rule, told once.
     std::vector<RuleUse> uses(std::span<const ConversionRule* const> order) const;
 
 private:

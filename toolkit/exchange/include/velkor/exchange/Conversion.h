@@ -116,7 +116,8 @@ struct FullReport : ConversionReport {
 VELKOR_TOOLKIT_API Converted<FullReport> convertModel(const sdai::Model& model, const ConversionOptions& options,
                                                       files::OutputFile& output);
 
-/// Every rule of a step, in the order of its tables.
+/// Every rule of a step, in the order of its tables. Names are those of one rule in a step, however many rows of a
+/// table, for one entity each, follow it.
 struct StepRules {
     std::string_view step;
     std::vector<const ConversionRule*> rules;
