@@ -72,9 +72,8 @@ TEST(ConvertCommand, AnswersAsOneObjectOnOutputOrInAFile) {
     const TemporaryFolder folder;
     const TemporaryModel model("IFC4", colours);
     const std::string result = folder / "result.ifc";
-    const Outcome outcome =
-        convert(model.path(),
-                {"-o", result, "--to", "2x3", "--format", "json", "--limit", "1", "--report", folder / "report.json"});
+    const Outcome outcome = convert(model.path(), {"-o", result, "--to", "2x3", "--format", "json", "--limit", "1",
+                                                   "--report", folder / "report.json"});
     EXPECT_EQ(outcome.status, Findings);
     EXPECT_EQ(contents(folder / "report.json"), outcome.out);
     const json answer = json::parse(outcome.out);

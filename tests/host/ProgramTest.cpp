@@ -43,8 +43,8 @@ TEST(Program, TellsItsVersionAndItsCommands) {
 
     const Outcome help = shell("velkor --help");
     EXPECT_EQ(help.status, 0);
-    for (const std::string command :
-         {"report", "check", "validate", "guid check", "units", "dictionary entity", "convert", "options", "resources"}) {
+    for (const std::string command : {"report", "check", "validate", "guid check", "units", "dictionary entity",
+                                      "convert", "options", "resources"}) {
         EXPECT_THAT(help.text, HasSubstr("\n  " + command.substr(0, command.find(' '))));
         const Outcome one = shell("velkor " + command + " --help");
         EXPECT_EQ(one.status, 0) << command;
@@ -106,7 +106,7 @@ TEST(Program, WritesAModelToStandardOutputAndSaysTheRestBesideIt) {
     EXPECT_EQ(full.status, 3);
     EXPECT_EQ(full.text, "velkor: standard output: cannot be written: No space left on device\n");
     // Half a model is no answer, also where the reader wants no more of it.
-    const Outcome closed = shell("{ { sleep 0.2; velkor convert " + house +
-                                 " -o - 2>/dev/null; echo $? >&3; } | exec true; } 3>&1");
+    const Outcome closed =
+        shell("{ { sleep 0.2; velkor convert " + house + " -o - 2>/dev/null; echo $? >&3; } | exec true; } 3>&1");
     EXPECT_EQ(closed.text, "3\n");
 }

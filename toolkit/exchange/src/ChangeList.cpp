@@ -1,6 +1,7 @@
 #include "ChangeList.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace velkor {
 
@@ -36,20 +37,12 @@ void ChangeList::add(RuleUse& use, std::uint32_t number, std::string detail) {
 
 std::vector<RuleUse> ChangeList::uses(std::span<const ConversionRule* const> order) const {
     std::vector<RuleUse> result;
+    std::unordered_set<std::string_view> told;
     for (const ConversionRule* rule : order) {
         const auto found = _uses.find(rule->name);
-        if (found == _uses.end()) continue;
-        const auto same = std::ranges::find(result, rule->name, [](const RuleUse& use) { return use.rule->name; });
-        if (same == result.end()) {
-            result.push_back(found->second);
-            continue;
-        }
-        same->count += found->second.count;
-        same->first.insert(same->first.end(), found->second.first.begin(), found->second.first.end());
-    }
-    for (RuleUse& use : result) {
-        std::ranges::stable_sort(use.first, {}, &Change::line);
-        if (use.first.size() > _limit) use.first.resize(_limit);
+        if (found == _uses.end() || !told.insert(rule->name).second) continue;
+        result.push_back(found->second);
+        std::ranges::stable_sort(result.back().first, {}, &Change::line);
     }
     return result;
 }

@@ -5,7 +5,6 @@
 
 #include <functional>
 #include <memory>
-#include <unordered_set>
 
 namespace velkor {
 
@@ -126,10 +125,7 @@ std::vector<StepRules> conversionRules() {
                               std::initializer_list<std::span<const ConversionRule* const>> all) {
         StepRules& rules = steps.emplace_back();
         rules.step = step;
-        std::unordered_set<std::string_view> names;
-        for (const auto& table : all)
-            for (const ConversionRule* rule : table)
-                if (names.insert(rule->name).second) rules.rules.push_back(rule);
+        for (const auto& table : all) rules.rules.insert(rules.rules.end(), table.begin(), table.end());
     };
     add("release", {exchange::releaseRules()});
     return steps;
