@@ -1,5 +1,5 @@
-// Any bytes as a model, converted as the first three of them say: what comes out is a model of the release asked for, in
-// which nothing is wrong where nothing was; every instance is accounted for; what was kept is what it was.
+// Any bytes as a model, converted as the first three of them say: what comes out is a model of the release asked for,
+// in which nothing is wrong where nothing was; every instance is accounted for; what was kept is what it was.
 
 #include "velkor/check/ModelCheck.h"
 #include "velkor/exchange/Conversion.h"

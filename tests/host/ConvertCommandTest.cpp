@@ -195,6 +195,34 @@ TEST(ConvertCommand, WhatCannotBeReadOrWrittenIsSaidAndLeavesNoFile) {
     EXPECT_EQ(contents(result), "before");
 }
 
+TEST(ConvertCommand, RepairsIdentifiersAndWritesWhichWereWhich) {
+    const TemporaryFolder folder;
+    const std::string result = folder / "result.ifc", map = folder / "map.csv";
+    const Outcome outcome = convert(example("broken.ifc"), {"-o", result, "--guids", "repair", "--guid-map", map});
+    EXPECT_EQ(outcome.status, Done);
+    EXPECT_EQ(runHost({"guid", "check", result}).status, Done);
+    const std::string text = contents(map), written = contents(result);
+    EXPECT_THAT(text, MatchesRegex("instance,before,after\r\n"
+                                   "161,09Uxp7RJnOiQp5Hl3DjntD,[0-3][0-9A-Za-z_$]{21}\r\n"
+                                   "177,79eczyxVvNXfwx5J1Yt5YO,[0-3][0-9A-Za-z_$]{21}\r\n"
+                                   "191,3JQWZuhgvMywGOvCgjps6,[0-3][0-9A-Za-z_$]{21}\r\n"));
+    for (std::size_t at = text.find("\r\n"); at + 4 < text.size(); at = text.find("\r\n", at + 2))
+        EXPECT_THAT(written, HasSubstr("('" + text.substr(text.find("\r\n", at + 2) - 22, 22) + "',"));
+}
+
+TEST(ConvertCommand, TakesIdentifiersFromPlmIdentifiers) {
+    const TemporaryModel model("IFC4", "#1=IFCWALL('0YvctVUKr0kugbFTf53O9L',$,'W',$,$,$,$,'DOOR-0815',$);\n");
+    for (const std::vector<std::string>& words : {std::vector<std::string>{"--guids", "from-plm", "Tag", model.path()},
+                                                  {"--guids=from-plm=Tag", model.path()},
+                                                  {model.path(), "--guids", "from-plm", "Tag"}}) {
+        const TemporaryFolder folder;
+        std::vector<std::string> line{"convert", "-o", folder / "result.ifc"};
+        line.insert(line.end(), words.begin(), words.end());
+        EXPECT_NE(runHost(line).status, BadUsage);
+        EXPECT_THAT(contents(folder / "result.ifc"), HasSubstr("('ahr4tSr4tS7FmRwXyNkCks',"));
+    }
+}
+
 TEST(ConvertCommand, ListsEveryRuleWithItsReason) {
     const Outcome page = runHost({"convert", "--rules"});
     EXPECT_EQ(page.status, Done);
@@ -207,7 +235,7 @@ TEST(ConvertCommand, ListsEveryRuleWithItsReason) {
             EXPECT_THAT(name, MatchesRegex("[a-z0-9]+(-[a-z0-9]+)*"));
             EXPECT_THAT(page.out, HasSubstr(name));
             EXPECT_TRUE(known.insert(step["step"].get<std::string>() + '/' + name).second) << name;
-            EXPECT_THAT(rule["effect"].get<std::string>(), MatchesRegex("converted|rebuilt|lost"));
+            EXPECT_THAT(rule["effect"].get<std::string>(), MatchesRegex("kept|converted|rebuilt|lost"));
             for (const char* text : {"what", "reason"}) {
                 EXPECT_THAT(rule[text].get<std::string>(), MatchesRegex("[A-Z].*[^.]")) << name;
             }

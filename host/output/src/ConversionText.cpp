@@ -40,6 +40,21 @@ Page::Style styleOf(Effect effect) {
     return effect == Effect::Lost ? Page::Style::Bad : Page::Style::Plain;
 }
 
+/// What is lost is what people look for, then what was not done.
+int rank(Effect effect) {
+    switch (effect) {
+    case Effect::Lost:
+        return 0;
+    case Effect::Kept:
+        return 1;
+    case Effect::Rebuilt:
+        return 2;
+    case Effect::Converted:
+        break;
+    }
+    return 3;
+}
+
 std::string placeText(const Change& change) {
     if (change.id == 0) return change.detail;
     std::string text(1, '#');
@@ -57,7 +72,7 @@ void writePlaces(Page& page, const RuleUse& use) {
 }
 
 void writeUse(Page& page, const RuleUse& use, bool allPlaces) {
-    const bool isLoss = use.rule->effect == Effect::Lost;
+    const bool isWarning = rank(use.rule->effect) < 2;
     std::string text(use.rule->what);
     ((text += " [") += use.rule->name) += ']';
     const auto lines = wrapped(text, Page::width - ruleIndent, 4);
@@ -66,16 +81,15 @@ void writeUse(Page& page, const RuleUse& use, bool allPlaces) {
         page.line({Page::Span(i == 0 ? label : std::string(label.size(), ' '), styleOf(use.rule->effect)),
                    Page::Span(lines[i])});
     }
-    if (isLoss) page.paragraph("why: " + std::string(use.rule->reason), ruleIndent);
-    if (isLoss || allPlaces) writePlaces(page, use);
+    if (isWarning) page.paragraph("why: " + std::string(use.rule->reason), ruleIndent);
+    if (isWarning || allPlaces) writePlaces(page, use);
 }
 
 void writeStep(Page& page, const StepReport& step, bool allPlaces) {
     page.section(upperFirst(step.step), counts(step), step.lost > 0 ? Page::Style::Bad : Page::Style::Plain);
     std::vector<const RuleUse*> uses;
     for (const RuleUse& use : step.uses) uses.push_back(&use);
-    // What is lost is what people look for.
-    std::ranges::stable_sort(uses, std::greater<>(), [](const RuleUse* use) { return use->rule->effect; });
+    std::ranges::stable_sort(uses, {}, [](const RuleUse* use) { return rank(use->rule->effect); });
     for (const RuleUse* use : uses) writeUse(page, *use, allPlaces);
 }
 

@@ -1,5 +1,6 @@
 #include "velkor/exchange/Conversion.h"
 
+#include "identifiers/IdentifierRules.h"
 #include "release/ReleaseRules.h"
 #include "velkor/files/ScratchFile.h"
 
@@ -128,6 +129,7 @@ std::vector<StepRules> conversionRules() {
         for (const auto& table : all) rules.rules.insert(rules.rules.end(), table.begin(), table.end());
     };
     add("release", {exchange::releaseRules()});
+    add("identifiers", {exchange::identifierRules()});
     return steps;
 }
 
