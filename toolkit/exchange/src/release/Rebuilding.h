@@ -8,6 +8,7 @@
 #include "velkor/exchange/ConversionReport.h"
 #include "velkor/sdai/Model.h"
 
+#include <any>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -58,6 +59,12 @@ public:
     void setLater(std::uint64_t id, std::string_view attribute, std::string encoded);
     /// An instance of the target, at the end of the file.
     std::uint64_t add(const RecordBuilder& record);
+    /// What rules remember of an instance until the end of the conversion, for Rebuilding::remembered() too; empty at
+    /// first. For what many instances want to know of one that is large.
+    std::any& remembered(std::uint64_t id);
+    /// To be asked by rules that say for each of its users what one instance said once: whether so many bytes more may
+    /// be written. The sum is bounded by a multiple of the file's size.
+    bool affords(std::uint64_t bytes);
     /// The ids of the instances that refer to one, in file order, each once. The first call looks through the file.
     std::vector<std::uint64_t> users(std::uint64_t id);
 
@@ -91,6 +98,9 @@ public:
     virtual const sdai::EntityDefinition* successorOf(std::uint64_t id) const = 0;
     /// First of the ids that were reserved for an instance; 0 when none were.
     virtual std::uint64_t reserved(std::uint64_t id) const = 0;
+
+    /// What rules remembered of an instance.
+    virtual std::any& remembered(std::uint64_t id) = 0;
 
     /// What stands in the place of the instance; without a call what carried() gives.
     virtual void become(const RecordBuilder& record) = 0;

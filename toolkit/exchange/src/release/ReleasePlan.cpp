@@ -187,6 +187,20 @@ std::uint64_t Planning::reserve(std::uint64_t id, std::uint64_t count) {
     return found->second;
 }
 
+std::any& Planning::remembered(std::uint64_t id) {
+    return _plan.remembered(id);
+}
+
+bool Planning::affords(std::uint64_t bytes) {
+    // A file of some lines may say much; one that fills a disk from a few is none that anybody means.
+    constexpr std::uint64_t base = 64U << 20U;
+    constexpr std::uint64_t multiple = 32;
+    const std::uint64_t limit = base + multiple * _plan._model.file().text().size();
+    if (bytes > limit - _plan._granted) return false;
+    _plan._granted += bytes;
+    return true;
+}
+
 void Planning::decide(std::uint64_t id, Successor successor) {
     const auto number = _plan._model.file().find(id);
     if (!number) return;

@@ -7,6 +7,7 @@
 #include "velkor/sdai/Part21Edit.h"
 #include "velkor/sdai/ReferenceIndex.h"
 
+#include <any>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -65,6 +66,7 @@ public:
     bool referencesFit(const sdai::EntityDefinition& from, const sdai::Type& to) const;
 
     std::uint64_t reserved(std::uint64_t id) const;
+    std::any& remembered(std::uint64_t id) { return _remembered[id]; }
     struct Later {
         std::string attribute;
         std::string encoded;
@@ -98,6 +100,9 @@ private:
     // Those that Planning::decide() was called for.
     std::unordered_map<std::uint32_t, bool> _decided;
     std::unordered_map<std::uint64_t, std::uint64_t> _reserved;
+    std::unordered_map<std::uint64_t, std::any> _remembered;
+    // Bytes that Planning::affords() granted.
+    std::uint64_t _granted = 0;
     std::unordered_map<std::uint32_t, std::vector<Later>> _later;
     bool _anyGone = false;
     mutable std::unique_ptr<sdai::ReferenceIndex> _index;

@@ -59,6 +59,7 @@ private:
     RecordBuilder carried(const sdai::EntityDefinition& entity) override;
     const sdai::EntityDefinition* successorOf(std::uint64_t id) const override;
     std::uint64_t reserved(std::uint64_t id) const override { return _plan.reserved(id); }
+    std::any& remembered(std::uint64_t id) override { return _plan.remembered(id); }
     void become(const RecordBuilder& record) override;
     std::uint64_t add(const RecordBuilder& record) override { return add(record.text()); }
     void add(std::uint64_t id, const RecordBuilder& record) override { add(id, record.text()); }

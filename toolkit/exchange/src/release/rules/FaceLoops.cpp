@@ -23,6 +23,14 @@ std::optional<FaceLoops> FaceLoops::of(const sdai::Model& model, const DXSdaiApp
     return loops;
 }
 
+std::uint64_t FaceLoops::sharedSize(const sdai::Model& model, const DXSdaiAppInstance& faceSet) {
+    std::uint64_t size = 0;
+    for (const sdai::Primitive face : faceSet.GetAttr("FACES").asAggregate())
+        if (const auto number = model.file().find(sdai::decodeInstanceName(face.encoded())))
+            size += model.file().instanceText(*number).size();
+    return size;
+}
+
 bool FaceLoops::takeTriangles(std::string_view encoded) {
     sdai::Part21Lexer lexer(encoded);
     if (lexer.next().kind != sdai::TokenKind::Open) return false;

@@ -17,6 +17,9 @@ public:
     /// Of an IfcTriangulatedFaceSet or IfcPolygonalFaceSet; nothing when its indices were not understood.
     static std::optional<FaceLoops> of(const sdai::Model& model, const DXSdaiAppInstance& faceSet);
 
+    /// Bytes of the faces that the set shares with others, which each says anew: what Planning::affords() is asked for.
+    static std::uint64_t sharedSize(const sdai::Model& model, const DXSdaiAppInstance& faceSet);
+
     std::size_t faceCount() const noexcept { return _faceEnds.size(); }
     /// Calls `each(std::span<const std::uint32_t> loop, bool isOuter)` with the loops of a face.
     template <class Each>

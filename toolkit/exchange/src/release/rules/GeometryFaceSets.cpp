@@ -30,18 +30,19 @@ Successor becomesFaces(const Releases& releases, DXSdaiAppInstance& faceSet) {
 
 bool planFaces(Planning& planning, DXSdaiAppInstance& faceSet) {
     const std::optional<PointList> points = PointList::of(faceSet, "COORDINATES");
-    if (!points || points->dimension != 3) return false;
+    if (!points || points->dimension() != 3) return false;
+    const std::optional<std::uint64_t> count = points->count(planning);
+    if (!count || !planning.affords(FaceLoops::sharedSize(planning.source(), faceSet))) return false;
     const std::optional<FaceLoops> loops = FaceLoops::of(planning.source(), faceSet);
-    if (!loops || loops->faceCount() == 0) return false;
-    const std::optional<std::uint64_t> count = points->count();
-    return count && loops->pointBound() <= *count && planning.reserve(points->id, *count) != 0;
+    if (!loops || loops->faceCount() == 0 || loops->pointBound() > *count) return false;
+    return planning.reserve(points->id(), *count) != 0;
 }
 
 /// Writes faces, one after the other.
 class FaceWriter {
 public:
     FaceWriter(Rebuilding& rebuilding, const PointList& points)
-        : _rebuilding(rebuilding), _points(points), _first(rebuilding.reserved(points.id)) {}
+        : _rebuilding(rebuilding), _points(points), _first(rebuilding.reserved(points.id())) {}
 
     std::uint64_t face(const FaceLoops& loops, std::size_t face) {
         _bounds.assign("IFCFACE((");
@@ -84,13 +85,8 @@ private:
     }
 
     std::uint64_t twin(std::uint32_t point) {
-        if (_tuples.empty())
-            readTuples(_points.coordinates, _points.dimension, [this](std::string_view tuple) {
-                _tuples.push_back(tuple);
-                return true;
-            });
         std::string record("IFCCARTESIANPOINT(");
-        (record += _tuples[point]) += ')';
+        (record += _points.tuple(_rebuilding, point)) += ')';
         return _rebuilding.add(std::string_view(record));
     }
 
@@ -100,7 +96,6 @@ private:
     std::string _bounds;
     std::string _record;
     std::vector<std::uint32_t> _sorted;
-    std::vector<std::string_view> _tuples;
 };
 
 void rebuildFaces(Rebuilding& rebuilding) {
@@ -136,12 +131,12 @@ Successor becomesPoints(const Releases& releases, DXSdaiAppInstance&) {
 void rebuildPoints(Rebuilding& rebuilding) {
     const std::optional<PointList> points = PointList::of(rebuilding.instance());
     std::uint64_t id = rebuilding.reserved(rebuilding.id());
-    if (!points || !id) return;
+    // Of several lists with one id the first is meant by all.
+    if (!points || !id || rebuilding.source().instance(rebuilding.id()) != &rebuilding.instance()) return;
     std::string record;
-    readTuples(points->coordinates, points->dimension, [&](std::string_view tuple) {
+    points->eachTuple([&](std::string_view tuple) {
         ((record.assign("IFCCARTESIANPOINT(")) += tuple) += ')';
         rebuilding.add(id++, std::string_view(record));
-        return true;
     });
 }
 

@@ -56,26 +56,23 @@ Successor becomesCurve(const Releases& releases, DXSdaiAppInstance& curve) {
 bool planCurve(Planning& planning, DXSdaiAppInstance& curve) {
     const std::optional<PointList> points = PointList::of(curve, "POINTS");
     const std::optional<std::vector<Segment>> segments = readSegments(curve);
-    const std::optional<std::uint64_t> count = points ? points->count() : std::nullopt;
-    if (!segments || !count || (segments->empty() && *count < 2)) return false;
+    const std::optional<std::uint64_t> count = points ? points->count(planning) : std::nullopt;
+    if (!segments || !count) return false;
+    // A reference to each point, of ten bytes or so.
+    if (segments->empty() && (*count < 2 || !planning.affords(10 * *count))) return false;
     for (const Segment& segment : *segments) {
         if (std::ranges::max(segment.points) >= *count) return false;
         // Two points say nothing of the circle that leads back to the first.
         if (segment.isArc && segment.points.front() == segment.points.back()) return false;
     }
-    return planning.reserve(points->id, *count) != 0;
+    return planning.reserve(points->id(), *count) != 0;
 }
 
 /// Writes the segments of a curve, one after the other.
 class SegmentWriter {
 public:
     SegmentWriter(Rebuilding& rebuilding, const PointList& points)
-        : _rebuilding(rebuilding), _points(points), _first(rebuilding.reserved(points.id)) {
-        readTuples(points.coordinates, points.dimension, [this](std::string_view tuple) {
-            _tuples.push_back(tuple);
-            return true;
-        });
-    }
+        : _rebuilding(rebuilding), _points(points), _first(rebuilding.reserved(points.id())) {}
 
     std::uint64_t add(const Segment& segment, bool isLast) {
         RecordBuilder record(_rebuilding.target(), "IFCCOMPOSITECURVESEGMENT");
@@ -87,7 +84,7 @@ public:
     bool areSame(std::uint32_t one, std::uint32_t other) const { return one == other || point(one) == point(other); }
 
 private:
-    std::optional<Point> point(std::uint32_t place) const { return readPoint(_tuples[place]); }
+    std::optional<Point> point(std::uint32_t place) const { return readPoint(_points.tuple(_rebuilding, place)); }
     std::string pointReference(std::uint32_t place) const { return reference(_first + place); }
 
     std::uint64_t line(const std::vector<std::uint32_t>& points) {
@@ -109,13 +106,13 @@ private:
         record.set("TRIM1", listOf({pointReference(points[0])}));
         record.set("TRIM2", listOf({pointReference(points[2])}));
         // In space the axis is put so that the arc runs with its circle.
-        record.set("SENSEAGREEMENT", enumerator(_points.dimension == 3 || found->axis[2] > 0 ? "T" : "F"));
+        record.set("SENSEAGREEMENT", enumerator(_points.dimension() == 3 || found->axis[2] > 0 ? "T" : "F"));
         record.set("MASTERREPRESENTATION", enumerator("CARTESIAN"));
         return _rebuilding.add(record);
     }
 
     std::uint64_t circle(const CircularArc& arc) {
-        const bool isInSpace = _points.dimension == 3;
+        const bool isInSpace = _points.dimension() == 3;
         RecordBuilder placement(_rebuilding.target(), isInSpace ? "IFCAXIS2PLACEMENT3D" : "IFCAXIS2PLACEMENT2D");
         placement.set("LOCATION", reference(add("IFCCARTESIANPOINT", "COORDINATES", arc.centre)));
         if (isInSpace) placement.set("AXIS", reference(add("IFCDIRECTION", "DIRECTIONRATIOS", arc.axis)));
@@ -128,22 +125,21 @@ private:
 
     std::uint64_t add(std::string_view entity, std::string_view attribute, const Point& numbers) {
         RecordBuilder record(_rebuilding.target(), entity);
-        record.set(attribute, encodedTuple(numbers, _points.dimension));
+        record.set(attribute, encodedTuple(numbers, _points.dimension()));
         return _rebuilding.add(record);
     }
 
     Rebuilding& _rebuilding;
     PointList _points;
     std::uint64_t _first;
-    std::vector<std::string_view> _tuples;
 };
 
 // Through all points of the list when there are no segments.
 RecordBuilder polyline(Rebuilding& rebuilding, const PointList& points, const std::vector<Segment>& segments) {
-    const std::uint64_t first = rebuilding.reserved(points.id);
+    const std::uint64_t first = rebuilding.reserved(points.id());
     std::vector<std::string> members;
     if (segments.empty()) {
-        const std::uint64_t count = points.count().value_or(0);
+        const std::uint64_t count = points.count(rebuilding).value_or(0);
         for (std::uint64_t i = 0; i < count; ++i) members.push_back(reference(first + i));
     } else {
         members.push_back(reference(first + segments.front().points.front()));

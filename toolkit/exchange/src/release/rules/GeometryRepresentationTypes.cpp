@@ -129,7 +129,8 @@ bool planPoints(Planning& planning, DXSdaiAppInstance& representation) {
     for (const sdai::Primitive item : representation.GetAttr("ITEMS").asAggregate()) {
         const DXSdaiAppInstance* instance = item.asInstance();
         const std::optional<PointList> points = instance ? PointList::of(*instance) : std::nullopt;
-        if (const auto count = points ? points->count() : std::nullopt) planning.reserve(points->id, *count);
+        const std::optional<std::uint64_t> count = points ? points->count(planning) : std::nullopt;
+        if (count && planning.affords(10 * *count)) planning.reserve(points->id(), *count);
     }
     return true;
 }
@@ -175,7 +176,7 @@ std::optional<std::vector<std::string>> asPoints(Rebuilding& rebuilding, std::st
     const std::optional<PointList> points = list ? PointList::of(*list) : std::nullopt;
     if (!points) return std::nullopt;
     std::vector<std::string> members;
-    const std::uint64_t count = points->count().value_or(0);
+    const std::uint64_t count = points->count(rebuilding).value_or(0);
     for (std::uint64_t i = 0; i < count; ++i) members.push_back(reference(first + i));
     return members;
 }

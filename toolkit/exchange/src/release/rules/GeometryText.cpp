@@ -50,7 +50,11 @@ std::optional<std::vector<double>> readNumbers(std::string_view encoded) {
 std::optional<PointList> PointList::of(const DXSdaiAppInstance& list) {
     const bool isInSpace = list.IsKindOf("IFCCARTESIANPOINTLIST3D");
     if (!isInSpace && !list.IsKindOf("IFCCARTESIANPOINTLIST2D")) return std::nullopt;
-    return PointList{list.id(), isInSpace ? 3U : 2U, list.GetAttr("COORDLIST").encoded()};
+    PointList points;
+    points._id = list.id();
+    points._dimension = isInSpace ? 3 : 2;
+    points._coordinates = list.GetAttr("COORDLIST").encoded();
+    return points;
 }
 
 std::optional<PointList> PointList::of(const DXSdaiAppInstance& user, std::string_view attribute) {
@@ -58,10 +62,22 @@ std::optional<PointList> PointList::of(const DXSdaiAppInstance& user, std::strin
     return list ? of(*list) : std::nullopt;
 }
 
-std::optional<std::uint64_t> PointList::count() const {
+PointList::Found PointList::found(bool withOffsets) const {
+    Found result;
     std::uint64_t points = 0;
-    const bool isSound = readTuples(coordinates, dimension, [&](std::string_view) { return ++points > 0; });
-    return isSound ? std::optional(points) : std::nullopt;
+    const bool isSound = readTuples(_coordinates, _dimension, [&](std::string_view tuple) {
+        ++points;
+        if (withOffsets) result.offsets.push_back(static_cast<std::size_t>(tuple.data() - _coordinates.data()));
+        return true;
+    });
+    if (isSound) result.count = points;
+    return result;
+}
+
+std::string_view PointList::tupleAt(std::size_t offset) const {
+    sdai::Part21Lexer lexer(_coordinates.substr(offset));
+    lexer.skipParameter();
+    return _coordinates.substr(offset, static_cast<std::size_t>(lexer.position() - _coordinates.data()) - offset);
 }
 
 std::optional<Point> readPoint(std::string_view tuple) {

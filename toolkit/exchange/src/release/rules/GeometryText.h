@@ -4,6 +4,7 @@
 #include "velkor/sdai/Model.h"
 #include "velkor/sdai/Part21Lexer.h"
 
+#include <any>
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -45,16 +46,55 @@ bool readTuples(std::string_view encoded, std::size_t dimension, Each each) {
 std::optional<std::vector<double>> readNumbers(std::string_view encoded);
 
 /// A list of points as the file has it.
-struct PointList {
-    std::uint64_t id = 0;
-    std::size_t dimension = 0;
-    std::string_view coordinates;
-
+class PointList {
+public:
     /// Of what an attribute refers to; nothing when that is no list of points.
     static std::optional<PointList> of(const DXSdaiAppInstance& user, std::string_view attribute);
     static std::optional<PointList> of(const DXSdaiAppInstance& list);
-    /// Nothing when not all of it was understood.
-    std::optional<std::uint64_t> count() const;
+
+    std::uint64_t id() const noexcept { return _id; }
+    std::size_t dimension() const noexcept { return _dimension; }
+    /// Calls `each(text)` with the coordinates of each point, "(0.,1.5)"; what behind a mistake is, is left out.
+    template <class Each>
+    void eachTuple(Each each) const {
+        readTuples(_coordinates, _dimension, [&](std::string_view tuple) {
+            each(tuple);
+            return true;
+        });
+    }
+    /// How many there are; nothing when not all of it was understood. `memory`, Planning or Rebuilding, remembers what
+    /// was found in a long list.
+    template <class Memory>
+    std::optional<std::uint64_t> count(Memory& memory) const {
+        if (isShort()) return found(false).count;
+        std::any& remembered = memory.remembered(_id);
+        if (!remembered.has_value()) remembered = found(false);
+        return std::any_cast<const Found&>(remembered).count;
+    }
+    /// The coordinates of a point, of which the list must have more.
+    template <class Memory>
+    std::string_view tuple(Memory& memory, std::uint64_t place) const {
+        if (isShort()) return tupleAt(found(true).offsets[place]);
+        std::any& remembered = memory.remembered(_id);
+        if (!remembered.has_value() || std::any_cast<const Found&>(remembered).offsets.empty())
+            remembered = found(true);
+        return tupleAt(std::any_cast<const Found&>(remembered).offsets[place]);
+    }
+
+private:
+    struct Found {
+        std::optional<std::uint64_t> count;
+        // Where the tuple of each point begins; empty as long as nobody asked.
+        std::vector<std::size_t> offsets;
+    };
+
+    bool isShort() const noexcept { return _coordinates.size() < 4096; }
+    Found found(bool withOffsets) const;
+    std::string_view tupleAt(std::size_t offset) const;
+
+    std::uint64_t _id = 0;
+    std::size_t _dimension = 0;
+    std::string_view _coordinates;
 };
 
 /// In space; the last is 0 for one of a plane.
