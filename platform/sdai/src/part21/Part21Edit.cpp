@@ -281,9 +281,10 @@ Part21Edit::Result<void> Part21Edit::setHeader(const FileHeader& header) {
     State& state = *_state;
     std::vector<Patch> patches;
     std::vector<const std::pair<std::string_view, std::string>*> found;
-    Part21Lexer lexer(state.text);
+    // In a damaged file more of them may follow a section that ended early, and be those that readers go by.
+    Part21Lexer lexer(state.text.substr(0, state.file.instanceCount() > 0 ? state.file.offset(0) : state.text.size()));
     bool isFirst = true;
-    for (Token token = lexer.next(); token.kind != TokenKind::End && token.text != "ENDSEC"; token = lexer.next()) {
+    for (Token token = lexer.next(); token.kind != TokenKind::End; token = lexer.next()) {
         const bool isStatement = isFirst;
         isFirst = token.kind == TokenKind::Semicolon;
         if (!isStatement || token.kind != TokenKind::Keyword || token.text == "DATA") continue;

@@ -122,11 +122,13 @@ TEST(Edit, WritesTheHeaderAnewAndKeepsWhatElseStandsThere) {
               withHeader("/* a */ FILE_DESCRIPTION(('a''b','\\X2\\00E4\\X0\\'),'2;1'); /* FILE_NAME( */\n"
                          "FILE_NAME('n','t',('Ada'),(''),'p','o','z');FILE_SCHEMA(('NEW'));\n"
                          "OTHER('x');\n"));
-    const std::string lacking = withHeader("FILE_SCHEMA(('OLD'));\n");
-    const auto other = read(lacking);
-    Part21Edit refusing(*other);
-    EXPECT_FALSE(refusing.setHeader(header));
-    EXPECT_EQ(written(refusing), lacking);
+    const std::string more = "FILE_DESCRIPTION((''),'2;1');FILE_NAME('','',(''),(''),'','','');FILE_SCHEMA(('OLD'));";
+    for (const std::string& wrong : {withHeader("FILE_SCHEMA(('OLD'));\n"), withHeader(more + "ENDSEC;" + more)}) {
+        const auto other = read(wrong);
+        Part21Edit refusing(*other);
+        EXPECT_FALSE(refusing.setHeader(header));
+        EXPECT_EQ(written(refusing), wrong);
+    }
 }
 
 TEST(Edit, CopiesEveryModelByteByByteAndWritesOverItsOwnSource) {
