@@ -2,6 +2,7 @@
 #include "release/rules/CircularArc.h"
 #include "release/rules/GeometryTables.h"
 #include "release/rules/GeometryText.h"
+#include "release/rules/IndexedSegments.h"
 
 #include "velkor/sdai/Part21Encoding.h"
 
@@ -13,49 +14,17 @@ namespace velkor::exchange {
 
 namespace {
 
-/// A part of a curve: points by their places in the list, from 0.
-struct Segment {
-    bool isArc = false;
-    std::vector<std::uint32_t> points;
-};
-
-/// The segments as the file has them; none when the curve goes through all points of its list. Nothing when they were
-/// not understood or do not follow each other.
-std::optional<std::vector<Segment>> readSegments(const DXSdaiAppInstance& curve) {
-    std::vector<Segment> segments;
-    const sdai::Primitive encoded = curve.GetAttr("SEGMENTS");
-    if (!encoded.isSet()) return segments;
-    sdai::Part21Lexer lexer(encoded.encoded());
-    if (lexer.next().kind != sdai::TokenKind::Open) return std::nullopt;
-    for (sdai::TokenKind behind = sdai::TokenKind::Comma; behind == sdai::TokenKind::Comma;) {
-        const sdai::Token type = lexer.next();
-        Segment segment{type.text == "IFCARCINDEX", {}};
-        if (type.kind != sdai::TokenKind::Keyword || (!segment.isArc && type.text != "IFCLINEINDEX"))
-            return std::nullopt;
-        if (lexer.next().kind != sdai::TokenKind::Open || !readIndices(lexer, segment.points)) return std::nullopt;
-        if (lexer.next().kind != sdai::TokenKind::Close) return std::nullopt;
-        if (segment.isArc ? segment.points.size() != 3 : segment.points.size() < 2) return std::nullopt;
-        if (!segments.empty() && segments.back().points.back() != segment.points.front()) return std::nullopt;
-        segments.push_back(std::move(segment));
-        behind = lexer.next().kind;
-        if (behind != sdai::TokenKind::Comma && behind != sdai::TokenKind::Close) return std::nullopt;
-    }
-    return segments;
-}
-
-bool hasArcs(const std::vector<Segment>& segments) {
-    return std::ranges::any_of(segments, &Segment::isArc);
-}
+using Segment = IndexedSegment;
 
 Successor becomesCurve(const Releases& releases, DXSdaiAppInstance& curve) {
     if (releases.target.entity("IFCINDEXEDPOLYCURVE")) return Successor::notHere();
-    const std::optional<std::vector<Segment>> segments = readSegments(curve);
+    const std::optional<std::vector<Segment>> segments = Segment::of(curve);
     return Successor::of(releases, segments && hasArcs(*segments) ? "IFCCOMPOSITECURVE" : "IFCPOLYLINE");
 }
 
 bool planCurve(Planning& planning, DXSdaiAppInstance& curve) {
     const std::optional<PointList> points = PointList::of(curve, "POINTS");
-    const std::optional<std::vector<Segment>> segments = readSegments(curve);
+    const std::optional<std::vector<Segment>> segments = Segment::of(curve);
     const std::optional<std::uint64_t> count = points ? points->count(planning) : std::nullopt;
     if (!segments || !count) return false;
     // A reference to each point, of ten bytes or so.
@@ -166,7 +135,7 @@ RecordBuilder compositeCurve(Rebuilding& rebuilding, const PointList& points, co
 
 void rebuildCurve(Rebuilding& rebuilding) {
     const std::optional<PointList> points = PointList::of(rebuilding.instance(), "POINTS");
-    const std::optional<std::vector<Segment>> segments = readSegments(rebuilding.instance());
+    const std::optional<std::vector<Segment>> segments = Segment::of(rebuilding.instance());
     if (!points || !segments) return;
     rebuilding.become(hasArcs(*segments) ? compositeCurve(rebuilding, *points, *segments)
                                          : polyline(rebuilding, *points, *segments));

@@ -37,12 +37,6 @@ bool isZero(std::string_view encoded) {
     return sdai::decodeReal(encoded, value) && value == 0;
 }
 
-Successor becomesDisk(const Releases& releases, DXSdaiAppInstance& solid) {
-    const std::string_view radius = solid.GetAttr("FILLETRADIUS").encoded();
-    const bool isSharp = radius.empty() || radius == sdai::omittedValue || isZero(radius);
-    return isSharp ? replacedBy(releases, solid, "IFCSWEPTDISKSOLID") : Successor::notHere();
-}
-
 bool keepsItsProfile(const DXSdaiAppInstance& solid) {
     const DXSdaiAppInstance* start = solid.GetAttr("SWEPTAREA").asInstance();
     return start && start == solid.GetAttr("ENDSWEPTAREA").asInstance();
@@ -159,12 +153,6 @@ constexpr RebuildRule rules[] = {
      becomesSharp,
      nullptr,
      rebuildSharp},
-    {{"polygonal-disks", Effect::Rebuilt, "Disks swept along a polygon become disks swept along a curve",
-      "Without a fillet there is nothing more to the polygon than to any curve"},
-     "IFCSWEPTDISKSOLIDPOLYGONAL",
-     becomesDisk,
-     nullptr,
-     carry},
     {{"untapered-extrusions", Effect::Rebuilt, "Tapered extrusions that end as they begin become extrusions",
       "Their two profiles are one"},
      "IFCEXTRUDEDAREASOLIDTAPERED",

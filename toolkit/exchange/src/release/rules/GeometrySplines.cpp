@@ -2,6 +2,7 @@
 #include "release/rules/BezierSegments.h"
 #include "release/rules/GeometryTables.h"
 #include "release/rules/GeometryText.h"
+#include "release/rules/SplineCurve.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,62 +13,6 @@ namespace velkor::exchange {
 
 namespace {
 
-/// A B-spline curve as it is read.
-struct Spline {
-    std::size_t degree = 0;
-    std::size_t dimension = 0;
-    std::vector<std::string> references;
-    std::vector<ControlPoint> points;
-    bool isRational = false;
-    std::vector<double> knots;
-
-    /// Nothing when there is anything in it that was not understood.
-    static std::optional<Spline> of(const DXSdaiAppInstance& curve);
-};
-
-std::size_t degreeOf(const DXSdaiAppInstance& curve) {
-    const std::int64_t degree = curve.GetAttr("DEGREE").asInteger().value_or(0);
-    return degree >= 1 && degree <= static_cast<std::int64_t>(greatestDegree) ? static_cast<std::size_t>(degree) : 0;
-}
-
-std::optional<std::vector<double>> knotsOf(const DXSdaiAppInstance& curve, std::size_t degree, std::size_t count) {
-    KnotVector vector;
-    std::optional<std::vector<double>> knots = readNumbers(curve.GetAttr("KNOTS").encoded());
-    if (!knots) return std::nullopt;
-    vector.knots = std::move(*knots);
-    for (const sdai::Primitive multiplicity : curve.GetAttr("KNOTMULTIPLICITIES").asAggregate())
-        vector.multiplicities.push_back(multiplicity.asInteger().value_or(0));
-    return vector.expanded(degree, count);
-}
-
-std::optional<Spline> Spline::of(const DXSdaiAppInstance& curve) {
-    Spline spline;
-    spline.degree = degreeOf(curve);
-    if (!spline.degree) return std::nullopt;
-    for (const sdai::Primitive member : curve.GetAttr("CONTROLPOINTSLIST").asAggregate()) {
-        std::size_t dimension = 0;
-        const std::optional<Point> point = readPoint(member.asInstance(), dimension);
-        if (!point || (spline.dimension && dimension != spline.dimension)) return std::nullopt;
-        spline.dimension = dimension;
-        spline.points.push_back({(*point)[0], (*point)[1], (*point)[2], 1});
-        spline.references.emplace_back(member.encoded());
-    }
-    std::optional<std::vector<double>> knots = knotsOf(curve, spline.degree, spline.points.size());
-    if (!knots) return std::nullopt;
-    spline.knots = std::move(*knots);
-    spline.isRational = curve.entity()->attributeIndex("WEIGHTSDATA") >= 0;
-    if (!spline.isRational) return spline;
-    const std::optional<std::vector<double>> weights = readNumbers(curve.GetAttr("WEIGHTSDATA").encoded());
-    if (!weights || weights->size() != spline.points.size()) return std::nullopt;
-    for (std::size_t i = 0; i < weights->size(); ++i) {
-        const double weight = (*weights)[i];
-        if (!(weight > 0)) return std::nullopt;
-        ControlPoint& point = spline.points[i];
-        point = {point[0] * weight, point[1] * weight, point[2] * weight, weight};
-    }
-    return spline;
-}
-
 Successor becomesBezier(const Releases& releases, DXSdaiAppInstance& curve) {
     if (releases.target.entity("IFCBSPLINECURVEWITHKNOTS")) return Successor::notHere();
     const bool isRational = curve.entity()->attributeIndex("WEIGHTSDATA") >= 0;
@@ -75,11 +20,11 @@ Successor becomesBezier(const Releases& releases, DXSdaiAppInstance& curve) {
 }
 
 bool planBezier(Planning&, DXSdaiAppInstance& curve) {
-    return Spline::of(curve).has_value();
+    return SplineCurve::of(curve).has_value();
 }
 
 // The curve's own point where a segment begins or ends at it, else a new one.
-std::vector<std::string> pointReferences(Rebuilding& rebuilding, const Spline& spline,
+std::vector<std::string> pointReferences(Rebuilding& rebuilding, const SplineCurve& spline,
                                          const std::vector<ControlPoint>& points) {
     std::vector<std::string> members;
     for (std::size_t i = 0; i < points.size(); ++i) {
@@ -99,7 +44,7 @@ std::vector<std::string> pointReferences(Rebuilding& rebuilding, const Spline& s
 }
 
 void rebuildBezier(Rebuilding& rebuilding) {
-    const std::optional<Spline> spline = Spline::of(rebuilding.instance());
+    const std::optional<SplineCurve> spline = SplineCurve::of(rebuilding.instance());
     if (!spline) return;
     RecordBuilder record(rebuilding.target(), spline->isRational ? "IFCRATIONALBEZIERCURVE" : "IFCBEZIERCURVE");
     for (const std::string_view attribute : {"DEGREE", "CURVEFORM", "CLOSEDCURVE", "SELFINTERSECT"})
@@ -119,7 +64,7 @@ void rebuildBezier(Rebuilding& rebuilding) {
 
 /// How many segments a Bezier curve has; 0 when its points do not make up whole ones.
 std::size_t segmentCount(const DXSdaiAppInstance& curve) {
-    const std::size_t degree = degreeOf(curve);
+    const std::size_t degree = splineDegree(curve);
     const std::size_t points = curve.GetAttr("CONTROLPOINTSLIST").asAggregate().memberCount();
     return degree && points > degree && (points - 1) % degree == 0 ? (points - 1) / degree : 0;
 }
@@ -154,7 +99,7 @@ void become(Rebuilding& rebuilding, const std::vector<double>& knots, const std:
 
 void rebuildBezierKnots(Rebuilding& rebuilding) {
     const std::size_t segments = segmentCount(rebuilding.instance());
-    const auto degree = static_cast<std::int64_t>(degreeOf(rebuilding.instance()));
+    const auto degree = static_cast<std::int64_t>(splineDegree(rebuilding.instance()));
     std::vector<double> knots;
     for (std::size_t i = 0; i <= segments; ++i) knots.push_back(static_cast<double>(i));
     std::vector<std::int64_t> multiplicities(segments + 1, degree);
@@ -163,12 +108,12 @@ void rebuildBezierKnots(Rebuilding& rebuilding) {
 }
 
 bool planUniformKnots(Planning&, DXSdaiAppInstance& curve) {
-    const std::size_t degree = degreeOf(curve);
+    const std::size_t degree = splineDegree(curve);
     return degree && curve.GetAttr("CONTROLPOINTSLIST").asAggregate().memberCount() > degree;
 }
 
 void rebuildUniformKnots(Rebuilding& rebuilding) {
-    const auto degree = static_cast<std::int64_t>(degreeOf(rebuilding.instance()));
+    const auto degree = static_cast<std::int64_t>(splineDegree(rebuilding.instance()));
     const auto points =
         static_cast<std::int64_t>(rebuilding.instance().GetAttr("CONTROLPOINTSLIST").asAggregate().memberCount());
     std::vector<double> knots;

@@ -1,0 +1,25 @@
+/// The parameters that curves have in releases where sweeps along them must state theirs.
+#pragma once
+
+#include "release/Rebuilding.h"
+
+#include <optional>
+#include <vector>
+
+namespace velkor::exchange {
+
+/// Of a curve of the source as the target has it; its parameters begin at 0.
+struct CurveRange {
+    /// Nothing for a curve that has no end, or whose end is not known.
+    std::optional<double> end;
+    /// The knots between which a B-spline runs in the source: in the target those are 0, 1, 2 and so on.
+    std::vector<double> knots;
+
+    /// Found once for each curve.
+    static const CurveRange& of(Rebuilding& rebuilding, const DXSdaiAppInstance& curve);
+
+    /// A parameter of the source in the target.
+    std::optional<double> converted(double parameter) const;
+};
+
+} // namespace velkor::exchange

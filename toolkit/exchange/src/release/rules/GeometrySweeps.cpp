@@ -1,0 +1,87 @@
+// Sweeps along curves, and between which parameters.
+#include "release/rules/CurveRange.h"
+#include "release/rules/GeometryTables.h"
+
+#include "velkor/sdai/Part21Encoding.h"
+
+#include <cmath>
+
+namespace velkor::exchange {
+
+namespace {
+
+constexpr std::string_view parameters[] = {"STARTPARAM", "ENDPARAM"};
+
+bool isRequired(const sdai::EntityDefinition& entity) {
+    const sdai::Attribute* parameter = entity.attribute("STARTPARAM");
+    return parameter && !parameter->isOptional();
+}
+
+// A length along the curve, which is a parameter only by chance.
+bool isLength(const DXSdaiAppInstance& solid, std::string_view attribute) {
+    return solid.TestAttr(attribute) && solid.GetAttr(attribute).encoded().starts_with("IFC") &&
+           !solid.GetAttr(attribute).encoded().starts_with("IFCPARAMETERVALUE");
+}
+
+Successor lostByLengths(const Releases& releases, DXSdaiAppInstance& solid) {
+    const sdai::EntityDefinition* after = releases.target.entity(solid.entity()->name());
+    const sdai::Attribute* parameter = after ? after->attribute("STARTPARAM") : nullptr;
+    if (!parameter || parameter->type().resolved().asSelect()) return Successor::notHere();
+    for (const std::string_view attribute : parameters)
+        if (isLength(solid, attribute)) return Successor::lost();
+    return Successor::notHere();
+}
+
+Successor becomesBounded(const Releases& releases, DXSdaiAppInstance& solid) {
+    const sdai::EntityDefinition* after = releases.target.entity(
+        solid.IsKindOf("IFCSWEPTDISKSOLID") ? std::string_view("IFCSWEPTDISKSOLID") : solid.entity()->name());
+    if (!after || isRequired(*solid.entity()) || !isRequired(*after)) return Successor::notHere();
+    return Successor::of(releases, after->name());
+}
+
+void rebuildBounded(Rebuilding& rebuilding) {
+    RecordBuilder record = rebuilding.carried(*rebuilding.successorOf(rebuilding.id()));
+    const DXSdaiAppInstance& solid = rebuilding.instance();
+    if (const DXSdaiAppInstance* curve = solid.GetAttr("DIRECTRIX").asInstance()) {
+        const CurveRange& range = CurveRange::of(rebuilding, *curve);
+        for (const std::string_view attribute : parameters) {
+            std::optional<double> value = attribute == parameters[0] ? std::optional(0.0) : range.end;
+            if (const std::optional<double> given = solid.GetAttr(attribute).asReal()) {
+                if (range.knots.empty()) continue;
+                value = range.converted(*given);
+            }
+            record.set(attribute, value ? real(*value) : std::string(sdai::omittedValue));
+        }
+    }
+    rebuilding.become(record);
+}
+
+Successor becomesDisk(const Releases& releases, DXSdaiAppInstance& solid) {
+    const double radius = solid.GetAttr("FILLETRADIUS").asReal().value_or(0);
+    return radius == 0 ? replacedBy(releases, solid, "IFCSWEPTDISKSOLID") : Successor::notHere();
+}
+
+constexpr ConversionRule sweepLengths = {
+    "sweep-lengths", Effect::Lost, "Sweeps that begin or end at a length along their curve are lost",
+    "The release has them begin and end at parameters"};
+constexpr ConversionRule sweepParameters = {
+    "sweep-parameters", Effect::Converted, "Sweeps along a curve get its parameters",
+    "What says none runs along the whole curve; those of a B-spline follow the knots of its Bezier segments"};
+
+constexpr RebuildRule rules[] = {
+    {sweepLengths, "IFCSURFACECURVESWEPTAREASOLID", lostByLengths},
+    {sweepLengths, "IFCFIXEDREFERENCESWEPTAREASOLID", lostByLengths},
+    {{"polygonal-disks", Effect::Rebuilt, "Disks swept along a polygon become disks swept along a curve",
+      "Without a fillet there is nothing more to the polygon than to any curve"},
+     "IFCSWEPTDISKSOLIDPOLYGONAL", becomesDisk, nullptr, rebuildBounded},
+    {sweepParameters, "IFCSWEPTDISKSOLID", becomesBounded, nullptr, rebuildBounded},
+    {sweepParameters, "IFCSURFACECURVESWEPTAREASOLID", becomesBounded, nullptr, rebuildBounded},
+};
+
+} // namespace
+
+std::span<const RebuildRule> sweepRules() {
+    return rules;
+}
+
+} // namespace velkor::exchange
