@@ -89,6 +89,11 @@ void ReleasePlan::decideByRules(std::uint16_t keyword) {
     const auto keywords = file.keywordNumbers();
     for (std::uint32_t number = 0; number < keywords.size(); ++number) {
         if (keywords[number] != keyword || _decided.contains(number)) continue;
+        // A later instance of an id cannot be told by it, and rules tell instances so: it is copied.
+        if (file.find(file.id(number)) != number) {
+            put(number, {});
+            continue;
+        }
         for (const RebuildRule* rule : _book.rebuilds(entity)) {
             const auto outcome = byRule(*rule, number, entity);
             if (!outcome) continue;
