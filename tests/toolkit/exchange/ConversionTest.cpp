@@ -1,8 +1,8 @@
 // All steps one after the other.
 
+#include "velkor/exchange/Conversion.h"
 #include "Matchers.h"
 #include "ModelText.h"
-#include "velkor/exchange/Conversion.h"
 #include "velkor/files/ScratchFile.h"
 
 #include <string>
@@ -69,7 +69,8 @@ TEST(Conversion, TakesTheStepsInTheirOrderAndTellsPlacesOfTheSource) {
     // What the first step drops is a line less for the second one.
     std::string source = walls;
     source.replace(source.find("'IFC4'"), 6, "'IFC4X3_ADD2'");
-    source.insert(source.find("#1="), "\n#5=IFCAXIS2PLACEMENT2D(#7,$);\n#7=IFCCARTESIANPOINT((0.,0.));\n#6=IFCCLOTHOID(#5,1.);\n");
+    source.insert(source.find("#1="),
+                  "\n#5=IFCAXIS2PLACEMENT2D(#7,$);\n#7=IFCCARTESIANPOINT((0.,0.));\n#6=IFCCLOTHOID(#5,1.);\n");
     ConversionOptions options = releaseAndIdentifiers();
     options.release->release = "IFC4";
     const Conversion both = converted(source, options);

@@ -49,6 +49,18 @@ TEST(Release, CopiesWhatIsTheSameByteByByte) {
     EXPECT_EQ(result.report.kept, 2u);
 }
 
+TEST(Release, WritesWhatASubtypeAloneDerives) {
+    // The dictionary of IFC4X1 does not carry what is derived; the two entities have the same attributes.
+    const std::string text = "#1=IFCCARTESIANPOINT((0.,0.));#2=IFCCARTESIANTRANSFORMATIONOPERATOR2D($,$,#1,$);"
+                             "#3=IFCPROFILEDEF(.AREA.,$);#4=IFCDERIVEDPROFILEDEF(.AREA.,$,#3,#2,$);"
+                             "#5=IFCMIRROREDPROFILEDEF(.AREA.,$,#3,*,$);#6=IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.);";
+    const auto result = toRelease("IFC4", text, "IFC4X1");
+    EXPECT_EQ(result.record(4), "IFCDERIVEDPROFILEDEF(.AREA.,$,#3,#2,$)");
+    EXPECT_EQ(result.record(5), "IFCMIRROREDPROFILEDEF(.AREA.,$,#3,*,$)");
+    EXPECT_EQ(result.record(6), "IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.)");
+    EXPECT_THAT(result.problems(), IsEmpty());
+}
+
 TEST(Release, LeavesWhatItDoesNotUnderstand) {
     // An unknown entity, a wrong number of values, a value of another kind, a damaged and a complex statement, and
     // references to nothing.

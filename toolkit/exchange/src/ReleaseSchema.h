@@ -3,8 +3,9 @@
 
 #include "velkor/sdai/Dictionary.h"
 
+#include <set>
 #include <string_view>
-#include <unordered_set>
+#include <utility>
 
 namespace velkor::exchange {
 
@@ -21,8 +22,9 @@ public:
 
 private:
     const sdai::SchemaDefinition* _definition;
-    // Slots that only the rules of the release derive.
-    std::unordered_set<const sdai::AttributeSlot*> _derivedElsewhere;
+    // Places that only the rules of the release derive. Entities may share their slots with their supertypes, which
+    // do not.
+    std::set<std::pair<const sdai::EntityDefinition*, std::size_t>> _derivedElsewhere;
 };
 
 } // namespace velkor::exchange

@@ -22,6 +22,8 @@ tl::expected<VersionMapping, std::string> VersionMapping::load(const PlatformSet
     if (!deprecated) return tl::unexpected(deprecated.error());
     auto introduced = introducedValues(setup, from, to);
     if (!introduced) return tl::unexpected(introduced.error());
+    // The services look through the whole document for every name as long as they find no such pair.
+    if (introduced->status != S_OK) return tl::unexpected(introduced->document + ": " + introduced->meaning.words);
     // The table of another pair of releases would answer for this one.
     mappingServices()->ResetVersionMappingTable();
     VersionMapping mapping(from, to);

@@ -150,12 +150,15 @@ void PopulationChecker::takeDerived(const DerivedSlot& derived) {
     // Inherited attributes come first, so that subtypes have it at the same place.
     for (const EntityDefinition* entity : _model.schema().entities()) {
         if (entity->isKindOf(*owner))
-            _derivedElsewhere.push_back(&entity->attributes()[static_cast<std::size_t>(index)]);
+            _derivedElsewhere.emplace_back(entity->position(), static_cast<std::size_t>(index));
     }
 }
 
+// An entity without attributes of its own may have those of its supertype, so a slot does not say whose it is.
 bool PopulationChecker::isDerived(const AttributeSlot& slot) const {
-    return slot.isDerived || (!_derivedElsewhere.empty() && std::ranges::binary_search(_derivedElsewhere, &slot));
+    if (slot.isDerived || _derivedElsewhere.empty()) return slot.isDerived;
+    const auto place = static_cast<std::size_t>(&slot - _entity->attributes().data());
+    return std::ranges::binary_search(_derivedElsewhere, std::pair(_entity->position(), place));
 }
 
 // Nesting of values is that of the type, so recursion ends where the dictionary does.

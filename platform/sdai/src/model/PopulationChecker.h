@@ -7,6 +7,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace velkor::sdai::model {
@@ -43,8 +44,8 @@ private:
     const Model& _model;
     const PopulationCheckOptions& _options;
     part21::ProblemList _problems;
-    // Slots whose derivation the dictionary does not carry; sorted.
-    std::vector<const AttributeSlot*> _derivedElsewhere;
+    // Places whose derivation the dictionary does not carry, by position of the entity; sorted.
+    std::vector<std::pair<std::uint32_t, std::size_t>> _derivedElsewhere;
     Part21Lexer _lexer{std::string_view()};
     std::uint64_t _instance = 0;
     // What is being checked, for messages.

@@ -61,9 +61,9 @@ Successor becomesDisk(const Releases& releases, DXSdaiAppInstance& solid) {
     return radius == 0 ? replacedBy(releases, solid, "IFCSWEPTDISKSOLID") : Successor::notHere();
 }
 
-constexpr ConversionRule sweepLengths = {
-    "sweep-lengths", Effect::Lost, "Sweeps that begin or end at a length along their curve are lost",
-    "The release has them begin and end at parameters"};
+constexpr ConversionRule sweepLengths = {"sweep-lengths", Effect::Lost,
+                                         "Sweeps that begin or end at a length along their curve are lost",
+                                         "The release has them begin and end at parameters"};
 constexpr ConversionRule sweepParameters = {
     "sweep-parameters", Effect::Converted, "Sweeps along a curve get its parameters",
     "What says none runs along the whole curve; those of a B-spline follow the knots of its Bezier segments"};
@@ -73,7 +73,10 @@ constexpr RebuildRule rules[] = {
     {sweepLengths, "IFCFIXEDREFERENCESWEPTAREASOLID", lostByLengths},
     {{"polygonal-disks", Effect::Rebuilt, "Disks swept along a polygon become disks swept along a curve",
       "Without a fillet there is nothing more to the polygon than to any curve"},
-     "IFCSWEPTDISKSOLIDPOLYGONAL", becomesDisk, nullptr, rebuildBounded},
+     "IFCSWEPTDISKSOLIDPOLYGONAL",
+     becomesDisk,
+     nullptr,
+     rebuildBounded},
     {sweepParameters, "IFCSWEPTDISKSOLID", becomesBounded, nullptr, rebuildBounded},
     {sweepParameters, "IFCSURFACECURVESWEPTAREASOLID", becomesBounded, nullptr, rebuildBounded},
 };

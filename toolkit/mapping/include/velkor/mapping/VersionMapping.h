@@ -21,7 +21,8 @@ namespace velkor {
 /// The mapping services hold one table: while one of these lives no other pair of releases should be asked for.
 class VersionMapping {
 public:
-    /// Reads the document and builds the table. An error is a line that says why there is no document.
+    /// Reads the document and builds the table. An error is a line that says why there is no document, or
+    /// that it does not know the pair.
     VELKOR_TOOLKIT_API static tl::expected<VersionMapping, std::string>
     load(const PlatformSetup& setup, const MappingRelease& from, const MappingRelease& to);
 
