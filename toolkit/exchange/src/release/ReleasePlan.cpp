@@ -74,6 +74,8 @@ void ReleasePlan::settle() {
         std::uint16_t& common = _common[keywords[number]];
         common = common == unseen || common == outcome ? outcome : differs;
     }
+    // Keywords of statements that are no instances in the end.
+    std::ranges::replace(_common, unseen, std::uint16_t{0});
 }
 
 Outcome ReleasePlan::byName(const EntityDefinition& entity) const {
