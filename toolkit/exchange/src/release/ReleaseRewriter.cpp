@@ -72,7 +72,9 @@ sdai::RecordRewriter::Outcome ReleaseRewriter::rewrite(const RecordView& record,
     }
     makeRecord();
     const bool isRebuilt = _outcome->rule != nullptr && _outcome->rule->rule.effect == Effect::Rebuilt;
-    if (_outcome->rule != nullptr || _outcome->reason != nullptr) {
+    // A rule that is for an instance may find it right as it is.
+    const bool isSame = !isRebuilt && _outcome->kind == Successor::Kind::Entity && isUnchanged();
+    if (!isSame && (_outcome->rule != nullptr || _outcome->reason != nullptr)) {
         const std::string_view now = _outcome->target != nullptr ? _outcome->target->name() : std::string_view();
         note(_outcome->rule != nullptr ? _outcome->rule->rule : *_outcome->reason, [&] {
             return now.empty() || now == _outcome->source->name() ? std::string()
@@ -81,7 +83,7 @@ sdai::RecordRewriter::Outcome ReleaseRewriter::rewrite(const RecordView& record,
     }
     ++(isRebuilt ? _counts.rebuilt : _hasNote ? _counts.converted : _counts.kept);
     if (_outcome->kind == Successor::Kind::Absorbed) return Outcome::Drop;
-    if (isUnchanged()) return Outcome::Keep;
+    if (isSame || isUnchanged()) return Outcome::Keep;
     output.record = _become;
     return Outcome::Replace;
 }

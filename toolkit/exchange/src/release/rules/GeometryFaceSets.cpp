@@ -131,8 +131,7 @@ Successor becomesPoints(const Releases& releases, DXSdaiAppInstance&) {
 void rebuildPoints(Rebuilding& rebuilding) {
     const std::optional<PointList> points = PointList::of(rebuilding.instance());
     std::uint64_t id = rebuilding.reserved(rebuilding.id());
-    // Of several lists with one id the first is meant by all.
-    if (!points || !id || rebuilding.source().instance(rebuilding.id()) != &rebuilding.instance()) return;
+    if (!points || !id) return;
     std::string record;
     points->eachTuple([&](std::string_view tuple) {
         ((record.assign("IFCCARTESIANPOINT(")) += tuple) += ')';
