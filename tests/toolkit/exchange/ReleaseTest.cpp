@@ -172,7 +172,7 @@ TEST_F(MappedRelease, AsksTheDocumentOfTheSetUpFirst) {
     const auto result = toRelease("IFC2X3", text, "IFC4", &setup);
     EXPECT_EQ(result.record(1), "IFCROOF(" + guid(1) + ",#94,$,$,'FLOOR',$,$,'tag',.USERDEFINED.)");
     EXPECT_EQ(result.record(2), "IFCWALL(" + guid(2) + ",#94,$,'tag',$,$,$,$,$)");
-    EXPECT_EQ(result.record(3), "");
+    EXPECT_EQ(result.record(3), "IFCBUILDINGELEMENTPROXY(" + guid(3) + ",#94,$,$,'IFCCOLUMN',$,$,'tag',$)");
     EXPECT_EQ(result.record(4), "IFCPLATE(" + guid(4) + ",#94,$,$,$,$,$,'tag',.SHEET.)");
     EXPECT_EQ(result.record(5), "IFCMEMBER(" + guid(5) + ",#94,$,$,$,$,$,'tag',$)");
     // Another pair of releases is not meant.

@@ -112,6 +112,9 @@ public:
 
     /// An instance of the target that several can use: made when first asked for by this key.
     virtual std::uint64_t shared(std::string_view key, std::uint64_t (*make)(Rebuilding& rebuilding)) = 0;
+    /// The same for a maker that has to be told for which.
+    virtual std::uint64_t shared(std::string_view key,
+                                 std::uint64_t (*make)(Rebuilding& rebuilding, std::string_view key)) = 0;
     /// Of the conversion, ISO 8601.
     virtual std::string_view timeStamp() const = 0;
 
@@ -172,6 +175,13 @@ struct WholeAggregate {
     std::string_view attribute;
 };
 
+/// For rows that are there to be noted alone.
+Successor notHere(const Releases& releases, DXSdaiAppInstance& instance);
+/// Another entity where the target lacks the instance's own.
+Successor replacedBy(const Releases& releases, const DXSdaiAppInstance& instance, std::string_view entity);
+/// Nothing where the target lacks the instance's entity.
+Successor lostWhereLacking(const Releases& releases, DXSdaiAppInstance& instance);
+
 /// The rules of one source unit.
 struct RuleTable {
     std::span<const RebuildRule> rebuild = {};
@@ -187,5 +197,11 @@ RuleTable geometryRules();
 RuleTable forwardRules();
 /// What older releases lack.
 RuleTable backwardRules();
+/// Owner histories and other values that a release requires.
+RuleTable requiredValueRules();
+/// Spatial elements, elements and relationships of later releases.
+RuleTable elementRules();
+/// Styles, and what assigns them.
+RuleTable styleRules();
 
 } // namespace velkor::exchange

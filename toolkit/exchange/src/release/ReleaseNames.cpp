@@ -4,6 +4,8 @@
 #include "velkor/dictionaries/ReleaseRenames.h"
 #include "velkor/text/Unicode.h"
 
+#include <span>
+
 namespace velkor::exchange {
 
 namespace {
@@ -52,6 +54,17 @@ ReleaseNames::Entity ReleaseNames::entity(const sdai::EntityDefinition& source) 
 ReleaseNames::Entity ReleaseNames::supertype(const sdai::EntityDefinition& source) const {
     for (const auto* at = source.supertype(); at != nullptr; at = at->supertype())
         if (const Entity found = entity(*at); found.entity != nullptr) return {found.entity, &rules::supertype};
+    return plainElement(source);
+}
+
+ReleaseNames::Entity ReleaseNames::plainElement(const sdai::EntityDefinition& source) const {
+    // An opening is no solid thing.
+    const bool isSolid = !isKindOf(source, "IFCFEATUREELEMENT");
+    const char* name = isKindOf(source, "IFCELEMENT") && isSolid ? "IFCBUILDINGELEMENTPROXY"
+                       : isKindOf(source, "IFCELEMENTTYPE")      ? "IFCBUILDINGELEMENTPROXYTYPE"
+                                                                 : "";
+    if (source.name() == name) return {};
+    if (const auto* entity = concrete(_releases.target, name)) return {entity, &rules::plainElement};
     return {};
 }
 
@@ -72,13 +85,15 @@ ReleaseNames::Slot ReleaseNames::slot(const sdai::EntityDefinition& source, std:
 }
 
 ReleaseNames::Slot ReleaseNames::renamedSlot(const sdai::EntityDefinition& source, std::string_view attribute) const {
-    for (const AttributeRename& rename : attributeRenames) {
-        const char* name = rename.after == attribute    ? rename.before
-                           : rename.before == attribute ? rename.after
-                                                        : nullptr;
-        if (name == nullptr || !isKindOf(source, rename.entity)) continue;
-        if (const int index = source.attributeIndex(name); index >= 0) return {index, &rules::attributeRenamed};
-    }
+    for (const std::span<const AttributeRename> renames :
+         {std::span<const AttributeRename>(attributeRenames), std::span<const AttributeRename>(laterAttributeRenames)})
+        for (const AttributeRename& rename : renames) {
+            const char* name = rename.after == attribute    ? rename.before
+                               : rename.before == attribute ? rename.after
+                                                            : nullptr;
+            if (name == nullptr || !isKindOf(source, rename.entity)) continue;
+            if (const int index = source.attributeIndex(name); index >= 0) return {index, &rules::attributeRenamed};
+        }
     return {};
 }
 

@@ -23,7 +23,7 @@ public:
     };
     /// Nothing of the target when it has no entity of the meaning, or none that can be instantiated.
     Entity entity(const sdai::EntityDefinition& source) const;
-    /// Of supertypes, the nearest that can be instantiated; abstract when none can.
+    /// Of supertypes the nearest that can be instantiated, for elements also a building element proxy.
     Entity supertype(const sdai::EntityDefinition& source) const;
 
     struct Slot {
@@ -36,6 +36,7 @@ public:
     std::string introduced(const sdai::EntityDefinition& target, std::string_view attribute) const;
 
 private:
+    Entity plainElement(const sdai::EntityDefinition& source) const;
     Slot renamedSlot(const sdai::EntityDefinition& source, std::string_view attribute) const;
 
     const Releases& _releases;

@@ -139,6 +139,10 @@ void ReleasePlan::put(std::uint32_t number, const Outcome& outcome) {
     if (outcome.isGone()) _anyGone = true;
 }
 
+void ReleasePlan::become(std::uint32_t number, const ReleaseNames::Entity& entity) {
+    put(number, {Successor::Kind::Entity, outcome(number).source, entity.entity, nullptr, entity.rule});
+}
+
 void ReleasePlan::lose(std::uint32_t number, const ConversionRule& reason, std::string_view attribute) {
     Outcome lost = outcome(number);
     lost.kind = Successor::Kind::Lost;

@@ -45,6 +45,8 @@ public:
     void decide();
     /// To be called when nothing more is decided.
     void settle();
+    /// Gives an instance another successor, by names alone.
+    void become(std::uint32_t number, const ReleaseNames::Entity& entity);
     /// Takes back that an instance has a successor.
     void lose(std::uint32_t number, const ConversionRule& reason, std::string_view attribute);
 

@@ -190,15 +190,21 @@ void ReleaseRewriter::noteLoss(const EntityPlan::Slot& slot, std::string_view va
 }
 
 bool ReleaseRewriter::takeDefault(const EntityDefinition& entity, const EntityPlan::Slot& slot, std::string& value) {
+    const auto take = [&](const ConversionRule& rule, std::string&& made) {
+        value = std::move(made);
+        note(rule, [&] { return words(slot.attribute->name(), " = ", value); });
+        return true;
+    };
     for (const DefaultRule* rule : _plan.book().defaults(entity, slot.attribute->name())) {
         std::optional<std::string> made =
             rule->encoded != nullptr ? std::optional<std::string>(rule->encoded) : rule->make(*this);
-        if (!made) continue;
-        value = std::move(*made);
-        note(rule->rule, [&] { return words(slot.attribute->name(), " = ", value); });
-        return true;
+        if (made) return take(rule->rule, std::move(*made));
     }
-    return false;
+    const sdai::Type& type = slot.attribute->type().resolved();
+    if (const auto* enumeration = type.asEnumeration();
+        enumeration != nullptr && enumeration->position("NOTDEFINED") >= 0)
+        return take(rules::notDefined, exchange::enumerator("NOTDEFINED"));
+    return type.kind() == sdai::TypeKind::String && take(rules::emptyText, literal({}));
 }
 
 /// Place of a text for what USERDEFINED stands for in an attribute: ObjectType and its like for the predefined type,
@@ -226,7 +232,18 @@ void ReleaseRewriter::keepTexts(const EntityPlan& plan, std::vector<std::string>
         if (type != nullptr && type->position("NOTDEFINED") >= 0) values[slot] = exchange::enumerator("NOTDEFINED");
     }
     _userDefined.clear();
-    if (_outcome->reason != &rules::supertype || plan.userText < 0) return;
+    // What another attribute said of a user-defined type.
+    for (const std::size_t place : plan.dropped) {
+        if (!plan.source->attributes()[place].attribute->name().starts_with("USERDEFINED") || plan.userText < 0)
+            continue;
+        std::string& text = values[static_cast<std::size_t>(plan.userText)];
+        if (isUnset(_record.parameters[place]) || !isUnset(text)) continue;
+        text.clear();
+        text += _record.parameters[place];
+        note(rules::userDefinedText, [&] { return text; });
+    }
+    const bool isPlainer = _outcome->reason == &rules::supertype || _outcome->reason == &rules::plainElement;
+    if (!isPlainer || plan.userText < 0) return;
     std::string& text = values[static_cast<std::size_t>(plan.userText)];
     if (isUnset(text)) text = literal(_outcome->source->name());
 }
@@ -244,7 +261,9 @@ void ReleaseRewriter::takeLater(const EntityPlan& plan, std::vector<std::string>
 
 void ReleaseRewriter::noteDropped(const EntityPlan& plan) {
     for (const std::size_t place : plan.dropped) {
-        if (isUnset(_record.parameters[place])) continue;
+        const std::string_view value = _record.parameters[place];
+        if (isUnset(value) || (plan.userText >= 0 && _slotValues[static_cast<std::size_t>(plan.userText)] == value))
+            continue;
         note(rules::noAttribute,
              [&] { return words(plan.source->attributes()[place].attribute->name(), " ", _record.parameters[place]); });
     }
@@ -298,17 +317,6 @@ void ReleaseRewriter::add(std::uint64_t id, std::string_view record) {
     if (_isDry) return;
     ++_counts.added;
     _output->add(id, record);
-}
-
-std::uint64_t ReleaseRewriter::shared(std::string_view key, std::uint64_t (*make)(Rebuilding& rebuilding)) {
-    if (_isDry) return 1;
-    const auto [found, isNew] = _shared.try_emplace(std::string(key), 0);
-    // What is made may ask for others.
-    if (isNew) {
-        const std::uint64_t id = make(*this);
-        return _shared[std::string(key)] = id;
-    }
-    return found->second;
 }
 
 void ReleaseRewriter::note(const ConversionRule& rule, std::string detail) {

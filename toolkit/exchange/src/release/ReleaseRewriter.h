@@ -65,7 +65,20 @@ private:
     void add(std::uint64_t id, const RecordBuilder& record) override { add(id, record.text()); }
     std::uint64_t add(std::string_view record) override;
     void add(std::uint64_t id, std::string_view record) override;
-    std::uint64_t shared(std::string_view key, std::uint64_t (*make)(Rebuilding& rebuilding)) override;
+    std::uint64_t shared(std::string_view key, std::uint64_t (*make)(Rebuilding& rebuilding)) override {
+        return sharedBy(key, [&] { return make(*this); });
+    }
+    std::uint64_t shared(std::string_view key,
+                         std::uint64_t (*make)(Rebuilding& rebuilding, std::string_view key)) override {
+        return sharedBy(key, [&] { return make(*this, key); });
+    }
+    template <class Make>
+    std::uint64_t sharedBy(std::string_view key, Make make) {
+        if (_isDry) return 1;
+        const auto [found, isNew] = _shared.try_emplace(std::string(key), 0);
+        // What is made may ask for others, and move those that are there.
+        return isNew ? _shared[std::string(key)] = make() : found->second;
+    }
     std::string_view timeStamp() const override { return _timeStamp; }
     void note(const ConversionRule& rule, std::string detail) override;
     void note(const ConversionRule& rule, const std::function<std::string()>& detail) override;
@@ -75,6 +88,7 @@ private:
     void makeRecord();
     bool isUnchanged() const;
     bool canStand(std::uint32_t number);
+    bool loseOrMakePlainer(std::uint32_t number);
     void dropRisky();
     void dropUsers(std::vector<std::uint32_t> gone);
     void dropLeftOvers();

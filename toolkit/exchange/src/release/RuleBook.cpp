@@ -19,6 +19,12 @@ const ConversionRule supertype{
     "An entity that the target lacks becomes the nearest supertype that can be instantiated; its name is kept in "
     "ObjectType or ElementType where that is free",
     "The supertype says less, and nothing that is wrong"};
+const ConversionRule plainElement{
+    "plain-element", Converted,
+    "An element whose entity the target lacks, or for which it requires what is not there, becomes its nearest "
+    "supertype "
+    "or a building element proxy; its name is kept in ObjectType or ElementType where that is free",
+    "What it is made of, where it stands and what belongs to it stay"};
 const ConversionRule attributeMapped{"attribute-mapped", Converted,
                                      "An attribute is called what the version mapping document calls it",
                                      "The document of the set-up answers before the dictionaries do"};
@@ -40,6 +46,13 @@ const ConversionRule selectType{"select-type", Converted,
                                 "The value and the simple type below stay the same"};
 const ConversionRule numberForm{"number-form", Converted, "An integer becomes a real, or a whole real an integer",
                                 "The attribute has the other type in the target"};
+const ConversionRule notDefined{"not-defined", Converted, "A required enumeration without a value is NOTDEFINED",
+                                "The attribute is optional in the source, or not there at all"};
+const ConversionRule emptyText{"empty-text", Converted, "A required text without a value is empty",
+                               "The attribute is optional in the source, or not there at all"};
+const ConversionRule userDefinedText{"user-defined-text", Converted,
+                                     "The text of a user-defined type stands in ObjectType or ElementType",
+                                     "The target has one place for such texts, whatever the attribute"};
 const ConversionRule oneOfSeveral{"one-of-several", Converted,
                                   "A single value stands as the only member of an aggregate, or the other way round",
                                   "The attribute takes one value in one release and several in the other"};
@@ -71,17 +84,17 @@ const ConversionRule requiredMissing{"required-missing", Lost,
 const ConversionRule shapeLost{"shape-lost", Lost, "A product has no shape any more",
                                "The target cannot say its geometry in any form, or not exactly"};
 
-constexpr const ConversionRule* general[] = {&entityMapped,     &entityRenamed,   &supertype,         &attributeMapped,
-                                             &attributeRenamed, &valueIntroduced, &enumeratorRenamed, &enumeratorAsText,
-                                             &selectType,       &numberForm,      &oneOfSeveral,      &shapeLost,
-                                             &noEntity,         &noUse,           &noAttribute,       &noEnumerator,
-                                             &noValue,          &textShortened,   &referenceLost,     &memberLost,
-                                             &requiredLost,     &requiredMissing};
+constexpr const ConversionRule* general[] = {
+    &entityMapped,    &entityRenamed,     &supertype,        &plainElement,  &attributeMapped, &attributeRenamed,
+    &valueIntroduced, &enumeratorRenamed, &enumeratorAsText, &selectType,    &numberForm,      &notDefined,
+    &emptyText,       &userDefinedText,   &oneOfSeveral,     &shapeLost,     &noEntity,        &noUse,
+    &noAttribute,     &noEnumerator,      &noValue,          &textShortened, &referenceLost,   &memberLost,
+    &requiredLost,    &requiredMissing};
 
 } // namespace rules
 
-std::array<RuleTable, 3> RuleBook::tables() {
-    return {geometryRules(), forwardRules(), backwardRules()};
+RuleBook::Tables RuleBook::tables() {
+    return {geometryRules(), forwardRules(), backwardRules(), requiredValueRules(), elementRules(), styleRules()};
 }
 
 RuleBook::RuleBook(const Releases&) {

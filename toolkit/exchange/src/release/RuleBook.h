@@ -36,9 +36,10 @@ public:
     static std::vector<const ConversionRule*> all();
 
 private:
-    static std::array<RuleTable, 3> tables();
+    using Tables = std::array<RuleTable, 6>;
+    static Tables tables();
 
-    const std::array<RuleTable, 3> _tables = tables();
+    const Tables _tables = tables();
     std::unordered_map<std::string_view, std::vector<const RebuildRule*>> _byEntity;
     std::unordered_map<const sdai::EntityDefinition*, std::vector<const RebuildRule*>> _rebuilds;
 };
@@ -48,6 +49,7 @@ namespace rules {
 extern const ConversionRule entityRenamed;
 extern const ConversionRule entityMapped;
 extern const ConversionRule supertype;
+extern const ConversionRule plainElement;
 extern const ConversionRule attributeRenamed;
 extern const ConversionRule attributeMapped;
 extern const ConversionRule valueIntroduced;
@@ -55,6 +57,9 @@ extern const ConversionRule enumeratorRenamed;
 extern const ConversionRule enumeratorAsText;
 extern const ConversionRule selectType;
 extern const ConversionRule numberForm;
+extern const ConversionRule notDefined;
+extern const ConversionRule emptyText;
+extern const ConversionRule userDefinedText;
 extern const ConversionRule oneOfSeveral;
 extern const ConversionRule noEntity;
 extern const ConversionRule noUse;

@@ -95,7 +95,21 @@ void ReleaseRewriter::dropRisky() {
     for (std::uint32_t number = 0; number < keywords.size(); ++number)
         if (keywords[number] < isRisky.size() && isRisky[keywords[number]] && !_plan.isGone(number) &&
             !canStand(number))
-            _plan.lose(number, *_missing.rule, _missing.attribute);
+            loseOrMakePlainer(number);
+}
+
+/// An element rather becomes a plainer one than that it goes. False when it goes.
+bool ReleaseRewriter::loseOrMakePlainer(std::uint32_t number) {
+    const Missing missing = _missing;
+    const sdai::EntityDefinition& source = *_plan.outcome(number).source;
+    const ReleaseNames::Entity plainer = _plan.names().supertype(source);
+    if ((source.isKindOf("IFCELEMENT") || source.isKindOf("IFCELEMENTTYPE")) && plainer.entity != nullptr &&
+        plainer.entity != _plan.outcome(number).target) {
+        _plan.become(number, {plainer.entity, &rules::plainElement});
+        if (canStand(number)) return true;
+    }
+    _plan.lose(number, *missing.rule, missing.attribute);
+    return false;
 }
 
 bool ReleaseRewriter::canStand(std::uint32_t number) {
@@ -116,8 +130,7 @@ void ReleaseRewriter::dropUsers(std::vector<std::uint32_t> gone) {
             const std::vector<std::uint32_t> users = waiting.next();
             if (users.empty()) return;
             for (const std::uint32_t user : users) {
-                if (canStand(user)) continue;
-                _plan.lose(user, *_missing.rule, _missing.attribute);
+                if (canStand(user) || loseOrMakePlainer(user)) continue;
                 gone.push_back(user);
             }
         } while (gone.empty());

@@ -22,11 +22,4 @@ std::span<const WholeAggregate> wholeShapes();
 /// The rule of the table that has a name.
 const ConversionRule& geometryRule(std::string_view name);
 
-/// For rows that are there to be noted alone.
-Successor notHere(const Releases& releases, DXSdaiAppInstance& instance);
-/// Another entity where the target lacks the instance's own.
-Successor replacedBy(const Releases& releases, const DXSdaiAppInstance& instance, std::string_view entity);
-/// Nothing where the target lacks the instance's entity.
-Successor lostWhereLacking(const Releases& releases, DXSdaiAppInstance& instance);
-
 } // namespace velkor::exchange
