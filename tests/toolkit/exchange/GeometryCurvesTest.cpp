@@ -128,8 +128,7 @@ TEST(GeometryCurves, IndexedLinesBecomePolylinesOverTheirPoints) {
         {"((1,2))", ""},
     };
     for (const Case& row : cases) {
-        const auto result =
-            toRelease("IFC4", points + "#2=IFCINDEXEDPOLYCURVE(#1," + row.segments + ",$);", "IFC2X3");
+        const auto result = toRelease("IFC4", points + "#2=IFCINDEXEDPOLYCURVE(#1," + row.segments + ",$);", "IFC2X3");
         EXPECT_EQ(result.record(2), row.polyline) << row.segments;
         EXPECT_EQ(result.report.isLossless(), *row.polyline != 0) << row.segments;
         EXPECT_THAT(result.problems(CheckScope::Everything), IsEmpty()) << row.segments;
@@ -258,8 +257,9 @@ TEST(GeometryCurves, SplinesAndTheirBezierChainsHaveTheSamePoints) {
 }
 
 TEST(GeometryCurves, BezierCurvesGoForthAndBack) {
-    const std::string points = "#2=IFCCARTESIANPOINT((0.,0.));#3=IFCCARTESIANPOINT((1.,0.));"
-                               "#4=IFCCARTESIANPOINT((1.,1.));#5=IFCCARTESIANPOINT((0.,1.));#6=IFCCARTESIANPOINT((0.,2.));";
+    const std::string points =
+        "#2=IFCCARTESIANPOINT((0.,0.));#3=IFCCARTESIANPOINT((1.,0.));"
+        "#4=IFCCARTESIANPOINT((1.,1.));#5=IFCCARTESIANPOINT((0.,1.));#6=IFCCARTESIANPOINT((0.,2.));";
     struct Case {
         const char* before;
         const char* after;
@@ -280,15 +280,16 @@ TEST(GeometryCurves, BezierCurvesGoForthAndBack) {
         EXPECT_EQ(back.record(1), row.before);
     }
     // The points do not make up whole segments; knots that are none.
-    EXPECT_EQ(toRelease("IFC2X3", "#1=IFCBEZIERCURVE(3,(#2,#3,#4,#5,#6),.UNSPECIFIED.,.F.,.F.);" + points, "IFC4")
-                  .record(1),
-              "");
+    EXPECT_EQ(
+        toRelease("IFC2X3", "#1=IFCBEZIERCURVE(3,(#2,#3,#4,#5,#6),.UNSPECIFIED.,.F.,.F.);" + points, "IFC4").record(1),
+        "");
     for (const char* knots : {"(3,3),(0.,1.)", "(3,2,3),(0.,0.,1.)", "(3,5),(0.,1.)", "(3,2,3),(0.,1.)",
                               "(3,2,3),(0.,1.#INF,2.)", "(3,-2,7),(0.,1.,2.)"}) {
-        const auto result = toRelease("IFC4",
-                                      std::string("#1=IFCBSPLINECURVEWITHKNOTS(2,(#2,#3,#4,#5,#6),.UNSPECIFIED.,.F.,.F.,") +
-                                          knots + ",.UNSPECIFIED.);" + points,
-                                      "IFC2X3");
+        const auto result =
+            toRelease("IFC4",
+                      std::string("#1=IFCBSPLINECURVEWITHKNOTS(2,(#2,#3,#4,#5,#6),.UNSPECIFIED.,.F.,.F.,") + knots +
+                          ",.UNSPECIFIED.);" + points,
+                      "IFC2X3");
         EXPECT_THAT(result.records("IFCBEZIERCURVE"), IsEmpty()) << knots;
     }
     const auto uniform =
@@ -298,12 +299,11 @@ TEST(GeometryCurves, BezierCurvesGoForthAndBack) {
 }
 
 TEST(GeometryCurves, ACurveWithoutOneOfItsSegmentsIsNone) {
-    const std::string instances =
-        "#1=IFCCOMPOSITECURVE((#2,#3),.F.);#2=IFCCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.,#4);"
-        "#3=IFCCOMPOSITECURVESEGMENT(.DISCONTINUOUS.,.T.,#5);#4=IFCPOLYLINE((#6,#7));"
-        "#5=IFCINDEXEDPOLYCURVE(#8,(IFCLINEINDEX((1,9))),$);#6=IFCCARTESIANPOINT((0.,0.));"
-        "#7=IFCCARTESIANPOINT((1.,0.));#8=IFCCARTESIANPOINTLIST2D(((1.,0.),(2.,0.)));"
-        "#9=IFCGEOMETRICSET((#1,#4));";
+    const std::string instances = "#1=IFCCOMPOSITECURVE((#2,#3),.F.);#2=IFCCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.,#4);"
+                                  "#3=IFCCOMPOSITECURVESEGMENT(.DISCONTINUOUS.,.T.,#5);#4=IFCPOLYLINE((#6,#7));"
+                                  "#5=IFCINDEXEDPOLYCURVE(#8,(IFCLINEINDEX((1,9))),$);#6=IFCCARTESIANPOINT((0.,0.));"
+                                  "#7=IFCCARTESIANPOINT((1.,0.));#8=IFCCARTESIANPOINTLIST2D(((1.,0.),(2.,0.)));"
+                                  "#9=IFCGEOMETRICSET((#1,#4));";
     const auto result = toRelease("IFC4", instances, "IFC2X3");
     EXPECT_EQ(result.record(1), "");
     EXPECT_EQ(result.record(9), "IFCGEOMETRICSET((#4))");
@@ -321,7 +321,8 @@ TEST(GeometryCurves, ShapesArePlainerWhereThatSaysTheSame) {
     const Case cases[] = {
         {"closed-composite-curves", "IFC2X3", "IFC4", "IFC2DCOMPOSITECURVE((#2),.F.)", "IFCCOMPOSITECURVE((#2),.F.)"},
         {"closed-composite-curves", "IFC4", "IFC2X3", "IFCOUTERBOUNDARYCURVE((#2),.F.)", "IFCCOMPOSITECURVE((#2),.F.)"},
-        {"curve-segments-parameters", "IFC4", "IFC2X3", "IFCREPARAMETRISEDCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.,#3,2.)",
+        {"curve-segments-parameters", "IFC4", "IFC2X3",
+         "IFCREPARAMETRISEDCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.,#3,2.)",
          "IFCCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.,#3)"},
         {"networks", "IFC4X3_ADD2", "IFC4", "IFCTRIANGULATEDIRREGULARNETWORK(#10,$,.F.,((1,2,3)),$,(1))",
          "IFCTRIANGULATEDFACESET(#10,$,.F.,((1,2,3)),$)"},
@@ -332,7 +333,8 @@ TEST(GeometryCurves, ShapesArePlainerWhereThatSaysTheSame) {
         {"zero-radii", "IFC4", "IFC2X3",
          "IFCASYMMETRICISHAPEPROFILEDEF(.AREA.,$,#6,10.,20.,1.,2.,0.,8.,2.5,0.,$,$,$,$)",
          "IFCASYMMETRICISHAPEPROFILEDEF(.AREA.,$,#6,10.,20.,1.,2.,$,8.,2.5,$,$)"},
-        {"attribute-renamed", "IFC2X3", "IFC4", "IFCASYMMETRICISHAPEPROFILEDEF(.AREA.,$,#6,10.,20.,1.,2.,3.,8.,2.5,1.,$)",
+        {"attribute-renamed", "IFC2X3", "IFC4",
+         "IFCASYMMETRICISHAPEPROFILEDEF(.AREA.,$,#6,10.,20.,1.,2.,3.,8.,2.5,1.,$)",
          "IFCASYMMETRICISHAPEPROFILEDEF(.AREA.,$,#6,10.,20.,1.,2.,3.,8.,2.5,1.,$,$,$,$)"},
         {"untapered-extrusions", "IFC4", "IFC2X3", "IFCEXTRUDEDAREASOLIDTAPERED(#5,#7,#8,2.,#5)",
          "IFCEXTRUDEDAREASOLID(#5,#7,#8,2.)"},
@@ -360,7 +362,8 @@ TEST(GeometryCurves, ShapesArePlainerWhereThatSaysTheSame) {
         if (std::string_view(row.from) == "IFC4X3_ADD2") text += list + ",$);";
         const auto result = toRelease(row.from, text, row.to);
         EXPECT_EQ(result.record(1), row.after) << row.rule;
-        EXPECT_EQ(result.count(row.rule), 1u + (std::string_view(row.rule) == "attribute-renamed" ? 2u : 0u)) << row.before;
+        EXPECT_EQ(result.count(row.rule), 1u + (std::string_view(row.rule) == "attribute-renamed" ? 2u : 0u))
+            << row.before;
         EXPECT_THAT(result.problems(), IsEmpty()) << row.before;
     }
 }

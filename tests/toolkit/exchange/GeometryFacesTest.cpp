@@ -119,6 +119,19 @@ TEST(GeometryFaces, WhatCannotBeUnderstoodIsLostAndNeverGuessed) {
     }
 }
 
+TEST(GeometryFaces, SolidsAreClosedOverPointsAtOnePlace) {
+    // The fourth face has its own points, up to the last digits; the rows of normals say nothing of points.
+    const std::string instances =
+        "#1=IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(24.,0.,0.),(0.,24.,0.),(0.,0.,24.),(-0.,0.,4.E-15),(0.,0.,24.),"
+        "(0.,24.,-2.E-14)));#2=IFCTRIANGULATEDFACESET(#1,((0.,0.,1.)),.T.,((1,3,2),(1,2,4),(2,3,4),(5,6,7)),"
+        "((1,1,1),(1,1,1),(1,1,1),(1,1,1)));";
+    const auto result = toRelease("IFC4", instances, "IFC2X3");
+    EXPECT_EQ(result.record(2), "IFCFACETEDBREP(#22)");
+    EXPECT_THAT(result.records("IFCPOLYLOOP"), ElementsAre("IFCPOLYLOOP((#3,#5,#4))", "IFCPOLYLOOP((#3,#4,#6))",
+                                                           "IFCPOLYLOOP((#4,#5,#6))", "IFCPOLYLOOP((#3,#6,#5))"));
+    EXPECT_EQ(result.count("closed-face-sets"), 0u);
+}
+
 TEST(GeometryFaces, PolygonsHaveVoidsAndPassAPointOnceEach) {
     const auto result = toRelease(
         "IFC4X3_ADD2",

@@ -3,13 +3,49 @@
 #include "release/rules/GeometryText.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
+#include <unordered_map>
 
 namespace velkor::exchange {
+
+namespace {
+
+using Cell = std::array<std::int64_t, 3>;
+
+struct CellHash {
+    std::size_t operator()(const Cell& cell) const noexcept {
+        std::uint64_t hash = 0;
+        for (const std::int64_t part : cell)
+            hash = (hash ^ static_cast<std::uint64_t>(part)) * 0x9E3779B97F4A7C15U + (hash >> 29U);
+        return static_cast<std::size_t>(hash ^ (hash >> 32U));
+    }
+};
+
+// For each point the first that lies at the same place.
+std::vector<std::uint32_t> firstAtPlace(const std::vector<Point>& places, double extent) {
+    // A thousandth of what results may differ from their sources.
+    const double size = extent * 1e-12;
+    std::unordered_map<Cell, std::uint32_t, CellHash> cells;
+    cells.reserve(places.size());
+    std::vector<std::uint32_t> first;
+    first.reserve(places.size());
+    for (const Point& place : places) {
+        const Cell cell{std::llround(place[0] / size), std::llround(place[1] / size), std::llround(place[2] / size)};
+        first.push_back(cells.try_emplace(cell, static_cast<std::uint32_t>(first.size())).first->second);
+    }
+    return first;
+}
+
+} // namespace
 
 std::optional<FaceLoops> FaceLoops::of(const sdai::Model& model, const DXSdaiAppInstance& faceSet) {
     FaceLoops loops;
     const sdai::Primitive pointIndex = faceSet.GetAttr("PNINDEX");
-    if (pointIndex.isSet() && !readIndices(pointIndex.encoded(), loops._pointIndex)) return std::nullopt;
+    // Rows of indices are those of the normals, which IFC4 had there before its first addendum.
+    const bool isOfNormals = pointIndex.encoded().starts_with("((");
+    if (pointIndex.isSet() && !isOfNormals && !readIndices(pointIndex.encoded(), loops._pointIndex))
+        return std::nullopt;
     if (faceSet.IsKindOf("IFCTRIANGULATEDFACESET")) {
         if (!loops.takeTriangles(faceSet.GetAttr("COORDINDEX").encoded())) return std::nullopt;
     } else {
@@ -110,11 +146,43 @@ bool FaceLoops::isClosed() const {
     }
     if (edges.empty() || edges.size() % 2) return false;
     std::ranges::sort(edges);
-    for (std::size_t i = 0; i < edges.size(); i += 2) {
+    for (std::size_t i = 0; i < edges.size(); i += 2)
         if (edges[i] % 2 || edges[i + 1] != edges[i] + 1) return false;
-        if (i + 2 < edges.size() && edges[i + 2] == edges[i]) return false;
-    }
     return true;
+}
+
+std::optional<FaceLoops> FaceLoops::welded(const PointList& points) const {
+    // What a list costs that many sets share is bounded by what each of them says.
+    constexpr std::size_t bytesPerPoint = 64;
+    if (points.size() > bytesPerPoint * (_points.size() + bytesPerPoint)) return std::nullopt;
+    std::vector<Point> places;
+    double extent = 0;
+    bool isSound = true;
+    points.eachTuple([&](std::string_view tuple) {
+        const std::optional<Point> point = readPoint(tuple);
+        isSound = isSound && point;
+        places.push_back(point.value_or(Point{}));
+        for (const double coordinate : places.back()) extent = std::max(extent, std::abs(coordinate));
+    });
+    if (!isSound || places.size() < _bound || !(extent > 0)) return std::nullopt;
+    const std::vector<std::uint32_t> first = firstAtPlace(places, extent);
+    FaceLoops result;
+    std::vector<std::uint32_t> indices;
+    for (std::size_t face = 0; face < faceCount(); ++face) {
+        bool hasOuter = false;
+        eachLoop(face, [&](std::span<const std::uint32_t> loop, bool isOuter) {
+            indices.clear();
+            for (const std::uint32_t point : loop) indices.push_back(first[point]);
+            if (isOuter)
+                hasOuter = result.addLoop(indices);
+            else if (hasOuter)
+                result.addLoop(indices);
+        });
+        if (hasOuter) result.endFace();
+    }
+    result._bound = _bound;
+    result._degenerate += _degenerate;
+    return result;
 }
 
 } // namespace velkor::exchange

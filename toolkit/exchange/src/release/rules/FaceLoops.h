@@ -1,6 +1,7 @@
 /// Faces of tessellated face sets as loops of points, and whether they enclose something.
 #pragma once
 
+#include "release/rules/GeometryText.h"
 #include "velkor/sdai/Model.h"
 
 #include <cstdint>
@@ -36,6 +37,9 @@ public:
     std::size_t degenerateCount() const noexcept { return _degenerate; }
     /// Whether each edge is passed exactly twice, once in each direction.
     bool isClosed() const;
+    /// The same loops over the first of the points that lie at one place, which is up to the last digits of doubles;
+    /// nothing when a coordinate is no number, or the list has many more points than the loops.
+    std::optional<FaceLoops> welded(const PointList& points) const;
 
 private:
     bool takeTriangles(std::string_view encoded);

@@ -19,13 +19,19 @@ bool isCalledClosed(const DXSdaiAppInstance& faceSet) {
     return faceSet.GetAttr("CLOSED").asBoolean().value_or(false);
 }
 
+/// The loops of a set that is called closed and is; where it is not over its own points, over one for each place.
+std::optional<FaceLoops> closedLoops(const DXSdaiAppInstance& faceSet) {
+    if (!isCalledClosed(faceSet)) return std::nullopt;
+    std::optional<FaceLoops> loops = FaceLoops::of(faceSet.model(), faceSet);
+    if (!loops || loops->isClosed()) return loops;
+    const std::optional<PointList> points = PointList::of(faceSet, "COORDINATES");
+    loops = points && points->dimension() == 3 ? loops->welded(*points) : std::nullopt;
+    return loops && loops->isClosed() ? std::move(loops) : std::nullopt;
+}
+
 Successor becomesFaces(const Releases& releases, DXSdaiAppInstance& faceSet) {
     if (releases.target.entity("IFCTESSELLATEDFACESET")) return Successor::notHere();
-    if (isCalledClosed(faceSet)) {
-        const std::optional<FaceLoops> loops = FaceLoops::of(faceSet.model(), faceSet);
-        if (loops && loops->isClosed()) return Successor::of(releases, "IFCFACETEDBREP");
-    }
-    return Successor::of(releases, "IFCSHELLBASEDSURFACEMODEL");
+    return Successor::of(releases, closedLoops(faceSet) ? "IFCFACETEDBREP" : "IFCSHELLBASEDSURFACEMODEL");
 }
 
 bool planFaces(Planning& planning, DXSdaiAppInstance& faceSet) {
@@ -101,9 +107,9 @@ private:
 void rebuildFaces(Rebuilding& rebuilding) {
     const DXSdaiAppInstance& faceSet = rebuilding.instance();
     const std::optional<PointList> points = PointList::of(faceSet, "COORDINATES");
-    const std::optional<FaceLoops> loops = FaceLoops::of(rebuilding.source(), faceSet);
-    if (!points || !loops) return;
     const bool isSolid = rebuilding.successorOf(rebuilding.id())->isKindOf("IFCFACETEDBREP");
+    const std::optional<FaceLoops> loops = isSolid ? closedLoops(faceSet) : FaceLoops::of(rebuilding.source(), faceSet);
+    if (!points || !loops) return;
     std::string shell(isSolid ? "IFCCLOSEDSHELL((" : "IFCOPENSHELL((");
     FaceWriter writer(rebuilding, *points);
     for (std::size_t face = 0; face < loops->faceCount(); ++face) {

@@ -85,12 +85,9 @@ const RepresentationType* typeNamed(std::string_view name) {
 using Items = std::vector<const sdai::EntityDefinition*>;
 
 bool fits(const RepresentationType& type, const ReleaseSchema& release, const Items& items) {
-    const bool isPlainSweep = type.name == "SweptSolid" && hasTessellation(release);
     return std::ranges::all_of(items, [&](const sdai::EntityDefinition* item) {
-        const bool isTapered =
-            item->isKindOf("IFCEXTRUDEDAREASOLIDTAPERED") || item->isKindOf("IFCREVOLVEDAREASOLIDTAPERED");
-        return !(isPlainSweep && isTapered) &&
-               std::ranges::any_of(acceptedIn(type, release), [&](auto entity) { return item->isKindOf(entity); });
+        return std::ranges::any_of(acceptedIn(type, release),
+                                   [&](std::string_view entity) { return item->isKindOf(entity); });
     });
 }
 

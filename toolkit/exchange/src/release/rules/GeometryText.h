@@ -54,6 +54,8 @@ public:
 
     std::uint64_t id() const noexcept { return _id; }
     std::size_t dimension() const noexcept { return _dimension; }
+    /// Bytes of the list.
+    std::size_t size() const noexcept { return _coordinates.size(); }
     /// Calls `each(text)` with the coordinates of each point, "(0.,1.5)"; what behind a mistake is, is left out.
     template <class Each>
     void eachTuple(Each each) const {
