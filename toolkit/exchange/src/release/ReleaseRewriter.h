@@ -91,7 +91,8 @@ private:
     bool loseOrMakePlainer(std::uint32_t number);
     void dropRisky();
     void dropUsers(std::vector<std::uint32_t> gone);
-    void dropLeftOvers();
+    std::vector<std::uint32_t> dropLeftOvers();
+    bool isNeeded(std::uint32_t number, std::size_t lostUsers) const;
     void takeValues(const EntityPlan& plan, std::vector<std::string>& values);
     void takeLater(const EntityPlan& plan, std::vector<std::string>& values);
     bool takeValue(const EntityPlan& plan, const EntityPlan::Slot& slot, std::string& value);

@@ -48,6 +48,10 @@ bool standsAlone(const sdai::EntityDefinition& entity) {
     return entity.isKindOf("IFCROOT") || entity.isKindOf("IFCREPRESENTATIONCONTEXT");
 }
 
+bool isLayer(const Outcome& outcome) {
+    return outcome.source != nullptr && outcome.source->isKindOf("IFCPRESENTATIONLAYERASSIGNMENT");
+}
+
 /// The instances that a record refers to, each once.
 std::vector<std::uint32_t> references(const sdai::Part21File& file, const sdai::RecordView& record) {
     std::vector<std::uint32_t> numbers;
@@ -75,7 +79,7 @@ void ReleaseRewriter::settle() {
         for (std::uint32_t number = 0; number < _plan.model().file().instanceCount(); ++number)
             if (_plan.isGone(number)) gone.push_back(number);
         dropUsers(std::move(gone));
-        dropLeftOvers();
+        dropUsers(dropLeftOvers());
         _plan.settle();
     }
     _fit.lookAtReferences(false);
@@ -137,25 +141,39 @@ void ReleaseRewriter::dropUsers(std::vector<std::uint32_t> gone) {
     }
 }
 
-void ReleaseRewriter::dropLeftOvers() {
+std::vector<std::uint32_t> ReleaseRewriter::dropLeftOvers() {
     const sdai::Part21File& file = _plan.model().file();
     std::vector<std::uint32_t> lost;
     for (std::uint32_t number = 0; number < file.instanceCount(); ++number)
         if (_plan.outcome(number).kind == Successor::Kind::Lost) lost.push_back(number);
+    std::vector<std::uint32_t> leftOver;
     std::unordered_map<std::uint32_t, std::size_t> lostUsers;
     while (!lost.empty()) {
         const std::uint32_t number = lost.back();
         lost.pop_back();
         const sdai::RecordView* record = _reader.read(file, number);
-        if (record == nullptr) continue;
+        if (record == nullptr || isLayer(_plan.outcome(number))) continue;
         for (const std::uint32_t used : references(file, *record)) {
             const exchange::Outcome& outcome = _plan.outcome(used);
-            if (outcome.isGone() || outcome.source == nullptr || standsAlone(*outcome.source)) continue;
-            if (++lostUsers[used] < _plan.index().users(used).size()) continue;
+            if (outcome.kind == Successor::Kind::Lost || outcome.source == nullptr || standsAlone(*outcome.source))
+                continue;
+            if (isNeeded(used, ++lostUsers[used])) continue;
             _plan.lose(used, rules::noUse, {});
             lost.push_back(used);
+            leftOver.push_back(used);
         }
     }
+    return leftOver;
+}
+
+bool ReleaseRewriter::isNeeded(std::uint32_t number, std::size_t lostUsers) const {
+    const auto users = _plan.index().users(number);
+    // Layers show what others need. Few instances stand in more of them than this.
+    constexpr std::size_t mostLayers = 8;
+    if (lostUsers + mostLayers < users.size()) return true;
+    const auto layers =
+        std::ranges::count_if(users, [this](std::uint32_t user) { return isLayer(_plan.outcome(user)); });
+    return lostUsers + static_cast<std::size_t>(layers) < users.size();
 }
 
 } // namespace velkor::exchange

@@ -3,9 +3,7 @@
 
 namespace velkor::exchange {
 
-namespace {
-
-} // namespace
+namespace {} // namespace
 
 RuleTable elementRules() {
     return {};

@@ -22,12 +22,15 @@ std::int64_t secondsOf(std::string_view time) {
     for (std::size_t i = 0; i < 6; ++i) {
         const char* begin = time.data() + places[i];
         const char* end = begin + (i == 0 ? 4 : 2);
-        if (const auto read = std::from_chars(begin, end, parts[i]); read.ec != std::errc() || read.ptr != end) return 0;
+        if (const auto read = std::from_chars(begin, end, parts[i]); read.ec != std::errc() || read.ptr != end)
+            return 0;
     }
     using namespace std::chrono;
-    const year_month_day day{year(parts[0]), month(static_cast<unsigned>(parts[1])), std::chrono::day(static_cast<unsigned>(parts[2]))};
+    const year_month_day day{year(parts[0]), month(static_cast<unsigned>(parts[1])),
+                             std::chrono::day(static_cast<unsigned>(parts[2]))};
     if (!day.ok()) return 0;
-    const auto seconds = sys_days(day).time_since_epoch() + hours(parts[3]) + minutes(parts[4]) + std::chrono::seconds(parts[5]);
+    const auto seconds =
+        sys_days(day).time_since_epoch() + hours(parts[3]) + minutes(parts[4]) + std::chrono::seconds(parts[5]);
     return duration_cast<std::chrono::seconds>(seconds).count();
 }
 
@@ -91,8 +94,10 @@ std::optional<std::string> contexts(Rebuilding& rebuilding) {
 }
 
 std::uint64_t addUnits(Rebuilding& rebuilding) {
-    constexpr std::pair<const char*, const char*> units[] = {
-        {"LENGTHUNIT", "METRE"}, {"AREAUNIT", "SQUARE_METRE"}, {"VOLUMEUNIT", "CUBIC_METRE"}, {"PLANEANGLEUNIT", "RADIAN"}};
+    constexpr std::pair<const char*, const char*> units[] = {{"LENGTHUNIT", "METRE"},
+                                                             {"AREAUNIT", "SQUARE_METRE"},
+                                                             {"VOLUMEUNIT", "CUBIC_METRE"},
+                                                             {"PLANEANGLEUNIT", "RADIAN"}};
     std::vector<std::string> members;
     for (const auto& [type, name] : units) {
         RecordBuilder unit(rebuilding.target(), "IFCSIUNIT");
@@ -130,11 +135,13 @@ std::optional<std::string> ownName(Rebuilding& rebuilding) {
     return listOf({name == sdai::omittedValue ? literal({}) : std::string(name)});
 }
 
-constexpr ConversionRule history{"owner-history", Effect::Converted,
-                                 "An object without an owner history gets the first one of the model, or one that names "
-                                 "the conversion",
-                                 "IFC2X3 requires one of every object, later releases of none"};
-constexpr ConversionRule change{"change-action", Effect::Converted, "An owner history without a change action has NOCHANGE",
+constexpr ConversionRule history{
+    "owner-history", Effect::Converted,
+    "An object without an owner history gets the first one of the model, or one that names "
+    "the conversion",
+    "IFC2X3 requires one of every object, later releases of none"};
+constexpr ConversionRule change{"change-action", Effect::Converted,
+                                "An owner history without a change action has NOCHANGE",
                                 "IFC2X3 requires one; nothing was changed that is known of"};
 constexpr ConversionRule composition{"composition-type", Effect::Converted,
                                      "A spatial element without a composition type is an ELEMENT",
@@ -144,20 +151,24 @@ constexpr ConversionRule axis{"member-axis", Effect::Converted, "A structural me
 constexpr ConversionRule project{"project-context", Effect::Converted,
                                  "A project without contexts or units gets a model context, or metres and radians",
                                  "IFC2X3 requires both; without units of its own values are in SI units"};
-constexpr ConversionRule boundary{"virtual-boundary", Effect::Converted,
-                                  "A space boundary without an element gets a virtual element",
-                                  "Releases since IFC4 require an element, and have this one for boundaries that are only thought"};
-constexpr ConversionRule profile{"named-profile", Effect::Converted, "Profile properties without a profile get one of their name",
-                                 "Releases since IFC4 require a profile, and have profiles that are known by name alone"};
+constexpr ConversionRule boundary{
+    "virtual-boundary", Effect::Converted, "A space boundary without an element gets a virtual element",
+    "Releases since IFC4 require an element, and have this one for boundaries that are only thought"};
+constexpr ConversionRule profile{
+    "named-profile", Effect::Converted, "Profile properties without a profile get one of their name",
+    "Releases since IFC4 require a profile, and have profiles that are known by name alone"};
 constexpr ConversionRule font{"font-family", Effect::Converted, "A font without a family has its own name for one",
                               "Releases since IFC4 require a family"};
-constexpr ConversionRule truth{"required-flag", Effect::Converted, "A flag that is required is false unless something says otherwise",
+constexpr ConversionRule truth{"required-flag", Effect::Converted,
+                               "A flag that is required is false unless something says otherwise",
                                "The source leaves it open, and the target has no third value"};
 constexpr ConversionRule lag{"no-time-lag", Effect::Converted, "A sequence without a lag has one of no time",
                              "IFC2X3 requires a lag"};
-constexpr ConversionRule length{"true-length", Effect::Converted, "A load without a reference length is one over the true length",
-                                "IFC2X3 requires one of the two, and loads are given over the member unless said otherwise"};
-constexpr ConversionRule part{"facility-part", Effect::Converted, "A part of a facility without a type is not defined further",
+constexpr ConversionRule length{
+    "true-length", Effect::Converted, "A load without a reference length is one over the true length",
+    "IFC2X3 requires one of the two, and loads are given over the member unless said otherwise"};
+constexpr ConversionRule part{"facility-part", Effect::Converted,
+                              "A part of a facility without a type is not defined further",
                               "The release requires a type of one of several lists"};
 
 constexpr DefaultRule defaults[] = {
@@ -187,7 +198,8 @@ constexpr DefaultRule defaults[] = {
 // A property that has no value is still known by its name.
 Successor becomesSingleValue(const Releases& releases, DXSdaiAppInstance& property) {
     const sdai::EntityDefinition* same = releases.target.entity(property.entity()->name());
-    for (const char* attribute : {"ENUMERATIONVALUES", "LISTVALUES", "DEFININGVALUES", "DEFINEDVALUES", "PROPERTYREFERENCE"}) {
+    for (const char* attribute :
+         {"ENUMERATIONVALUES", "LISTVALUES", "DEFININGVALUES", "DEFINEDVALUES", "PROPERTYREFERENCE"}) {
         const int index = same == nullptr ? -1 : same->attributeIndex(attribute);
         if (index < 0 || same->attributes()[static_cast<std::size_t>(index)].attribute->isOptional()) continue;
         if (!property.GetAttr(attribute).isSet()) return Successor::of(releases, "IFCPROPERTYSINGLEVALUE");
@@ -195,7 +207,8 @@ Successor becomesSingleValue(const Releases& releases, DXSdaiAppInstance& proper
     return Successor::notHere();
 }
 
-constexpr ConversionRule valueless{"valueless-property", Effect::Rebuilt, "A property without values becomes a single value without one",
+constexpr ConversionRule valueless{"valueless-property", Effect::Rebuilt,
+                                   "A property without values becomes a single value without one",
                                    "IFC2X3 requires values of lists, tables and references, and none of single values"};
 
 constexpr RebuildRule rebuilds[] = {

@@ -49,7 +49,8 @@ std::optional<std::vector<std::string>> wrap(Rebuilding& rebuilding, std::string
         !acceptsEntity(to, *assignment))
         return std::nullopt;
     const int place = assignment->attributeIndex("STYLES");
-    const auto* styles = assignment->attributes()[static_cast<std::size_t>(place)].attribute->type().resolved().asAggregate();
+    const auto* styles =
+        assignment->attributes()[static_cast<std::size_t>(place)].attribute->type().resolved().asAggregate();
     if (styles == nullptr || !acceptsEntity(styles->element(), *style)) return std::nullopt;
     // One for each style, however many items have it.
     std::string key("style assignment ");
@@ -70,12 +71,15 @@ Successor becomesRendering(const Releases& releases, DXSdaiAppInstance& shading)
     return Successor::of(releases, "IFCSURFACESTYLERENDERING");
 }
 
-constexpr ConversionRule unwrapped{"style-assignment", Effect::Rebuilt, "Styles that an assignment held together are assigned one by one",
+constexpr ConversionRule unwrapped{"style-assignment", Effect::Rebuilt,
+                                   "Styles that an assignment held together are assigned one by one",
                                    "Releases since IFC4X3 assign styles without it"};
-constexpr ConversionRule wrapped{"style-assigned", Effect::Converted, "A style that is assigned by itself gets a style assignment",
+constexpr ConversionRule wrapped{"style-assigned", Effect::Converted,
+                                 "A style that is assigned by itself gets a style assignment",
                                  "IFC2X3 assigns styles by assignments alone"};
-constexpr ConversionRule rendering{"transparent-shading", Effect::Rebuilt, "A shading with transparency becomes a rendering without a method",
-                                   "IFC2X3 says transparency with rendering alone; what else rendering could say stays unset"};
+constexpr ConversionRule rendering{
+    "transparent-shading", Effect::Rebuilt, "A shading with transparency becomes a rendering without a method",
+    "IFC2X3 says transparency with rendering alone; what else rendering could say stays unset"};
 
 constexpr RebuildRule rebuilds[] = {
     {unwrapped, "IFCPRESENTATIONSTYLEASSIGNMENT", absorbAssignment},
