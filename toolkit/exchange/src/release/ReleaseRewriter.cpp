@@ -101,14 +101,22 @@ bool ReleaseRewriter::isUnchanged() const {
 }
 
 void ReleaseRewriter::makeRecord() {
-    if (_outcome->rule != nullptr && _outcome->rule->rebuild != nullptr) _outcome->rule->rebuild(*this);
+    if (_outcome->rule != nullptr && _outcome->rule->rebuild != nullptr) {
+        _asked.clear();
+        _isAskedAll = false;
+        _outcome->rule->rebuild(*this);
+        if (!_become.empty() && _outcome->target != nullptr)
+            noteDropped(_plans.plan(*_outcome->source, *_outcome->target), {});
+    }
     if (_outcome->kind == Successor::Kind::Absorbed || !_become.empty()) return;
+    _asked.clear();
+    _isAskedAll = false;
     const EntityPlan& plan = _plans.plan(*_outcome->source, *_outcome->target);
     std::vector<std::string>& values = _slotValues;
     takeValues(plan, values);
     keepTexts(plan, values);
     takeLater(plan, values);
-    noteDropped(plan);
+    noteDropped(plan, values);
     _become += plan.target->name();
     char separator = '(';
     for (const std::string& value : values) (_become += separator) += value, separator = ',';
@@ -259,17 +267,24 @@ void ReleaseRewriter::takeLater(const EntityPlan& plan, std::vector<std::string>
     _hasNote = true;
 }
 
-void ReleaseRewriter::noteDropped(const EntityPlan& plan) {
+void ReleaseRewriter::noteDropped(const EntityPlan& plan, const std::vector<std::string>& values) {
+    if (_isDry || _isAskedAll) return;
     for (const std::size_t place : plan.dropped) {
         const std::string_view value = _record.parameters[place];
-        if (isUnset(value) || (plan.userText >= 0 && _slotValues[static_cast<std::size_t>(plan.userText)] == value))
-            continue;
-        note(rules::noAttribute,
-             [&] { return words(plan.source->attributes()[place].attribute->name(), " ", _record.parameters[place]); });
+        const std::string_view attribute = plan.source->attributes()[place].attribute->name();
+        // Nothing that is said is lost.
+        if (isUnset(value) || value == ".NOTDEFINED." || isAsked(attribute)) continue;
+        if (std::ranges::find(values, value) != values.end() && attribute.starts_with("USERDEFINED")) continue;
+        note(rules::noAttribute, [&] { return words(attribute, " ", value); });
     }
 }
 
+bool ReleaseRewriter::isAsked(std::string_view attribute) const {
+    return std::ranges::find(_asked, attribute) != _asked.end();
+}
+
 std::string_view ReleaseRewriter::encoded(std::string_view attribute) const {
+    if (!_isDry) _asked.push_back(attribute);
     const int index = _outcome->source->attributeIndex(attribute);
     return index < 0 ? sdai::omittedValue : _record.parameters[static_cast<std::size_t>(index)];
 }

@@ -52,7 +52,10 @@ private:
     const Releases& releases() const override { return _plan.releases(); }
     std::uint64_t id() const override { return _plan.model().file().id(_record.number); }
     const sdai::EntityDefinition& entity() const override { return *_outcome->source; }
-    DXSdaiAppInstance& instance() const override { return *_plan.model().instanceAt(_record.number); }
+    DXSdaiAppInstance& instance() const override {
+        _isAskedAll = true;
+        return *_plan.model().instanceAt(_record.number);
+    }
     std::string_view encoded(std::string_view attribute) const override;
     std::optional<std::string> translated(std::string_view encoded, const sdai::Type& from,
                                           const sdai::Type& to) override;
@@ -99,7 +102,8 @@ private:
     bool takeDefault(const sdai::EntityDefinition& entity, const EntityPlan::Slot& slot, std::string& value);
     std::string* userText(const EntityPlan& plan, std::size_t slot, std::vector<std::string>& values) const;
     void keepTexts(const EntityPlan& plan, std::vector<std::string>& values);
-    void noteDropped(const EntityPlan& plan);
+    void noteDropped(const EntityPlan& plan, const std::vector<std::string>& values);
+    bool isAsked(std::string_view attribute) const;
     void noteLoss(const EntityPlan::Slot& slot, std::string_view value);
     ReleasePlan& _plan;
     ChangeList& _changes;
@@ -126,6 +130,9 @@ private:
     std::string _become;
     // Kept from record to record for their memory.
     std::vector<std::string> _slotValues;
+    // What a rule has asked of the instance: of the rest it says nothing.
+    mutable std::vector<std::string_view> _asked;
+    mutable bool _isAskedAll = false;
     Missing _missing;
     // What carried() found missing last.
     Missing _missingCarried;
