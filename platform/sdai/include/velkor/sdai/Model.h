@@ -71,8 +71,9 @@ public:
     std::size_t memoryUse() const noexcept;
 
 private:
-    // Instances are made a page at a time, so that one costs no allocation of its own.
-    static constexpr std::uint32_t pageSize = 64;
+    // Instances are made a page at a time, so that one costs no allocation of its own, and few beside those asked for
+    // are made.
+    static constexpr std::uint32_t pageSize = 8;
     using Page = std::unique_ptr<DXSdaiAppInstance[]>;
 
     VELKOR_PLATFORM_LOCAL Model(std::unique_ptr<Part21File> file, DXSdaiDictionaryRepo::SchemaPointer schema);
