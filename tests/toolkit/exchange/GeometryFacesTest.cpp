@@ -104,6 +104,7 @@ TEST(GeometryFaces, WhatCannotBeUnderstoodIsLostAndNeverGuessed) {
         const auto result = facesOf(triangles, "$");
         EXPECT_EQ(result.record(2), "") << triangles;
         EXPECT_THAT(result.records("IFCFACE"), IsEmpty()) << triangles;
+        EXPECT_EQ(result.count("contradictory-shapes"), 1u) << triangles;
         EXPECT_FALSE(result.report.isLossless()) << triangles;
     }
     EXPECT_EQ(facesOf("((1,2,3))", "$", "(1,2)").record(2), "");
@@ -171,6 +172,61 @@ TEST(GeometryFaces, ColoursOfFacetsAreLostAndTheFacetsAreNot) {
     EXPECT_EQ(result.count("facet-colours"), 2u);
     EXPECT_THAT(result.records("IFCFACE"), testing::SizeIs(1));
     EXPECT_THAT(result.problems(), IsEmpty());
+}
+
+TEST(GeometryFaces, AdvancedSolidsOfPlanesAreFaceted) {
+    // A tetrahedron whose faces lie in planes, each edge passed once in each direction; or one face that is curved.
+    const auto solid = [](const std::string& surface, const std::string& more) {
+        std::string text =
+            "#101=IFCADVANCEDBREP(#102);#102=IFCCLOSEDSHELL((#111,#112,#113,#114));"
+            "#1=IFCCARTESIANPOINT((0.,0.,0.));#2=IFCCARTESIANPOINT((1.,0.,0.));#3=IFCCARTESIANPOINT((0.,1.,0.));"
+            "#4=IFCCARTESIANPOINT((0.,0.,1.));#11=IFCVERTEXPOINT(#1);#12=IFCVERTEXPOINT(#2);#13=IFCVERTEXPOINT(#3);"
+            "#14=IFCVERTEXPOINT(#4);#5=IFCDIRECTION((1.,0.,0.));#6=IFCVECTOR(#5,1.);#7=IFCLINE(#1,#6);"
+            "#8=IFCPLANE(#81);";
+        int edge = 200;
+        const auto add = [&](const std::string& id, const std::string& record) {
+            text.append("#").append(id).append("=").append(record).append(";");
+        };
+        for (const char* ends : {"#11,#12", "#11,#13", "#11,#14", "#12,#13", "#12,#14", "#13,#14"})
+            add(std::to_string(edge++), std::string("IFCEDGECURVE(") + ends + ",#7,.T.)");
+        const std::vector<std::vector<int>> faces = {
+            {201, -203, -200}, {200, 204, -202}, {203, 205, -204}, {202, -205, -201}};
+        int oriented = 300;
+        for (std::size_t i = 0; i < faces.size(); ++i) {
+            std::string list;
+            for (const int passed : faces[i]) {
+                add(std::to_string(oriented),
+                    "IFCORIENTEDEDGE(*,*,#" + std::to_string(std::abs(passed)) + (passed > 0 ? ",.T.)" : ",.F.)"));
+                list.append(list.empty() ? "#" : ",#").append(std::to_string(oriented++));
+            }
+            const std::string number = std::to_string(i + 1);
+            add("13" + number, "IFCEDGELOOP((" + list + "))");
+            add("12" + number, "IFCFACEOUTERBOUND(#13" + number + ",.T.)");
+            add("11" + number, "IFCADVANCEDFACE((#12" + number + ")," + (i == 0 ? surface : "#8") + ",.T.)");
+        }
+        return toRelease("IFC4", shape("AdvancedBrep", "(#101)", text + more), "IFC2X3");
+    };
+    const auto result = solid("#8", "");
+    EXPECT_THAT(result.records("IFCPOLYLOOP"), ElementsAre("IFCPOLYLOOP((#1,#3,#2))", "IFCPOLYLOOP((#1,#2,#4))",
+                                                           "IFCPOLYLOOP((#2,#3,#4))", "IFCPOLYLOOP((#1,#4,#3))"));
+    EXPECT_THAT(result.records("IFCFACETEDBREP"), testing::SizeIs(1));
+    EXPECT_THAT(result.record(83), HasSubstr("'Body','Brep',(#101)"));
+    for (const char* part :
+         {"IFCADVANCEDFACE", "IFCFACESURFACE", "IFCEDGELOOP", "IFCEDGECURVE", "IFCVERTEXPOINT", "IFCLINE"})
+        EXPECT_THAT(result.records(part), IsEmpty()) << part;
+    EXPECT_TRUE(result.report.isLossless());
+    EXPECT_THAT(result.problems(CheckScope::Everything), IsEmpty());
+    // What somebody else needs stays.
+    EXPECT_THAT(solid("#8", "#400=IFCSTYLEDITEM(#111,(#401),$);#401=IFCPRESENTATIONSTYLEASSIGNMENT((#402));"
+                            "#402=IFCSURFACESTYLE($,.BOTH.,(#403));#403=IFCSURFACESTYLESHADING(#404,$);"
+                            "#404=IFCCOLOURRGB($,1.,0.,0.);")
+                    .records("IFCFACESURFACE"),
+                testing::SizeIs(1));
+    const auto curved = solid("#9", "#9=IFCCYLINDRICALSURFACE(#81,1.);");
+    EXPECT_EQ(curved.record(101), "");
+    EXPECT_EQ(curved.count("advanced-breps"), 1u);
+    EXPECT_THAT(curved.records("IFCPOLYLOOP"), IsEmpty());
+    EXPECT_THAT(curved.problems(), IsEmpty());
 }
 
 TEST(GeometryFaces, RepresentationsAreCalledByWhatStandsInThem) {

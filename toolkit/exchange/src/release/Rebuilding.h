@@ -67,6 +67,8 @@ public:
     bool affords(std::uint64_t bytes);
     /// The ids of the instances that refer to one, in file order, each once. The first call looks through the file.
     std::vector<std::uint64_t> users(std::uint64_t id);
+    /// How many those are.
+    std::size_t userCount(std::uint64_t id);
 
 private:
     ReleasePlan& _plan;
@@ -130,7 +132,7 @@ struct RebuildRule {
     /// Which entity takes the place of an instance. Called once for each, in file order; costs little.
     Successor (*becomes)(const Releases& releases, DXSdaiAppInstance& instance);
     /// Called for each instance that the rule is for, before anything is written; may be null. False when it cannot be
-    /// rebuilt and is lost.
+    /// rebuilt: then the rows behind this one are tried, and it is lost when none is for it.
     bool (*plan)(Planning& planning, DXSdaiAppInstance& instance) = nullptr;
     /// Makes the record; null when attributes go by name and no more is to be done. Called for absorbed instances too,
     /// which may add others.

@@ -96,12 +96,16 @@ void ReleasePlan::decideByRules(std::uint16_t keyword) {
             put(number, {});
             continue;
         }
+        std::optional<Outcome> found;
         for (const RebuildRule* rule : _book.rebuilds(entity)) {
             const auto outcome = byRule(*rule, number, entity);
             if (!outcome) continue;
-            put(number, *outcome);
-            break;
+            // One that could not be rebuilt by a rule may be by the next.
+            const bool isDone = outcome->reason != &rules::noEntity;
+            if (isDone || !found) found = outcome;
+            if (isDone) break;
         }
+        if (found) put(number, *found);
     }
 }
 
@@ -233,6 +237,11 @@ void Planning::setLater(std::uint64_t id, std::string_view attribute, std::strin
 
 std::uint64_t Planning::add(const RecordBuilder& record) {
     return _plan._edit.add(record.text()).value_or(0);
+}
+
+std::size_t Planning::userCount(std::uint64_t id) {
+    const auto number = _plan._model.file().find(id);
+    return number ? _plan.index().users(*number).size() : 0;
 }
 
 std::vector<std::uint64_t> Planning::users(std::uint64_t id) {

@@ -82,7 +82,15 @@ constexpr ConversionRule plainSurfaces = {"plain-surfaces", Effect::Lost, "Bound
 constexpr ConversionRule facetColours = {"facet-colours", Effect::Lost, "Colours and textures of facets are lost",
                                          "The release gives styles to items as a whole"};
 
+constexpr ConversionRule contradictions = {
+    "contradictory-shapes", Effect::Lost, "Shapes that contradict themselves, or say too much, are lost",
+    "Indices beyond the list, knots that do not increase or numbers that do not match have no meaning to keep; nor may "
+    "what a few lines say of each other grow without bounds"};
+
 constexpr RebuildRule rules[] = {
+    {contradictions, "IFCTESSELLATEDFACESET", lostWhereLacking},
+    {contradictions, "IFCINDEXEDPOLYCURVE", lostWhereLacking},
+    {contradictions, "IFCBSPLINECURVE", lostWhereLacking},
     {advancedBreps, "IFCADVANCEDBREP", lostWhereLacking},
     {curvedSurfaces, "IFCBSPLINESURFACE", lostWhereLacking},
     {curvedSurfaces, "IFCCYLINDRICALSURFACE", lostWhereLacking},
