@@ -222,9 +222,11 @@ void Planning::decide(std::uint64_t id, Successor successor) {
     const Outcome& before = _plan.outcome(*number);
     if (before.source == nullptr) return;
     _plan._decided[*number] = true;
-    const bool isLost = successor.kind == Successor::Kind::Lost;
-    _plan.put(*number,
-              {successor.kind, before.source, successor.entity, nullptr, isLost ? &rules::noEntity : before.reason});
+    // What carries on what was absorbed tells so.
+    const ConversionRule* reason = successor.kind == Successor::Kind::Lost       ? &rules::noEntity
+                                   : successor.kind == Successor::Kind::Absorbed ? nullptr
+                                                                                 : before.reason;
+    _plan.put(*number, {successor.kind, before.source, successor.entity, nullptr, reason});
 }
 
 void Planning::setLater(std::uint64_t id, std::string_view attribute, std::string encoded) {

@@ -71,7 +71,8 @@ sdai::RecordRewriter::Outcome ReleaseRewriter::rewrite(const RecordView& record,
         return Outcome::Drop;
     }
     makeRecord();
-    const bool isRebuilt = _outcome->rule != nullptr && _outcome->rule->rule.effect == Effect::Rebuilt;
+    const bool isRebuilt = _outcome->rule != nullptr ? _outcome->rule->rule.effect == Effect::Rebuilt
+                                                     : _outcome->kind == Successor::Kind::Absorbed;
     // A rule that is for an instance may find it right as it is.
     const bool isSame = !isRebuilt && _outcome->kind == Successor::Kind::Entity && isUnchanged();
     if (!isSame && (_outcome->rule != nullptr || _outcome->reason != nullptr)) {

@@ -193,7 +193,10 @@ void rebuildPolygons(Rebuilding& rebuilding) {
 constexpr RebuildRule rules[] = {
     {{"plane-breps", Effect::Rebuilt, "Advanced boundary representations of planes and straight edges become faceted",
       "A face in a plane whose edges are straight is the polygon of its vertices"},
-     "IFCADVANCEDBREP", becomesPolygons, planPolygons, rebuildPolygons},
+     "IFCADVANCEDBREP",
+     becomesPolygons,
+     planPolygons,
+     rebuildPolygons},
 };
 
 } // namespace
