@@ -155,6 +155,7 @@ TEST(ConvertCommand, WordsThatMakeNoSenseAreBadUsage) {
         {{path, "-o", result, "--limit", "few"}, "whole number"},
         {{path, "-o", result, "--report", path}, "is the model or the result itself"},
         {{path, "-o", result, "--report", result}, "is the model or the result itself"},
+        {{path, "-o", result, "--report", folder / "./result.ifc"}, "is the model or the result itself"},
         {{path, "-o", result, "--guids", "repair", "--guid-map", other, "--report", other}, "name the same file"},
     };
     for (const auto& [words, message] : cases) {

@@ -113,7 +113,9 @@ private:
 bool isSameFile(const std::string& one, const std::string& other) {
     if (one.empty() || other.empty()) return false;
     std::error_code none;
-    return one == other || std::filesystem::equivalent(one, other, none);
+    // A file that is not there yet has no identity but its name.
+    return std::filesystem::weakly_canonical(one, none) == std::filesystem::weakly_canonical(other, none) ||
+           std::filesystem::equivalent(one, other, none);
 }
 
 /// What is wrong with the files that are named together; empty when nothing is.
