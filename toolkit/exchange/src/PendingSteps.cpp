@@ -4,9 +4,6 @@
 
 namespace velkor {
 
-[[gnu::weak]] Converted<StepReport> convertUnits(const sdai::Model&, const UnitOptions&, files::OutputFile&) {
-    return tl::unexpected(std::string("other units are not written yet"));
-}
 [[gnu::weak]] Converted<StepReport> convertProperties(const sdai::Model&, const PropertyOptions&, files::OutputFile&) {
     return tl::unexpected(std::string("other properties are not written yet"));
 }
