@@ -298,6 +298,46 @@ TEST(GeometryCurves, BezierCurvesGoForthAndBack) {
                                  "(-2.,-1.,0.,1.,2.,3.,4.),.UNIFORM_KNOTS.)");
 }
 
+TEST(GeometryCurves, AlignmentsOfLinesAndArcsKeepTheirWay) {
+    // A line, a quarter to the left, a half to the right, and the end that has no length.
+    const std::string segments[] = {
+        "IFCCURVESEGMENT(.CONTINUOUS.,#20,IFCLENGTHMEASURE(0.),IFCLENGTHMEASURE(10.),#10)",
+        "IFCCURVESEGMENT(.CONTSAMEGRADIENT.,#21,IFCLENGTHMEASURE(0.),IFCLENGTHMEASURE(7.853981633974483),#11)",
+        "IFCCURVESEGMENT(.CONTINUOUS.,#22,IFCLENGTHMEASURE(0.),IFCLENGTHMEASURE(-6.283185307179586),#12)",
+        "IFCCURVESEGMENT(.DISCONTINUOUS.,#23,IFCLENGTHMEASURE(0.),IFCLENGTHMEASURE(0.),#10)"};
+    std::string text = "#1=IFCCOMPOSITECURVE((#2,#3,#4,#5),.F.);";
+    for (std::size_t i = 0; i < std::size(segments); ++i)
+        text.append("#").append(std::to_string(i + 2)).append("=").append(segments[i]).append(";");
+    text += "#10=IFCLINE(#30,#13);#11=IFCCIRCLE(#24,5.);#12=IFCCIRCLE(#24,2.);#13=IFCVECTOR(#40,1.);"
+            "#20=IFCAXIS2PLACEMENT2D(#31,#40);#21=IFCAXIS2PLACEMENT2D(#32,$);#22=IFCAXIS2PLACEMENT2D(#33,#41);"
+            "#23=IFCAXIS2PLACEMENT2D(#34,#42);#24=IFCAXIS2PLACEMENT2D(#30,$);#30=IFCCARTESIANPOINT((0.,0.));"
+            "#31=IFCCARTESIANPOINT((-10.,1.));#32=IFCCARTESIANPOINT((0.,1.));#33=IFCCARTESIANPOINT((5.,6.));"
+            "#34=IFCCARTESIANPOINT((9.,6.));#40=IFCDIRECTION((1.,0.));#41=IFCDIRECTION((0.,2.));"
+            "#42=IFCDIRECTION((0.,-1.));";
+    const auto result = toRelease("IFC4X3_ADD2", text, "IFC4");
+    EXPECT_EQ(result.record(1), "IFCCOMPOSITECURVE((#2,#3,#4,#5),.F.)");
+    EXPECT_TRUE(result.report.isLossless());
+    const std::vector<std::string> trimmed = result.records("IFCTRIMMEDCURVE");
+    ASSERT_THAT(trimmed, SizeIs(2));
+    const std::string turns[] = {".T.", ".F."};
+    const std::vector<Point> centres = {{0, 6}, {7, 6}};
+    const std::vector<Point> ends = {{5, 6}, {9, 6}};
+    for (std::size_t i = 0; i < 2; ++i) {
+        const std::vector<std::uint64_t> ids = referencesOf(trimmed[i]);
+        const std::string placement = result.record(referencesOf(result.record(ids.at(0))).at(0));
+        EXPECT_LT(distance(numbersOf(result.record(referencesOf(placement).at(0))), centres[i]), 1e-12);
+        EXPECT_EQ(ids.at(1), i == 0 ? 32u : 33u);
+        EXPECT_LT(distance(numbersOf(result.record(ids.at(2))), ends[i]), 1e-12);
+        EXPECT_NE(trimmed[i].find("," + turns[i] + ",.CARTESIAN."), std::string::npos);
+    }
+    EXPECT_THAT(result.records("IFCPOLYLINE"), testing::Contains("IFCPOLYLINE((#34,#34))"));
+    EXPECT_THAT(result.problems(CheckScope::Everything), IsEmpty());
+    // With a clothoid in it there is no curve.
+    std::string spiral = text;
+    spiral.replace(spiral.find("#11=IFCCIRCLE(#24,5.)"), 21, "#11=IFCCLOTHOID(#24,5.)");
+    EXPECT_EQ(toRelease("IFC4X3_ADD2", spiral, "IFC4").record(1), "");
+}
+
 TEST(GeometryCurves, ACurveWithoutOneOfItsSegmentsIsNone) {
     const std::string instances = "#1=IFCCOMPOSITECURVE((#2,#3),.F.);#2=IFCCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.,#4);"
                                   "#3=IFCCOMPOSITECURVESEGMENT(.DISCONTINUOUS.,.T.,#5);#4=IFCPOLYLINE((#6,#7));"

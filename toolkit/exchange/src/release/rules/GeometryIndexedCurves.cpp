@@ -1,5 +1,5 @@
 // Indexed polygonal curves as polylines and arcs.
-#include "release/rules/CircularArc.h"
+#include "release/rules/CurveRecords.h"
 #include "release/rules/GeometryTables.h"
 #include "release/rules/GeometryText.h"
 #include "release/rules/IndexedSegments.h"
@@ -70,32 +70,7 @@ private:
         const std::optional<Point> end = point(points[2]);
         const auto found = start && middle && end ? CircularArc::through(*start, *middle, *end) : std::nullopt;
         if (!found) return line(points);
-        RecordBuilder record(_rebuilding.target(), "IFCTRIMMEDCURVE");
-        record.set("BASISCURVE", reference(circle(*found)));
-        record.set("TRIM1", listOf({pointReference(points[0])}));
-        record.set("TRIM2", listOf({pointReference(points[2])}));
-        // In space the axis is put so that the arc runs with its circle.
-        record.set("SENSEAGREEMENT", enumerator(_points.dimension() == 3 || found->axis[2] > 0 ? "T" : "F"));
-        record.set("MASTERREPRESENTATION", enumerator("CARTESIAN"));
-        return _rebuilding.add(record);
-    }
-
-    std::uint64_t circle(const CircularArc& arc) {
-        const bool isInSpace = _points.dimension() == 3;
-        RecordBuilder placement(_rebuilding.target(), isInSpace ? "IFCAXIS2PLACEMENT3D" : "IFCAXIS2PLACEMENT2D");
-        placement.set("LOCATION", reference(add("IFCCARTESIANPOINT", "COORDINATES", arc.centre)));
-        if (isInSpace) placement.set("AXIS", reference(add("IFCDIRECTION", "DIRECTIONRATIOS", arc.axis)));
-        placement.set("REFDIRECTION", reference(add("IFCDIRECTION", "DIRECTIONRATIOS", arc.direction)));
-        RecordBuilder record(_rebuilding.target(), "IFCCIRCLE");
-        record.set("POSITION", reference(_rebuilding.add(placement)));
-        record.set("RADIUS", real(arc.radius));
-        return _rebuilding.add(record);
-    }
-
-    std::uint64_t add(std::string_view entity, std::string_view attribute, const Point& numbers) {
-        RecordBuilder record(_rebuilding.target(), entity);
-        record.set(attribute, encodedTuple(numbers, _points.dimension()));
-        return _rebuilding.add(record);
+        return addArc(_rebuilding, *found, _points.dimension(), pointReference(points[0]), pointReference(points[2]));
     }
 
     Rebuilding& _rebuilding;

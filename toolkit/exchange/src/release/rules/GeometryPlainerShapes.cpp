@@ -1,4 +1,5 @@
 // Shapes that are said exactly by a plainer entity.
+#include "release/rules/CurveRecords.h"
 #include "release/rules/GeometryTables.h"
 #include "release/rules/GeometryText.h"
 
@@ -70,13 +71,6 @@ void rebuildSharp(Rebuilding& rebuilding) {
     rebuilding.become(record);
 }
 
-std::uint64_t addTuple(Rebuilding& rebuilding, std::string_view entity, std::string_view attribute,
-                       const Point& numbers, std::size_t dimension) {
-    RecordBuilder record(rebuilding.target(), entity);
-    record.set(attribute, encodedTuple(numbers, dimension));
-    return rebuilding.add(record);
-}
-
 // What is more of the instance than the other entity says is said already.
 void carry(Rebuilding& rebuilding) {
     rebuilding.become(rebuilding.carried(*rebuilding.successorOf(rebuilding.id())));
@@ -84,9 +78,9 @@ void carry(Rebuilding& rebuilding) {
 
 std::uint64_t makeMirror(Rebuilding& rebuilding) {
     RecordBuilder record(rebuilding.target(), "IFCCARTESIANTRANSFORMATIONOPERATOR2D");
-    record.set("AXIS1", reference(addTuple(rebuilding, "IFCDIRECTION", "DIRECTIONRATIOS", {-1, 0, 0}, 2)));
-    record.set("AXIS2", reference(addTuple(rebuilding, "IFCDIRECTION", "DIRECTIONRATIOS", {0, 1, 0}, 2)));
-    record.set("LOCALORIGIN", reference(addTuple(rebuilding, "IFCCARTESIANPOINT", "COORDINATES", {0, 0, 0}, 2)));
+    record.set("AXIS1", reference(addDirection(rebuilding, {-1, 0, 0}, 2)));
+    record.set("AXIS2", reference(addDirection(rebuilding, {0, 1, 0}, 2)));
+    record.set("LOCALORIGIN", reference(addPoint(rebuilding, {0, 0, 0}, 2)));
     record.set("SCALE", real(1));
     return rebuilding.add(record);
 }
@@ -175,7 +169,7 @@ constexpr RebuildRule rules[] = {
 
 std::uint64_t makePlacement(Rebuilding& rebuilding, std::string_view entity, std::size_t dimension) {
     RecordBuilder record(rebuilding.target(), entity);
-    record.set("LOCATION", reference(addTuple(rebuilding, "IFCCARTESIANPOINT", "COORDINATES", {0, 0, 0}, dimension)));
+    record.set("LOCATION", reference(addPoint(rebuilding, {0, 0, 0}, dimension)));
     return rebuilding.add(record);
 }
 

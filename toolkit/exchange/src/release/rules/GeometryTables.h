@@ -12,6 +12,7 @@ std::span<const RebuildRule> faceSetRules();
 std::span<const RebuildRule> indexedCurveRules();
 std::span<const RebuildRule> splineRules();
 std::span<const RebuildRule> brepRules();
+std::span<const RebuildRule> curveSegmentRules();
 std::span<const RebuildRule> sweepRules();
 std::span<const RebuildRule> plainerShapeRules();
 std::span<const RebuildRule> representationTypeRules();
