@@ -152,8 +152,7 @@ Ratio MeasureRatios::ratioOfUnit(std::string_view type, int depth) {
     const auto* composition = std::ranges::find(compositions, type, &Composition::type);
     if (composition != std::end(compositions) && depth < deepestComposition && !_isAssigned(type)) {
         for (const Element& element : composition->elements)
-            if (element.exponent != 0)
-                ratio = ratio * ratioOfUnit(element.type, depth + 1).power(element.exponent);
+            if (element.exponent != 0) ratio = ratio * ratioOfUnit(element.type, depth + 1).power(element.exponent);
     }
     _byUnit.emplace(type, ratio);
     return ratio;

@@ -20,10 +20,10 @@ inline constexpr RatioNumber stays = 0;
 
 class MeasureRatios {
 public:
-    /// `exchanged` has the ratios of the unit types whose unit is exchanged, `isAssigned` says of the others whether the
-    /// project has a unit for them: values of a measure are in that unit. Where there is none they are in the units that
-    /// the definition of the measure is made of: a density in mass by volume units, a volume in cubed length units. Units
-    /// that have a name of their own in SI, such as newtons, are in SI then, whatever lengths are in.
+    /// `exchanged` has the ratios of the unit types whose unit is exchanged, `isAssigned` says of the others whether
+    /// the project has a unit for them: values of a measure are in that unit. Where there is none they are in the units
+    /// that the definition of the measure is made of: a density in mass by volume units, a volume in cubed length
+    /// units. Units that have a name of their own in SI, such as newtons, are in SI then, whatever lengths are in.
     MeasureRatios(const sdai::SchemaDefinition& schema, std::map<std::string, Ratio, std::less<>> exchanged,
                   std::function<bool(std::string_view)> isAssigned);
 

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <iterator>
+#include <numbers>
 #include <numeric>
 #include <utility>
 
@@ -82,7 +83,8 @@ bool readDecimal(std::string_view text, Decimal& decimal) {
 /// The decimal of so many digits that is nearest, when it is the same number but for rounding.
 double roundedWithin(double value, int digits) {
     char text[40];
-    const auto written = std::to_chars(std::begin(text), std::end(text), value, std::chars_format::scientific, digits - 1);
+    const auto written =
+        std::to_chars(std::begin(text), std::end(text), value, std::chars_format::scientific, digits - 1);
     double rounded = value;
     std::from_chars(text, written.ptr, rounded);
     return rounded != value && isNextTo(value, rounded) ? rounded : value;
@@ -106,6 +108,9 @@ bool mayBeRounded(std::string_view real) {
 } // namespace
 
 UnitScale UnitScale::of(double factor, double offset) {
+    // A degree has no decimal, however many digits a file gives it.
+    constexpr long double degree = std::numbers::pi_v<long double> / 180;
+    if (offset == 0 && std::abs(factor / degree - 1) < 1e-14L) return exactly(degree);
     UnitScale scale{factor, 0, offset};
     char text[40];
     const auto written = std::to_chars(std::begin(text), std::end(text), factor, std::chars_format::scientific, 14);
@@ -132,7 +137,8 @@ Ratio Ratio::between(const UnitScale& from, const UnitScale& to) {
     ratio._denominator = to.mantissa * (exponent < 0 ? powerOfTen(-exponent) : 1);
     ratio.reduce();
     if (from.offset != to.offset)
-        ratio._offset = (from.offset - to.offset) / (to.mantissa * std::pow(10.0L, static_cast<long double>(to.exponent)));
+        ratio._offset =
+            (from.offset - to.offset) / (to.mantissa * std::pow(10.0L, static_cast<long double>(to.exponent)));
     return ratio;
 }
 
@@ -171,9 +177,8 @@ bool Ratio::convert(std::string_view real, double& before, double& after) const 
     Decimal decimal;
     if (readDecimal(real, decimal)) {
         value = static_cast<long double>(decimal.digits) * _numerator;
-        value = decimal.exponent < 0
-                    ? value / (_denominator * powersOfTen[static_cast<std::size_t>(-decimal.exponent)])
-                    : value * powersOfTen[static_cast<std::size_t>(decimal.exponent)] / _denominator;
+        value = decimal.exponent < 0 ? value / (_denominator * powersOfTen[static_cast<std::size_t>(-decimal.exponent)])
+                                     : value * powersOfTen[static_cast<std::size_t>(decimal.exponent)] / _denominator;
         if (decimal.isNegative) value = -value;
         before = static_cast<double>(decimal.digits);
     } else {

@@ -42,10 +42,11 @@ std::string unitTypes(const sdai::SchemaDefinition& schema, std::string_view wan
 }
 
 bool isUnitType(const sdai::SchemaDefinition& schema, std::string_view name) {
-    return std::ranges::any_of(std::initializer_list<const char*>{"IFCUNITENUM", "IFCDERIVEDUNITENUM"}, [&](const char* list) {
-        const auto* type = schema.definedType(list);
-        return type != nullptr && type->resolved().asEnumeration()->position(name) >= 0;
-    });
+    return std::ranges::any_of(std::initializer_list<const char*>{"IFCUNITENUM", "IFCDERIVEDUNITENUM"},
+                               [&](const char* list) {
+                                   const auto* type = schema.definedType(list);
+                                   return type != nullptr && type->resolved().asEnumeration()->position(name) >= 0;
+                               });
 }
 
 } // namespace
@@ -63,7 +64,9 @@ tl::expected<void, std::string> UnitAssignment::want(const std::string& type, co
     auto unit = catalogueUnit(type, name);
     if (!unit) return tl::unexpected(unit.error());
     const UnitReport::Unit* before = _report.inForce(type);
-    if (before == nullptr) return tl::unexpected("the project has no unit of type " + type + " that " + unit->displayName() + " could replace");
+    if (before == nullptr)
+        return tl::unexpected("the project has no unit of type " + type + " that " + unit->displayName() +
+                              " could replace");
     const Ratio ratio = Ratio::between(scaleOf(*_model, *before), unit->scale);
     if (!ratio.isOne()) _exchanges.push_back({*before, *unit, ratio});
     return {};
@@ -81,14 +84,16 @@ bool UnitAssignment::isUsedElsewhere(std::uint64_t id) const {
     const std::string_view text = _model->file().text();
     int uses = 0;
     // The instance itself begins with its name, the assignment has it once.
-    for (std::size_t at = text.find(wanted); at != std::string_view::npos && uses < 3; at = text.find(wanted, at + wanted.size())) {
+    for (std::size_t at = text.find(wanted); at != std::string_view::npos && uses < 3;
+         at = text.find(wanted, at + wanted.size())) {
         const std::size_t behind = at + wanted.size();
         if (behind >= text.size() || text[behind] < '0' || text[behind] > '9') ++uses;
     }
     return uses > 2;
 }
 
-tl::expected<std::string, std::string> UnitAssignment::recordOf(const CatalogueUnit& unit, sdai::Part21Edit& edit) const {
+tl::expected<std::string, std::string> UnitAssignment::recordOf(const CatalogueUnit& unit,
+                                                                sdai::Part21Edit& edit) const {
     const ReleaseSchema schema(_model->schema());
     RecordBuilder si(schema, "IFCSIUNIT");
     si.set("UNITTYPE", enumerator(unit.si.type));
@@ -96,8 +101,13 @@ tl::expected<std::string, std::string> UnitAssignment::recordOf(const CatalogueU
     si.set("NAME", enumerator(unit.si.name));
     if (!unit.isConversionBased()) return si.text();
     RecordBuilder exponents(schema, "IFCDIMENSIONALEXPONENTS");
-    constexpr const char* names[] = {"LENGTHEXPONENT", "MASSEXPONENT", "TIMEEXPONENT", "ELECTRICCURRENTEXPONENT",
-                                     "THERMODYNAMICTEMPERATUREEXPONENT", "AMOUNTOFSUBSTANCEEXPONENT", "LUMINOUSINTENSITYEXPONENT"};
+    constexpr const char* names[] = {"LENGTHEXPONENT",
+                                     "MASSEXPONENT",
+                                     "TIMEEXPONENT",
+                                     "ELECTRICCURRENTEXPONENT",
+                                     "THERMODYNAMICTEMPERATUREEXPONENT",
+                                     "AMOUNTOFSUBSTANCEEXPONENT",
+                                     "LUMINOUSINTENSITYEXPONENT"};
     const std::array<int, 7> dimensions = dimensionsOf(unit.si.type);
     for (std::size_t i = 0; i < dimensions.size(); ++i) exponents.set(names[i], integer(dimensions[i]));
     const auto base = edit.add(si.text());
@@ -138,7 +148,8 @@ tl::expected<void, std::string> UnitAssignment::rewrite(sdai::Part21Edit& edit, 
         eachReference(parameterOf(*assignment, 0), [&](std::uint64_t member) {
             members.push_back(reference(member == exchange.before.id ? *id : member));
         });
-        if (auto done = edit.setParameter(*_report.assignment, 0, listOf(members)); !done) return tl::unexpected(done.error());
+        if (auto done = edit.setParameter(*_report.assignment, 0, listOf(members)); !done)
+            return tl::unexpected(done.error());
     }
     return {};
 }

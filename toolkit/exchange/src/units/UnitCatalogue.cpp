@@ -136,7 +136,8 @@ const Coherent* coherent(std::string_view type) {
 std::vector<std::string> namesOf(const SiUnit& unit) {
     std::vector<std::string> names = {normalized(std::string(unit.prefix) + std::string(unit.name))};
     if (const std::size_t length = unit.name.find("_METRE"); length != std::string_view::npos && !unit.prefix.empty())
-        names.push_back(normalized(std::string(unit.name.substr(0, length)) + ' ' + std::string(unit.prefix) + "METRE"));
+        names.push_back(
+            normalized(std::string(unit.name.substr(0, length)) + ' ' + std::string(unit.prefix) + "METRE"));
     return names;
 }
 

@@ -1,4 +1,5 @@
-/// The units that can be asked for by name: those of SI with their prefixes, and the conversion-based ones of ISO 16739.
+/// The units that can be asked for by name: those of SI with their prefixes, and the conversion-based ones of ISO
+/// 16739.
 #pragma once
 
 #include "Ratio.h"
@@ -41,16 +42,16 @@ struct CatalogueUnit {
     std::string displayName() const;
 };
 
-/// A unit by unit type and name; letter case does not count, "_" and blanks are the same. The error names the units that
-/// are likely meant.
+/// A unit by unit type and name; letter case does not count, "_" and blanks are the same. The error names the units
+/// that are likely meant.
 tl::expected<CatalogueUnit, std::string> catalogueUnit(std::string_view type, std::string_view name);
 
-/// How a unit of SI counts. A gram is a thousandth of the coherent unit, a degree Celsius begins elsewhere, and the prefix
-/// of an area or volume is that of the length in it.
+/// How a unit of SI counts. A gram is a thousandth of the coherent unit, a degree Celsius begins elsewhere, and the
+/// prefix of an area or volume is that of the length in it.
 UnitScale scaleOf(const SiUnit& unit);
 
-/// Exponents of length, mass, time, electric current, temperature, amount of substance and luminous intensity, of a unit
-/// type that has conversion-based units.
+/// Exponents of length, mass, time, electric current, temperature, amount of substance and luminous intensity, of a
+/// unit type that has conversion-based units.
 std::array<int, 7> dimensionsOf(std::string_view type);
 
 } // namespace velkor::exchange

@@ -101,7 +101,8 @@ void UnitPlans::takeHidden(const EntityDefinition& entity, std::string_view attr
     const bool isPolynomial = entity.isKindOf("IFCPOLYNOMIALCURVE") && attribute.starts_with("COEFFICIENTS");
     if (isPolynomial && _ratios.length() != stays) slot = {Form::Powers, stays, -1, true};
     for (const Parameter& parameter : parameters)
-        if (attribute == parameter.attribute && entity.isKindOf(parameter.entity)) slot = {Form::Parameters, stays, -1, false};
+        if (attribute == parameter.attribute && entity.isKindOf(parameter.entity))
+            slot = {Form::Parameters, stays, -1, false};
 }
 
 UnitPlan::Slot UnitPlans::slotOf(const Type& type, RatioNumber ratio, int depth) {

@@ -60,7 +60,8 @@ bool eachToken(std::string_view value, std::string& text, Take take) {
 
 } // namespace
 
-UnitRewriter::UnitRewriter(const sdai::Model& model, MeasureRatios& ratios, ChangeList& changes, const Progress& progress)
+UnitRewriter::UnitRewriter(const sdai::Model& model, MeasureRatios& ratios, ChangeList& changes,
+                           const Progress& progress)
     : _model(model), _ratios(ratios), _changes(changes), _progress(progress) {
     // Coefficients of powers that no curve of these releases goes beyond.
     constexpr int largestPower = 32;
@@ -80,7 +81,8 @@ void UnitRewriter::keepOwnUnits() {
         });
     for (const std::uint32_t number : _model.numbersOf("IFCTIMESERIES"))
         if (hasUnit(number, "UNIT"))
-            eachNumber(file, parameterOf(_model, number, "VALUES"), [&](std::uint32_t value) { _withOwnUnit.insert(value); });
+            eachNumber(file, parameterOf(_model, number, "VALUES"),
+                       [&](std::uint32_t value) { _withOwnUnit.insert(value); });
     for (const std::uint32_t number : _model.numbersOf("IFCTABLE")) {
         bool hasColumnUnit = false;
         eachNumber(file, parameterOf(_model, number, "COLUMNS"),
@@ -133,7 +135,8 @@ sdai::RecordRewriter::Outcome UnitRewriter::rewrite(const sdai::RecordView& reco
     return Outcome::Replace;
 }
 
-bool UnitRewriter::convert(const sdai::RecordView& record, const EntityDefinition& entity, std::size_t place, std::string& text) {
+bool UnitRewriter::convert(const sdai::RecordView& record, const EntityDefinition& entity, std::size_t place,
+                           std::string& text) {
     const UnitPlan& plan = _plans.plan(entity);
     const Slot& slot = plan.slots[place];
     const std::string_view value = record.parameters[place];
@@ -142,7 +145,8 @@ bool UnitRewriter::convert(const sdai::RecordView& record, const EntityDefinitio
     if (!_spaces.isEmpty())
         if (const auto space = _spaces.space(record.number)) {
             if (plan.kind == UnitPlan::Kind::Point) return pair(value, *space, text);
-            if (*space != ParameterSpaces::Pair{}) note(unitrule::parameterShared, entity.attributes()[place].attribute->name());
+            if (*space != ParameterSpaces::Pair{})
+                note(unitrule::parameterShared, entity.attributes()[place].attribute->name());
             return false;
         }
     if (slot.form == Form::Parameters)
@@ -154,11 +158,16 @@ bool UnitRewriter::convert(const sdai::RecordView& record, const EntityDefinitio
 
 bool UnitRewriter::convertPlain(const Slot& slot, std::string_view value, std::string& text) {
     switch (slot.form) {
-    case Form::Numbers: return numbers(value, _ratios[slot.ratio], text);
-    case Form::Whole: return wholes(value, _ratios[slot.ratio], text);
-    case Form::Typed: return typedValues(value, text);
-    case Form::Powers: return powers(value, text);
-    default: return false;
+    case Form::Numbers:
+        return numbers(value, _ratios[slot.ratio], text);
+    case Form::Whole:
+        return wholes(value, _ratios[slot.ratio], text);
+    case Form::Typed:
+        return typedValues(value, text);
+    case Form::Powers:
+        return powers(value, text);
+    default:
+        return false;
     }
 }
 
@@ -176,13 +185,15 @@ bool UnitRewriter::numbers(std::string_view value, const Ratio& ratio, std::stri
     bool isChanged = false;
     while (at != end) {
         if (!beginsNumber(*at)) {
-            const bool isPlain = *at == '(' || *at == ')' || *at == ',' || *at == ' ' || *at == '\n' || *at == '\r' || *at == '$';
+            const bool isPlain =
+                *at == '(' || *at == ')' || *at == ',' || *at == ' ' || *at == '\n' || *at == '\r' || *at == '$';
             if (!isPlain) {
                 text.resize(before);
                 return eachToken(value, text, [&](const Token& token, std::string& out) {
                     const bool isNumber = token.kind == TokenKind::Real || token.kind == TokenKind::Integer;
-                    return isNumber ? number(token.text, ratio, out)
-                                    : token.kind == TokenKind::Bad && (note(unitrule::numberUnreadable, token.text), false);
+                    return isNumber
+                               ? number(token.text, ratio, out)
+                               : token.kind == TokenKind::Bad && (note(unitrule::numberUnreadable, token.text), false);
                 });
             }
             text += *at++;
@@ -270,13 +281,18 @@ bool UnitRewriter::parameter(const sdai::RecordView& record, const EntityDefinit
         return wanted != stays && (token.kind == TokenKind::Real || token.kind == TokenKind::Integer) &&
                number(token.text, _ratios[wanted], out);
     });
-    if (isChanged) note(isTyped ? unitrule::measure : isSurface ? unitrule::surfaceParameter : unitrule::curveParameter, attribute);
+    if (isChanged)
+        note(isTyped     ? unitrule::measure
+             : isSurface ? unitrule::surfaceParameter
+                         : unitrule::curveParameter,
+             attribute);
     return isChanged;
 }
 
 bool UnitRewriter::hasMapUnit(std::string_view targetSystem) const {
     bool has = false;
-    eachNumber(_model.file(), targetSystem, [&](std::uint32_t number) { has = !isUnset(parameterOf(_model, number, "MAPUNIT")); });
+    eachNumber(_model.file(), targetSystem,
+               [&](std::uint32_t number) { has = !isUnset(parameterOf(_model, number, "MAPUNIT")); });
     return has;
 }
 

@@ -28,7 +28,8 @@ private:
     using Slot = UnitPlan::Slot;
 
     void keepOwnUnits();
-    bool convert(const sdai::RecordView& record, const sdai::EntityDefinition& entity, std::size_t slot, std::string& text);
+    bool convert(const sdai::RecordView& record, const sdai::EntityDefinition& entity, std::size_t slot,
+                 std::string& text);
     bool convertPlain(const Slot& slot, std::string_view value, std::string& text);
     bool numbers(std::string_view value, const Ratio& ratio, std::string& text);
     bool wholes(std::string_view value, const Ratio& ratio, std::string& text);

@@ -27,41 +27,43 @@ const ConversionRule curveParameter = {
     "ISO 10303-42 parametrises conics by an angle, which is in the unit of plane angles; those of other curves are "
     "numbers of segments or multiples of a vector, which scales with the model"};
 
-const ConversionRule surfaceParameter = {
-    "surface-parameter-converted", Effect::Converted, "Curves and bounds on surfaces follow the surface's parameters",
-    "ISO 10303-42 parametrises planes by two lengths, cylinders and cones by an angle and a length, spheres and tori by "
-    "two angles; on other surfaces parameters are numbers without a unit"};
+const ConversionRule surfaceParameter = {"surface-parameter-converted", Effect::Converted,
+                                         "Curves and bounds on surfaces follow the surface's parameters",
+                                         "ISO 10303-42 parametrises planes by two lengths, cylinders and cones by an "
+                                         "angle and a length, spheres and tori by "
+                                         "two angles; on other surfaces parameters are numbers without a unit"};
 
-const ConversionRule mapScale = {
-    "map-scale-adjusted", Effect::Converted, "The scale of a map conversion takes up what the units have changed",
-    "It leads from project lengths to those of the map, and eastings and northings stay in the map's unit where the map "
-    "has one of its own"};
+const ConversionRule mapScale = {"map-scale-adjusted", Effect::Converted,
+                                 "The scale of a map conversion takes up what the units have changed",
+                                 "It leads from project lengths to those of the map, and eastings and northings stay "
+                                 "in the map's unit where the map "
+                                 "has one of its own"};
 
-const ConversionRule numberUnreadable = {
-    "number-kept", Effect::Lost, "Values that are no numbers, or have none in the new unit, stay as they are",
-    "Nothing that could be written in their place would be right"};
+const ConversionRule numberUnreadable = {"number-kept", Effect::Lost,
+                                         "Values that are no numbers, or have none in the new unit, stay as they are",
+                                         "Nothing that could be written in their place would be right"};
 
-const ConversionRule notWhole = {
-    "whole-number-kept", Effect::Lost, "Whole numbers that would need a fraction in the new unit stay as they are",
-    "Their type is INTEGER, and another count would be another value"};
+const ConversionRule notWhole = {"whole-number-kept", Effect::Lost,
+                                 "Whole numbers that would need a fraction in the new unit stay as they are",
+                                 "Their type is INTEGER, and another count would be another value"};
 
 const ConversionRule notUnderstood = {
     "statement-kept", Effect::Lost, "Statements that the dictionary does not explain stay as they are",
     "Without the entity and the right number of attributes nobody can say what a number measures"};
 
-const ConversionRule parameterShared = {
-    "shared-parameter-curve", Effect::Lost, "A curve on a surface could not follow its parameters in full",
-    "The two parameters change differently, which no line, circle or vector can follow, or its points stand for lengths "
-    "elsewhere as well"};
+const ConversionRule parameterShared = {"shared-parameter-curve", Effect::Lost,
+                                        "A curve on a surface could not follow its parameters in full",
+                                        "The two parameters change differently, which no line, circle or vector can "
+                                        "follow, or its points stand for lengths "
+                                        "elsewhere as well"};
 
 } // namespace unitrule
 
 std::span<const ConversionRule* const> unitRules() {
     static constexpr const ConversionRule* rules[] = {
-        &unitrule::unitReplaced,     &unitrule::unitAdded,        &unitrule::measure,
-        &unitrule::hiddenMeasure,    &unitrule::curveParameter,   &unitrule::surfaceParameter,
-        &unitrule::mapScale,         &unitrule::numberUnreadable, &unitrule::notWhole,
-        &unitrule::notUnderstood,    &unitrule::parameterShared};
+        &unitrule::unitReplaced,   &unitrule::unitAdded,        &unitrule::measure,        &unitrule::hiddenMeasure,
+        &unitrule::curveParameter, &unitrule::surfaceParameter, &unitrule::mapScale,       &unitrule::numberUnreadable,
+        &unitrule::notWhole,       &unitrule::notUnderstood,    &unitrule::parameterShared};
     return rules;
 }
 
