@@ -332,6 +332,13 @@ TEST(GeometryCurves, AlignmentsOfLinesAndArcsKeepTheirWay) {
     }
     EXPECT_THAT(result.records("IFCPOLYLINE"), testing::Contains("IFCPOLYLINE((#34,#34))"));
     EXPECT_THAT(result.problems(CheckScope::Everything), IsEmpty());
+    // Lengths that a release candidate has, and one that it has not.
+    const auto candidate = toRelease("IFC4X3_ADD2", text.substr(text.find(';') + 1), "IFC4X3_RC3");
+    EXPECT_EQ(candidate.record(2), "IFCCURVESEGMENT(.CONTINUOUS.,#20,IFCNONNEGATIVELENGTHMEASURE(0.),"
+                                   "IFCNONNEGATIVELENGTHMEASURE(10.),#10)");
+    EXPECT_EQ(candidate.record(4), "");
+    EXPECT_EQ(candidate.count("lengths-from-zero"), 6u);
+    EXPECT_THAT(candidate.problems(), IsEmpty());
     // With a clothoid in it there is no curve.
     std::string spiral = text;
     spiral.replace(spiral.find("#11=IFCCIRCLE(#24,5.)"), 21, "#11=IFCCLOTHOID(#24,5.)");

@@ -141,9 +141,13 @@ void rebuildSegment(Rebuilding& rebuilding) {
 
 constexpr RebuildRule rules[] = {
     {{"straight-segments", Effect::Rebuilt, "Curve segments of lines and circles become segments of lines and arcs",
-      "Where a segment begins, where it leads and how long it is say where it ends; the one without length at the end of "
+      "Where a segment begins, where it leads and how long it is say where it ends; the one without length at the end "
+      "of "
       "an alignment stays a point"},
-     "IFCCURVESEGMENT", becomesSegment, nullptr, rebuildSegment},
+     "IFCCURVESEGMENT",
+     becomesSegment,
+     nullptr,
+     rebuildSegment},
 };
 
 } // namespace

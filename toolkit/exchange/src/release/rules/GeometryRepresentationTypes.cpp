@@ -178,10 +178,28 @@ std::optional<std::vector<std::string>> asPoints(Rebuilding& rebuilding, std::st
     return members;
 }
 
+// Where along a curve, in a release whose lengths there are never negative.
+std::optional<std::vector<std::string>> asNonNegative(Rebuilding& rebuilding, std::string_view encoded,
+                                                      const sdai::Type&, const sdai::Type& to) {
+    constexpr std::string_view before = "IFCLENGTHMEASURE";
+    constexpr std::string_view after = "IFCNONNEGATIVELENGTHMEASURE";
+    const sdai::SelectType* select = to.resolved().asSelect();
+    const sdai::DefinedType* type = rebuilding.target().definition().definedType(after);
+    if (!select || !type || !select->accepts(*type) || !encoded.starts_with(before)) return std::nullopt;
+    const std::string_view value = encoded.substr(before.size());
+    const std::optional<std::vector<double>> length = readNumbers(value);
+    if (!length || length->size() != 1 || length->front() < 0) return std::nullopt;
+    std::string text(after);
+    return std::vector{text += value};
+}
+
 const ValueRule values[] = {
     {{"shown-points", Effect::Rebuilt, "A list of points that is shown becomes its points",
       "A representation may show points as it may show the list"},
      asPoints},
+    {{"lengths-from-zero", Effect::Converted, "Lengths along a curve that are not negative are said to be so",
+      "The release allows no others there"},
+     asNonNegative},
 };
 
 } // namespace
