@@ -147,6 +147,11 @@ TEST(ConvertCommand, WordsThatMakeNoSenseAreBadUsage) {
         {{path, "-o", result, "--unit", "LENGTHUNIT"}, "expected TYPE=NAME"},
         {{path, "-o", result, "--unit", "=METRE"}, "expected TYPE=NAME"},
         {{path, "-o", result, "--unit", "LENGTHUNIT="}, "expected TYPE=NAME"},
+        {{path, "-o", result, "--length-unit", "METER"}, "--length-unit: there is no unit \"METER\""},
+        {{path, "-o", result, "--length-unit", "METER"}, "METRE"},
+        {{path, "-o", result, "--unit", "AREAUNIT=METRE"}, "--unit: there is no unit \"METRE\" of type AREAUNIT"},
+        {{path, "-o", result, "--unit", "LENGTHUNIT=FOOT", "--length-unit", "METRE"},
+         "LENGTHUNIT is given a unit twice"},
         {{path, "-o", result, "--guids", "mend"}, "expected \"repair\" or \"from-plm ATTRIBUTE\", found \"mend\""},
         {{path, "-o", result, "--guids", "from-plm"}, "expected \"repair\" or \"from-plm ATTRIBUTE\""},
         {{path, "-o", result, "--guids", "from-plm", "--dry-run"}, "exclude each other"},
@@ -194,6 +199,24 @@ TEST(ConvertCommand, WhatCannotBeReadOrWrittenIsSaidAndLeavesNoFile) {
     folder.file("result.ifc", "before");
     EXPECT_EQ(convert(example("broken.ifc"), {"-o", nowhere, "--to", "4"}).status, Unreadable);
     EXPECT_EQ(contents(result), "before");
+}
+
+TEST(ConvertCommand, ConvertsUnitsThereAndBack) {
+    const TemporaryFolder folder;
+    const std::string inches = folder / "inches.ifc", back = folder / "back.ifc";
+    EXPECT_EQ(convert(example("house-ifc2x3.ifc"), {"-o", inches, "--length-unit", "inch"}).status, Done);
+    EXPECT_EQ(runHost({"check", inches}).status, Done);
+    EXPECT_THAT(runHost({"units", inches}).out, HasSubstr("1 length unit = 25.4 mm"));
+    const Outcome outcome =
+        convert(inches, {"-o", back, "--unit", "LENGTHUNIT=MILLIMETRE", "--unit", "PLANEANGLEUNIT=RADIAN"});
+    EXPECT_EQ(outcome.status, Done);
+    EXPECT_THAT(contents(back), AllOf(HasSubstr("#56=IFCRECTANGLEPROFILEDEF(.AREA.,$,#31,8000.,300.);"),
+                                      HasSubstr("#57=IFCEXTRUDEDAREASOLID(#56,#30,#27,2600.);")));
+    EXPECT_THAT(runHost({"units", back}).out, HasSubstr("1 plane angle unit = 1 rad"));
+    // The model assigns no such unit that could be replaced.
+    const Outcome refused = convert(back, {"-o", inches, "--unit", "FREQUENCYUNIT=HERTZ"});
+    EXPECT_EQ(refused.status, Unreadable);
+    EXPECT_THAT(refused.err, HasSubstr("FREQUENCYUNIT"));
 }
 
 TEST(ConvertCommand, RepairsIdentifiersAndWritesWhichWereWhich) {

@@ -5,8 +5,10 @@
 #include "ReleaseName.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/exchange/Conversion.h"
+#include "velkor/text/Unicode.h"
 #include "velkor/text/Wording.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -63,7 +65,8 @@ private:
     }
 
     bool readUnits(ConversionOptions& options) {
-        if (!_arguments.lengthUnit.empty()) add(options, "LENGTHUNIT", _arguments.lengthUnit);
+        if (!_arguments.lengthUnit.empty() && !add(options, "--length-unit", "LENGTHUNIT", _arguments.lengthUnit))
+            return false;
         for (const std::string& word : _arguments.units) {
             const auto equals = word.find('=');
             if (equals == 0 || equals == std::string::npos || equals + 1 == word.size()) {
@@ -71,13 +74,19 @@ private:
                          "--unit: expected TYPE=NAME, such as AREAUNIT=SQUARE_METRE, found " + text::quoted(word));
                 return false;
             }
-            add(options, word.substr(0, equals), word.substr(equals + 1));
+            if (!add(options, "--unit", word.substr(0, equals), word.substr(equals + 1))) return false;
         }
         return true;
     }
-    static void add(ConversionOptions& options, std::string type, std::string name) {
+    bool add(ConversionOptions& options, const char* option, std::string type, std::string name) {
         if (!options.units) options.units.emplace();
-        options.units->units.emplace_back(std::move(type), std::move(name));
+        auto& units = options.units->units;
+        auto fault = unitFault(type, name);
+        if (std::ranges::any_of(units, [&](const auto& one) { return text::equalIgnoringCase(one.first, type); }))
+            fault = type + " is given a unit twice";
+        if (fault) badUsage(_context, std::string(option) + ": " + *fault);
+        units.emplace_back(std::move(type), std::move(name));
+        return !fault;
     }
 
     bool readIdentifiers(ConversionOptions& options) {

@@ -2,6 +2,8 @@
 
 #include "identifiers/IdentifierRules.h"
 #include "release/ReleaseRules.h"
+#include "units/UnitCatalogue.h"
+#include "units/UnitRules.h"
 #include "velkor/files/ScratchFile.h"
 
 #include <functional>
@@ -120,6 +122,11 @@ Converted<FullReport> convertModel(const sdai::Model& model, const ConversionOpt
     return report;
 }
 
+std::optional<std::string> unitFault(std::string_view type, std::string_view name) {
+    auto unit = exchange::catalogueUnit(type, name);
+    return unit ? std::nullopt : std::optional(std::move(unit.error()));
+}
+
 std::vector<StepRules> conversionRules() {
     std::vector<StepRules> steps;
     const auto add = [&steps](std::string_view step,
@@ -129,6 +136,7 @@ std::vector<StepRules> conversionRules() {
         for (const auto& table : all) rules.rules.insert(rules.rules.end(), table.begin(), table.end());
     };
     add("release", {exchange::releaseRules()});
+    add("units", {exchange::unitRules()});
     add("identifiers", {exchange::identifierRules()});
     return steps;
 }

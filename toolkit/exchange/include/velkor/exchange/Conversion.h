@@ -57,6 +57,9 @@ struct UnitOptions : StepOptions {
     std::vector<std::pair<std::string, std::string>> units;
 };
 
+/// Why a unit type and a name mean no unit that can be asked for, in one line; nothing when they mean one.
+VELKOR_TOOLKIT_API std::optional<std::string> unitFault(std::string_view type, std::string_view name);
+
 /// The same model in other units: every value of a measure of theirs is converted, and the assignment rewritten.
 VELKOR_TOOLKIT_API Converted<StepReport> convertUnits(const sdai::Model& model, const UnitOptions& options,
                                                       files::OutputFile& output);
