@@ -120,6 +120,8 @@ std::optional<std::string> virtualElement(Rebuilding& rebuilding) {
     std::string text(rebuilding.encoded("GLOBALID"));
     element.set("GLOBALID", literal(derivedIdentifier(text += " IFCVIRTUALELEMENT")));
     element.set("OWNERHISTORY", std::string(rebuilding.encoded("OWNERHISTORY")));
+    // Where releases have it.
+    element.set("PREDEFINEDTYPE", enumerator("NOTDEFINED"));
     return reference(rebuilding.add(element));
 }
 
