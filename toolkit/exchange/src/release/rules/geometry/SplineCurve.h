@@ -1,7 +1,7 @@
 /// B-spline curves as models have them.
 #pragma once
 
-#include "release/rules/BezierSegments.h"
+#include "release/rules/geometry/BezierSegments.h"
 #include "velkor/sdai/Model.h"
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "release/rules/CircularArc.h"
+#include "release/rules/geometry/CircularArc.h"
 
 #include <cmath>
 #include <numbers>

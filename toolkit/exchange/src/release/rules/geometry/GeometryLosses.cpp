@@ -1,5 +1,5 @@
 // Shapes that a release cannot say exactly.
-#include "release/rules/GeometryTables.h"
+#include "release/rules/geometry/GeometryTables.h"
 
 #include <algorithm>
 

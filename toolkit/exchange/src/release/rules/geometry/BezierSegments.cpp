@@ -1,4 +1,4 @@
-#include "release/rules/BezierSegments.h"
+#include "release/rules/geometry/BezierSegments.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 /// Faces of tessellated face sets as loops of points, and whether they enclose something.
 #pragma once
 
-#include "release/rules/GeometryText.h"
+#include "release/rules/geometry/GeometryText.h"
 #include "velkor/sdai/Model.h"
 
 #include <cstdint>

@@ -1,8 +1,8 @@
 // B-spline and Bezier curves as one another.
-#include "release/rules/BezierSegments.h"
-#include "release/rules/GeometryTables.h"
-#include "release/rules/GeometryText.h"
-#include "release/rules/SplineCurve.h"
+#include "release/rules/geometry/BezierSegments.h"
+#include "release/rules/geometry/GeometryTables.h"
+#include "release/rules/geometry/GeometryText.h"
+#include "release/rules/geometry/SplineCurve.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 // What a shape representation is called, by what stands in it.
-#include "release/rules/GeometryTables.h"
-#include "release/rules/GeometryText.h"
+#include "release/rules/geometry/GeometryTables.h"
+#include "release/rules/geometry/GeometryText.h"
 
 #include "velkor/sdai/Part21Lexer.h"
 

@@ -1,4 +1,4 @@
-#include "release/rules/GeometryTables.h"
+#include "release/rules/geometry/GeometryTables.h"
 
 #include <algorithm>
 #include <vector>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "release/Rebuilding.h"
-#include "release/rules/CircularArc.h"
+#include "release/rules/geometry/CircularArc.h"
 
 #include <cstddef>
 #include <cstdint>

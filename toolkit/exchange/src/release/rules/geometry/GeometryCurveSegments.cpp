@@ -1,6 +1,6 @@
 // Segments of alignments that are lines and arcs.
-#include "release/rules/CurveRecords.h"
-#include "release/rules/GeometryTables.h"
+#include "release/rules/geometry/CurveRecords.h"
+#include "release/rules/geometry/GeometryTables.h"
 
 #include <cmath>
 #include <numbers>

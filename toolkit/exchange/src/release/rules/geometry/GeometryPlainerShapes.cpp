@@ -1,7 +1,7 @@
 // Shapes that are said exactly by a plainer entity.
-#include "release/rules/CurveRecords.h"
-#include "release/rules/GeometryTables.h"
-#include "release/rules/GeometryText.h"
+#include "release/rules/geometry/CurveRecords.h"
+#include "release/rules/geometry/GeometryTables.h"
+#include "release/rules/geometry/GeometryText.h"
 
 #include "velkor/sdai/Part21Encoding.h"
 

@@ -1,6 +1,6 @@
-#include "release/rules/IndexedSegments.h"
+#include "release/rules/geometry/IndexedSegments.h"
 
-#include "release/rules/GeometryText.h"
+#include "release/rules/geometry/GeometryText.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // Tessellated face sets as faces bounded by loops of points.
-#include "release/rules/FaceLoops.h"
-#include "release/rules/GeometryTables.h"
-#include "release/rules/GeometryText.h"
+#include "release/rules/geometry/FaceLoops.h"
+#include "release/rules/geometry/GeometryTables.h"
+#include "release/rules/geometry/GeometryText.h"
 
 #include "velkor/sdai/Part21Encoding.h"
 #include "velkor/text/Wording.h"

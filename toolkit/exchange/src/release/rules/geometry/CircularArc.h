@@ -1,7 +1,7 @@
 /// Circles through three points.
 #pragma once
 
-#include "release/rules/GeometryText.h"
+#include "release/rules/geometry/GeometryText.h"
 
 #include <optional>
 

@@ -1,4 +1,4 @@
-#include "release/rules/CurveRecords.h"
+#include "release/rules/geometry/CurveRecords.h"
 
 namespace velkor::exchange {
 

@@ -1,6 +1,6 @@
-#include "release/rules/SplineCurve.h"
+#include "release/rules/geometry/SplineCurve.h"
 
-#include "release/rules/GeometryText.h"
+#include "release/rules/geometry/GeometryText.h"
 
 #include <algorithm>
 

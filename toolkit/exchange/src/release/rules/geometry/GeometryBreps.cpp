@@ -1,5 +1,5 @@
 // Advanced boundary representations without a curve in them.
-#include "release/rules/GeometryTables.h"
+#include "release/rules/geometry/GeometryTables.h"
 
 #include "velkor/sdai/Part21Lexer.h"
 

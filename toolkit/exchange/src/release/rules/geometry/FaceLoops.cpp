@@ -1,6 +1,6 @@
-#include "release/rules/FaceLoops.h"
+#include "release/rules/geometry/FaceLoops.h"
 
-#include "release/rules/GeometryText.h"
+#include "release/rules/geometry/GeometryText.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 // Indexed polygonal curves as polylines and arcs.
-#include "release/rules/CurveRecords.h"
-#include "release/rules/GeometryTables.h"
-#include "release/rules/GeometryText.h"
-#include "release/rules/IndexedSegments.h"
+#include "release/rules/geometry/CurveRecords.h"
+#include "release/rules/geometry/GeometryTables.h"
+#include "release/rules/geometry/GeometryText.h"
+#include "release/rules/geometry/IndexedSegments.h"
 
 #include "velkor/sdai/Part21Encoding.h"
 

@@ -1,4 +1,4 @@
-#include "release/rules/GeometryText.h"
+#include "release/rules/geometry/GeometryText.h"
 
 #include "RecordBuilder.h"
 

@@ -1,9 +1,9 @@
-#include "release/rules/CurveRange.h"
+#include "release/rules/geometry/CurveRange.h"
 
-#include "release/rules/CircularArc.h"
-#include "release/rules/GeometryText.h"
-#include "release/rules/IndexedSegments.h"
-#include "release/rules/SplineCurve.h"
+#include "release/rules/geometry/CircularArc.h"
+#include "release/rules/geometry/GeometryText.h"
+#include "release/rules/geometry/IndexedSegments.h"
+#include "release/rules/geometry/SplineCurve.h"
 #include "velkor/units/UnitReport.h"
 
 #include <algorithm>

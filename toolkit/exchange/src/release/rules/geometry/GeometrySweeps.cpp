@@ -1,6 +1,6 @@
 // Sweeps along curves, and between which parameters.
-#include "release/rules/CurveRange.h"
-#include "release/rules/GeometryTables.h"
+#include "release/rules/geometry/CurveRange.h"
+#include "release/rules/geometry/GeometryTables.h"
 
 #include "velkor/sdai/Part21Encoding.h"
 
