@@ -1,6 +1,7 @@
 #include "velkor/exchange/Conversion.h"
 
 #include "identifiers/IdentifierRules.h"
+#include "properties/PropertyRules.h"
 #include "release/ReleaseRules.h"
 #include "units/UnitCatalogue.h"
 #include "units/UnitRules.h"
@@ -138,6 +139,7 @@ std::vector<StepRules> conversionRules() {
     add("release", {exchange::releaseRules()});
     add("units", {exchange::unitRules()});
     add("identifiers", {exchange::identifierRules()});
+    add("properties", {exchange::propertyRules()});
     return steps;
 }
 

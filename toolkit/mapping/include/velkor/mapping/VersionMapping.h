@@ -19,24 +19,24 @@
 namespace velkor {
 
 /// The mapping services hold one table: while one of these lives no other pair of releases should be asked for.
-class VersionMapping {
+class VELKOR_TOOLKIT_API VersionMapping {
 public:
     /// Reads the document and builds the table. An error is a line that says why there is no document, or
     /// that it does not know the pair.
-    VELKOR_TOOLKIT_API static tl::expected<VersionMapping, std::string>
+    static tl::expected<VersionMapping, std::string>
     load(const PlatformSetup& setup, const MappingRelease& from, const MappingRelease& to);
 
     /// What an entity is called in the target, upper case; empty when the document names no other name.
-    VELKOR_TOOLKIT_API std::string entityName(std::string_view entity) const;
+    std::string entityName(std::string_view entity) const;
     /// The document says that the target no longer has the entity.
     VELKOR_TOOLKIT_API bool isDeprecated(std::string_view entity) const;
     /// What a property of an entity is in the target: entity (that asked for when none is named) and property.
-    VELKOR_TOOLKIT_API std::optional<std::pair<std::string, std::string>> property(std::string_view entity,
+    std::optional<std::pair<std::string, std::string>> property(std::string_view entity,
                                                                                    std::string_view property) const;
     const std::vector<IntroducedValue>& introduced() const noexcept { return _introduced; }
 
 private:
-    VersionMapping(const MappingRelease& from, const MappingRelease& to) : _from(&from), _to(&to) {}
+    VELKOR_TOOLKIT_LOCAL VersionMapping(const MappingRelease& from, const MappingRelease& to) : _from(&from), _to(&to) {}
     const MappingRelease* _from;
     const MappingRelease* _to;
     std::vector<std::string> _deprecated;
