@@ -57,10 +57,12 @@ TEST_F(Properties, RenamesASetAndItsPropertiesInPlace) {
 
 TEST_F(Properties, LeavesWhatTheMappingDoesNotNameAndWhatHasNoType) {
     const std::string other = "#13=IFCQUANTITYLENGTH('Mine',$,$,1.,$);";
-    const auto result = imported(widths + other + "#10=IFCELEMENTQUANTITY(" + guid(10) + ",$,'BaseQuantities',$,$,(#11,#13));" +
-                                 "#12=IFCRELDEFINESBYPROPERTIES(" + guid(12) + ",$,$,$,(#1),#10);");
+    const auto result =
+        imported(widths + other + "#10=IFCELEMENTQUANTITY(" + guid(10) + ",$,'BaseQuantities',$,$,(#11,#13));" +
+                 "#12=IFCRELDEFINESBYPROPERTIES(" + guid(12) + ",$,$,$,(#1),#10);");
     EXPECT_EQ(result.record(10), "IFCELEMENTQUANTITY(" + guid(10) + ",$,'BaseQuantities',$,$,(#13))");
-    EXPECT_THAT(result.records("IFCELEMENTQUANTITY"), ElementsAre(HasSubstr("'BaseQuantities'"), HasSubstr("'Qto_WallBaseQuantities',$,$,(#11)")));
+    EXPECT_THAT(result.records("IFCELEMENTQUANTITY"),
+                ElementsAre(HasSubstr("'BaseQuantities'"), HasSubstr("'Qto_WallBaseQuantities',$,$,(#11)")));
     EXPECT_EQ(result.records("IFCRELDEFINESBYPROPERTIES").size(), 2u);
     EXPECT_THAT(result.problems(), IsEmpty());
 
@@ -77,8 +79,10 @@ TEST_F(Properties, GivesObjectsOfEachTypeTheirOwn) {
     EXPECT_EQ(result.record(11), "IFCQUANTITYLENGTH('NominalWidth',$,$,0.3,$)");
     EXPECT_EQ(result.record(12), "IFCRELDEFINESBYPROPERTIES(" + guid(12) + ",$,$,$,(#3),#10)");
     EXPECT_THAT(result.records("IFCELEMENTQUANTITY"),
-                ElementsAre(HasSubstr("'BaseQuantities'"), HasSubstr("'Qto_WallBaseQuantities'"), HasSubstr("'Qto_SlabBaseQuantities'")));
-    EXPECT_THAT(result.records("IFCRELDEFINESBYPROPERTIES"), ElementsAre(HasSubstr("(#3)"), HasSubstr("(#1)"), HasSubstr("(#2)")));
+                ElementsAre(HasSubstr("'BaseQuantities'"), HasSubstr("'Qto_WallBaseQuantities'"),
+                            HasSubstr("'Qto_SlabBaseQuantities'")));
+    EXPECT_THAT(result.records("IFCRELDEFINESBYPROPERTIES"),
+                ElementsAre(HasSubstr("(#3)"), HasSubstr("(#1)"), HasSubstr("(#2)")));
     EXPECT_THAT(result.problems(CheckScope::Everything), IsEmpty());
     EXPECT_EQ(imported(widths).text, imported(widths).text);
 }
@@ -86,11 +90,12 @@ TEST_F(Properties, GivesObjectsOfEachTypeTheirOwn) {
 TEST_F(Properties, PutsPlmAttributesWhereTheirMappingSays) {
     PropertyOptions options;
     options.plmAttributes = true;
-    const auto result =
-        mapped("#11=IFCPROPERTYSINGLEVALUE('V_FireRating',$,IFCLABEL('F30'),$);#10=IFCPROPERTYSET(" + guid(10) + ",$,'Mine',$,(#11));" +
-                   "#12=IFCRELDEFINESBYPROPERTIES(" + guid(12) + ",$,$,$,(#1),#10);#20=IFCPROPERTYSINGLEVALUE('IsExternal',$,IFCBOOLEAN(.T.),$);" +
-                   "#21=IFCPROPERTYSET(" + guid(11) + ",$,'Pset_WallCommon',$,(#20));#22=IFCRELDEFINESBYPROPERTIES(" + guid(13) + ",$,$,$,(#1),#21);",
-               options);
+    const auto result = mapped(
+        "#11=IFCPROPERTYSINGLEVALUE('V_FireRating',$,IFCLABEL('F30'),$);#10=IFCPROPERTYSET(" + guid(10) +
+            ",$,'Mine',$,(#11));" + "#12=IFCRELDEFINESBYPROPERTIES(" + guid(12) +
+            ",$,$,$,(#1),#10);#20=IFCPROPERTYSINGLEVALUE('IsExternal',$,IFCBOOLEAN(.T.),$);" + "#21=IFCPROPERTYSET(" +
+            guid(11) + ",$,'Pset_WallCommon',$,(#20));#22=IFCRELDEFINESBYPROPERTIES(" + guid(13) + ",$,$,$,(#1),#21);",
+        options);
     EXPECT_EQ(result.record(11), "IFCPROPERTYSINGLEVALUE('FireRating',$,IFCLABEL('F30'),$)");
     EXPECT_EQ(result.record(21), "IFCPROPERTYSET(" + guid(11) + ",$,'Pset_WallCommon',$,(#20,#11))");
     EXPECT_EQ(result.record(10) + result.record(12), "");
@@ -103,9 +108,10 @@ TEST_F(Properties, WantsDocuments) {
     PropertyOptions options;
     options.customMapping = MappingDirection::Export;
     options.setup = &setup;
-    const auto result = test::convertText(test::modelText("IFC4", objects), [&](const sdai::Model& model, files::OutputFile& output) {
-        return convertProperties(model, options, output);
-    });
+    const auto result =
+        test::convertText(test::modelText("IFC4", objects), [&](const sdai::Model& model, files::OutputFile& output) {
+            return convertProperties(model, options, output);
+        });
     EXPECT_NE(result.error, "");
 }
 

@@ -33,19 +33,19 @@ std::optional<TypeMapping::Target> TypeMapping::custom(std::string_view plmType,
     std::string scope(plmType);
     scope += isExport ? names::custom::exportEnding : names::custom::importEnding;
     QORUnicodeString toSet, toProperty;
-    const HRESULT status =
-        services->GetCustomMapping(QORUnicodeString(set), QORUnicodeString(property),
-                                   QORUnicodeString(std::string_view(scope)), toSet, toProperty);
+    const HRESULT status = services->GetCustomMapping(QORUnicodeString(set), QORUnicodeString(property),
+                                                      QORUnicodeString(std::string_view(scope)), toSet, toProperty);
     if (status != IFC_MAPPING_MAPPED) return std::nullopt;
     return Target{orElse(toSet, set), orElse(toProperty, property)};
 }
 
-std::optional<TypeMapping::Target> TypeMapping::plmAttribute(std::string_view plmType, std::string_view attribute) const {
+std::optional<TypeMapping::Target> TypeMapping::plmAttribute(std::string_view plmType,
+                                                             std::string_view attribute) const {
     const QORIExchangeIFCPLMAttributesMappingServices_var services =
         objectmodeler::createComponent("ExchangeIFCPLMAttributesMappingServices");
     QORUnicodeString set, property;
-    const HRESULT status = services->GetIFCPropertyFromPLMAttribute(QORUnicodeString(plmType), QORUnicodeString(attribute),
-                                                                    set, property);
+    const HRESULT status =
+        services->GetIFCPropertyFromPLMAttribute(QORUnicodeString(plmType), QORUnicodeString(attribute), set, property);
     if (status != S_OK || set.IsEmpty() || property.IsEmpty()) return std::nullopt;
     return Target{std::string(set.utf8()), std::string(property.utf8())};
 }

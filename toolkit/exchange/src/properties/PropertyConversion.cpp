@@ -1,15 +1,17 @@
 #include "ChangeList.h"
-#include "ResultHeader.h"
 #include "properties/PropertyMapper.h"
 #include "properties/PropertyRules.h"
+#include "ResultHeader.h"
 #include "velkor/exchange/Conversion.h"
 
 namespace velkor {
 
 using namespace exchange;
 
-Converted<StepReport> convertProperties(const sdai::Model& model, const PropertyOptions& options, files::OutputFile& output) {
-    if (options.setup == nullptr) return tl::unexpected(std::string("properties are mapped by the documents of a set-up"));
+Converted<StepReport> convertProperties(const sdai::Model& model, const PropertyOptions& options,
+                                        files::OutputFile& output) {
+    if (options.setup == nullptr)
+        return tl::unexpected(std::string("properties are mapped by the documents of a set-up"));
     const auto mapping = TypeMapping::load(
         *options.setup, {.customMapping = options.customMapping.has_value(), .plmAttributes = options.plmAttributes});
     if (!mapping) return tl::unexpected(mapping.error());

@@ -1,9 +1,9 @@
 #include "properties/PropertyMapper.h"
 
-#include "RecordBuilder.h"
-#include "RecordText.h"
 #include "identifiers/DerivedIdentifier.h"
 #include "properties/PropertyRules.h"
+#include "RecordBuilder.h"
+#include "RecordText.h"
 
 #include "velkor/classification/Classification.h"
 #include "velkor/sdai/Part21Encoding.h"
@@ -44,7 +44,8 @@ tl::expected<bool, std::string> PropertyMapper::run() {
     classifyProducts();
     constexpr std::size_t progressStep = 1 << 10;
     for (std::size_t i = 0; i < _sets.size(); ++i) {
-        if (i % progressStep == 0 && !goesOn(_options.progress, {"Mapping the properties", i, _sets.size()})) return false;
+        if (i % progressStep == 0 && !goesOn(_options.progress, {"Mapping the properties", i, _sets.size()}))
+            return false;
         if (auto done = map(_sets[i]); !done) return tl::unexpected(done.error());
     }
     return true;
@@ -130,7 +131,9 @@ PropertyMapper::Result PropertyMapper::move(const SetMembers& set, const Group& 
         const auto& [name, members] = *at;
         if (!keep || at != kept) {
             if (keep && join(group, name, set.attribute, members)) continue;
-            if (auto done = addSet(set, group, name, members, keep ? propertyrule::setDivided : propertyrule::setCopied); !done)
+            if (auto done =
+                    addSet(set, group, name, members, keep ? propertyrule::setDivided : propertyrule::setCopied);
+                !done)
                 return done;
             continue;
         }
@@ -148,7 +151,8 @@ PropertyMapper::Result PropertyMapper::move(const SetMembers& set, const Group& 
     return {};
 }
 
-tl::expected<std::string, std::string> PropertyMapper::member(std::uint32_t number, const std::string& name, bool inPlace) {
+tl::expected<std::string, std::string> PropertyMapper::member(std::uint32_t number, const std::string& name,
+                                                              bool inPlace) {
     const std::string before = textOf(parameterOf(_model, number, "NAME"));
     const std::uint64_t id = _model.file().id(number);
     if (before == name) return reference(id);
@@ -178,7 +182,8 @@ bool PropertyMapper::join(const Group& group, const std::string& name, std::stri
     const auto record = _edit.record(_model.file().id(other));
     if (place < 0 || !record) return false;
     std::vector<std::string> all;
-    eachReference(parameterOf(*record, static_cast<std::size_t>(place)), [&](std::uint64_t id) { all.push_back(reference(id)); });
+    eachReference(parameterOf(*record, static_cast<std::size_t>(place)),
+                  [&](std::uint64_t id) { all.push_back(reference(id)); });
     all.insert(all.end(), members.begin(), members.end());
     if (!set(other, attribute, listOf(all))) return false;
     _changes.note(propertyrule::setJoined, other, [&] { return name; });

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "ChangeList.h"
-#include "ReleaseSchema.h"
 #include "properties/SetMembers.h"
+#include "ReleaseSchema.h"
 #include "velkor/exchange/Conversion.h"
 #include "velkor/mapping/TypeMapping.h"
 #include "velkor/sdai/Part21Edit.h"
@@ -20,8 +20,8 @@ namespace velkor::exchange {
 
 class PropertyMapper {
 public:
-    PropertyMapper(const sdai::Model& model, const TypeMapping& mapping, const PropertyOptions& options, sdai::Part21Edit& edit,
-                   ChangeList& changes);
+    PropertyMapper(const sdai::Model& model, const TypeMapping& mapping, const PropertyOptions& options,
+                   sdai::Part21Edit& edit, ChangeList& changes);
 
     /// False when the caller has ended the work; an error when an edit was refused.
     tl::expected<bool, std::string> run();
@@ -47,9 +47,10 @@ private:
     /// Without `keep` the set stays for others, and the users leave their relationships.
     Result move(const SetMembers& set, const Group& group, bool keep);
     tl::expected<std::string, std::string> member(std::uint32_t number, const std::string& name, bool inPlace);
-    Result addSet(const SetMembers& set, const Group& group, const std::string& name, const std::vector<std::string>& members,
-                  const ConversionRule& rule);
-    bool join(const Group& group, const std::string& name, std::string_view attribute, const std::vector<std::string>& members);
+    Result addSet(const SetMembers& set, const Group& group, const std::string& name,
+                  const std::vector<std::string>& members, const ConversionRule& rule);
+    bool join(const Group& group, const std::string& name, std::string_view attribute,
+              const std::vector<std::string>& members);
     Result leave(const std::vector<SetMembers::User>& users);
     Result set(std::uint32_t number, std::string_view attribute, std::string_view encoded);
 

@@ -18,7 +18,8 @@ std::vector<SetMembers> setsOf(const sdai::Model& model) {
             set.set = number;
             set.name = textOf(parameterOf(model, number, "NAME"));
             set.attribute = attribute;
-            eachNumber(file, parameterOf(model, number, attribute), [&](std::uint32_t member) { set.members.push_back(member); });
+            eachNumber(file, parameterOf(model, number, attribute),
+                       [&](std::uint32_t member) { set.members.push_back(member); });
         }
     };
     takeSets("IFCPROPERTYSET", "HASPROPERTIES");

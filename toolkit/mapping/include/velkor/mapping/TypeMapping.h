@@ -32,7 +32,7 @@ public:
     /// What is used in place of a property of a set for a PLM type when a file is read or written. What the document
     /// leaves empty is what was asked for.
     std::optional<Target> custom(std::string_view plmType, bool isExport, std::string_view set,
-                                                    std::string_view property) const;
+                                 std::string_view property) const;
     /// The set and property as which an attribute of a PLM type is written.
     std::optional<Target> plmAttribute(std::string_view plmType, std::string_view attribute) const;
 
