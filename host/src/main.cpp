@@ -37,7 +37,9 @@ __attribute__((no_sanitize("address", "undefined", "thread"))) void installNewHa
 int main(int argc, char** argv) {
     using namespace velkor;
     using namespace velkor::host;
+    // Writing that fails is told by who writes.
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     endWithUnreadableMappings();
     std::ios::sync_with_stdio(false);
 

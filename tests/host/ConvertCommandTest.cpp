@@ -184,6 +184,7 @@ TEST(ConvertCommand, WhatCannotBeReadOrWrittenIsSaidAndLeavesNoFile) {
         {{path, "-o", folder.path}, folder.path, "Is a directory"},
         {{path, "-o", "/dev/full"}, "/dev/full", "No space left on device"},
         {{path, "-o", "/dev/full", "--to", "4", "--report", folder / "report"}, "/dev/full", "No space left"},
+        {{path, "-o", result, "--report", "/dev/full"}, "/dev/full", "No space left"},
         {{path, "-o", result, "--report", nowhere}, nowhere, "No such file or directory"},
         {{path, "-o", result, "--guids", "repair", "--guid-map", nowhere}, nowhere, "No such file or directory"}};
     for (const auto& [words, name, reason] : cases) {

@@ -105,6 +105,10 @@ TEST(Program, WritesAModelToStandardOutputAndSaysTheRestBesideIt) {
     const Outcome full = shell("velkor convert " + house + " -o - 2>&1 >/dev/full");
     EXPECT_EQ(full.status, 3);
     EXPECT_EQ(full.text, "velkor: standard output: cannot be written: No space left on device\n");
+    const velkor::test::TemporaryFolder folder;
+    const Outcome large = shell("(ulimit -f 4; velkor convert " + house + " -o '" + folder.path +
+                                "/x.ifc' 2>&1); ls -A '" + folder.path + "'");
+    EXPECT_THAT(large.text, MatchesRegex("velkor: [^\n]*/x.ifc: cannot be written: File too large\n"));
     // Half a model is no answer, also where the reader wants no more of it.
     const Outcome closed =
         shell("{ { sleep 0.2; velkor convert " + house + " -o - 2>/dev/null; echo $? >&3; } | exec true; } 3>&1");

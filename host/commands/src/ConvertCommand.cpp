@@ -161,10 +161,13 @@ public:
         return begin(_report, _arguments.report) && begin(_guidMap, _arguments.guidMap);
     }
     files::OutputFile& model() { return *_model; }
-    /// The result first: what is said about it is worth nothing without it.
+    /// All of them or none: what is likely to fail is done for each before the first is put in its place.
     bool commit(const std::string& report, const std::string& guidMap) {
-        return commit(_model, resultName(_arguments), {}) && commit(_report, _arguments.report, report) &&
-               commit(_guidMap, _arguments.guidMap, guidMap);
+        if (_report) _report->write(report);
+        if (_guidMap) _guidMap->write(guidMap);
+        using Done = tl::expected<void, files::OpenError>;
+        return each([](files::OutputFile& file) -> Done { return file.flush(); }) &&
+               each([](files::OutputFile& file) -> Done { return file.commit(); });
     }
 
 private:
@@ -175,11 +178,15 @@ private:
         file.emplace(std::move(*created));
         return true;
     }
-    bool commit(std::optional<files::OutputFile>& file, const std::string& path, const std::string& text) {
-        if (!file) return true;
-        file->write(text);
-        const auto done = file->commit();
-        return done || fail(path, done.error());
+    template <class Step>
+    bool each(Step step) {
+        const auto take = [&](std::optional<files::OutputFile>& file, const std::string& path) {
+            if (!file) return true;
+            const auto done = step(*file);
+            return done || fail(path, done.error());
+        };
+        return take(_report, _arguments.report) && take(_guidMap, _arguments.guidMap) &&
+               take(_model, resultName(_arguments));
     }
     bool fail(const std::string& path, const files::OpenError& error) {
         _context.reportUnreadable(path + ": cannot be written: " + error.message);

@@ -1,5 +1,6 @@
 #include "velkor/files/ScratchFile.h"
 
+#include "UnnamedFile.h"
 #include "velkor/files/Paths.h"
 
 #include <cerrno>
@@ -25,9 +26,8 @@ int openNamedAndUnlinked(const std::string& folder) {
 }
 
 int openIn(const std::string& folder) {
-    const int descriptor = open(folder.c_str(), O_TMPFILE | O_RDWR | O_EXCL | O_CLOEXEC, 0600);
-    const bool isUnknown = errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL;
-    return descriptor < 0 && isUnknown ? openNamedAndUnlinked(folder) : descriptor;
+    const int descriptor = openUnnamed(folder, O_RDWR | O_EXCL, 0600);
+    return descriptor < 0 && isUnnamedUnknown() ? openNamedAndUnlinked(folder) : descriptor;
 }
 
 } // namespace
@@ -46,10 +46,7 @@ tl::expected<ScratchFile, OpenError> ScratchFile::create() {
 }
 
 tl::expected<ScratchFile, OpenError> ScratchFile::createBeside(const QORUnicodeString& path) {
-    const std::string native = nativePath(path);
-    const std::size_t separator = native.rfind('/');
-    if (separator == std::string::npos) return createIn(".");
-    return createIn(native.substr(0, separator > 0 ? separator : 1));
+    return createIn(folderOf(nativePath(path)));
 }
 
 ScratchFile::ScratchFile(ScratchFile&& other) noexcept

@@ -3,10 +3,12 @@
 
 #include <cerrno>
 #include <csignal>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace velkor::files::test {
@@ -69,8 +71,30 @@ TEST_F(Output, LeavesNothingWhenItIsNotCommitted) {
         ASSERT_TRUE(file.has_value());
         OutputFile moved = std::move(*file);
         moved.write(std::string(100'000, 'x'));
-        EXPECT_EQ(entries(), 2);
+        EXPECT_TRUE(moved.flush().has_value());
+        EXPECT_EQ(content(path()), "old");
+        EXPECT_LE(entries(), 2);
     }
+    EXPECT_EQ(content(path()), "old");
+    EXPECT_EQ(entries(), 1);
+}
+
+TEST_F(Output, NothingIsLeftWhenTheProcessIsKilled) {
+    // Where the disk has no files without a name, a signal that nobody can handle leaves one.
+    const int unnamed = open(_folder.c_str(), O_TMPFILE | O_WRONLY, 0600);
+    if (unnamed < 0) GTEST_SKIP() << "no files without a name on this disk";
+    close(unnamed);
+    put("old");
+    const pid_t child = fork();
+    if (child == 0) {
+        auto file = OutputFile::create(unicode(path()));
+        if (file) file->write(std::string(1'000'000, 'x'));
+        if (file && file->flush()) raise(SIGKILL);
+        _exit(1);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status));
     EXPECT_EQ(content(path()), "old");
     EXPECT_EQ(entries(), 1);
 }
@@ -94,6 +118,9 @@ TEST_F(Output, AFullDiskIsAnErrorOfSmallAndOfLargePieces) {
         auto file = OutputFile::create("/dev/full");
         ASSERT_TRUE(file.has_value());
         file->write(std::string(size, 'x'));
+        const auto flushed = file->flush();
+        ASSERT_FALSE(flushed.has_value()) << size;
+        EXPECT_EQ(flushed.error().message, systemError(ENOSPC).message);
         const auto done = file->commit();
         ASSERT_FALSE(done.has_value()) << size;
         EXPECT_EQ(done.error().message, systemError(ENOSPC).message);

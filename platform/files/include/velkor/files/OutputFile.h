@@ -18,8 +18,9 @@
 namespace velkor::files {
 
 /// Until commit() the file of the name stays what it is, so it may be read, or be mapped, while its successor is
-/// written. A link stays and leads to the new file; a device or a pipe is written to as it is. Messages say
-/// in a few words why something failed.
+/// written. That one has no name as far as the file system allows, and then nothing is left of it whatever ends the
+/// process. A link stays and leads to the new file; a device or a pipe is written to as it is. Messages say in a few
+/// words why something failed.
 class VELKOR_PLATFORM_API OutputFile {
 public:
     /// Begins a file beside the one of the name.
@@ -37,25 +38,29 @@ public:
     void write(std::string_view bytes);
     /// Bytes given to write() so far.
     std::uint64_t size() const noexcept { return _size; }
-    /// Writes what is gathered, flushes it to the disk and puts the file in the place of its predecessor, with its
-    /// permissions. To be called once.
+    /// Writes what is gathered and flushes it to the disk: what is likely to fail has failed then. commit() does it
+    /// where it was not called. Nothing is written behind it.
+    [[nodiscard]] tl::expected<void, OpenError> flush();
+    /// Puts the file in the place of its predecessor, with its permissions. To be called once.
     [[nodiscard]] tl::expected<void, OpenError> commit();
 
 private:
     explicit OutputFile(int descriptor) noexcept : _descriptor(descriptor) {}
     VELKOR_PLATFORM_LOCAL void send(std::string_view bytes);
-    VELKOR_PLATFORM_LOCAL void finish();
+    VELKOR_PLATFORM_LOCAL void nameBesideTarget();
     VELKOR_PLATFORM_LOCAL void close();
 
     int _descriptor;
     bool _isOwn = false;
+    // False for what is written to as it is.
+    bool _replaces = false;
     bool _keepsMode = false;
     std::uint32_t _mode = 0;
     // Of the system; 0 while all is well.
     int _error = 0;
     std::uint64_t _size = 0;
     std::string _target;
-    // Empty when the target itself is written to, and when there is nothing to take away any more.
+    // Empty as long as the new file has no name, and when there is nothing to take away any more.
     std::string _temporary;
     std::string _gathered;
 };
