@@ -336,7 +336,9 @@ const char* StructureReader::takeSectionKeyword(std::string_view word, const cha
         skipSection(word, to);
     } else if (is("ISO-10303-21") && _section == Section::None) {
         return behind;
-    } else if (_section == Section::Header || (_section == Section::None && startsWithWord(word, "FILE_"))) {
+    } else if (_section == Section::Header ||
+               // What stands behind data describes nothing that was read.
+               (_section == Section::None && startsWithWord(word, "FILE_") && _structure.sections.empty())) {
         const char* parameters = content(behind, to);
         if (parameters == to || *parameters != '(') return nullptr;
         if (_section == Section::None) {
