@@ -2,6 +2,7 @@
 // in which nothing is wrong where nothing was; every instance is accounted for; what was kept is what it was.
 
 #include "velkor/check/ModelCheck.h"
+#include "velkor/configuration/PlatformSetup.h"
 #include "velkor/exchange/Conversion.h"
 #include "velkor/sdai/DXSdaiDictionaryRepo.h"
 
@@ -24,6 +25,16 @@ void require(bool condition, const char* reason) {
     std::abort();
 }
 
+/// The mappings that come with the program.
+const PlatformSetup& setup() {
+    static const PlatformSetup shipped([] {
+        Configuration configuration;
+        configuration.shippedResources = VELKOR_SOURCE_DIR "/resources";
+        return configuration;
+    }());
+    return shipped;
+}
+
 /// What the bytes ask for; a byte whose digit names nothing leaves its step out.
 ConversionOptions wanted(std::string_view bytes) {
     static const std::vector<std::string> releases = DXSdaiDictionaryRepo::TheOne().names();
@@ -37,10 +48,19 @@ ConversionOptions wanted(std::string_view bytes) {
     options.limit = 2;
     if (digit(0) < releases.size()) options.release.emplace().release = releases[digit(0)];
     if (digit(1) < std::size(units)) options.units.emplace().units.emplace_back(units[digit(1)]);
-    if (digit(2) < 3) {
+    constexpr unsigned repaired = 1, named = 2, exported = 4, imported = 8, plm = 16;
+    const unsigned flags = digit(2) < 32 ? digit(2) : 0;
+    if (flags & (repaired | named)) {
         IdentifierOptions& identifiers = options.identifiers.emplace();
-        identifiers.repair = digit(2) != 1;
-        if (digit(2) != 0) identifiers.plmAttribute = "Tag";
+        identifiers.repair = flags & repaired;
+        if (flags & named) identifiers.plmAttribute = "Tag";
+    }
+    if (flags & (exported | imported | plm)) {
+        PropertyOptions& properties = options.properties.emplace();
+        if (flags & (exported | imported))
+            properties.customMapping = flags & exported ? MappingDirection::Export : MappingDirection::Import;
+        properties.plmAttributes = flags & plm;
+        properties.setup = &setup();
     }
     return options;
 }

@@ -248,6 +248,29 @@ TEST(ConvertCommand, TakesIdentifiersFromPlmIdentifiers) {
     }
 }
 
+TEST(ConvertCommand, NamesPropertiesAsTheShippedMappingsSay) {
+    const TemporaryFolder folder;
+    const std::string house = example("house-ifc2x3.ifc"), result = folder / "result.ifc", back = folder / "back.ifc";
+    const auto mapped = [](const std::string& from, const std::string& to, const std::vector<std::string>& words) {
+        std::vector<std::string> line{"convert", from, "-o", to};
+        line.insert(line.end(), words.begin(), words.end());
+        const Outcome outcome = runHost(line, false, shippedResources);
+        EXPECT_EQ(outcome.status, Done) << outcome.err;
+        EXPECT_THAT(outcome.out, HasSubstr("Properties  "));
+        EXPECT_EQ(runHost({"check", to}).status, Done);
+        return contents(to);
+    };
+    const std::string imported = mapped(house, result, {"--custom-mapping", "import"});
+    EXPECT_THAT(imported, AllOf(HasSubstr("'Norvel_FireSafety'"), HasSubstr("#114=IFCPROPERTYSINGLEVALUE('FireRes")));
+    const std::string exported = mapped(result, back, {"--custom-mapping", "export"});
+    EXPECT_THAT(exported,
+                AllOf(Not(HasSubstr("'Norvel_FireSafety'")), HasSubstr("#114=IFCPROPERTYSINGLEVALUE('FireRat")));
+    // The model has no property of a PLM attribute's name.
+    EXPECT_THAT(mapped(house, result, {"--plm-attributes"}), HasSubstr("#114=IFCPROPERTYSINGLEVALUE('FireRat"));
+    // Without a document there is nothing to go by, or nothing to do.
+    EXPECT_NE(convert(house, {"-o", result, "--custom-mapping", "import"}).status, BadUsage);
+}
+
 TEST(ConvertCommand, ListsEveryRuleWithItsReason) {
     const Outcome page = runHost({"convert", "--rules"});
     EXPECT_EQ(page.status, Done);
