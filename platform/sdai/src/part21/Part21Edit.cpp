@@ -329,6 +329,8 @@ void RecordOutput::add(std::uint64_t id, std::string_view addition) {
     (_additions += _lineEnd) += '#';
     _additions.append(digits.data(), end) += '=';
     (_additions += addition) += ';';
+    constexpr std::size_t most = 1 << 20;
+    if (_additions.size() >= most) _spill();
 }
 
 /// Writes a structure from its beginning to its end, with other text in the place of some, and the instances that
@@ -407,8 +409,19 @@ void Part21Edit::write(files::OutputFile& output, RecordRewriter& rewriter) cons
     wanted[Part21File::unlistedKeyword] = rewriter.wants(Part21File::unlistedKeyword);
     RecordReader reader;
     const auto keywords = state.file.keywordNumbers();
+    std::uint64_t place = 0;
+    bool hasSpilled = false;
+    rewritten._spill = [&] {
+        writer.putBefore(place);
+        writer.copyTo(place);
+        output.write(std::string_view(rewritten._additions).substr(hasSpilled ? 0 : rewritten._lineEnd.size()));
+        hasSpilled = true;
+        rewritten._additions.clear();
+    };
     for (std::uint32_t number = 0; number < keywords.size(); ++number) {
         if (wanted[keywords[number]] == 0 || state.changed.contains(number)) continue;
+        place = state.file.offset(number);
+        hasSpilled = false;
         const RecordView* record = reader.read(state.file, number);
         if (record == nullptr) continue;
         const std::string_view statement = state.file.instanceText(number);
@@ -416,10 +429,12 @@ void Part21Edit::write(files::OutputFile& output, RecordRewriter& rewriter) cons
         rewritten.record.clear();
         rewritten._additions.clear();
         const RecordRewriter::Outcome outcome = rewriter.rewrite(*record, rewritten);
+        if (hasSpilled && outcome != RecordRewriter::Outcome::Drop) output.write(rewritten._lineEnd);
         if (outcome == RecordRewriter::Outcome::Drop) {
             const Patch line = state.line(number, statement.data() + length + 1);
-            writer.putBefore(line.begin);
-            writer.put(line.begin, line.end, {});
+            const std::uint64_t begin = hasSpilled ? place : line.begin;
+            writer.putBefore(begin);
+            writer.put(begin, line.end, {});
         } else if (outcome == RecordRewriter::Outcome::Replace) {
             const std::uint64_t begin = state.offset(statement.data());
             writer.putBefore(begin);

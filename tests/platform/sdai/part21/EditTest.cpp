@@ -31,6 +31,25 @@ std::string written(const Part21Edit& edit) {
 const std::string sound = "#1=A($,'x');\n#2 = /* two */ B( 1. , (#1,#3) /* , */ ,T(.U.)) ; /* behind */\n"
                           "#3=(C()D(*));\n#2=TWICE();\n";
 
+/// Does the same with every instance of a keyword, and adds so many to each.
+class AddingRewriter : public RecordRewriter {
+public:
+    AddingRewriter(Outcome outcome, std::size_t count, std::string addition)
+        : _outcome(outcome), _count(count), _addition(std::move(addition)) {}
+
+    bool wants(std::uint16_t) const override { return true; }
+    Outcome rewrite(const RecordView&, RecordOutput& output) override {
+        for (std::size_t i = 0; i < _count; ++i) output.add(_addition);
+        if (_outcome == Outcome::Replace) output.record = "NEW()";
+        return _outcome;
+    }
+
+private:
+    Outcome _outcome;
+    std::size_t _count;
+    std::string _addition;
+};
+
 } // namespace
 
 TEST(Edit, PutsItsChangesInPlaceAndCopiesTheRest) {
@@ -157,6 +176,45 @@ TEST(Edit, CopiesEveryModelByteByByteAndWritesOverItsOwnSource) {
         EXPECT_TRUE((*again)->find(*id).has_value());
     }
     EXPECT_GE(models, 4);
+}
+
+TEST(Edit, HoldsNoMoreOfWhatARewriterAddsThanItMust) {
+    using Outcome = RecordRewriter::Outcome;
+    const std::string large(600'000, 'X');
+    struct Case {
+        Outcome outcome;
+        const char* data;
+        std::size_t count;
+        std::string addition;
+        const char* expected;
+    };
+    // What was not held stands before its record, the rest behind it. "+" is what was added.
+    const Case cases[] = {
+        {Outcome::Keep, "#1=A();\n#2=B();\n", 1, "+", "#1=A();\n#3=+;\n#2=B();\n#4=+;\n"},
+        {Outcome::Drop, "#1=A();\n#2=B();\n", 1, "+", "#3=+;\n#4=+;\n"},
+        {Outcome::Replace, "#1=A();#2=B();\n", 1, "+", "#1=NEW();\n#3=+;#2=NEW();\n#4=+;\n"},
+        {Outcome::Keep, "#1=A();\n#2=B();\n", 3, large, "#3=+;\n#4=+;\n#1=A();\n#5=+;\n#6=+;\n#7=+;\n#2=B();\n#8=+;\n"},
+        {Outcome::Drop, "#1=A();\n#2=B();\n", 3, large, "#3=+;\n#4=+;\n#5=+;\n#6=+;\n#7=+;\n#8=+;\n"},
+        {Outcome::Replace, "#1=A(); /* two */ #2=B();\n", 2, large,
+         "#3=+;\n#4=+;\n#1=NEW(); /* two */ #5=+;\n#6=+;\n#2=NEW();\n"},
+        {Outcome::Drop, "#1=A(); /* two */ #2=B();\n", 2, large, "#3=+;\n#4=+; /* two */ #5=+;\n#6=+;\n"},
+    };
+    for (const Case& one : cases) {
+        const std::string text = withData(one.data);
+        const auto file = read(text);
+        const Part21Edit edit(*file);
+        AddingRewriter rewriter(one.outcome, one.count, one.addition);
+        const TemporaryFolder folder;
+        const std::string path = folder / "out.ifc";
+        auto output = files::OutputFile::create(QORUnicodeString(std::string_view(path)));
+        ASSERT_TRUE(output);
+        edit.write(*output, rewriter);
+        ASSERT_TRUE(output->commit());
+        std::string result = contents(path);
+        for (std::size_t at = result.find(large); at != std::string::npos; at = result.find(large, at))
+            result.replace(at, large.size(), "+");
+        EXPECT_EQ(result, withData(one.expected)) << one.data;
+    }
 }
 
 } // namespace velkor::sdai::test

@@ -14,6 +14,7 @@
 #include "velkor/sdai/Part21File.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -53,7 +54,8 @@ public:
     /// Empty when a record comes to be rewritten; what stands here takes its place. Nobody looks at its syntax.
     std::string record;
 
-    /// One more instance behind that one, with the next id above all others.
+    /// One more instance beside that one, with the next id above all others. They stand behind it; very many, which are
+    /// not held until it is known, before it.
     std::uint64_t add(std::string_view addition);
     /// The same with an id that Part21Edit::reserve() gave.
     void add(std::uint64_t id, std::string_view addition);
@@ -62,8 +64,10 @@ private:
     friend class Part21Edit;
     std::uint64_t _nextId = 0;
     std::string_view _lineEnd;
-    // Statements.
+    // Statements, each behind a line end.
     std::string _additions;
+    // Writes what there is.
+    std::function<void()> _spill;
 };
 
 /// Makes other records of those of a structure while it is written, so that nothing is held for them.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <unordered_map>
 
 namespace velkor::exchange {
@@ -55,6 +56,8 @@ std::optional<FaceLoops> FaceLoops::of(const sdai::Model& model, const DXSdaiApp
             if (!number || !loops.takeFace(model, *number, indices)) return std::nullopt;
         }
     }
+    // Beyond that places do not fit.
+    if (loops._points.size() > std::numeric_limits<std::uint32_t>::max()) return std::nullopt;
     for (const std::uint32_t point : loops._points) loops._bound = std::max<std::uint64_t>(loops._bound, point + 1ULL);
     return loops;
 }
@@ -116,12 +119,12 @@ bool FaceLoops::addLoop(std::span<const std::uint32_t> indices) {
         ++_degenerate;
         return false;
     }
-    _loopEnds.push_back(_points.size());
+    _loopEnds.push_back(static_cast<std::uint32_t>(_points.size()));
     return true;
 }
 
 void FaceLoops::endFace() {
-    _faceEnds.push_back(_loopEnds.size());
+    _faceEnds.push_back(static_cast<std::uint32_t>(_loopEnds.size()));
 }
 
 bool FaceLoops::followPointIndex(std::vector<std::uint32_t>& indices) const {

@@ -53,8 +53,9 @@ private:
     // Empty when indices are places in the list of coordinates themselves.
     std::vector<std::uint32_t> _pointIndex;
     std::vector<std::uint32_t> _points;
-    std::vector<std::size_t> _loopEnds;
-    std::vector<std::size_t> _faceEnds;
+    // Places behind the last point of each loop, and behind the last loop of each face.
+    std::vector<std::uint32_t> _loopEnds;
+    std::vector<std::uint32_t> _faceEnds;
     std::uint64_t _bound = 0;
     std::size_t _degenerate = 0;
 };
