@@ -205,5 +205,7 @@ RuleTable requiredValueRules();
 RuleTable elementRules();
 /// Styles, and what assigns them.
 RuleTable styleRules();
+/// Dates, times and durations, and the times of tasks.
+RuleTable timeRules();
 
 } // namespace velkor::exchange

@@ -188,6 +188,7 @@ bool ReleaseRewriter::takeValue(const EntityPlan& plan, const EntityPlan::Slot& 
 }
 
 void ReleaseRewriter::noteLoss(const EntityPlan::Slot& slot, std::string_view value) {
+    if (_attribute == "RELATEDOBJECTSTYPE") return note(rules::relatedType, [&] { return std::string(value); });
     if (slot.from->resolved().isSimple() || slot.from->resolved().asEnumeration() != nullptr)
         return note(rules::noValue, [&] { return words(_attribute, " ", value); });
     const bool isShape = _attribute == "REPRESENTATION" && _outcome->source->isKindOf("IFCPRODUCT");
@@ -198,22 +199,35 @@ void ReleaseRewriter::noteLoss(const EntityPlan::Slot& slot, std::string_view va
     });
 }
 
+/// Whether a value of a table is one of a type of the target.
+bool mayStand(std::string_view encoded, const sdai::Type& type) {
+    const bool isTyped = !encoded.empty() && encoded.front() >= 'A' && encoded.front() <= 'Z';
+    if (const auto* enumeration = type.resolved().asEnumeration())
+        return encoded.size() > 2 && enumeration->position(encoded.substr(1, encoded.size() - 2)) >= 0;
+    return isTyped == (type.resolved().asSelect() != nullptr && encoded.front() != '#');
+}
+
 bool ReleaseRewriter::takeDefault(const EntityDefinition& entity, const EntityPlan::Slot& slot, std::string& value) {
     const auto take = [&](const ConversionRule& rule, std::string&& made) {
         value = std::move(made);
         note(rule, [&] { return words(slot.attribute->name(), " = ", value); });
         return true;
     };
+    const sdai::Type& declared = slot.attribute->type();
     for (const DefaultRule* rule : _plan.book().defaults(entity, slot.attribute->name())) {
-        std::optional<std::string> made =
-            rule->encoded != nullptr ? std::optional<std::string>(rule->encoded) : rule->make(*this);
+        if (rule->encoded != nullptr && !mayStand(rule->encoded, declared)) continue;
+        auto made = rule->encoded != nullptr ? std::optional<std::string>(rule->encoded) : rule->make(*this);
         if (made) return take(rule->rule, std::move(*made));
     }
-    const sdai::Type& type = slot.attribute->type().resolved();
+    const sdai::Type& type = declared.resolved();
     if (const auto* enumeration = type.asEnumeration();
         enumeration != nullptr && enumeration->position("NOTDEFINED") >= 0)
         return take(rules::notDefined, exchange::enumerator("NOTDEFINED"));
-    return type.kind() == sdai::TypeKind::String && take(rules::emptyText, literal({}));
+    // Where the empty text is none of those that are allowed.
+    constexpr std::string_view never[] = {"IFCGLOBALLYUNIQUEID", "IFCDATE", "IFCTIME", "IFCDATETIME", "IFCDURATION"};
+    const bool isNever =
+        declared.asDefined() != nullptr && std::ranges::find(never, declared.asDefined()->name()) != std::end(never);
+    return type.kind() == sdai::TypeKind::String && !isNever && take(rules::emptyText, literal({}));
 }
 
 /// Place of a text for what USERDEFINED stands for in an attribute: ObjectType and its like for the predefined type,

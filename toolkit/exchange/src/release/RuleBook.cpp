@@ -56,6 +56,11 @@ const ConversionRule userDefinedText{"user-defined-text", Converted,
 const ConversionRule oneOfSeveral{"one-of-several", Converted,
                                   "A single value stands as the only member of an aggregate, or the other way round",
                                   "The attribute takes one value in one release and several in the other"};
+const ConversionRule equalMember{"equal-member", Converted, "Of equal members of an aggregate one stays",
+                                 "The target has a set, or a list of unique members, where the source has a list"};
+const ConversionRule relatedType{"related-objects-type", Converted,
+                                 "What kind of objects an assignment relates is not repeated",
+                                 "The attribute was given up; the objects themselves say it"};
 const ConversionRule noEntity{"no-entity", Lost, "An instance is dropped whose entity the target lacks",
                               "No entity of the target says the same, nor a part of it that would be right"};
 const ConversionRule noUse{"left-over", Lost, "What only dropped instances used goes with them",
@@ -84,17 +89,19 @@ const ConversionRule requiredMissing{"required-missing", Lost,
 const ConversionRule shapeLost{"shape-lost", Lost, "A product has no shape any more",
                                "The target cannot say its geometry in any form, or not exactly"};
 
-constexpr const ConversionRule* general[] = {
-    &entityMapped,    &entityRenamed,     &supertype,        &plainElement,  &attributeMapped, &attributeRenamed,
-    &valueIntroduced, &enumeratorRenamed, &enumeratorAsText, &selectType,    &numberForm,      &notDefined,
-    &emptyText,       &userDefinedText,   &oneOfSeveral,     &shapeLost,     &noEntity,        &noUse,
-    &noAttribute,     &noEnumerator,      &noValue,          &textShortened, &referenceLost,   &memberLost,
-    &requiredLost,    &requiredMissing};
+constexpr const ConversionRule* general[] = {&entityMapped,     &entityRenamed,    &supertype,       &plainElement,
+                                             &attributeMapped,  &attributeRenamed, &valueIntroduced, &enumeratorRenamed,
+                                             &enumeratorAsText, &selectType,       &numberForm,      &notDefined,
+                                             &emptyText,        &userDefinedText,  &oneOfSeveral,    &equalMember,
+                                             &relatedType,      &shapeLost,        &noEntity,        &noUse,
+                                             &noAttribute,      &noEnumerator,     &noValue,         &textShortened,
+                                             &referenceLost,    &memberLost,       &requiredLost,    &requiredMissing};
 
 } // namespace rules
 
 RuleBook::Tables RuleBook::tables() {
-    return {geometryRules(), forwardRules(), backwardRules(), requiredValueRules(), elementRules(), styleRules()};
+    return {geometryRules(), forwardRules(), backwardRules(), requiredValueRules(),
+            elementRules(),  styleRules(),   timeRules()};
 }
 
 RuleBook::RuleBook(const Releases&) {

@@ -36,7 +36,7 @@ public:
     static std::vector<const ConversionRule*> all();
 
 private:
-    using Tables = std::array<RuleTable, 6>;
+    using Tables = std::array<RuleTable, 7>;
     static Tables tables();
 
     const Tables _tables = tables();
@@ -61,6 +61,8 @@ extern const ConversionRule notDefined;
 extern const ConversionRule emptyText;
 extern const ConversionRule userDefinedText;
 extern const ConversionRule oneOfSeveral;
+extern const ConversionRule equalMember;
+extern const ConversionRule relatedType;
 extern const ConversionRule noEntity;
 extern const ConversionRule noUse;
 extern const ConversionRule noAttribute;

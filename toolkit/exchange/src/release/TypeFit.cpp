@@ -28,7 +28,11 @@ bool TypeFit::findRaw(const Type& fromType, const Type& toType) {
     if (const auto* aggregate = from.asAggregate()) {
         const auto* wanted = to.asAggregate();
         const auto isWithin = [](int upper, int limit) { return limit < 0 || (upper >= 0 && upper <= limit); };
+        const auto isUnique = [](const sdai::AggregateType& type) {
+            return type.kind() == TypeKind::Set || type.hasUniqueElements();
+        };
         return wanted != nullptr && wanted->lowerBound() <= aggregate->lowerBound() &&
+               (!isUnique(*wanted) || isUnique(*aggregate)) &&
                isWithin(aggregate->upperBound(), wanted->upperBound()) &&
                isRaw(aggregate->element(), wanted->element());
     }

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <unordered_set>
 
 namespace velkor::exchange {
 
@@ -171,6 +172,17 @@ bool ValueTranslator::typedValue(std::string_view value, const Type& from, const
     return true;
 }
 
+/// The first enumeration of a select that has an enumerator.
+bool ValueTranslator::enumerationOf(const sdai::SelectType& select, std::string_view value, std::string& text) {
+    for (const Type* item : select.items()) {
+        const auto* list = item->resolved().asEnumeration();
+        if (list == nullptr || list->position(value.substr(1, value.size() - 2)) < 0) continue;
+        text += typed(list->definedType().name(), value);
+        return true;
+    }
+    return false;
+}
+
 bool ValueTranslator::enumeration(std::string_view value, const Type& from, const Type& to, std::string& text) {
     const auto* type = from.resolved().asEnumeration();
     const std::string_view name = value.substr(1, value.size() - 2);
@@ -182,7 +194,8 @@ bool ValueTranslator::enumeration(std::string_view value, const Type& from, cons
     const auto* wanted = to.resolved().asEnumeration();
     if (wanted == nullptr) {
         if (adapted(value, from, to, text)) return true;
-        if (const auto* select = to.resolved().asSelect()) return chosen(value, from, *select, text);
+        if (const auto* select = to.resolved().asSelect())
+            return enumerationOf(*select, value, text) || chosen(value, from, *select, text);
         if (to.resolved().kind() != TypeKind::String) return false;
         sdai::appendString(text, name);
         return true;
@@ -225,18 +238,26 @@ bool ValueTranslator::members(std::string_view value, const sdai::AggregateType&
     const auto parts = membersOf(value);
     const bool isNested = to.element().resolved().isAggregate() || to.element().resolved().isSimple();
     const bool wasMember = std::exchange(_isMember, true);
+    const bool isUnique = to.kind() == TypeKind::Set || to.hasUniqueElements();
     int kept = 0;
     std::vector<std::string_view> lost;
+    std::unordered_set<std::string> seen;
     text += '(';
     for (const std::string_view part : parts) {
-        const std::size_t before = text.size();
-        if (kept > 0) text += ',';
-        const std::size_t begin = text.size();
-        if (translate(part, from.element(), to.element(), text) && text.size() > begin) {
-            ++kept;
-        } else {
-            text.resize(before);
+        std::string member;
+        if (!translate(part, from.element(), to.element(), member) || member.empty()) {
             lost.push_back(part);
+            continue;
+        }
+        // Rules may have made several of one.
+        const std::string several = isUnique ? "(" + member + ")" : std::string();
+        for (const std::string_view one : isUnique ? membersOf(several) : std::vector<std::string_view>{member}) {
+            if (isUnique && !seen.emplace(one).second) {
+                _notes.note(rules::equalMember, [&] { return excerpt(one); });
+                continue;
+            }
+            if (kept++ > 0) text += ',';
+            text += one;
         }
     }
     _isMember = wasMember;

@@ -42,6 +42,7 @@ public:
 private:
     bool reference(std::string_view value, const sdai::Type& from, const sdai::Type& to, std::string& text);
     bool typedValue(std::string_view value, const sdai::Type& from, const sdai::Type& to, std::string& text);
+    static bool enumerationOf(const sdai::SelectType& select, std::string_view value, std::string& text);
     bool enumeration(std::string_view value, const sdai::Type& from, const sdai::Type& to, std::string& text);
     bool aggregate(std::string_view value, const sdai::Type& from, const sdai::Type& to, std::string& text);
     bool members(std::string_view value, const sdai::AggregateType& from, const sdai::AggregateType& to,

@@ -98,6 +98,9 @@ void UnitPlans::takeHidden(const EntityDefinition& entity, std::string_view attr
         slot = {Form::Numbers, _ratios.lengthPower(hidden.exponent), -1, true};
         if (_ratios[slot.ratio].isOne()) slot = {};
     }
+    // What a load changes the temperature by.
+    if (entity.isKindOf("IFCSTRUCTURALLOADTEMPERATURE") && slot.form == Form::Numbers)
+        slot.ratio = _ratios.difference(slot.ratio);
     const bool isPolynomial = entity.isKindOf("IFCPOLYNOMIALCURVE") && attribute.starts_with("COEFFICIENTS");
     if (isPolynomial && _ratios.length() != stays) slot = {Form::Powers, stays, -1, true};
     for (const Parameter& parameter : parameters)

@@ -41,7 +41,6 @@ bool eachToken(std::string_view value, std::string& text, Take take) {
     bool isChanged = false;
     Part21Lexer lexer(value);
     for (Token token = lexer.next(); token.kind != TokenKind::End; token = lexer.next()) {
-        const std::size_t begin = text.size();
         text.append(copied, token.text.data());
         copied = token.text.data();
         const std::size_t end = text.size();
@@ -51,7 +50,6 @@ bool eachToken(std::string_view value, std::string& text, Take take) {
         } else {
             text.resize(end);
         }
-        static_cast<void>(begin);
     }
     text.append(copied, value.data() + value.size());
     if (!isChanged) text.resize(before);
@@ -212,26 +210,34 @@ bool UnitRewriter::numbers(std::string_view value, const Ratio& ratio, std::stri
     return isChanged;
 }
 
+bool UnitRewriter::whole(std::string_view integer, const Ratio& ratio, std::string& text) {
+    const std::size_t before = text.size();
+    if (!number(integer, ratio, text)) return false;
+    // "5." is 5.
+    if (text.back() == '.') return text.pop_back(), true;
+    text.resize(before);
+    note(unitrule::notWhole, integer);
+    return false;
+}
+
 bool UnitRewriter::wholes(std::string_view value, const Ratio& ratio, std::string& text) {
     return eachToken(value, text, [&](const Token& token, std::string& out) {
-        if (token.kind != TokenKind::Integer) return false;
-        const std::size_t before = out.size();
-        if (!number(token.text, ratio, out)) return false;
-        // "5." is 5.
-        if (out.back() == '.') return out.pop_back(), true;
-        out.resize(before);
-        note(unitrule::notWhole, token.text);
-        return false;
+        return token.kind == TokenKind::Integer && whole(token.text, ratio, out);
     });
 }
 
 bool UnitRewriter::typedValues(std::string_view value, std::string& text) {
     RatioNumber ratio = stays;
+    bool isWhole = false;
     return eachToken(value, text, [&](const Token& token, std::string& out) {
-        if (token.kind == TokenKind::Keyword) ratio = _ratios.ofKeyword(token.text);
+        if (token.kind == TokenKind::Keyword) {
+            ratio = _ratios.ofKeyword(token.text);
+            const auto* type = ratio == stays ? nullptr : _model.schema().definedType(token.text);
+            isWhole = type != nullptr && type->resolved().kind() == sdai::TypeKind::Integer;
+        }
         if (token.kind == TokenKind::Close) ratio = stays;
-        return ratio != stays && (token.kind == TokenKind::Real || token.kind == TokenKind::Integer) &&
-               number(token.text, _ratios[ratio], out);
+        if (ratio == stays || (token.kind != TokenKind::Real && token.kind != TokenKind::Integer)) return false;
+        return isWhole ? whole(token.text, _ratios[ratio], out) : number(token.text, _ratios[ratio], out);
     });
 }
 

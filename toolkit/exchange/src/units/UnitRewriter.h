@@ -32,6 +32,7 @@ private:
                  std::string& text);
     bool convertPlain(const Slot& slot, std::string_view value, std::string& text);
     bool numbers(std::string_view value, const Ratio& ratio, std::string& text);
+    bool whole(std::string_view integer, const Ratio& ratio, std::string& text);
     bool wholes(std::string_view value, const Ratio& ratio, std::string& text);
     bool typedValues(std::string_view value, std::string& text);
     bool powers(std::string_view value, std::string& text);

@@ -1,0 +1,366 @@
+// Dates, times and durations, and the times of tasks.
+#include "RecordText.h"
+#include "identifiers/DerivedIdentifier.h"
+#include "release/Rebuilding.h"
+
+#include "velkor/sdai/Part21Encoding.h"
+#include "velkor/sdai/Part21Lexer.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace velkor::exchange {
+
+namespace {
+
+constexpr std::string_view midnight = "T00:00:00";
+
+/// Entities of IFC2X3 and types of later releases that say the same.
+bool isDateEntity(std::string_view name) {
+    return name == "IFCCALENDARDATE" || name == "IFCLOCALTIME" || name == "IFCDATEANDTIME";
+}
+
+bool isDateType(std::string_view name) {
+    return name == "IFCDATE" || name == "IFCTIME" || name == "IFCDATETIME";
+}
+
+std::string digits(std::int64_t value, std::size_t width) {
+    std::string text = std::to_string(value);
+    if (text.size() < width) text.insert(0, width - text.size(), '0');
+    return text;
+}
+
+std::string dateText(const DXSdaiAppInstance& date) {
+    const auto year = date.GetAttr("YEARCOMPONENT").asInteger();
+    const auto month = date.GetAttr("MONTHCOMPONENT").asInteger();
+    const auto day = date.GetAttr("DAYCOMPONENT").asInteger();
+    if (!year || !month || !day || *year < 0 || *month < 1 || *month > 12 || *day < 1 || *day > 31) return {};
+    return digits(*year, 4).append("-").append(digits(*month, 2)).append("-").append(digits(*day, 2));
+}
+
+std::string zoneText(const DXSdaiAppInstance* zone) {
+    if (zone == nullptr) return {};
+    const std::int64_t hours = zone->GetAttr("HOUROFFSET").asInteger().value_or(0);
+    const std::int64_t minutes = zone->GetAttr("MINUTEOFFSET").asInteger().value_or(0);
+    if (hours == 0 && minutes == 0) return "Z";
+    const std::string sign = zone->GetAttr("SENSE").asEnumeration().text() == "BEHIND" ? "-" : "+";
+    return (sign + digits(hours, 2)).append(":").append(digits(minutes, 2));
+}
+
+std::string timeText(const DXSdaiAppInstance& time) {
+    const auto hour = time.GetAttr("HOURCOMPONENT").asInteger();
+    if (!hour || *hour < 0 || *hour > 24) return {};
+    const double second = time.GetAttr("SECONDCOMPONENT").asReal().value_or(0.0);
+    std::string seconds = digits(static_cast<std::int64_t>(second), 2);
+    if (const double rest = second - std::floor(second); rest > 0) {
+        std::string fraction = real(second);
+        seconds += fraction.substr(std::min(fraction.find('.'), fraction.size()));
+    }
+    std::string text = digits(*hour, 2);
+    text.append(":").append(digits(time.GetAttr("MINUTECOMPONENT").asInteger().value_or(0), 2)).append(":").append(seconds);
+    return text += zoneText(time.GetAttr("ZONE").asInstance());
+}
+
+/// Date and time of an instance, either may be empty.
+std::pair<std::string, std::string> textsOf(const DXSdaiAppInstance& instance) {
+    if (instance.IsKindOf("IFCCALENDARDATE")) return {dateText(instance), {}};
+    if (instance.IsKindOf("IFCLOCALTIME")) return {{}, timeText(instance)};
+    const auto* date = instance.GetAttr("DATECOMPONENT").asInstance();
+    const auto* time = instance.GetAttr("TIMECOMPONENT").asInstance();
+    return {date == nullptr ? std::string() : dateText(*date), time == nullptr ? std::string() : timeText(*time)};
+}
+
+/// The text that a type wants; empty when it cannot say it.
+std::string textAs(std::string_view type, const std::pair<std::string, std::string>& parts) {
+    const auto& [date, time] = parts;
+    if (type == "IFCDATE") return date;
+    if (type == "IFCTIME") return time;
+    if (date.empty()) return {};
+    return time.empty() ? date + std::string(midnight) : (date + "T").append(time);
+}
+
+Successor absorbDate(const Releases& releases, DXSdaiAppInstance& instance) {
+    return releases.target.entity(instance.entity()->name()) == nullptr ? Successor::absorbed() : Successor::notHere();
+}
+
+std::optional<std::vector<std::string>> toText(Rebuilding& rebuilding, std::string_view encoded, const sdai::Type&,
+                                               const sdai::Type& to) {
+    const std::uint64_t id = sdai::decodeInstanceName(encoded);
+    const DXSdaiAppInstance* instance = id == 0 ? nullptr : rebuilding.source().instance(id);
+    if (instance == nullptr || instance->entity() == nullptr || !isDateEntity(instance->entity()->name())) return std::nullopt;
+    const auto parts = textsOf(*instance);
+    if (const auto* select = to.resolved().asSelect()) {
+        const std::string_view wanted = parts.first.empty() ? "IFCTIME" : parts.second.empty() ? "IFCDATE" : "IFCDATETIME";
+        const auto* type = rebuilding.target().definition().definedType(wanted);
+        const std::string text = textAs(wanted, parts);
+        if (type == nullptr || !select->accepts(*type) || text.empty()) return std::nullopt;
+        return std::vector{typed(wanted, literal(text))};
+    }
+    const auto* type = to.asDefined();
+    if (type == nullptr || !isDateType(type->name())) return std::nullopt;
+    const std::string text = textAs(type->name(), parts);
+    if (text.empty()) return std::nullopt;
+    return std::vector{literal(text)};
+}
+
+/// What an ISO 8601 text says; -1 where it says nothing.
+struct Moment {
+    int year = -1, month = -1, day = -1;
+    int hour = -1, minute = 0;
+    double second = 0;
+    bool hasZone = false;
+    int zoneHour = 0, zoneMinute = 0;
+    bool isBehind = false;
+};
+
+bool takeNumber(std::string_view& text, std::size_t width, int& value) {
+    if (text.size() < width) return false;
+    const auto read = std::from_chars(text.data(), text.data() + width, value);
+    if (read.ec != std::errc() || read.ptr != text.data() + width || value < 0) return false;
+    text.remove_prefix(width);
+    return true;
+}
+
+bool take(std::string_view& text, char c) {
+    if (text.empty() || text.front() != c) return false;
+    text.remove_prefix(1);
+    return true;
+}
+
+bool takeTime(std::string_view& text, Moment& moment) {
+    if (!takeNumber(text, 2, moment.hour) || !take(text, ':') || !takeNumber(text, 2, moment.minute)) return false;
+    if (take(text, ':')) {
+        const auto read = std::from_chars(text.data(), text.data() + text.size(), moment.second, std::chars_format::fixed);
+        if (read.ec != std::errc()) return false;
+        text.remove_prefix(static_cast<std::size_t>(read.ptr - text.data()));
+    }
+    moment.hasZone = !text.empty();
+    if (take(text, 'Z') || text.empty()) return text.empty();
+    moment.isBehind = text.front() == '-';
+    if (!take(text, '-') && !take(text, '+')) return false;
+    if (!takeNumber(text, 2, moment.zoneHour)) return false;
+    take(text, ':');
+    return (text.empty() || takeNumber(text, 2, moment.zoneMinute)) && text.empty();
+}
+
+std::optional<Moment> momentOf(std::string_view text) {
+    Moment moment;
+    if (text.size() > 2 && text[2] == ':') return takeTime(text, moment) ? std::optional(moment) : std::nullopt;
+    if (!takeNumber(text, 4, moment.year) || !take(text, '-') || !takeNumber(text, 2, moment.month) || !take(text, '-') ||
+        !takeNumber(text, 2, moment.day))
+        return std::nullopt;
+    if (text.empty() || text == midnight) return moment;
+    return take(text, 'T') && takeTime(text, moment) ? std::optional(moment) : std::nullopt;
+}
+
+std::string addDate(Rebuilding& rebuilding, const Moment& moment) {
+    RecordBuilder record(rebuilding.target(), "IFCCALENDARDATE");
+    record.set("DAYCOMPONENT", integer(moment.day));
+    record.set("MONTHCOMPONENT", integer(moment.month));
+    record.set("YEARCOMPONENT", integer(moment.year));
+    return reference(rebuilding.add(record));
+}
+
+std::string addTime(Rebuilding& rebuilding, const Moment& moment) {
+    RecordBuilder record(rebuilding.target(), "IFCLOCALTIME");
+    record.set("HOURCOMPONENT", integer(moment.hour));
+    record.set("MINUTECOMPONENT", integer(moment.minute));
+    record.set("SECONDCOMPONENT", real(moment.second));
+    if (moment.hasZone) {
+        RecordBuilder zone(rebuilding.target(), "IFCCOORDINATEDUNIVERSALTIMEOFFSET");
+        zone.set("HOUROFFSET", integer(moment.zoneHour));
+        zone.set("MINUTEOFFSET", integer(moment.zoneMinute));
+        zone.set("SENSE", enumerator(moment.isBehind ? "BEHIND" : "AHEAD"));
+        record.set("ZONE", reference(rebuilding.add(zone)));
+    }
+    return reference(rebuilding.add(record));
+}
+
+std::optional<std::vector<std::string>> toInstance(Rebuilding& rebuilding, std::string_view encoded, const sdai::Type&,
+                                                   const sdai::Type& to) {
+    const ReleaseSchema& target = rebuilding.target();
+    const auto takes = [&](const char* name) {
+        const sdai::EntityDefinition* entity = target.entity(name);
+        if (entity == nullptr) return false;
+        const sdai::Type& type = to.resolved();
+        return type.asEntity() == entity || (type.asSelect() != nullptr && type.asSelect()->accepts(*entity));
+    };
+    if (!takes("IFCCALENDARDATE") && !takes("IFCDATEANDTIME") && !takes("IFCLOCALTIME")) return std::nullopt;
+    const auto moment = momentOf(textOf(encoded));
+    if (!moment) return std::nullopt;
+    if (moment->year < 0) return takes("IFCLOCALTIME") ? std::optional(std::vector{addTime(rebuilding, *moment)}) : std::nullopt;
+    const bool isDateAlone = moment->hour < 0 && takes("IFCCALENDARDATE");
+    if (isDateAlone || !takes("IFCDATEANDTIME"))
+        return takes("IFCCALENDARDATE") ? std::optional(std::vector{addDate(rebuilding, *moment)}) : std::nullopt;
+    Moment whole = *moment;
+    whole.hour = std::max(whole.hour, 0);
+    RecordBuilder record(target, "IFCDATEANDTIME");
+    record.set("DATECOMPONENT", addDate(rebuilding, whole));
+    record.set("TIMECOMPONENT", addTime(rebuilding, whole));
+    return std::vector{reference(rebuilding.add(record))};
+}
+
+bool isNamed(const sdai::Type& type, std::string_view name) {
+    return type.asDefined() != nullptr && type.asDefined()->name() == name;
+}
+
+std::optional<std::vector<std::string>> toDuration(Rebuilding&, std::string_view encoded, const sdai::Type& from,
+                                                   const sdai::Type& to) {
+    double seconds = 0;
+    if (!isNamed(from, "IFCTIMEMEASURE") || !isNamed(to, "IFCDURATION") || !sdai::decodeReal(encoded, seconds) || seconds < 0)
+        return std::nullopt;
+    std::string number = real(seconds);
+    if (number.find('E') != std::string::npos) return std::nullopt;
+    if (number.back() == '.') number.pop_back();
+    return std::vector{literal("PT" + number + "S")};
+}
+
+/// Seconds of a duration without years and months, which have no fixed length.
+std::optional<double> secondsOf(std::string_view text) {
+    if (!take(text, 'P')) return std::nullopt;
+    double seconds = 0;
+    bool isTime = false;
+    while (!text.empty()) {
+        if (take(text, 'T')) {
+            isTime = true;
+            continue;
+        }
+        double value = 0;
+        const auto read = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+        if (read.ec != std::errc() || read.ptr == text.data() + text.size() || value < 0) return std::nullopt;
+        constexpr std::pair<char, double> days[] = {{'W', 604800}, {'D', 86400}};
+        constexpr std::pair<char, double> times[] = {{'H', 3600}, {'M', 60}, {'S', 1}};
+        double factor = 0;
+        if (isTime) {
+            for (const auto& [unit, worth] : times) factor = *read.ptr == unit ? worth : factor;
+        } else {
+            for (const auto& [unit, worth] : days) factor = *read.ptr == unit ? worth : factor;
+        }
+        if (factor == 0) return std::nullopt;
+        seconds += value * factor;
+        text.remove_prefix(static_cast<std::size_t>(read.ptr - text.data()) + 1);
+    }
+    return seconds;
+}
+
+std::optional<std::vector<std::string>> toSeconds(Rebuilding&, std::string_view encoded, const sdai::Type&, const sdai::Type& to) {
+    if (!isNamed(to, "IFCTIMEMEASURE") || encoded.empty() || encoded.front() == '#') return std::nullopt;
+    const auto seconds = secondsOf(textOf(encoded));
+    return seconds ? std::optional(std::vector{real(*seconds)}) : std::nullopt;
+}
+
+// The control that holds the times of a task of IFC2X3 is what later releases call the time of the task.
+Successor becomesTaskTime(const Releases& releases, DXSdaiAppInstance& control) {
+    return replacedBy(releases, control, "IFCTASKTIME");
+}
+
+void rebuildTaskTime(Rebuilding& rebuilding) {
+    // It is no object any more.
+    for (const char* attribute : {"GLOBALID", "OWNERHISTORY"}) static_cast<void>(rebuilding.encoded(attribute));
+    rebuilding.become(rebuilding.carried(*rebuilding.target().entity("IFCTASKTIME")));
+}
+
+Successor becomesControl(const Releases& releases, DXSdaiAppInstance& assignment) {
+    return replacedBy(releases, assignment, "IFCRELASSIGNSTOCONTROL");
+}
+
+bool giveTimes(Planning& planning, DXSdaiAppInstance& assignment) {
+    const DXSdaiAppInstance* time = assignment.GetAttr("TIMEFORTASK").asInstance();
+    if (time == nullptr || planning.releases().target.entity("IFCTASKTIME") == nullptr) return true;
+    for (const sdai::Primitive member : assignment.GetAttr("RELATEDOBJECTS").asAggregate())
+        if (const DXSdaiAppInstance* task = member.asInstance(); task != nullptr && task->IsKindOf("IFCTASK"))
+            planning.setLater(task->id(), "TASKTIME", reference(time->id()));
+    return true;
+}
+
+void rebuildAssignment(Rebuilding& rebuilding) {
+    static_cast<void>(rebuilding.encoded("TIMEFORTASK"));
+    rebuilding.become(rebuilding.carried(*rebuilding.target().entity("IFCRELASSIGNSTOCONTROL")));
+}
+
+Successor becomesTimeControl(const Releases& releases, DXSdaiAppInstance& time) {
+    return replacedBy(releases, time, "IFCSCHEDULETIMECONTROL");
+}
+
+void rebuildTimeControl(Rebuilding& rebuilding) {
+    RecordBuilder record = rebuilding.carried(*rebuilding.target().entity("IFCSCHEDULETIMECONTROL"));
+    record.set("GLOBALID", literal(derivedIdentifier("IFCSCHEDULETIMECONTROL " + reference(rebuilding.id()))));
+    rebuilding.become(record);
+}
+
+Successor keepsTimes(const Releases& releases, DXSdaiAppInstance& task) {
+    const sdai::EntityDefinition* same = releases.target.entity("IFCTASK");
+    if (same == nullptr || same->attributeIndex("TASKTIME") >= 0 || releases.target.entity("IFCRELASSIGNSTASKS") == nullptr ||
+        task.GetAttr("TASKTIME").asInstance() == nullptr)
+        return Successor::notHere();
+    return Successor::of(releases, "IFCTASK");
+}
+
+// A task of IFC2X3 has times for the schedule that it is in.
+bool findSchedule(Planning& planning, DXSdaiAppInstance& task) {
+    for (const std::uint64_t user : planning.users(task.id())) {
+        const DXSdaiAppInstance* assignment = planning.source().instance(user);
+        if (assignment == nullptr || !assignment->IsKindOf("IFCRELASSIGNSTOCONTROL")) continue;
+        const DXSdaiAppInstance* control = assignment->GetAttr("RELATINGCONTROL").asInstance();
+        if (control != nullptr && control->IsKindOf("IFCWORKCONTROL")) planning.remembered(task.id()) = control->id();
+    }
+    return true;
+}
+
+void rebuildTask(Rebuilding& rebuilding) {
+    const RecordBuilder record = rebuilding.carried(*rebuilding.target().entity("IFCTASK"));
+    const auto* schedule = std::any_cast<std::uint64_t>(&rebuilding.remembered(rebuilding.id()));
+    if (schedule != nullptr && rebuilding.successorOf(*schedule) != nullptr) {
+        RecordBuilder assignment(rebuilding.target(), "IFCRELASSIGNSTASKS");
+        std::string text(rebuilding.encoded("GLOBALID"));
+        assignment.set("GLOBALID", literal(derivedIdentifier(text += " IFCRELASSIGNSTASKS")));
+        assignment.set("OWNERHISTORY", std::string(record.value("OWNERHISTORY")));
+        assignment.set("RELATEDOBJECTS", listOf({reference(rebuilding.id())}));
+        assignment.set("RELATINGCONTROL", reference(*schedule));
+        assignment.set("TIMEFORTASK", std::string(rebuilding.encoded("TASKTIME")));
+        rebuilding.add(assignment);
+    }
+    rebuilding.become(record);
+}
+
+constexpr ConversionRule dateText_{"date-to-text", Effect::Rebuilt, "Dates and times become ISO 8601 texts",
+                                   "Releases since IFC4 say them so; a day for which a time is wanted begins at midnight"};
+constexpr ConversionRule textDate{"text-to-date", Effect::Rebuilt, "ISO 8601 texts become dates and times",
+                                  "IFC2X3 has entities for days, times and zones; midnight without a zone stands for the day"};
+constexpr ConversionRule duration{"seconds-to-duration", Effect::Converted, "A time in seconds becomes an ISO 8601 duration",
+                                  "Releases since IFC4 say durations as texts"};
+constexpr ConversionRule seconds{"duration-to-seconds", Effect::Converted, "An ISO 8601 duration becomes a time in seconds",
+                                 "IFC2X3 says durations in the unit of time; years and months have no fixed length and are lost"};
+constexpr ConversionRule taskTime{"schedule-to-task-time", Effect::Rebuilt,
+                                  "The schedule time control of a task becomes its task time",
+                                  "Since IFC4 a task has its times itself"};
+constexpr ConversionRule timeControl{"task-time-to-schedule", Effect::Rebuilt,
+                                     "The time of a task becomes a schedule time control, assigned with its work schedule",
+                                     "IFC2X3 has times of tasks for a schedule; those of tasks in none are lost"};
+
+constexpr RebuildRule rebuilds[] = {
+    {dateText_, "IFCCALENDARDATE", absorbDate},
+    {dateText_, "IFCLOCALTIME", absorbDate},
+    {dateText_, "IFCDATEANDTIME", absorbDate},
+    {dateText_, "IFCCOORDINATEDUNIVERSALTIMEOFFSET", absorbDate},
+    {taskTime, "IFCSCHEDULETIMECONTROL", becomesTaskTime, nullptr, rebuildTaskTime},
+    {taskTime, "IFCRELASSIGNSTASKS", becomesControl, giveTimes, rebuildAssignment},
+    {timeControl, "IFCTASKTIME", becomesTimeControl, nullptr, rebuildTimeControl},
+    {timeControl, "IFCTASK", keepsTimes, findSchedule, rebuildTask},
+};
+
+constexpr ValueRule values[] = {
+    {dateText_, toText},
+    {textDate, toInstance},
+    {duration, toDuration},
+    {seconds, toSeconds},
+};
+
+} // namespace
+
+RuleTable timeRules() {
+    return {.rebuild = rebuilds, .values = values};
+}
+
+} // namespace velkor::exchange
