@@ -1,28 +1,34 @@
-// Preloaded into the program, it makes chosen allocations and reads fail and runs the program many times from
+// Preloaded into the program, it makes chosen allocations, reads and writes fail and runs the program many times from
 // one start: where main() would begin, a server takes orders and forks a child for each.
 //
 //     VELKOR_FAULTS=ORDERS:ANSWERS   two descriptors, of a pipe to read orders from and of one to answer to
-//     order    ALLOCATION WHICH READ MODE SECONDS
-//              which allocation and which read fails, counted from 1, 0 for none; WHICH is "once" or "on", that one
-//              alone or it and all behind it; MODE is "once", "again", which does without the program's new-handler, as
-//              other hosts do, and runs main() a second time undisturbed, or "cut", which makes each file that is
-//              mapped shorter behind the program's back
-//     answer   WAITSTATUS ALLOCATIONS READS
+//     order    ALLOCATION WHICH READ WRITE MODE SECONDS
+//              which allocation, which read and which write fails, counted from 1, 0 for none; WHICH is "once" or "on",
+//              that allocation alone or it and all behind it. To write is whatever brings a file about: to begin it, to
+//              put bytes there, to flush, to name and to rename it; messages to standard error do not count. MODE is
+//              "once", "again", which does without the program's new-handler, as other hosts do, and runs main() a
+//              second time undisturbed, or "cut", which makes each file that is mapped shorter behind the program's
+//              back
+//     answer   WAITSTATUS ALLOCATIONS READS WRITES
 //
 // Without orders, VELKOR_FAULTS_AT=N fails the N-th allocation of the process, load time included, and all behind.
 
 #include <cerrno>
 #include <csignal>
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <initializer_list>
 #include <iostream>
 #include <new>
 #include <sys/mman.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/time.h>
+#include <sys/uio.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -40,6 +46,7 @@ using Main = int (*)(int, char**, char**);
 struct Counters {
     unsigned long allocations;
     unsigned long reads;
+    unsigned long writes;
 };
 
 constinit Counters ownCounters{};
@@ -47,6 +54,7 @@ constinit Counters* counters = &ownCounters;
 constinit unsigned long failingAllocation = 0;
 constinit bool failsOn = false;
 constinit unsigned long failingRead = 0;
+constinit unsigned long failingWrite = 0;
 constinit bool cutsMapped = false;
 constinit Main programMain = nullptr;
 
@@ -75,13 +83,19 @@ bool readFails() {
     return true;
 }
 
+bool writeFails(int reason) {
+    if (++counters->writes != failingWrite) return false;
+    errno = reason;
+    return true;
+}
+
 template <class Function>
 Function real(const char* name) {
     return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
 }
 
 struct Order {
-    unsigned long allocation, read, seconds;
+    unsigned long allocation, read, write, seconds;
     char which[8], mode[8];
 };
 
@@ -97,6 +111,7 @@ struct Order {
     *counters = {};
     failsOn = std::strcmp(order.which, "on") == 0;
     failingRead = order.read;
+    failingWrite = order.write;
     cutsMapped = std::strcmp(order.mode, "cut") == 0;
     const bool runsAgain = std::strcmp(order.mode, "again") == 0;
     if (runsAgain) std::set_new_handler(nullptr);
@@ -108,7 +123,7 @@ struct Order {
         status = 3;
     }
     if (runsAgain) {
-        failingAllocation = failingRead = 0;
+        failingAllocation = failingRead = failingWrite = 0;
         // What the first run read, the second shall read again.
         std::rewind(stdin);
         std::cin.clear();
@@ -129,13 +144,13 @@ int serve(int argc, char** argv, char** environment) {
     counters = static_cast<Counters*>(
         mmap(nullptr, sizeof(Counters), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
     Order order{};
-    while (std::fscanf(orders, "%lu %7s %lu %7s %lu", &order.allocation, order.which, &order.read, order.mode,
-                       &order.seconds) == 5) {
+    while (std::fscanf(orders, "%lu %7s %lu %lu %7s %lu", &order.allocation, order.which, &order.read, &order.write,
+                       order.mode, &order.seconds) == 6) {
         const pid_t child = fork();
         if (child == 0) runChild(order, argc, argv, environment);
         int status = 0;
         waitpid(child, &status, 0);
-        std::fprintf(answers, "%d %lu %lu\n", status, counters->allocations, counters->reads);
+        std::fprintf(answers, "%d %lu %lu %lu\n", status, counters->allocations, counters->reads, counters->writes);
         std::fflush(answers);
     }
     return 0;
@@ -181,6 +196,40 @@ void* mmap(void* address, std::size_t size, int protection, int flags, int file,
         if (truncate(path, 8192) != 0) std::abort();
     }
     return mapped;
+}
+
+int open(const char* path, int flags, ...) {
+    static const auto next = real<int (*)(const char*, int, ...)>("open");
+    va_list rest;
+    va_start(rest, flags);
+    const unsigned mode = va_arg(rest, unsigned);
+    va_end(rest);
+    const bool isWritten = (flags & O_ACCMODE) != O_RDONLY;
+    return isWritten && writeFails(EACCES) ? -1 : next(path, flags, mode);
+}
+ssize_t write(int file, const void* bytes, std::size_t size) {
+    static const auto next = real<ssize_t (*)(int, const void*, std::size_t)>("write");
+    return file != STDERR_FILENO && writeFails(ENOSPC) ? -1 : next(file, bytes, size);
+}
+ssize_t writev(int file, const iovec* pieces, int count) {
+    static const auto next = real<ssize_t (*)(int, const iovec*, int)>("writev");
+    return file != STDERR_FILENO && writeFails(ENOSPC) ? -1 : next(file, pieces, count);
+}
+int fsync(int file) {
+    static const auto next = real<int (*)(int)>("fsync");
+    return writeFails(EIO) ? -1 : next(file);
+}
+int fchmod(int file, mode_t mode) noexcept {
+    static const auto next = real<int (*)(int, mode_t)>("fchmod");
+    return writeFails(EPERM) ? -1 : next(file, mode);
+}
+int linkat(int folder, const char* path, int otherFolder, const char* other, int flags) noexcept {
+    static const auto next = real<int (*)(int, const char*, int, const char*, int)>("linkat");
+    return writeFails(EIO) ? -1 : next(folder, path, otherFolder, other, flags);
+}
+int rename(const char* path, const char* other) noexcept {
+    static const auto next = real<int (*)(const char*, const char*)>("rename");
+    return writeFails(EIO) ? -1 : next(path, other);
 }
 
 int __libc_start_main(Main main, int argc, char** argv, int (*init)(int, char**, char**), void (*fini)(),

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Runs every command of the program on small inputs while allocations and reads fail and inputs are damaged.
+"""Runs every command of the program on small inputs while allocations, reads and writes fail and inputs are damaged.
 
-Each case has to end in time with a status from 0 to 3. Where memory or a read fails the answer is that of the
-undisturbed run, or one line says why there is none, with status 3.
+Each case has to end in time with a status from 0 to 3. Where memory, a read or a write fails the answer is that of the
+undisturbed run, or one line says why there is none, with status 3. Files that are written are whole or not there, and
+nothing else is left beside them.
 
     campaign.py PROGRAM SHIM RESOURCES MODEL [--short] [--every N] [--only WORD]
 """
@@ -62,6 +63,13 @@ MODEL_COMMANDS = [
 VERSION_MAPPING = ['map', 'version', '--from', '2x3', '--to', '4', 'IfcActionRequest', 'RequestID']
 CUSTOM_MAPPING = ['map', 'custom', 'Pset_WallCommon', 'FireRating', '--scope', 'Wall_Import']
 PLM_MAPPING = ['map', 'plm', 'Wall', 'V_Fire']
+CONVERT_COMMANDS = [
+    ['convert', 'model.ifc', '-o', 'out.ifc', '--to', '4'],
+    ['convert', 'model.ifc', '-o', 'out.ifc', '--length-unit', 'INCH', '--guids', 'repair', '--guid-map', 'out.csv',
+     '--report', 'out.json'],
+    ['convert', 'model.ifc', '-o', 'out.ifc', '--to', '4', '--custom-mapping', 'import', '--plm-attributes'],
+    ['convert', 'model.ifc', '-o', '-', '--to', '4'],
+]
 OTHER_COMMANDS = [
     ['--version'], ['map', '--help'], ['rapport'], ['report'], ['report', 'missing.ifc'],
     ['guid', 'new'], ['guid', 'from-plm'], ['guid', 'expand', '0$WU4A9R19$vKWO$AdOnKA'],
@@ -80,12 +88,12 @@ STATUSES = {'rapport': 2, 'report': 2, 'report missing.ifc': 3, 'dictionary enti
             'classify model.ifc': 1, 'classify model.ifc --format csv': 1}
 # Commands that make trees of JSON. Those allocate when they are destroyed, which ends a process that goes on without
 # memory.
-JSON_TREES = [words for words in MODEL_COMMANDS + OTHER_COMMANDS
-              if 'json' in words or words[0] in ('map', 'dictionary', 'options')
+JSON_TREES = [words for words in MODEL_COMMANDS + CONVERT_COMMANDS + OTHER_COMMANDS
+              if 'json' in words or words[0] in ('map', 'dictionary', 'options', 'convert')
               or words[0] == 'guid' and words[1] != 'check']
 # Which commands read a kind of input.
 INPUTS = {
-    'model.ifc': MODEL_COMMANDS[::2],
+    'model.ifc': MODEL_COMMANDS[::2] + CONVERT_COMMANDS[::2],
     'velkor.json': [['options']],
     'standard/ifc/VersionMapping.xml': [VERSION_MAPPING],
     'standard/ifcCustomMapping/CustomMapping.xml': [CUSTOM_MAPPING],
@@ -115,14 +123,24 @@ class Server:
         os.close(orders)
         os.close(answers)
         self.reply = os.fdopen(self.answers, 'r')
+        self.there = set(os.listdir(self.folder))
 
-    def run(self, allocation=0, which='once', read=0, mode='once'):
+    def run(self, allocation=0, which='once', read=0, write=0, mode='once'):
+        for name in self.made():
+            os.remove(self.path(name))
         for output in (self.out, self.err):
             os.ftruncate(output.fileno(), 0)
             os.lseek(output.fileno(), 0, os.SEEK_SET)
-        os.write(self.orders, f'{allocation} {which} {read} {mode} {SECONDS}\n'.encode())
-        status, allocations, reads = map(int, self.reply.readline().split())
-        return Outcome(status, self.contents(self.out), self.contents(self.err), allocations, reads)
+        os.write(self.orders, f'{allocation} {which} {read} {write} {mode} {SECONDS}\n'.encode())
+        status, *counts = map(int, self.reply.readline().split())
+        files = {}
+        for name in self.made():
+            with open(self.path(name), 'rb') as file:
+                files[name] = file.read()
+        return Outcome(status, self.contents(self.out), self.contents(self.err), counts, files)
+
+    def made(self):
+        return set(os.listdir(self.folder)) - self.there
 
     @staticmethod
     def contents(output):
@@ -139,19 +157,26 @@ class Server:
 
 
 class Outcome:
-    def __init__(self, status, out, err, allocations, reads):
+    def __init__(self, status, out, err, counts=(0, 0, 0), files=None):
         self.signal = os.WTERMSIG(status) if os.WIFSIGNALED(status) else 0
         self.status = os.WEXITSTATUS(status)
         # New identifiers are new each time, and so is the time that something took.
         out = re.sub(rb'^[0-9A-Za-z_$]{22}$', b'ID', out)
         self.out = re.sub(rb'(, |"seconds": )[0-9][0-9.e-]*( s\n|,?\n)', rb'\1TIME\2', out)
-        self.err, self.allocations, self.reads = err, allocations, reads
+        self.err, self.files = err, files or {}
+        self.allocations, self.reads, self.writes = counts
 
     def same(self, other):
-        return (self.signal, self.status, self.out, self.err) == (other.signal, other.status, other.out, other.err)
+        return (self.signal, self.status, self.out, self.err, self.files) == (
+            other.signal, other.status, other.out, other.err, other.files)
 
-    def exhausted(self):
-        return self.signal == 0 and self.status == 3 and self.err.endswith(b'velkor: out of memory\n')
+    def whole(self, other):
+        """Whether there are no files but those of the other outcome."""
+        return all(other.files.get(name) == data for name, data in self.files.items())
+
+    def exhausted(self, right=None):
+        return (self.signal == 0 and self.status == 3 and self.err.endswith(b'velkor: out of memory\n')
+                and self.whole(right or self))
 
     def ended(self):
         return self.signal == 0 and self.status <= 3
@@ -207,7 +232,7 @@ def failing_allocations(tools, words):
     for which in ('once', 'on'):
         for number in sample(right.allocations, 60, tools):
             outcome = server.run(number, which)
-            findings.judge(outcome.exhausted() or outcome.same(right), words,
+            findings.judge(outcome.exhausted(right) or outcome.same(right), words,
                            f'allocation {number} fails {which}', outcome)
     # What a failure leaves behind in a process that goes on. The first few are those of the standard streams, which
     # cannot be used afterwards.
@@ -228,9 +253,15 @@ def failing_load(tools, words):
         environment = {'PATH': '/usr/bin:/bin', 'LD_PRELOAD': tools.shim, 'VELKOR_FAULTS_AT': str(number)}
         done = subprocess.run([tools.program, *words], env=environment, capture_output=True)
         status = -done.returncode if done.returncode < 0 else done.returncode << 8
-        outcome = Outcome(status, done.stdout, done.stderr, 0, 0)
+        outcome = Outcome(status, done.stdout, done.stderr)
         findings.judge(outcome.exhausted(), words, f'allocation {number} of the process fails on', outcome)
     return findings
+
+
+def told(outcome, right):
+    """Whether an answer is the right one, or a reason why there is none and no file that is not right."""
+    failed = outcome.status == 3 and outcome.err and outcome.whole(right)
+    return outcome.signal == 0 and (outcome.same(right) or failed)
 
 
 def failing_reads(tools, words):
@@ -238,8 +269,18 @@ def failing_reads(tools, words):
     right = server.run()
     for number in sample(right.reads, 30, tools):
         outcome = server.run(read=number)
-        findings.judge(outcome.signal == 0 and (outcome.same(right) or outcome.status == 3 and outcome.err), words,
-                       f'read {number} fails', outcome)
+        findings.judge(told(outcome, right), words, f'read {number} fails', outcome)
+    server.close()
+    return findings
+
+
+def failing_writes(tools, words):
+    findings, server = Findings(), Server(tools, words)
+    right = server.run()
+    findings.judge(right.writes > 0 or right.err, words, 'nothing is written', right)
+    for number in sample(right.writes, 40, tools):
+        outcome = server.run(write=number)
+        findings.judge(told(outcome, right), words, f'write {number} fails', outcome)
     server.close()
     return findings
 
@@ -268,19 +309,20 @@ def truncated_mapping(tools, words):
     with open(server.path('model.ifc'), 'ab') as file:
         file.write(b' ' * MAPPED)
     outcome = server.run(mode='cut')
-    told = outcome.status == 3 and outcome.err.endswith(b'model.ifc: was truncated while it was read\n')
-    findings.judge(outcome.signal == 0 and told, words, 'file cut while it is mapped', outcome)
+    isTold = outcome.status == 3 and outcome.err.endswith(b'model.ifc: was truncated while it was read\n')
+    findings.judge(outcome.signal == 0 and isTold and not outcome.files, words, 'file cut while it is mapped', outcome)
     server.close()
     return findings
 
 
 def jobs(tools):
     yield failing_load, (['--version'],)
-    for words in MODEL_COMMANDS:
+    for words in MODEL_COMMANDS + CONVERT_COMMANDS[:3]:
         yield truncated_mapping, (words,)
-    for words in MODEL_COMMANDS + OTHER_COMMANDS:
+    for words in MODEL_COMMANDS + CONVERT_COMMANDS + OTHER_COMMANDS:
         yield failing_allocations, (words,)
         yield failing_reads, (words,)
+        yield failing_writes, (words,)
     for name, commands in INPUTS.items():
         checks = [['resources', 'check', name]] if name.endswith('.xml') else []
         for words in commands + checks:

@@ -267,8 +267,17 @@ TEST(ConvertCommand, NamesPropertiesAsTheShippedMappingsSay) {
                 AllOf(Not(HasSubstr("'Norvel_FireSafety'")), HasSubstr("#114=IFCPROPERTYSINGLEVALUE('FireRat")));
     // The model has no property of a PLM attribute's name.
     EXPECT_THAT(mapped(house, result, {"--plm-attributes"}), HasSubstr("#114=IFCPROPERTYSINGLEVALUE('FireRat"));
-    // Without a document there is nothing to go by, or nothing to do.
-    EXPECT_NE(convert(house, {"-o", result, "--custom-mapping", "import"}).status, BadUsage);
+}
+
+TEST(ConvertCommand, ADocumentThatCannotBeReadEndsIt) {
+    const TemporaryFolder folder;
+    folder.file("site/ifc/VersionMapping.xml", "<broken");
+    const std::string configuration = folder.file("site.json", R"({"collection_standard": ["site"]})");
+    const Outcome outcome =
+        convert(example("house-ifc2x3.ifc"), {"-o", folder / "x.ifc", "--to", "4", "--config", configuration});
+    EXPECT_EQ(outcome.status, Unreadable);
+    EXPECT_THAT(outcome.err, AllOf(HasSubstr("VersionMapping.xml"), HasSubstr("cannot be converted")));
+    EXPECT_THAT(names(folder), ElementsAre("site", "site.json"));
 }
 
 TEST(ConvertCommand, ListsEveryRuleWithItsReason) {

@@ -227,6 +227,10 @@ void convert(CommandContext& context, const Arguments& arguments, ConversionOpti
     const auto report = convertModel(*model, options, outputs.model());
     options.progress = {};
     if (!report) return context.reportUnreadable(arguments.model + ": cannot be converted: " + report.error());
+    // The services go on without a document that they cannot read; the result would be another one.
+    if (setup.hasToldErrors())
+        return context.reportUnreadable(arguments.model +
+                                        ": cannot be converted: a document of mappings is not readable");
 
     const std::string release(model->schema().name());
     const ConversionFiles files{arguments.model, release, model->file().instanceCount(), resultName(arguments),
