@@ -83,9 +83,9 @@ OutputFile OutputFile::onto(int descriptor) {
 
 OutputFile::OutputFile(OutputFile&& other) noexcept
     : _descriptor(std::exchange(other._descriptor, -1)), _isOwn(std::exchange(other._isOwn, false)),
-      _replaces(other._replaces), _keepsMode(other._keepsMode), _mode(other._mode), _error(other._error),
-      _size(other._size), _target(std::move(other._target)), _temporary(std::exchange(other._temporary, {})),
-      _gathered(std::move(other._gathered)) {}
+      _replaces(other._replaces), _isFlushed(other._isFlushed), _keepsMode(other._keepsMode), _mode(other._mode),
+      _error(other._error), _size(other._size), _target(std::move(other._target)),
+      _temporary(std::exchange(other._temporary, {})), _gathered(std::move(other._gathered)) {}
 
 OutputFile::~OutputFile() {
     close();
@@ -107,7 +107,7 @@ void OutputFile::write(std::string_view bytes) {
 
 tl::expected<void, OpenError> OutputFile::flush() {
     send(std::exchange(_gathered, {}));
-    if (_replaces && _error == 0) {
+    if (_replaces && _error == 0 && !std::exchange(_isFlushed, true)) {
         const bool isSet = !_keepsMode || fchmod(_descriptor, static_cast<mode_t>(_mode)) == 0;
         if (!isSet || fsync(_descriptor) != 0) _error = errno;
     }

@@ -39,23 +39,31 @@ TEST(OtherRules, SayDatesAndTimesAsTextsAndBack) {
                               "#3=IFCLOCALTIME(7,5,9.5,#2,$);#4=IFCDATEANDTIME(#1,#3);";
     const std::string document = dates + "#5=IFCDOCUMENTINFORMATION('d','D',$,$,$,$,$,$,$,$,#4,$,$,#1,$,$,$);";
     expectRecord("IFC2X3", document, "IFC4", 5,
-                 "IFCDOCUMENTINFORMATION('d','D',$,$,$,$,$,$,$,$,'2009-02-03T07:05:09.5+01:30',$,$,'2009-02-03',$,$,$)", "date-to-text");
+                 "IFCDOCUMENTINFORMATION('d','D',$,$,$,$,$,$,$,$,'2009-02-03T07:05:09.5+01:30',$,$,'2009-02-03',$,$,$)",
+                 "date-to-text");
     EXPECT_THAT(toRelease("IFC2X3", owner + document, "IFC4").text, testing::Not(HasSubstr("IFCCALENDARDATE")));
 
-    const auto back = toRelease("IFC4", owner + "#5=IFCDOCUMENTINFORMATION('d','D',$,$,$,$,$,$,$,$,'2009-02-03T07:05:09.5-01:30',$,$,'2009-02-03',$,$,$);", "IFC2X3");
+    const auto back = toRelease(
+        "IFC4",
+        owner +
+            "#5=IFCDOCUMENTINFORMATION('d','D',$,$,$,$,$,$,$,$,'2009-02-03T07:05:09.5-01:30',$,$,'2009-02-03',$,$,$);",
+        "IFC2X3");
     EXPECT_THAT(back.problems(), IsEmpty());
     EXPECT_THAT(back.records("IFCCALENDARDATE"), ElementsAre("IFCCALENDARDATE(3,2,2009)", "IFCCALENDARDATE(3,2,2009)"));
-    EXPECT_THAT(back.records("IFCCOORDINATEDUNIVERSALTIMEOFFSET"), ElementsAre("IFCCOORDINATEDUNIVERSALTIMEOFFSET(1,30,.BEHIND.)"));
+    EXPECT_THAT(back.records("IFCCOORDINATEDUNIVERSALTIMEOFFSET"),
+                ElementsAre("IFCCOORDINATEDUNIVERSALTIMEOFFSET(1,30,.BEHIND.)"));
     EXPECT_THAT(back.records("IFCLOCALTIME"), ElementsAre(HasSubstr("IFCLOCALTIME(7,5,9.5,#")));
     EXPECT_THAT(back.records("IFCDATEANDTIME").size(), 1u);
 }
 
 TEST(OtherRules, GiveTasksTheirTimesAndBack) {
-    const std::string tasks = "#1=IFCCALENDARDATE(3,2,2009);#2=IFCTASK(" + root('A') + ",'t',$,$,'T1',$,$,.F.,$);#3=IFCWORKSCHEDULE(" + root('B') +
+    const std::string tasks = "#1=IFCCALENDARDATE(3,2,2009);#2=IFCTASK(" + root('A') +
+                              ",'t',$,$,'T1',$,$,.F.,$);#3=IFCWORKSCHEDULE(" + root('B') +
                               ",'s',$,$,'S1',#1,$,$,$,$,#1,$,$,$);#4=IFCSCHEDULETIMECONTROL(" + root('C') +
-                              ",$,$,$,$,$,$,#1,$,$,$,$,3600.,$,$,$,$,.T.,$,$,$,0.5);#5=IFCRELASSIGNSTASKS(" + root('D') +
-                              ",$,$,(#2),$,#3,#4);";
-    expectRecord("IFC2X3", tasks, "IFC4", 2, "IFCTASK(" + root('A') + ",'t',$,$,'T1',$,$,$,.F.,$,#4,$)", "schedule-to-task-time");
+                              ",$,$,$,$,$,$,#1,$,$,$,$,3600.,$,$,$,$,.T.,$,$,$,0.5);#5=IFCRELASSIGNSTASKS(" +
+                              root('D') + ",$,$,(#2),$,#3,#4);";
+    expectRecord("IFC2X3", tasks, "IFC4", 2, "IFCTASK(" + root('A') + ",'t',$,$,'T1',$,$,$,.F.,$,#4,$)",
+                 "schedule-to-task-time");
     const auto result = toRelease("IFC2X3", owner + tasks, "IFC4");
     EXPECT_EQ(result.record(4), "IFCTASKTIME($,$,$,$,'PT3600S','2009-02-03T00:00:00',$,$,$,$,$,$,$,.T.,$,$,$,$,$,0.5)");
     EXPECT_EQ(result.record(5), "IFCRELASSIGNSTOCONTROL(" + root('D') + ",$,$,(#2),$,#3)");
@@ -86,17 +94,25 @@ TEST(OtherRules, GiveWhatReleasesRequire) {
     const auto project = toRelease("IFC4", owner + "#1=IFCPROJECT(" + root('A') + ",'p',$,$,$,$,$,$);", "IFC2X3");
     EXPECT_THAT(project.problems(), IsEmpty());
     EXPECT_EQ(project.count("project-context"), 2u);
-    const auto change = toRelease("IFC4", "#90=IFCPERSON('p','Doe',$,$,$,$,$,$);#91=IFCORGANIZATION('o','O',$,$,$);#92=IFCPERSONANDORGANIZATION(#90,#91,$);"
-                                          "#93=IFCAPPLICATION(#91,'1','A','a');#94=IFCOWNERHISTORY(#92,#93,$,$,$,$,$,0);#1=IFCWALL(" + root('A') + ",$,$,$,$,$,$,$);",
-                                  "IFC2X3");
+    const auto change =
+        toRelease("IFC4",
+                  "#90=IFCPERSON('p','Doe',$,$,$,$,$,$);#91=IFCORGANIZATION('o','O',$,$,$);#92="
+                  "IFCPERSONANDORGANIZATION(#90,#91,$);"
+                  "#93=IFCAPPLICATION(#91,'1','A','a');#94=IFCOWNERHISTORY(#92,#93,$,$,$,$,$,0);#1=IFCWALL(" +
+                      root('A') + ",$,$,$,$,$,$,$);",
+                  "IFC2X3");
     EXPECT_THAT(change.record(94), HasSubstr(".NOCHANGE."));
     EXPECT_NE(change.record(1), "");
 
-    const std::string boundary = "#1=IFCSPACE(" + root('A') + ",$,$,$,$,$,$,.ELEMENT.,.INTERNAL.,$);#2=IFCRELSPACEBOUNDARY(" + root('B') +
+    const std::string boundary = "#1=IFCSPACE(" + root('A') +
+                                 ",$,$,$,$,$,$,.ELEMENT.,.INTERNAL.,$);#2=IFCRELSPACEBOUNDARY(" + root('B') +
                                  ",$,$,#1,$,$,.VIRTUAL.,.INTERNAL.);";
-    expectRecord("IFC2X3", boundary, "IFC4", 2, "IFCRELSPACEBOUNDARY(" + root('B') + ",$,$,#1,#95,$,.VIRTUAL.,.INTERNAL.)", "virtual-boundary");
-    expectRecord("IFC4", "#1=IFCPROPERTYLISTVALUE('n',$,$,$);", "IFC2X3", 1, "IFCPROPERTYSINGLEVALUE('n',$,$,$)", "valueless-property");
-    expectRecord("IFC4X3_ADD2", "#1=IFCKERB(" + root('A') + ",$,$,$,$,$,$,$);", "IFC4X3_RC1", 1, "IFCKERB(" + root('A') + ",$,$,$,$,$,$,.F.)", "required-flag");
+    expectRecord("IFC2X3", boundary, "IFC4", 2,
+                 "IFCRELSPACEBOUNDARY(" + root('B') + ",$,$,#1,#95,$,.VIRTUAL.,.INTERNAL.)", "virtual-boundary");
+    expectRecord("IFC4", "#1=IFCPROPERTYLISTVALUE('n',$,$,$);", "IFC2X3", 1, "IFCPROPERTYSINGLEVALUE('n',$,$,$)",
+                 "valueless-property");
+    expectRecord("IFC4X3_ADD2", "#1=IFCKERB(" + root('A') + ",$,$,$,$,$,$,$);", "IFC4X3_RC1", 1,
+                 "IFCKERB(" + root('A') + ",$,$,$,$,$,$,.F.)", "required-flag");
     expectRecord("IFC2X3", "#1=IFCTEXTSTYLEFONTMODEL('Arial',$,$,$,$,IFCLENGTHMEASURE(3.));", "IFC4", 1,
                  "IFCTEXTSTYLEFONTMODEL('Arial',('Arial'),$,$,$,IFCLENGTHMEASURE(3.))", "font-family");
 }
@@ -111,44 +127,67 @@ TEST(OtherRules, MakeElementsPlainerRatherThanLoseThem) {
 }
 
 TEST(OtherRules, KeepTheSpatialStructure) {
-    const std::string bridge = "#1=IFCBRIDGE(" + root('A') + ",'b',$,$,$,$,$,.ELEMENT.,.ARCHED.);#2=IFCBRIDGEPART(" + root('B') +
-                               ",'p',$,$,$,$,$,.PARTIAL.,.LATERAL.,.DECK.);#3=IFCRELAGGREGATES(" + root('C') + ",$,$,#1,(#2));";
-    expectRecord("IFC4X3_ADD2", bridge, "IFC4", 1, "IFCBUILDING(" + root('A') + ",'b',$,'IFCBRIDGE',$,$,$,.ELEMENT.,$,$,$)", "facility-to-building");
-    expectRecord("IFC4X3_ADD2", bridge, "IFC2X3", 2, "IFCBUILDING(" + root('B') + ",'p',$,'IFCBRIDGEPART',$,$,$,.PARTIAL.,$,$,$)", "facility-part-to-building");
-    EXPECT_EQ(toRelease("IFC4X3_ADD2", owner + bridge, "IFC4").record(3), "IFCRELAGGREGATES(" + root('C') + ",$,$,#1,(#2))");
+    const std::string bridge = "#1=IFCBRIDGE(" + root('A') + ",'b',$,$,$,$,$,.ELEMENT.,.ARCHED.);#2=IFCBRIDGEPART(" +
+                               root('B') + ",'p',$,$,$,$,$,.PARTIAL.,.LATERAL.,.DECK.);#3=IFCRELAGGREGATES(" +
+                               root('C') + ",$,$,#1,(#2));";
+    expectRecord("IFC4X3_ADD2", bridge, "IFC4", 1,
+                 "IFCBUILDING(" + root('A') + ",'b',$,'IFCBRIDGE',$,$,$,.ELEMENT.,$,$,$)", "facility-to-building");
+    expectRecord("IFC4X3_ADD2", bridge, "IFC2X3", 2,
+                 "IFCBUILDING(" + root('B') + ",'p',$,'IFCBRIDGEPART',$,$,$,.PARTIAL.,$,$,$)",
+                 "facility-part-to-building");
+    EXPECT_EQ(toRelease("IFC4X3_ADD2", owner + bridge, "IFC4").record(3),
+              "IFCRELAGGREGATES(" + root('C') + ",$,$,#1,(#2))");
     expectRecord("IFC4", "#1=IFCSPATIALZONE(" + root('A') + ",'z',$,$,$,$,$,$);", "IFC2X3", 1,
                  "IFCSPACE(" + root('A') + ",'z',$,'IFCSPATIALZONE',$,$,$,.ELEMENT.,.NOTDEFINED.,$)", "zone-to-space");
     expectRecord("IFC4", "#1=IFCEXTERNALSPATIALELEMENT(" + root('A') + ",'o',$,$,$,$,$,$);", "IFC2X3", 1,
-                 "IFCSPACE(" + root('A') + ",'o',$,'IFCEXTERNALSPATIALELEMENT',$,$,$,.ELEMENT.,.EXTERNAL.,$)", "outside-to-space");
+                 "IFCSPACE(" + root('A') + ",'o',$,'IFCEXTERNALSPATIALELEMENT',$,$,$,.ELEMENT.,.EXTERNAL.,$)",
+                 "outside-to-space");
 }
 
 TEST(OtherRules, SayDoorsWindowsAndStylesAsTheReleaseDoes) {
-    expectRecord("IFC2X3", "#1=IFCDOORSTYLE(" + root('A') + ",'d',$,$,$,$,$,.SINGLE_SWING_LEFT.,.NOTDEFINED.,.F.,.F.);", "IFC4", 1,
-                 "IFCDOORTYPE(" + root('A') + ",'d',$,$,$,$,$,$,.NOTDEFINED.,.SINGLE_SWING_LEFT.,.F.,$)", "style-to-type");
-    expectRecord("IFC2X3", "#1=IFCWINDOWSTYLE(" + root('A') + ",'w',$,$,$,$,$,.NOTDEFINED.,.SINGLE_PANEL.,.F.,.F.);", "IFC4X3_ADD2", 1,
-                 "IFCWINDOWTYPE(" + root('A') + ",'w',$,$,$,$,$,$,.NOTDEFINED.,.SINGLE_PANEL.,.F.,$)", "style-to-type");
-    expectRecord("IFC4", "#1=IFCDOORTYPE(" + root('A') + ",'d',$,$,$,$,$,$,.NOTDEFINED.,.SINGLE_SWING_LEFT.,$,$);", "IFC2X3", 1,
-                 "IFCDOORSTYLE(" + root('A') + ",'d',$,$,$,$,$,.SINGLE_SWING_LEFT.,.NOTDEFINED.,.F.,.F.)", "type-to-style");
+    expectRecord("IFC2X3", "#1=IFCDOORSTYLE(" + root('A') + ",'d',$,$,$,$,$,.SINGLE_SWING_LEFT.,.NOTDEFINED.,.F.,.F.);",
+                 "IFC4", 1, "IFCDOORTYPE(" + root('A') + ",'d',$,$,$,$,$,$,.NOTDEFINED.,.SINGLE_SWING_LEFT.,.F.,$)",
+                 "style-to-type");
+    expectRecord("IFC2X3", "#1=IFCWINDOWSTYLE(" + root('A') + ",'w',$,$,$,$,$,.NOTDEFINED.,.SINGLE_PANEL.,.F.,.F.);",
+                 "IFC4X3_ADD2", 1, "IFCWINDOWTYPE(" + root('A') + ",'w',$,$,$,$,$,$,.NOTDEFINED.,.SINGLE_PANEL.,.F.,$)",
+                 "style-to-type");
+    expectRecord("IFC4", "#1=IFCDOORTYPE(" + root('A') + ",'d',$,$,$,$,$,$,.NOTDEFINED.,.SINGLE_SWING_LEFT.,$,$);",
+                 "IFC2X3", 1, "IFCDOORSTYLE(" + root('A') + ",'d',$,$,$,$,$,.SINGLE_SWING_LEFT.,.NOTDEFINED.,.F.,.F.)",
+                 "type-to-style");
 
     const std::string styles = "#1=IFCCARTESIANPOINT((0.,0.));#2=IFCCURVESTYLE('a',$,$,$);#3=IFCCURVESTYLE('b',$,$,$);";
-    expectRecord("IFC2X3", styles + "#4=IFCPRESENTATIONSTYLEASSIGNMENT((#2,#3));#5=IFCPRESENTATIONSTYLEASSIGNMENT((#2));#6=IFCSTYLEDITEM(#1,(#4,#5),$);",
+    expectRecord("IFC2X3",
+                 styles + "#4=IFCPRESENTATIONSTYLEASSIGNMENT((#2,#3));#5=IFCPRESENTATIONSTYLEASSIGNMENT((#2));#6="
+                          "IFCSTYLEDITEM(#1,(#4,#5),$);",
                  "IFC4X3_ADD2", 6, "IFCSTYLEDITEM(#1,(#2,#3),$)", "style-assignment");
-    const std::string without = "#1=IFCCARTESIANPOINT((0.,0.));#2=IFCSURFACESTYLE('a',.BOTH.,(#3));#3=IFCSURFACESTYLESHADING(#7,0.5);#7=IFCCOLOURRGB($,1.,0.,0.);";
-    expectRecord("IFC4", without + "#6=IFCSTYLEDITEM(#1,(#2),$);", "IFC2X3", 3, "IFCSURFACESTYLERENDERING(#7,0.5,$,$,$,$,$,$,.NOTDEFINED.)", "transparent-shading");
-    EXPECT_EQ(toRelease("IFC4", without + "#6=IFCSTYLEDITEM(#1,(#2),$);#8=IFCSTYLEDITEM(#1,(#2),$);", "IFC2X3").records("IFCPRESENTATIONSTYLEASSIGNMENT").size(), 1u);
+    const std::string without = "#1=IFCCARTESIANPOINT((0.,0.));#2=IFCSURFACESTYLE('a',.BOTH.,(#3));#3="
+                                "IFCSURFACESTYLESHADING(#7,0.5);#7=IFCCOLOURRGB($,1.,0.,0.);";
+    expectRecord("IFC4", without + "#6=IFCSTYLEDITEM(#1,(#2),$);", "IFC2X3", 3,
+                 "IFCSURFACESTYLERENDERING(#7,0.5,$,$,$,$,$,$,.NOTDEFINED.)", "transparent-shading");
+    EXPECT_EQ(toRelease("IFC4", without + "#6=IFCSTYLEDITEM(#1,(#2),$);#8=IFCSTYLEDITEM(#1,(#2),$);", "IFC2X3")
+                  .records("IFCPRESENTATIONSTYLEASSIGNMENT")
+                  .size(),
+              1u);
 }
 
 TEST(OtherRules, RelatePropertySetsAsTheReleaseDoes) {
-    const std::string sets = "#1=IFCPROPERTYSINGLEVALUE('p',$,IFCLABEL('x'),$);#2=IFCPROPERTYSET(" + root('B') + ",'a',$,(#1));#3=IFCPROPERTYSET(" + root('C') +
-                             ",'b',$,(#1));#4=IFCWALL(" + root('D') + ",$,$,$,$,$,$,$);";
-    const auto several = toRelease("IFC4", owner + sets + "#5=IFCRELDEFINESBYPROPERTIES(" + root('E') + ",$,$,(#4),IFCPROPERTYSETDEFINITIONSET((#2,#3)));", "IFC2X3");
+    const std::string sets = "#1=IFCPROPERTYSINGLEVALUE('p',$,IFCLABEL('x'),$);#2=IFCPROPERTYSET(" + root('B') +
+                             ",'a',$,(#1));#3=IFCPROPERTYSET(" + root('C') + ",'b',$,(#1));#4=IFCWALL(" + root('D') +
+                             ",$,$,$,$,$,$,$);";
+    const auto several = toRelease("IFC4",
+                                   owner + sets + "#5=IFCRELDEFINESBYPROPERTIES(" + root('E') +
+                                       ",$,$,(#4),IFCPROPERTYSETDEFINITIONSET((#2,#3)));",
+                                   "IFC2X3");
     EXPECT_THAT(several.problems(), IsEmpty());
     EXPECT_THAT(several.records("IFCRELDEFINESBYPROPERTIES"), ElementsAre(HasSubstr("(#4),#2"), HasSubstr("(#4),#3")));
 
     const std::string wall = "#4=IFCWALL(" + root('D') + ",$,$,$,$,$,$);";
-    const auto overriding = toRelease("IFC2X3", owner + "#1=IFCPROPERTYSINGLEVALUE('p',$,IFCLABEL('x'),$);#2=IFCPROPERTYSET(" + root('B') + ",'a',$,(#1));" + wall +
-                                                    "#6=IFCPROPERTYSINGLEVALUE('p',$,IFCLABEL('y'),$);#5=IFCRELOVERRIDESPROPERTIES(" + root('E') + ",$,$,(#4),#2,(#6));",
-                                      "IFC4");
+    const auto overriding = toRelease(
+        "IFC2X3",
+        owner + "#1=IFCPROPERTYSINGLEVALUE('p',$,IFCLABEL('x'),$);#2=IFCPROPERTYSET(" + root('B') + ",'a',$,(#1));" +
+            wall + "#6=IFCPROPERTYSINGLEVALUE('p',$,IFCLABEL('y'),$);#5=IFCRELOVERRIDESPROPERTIES(" + root('E') +
+            ",$,$,(#4),#2,(#6));",
+        "IFC4");
     EXPECT_THAT(overriding.problems(), IsEmpty());
     EXPECT_THAT(overriding.records("IFCPROPERTYSET"), ElementsAre(HasSubstr("(#1)"), HasSubstr("'a',$,(#6)")));
     EXPECT_EQ(overriding.records("IFCRELDEFINESBYPROPERTIES").size(), 2u);

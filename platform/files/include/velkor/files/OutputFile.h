@@ -54,6 +54,7 @@ private:
     bool _isOwn = false;
     // False for what is written to as it is.
     bool _replaces = false;
+    bool _isFlushed = false;
     bool _keepsMode = false;
     std::uint32_t _mode = 0;
     // Of the system; 0 while all is well.

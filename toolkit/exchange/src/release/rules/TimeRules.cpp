@@ -1,6 +1,6 @@
 // Dates, times and durations, and the times of tasks.
-#include "RecordText.h"
 #include "identifiers/DerivedIdentifier.h"
+#include "RecordText.h"
 #include "release/Rebuilding.h"
 
 #include "velkor/sdai/Part21Encoding.h"
@@ -58,7 +58,10 @@ std::string timeText(const DXSdaiAppInstance& time) {
         seconds += fraction.substr(std::min(fraction.find('.'), fraction.size()));
     }
     std::string text = digits(*hour, 2);
-    text.append(":").append(digits(time.GetAttr("MINUTECOMPONENT").asInteger().value_or(0), 2)).append(":").append(seconds);
+    text.append(":")
+        .append(digits(time.GetAttr("MINUTECOMPONENT").asInteger().value_or(0), 2))
+        .append(":")
+        .append(seconds);
     return text += zoneText(time.GetAttr("ZONE").asInstance());
 }
 
@@ -88,10 +91,13 @@ std::optional<std::vector<std::string>> toText(Rebuilding& rebuilding, std::stri
                                                const sdai::Type& to) {
     const std::uint64_t id = sdai::decodeInstanceName(encoded);
     const DXSdaiAppInstance* instance = id == 0 ? nullptr : rebuilding.source().instance(id);
-    if (instance == nullptr || instance->entity() == nullptr || !isDateEntity(instance->entity()->name())) return std::nullopt;
+    if (instance == nullptr || instance->entity() == nullptr || !isDateEntity(instance->entity()->name()))
+        return std::nullopt;
     const auto parts = textsOf(*instance);
     if (const auto* select = to.resolved().asSelect()) {
-        const std::string_view wanted = parts.first.empty() ? "IFCTIME" : parts.second.empty() ? "IFCDATE" : "IFCDATETIME";
+        const std::string_view wanted = parts.first.empty()    ? "IFCTIME"
+                                        : parts.second.empty() ? "IFCDATE"
+                                                               : "IFCDATETIME";
         const auto* type = rebuilding.target().definition().definedType(wanted);
         const std::string text = textAs(wanted, parts);
         if (type == nullptr || !select->accepts(*type) || text.empty()) return std::nullopt;
@@ -131,7 +137,8 @@ bool take(std::string_view& text, char c) {
 bool takeTime(std::string_view& text, Moment& moment) {
     if (!takeNumber(text, 2, moment.hour) || !take(text, ':') || !takeNumber(text, 2, moment.minute)) return false;
     if (take(text, ':')) {
-        const auto read = std::from_chars(text.data(), text.data() + text.size(), moment.second, std::chars_format::fixed);
+        const auto read =
+            std::from_chars(text.data(), text.data() + text.size(), moment.second, std::chars_format::fixed);
         if (read.ec != std::errc()) return false;
         text.remove_prefix(static_cast<std::size_t>(read.ptr - text.data()));
     }
@@ -147,8 +154,8 @@ bool takeTime(std::string_view& text, Moment& moment) {
 std::optional<Moment> momentOf(std::string_view text) {
     Moment moment;
     if (text.size() > 2 && text[2] == ':') return takeTime(text, moment) ? std::optional(moment) : std::nullopt;
-    if (!takeNumber(text, 4, moment.year) || !take(text, '-') || !takeNumber(text, 2, moment.month) || !take(text, '-') ||
-        !takeNumber(text, 2, moment.day))
+    if (!takeNumber(text, 4, moment.year) || !take(text, '-') || !takeNumber(text, 2, moment.month) ||
+        !take(text, '-') || !takeNumber(text, 2, moment.day))
         return std::nullopt;
     if (text.empty() || text == midnight) return moment;
     return take(text, 'T') && takeTime(text, moment) ? std::optional(moment) : std::nullopt;
@@ -189,7 +196,8 @@ std::optional<std::vector<std::string>> toInstance(Rebuilding& rebuilding, std::
     if (!takes("IFCCALENDARDATE") && !takes("IFCDATEANDTIME") && !takes("IFCLOCALTIME")) return std::nullopt;
     const auto moment = momentOf(textOf(encoded));
     if (!moment) return std::nullopt;
-    if (moment->year < 0) return takes("IFCLOCALTIME") ? std::optional(std::vector{addTime(rebuilding, *moment)}) : std::nullopt;
+    if (moment->year < 0)
+        return takes("IFCLOCALTIME") ? std::optional(std::vector{addTime(rebuilding, *moment)}) : std::nullopt;
     const bool isDateAlone = moment->hour < 0 && takes("IFCCALENDARDATE");
     if (isDateAlone || !takes("IFCDATEANDTIME"))
         return takes("IFCCALENDARDATE") ? std::optional(std::vector{addDate(rebuilding, *moment)}) : std::nullopt;
@@ -208,7 +216,8 @@ bool isNamed(const sdai::Type& type, std::string_view name) {
 std::optional<std::vector<std::string>> toDuration(Rebuilding&, std::string_view encoded, const sdai::Type& from,
                                                    const sdai::Type& to) {
     double seconds = 0;
-    if (!isNamed(from, "IFCTIMEMEASURE") || !isNamed(to, "IFCDURATION") || !sdai::decodeReal(encoded, seconds) || seconds < 0)
+    if (!isNamed(from, "IFCTIMEMEASURE") || !isNamed(to, "IFCDURATION") || !sdai::decodeReal(encoded, seconds) ||
+        seconds < 0)
         return std::nullopt;
     std::string number = real(seconds);
     if (number.find('E') != std::string::npos) return std::nullopt;
@@ -244,7 +253,8 @@ std::optional<double> secondsOf(std::string_view text) {
     return seconds;
 }
 
-std::optional<std::vector<std::string>> toSeconds(Rebuilding&, std::string_view encoded, const sdai::Type&, const sdai::Type& to) {
+std::optional<std::vector<std::string>> toSeconds(Rebuilding&, std::string_view encoded, const sdai::Type&,
+                                                  const sdai::Type& to) {
     if (!isNamed(to, "IFCTIMEMEASURE") || encoded.empty() || encoded.front() == '#') return std::nullopt;
     const auto seconds = secondsOf(textOf(encoded));
     return seconds ? std::optional(std::vector{real(*seconds)}) : std::nullopt;
@@ -291,8 +301,8 @@ void rebuildTimeControl(Rebuilding& rebuilding) {
 
 Successor keepsTimes(const Releases& releases, DXSdaiAppInstance& task) {
     const sdai::EntityDefinition* same = releases.target.entity("IFCTASK");
-    if (same == nullptr || same->attributeIndex("TASKTIME") >= 0 || releases.target.entity("IFCRELASSIGNSTASKS") == nullptr ||
-        task.GetAttr("TASKTIME").asInstance() == nullptr)
+    if (same == nullptr || same->attributeIndex("TASKTIME") >= 0 ||
+        releases.target.entity("IFCRELASSIGNSTASKS") == nullptr || task.GetAttr("TASKTIME").asInstance() == nullptr)
         return Successor::notHere();
     return Successor::of(releases, "IFCTASK");
 }
@@ -324,20 +334,25 @@ void rebuildTask(Rebuilding& rebuilding) {
     rebuilding.become(record);
 }
 
-constexpr ConversionRule dateText_{"date-to-text", Effect::Rebuilt, "Dates and times become ISO 8601 texts",
-                                   "Releases since IFC4 say them so; a day for which a time is wanted begins at midnight"};
-constexpr ConversionRule textDate{"text-to-date", Effect::Rebuilt, "ISO 8601 texts become dates and times",
-                                  "IFC2X3 has entities for days, times and zones; midnight without a zone stands for the day"};
-constexpr ConversionRule duration{"seconds-to-duration", Effect::Converted, "A time in seconds becomes an ISO 8601 duration",
+constexpr ConversionRule dateText_{
+    "date-to-text", Effect::Rebuilt, "Dates and times become ISO 8601 texts",
+    "Releases since IFC4 say them so; a day for which a time is wanted begins at midnight"};
+constexpr ConversionRule textDate{
+    "text-to-date", Effect::Rebuilt, "ISO 8601 texts become dates and times",
+    "IFC2X3 has entities for days, times and zones; midnight without a zone stands for the day"};
+constexpr ConversionRule duration{"seconds-to-duration", Effect::Converted,
+                                  "A time in seconds becomes an ISO 8601 duration",
                                   "Releases since IFC4 say durations as texts"};
-constexpr ConversionRule seconds{"duration-to-seconds", Effect::Converted, "An ISO 8601 duration becomes a time in seconds",
-                                 "IFC2X3 says durations in the unit of time; years and months have no fixed length and are lost"};
+constexpr ConversionRule seconds{
+    "duration-to-seconds", Effect::Converted, "An ISO 8601 duration becomes a time in seconds",
+    "IFC2X3 says durations in the unit of time; years and months have no fixed length and are lost"};
 constexpr ConversionRule taskTime{"schedule-to-task-time", Effect::Rebuilt,
                                   "The schedule time control of a task becomes its task time",
                                   "Since IFC4 a task has its times itself"};
-constexpr ConversionRule timeControl{"task-time-to-schedule", Effect::Rebuilt,
-                                     "The time of a task becomes a schedule time control, assigned with its work schedule",
-                                     "IFC2X3 has times of tasks for a schedule; those of tasks in none are lost"};
+constexpr ConversionRule timeControl{
+    "task-time-to-schedule", Effect::Rebuilt,
+    "The time of a task becomes a schedule time control, assigned with its work schedule",
+    "IFC2X3 has times of tasks for a schedule; those of tasks in none are lost"};
 
 constexpr RebuildRule rebuilds[] = {
     {dateText_, "IFCCALENDARDATE", absorbDate},
