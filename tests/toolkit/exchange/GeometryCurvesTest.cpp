@@ -395,6 +395,8 @@ TEST(GeometryCurves, ShapesArePlainerWhereThatSaysTheSame) {
         {"cubic-terms", "IFC4X3_RC3", "IFC4X3_ADD2", "IFCTHIRDORDERPOLYNOMIALSPIRAL(#6,3.,2.,$,$)",
          "IFCTHIRDORDERPOLYNOMIALSPIRAL(#6,3.,2.,$,$)"},
         {"unplaced-shapes", "IFC4X3_RC3", "IFC4X3_ADD2", "IFCCLOTHOID($,3.)", "IFCCLOTHOID(#21,3.)"},
+        {"vertical-sections", "IFC4X3_ADD2", "IFC4X3_RC3", "IFCSECTIONEDSOLIDHORIZONTAL(#3,(#5,#5),(#15,#15))",
+         "IFCSECTIONEDSOLIDHORIZONTAL(#3,(#5,#5),(#15,#15),.T.)"},
         {"subfaces", "IFC4", "IFC4X3_RC3", "IFCSUBFACE((#12),#14)", "IFCFACE((#12))"},
     };
     const std::string others =
@@ -403,10 +405,12 @@ TEST(GeometryCurves, ShapesArePlainerWhereThatSaysTheSame) {
         "#8=IFCDIRECTION((0.,0.,1.));#9=IFCAXIS1PLACEMENT(#4,$);#12=IFCFACEOUTERBOUND(#13,.T.);"
         "#13=IFCPOLYLOOP((#4,#19,#17));#14=IFCFACE((#12));#17=IFCCARTESIANPOINT((0.,1.,0.));"
         "#18=IFCCARTESIANPOINT((0.,0.));#19=IFCCARTESIANPOINT((1.,0.,0.));";
+    const std::string places = "#15=IFCAXIS2PLACEMENTLINEAR(#16,$,$);"
+                               "#16=IFCPOINTBYDISTANCEEXPRESSION(IFCLENGTHMEASURE(1.),$,$,$,#3);";
     const std::string list = "#10=IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(1.,0.,0.),(0.,1.,0.))";
     for (const Case& row : cases) {
         std::string text = std::string("#1=") + row.before + ";" + others;
-        if (std::string_view(row.from) == "IFC4X3_ADD2") text += list + ",$);";
+        if (std::string_view(row.from) == "IFC4X3_ADD2") text += places + list + ",$);";
         const auto result = toRelease(row.from, text, row.to);
         EXPECT_EQ(result.record(1), row.after) << row.rule;
         EXPECT_EQ(result.count(row.rule), 1u + (std::string_view(row.rule) == "attribute-renamed" ? 2u : 0u))

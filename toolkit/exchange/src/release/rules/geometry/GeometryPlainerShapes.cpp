@@ -85,15 +85,11 @@ std::uint64_t makeMirror(Rebuilding& rebuilding) {
     return rebuilding.add(record);
 }
 
-std::optional<std::string> mirror(Rebuilding& rebuilding) {
-    return reference(rebuilding.shared("mirror", makeMirror));
-}
-
 void rebuildMirrored(Rebuilding& rebuilding) {
     RecordBuilder record(rebuilding.target(), "IFCDERIVEDPROFILEDEF");
     for (const std::string_view attribute : {"PROFILETYPE", "PROFILENAME", "PARENTPROFILE", "LABEL"})
         record.set(attribute, std::string(rebuilding.encoded(attribute)));
-    record.set("OPERATOR", mirror(rebuilding).value_or(std::string(sdai::omittedValue)));
+    record.set("OPERATOR", reference(rebuilding.shared("mirror", makeMirror)));
     rebuilding.become(record);
 }
 
@@ -183,23 +179,8 @@ std::optional<std::string> originOfSpace(Rebuilding& rebuilding) {
         "placement in space", [](Rebuilding& maker) { return makePlacement(maker, "IFCAXIS2PLACEMENT3D", 3); }));
 }
 
-// An edge's vertex at the start or the end of an oriented edge.
-std::optional<std::string> vertexOf(Rebuilding& rebuilding, bool isStart) {
-    const DXSdaiAppInstance* edge = rebuilding.instance().GetAttr("EDGEELEMENT").asInstance();
-    if (!edge) return std::nullopt;
-    const bool isForward = rebuilding.instance().GetAttr("ORIENTATION").asBoolean().value_or(true);
-    const std::string_view vertex = edge->GetAttr(isForward == isStart ? "EDGESTART" : "EDGEEND").encoded();
-    return vertex.empty() || vertex.front() != '#' ? std::nullopt : std::optional<std::string>(vertex);
-}
-
 constexpr ConversionRule unplaced = {"unplaced-shapes", Effect::Converted, "Shapes without a placement get one",
                                      "What has none stands at the origin, along the axes"};
-constexpr ConversionRule mirrorOperator = {"mirror-operators", Effect::Converted,
-                                           "Mirrored profiles get the operator that they derived",
-                                           "It mirrors at the vertical axis"};
-constexpr ConversionRule edgeVertices = {"edge-vertices", Effect::Converted,
-                                         "Oriented edges get the vertices that they derived",
-                                         "They are those of the edge, as it is passed"};
 constexpr ConversionRule verticalAxis = {"vertical-sections", Effect::Converted,
                                          "Sections along a curve are said to stand vertically",
                                          "Where nothing else is said they do"};
@@ -209,11 +190,6 @@ constexpr DefaultRule defaults[] = {
     {unplaced, "IFCSWEPTAREASOLID", "POSITION", nullptr, originOfSpace},
     {unplaced, "IFCSWEPTSURFACE", "POSITION", nullptr, originOfSpace},
     {unplaced, "IFCSPIRAL", "POSITION", nullptr, originOfPlane},
-    {mirrorOperator, "IFCMIRROREDPROFILEDEF", "OPERATOR", nullptr, mirror},
-    {edgeVertices, "IFCORIENTEDEDGE", "EDGESTART", nullptr,
-     [](Rebuilding& rebuilding) { return vertexOf(rebuilding, true); }},
-    {edgeVertices, "IFCORIENTEDEDGE", "EDGEEND", nullptr,
-     [](Rebuilding& rebuilding) { return vertexOf(rebuilding, false); }},
     {verticalAxis, "IFCSECTIONEDSOLIDHORIZONTAL", "FIXEDAXISVERTICAL", ".T."},
     {verticalAxis, "IFCSECTIONEDSURFACE", "FIXEDAXISVERTICAL", ".T."},
 };
