@@ -194,4 +194,53 @@ TEST(OtherRules, RelatePropertySetsAsTheReleaseDoes) {
     EXPECT_EQ(overriding.count("overriding-set"), 1u);
 }
 
+TEST(OtherRules, SayPropertiesOfMaterialsAndProfilesAsTheReleaseDoes) {
+    const std::string steel =
+        "#1=IFCMATERIAL('steel');#2=IFCMECHANICALSTEELMATERIALPROPERTIES(#1,$,2.1E+11,$,0.3,$,2.35E+08,$,$,$,$,$,$);";
+    const auto forward = toRelease("IFC2X3", owner + steel, "IFC4");
+    EXPECT_THAT(forward.problems(), IsEmpty());
+    EXPECT_EQ(forward.record(2), "IFCMATERIALPROPERTIES('Pset_MaterialSteel',$,(#95,#96,#97),#1)");
+    EXPECT_EQ(forward.record(95), "IFCPROPERTYSINGLEVALUE('YoungModulus',$,IFCMODULUSOFELASTICITYMEASURE(2.1E+11),$)");
+    EXPECT_TRUE(forward.report.isLossless());
+    const auto back = test::convertText(forward.text, [&](const sdai::Model& model, files::OutputFile& output) {
+        ReleaseOptions options;
+        options.release = "IFC2X3";
+        return convertRelease(model, options, output);
+    });
+    EXPECT_EQ(back.record(2), "IFCMECHANICALSTEELMATERIALPROPERTIES(#1,$,2.1E+11,$,0.3,$,2.35E+08,$,$,$,$,$,$)");
+    EXPECT_THAT(back.problems(), IsEmpty());
+
+    const std::string material = "#1=IFCMATERIAL('m',$,$);#3=IFCPROPERTYSINGLEVALUE('Own',$,IFCLABEL('x'),$);";
+    expectRecord("IFC4", material + "#2=IFCMATERIALPROPERTIES('Mine',$,(#3),#1);", "IFC2X3", 2,
+                 "IFCEXTENDEDMATERIALPROPERTIES(#1,(#3),$,'Mine')", "properties-to-attributes");
+    expectRecord("IFC2X3",
+                 "#1=IFCMATERIAL('m');#3=IFCPROPERTYSINGLEVALUE('Own',$,IFCLABEL('x'),$);#2="
+                 "IFCEXTENDEDMATERIALPROPERTIES(#1,(#3),$,'Mine');",
+                 "IFC4", 2, "IFCMATERIALPROPERTIES('Mine',$,(#3),#1)", "attributes-to-properties");
+    expectRecord("IFC2X3", "#1=IFCGENERALPROFILEPROPERTIES('p',$,12.,$,$,$,0.5);", "IFC4", 1,
+                 "IFCPROFILEPROPERTIES('Pset_ProfileMechanical',$,(#96,#97),#95)", "attributes-to-properties");
+    const auto profile = toRelease(
+        "IFC4",
+        owner + "#1=IFCPROFILEDEF(.AREA.,'p');#3=IFCPROPERTYSINGLEVALUE('Perimeter',$,IFCPOSITIVELENGTHMEASURE(2.),$);"
+                "#4=IFCPROPERTYSINGLEVALUE('Own',$,IFCLABEL('x'),$);#2=IFCPROFILEPROPERTIES('Mine',$,(#3,#4),#1);",
+        "IFC2X3");
+    EXPECT_EQ(profile.record(2), "IFCGENERALPROFILEPROPERTIES('p',$,$,2.,$,$,$)");
+    EXPECT_EQ(profile.count("profile-property-lost"), 1u);
+}
+
+TEST(OtherRules, ListTheMaterialsOfProfilesAndConstituents) {
+    const std::string parts = "#1=IFCMATERIAL('a',$,$);#2=IFCMATERIAL('b',$,$);#3=IFCPROFILEDEF(.AREA.,'p');#4="
+                              "IFCMATERIALPROFILE($,$,#1,#3,$,$);"
+                              "#5=IFCMATERIALPROFILE($,$,#2,#3,$,$);#6=IFCMATERIALPROFILESET($,$,(#4,#5),$);#7="
+                              "IFCMATERIALPROFILESETUSAGE(#6,5,$);"
+                              "#8=IFCBEAM(" +
+                              root('A') + ",$,$,$,$,$,$,$);";
+    expectRecord("IFC4", parts + "#9=IFCRELASSOCIATESMATERIAL(" + root('B') + ",$,$,(#8),#7);", "IFC2X3", 9,
+                 "IFCRELASSOCIATESMATERIAL(" + root('B') + ",$,$,(#8),#6)", "materials-to-list");
+    expectRecord("IFC4", parts + "#9=IFCRELASSOCIATESMATERIAL(" + root('B') + ",$,$,(#8),#7);", "IFC2X3", 6,
+                 "IFCMATERIALLIST((#1,#2))", "materials-to-list");
+    expectRecord("IFC4", parts + "#9=IFCRELASSOCIATESMATERIAL(" + root('B') + ",$,$,(#8),#4);", "IFC2X3", 9,
+                 "IFCRELASSOCIATESMATERIAL(" + root('B') + ",$,$,(#8),#1)", "materials-to-list");
+}
+
 } // namespace velkor

@@ -207,5 +207,7 @@ RuleTable elementRules();
 RuleTable styleRules();
 /// Dates, times and durations, and the times of tasks.
 RuleTable timeRules();
+/// Materials, profiles of materials, and properties of materials and profiles.
+RuleTable materialRules();
 
 } // namespace velkor::exchange

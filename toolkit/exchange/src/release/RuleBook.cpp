@@ -101,7 +101,7 @@ constexpr const ConversionRule* general[] = {&entityMapped,     &entityRenamed, 
 
 RuleBook::Tables RuleBook::tables() {
     return {geometryRules(), forwardRules(), backwardRules(), requiredValueRules(),
-            elementRules(),  styleRules(),   timeRules()};
+            elementRules(),  styleRules(),   timeRules(),     materialRules()};
 }
 
 RuleBook::RuleBook(const Releases&) {

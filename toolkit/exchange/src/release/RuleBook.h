@@ -36,7 +36,7 @@ public:
     static std::vector<const ConversionRule*> all();
 
 private:
-    using Tables = std::array<RuleTable, 7>;
+    using Tables = std::array<RuleTable, 8>;
     static Tables tables();
 
     const Tables _tables = tables();
