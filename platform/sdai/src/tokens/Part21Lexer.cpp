@@ -8,6 +8,17 @@ namespace velkor::sdai {
 
 using namespace part21;
 
+namespace {
+
+/// What a look for references stops at.
+constexpr std::array<bool, 256> isReferenceStop = [] {
+    std::array<bool, 256> stops{};
+    for (const char c : {'#', '\'', '/', ';'}) stops[static_cast<unsigned char>(c)] = true;
+    return stops;
+}();
+
+} // namespace
+
 Token Part21Lexer::next() noexcept {
     skipSeparators();
     if (_next == _end) return {TokenKind::End, {_next, static_cast<std::size_t>(_end - _next)}};
@@ -71,6 +82,21 @@ bool Part21Lexer::skipParameter() noexcept {
         ++_next;
     }
     return false;
+}
+
+Token Part21Lexer::nextReference() noexcept {
+    for (;;) {
+        while (_next != _end && !isReferenceStop[static_cast<unsigned char>(*_next)]) ++_next;
+        if (_next == _end || *_next == ';') return {TokenKind::End, {_next, 0}};
+        if (*_next == '#') {
+            const Token name = next();
+            if (name.kind == TokenKind::InstanceName) return name;
+        } else if (*_next == '\'') {
+            string();
+        } else if (!skipComment()) {
+            ++_next;
+        }
+    }
 }
 
 void Part21Lexer::skipSeparators() noexcept {

@@ -58,6 +58,10 @@ public:
     /// reading it closely. False when the text or the statement (";") ends first.
     bool skipParameter() noexcept;
 
+    /// The next instance name, whatever stands before it, strings and comments passed over without being read closely.
+    /// An End token when the text or the statement (";") ends first.
+    Token nextReference() noexcept;
+
 private:
     VELKOR_PLATFORM_LOCAL void skipSeparators() noexcept;
     VELKOR_PLATFORM_LOCAL bool skipComment() noexcept;

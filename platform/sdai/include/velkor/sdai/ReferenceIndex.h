@@ -2,6 +2,8 @@
 ///
 ///     const ReferenceIndex index(*file);
 ///     for (const std::uint32_t user : index.users(number)) use(file->id(user));
+///
+/// What one instance refers to, Part21Lexer::nextReference() finds without an index.
 #pragma once
 
 #include "velkor/PlatformExport.h"
