@@ -208,7 +208,7 @@ std::any& Planning::remembered(std::uint64_t id) {
 
 bool Planning::affords(std::uint64_t bytes) {
     // A file of some lines may say much; one that fills a disk from a few is none that anybody means.
-    constexpr std::uint64_t base = 16U << 20U;
+    constexpr std::uint64_t base = 4U << 20U;
     constexpr std::uint64_t multiple = 32;
     const std::uint64_t limit = base + multiple * _plan._model.file().text().size();
     if (bytes > limit - _plan._granted) return false;
