@@ -1,4 +1,4 @@
-/// What the step for properties does, as rules that a report names.
+/// What the step of properties does, and why.
 #pragma once
 
 #include "velkor/exchange/ConversionReport.h"
@@ -7,17 +7,15 @@
 
 namespace velkor::exchange {
 
-namespace propertyrule {
-
+extern const ConversionRule customName;
+extern const ConversionRule plmAttribute;
+extern const ConversionRule valueToQuantity;
 extern const ConversionRule setRenamed;
-extern const ConversionRule setDivided;
-extern const ConversionRule setCopied;
-extern const ConversionRule setJoined;
-extern const ConversionRule propertyRenamed;
+extern const ConversionRule setAdded;
+extern const ConversionRule setSplit;
+extern const ConversionRule setEmptied;
+extern const ConversionRule mappingRefused;
 
-} // namespace propertyrule
-
-/// All of them, in the order of a report.
 std::span<const ConversionRule* const> propertyRules();
 
 } // namespace velkor::exchange
