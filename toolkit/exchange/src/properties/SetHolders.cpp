@@ -32,6 +32,12 @@ SetHolders::SetHolders(const sdai::Model& model) : _model(model), _timesUsed(mod
                    [&](std::uint32_t object) { relationship.objects.push_back(object); });
         sortOnce(relationship.sets);
         sortOnce(relationship.objects);
+        // Many sets times many objects would be more than the text that says so.
+        const std::size_t mostPairs = 1024 + 16 * (relationship.sets.size() + relationship.objects.size());
+        if (relationship.sets.size() * relationship.objects.size() > mostPairs && relationship.sets.size() > 1) {
+            _unmapped.insert(relationship.sets.begin(), relationship.sets.end());
+            continue;
+        }
         for (const std::uint32_t set : relationship.sets)
             _uses[set].relationships.push_back(static_cast<std::uint32_t>(_relationships.size()));
         _relationships.push_back(std::move(relationship));
@@ -60,7 +66,7 @@ void SetHolders::countMembers() {
 
 const SetUse* SetHolders::use(std::uint32_t set) const {
     const auto found = _uses.find(set);
-    return found == _uses.end() ? nullptr : &found->second;
+    return found == _uses.end() || _unmapped.contains(set) ? nullptr : &found->second;
 }
 
 bool SetHolders::isReferredTo(std::uint32_t number) {

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace velkor::exchange {
@@ -37,7 +38,7 @@ public:
     explicit SetHolders(const sdai::Model& model);
 
     const std::vector<SetRelationship>& relationships() const noexcept { return _relationships; }
-    /// Null for a set that nobody has.
+    /// Null for a set that nobody has, and for one that relationships of very many sets and objects bring.
     const SetUse* use(std::uint32_t set) const;
     /// How many sets a property or quantity is in; more than two count as two.
     bool isShared(std::uint32_t property) const { return _timesUsed[property] > 1; }
@@ -50,6 +51,7 @@ private:
     const sdai::Model& _model;
     std::vector<SetRelationship> _relationships;
     std::unordered_map<std::uint32_t, SetUse> _uses;
+    std::unordered_set<std::uint32_t> _unmapped;
     std::vector<std::uint8_t> _timesUsed;
     std::vector<bool> _isReferredTo;
 };
