@@ -255,6 +255,7 @@ void ReleaseRewriter::keepTexts(const EntityPlan& plan, std::vector<std::string>
         if (type != nullptr && type->position("NOTDEFINED") >= 0) values[slot] = exchange::enumerator("NOTDEFINED");
     }
     _userDefined.clear();
+    keepPredefinedType(plan, values);
     // What another attribute said of a user-defined type.
     for (const std::size_t place : plan.dropped) {
         if (!plan.source->attributes()[place].attribute->name().starts_with("USERDEFINED") || plan.userText < 0)
@@ -291,6 +292,24 @@ void ReleaseRewriter::noteDropped(const EntityPlan& plan, const std::vector<std:
         if (isUnset(value) || value == ".NOTDEFINED." || isAsked(attribute)) continue;
         if (std::ranges::find(values, value) != values.end() && attribute.starts_with("USERDEFINED")) continue;
         note(rules::noAttribute, [&] { return words(attribute, " ", value); });
+    }
+}
+
+/// A predefined type that only types have in the target is said by the text of a user-defined one.
+void ReleaseRewriter::keepPredefinedType(const EntityPlan& plan, std::vector<std::string>& values) {
+    // What became another entity is called what it was.
+    if (plan.userText < 0 || plan.source->name() != plan.target->name()) return;
+    std::string& text = values[static_cast<std::size_t>(plan.userText)];
+    for (const std::size_t place : plan.dropped) {
+        const std::string_view value = _record.parameters[place];
+        const std::string_view attribute = plan.source->attributes()[place].attribute->name();
+        if (attribute != "PREDEFINEDTYPE" || !value.starts_with('.') || value == ".NOTDEFINED.") continue;
+        if (isUnset(text) == (value == ".USERDEFINED.")) continue;
+        if (isUnset(text)) {
+            text = literal(value.substr(1, value.size() - 2));
+            note(rules::enumeratorAsText, [&] { return text; });
+        }
+        _asked.push_back(attribute);
     }
 }
 

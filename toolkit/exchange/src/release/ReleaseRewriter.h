@@ -103,6 +103,7 @@ private:
     std::string* userText(const EntityPlan& plan, std::size_t slot, std::vector<std::string>& values) const;
     void keepTexts(const EntityPlan& plan, std::vector<std::string>& values);
     void noteDropped(const EntityPlan& plan, const std::vector<std::string>& values);
+    void keepPredefinedType(const EntityPlan& plan, std::vector<std::string>& values);
     bool isAsked(std::string_view attribute) const;
     void noteLoss(const EntityPlan::Slot& slot, std::string_view value);
     ReleasePlan& _plan;

@@ -7,8 +7,4 @@ RuleTable forwardRules() {
     return {};
 }
 
-RuleTable backwardRules() {
-    return {};
-}
-
 } // namespace velkor::exchange

@@ -31,7 +31,8 @@ constexpr PropertyEntity propertyEntities[] = {
     {"IFCMECHANICALCONCRETEMATERIALPROPERTIES",
      "Pset_MaterialConcrete",
      {"CompressiveStrength", "MaxAggregateSize", "AdmixturesDescription", "Workability", "ProtectivePoreRatio",
-      "WaterImpermeability", "DynamicViscosity", "YoungModulus", "ShearModulus", "PoissonRatio", "ThermalExpansionCoefficient"}},
+      "WaterImpermeability", "DynamicViscosity", "YoungModulus", "ShearModulus", "PoissonRatio",
+      "ThermalExpansionCoefficient"}},
     {"IFCTHERMALMATERIALPROPERTIES",
      "Pset_MaterialThermal",
      {"SpecificHeatCapacity", "BoilingPoint", "FreezingPoint", "ThermalConductivity"}},
@@ -55,16 +56,37 @@ constexpr PropertyEntity propertyEntities[] = {
     {"IFCPRODUCTSOFCOMBUSTIONPROPERTIES",
      "Pset_MaterialCombustion",
      {"SpecificHeatCapacity", "N20Content", "COContent", "CO2Content"}},
-    {"IFCRIBPLATEPROFILEPROPERTIES", "Pset_ProfileRibPlate", {"Thickness", "RibHeight", "RibWidth", "RibSpacing", "Direction"}},
+    {"IFCRIBPLATEPROFILEPROPERTIES",
+     "Pset_ProfileRibPlate",
+     {"Thickness", "RibHeight", "RibWidth", "RibSpacing", "Direction"}},
 };
 
 /// Those of structural profiles are more than others have.
-constexpr std::string_view profileNames[] = {
-    "PhysicalWeight", "Perimeter", "MinimumPlateThickness", "MaximumPlateThickness", "CrossSectionArea", "TorsionalConstantX",
-    "MomentOfInertiaYZ", "MomentOfInertiaY", "MomentOfInertiaZ", "WarpingConstant", "ShearCentreZ", "ShearCentreY",
-    "ShearDeformationAreaZ", "ShearDeformationAreaY", "MaximumSectionModulusY", "MinimumSectionModulusY",
-    "MaximumSectionModulusZ", "MinimumSectionModulusZ", "TorsionalSectionModulus", "CentreOfGravityInX", "CentreOfGravityInY",
-    "ShearAreaZ", "ShearAreaY", "PlasticShapeFactorY", "PlasticShapeFactorZ"};
+constexpr std::string_view profileNames[] = {"PhysicalWeight",
+                                             "Perimeter",
+                                             "MinimumPlateThickness",
+                                             "MaximumPlateThickness",
+                                             "CrossSectionArea",
+                                             "TorsionalConstantX",
+                                             "MomentOfInertiaYZ",
+                                             "MomentOfInertiaY",
+                                             "MomentOfInertiaZ",
+                                             "WarpingConstant",
+                                             "ShearCentreZ",
+                                             "ShearCentreY",
+                                             "ShearDeformationAreaZ",
+                                             "ShearDeformationAreaY",
+                                             "MaximumSectionModulusY",
+                                             "MinimumSectionModulusY",
+                                             "MaximumSectionModulusZ",
+                                             "MinimumSectionModulusZ",
+                                             "TorsionalSectionModulus",
+                                             "CentreOfGravityInX",
+                                             "CentreOfGravityInY",
+                                             "ShearAreaZ",
+                                             "ShearAreaY",
+                                             "PlasticShapeFactorY",
+                                             "PlasticShapeFactorZ"};
 constexpr std::string_view profileSet = "Pset_ProfileMechanical";
 
 const PropertyEntity* rowOf(std::string_view entity) {
@@ -86,14 +108,20 @@ std::string_view propertyName(const sdai::EntityDefinition& entity, std::string_
 
 /// A value of an attribute with its type before it.
 std::string typedAs(const sdai::Type& type, std::string_view encoded) {
-    if (type.resolved().asEnumeration() != nullptr) return typed("IFCLABEL", literal(encoded.substr(1, encoded.size() - 2)));
+    if (type.resolved().asEnumeration() != nullptr)
+        return typed("IFCLABEL", literal(encoded.substr(1, encoded.size() - 2)));
     if (type.asDefined() != nullptr) return typed(type.asDefined()->name(), encoded);
     switch (type.kind()) {
-    case sdai::TypeKind::Boolean: return typed("IFCBOOLEAN", encoded);
-    case sdai::TypeKind::Logical: return typed("IFCLOGICAL", encoded);
-    case sdai::TypeKind::Integer: return typed("IFCINTEGER", encoded);
-    case sdai::TypeKind::Real: return typed("IFCREAL", encoded);
-    default: return typed("IFCTEXT", encoded);
+    case sdai::TypeKind::Boolean:
+        return typed("IFCBOOLEAN", encoded);
+    case sdai::TypeKind::Logical:
+        return typed("IFCLOGICAL", encoded);
+    case sdai::TypeKind::Integer:
+        return typed("IFCINTEGER", encoded);
+    case sdai::TypeKind::Real:
+        return typed("IFCREAL", encoded);
+    default:
+        return typed("IFCTEXT", encoded);
     }
 }
 
@@ -125,7 +153,8 @@ void rebuildAsSet(Rebuilding& rebuilding, std::string_view entity, std::string_v
 
 void rebuildMaterialProperties(Rebuilding& rebuilding) {
     const PropertyEntity* row = rowOf(rebuilding.entity().name());
-    rebuildAsSet(rebuilding, "IFCMATERIALPROPERTIES", row != nullptr ? row->set : std::string_view("Pset_MaterialCommon"));
+    rebuildAsSet(rebuilding, "IFCMATERIALPROPERTIES",
+                 row != nullptr ? row->set : std::string_view("Pset_MaterialCommon"));
 }
 
 void rebuildProfileProperties(Rebuilding& rebuilding) {
@@ -139,8 +168,9 @@ void rebuildExtended(Rebuilding& rebuilding) {
     rebuilding.become(record);
 }
 
-constexpr ConversionRule otherProperty{"profile-property-lost", Effect::Lost, "A property of a profile is dropped that IFC2X3 has no attribute for",
-                                      "Its entities for profiles have attributes, and no list of properties"};
+constexpr ConversionRule otherProperty{"profile-property-lost", Effect::Lost,
+                                       "A property of a profile is dropped that IFC2X3 has no attribute for",
+                                       "Its entities for profiles have attributes, and no list of properties"};
 
 /// The entities of the target that may say a set, the plainest first.
 std::vector<const sdai::EntityDefinition*> candidates(const Releases& releases, std::string_view set, bool isProfile) {
@@ -148,7 +178,8 @@ std::vector<const sdai::EntityDefinition*> candidates(const Releases& releases, 
     for (const PropertyEntity& row : propertyEntities)
         if (row.set == set) result.push_back(releases.target.entity(row.entity));
     if (isProfile)
-        for (const char* name : {"IFCGENERALPROFILEPROPERTIES", "IFCSTRUCTURALPROFILEPROPERTIES", "IFCSTRUCTURALSTEELPROFILEPROPERTIES"})
+        for (const char* name :
+             {"IFCGENERALPROFILEPROPERTIES", "IFCSTRUCTURALPROFILEPROPERTIES", "IFCSTRUCTURALSTEELPROFILEPROPERTIES"})
             result.push_back(releases.target.entity(name));
     std::erase(result, nullptr);
     return result;
@@ -167,8 +198,10 @@ int attributeFor(const sdai::EntityDefinition& entity, const DXSdaiAppInstance& 
     return value.starts_with(keyword) && value.size() > keyword.size() && value[keyword.size()] == '(' ? place : -1;
 }
 
-const sdai::EntityDefinition* exactEntity(const Releases& releases, const DXSdaiAppInstance& properties, bool isProfile) {
-    for (const sdai::EntityDefinition* entity : candidates(releases, properties.GetAttr("NAME").asString(), isProfile)) {
+const sdai::EntityDefinition* exactEntity(const Releases& releases, const DXSdaiAppInstance& properties,
+                                          bool isProfile) {
+    for (const sdai::EntityDefinition* entity :
+         candidates(releases, properties.GetAttr("NAME").asString(), isProfile)) {
         bool isExact = true;
         for (const sdai::Primitive member : properties.GetAttr("PROPERTIES").asAggregate()) {
             const DXSdaiAppInstance* property = member.asInstance();
@@ -187,7 +220,8 @@ bool hasOwnProperties(const Releases& releases, std::string_view entity) {
 Successor becomesMaterialEntity(const Releases& releases, DXSdaiAppInstance& properties) {
     if (hasOwnProperties(releases, "IFCMATERIALPROPERTIES")) return Successor::notHere();
     const auto* exact = exactEntity(releases, properties, false);
-    return exact != nullptr ? Successor::of(releases, exact->name()) : Successor::of(releases, "IFCEXTENDEDMATERIALPROPERTIES");
+    return exact != nullptr ? Successor::of(releases, exact->name())
+                            : Successor::of(releases, "IFCEXTENDEDMATERIALPROPERTIES");
 }
 
 Successor becomesProfileEntity(const Releases& releases, DXSdaiAppInstance& properties) {
@@ -201,8 +235,10 @@ void rebuildEntity(Rebuilding& rebuilding) {
     RecordBuilder record = rebuilding.carried(*entity);
     if (record.set("EXTENDEDPROPERTIES", std::string(sdai::omittedValue))) {
         const sdai::EntityDefinition& source = rebuilding.entity();
-        const auto& from = source.attributes()[static_cast<std::size_t>(source.attributeIndex("PROPERTIES"))].attribute->type();
-        const auto& to = entity->attributes()[static_cast<std::size_t>(entity->attributeIndex("EXTENDEDPROPERTIES"))].attribute->type();
+        const auto& from =
+            source.attributes()[static_cast<std::size_t>(source.attributeIndex("PROPERTIES"))].attribute->type();
+        const auto& to = entity->attributes()[static_cast<std::size_t>(entity->attributeIndex("EXTENDEDPROPERTIES"))]
+                             .attribute->type();
         if (auto translated = rebuilding.translated(rebuilding.encoded("PROPERTIES"), from, to))
             record.set("EXTENDEDPROPERTIES", std::move(*translated));
         return rebuilding.become(record);
@@ -238,7 +274,8 @@ void rebuildList(Rebuilding& rebuilding) {
         if (rebuilding.entity().attributeIndex(attribute) < 0) continue;
         eachNumber(rebuilding.source().file(), rebuilding.encoded(attribute), [&](std::uint32_t member) {
             const std::string material(parameterOf(rebuilding.source(), member, "MATERIAL"));
-            if (material.starts_with('#') && std::ranges::find(materials, material) == materials.end()) materials.push_back(material);
+            if (material.starts_with('#') && std::ranges::find(materials, material) == materials.end())
+                materials.push_back(material);
         });
     }
     RecordBuilder record(rebuilding.target(), "IFCMATERIALLIST");
@@ -256,8 +293,9 @@ std::optional<std::vector<std::string>> toMaterial(Rebuilding& rebuilding, std::
     const sdai::EntityDefinition* entity = number ? rebuilding.source().entityAt(*number) : nullptr;
     if (entity == nullptr) return std::nullopt;
     const char* attribute = entity->isKindOf("IFCMATERIALPROFILESETUSAGE") ? "FORPROFILESET"
-                            : entity->isKindOf("IFCMATERIALPROFILE") || entity->isKindOf("IFCMATERIALCONSTITUENT") ? "MATERIAL"
-                                                                                                                  : nullptr;
+                            : entity->isKindOf("IFCMATERIALPROFILE") || entity->isKindOf("IFCMATERIALCONSTITUENT")
+                                ? "MATERIAL"
+                                : nullptr;
     if (attribute == nullptr) return std::nullopt;
     const std::string_view used = parameterOf(rebuilding.source(), *number, attribute);
     const sdai::EntityDefinition* successor = rebuilding.successorOf(sdai::decodeInstanceName(used));
@@ -269,11 +307,13 @@ std::optional<std::vector<std::string>> toMaterial(Rebuilding& rebuilding, std::
 constexpr ConversionRule asSet{"attributes-to-properties", Effect::Rebuilt,
                                "Properties of materials and profiles that are attributes become properties of a set",
                                "Since IFC4 they are named by the published property sets"};
-constexpr ConversionRule asAttributes{"properties-to-attributes", Effect::Rebuilt,
-                                      "Properties of materials and profiles become attributes where the published sets say of which entity, "
-                                      "other materials have extended properties",
-                                      "IFC2X3 has an entity for each of the sets"};
-constexpr ConversionRule asList{"materials-to-list", Effect::Rebuilt, "A set of material profiles or constituents becomes the list of its materials",
+constexpr ConversionRule asAttributes{
+    "properties-to-attributes", Effect::Rebuilt,
+    "Properties of materials and profiles become attributes where the published sets say of which entity, "
+    "other materials have extended properties",
+    "IFC2X3 has an entity for each of the sets"};
+constexpr ConversionRule asList{"materials-to-list", Effect::Rebuilt,
+                                "A set of material profiles or constituents becomes the list of its materials",
                                 "IFC2X3 knows layers and lists; which part has which material is lost with the set"};
 
 constexpr RebuildRule rebuilds[] = {

@@ -2,13 +2,14 @@
 #include "identifiers/DerivedIdentifier.h"
 #include "RecordText.h"
 #include "release/Rebuilding.h"
+#include "release/rules/IsoTimes.h"
 
 #include "velkor/sdai/Part21Encoding.h"
 #include "velkor/sdai/Part21Lexer.h"
+#include "velkor/units/UnitReport.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
+#include <cstdlib>
 
 namespace velkor::exchange {
 
@@ -110,75 +111,25 @@ std::optional<std::vector<std::string>> toText(Rebuilding& rebuilding, std::stri
     return std::vector{literal(text)};
 }
 
-/// What an ISO 8601 text says; -1 where it says nothing.
-struct Moment {
-    int year = -1, month = -1, day = -1;
-    int hour = -1, minute = 0;
-    double second = 0;
-    bool hasZone = false;
-    int zoneHour = 0, zoneMinute = 0;
-    bool isBehind = false;
-};
-
-bool takeNumber(std::string_view& text, std::size_t width, int& value) {
-    if (text.size() < width) return false;
-    const auto read = std::from_chars(text.data(), text.data() + width, value);
-    if (read.ec != std::errc() || read.ptr != text.data() + width || value < 0) return false;
-    text.remove_prefix(width);
-    return true;
-}
-
-bool take(std::string_view& text, char c) {
-    if (text.empty() || text.front() != c) return false;
-    text.remove_prefix(1);
-    return true;
-}
-
-bool takeTime(std::string_view& text, Moment& moment) {
-    if (!takeNumber(text, 2, moment.hour) || !take(text, ':') || !takeNumber(text, 2, moment.minute)) return false;
-    if (take(text, ':')) {
-        const auto read =
-            std::from_chars(text.data(), text.data() + text.size(), moment.second, std::chars_format::fixed);
-        if (read.ec != std::errc()) return false;
-        text.remove_prefix(static_cast<std::size_t>(read.ptr - text.data()));
-    }
-    moment.hasZone = !text.empty();
-    if (take(text, 'Z') || text.empty()) return text.empty();
-    moment.isBehind = text.front() == '-';
-    if (!take(text, '-') && !take(text, '+')) return false;
-    if (!takeNumber(text, 2, moment.zoneHour)) return false;
-    take(text, ':');
-    return (text.empty() || takeNumber(text, 2, moment.zoneMinute)) && text.empty();
-}
-
-std::optional<Moment> momentOf(std::string_view text) {
-    Moment moment;
-    if (text.size() > 2 && text[2] == ':') return takeTime(text, moment) ? std::optional(moment) : std::nullopt;
-    if (!takeNumber(text, 4, moment.year) || !take(text, '-') || !takeNumber(text, 2, moment.month) ||
-        !take(text, '-') || !takeNumber(text, 2, moment.day))
-        return std::nullopt;
-    if (text.empty() || text == midnight) return moment;
-    return take(text, 'T') && takeTime(text, moment) ? std::optional(moment) : std::nullopt;
-}
-
-std::string addDate(Rebuilding& rebuilding, const Moment& moment) {
+std::string addDate(Rebuilding& rebuilding, const IsoTime& time) {
     RecordBuilder record(rebuilding.target(), "IFCCALENDARDATE");
-    record.set("DAYCOMPONENT", integer(moment.day));
-    record.set("MONTHCOMPONENT", integer(moment.month));
-    record.set("YEARCOMPONENT", integer(moment.year));
+    record.set("DAYCOMPONENT", integer(time.day));
+    record.set("MONTHCOMPONENT", integer(time.month));
+    record.set("YEARCOMPONENT", integer(time.year));
     return reference(rebuilding.add(record));
 }
 
-std::string addTime(Rebuilding& rebuilding, const Moment& moment) {
+std::string addTime(Rebuilding& rebuilding, const IsoTime& time) {
     RecordBuilder record(rebuilding.target(), "IFCLOCALTIME");
-    record.set("HOURCOMPONENT", integer(moment.hour));
-    record.set("MINUTECOMPONENT", integer(moment.minute));
-    record.set("SECONDCOMPONENT", real(moment.second));
-    if (moment.hasZone) {
+    record.set("HOURCOMPONENT", integer(time.hour));
+    record.set("MINUTECOMPONENT", integer(time.minute));
+    record.set("SECONDCOMPONENT", real(time.second));
+    if (time.zone) {
+        const int minutes = std::abs(*time.zone);
         RecordBuilder zone(rebuilding.target(), "IFCCOORDINATEDUNIVERSALTIMEOFFSET");
-        zone.set("HOUROFFSET", integer(moment.zoneHour));
-        zone.set("MINUTEOFFSET", integer(moment.zoneMinute));
-        zone.set("SENSE", enumerator(moment.isBehind ? "BEHIND" : "AHEAD"));
+        zone.set("HOUROFFSET", integer(minutes / 60));
+        zone.set("MINUTEOFFSET", integer(minutes % 60));
+        zone.set("SENSE", enumerator(*time.zone < 0 ? "BEHIND" : "AHEAD"));
         record.set("ZONE", reference(rebuilding.add(zone)));
     }
     return reference(rebuilding.add(record));
@@ -194,18 +145,19 @@ std::optional<std::vector<std::string>> toInstance(Rebuilding& rebuilding, std::
         return type.asEntity() == entity || (type.asSelect() != nullptr && type.asSelect()->accepts(*entity));
     };
     if (!takes("IFCCALENDARDATE") && !takes("IFCDATEANDTIME") && !takes("IFCLOCALTIME")) return std::nullopt;
-    const auto moment = momentOf(textOf(encoded));
-    if (!moment) return std::nullopt;
-    if (moment->year < 0)
-        return takes("IFCLOCALTIME") ? std::optional(std::vector{addTime(rebuilding, *moment)}) : std::nullopt;
-    const bool isDateAlone = moment->hour < 0 && takes("IFCCALENDARDATE");
-    if (isDateAlone || !takes("IFCDATEANDTIME"))
-        return takes("IFCCALENDARDATE") ? std::optional(std::vector{addDate(rebuilding, *moment)}) : std::nullopt;
-    Moment whole = *moment;
-    whole.hour = std::max(whole.hour, 0);
+    const std::string text = textOf(encoded);
+    const auto time = IsoTime::read(text);
+    if (!time) return std::nullopt;
+    if (!time->hasDate)
+        return takes("IFCLOCALTIME") ? std::optional(std::vector{addTime(rebuilding, *time)}) : std::nullopt;
+    // So a day is said where a time is wanted too.
+    const bool isDateAlone = !time->hasTime || text.ends_with(midnight);
+    if (takes("IFCCALENDARDATE") && (isDateAlone || !takes("IFCDATEANDTIME")))
+        return std::vector{addDate(rebuilding, *time)};
+    if (!takes("IFCDATEANDTIME")) return std::nullopt;
     RecordBuilder record(target, "IFCDATEANDTIME");
-    record.set("DATECOMPONENT", addDate(rebuilding, whole));
-    record.set("TIMECOMPONENT", addTime(rebuilding, whole));
+    record.set("DATECOMPONENT", addDate(rebuilding, *time));
+    record.set("TIMECOMPONENT", addTime(rebuilding, *time));
     return std::vector{reference(rebuilding.add(record))};
 }
 
@@ -213,51 +165,52 @@ bool isNamed(const sdai::Type& type, std::string_view name) {
     return type.asDefined() != nullptr && type.asDefined()->name() == name;
 }
 
-std::optional<std::vector<std::string>> toDuration(Rebuilding&, std::string_view encoded, const sdai::Type& from,
-                                                   const sdai::Type& to) {
-    double seconds = 0;
-    if (!isNamed(from, "IFCTIMEMEASURE") || !isNamed(to, "IFCDURATION") || !sdai::decodeReal(encoded, seconds) ||
-        seconds < 0)
+/// Seconds in the project's unit of time.
+double timeUnit(Rebuilding& rebuilding) {
+    // What the model as a whole has is remembered under an id that no instance has.
+    std::any& known = rebuilding.remembered(0);
+    if (const double* factor = std::any_cast<double>(&known)) return *factor;
+    const UnitReport report = unitReport(rebuilding.source());
+    const UnitReport::Unit* unit = report.inForce("TIMEUNIT");
+    const double factor = unit != nullptr && unit->factor > 0. ? unit->factor : 1.;
+    known = factor;
+    return factor;
+}
+
+std::optional<std::vector<std::string>> toDuration(Rebuilding& rebuilding, std::string_view encoded,
+                                                   const sdai::Type& from, const sdai::Type& to) {
+    double measure = 0;
+    if (!isNamed(from, "IFCTIMEMEASURE") || !isNamed(to, "IFCDURATION") || !sdai::decodeReal(encoded, measure) ||
+        measure < 0)
         return std::nullopt;
-    std::string number = real(seconds);
+    std::string number = real(measure * timeUnit(rebuilding));
     if (number.find('E') != std::string::npos) return std::nullopt;
     if (number.back() == '.') number.pop_back();
     return std::vector{literal("PT" + number + "S")};
 }
 
-/// Seconds of a duration without years and months, which have no fixed length.
-std::optional<double> secondsOf(std::string_view text) {
-    if (!take(text, 'P')) return std::nullopt;
-    double seconds = 0;
-    bool isTime = false;
-    while (!text.empty()) {
-        if (take(text, 'T')) {
-            isTime = true;
-            continue;
-        }
-        double value = 0;
-        const auto read = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
-        if (read.ec != std::errc() || read.ptr == text.data() + text.size() || value < 0) return std::nullopt;
-        constexpr std::pair<char, double> days[] = {{'W', 604800}, {'D', 86400}};
-        constexpr std::pair<char, double> times[] = {{'H', 3600}, {'M', 60}, {'S', 1}};
-        double factor = 0;
-        if (isTime) {
-            for (const auto& [unit, worth] : times) factor = *read.ptr == unit ? worth : factor;
-        } else {
-            for (const auto& [unit, worth] : days) factor = *read.ptr == unit ? worth : factor;
-        }
-        if (factor == 0) return std::nullopt;
-        seconds += value * factor;
-        text.remove_prefix(static_cast<std::size_t>(read.ptr - text.data()) + 1);
+std::optional<std::vector<std::string>> toMeasure(Rebuilding& rebuilding, std::string_view encoded, const sdai::Type&,
+                                                  const sdai::Type& to) {
+    if (!isNamed(to, "IFCTIMEMEASURE") || encoded.empty()) return std::nullopt;
+    std::string text;
+    if (const std::uint64_t id = sdai::decodeInstanceName(encoded); id != 0) {
+        const auto number = rebuilding.source().file().find(id);
+        const sdai::EntityDefinition* entity = number ? rebuilding.source().entityAt(*number) : nullptr;
+        if (entity == nullptr || entity->name() != "IFCLAGTIME") return std::nullopt;
+        const std::string_view lag = parameterOf(rebuilding.source(), *number, "LAGVALUE");
+        if (!lag.starts_with("IFCDURATION")) return std::nullopt;
+        text = textOf(lag);
+    } else {
+        text = textOf(encoded);
     }
-    return seconds;
+    const auto seconds = isoDuration(text);
+    return seconds ? std::optional(std::vector{real(*seconds / timeUnit(rebuilding))}) : std::nullopt;
 }
 
-std::optional<std::vector<std::string>> toSeconds(Rebuilding&, std::string_view encoded, const sdai::Type&,
-                                                  const sdai::Type& to) {
-    if (!isNamed(to, "IFCTIMEMEASURE") || encoded.empty() || encoded.front() == '#') return std::nullopt;
-    const auto seconds = secondsOf(textOf(encoded));
-    return seconds ? std::optional(std::vector{real(*seconds)}) : std::nullopt;
+Successor absorbLag(const Releases& releases, DXSdaiAppInstance& time) {
+    if (releases.target.entity("IFCLAGTIME") != nullptr) return Successor::notHere();
+    const std::string_view lag = time.GetAttr("LAGVALUE").encoded();
+    return lag.starts_with("IFCDURATION") && isoDuration(textOf(lag)) ? Successor::absorbed() : Successor::lost();
 }
 
 // The control that holds the times of a task of IFC2X3 is what later releases call the time of the task.
@@ -359,6 +312,7 @@ constexpr RebuildRule rebuilds[] = {
     {dateText_, "IFCLOCALTIME", absorbDate},
     {dateText_, "IFCDATEANDTIME", absorbDate},
     {dateText_, "IFCCOORDINATEDUNIVERSALTIMEOFFSET", absorbDate},
+    {seconds, "IFCLAGTIME", absorbLag},
     {taskTime, "IFCSCHEDULETIMECONTROL", becomesTaskTime, nullptr, rebuildTaskTime},
     {taskTime, "IFCRELASSIGNSTASKS", becomesControl, giveTimes, rebuildAssignment},
     {timeControl, "IFCTASKTIME", becomesTimeControl, nullptr, rebuildTimeControl},
@@ -369,7 +323,7 @@ constexpr ValueRule values[] = {
     {dateText_, toText},
     {textDate, toInstance},
     {duration, toDuration},
-    {seconds, toSeconds},
+    {seconds, toMeasure},
 };
 
 } // namespace
