@@ -83,7 +83,27 @@ void toIfc4(benchmark::State& state) {
     });
 }
 
+void toMillimetre(benchmark::State& state) {
+    measure(state, [](const Model& model, files::OutputFile& output) {
+        UnitOptions options;
+        options.units = {{"LENGTHUNIT", "MILLIMETRE"}};
+        return convertUnits(model, options, output);
+    });
+}
+
+/// Two steps, with a file between them.
+void toIfc4InMillimetre(benchmark::State& state) {
+    measure(state, [](const Model& model, files::OutputFile& output) {
+        ConversionOptions options;
+        options.release.emplace().release = "IFC4";
+        options.units.emplace().units = {{"LENGTHUNIT", "MILLIMETRE"}};
+        return convertModel(model, options, output);
+    });
+}
+
 } // namespace
 
 BENCHMARK(open)->Arg(110)->Arg(11)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(toIfc4)->Arg(110)->Arg(11)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(toMillimetre)->Arg(110)->Arg(11)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(toIfc4InMillimetre)->Arg(110)->UseManualTime()->Unit(benchmark::kMillisecond);
