@@ -74,6 +74,17 @@ void PopulationChecker::check() {
     for (Problem& problem : _problems.problems()) problem.line = _model.file().line(problem.offset);
 }
 
+std::optional<std::string> PopulationChecker::judge(const EntityDefinition& entity, std::size_t slot, std::string_view value,
+                                                    std::function<const EntityDefinition*(std::uint64_t id)> find) {
+    _find = std::move(find);
+    _entity = &entity;
+    _lexer = Part21Lexer(value);
+    _problems.problems().clear();
+    checkAttribute(entity.attributes()[slot]);
+    if (_problems.problems().empty()) return std::nullopt;
+    return std::move(_problems.problems().front().message);
+}
+
 void PopulationChecker::checkInstance(std::uint32_t number) {
     _instance = _model.file().id(number);
     _attribute = nullptr;
@@ -154,11 +165,14 @@ void PopulationChecker::takeDerived(const DerivedSlot& derived) {
     }
 }
 
-// An entity without attributes of its own may have those of its supertype, so a slot does not say whose it is.
 bool PopulationChecker::isDerived(const AttributeSlot& slot) const {
-    if (slot.isDerived || _derivedElsewhere.empty()) return slot.isDerived;
-    const auto place = static_cast<std::size_t>(&slot - _entity->attributes().data());
-    return std::ranges::binary_search(_derivedElsewhere, std::pair(_entity->position(), place));
+    return derives(*_entity, static_cast<std::size_t>(&slot - _entity->attributes().data()));
+}
+
+// An entity without attributes of its own may have those of its supertype, so a slot does not say whose it is.
+bool PopulationChecker::derives(const EntityDefinition& entity, std::size_t slot) const {
+    if (entity.attributes()[slot].isDerived || _derivedElsewhere.empty()) return entity.attributes()[slot].isDerived;
+    return std::ranges::binary_search(_derivedElsewhere, std::pair(entity.position(), slot));
 }
 
 // Nesting of values is that of the type, so recursion ends where the dictionary does.
@@ -235,8 +249,12 @@ void PopulationChecker::checkEnumeration(const EnumerationType& type, const Toke
 /// The entity referred to; null after reporting a dangling reference, and for an instance of an entity that
 /// is unknown, which is reported where it stands.
 const EntityDefinition* PopulationChecker::referred(const Token& token) {
-    const auto number = _model.file().find(decodeInstanceName(token.text));
-    if (number) return _model.entityAt(*number);
+    const std::uint64_t id = decodeInstanceName(token.text);
+    if (_find) {
+        if (const EntityDefinition* entity = _find(id)) return entity;
+    } else if (const auto number = _model.file().find(id)) {
+        return _model.entityAt(*number);
+    }
     report(Severity::Error, token.text.data(), "dangling-reference",
            "expected an instance of the file, found " + excerpt(token) + ", which the file does not have");
     return nullptr;
@@ -310,7 +328,8 @@ void PopulationChecker::unexpected(const Type& declared, const Token& token) {
 }
 
 void PopulationChecker::report(Severity severity, const char* at, ProblemCode code, const std::string& message) {
-    const auto offset = static_cast<std::uint64_t>(at - _model.file().text().data());
+    // A value that is judged alone stands nowhere.
+    const auto offset = _find ? 0 : static_cast<std::uint64_t>(at - _model.file().text().data());
     std::string place;
     if (_entity != nullptr && _attribute != nullptr) {
         place.append(_entity->name()).append(".").append(_attribute->name()).append(": ");

@@ -5,6 +5,8 @@
 #include "velkor/sdai/Part21Lexer.h"
 #include "velkor/sdai/PopulationCheck.h"
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -17,6 +19,12 @@ public:
     PopulationChecker(const Model& model, const PopulationCheckOptions& options);
 
     void check();
+    /// What is wrong with a value for an attribute of an entity, in one line; nothing when it may stand there. `find`
+    /// says which entity an instance is of, null for one that there is not.
+    std::optional<std::string> judge(const EntityDefinition& entity, std::size_t slot, std::string_view value,
+                                     std::function<const EntityDefinition*(std::uint64_t id)> find);
+    /// Whether instances of an entity have "*" at a place, by the dictionary or what was told besides.
+    bool derives(const EntityDefinition& entity, std::size_t slot) const;
     part21::ProblemList& problems() noexcept { return _problems; }
 
 private:
@@ -48,6 +56,8 @@ private:
     std::vector<std::pair<std::uint32_t, std::size_t>> _derivedElsewhere;
     Part21Lexer _lexer{std::string_view()};
     std::uint64_t _instance = 0;
+    // In place of the model's own instances.
+    std::function<const EntityDefinition*(std::uint64_t id)> _find;
     // What is being checked, for messages.
     const EntityDefinition* _entity = nullptr;
     const Attribute* _attribute = nullptr;

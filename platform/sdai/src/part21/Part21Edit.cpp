@@ -102,6 +102,13 @@ struct Part21Edit::State {
         return piece;
     }
 
+    /// Gives back the memory of a record that is about to be kept anew, where it lies at the end: several values of one
+    /// instance cost no more than one.
+    void forgetLast(std::string_view record) {
+        if (record.data() + record.size() == texts.data() + texts.size() && record.data() >= texts.data())
+            texts.resize(texts.size() - record.size());
+    }
+
     /// The record as the file has it; empty when the statement is damaged.
     std::string_view original(std::uint32_t number) const {
         const std::string_view statement = file.instanceText(number);
@@ -267,6 +274,7 @@ Part21Edit::Result<void> Part21Edit::setParameter(std::uint64_t id, std::size_t 
         end = token.text.data() + token.text.size();
     std::string record(old->data(), begin);
     (record += value).append(end, old->data() + old->size());
+    _state->forgetLast(*old);
     _state->put(id, _state->keep(record));
     return {};
 }
