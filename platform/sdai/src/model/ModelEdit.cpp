@@ -45,8 +45,11 @@ bool refersTo(std::string_view record, std::uint64_t id) {
 
 struct ModelEdit::State {
     State(const Model& model_, std::span<const DerivedSlot> derivedSlots)
-        : model(model_), edit(model_.file()),
-          options{.limit = 1, .derivedSlots = derivedSlots, .numberTypes = {}, .progress = {}, .choice = {}},
+        : model(model_), edit(model_.file()), options{.limit = 1,
+                                                      .derivedSlots = derivedSlots,
+                                                      .numberTypes = {},
+                                                      .progress = {},
+                                                      .choice = {}},
           checker(model_, options) {}
 
     const Model& model;
@@ -71,7 +74,8 @@ struct ModelEdit::State {
     Result<Place> place(std::uint64_t id, std::string_view attribute) const {
         if (const auto record = edit.record(id); !record) return refused(record.error());
         const EntityDefinition* of = entity(id);
-        if (of == nullptr) return refused(named(id) + " is no instance of an entity of " + std::string(model.schema().name()));
+        if (of == nullptr)
+            return refused(named(id) + " is no instance of an entity of " + std::string(model.schema().name()));
         const int slot = of->attributeIndex(attribute);
         if (slot < 0) return refused(std::string(of->name()) + " has no attribute " + std::string(attribute));
         return Place{of, static_cast<std::size_t>(slot)};
@@ -122,7 +126,8 @@ ModelEdit::Result<void> ModelEdit::set(std::uint64_t id, std::string_view attrib
 
 ModelEdit::Result<std::uint64_t> ModelEdit::create(std::string_view entityName, const NamedValues& values) {
     const EntityDefinition* entity = _state->model.schema().entity(entityName);
-    if (entity == nullptr) return refused(std::string(_state->model.schema().name()) + " has no entity " + std::string(entityName));
+    if (entity == nullptr)
+        return refused(std::string(_state->model.schema().name()) + " has no entity " + std::string(entityName));
     if (entity->isAbstract()) return refused(std::string(entity->name()) + " is abstract");
     std::vector<std::string_view> parameters;
     for (std::size_t i = 0; i < entity->attributes().size(); ++i)

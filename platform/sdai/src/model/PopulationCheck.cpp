@@ -74,7 +74,8 @@ void PopulationChecker::check() {
     for (Problem& problem : _problems.problems()) problem.line = _model.file().line(problem.offset);
 }
 
-std::optional<std::string> PopulationChecker::judge(const EntityDefinition& entity, std::size_t slot, std::string_view value,
+std::optional<std::string> PopulationChecker::judge(const EntityDefinition& entity, std::size_t slot,
+                                                    std::string_view value,
                                                     std::function<const EntityDefinition*(std::uint64_t id)> find) {
     _find = std::move(find);
     _entity = &entity;

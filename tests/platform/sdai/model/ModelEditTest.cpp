@@ -13,7 +13,8 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-const std::string data = "#1=LEAF('n',1,((#2)));\n#2=OTHER();\n#3=HOLDER($,$,$,$,$,$,$,$,$,#1,$,$);\n#4=NOTHING();\n#5=LEAF('x',\n";
+const std::string data =
+    "#1=LEAF('n',1,((#2)));\n#2=OTHER();\n#3=HOLDER($,$,$,$,$,$,$,$,$,#1,$,$);\n#4=NOTHING();\n#5=LEAF('x',\n";
 
 std::string written(const ModelEdit& edit) {
     auto scratch = files::ScratchFile::create();
@@ -35,7 +36,9 @@ TEST_F(ModelEditTest, SetsAttributesByNameAndLeavesTheRest) {
     EXPECT_TRUE(edit.set(3, "WEIGHT", "2.5"));
     EXPECT_EQ(edit.value(1, "Name"), "'m'");
     EXPECT_EQ(edit.value(3, "Target"), "#1");
-    EXPECT_EQ(written(edit), "#1=LEAF('m',7,((#2)));\n#2=OTHER();\n#3=HOLDER(2.5,$,$,$,$,$,$,$,$,#1,$,$);\n#4=NOTHING();\n#5=LEAF('x',\n");
+    EXPECT_EQ(
+        written(edit),
+        "#1=LEAF('m',7,((#2)));\n#2=OTHER();\n#3=HOLDER(2.5,$,$,$,$,$,$,$,$,#1,$,$);\n#4=NOTHING();\n#5=LEAF('x',\n");
 }
 
 TEST_F(ModelEditTest, RefusesWhatTheDictionaryDoesNotAllow) {
@@ -90,7 +93,8 @@ TEST_F(ModelEditTest, CreatesInstancesThatOthersMayReferTo) {
 }
 
 TEST_F(ModelEditTest, KnowsTheUsersOfTheFileAndWhatDerivesBesides) {
-    const Model& model = open("#1=LEAF('n',*,((#2),(#2)));\n#2=OTHER();\n#2=LEAF('twice',*,((#2)));\n#3=LEAF('/*#2*/ #2',*,());\n");
+    const Model& model =
+        open("#1=LEAF('n',*,((#2),(#2)));\n#2=OTHER();\n#2=LEAF('twice',*,((#2)));\n#3=LEAF('/*#2*/ #2',*,());\n");
     const DerivedSlot derived[] = {{"LEAF", "SIZE"}};
     ModelEdit edit(model, derived);
     EXPECT_THAT(edit.users(2), ElementsAre(1u));

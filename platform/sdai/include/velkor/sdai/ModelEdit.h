@@ -36,8 +36,8 @@ public:
     ModelEdit(ModelEdit&&) noexcept;
     ModelEdit& operator=(ModelEdit&&) noexcept;
 
-    /// The entity of an instance with the edits so far; null for one that there is not, that the schema does not know or
-    /// that is complex.
+    /// The entity of an instance with the edits so far; null for one that there is not, that the schema does not know
+    /// or that is complex.
     const EntityDefinition* entity(std::uint64_t id) const;
     /// The encoded value of an attribute with the edits so far.
     Result<std::string> value(std::uint64_t id, std::string_view attribute) const;
