@@ -72,19 +72,20 @@ TEST_F(ModelEditTest, RefusesWhatTheDictionaryDoesNotAllow) {
 
 TEST_F(ModelEditTest, CreatesInstancesThatOthersMayReferTo) {
     ModelEdit edit(open(data));
-    const auto other = edit.create("OTHER", {});
-    ASSERT_TRUE(other);
+    const auto other = edit.create("PART", {{"NAME", "'p'"}, {"LEFT", "NICKNAME('q')"}});
+    ASSERT_TRUE(other) << other.error();
     const auto leaf = edit.create("leaf", {{"NAME", "'new'"}, {"PARTS", "((#" + std::to_string(*other) + "))"}});
     ASSERT_TRUE(leaf) << leaf.error();
-    EXPECT_TRUE(edit.set(3, "TARGET", "#" + std::to_string(*leaf)));
-    EXPECT_THAT(edit.users(1), IsEmpty());
-    EXPECT_THAT(edit.users(*leaf), ElementsAre(3u));
+    EXPECT_TRUE(edit.set(3, "VALUE", "#" + std::to_string(*other)));
+    EXPECT_THAT(edit.users(*other), ElementsAre(3u, *leaf));
+    EXPECT_THAT(edit.users(1), ElementsAre(3u));
+    EXPECT_THAT(edit.references(3), ElementsAre(*other, 1u));
+    EXPECT_TRUE(edit.set(3, "VALUE", "$"));
     EXPECT_THAT(edit.users(*other), ElementsAre(*leaf));
-    EXPECT_THAT(edit.references(3), ElementsAre(*leaf));
-    EXPECT_TRUE(edit.drop(3));
-    EXPECT_THAT(edit.users(*leaf), IsEmpty());
-    EXPECT_EQ(edit.entity(3), nullptr);
-    EXPECT_EQ(edit.entity(*leaf)->name(), "LEAF");
+    EXPECT_TRUE(edit.drop(*leaf));
+    EXPECT_THAT(edit.users(*other), IsEmpty());
+    EXPECT_EQ(edit.entity(*leaf), nullptr);
+    EXPECT_EQ(edit.entity(*other)->name(), "PART");
 
     EXPECT_THAT(edit.create("ROOT", {}).error(), HasSubstr("abstract"));
     EXPECT_THAT(edit.create("LEAF", {}).error(), HasSubstr("is required"));
