@@ -495,6 +495,24 @@ TEST(GeometryCurves, SweepsGetTheParametersOfTheirCurves) {
         EXPECT_DOUBLE_EQ(numbers[2], row.end) << row.directrix;
         EXPECT_THAT(result.problems(), IsEmpty()) << row.directrix;
     }
+    // Along something that is no curve, which others know better.
+    std::string list = "#3=IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(1.,0.,0.)";
+    for (int i = 2; i < 1000; ++i) list.append(",(").append(std::to_string(i)).append(".,0.,0.)");
+    EXPECT_EQ(
+        toRelease("IFC4", "#1=IFCSWEPTDISKSOLID(#3,0.1,$,$,$);#2=IFCINDEXEDPOLYCURVE(#3,$,$);" + list + "));", "IFC2X3")
+            .record(1),
+        "");
+    // Curves of curves, a hundred thousand deep.
+    std::string nested = "#1=IFCSWEPTDISKSOLID(#2,0.1,$,$,$);";
+    for (int i = 1; i <= 100'000; ++i) {
+        const std::string id = std::to_string(2 * i);
+        nested.append("#").append(id).append("=IFCCOMPOSITECURVE((#").append(std::to_string(2 * i + 1));
+        nested.append("),.F.);#")
+            .append(std::to_string(2 * i + 1))
+            .append("=IFCCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.,#");
+        nested.append(std::to_string(2 * i + 2)).append(");");
+    }
+    EXPECT_EQ(toRelease("IFC4", nested, "IFC2X3").record(1), "");
     // A curve that is a part of itself.
     EXPECT_EQ(toRelease("IFC4",
                         "#1=IFCSWEPTDISKSOLID(#2,0.1,$,$,$);#2=IFCCOMPOSITECURVE((#3),.F.);"

@@ -109,10 +109,14 @@ TEST(GeometryFaces, WhatCannotBeUnderstoodIsLostAndNeverGuessed) {
     }
     EXPECT_EQ(facesOf("((1,2,3))", "$", "(1,2)").record(2), "");
     EXPECT_EQ(facesOf("((1,2,3))", "$", "(1,2,7)").record(2), "");
-    // The list itself: a row too short, a value that is no number, a list of a plane, none at all.
-    for (const char* list : {"#1=IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(1.,0.),(0.,1.,0.)));",
-                             "#1=IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(1.,0.,$),(0.,1.,0.)));",
-                             "#1=IFCCARTESIANPOINTLIST2D(((0.,0.),(1.,0.),(0.,1.)));", "#3=IFCDIRECTION((1.,0.));"}) {
+    // The list itself: a row too short, a value that is no number, a list of a plane, none at all, one
+    // with more than it may have, a complex instance.
+    for (const char* list :
+         {"#1=IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(1.,0.),(0.,1.,0.)));",
+          "#1=IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(1.,0.,$),(0.,1.,0.)));",
+          "#1=IFCCARTESIANPOINTLIST2D(((0.,0.),(1.,0.),(0.,1.)));", "#3=IFCDIRECTION((1.,0.));",
+          "#1=IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(1.,0.,0.),(0.,1.,0.)),$);",
+          "#1=(IFCCARTESIANPOINTLIST3D(((0.,0.,0.),(1.,0.,0.),(0.,1.,0.)))IFCDIRECTION((1.,0.)));"}) {
         const auto result =
             toRelease("IFC4", std::string(list) + "#2=IFCTRIANGULATEDFACESET(#1,$,$,((1,2,3)),$);", "IFC2X3");
         EXPECT_THAT(result.records("IFCFACE"), IsEmpty()) << list;

@@ -49,13 +49,13 @@ std::optional<double> endOfIndexed(Rebuilding& rebuilding, const DXSdaiAppInstan
     return end;
 }
 
-std::optional<double> endOfComposite(Rebuilding& rebuilding, const DXSdaiAppInstance& curve) {
+std::optional<double> endOfComposite(Rebuilding& rebuilding, const DXSdaiAppInstance& curve, int depth) {
     double end = 0;
     for (const sdai::Primitive member : curve.GetAttr("SEGMENTS").asAggregate()) {
         const DXSdaiAppInstance* segment = member.asInstance();
         const DXSdaiAppInstance* parent = segment ? segment->GetAttr("PARENTCURVE").asInstance() : nullptr;
         if (!parent) return std::nullopt;
-        const std::optional<double> part = CurveRange::of(rebuilding, *parent).end;
+        const std::optional<double> part = CurveRange::of(rebuilding, *parent, depth + 1).end;
         if (!part) return std::nullopt;
         end += *part;
     }
@@ -87,13 +87,13 @@ std::optional<double> endOfTrimmed(Rebuilding& rebuilding, const DXSdaiAppInstan
     return length > 0 ? std::optional(length) : std::nullopt;
 }
 
-CurveRange find(Rebuilding& rebuilding, const DXSdaiAppInstance& curve) {
+CurveRange find(Rebuilding& rebuilding, const DXSdaiAppInstance& curve, int depth) {
     if (curve.IsKindOf("IFCPOLYLINE")) {
         const std::size_t count = curve.GetAttr("POINTS").asAggregate().memberCount();
         return {count > 1 ? std::optional(static_cast<double>(count) - 1) : std::nullopt, {}};
     }
     if (curve.IsKindOf("IFCINDEXEDPOLYCURVE")) return {endOfIndexed(rebuilding, curve), {}};
-    if (curve.IsKindOf("IFCCOMPOSITECURVE")) return {endOfComposite(rebuilding, curve), {}};
+    if (curve.IsKindOf("IFCCOMPOSITECURVE")) return {endOfComposite(rebuilding, curve, depth), {}};
     if (curve.IsKindOf("IFCTRIMMEDCURVE")) return {endOfTrimmed(rebuilding, curve), {}};
     if (curve.IsKindOf("IFCCIRCLE") || curve.IsKindOf("IFCELLIPSE"))
         return {2 * std::numbers::pi / angleUnit(rebuilding), {}};
@@ -106,13 +106,16 @@ CurveRange find(Rebuilding& rebuilding, const DXSdaiAppInstance& curve) {
 
 } // namespace
 
-const CurveRange& CurveRange::of(Rebuilding& rebuilding, const DXSdaiAppInstance& curve) {
+const CurveRange& CurveRange::of(Rebuilding& rebuilding, const DXSdaiAppInstance& curve, int depth) {
     static const CurveRange unknown;
+    // What is remembered of others is not a range.
+    constexpr int deepest = 32;
+    if (!curve.IsKindOf("IFCCURVE") || depth > deepest) return unknown;
     if (std::any& remembered = rebuilding.remembered(curve.id()); remembered.has_value())
         return std::any_cast<const CurveRange&>(remembered);
     // A curve that is a part of itself has no end.
     rebuilding.remembered(curve.id()) = unknown;
-    CurveRange found = find(rebuilding, curve);
+    CurveRange found = find(rebuilding, curve, depth);
     std::any& remembered = rebuilding.remembered(curve.id());
     remembered = std::move(found);
     return std::any_cast<const CurveRange&>(remembered);

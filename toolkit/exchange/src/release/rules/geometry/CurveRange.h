@@ -15,8 +15,8 @@ struct CurveRange {
     /// The knots between which a B-spline runs in the source: in the target those are 0, 1, 2 and so on.
     std::vector<double> knots;
 
-    /// Found once for each curve.
-    static const CurveRange& of(Rebuilding& rebuilding, const DXSdaiAppInstance& curve);
+    /// Found once for each curve. `depth` says of how many others it is a part; beyond a few the end is not known.
+    static const CurveRange& of(Rebuilding& rebuilding, const DXSdaiAppInstance& curve, int depth = 0);
 
     /// A parameter of the source in the target.
     std::optional<double> converted(double parameter) const;

@@ -167,7 +167,8 @@ std::optional<FaceLoops> FaceLoops::welded(const PointList& points) const {
         places.push_back(point.value_or(Point{}));
         for (const double coordinate : places.back()) extent = std::max(extent, std::abs(coordinate));
     });
-    if (!isSound || places.size() < _bound || !(extent > 0)) return std::nullopt;
+    constexpr double least = 1e-200;
+    if (!isSound || places.size() < _bound || extent < least) return std::nullopt;
     const std::vector<std::uint32_t> first = firstAtPlace(places, extent);
     FaceLoops result;
     std::vector<std::uint32_t> indices;

@@ -78,7 +78,7 @@ std::optional<Face> faceOf(const DXSdaiAppInstance& face) {
 
 /// The faces of a shell; nothing when one of them is not bounded by straight edges in a plane.
 std::optional<Shell> shellOf(const DXSdaiAppInstance* shell) {
-    if (!shell) return std::nullopt;
+    if (!shell || !shell->IsKindOf("IFCCONNECTEDFACESET")) return std::nullopt;
     Shell faces;
     for (const sdai::Primitive member : shell->GetAttr("CFSFACES").asAggregate()) {
         const DXSdaiAppInstance* face = member.asInstance();
@@ -145,15 +145,16 @@ bool planPolygons(Planning& planning, DXSdaiAppInstance& brep) {
     // A shell of several solids is said by each of them.
     std::uint64_t size = 0;
     const DXSdaiAppInstance* outer = brep.GetAttr("OUTER").asInstance();
-    std::any* remembered = outer ? &planning.remembered(outer->id()) : nullptr;
-    if (const auto* before = remembered ? std::any_cast<std::uint64_t>(remembered) : nullptr)
+    if (!outer || !outer->IsKindOf("IFCCONNECTEDFACESET")) return false;
+    std::any& remembered = planning.remembered(outer->id());
+    if (const auto* before = std::any_cast<std::uint64_t>(&remembered))
         if (*before == 0 || !planning.affords(*before)) return false;
     const std::optional<std::vector<Shell>> shells = shellsOf(brep);
     constexpr std::uint64_t bytesPerPolygon = 128;
     if (shells)
         for (const Shell& shell : *shells)
             for (const Face& face : shell) size += bytesPerPolygon * face.size();
-    if (remembered) *remembered = size;
+    remembered = size;
     if (!shells) return false;
     absorbParts(planning, brep.id(), *shells);
     return true;

@@ -49,8 +49,9 @@ std::optional<std::vector<double>> readNumbers(std::string_view encoded) {
 
 std::optional<PointList> PointList::of(const DXSdaiAppInstance& list) {
     const bool isInSpace = list.IsKindOf("IFCCARTESIANPOINTLIST3D");
-    if (!isInSpace && !list.IsKindOf("IFCCARTESIANPOINTLIST2D")) return std::nullopt;
+    if (!list.entity() || (!isInSpace && !list.IsKindOf("IFCCARTESIANPOINTLIST2D"))) return std::nullopt;
     PointList points;
+    points._list = &list;
     points._id = list.id();
     points._dimension = isInSpace ? 3 : 2;
     points._coordinates = list.GetAttr("COORDLIST").encoded();
@@ -70,8 +71,16 @@ PointList::Found PointList::found(bool withOffsets) const {
         if (withOffsets) result.offsets.push_back(static_cast<std::size_t>(tuple.data() - _coordinates.data()));
         return true;
     });
-    if (isSound) result.count = points;
+    if (isSound && hasItsAttributes()) result.count = points;
     return result;
+}
+
+// An instance with more or fewer is copied as it is, and its points would be nowhere.
+bool PointList::hasItsAttributes() const {
+    const auto number = _list->model().file().find(_id);
+    const std::size_t count = _list->entity()->attributes().size();
+    return number && !parameterOf(_list->model(), *number, count - 1).empty() &&
+           parameterOf(_list->model(), *number, count).empty();
 }
 
 std::string_view PointList::tupleAt(std::size_t offset) const {

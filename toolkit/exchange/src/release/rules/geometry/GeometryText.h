@@ -64,8 +64,8 @@ public:
             return true;
         });
     }
-    /// How many there are; nothing when not all of it was understood. `memory`, Planning or Rebuilding, remembers what
-    /// was found in a long list.
+    /// How many there are; nothing when not all of the instance was understood. `memory`, Planning or Rebuilding,
+    /// remembers what was found in a long list.
     template <class Memory>
     std::optional<std::uint64_t> count(Memory& memory) const {
         if (isShort()) return found(false).count;
@@ -92,8 +92,10 @@ private:
 
     bool isShort() const noexcept { return _coordinates.size() < 4096; }
     Found found(bool withOffsets) const;
+    bool hasItsAttributes() const;
     std::string_view tupleAt(std::size_t offset) const;
 
+    const DXSdaiAppInstance* _list = nullptr;
     std::uint64_t _id = 0;
     std::size_t _dimension = 0;
     std::string_view _coordinates;
