@@ -62,10 +62,9 @@ TEST(Backward, CallsProductsWhatTheyWere) {
     expectAll({
         {"IFC4X3_ADD2", product("IFCROAD", "$,$,$"), "IFC4X2", becomes("IFCFACILITY", "IFCROAD", "$,$"), "facility"},
         {"IFC4X3_ADD2", product("IFCBRIDGEPART", "$,$,.LATERAL.,.DECK."), "IFC4X3_RC3",
-         becomes("IFCFACILITYPART", "IFCBRIDGEPART", "$,$,IFCBRIDGEPARTTYPEENUM(.DECK.),.LATERAL."),
-         "facility-part-kind"},
+         "IFCFACILITYPART(" + root('A') + named + "$,$,IFCBRIDGEPARTTYPEENUM(.DECK.),.LATERAL.)", "facility-part"},
         {"IFC4X4", product("IFCTUNNELPART", "$,$,.LATERAL.,$"), "IFC4X3_ADD2",
-         becomes("IFCFACILITYPARTCOMMON", "IFCTUNNELPART", "$,$,.LATERAL.,$"), "facility-part-kind"},
+         becomes("IFCFACILITYPARTCOMMON", "IFCTUNNELPART", "$,$,.LATERAL.,$"), "facility-part"},
         {"IFC4X3_ADD2", product("IFCKERB", "'t',$"), "IFC4", becomes("IFCCIVILELEMENT", "IFCKERB", "'t'"),
          "civil-element"},
         {"IFC4X3_ADD2", product("IFCBOREHOLE", "'t'"), "IFC4", becomes("IFCGEOGRAPHICELEMENT", "IFCBOREHOLE", "'t',$"),
@@ -93,8 +92,12 @@ TEST(Backward, CallsProductsWhatTheyWere) {
          "IFCSYSTEM(" + root('A') + ",'n',$,'IFCDISTRIBUTIONCIRCUIT')", "circuit-to-system"},
         {"IFC4", "#1=IFCEVENT(" + root('A') + ",'n',$,$,'e',$,$,$,$,$);", "IFC2X3",
          "IFCTASK(" + root('A') + ",'n',$,'IFCEVENT','e',$,$,.T.,$)", "event-to-milestone"},
+        {"IFC4", product("IFCSURFACEFEATURE", "'t',$"), "IFC2X3",
+         becomes("IFCBUILDINGELEMENTPROXY", "IFCSURFACEFEATURE", "'t',$"), "feature-to-proxy"},
+        {"IFC4", "#1=IFCMETRIC('n',$,.NOTDEFINED.,$,$,$,$,.EQUALTO.,$,$,$);", "IFC2X3",
+         "IFCMETRIC('n',$,.NOTDEFINED.,$,$,$,$,.EQUALTO.,$,IFCTEXT(''))", "metric-value"},
         {"IFC4X3_ADD2", "#1=IFCQUANTITYNUMBER('n',$,$,2.5,$);", "IFC4", "IFCQUANTITYCOUNT('n',$,$,2.5,$)",
-         "number-to-count"},
+         "number-quantity"},
     });
 }
 
@@ -161,13 +164,33 @@ TEST(Backward, RelatesResourcesAsTheReleaseDoes) {
          "resource-relationship"},
         {"IFC4", "#1=IFCAPPROVALRELATIONSHIP($,$,#6,(#6,#7));" + approval, "IFC2X3",
          "IFCAPPROVALRELATIONSHIP(#6,#6,$,'')", "approvals-one-by-one"},
-        {"IFC4X3_ADD2", "#1=IFCRELADHERESTOELEMENT(" + root('A') + ",$,$,#2,(#3));#2=IFCWALL(" + root('B') +
+        {"IFC4",
+         "#1=IFCRELSPACEBOUNDARY2NDLEVEL(" + root('A') + ",$,$,#2,#3,$,.PHYSICAL.,.INTERNAL.,$,$);#2=IFCSPACE(" +
+             root('B') + ",$,$,$,$,$,$,$,$,$);#3=IFCWALL(" + root('C') + ",$,$,$,$,$,$,$);",
+         "IFC2X3", "IFCRELSPACEBOUNDARY(" + root('A') + ",'2ndLevel',$,#2,#3,$,.PHYSICAL.,.INTERNAL.)",
+         "boundary-level"},
+        {"IFC4",
+         "#1=IFCRELASSIGNSTOGROUPBYFACTOR(" + root('A') + ",$,$,(#3),$,#2,0.5);#2=IFCGROUP(" + root('B') +
+             ",$,$,$);#3=IFCWALL(" + root('C') + ",$,$,$,$,$,$,$);",
+         "IFC2X3", "IFCRELASSIGNSTOGROUP(" + root('A') + ",$,$,(#3),$,#2)", "assignment-factor"},
+        {"IFC4X2",
+         "#1=IFCLINEARPLACEMENT($,#4,#5,$,$);#2=IFCCARTESIANPOINT((0.,0.));#3=IFCCARTESIANPOINT((9.,0.));"
+         "#4=IFCPOLYLINE((#2,#3));#5=IFCDISTANCEEXPRESSION(1.,$,$,$,$);",
+         "IFC4X1", "IFCLINEARPLACEMENT(#4,#5,$,$)", "linear-placement-curve"},
+        {"IFC4",
+         "#1=IFCRELASSOCIATESAPPROVAL(" + root('A') + ",$,$,(#2),#3);#2=IFCWALL(" + root('B') +
+             ",$,$,$,$,$,$,$);#3=IFCAPPROVAL($,$,$,$,$,$,$,$,$);",
+         "IFC2X3", "IFCRELASSOCIATESAPPROVAL(" + root('A') + ",$,$,(#2),#3)", "approval-time"},
+        {"IFC4X3_ADD2",
+         "#1=IFCRELADHERESTOELEMENT(" + root('A') + ",$,$,#2,(#3));#2=IFCWALL(" + root('B') +
              ",$,$,$,$,$,$,$);#3=IFCSURFACEFEATURE(" + root('C') + ",$,$,$,$,$,$,$);",
          "IFC4", "IFCRELAGGREGATES(" + root('A') + ",$,$,#2,(#3))", "features-to-parts"},
-        {"IFC4", "#1=IFCRELDECLARES(" + root('A') + ",$,$,#2,(#3));#2=IFCPROJECT(" + root('B') +
+        {"IFC4",
+         "#1=IFCRELDECLARES(" + root('A') + ",$,$,#2,(#3));#2=IFCPROJECT(" + root('B') +
              ",'p',$,$,$,$,$,$);#3=IFCACTOR(" + root('C') + ",$,$,$,#91);",
          "IFC2X3", "", "declared-by-project"},
-        {"IFC4", "#1=IFCRELCOVERSSPACES(" + root('A') + ",$,$,#2,(#3));#2=IFCSPACE(" + root('B') +
+        {"IFC4",
+         "#1=IFCRELCOVERSSPACES(" + root('A') + ",$,$,#2,(#3));#2=IFCSPACE(" + root('B') +
              ",$,$,$,$,$,$,$,$,$);#3=IFCCOVERING(" + root('C') + ",$,$,$,$,$,$,$);",
          "IFC2X3", "IFCRELCOVERSSPACES(" + root('A') + ",$,$,#2,(#3))", "attribute-renamed"},
     });
@@ -188,8 +211,9 @@ TEST(Backward, ClassifiesByReferencesOfOneLevel) {
 }
 
 TEST(Backward, ListsReferencesByTheDocument) {
-    const std::string text = "#1=IFCDOCUMENTINFORMATION('i','n',$,'http://x',$,$,$,$,$,$,$,$,'application/pdf',$,$,$,$);"
-                             "#2=IFCDOCUMENTREFERENCE('l',$,'r',$,#1);";
+    const std::string text =
+        "#1=IFCDOCUMENTINFORMATION('i','n',$,'http://x',$,$,$,$,$,$,$,$,'application/pdf',$,$,$,$);"
+        "#2=IFCDOCUMENTREFERENCE('l',$,'r',$,#1);";
     const auto result = toRelease("IFC4", owner + text, "IFC2X3");
     EXPECT_THAT(result.problems(), IsEmpty());
     EXPECT_EQ(result.record(2), "IFCDOCUMENTREFERENCE('l',$,'r')");
@@ -219,8 +243,10 @@ TEST(Backward, CalculatesCostsByRelationships) {
 
 TEST(Backward, SaysMapCoordinatesWithSetsOfTheSite) {
     const std::string text =
-        "#1=IFCMAPCONVERSION(#5,#2,1000.,2000.,30.,1.,0.,1.);#2=IFCPROJECTEDCRS('EPSG:25832',$,'ETRS89',$,'UTM','32',#3);"
-        "#3=IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.);#4=IFCSITE(" + root('A') +
+        "#1=IFCMAPCONVERSION(#5,#2,1000.,2000.,30.,1.,0.,1.);#2=IFCPROJECTEDCRS('EPSG:25832',$,'ETRS89',$,'UTM','32',#"
+        "3);"
+        "#3=IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.);#4=IFCSITE(" +
+        root('A') +
         ",$,$,$,$,$,$,$,$,$,$,$,$);#5=IFCGEOMETRICREPRESENTATIONCONTEXT($,'Model',3,$,#6,$);"
         "#6=IFCAXIS2PLACEMENT3D(#7,$,$);#7=IFCCARTESIANPOINT((0.,0.,0.));#8=IFCMAPCONVERSION(#5,#2,1.,2.,3.,$,$,$);";
     const auto result = toRelease("IFC4", owner + text, "IFC2X3");
@@ -248,22 +274,24 @@ TEST(Backward, SaysMapCoordinatesWithSetsOfTheSite) {
 }
 
 TEST(Backward, MeasuresTimesInTheUnitOfTheProject) {
-    const std::string text =
-        "#1=IFCRELSEQUENCE(" + root('A') + ",$,$,#2,#3,#4,.FINISH_START.,$);#2=IFCTASK(" + root('B') +
-        ",'a',$,$,'i',$,$,$,.F.,$,$,$);#3=IFCTASK(" + root('C') +
-        ",'b',$,$,'j',$,$,$,.F.,$,$,$);#4=IFCLAGTIME($,$,$,IFCDURATION('P1DT12H'),.WORKTIME.);"
-        "#5=IFCRELSEQUENCE(" + root('D') + ",$,$,#2,#3,#6,.FINISH_START.,$);"
-        "#6=IFCLAGTIME($,$,$,IFCRATIOMEASURE(0.5),.WORKTIME.);";
+    const std::string text = "#1=IFCRELSEQUENCE(" + root('A') + ",$,$,#2,#3,#4,.FINISH_START.,$);#2=IFCTASK(" +
+                             root('B') + ",'a',$,$,'i',$,$,$,.F.,$,$,$);#3=IFCTASK(" + root('C') +
+                             ",'b',$,$,'j',$,$,$,.F.,$,$,$);#4=IFCLAGTIME($,$,$,IFCDURATION('P1DT12H'),.WORKTIME.);"
+                             "#5=IFCRELSEQUENCE(" +
+                             root('D') +
+                             ",$,$,#2,#3,#6,.FINISH_START.,$);"
+                             "#6=IFCLAGTIME($,$,$,IFCRATIOMEASURE(0.5),.WORKTIME.);";
     const auto seconds = toRelease("IFC4", owner + text, "IFC2X3");
     EXPECT_THAT(seconds.problems(), IsEmpty());
     EXPECT_EQ(seconds.record(1), "IFCRELSEQUENCE(" + root('A') + ",$,$,#2,#3,129600.,.FINISH_START.)");
     EXPECT_EQ(seconds.record(5), "IFCRELSEQUENCE(" + root('D') + ",$,$,#2,#3,0.,.FINISH_START.)");
-    const std::string hours = "#10=IFCPROJECT(" + root('E') +
-                              ",'p',$,$,$,$,(#16),#11);#11=IFCUNITASSIGNMENT((#12));#12=IFCCONVERSIONBASEDUNIT(#13,."
-                              "TIMEUNIT.,'HOUR',#14);#13=IFCDIMENSIONALEXPONENTS(0,0,1,0,0,0,0);"
-                              "#14=IFCMEASUREWITHUNIT(IFCTIMEMEASURE(3600.),#15);#15=IFCSIUNIT(*,.TIMEUNIT.,$,.SECOND.);"
-                              "#16=IFCGEOMETRICREPRESENTATIONCONTEXT($,'Model',3,$,#17,$);#17=IFCAXIS2PLACEMENT3D(#18,$,"
-                              "$);#18=IFCCARTESIANPOINT((0.,0.,0.));";
+    const std::string hours =
+        "#10=IFCPROJECT(" + root('E') +
+        ",'p',$,$,$,$,(#16),#11);#11=IFCUNITASSIGNMENT((#12));#12=IFCCONVERSIONBASEDUNIT(#13,."
+        "TIMEUNIT.,'HOUR',#14);#13=IFCDIMENSIONALEXPONENTS(0,0,1,0,0,0,0);"
+        "#14=IFCMEASUREWITHUNIT(IFCTIMEMEASURE(3600.),#15);#15=IFCSIUNIT(*,.TIMEUNIT.,$,.SECOND.);"
+        "#16=IFCGEOMETRICREPRESENTATIONCONTEXT($,'Model',3,$,#17,$);#17=IFCAXIS2PLACEMENT3D(#18,$,"
+        "$);#18=IFCCARTESIANPOINT((0.,0.,0.));";
     EXPECT_THAT(toRelease("IFC4", owner + text + hours, "IFC2X3").record(1), HasSubstr(",36.,"));
 }
 
@@ -272,15 +300,18 @@ TEST(Backward, CallsEnumeratorsWhatTheReleaseCallsThem) {
         return "IFCDOORTYPE(" + root('A') + ",'n',$,$,$,$,$,$,.DOOR.,." + operation + ".,$,$)";
     };
     expectAll({
-        {"IFC4X4", "#1=" + door("DOUBLE_PANEL_SLIDING") + ";", "IFC4", door("DOUBLE_DOOR_SLIDING"), "door-operation"},
-        {"IFC4", "#1=" + door("REVOLVING") + ";", "IFC4X3_RC3", door("REVOLVING_HORIZONTAL"), "door-operation"},
+        {"IFC4X4", "#1=" + door("DOUBLE_PANEL_SLIDING") + ";", "IFC4", door("DOUBLE_DOOR_SLIDING"), "enumerator-name"},
+        {"IFC4", "#1=" + door("REVOLVING") + ";", "IFC4X3_RC3", door("REVOLVING_HORIZONTAL"), "enumerator-name"},
         {"IFC4", "#1=IFCACTORROLE(.COMMISSIONINGENGINEER.,$,$);", "IFC2X3", "IFCACTORROLE(.COMISSIONINGENGINEER.,$,$)",
          "enumerator-spelling"},
-        {"IFC4", "#1=IFCRELSPACEBOUNDARY(" + root('A') + ",$,$,#2,#3,$,.PHYSICAL.,.EXTERNAL_EARTH.);#2=IFCSPACE(" +
-             root('B') + ",$,$,$,$,$,$,$,$,$);#3=IFCWALL(" + root('C') + ",$,$,$,$,$,$,$);",
+        {"IFC4",
+         "#1=IFCRELSPACEBOUNDARY(" + root('A') + ",$,$,#2,#3,$,.PHYSICAL.,.EXTERNAL_EARTH.);#2=IFCSPACE(" + root('B') +
+             ",$,$,$,$,$,$,$,$,$);#3=IFCWALL(" + root('C') + ",$,$,$,$,$,$,$);",
          "IFC2X3", "IFCRELSPACEBOUNDARY(" + root('A') + ",$,$,#2,#3,$,.PHYSICAL.,.EXTERNAL.)", "outside-kind"},
-        {"IFC4", "#1=IFCWORKSCHEDULE(" + root('A') + ",'n',$,$,'i','2024-05-31T07:30:00',$,$,$,$,"
-                 "'2024-05-31T07:30:00',$,.PLANNED.);",
+        {"IFC4",
+         "#1=IFCWORKSCHEDULE(" + root('A') +
+             ",'n',$,$,'i','2024-05-31T07:30:00',$,$,$,$,"
+             "'2024-05-31T07:30:00',$,.PLANNED.);",
          "IFC2X3", "IFCWORKSCHEDULE(" + root('A') + ",'n',$,$,'i',#97,$,$,$,$,#100,$,.PLANNED.,$)", "text-to-date"},
     });
 }

@@ -55,7 +55,7 @@ bool planConversion(Planning& planning, DXSdaiAppInstance& conversion) {
     const auto* carrier = std::any_cast<Carrier>(&known);
     if (carrier->id == 0 || carrier->conversion != conversion.id()) return false;
     const std::uint64_t system = sdai::decodeInstanceName(conversion.GetAttr("TARGETCRS").encoded());
-    const sdai::EntityDefinition* entity = system == 0 ? nullptr : sourceEntity(model, system);
+    const sdai::EntityDefinition* entity = system == 0 ? nullptr : entityOf(model, system);
     if (entity != nullptr && entity->isKindOf("IFCPROJECTEDCRS")) planning.decide(system, Successor::absorbed());
     return true;
 }
@@ -115,7 +115,7 @@ private:
 /// "MILLIMETRE", "FOOT".
 std::string unitName(const sdai::Model& model, std::uint64_t unit) {
     const auto plain = [&](std::string_view attribute) {
-        std::string text = encodedOf(model, unit, attribute);
+        const std::string text(encodedOf(model, unit, attribute));
         if (text.starts_with('\'')) return sdai::decodeString(text);
         return text.size() > 2 && text.front() == '.' ? text.substr(1, text.size() - 2) : std::string();
     };
@@ -127,7 +127,7 @@ void rebuildConversion(Rebuilding& rebuilding) {
     const auto* carrier = std::any_cast<Carrier>(&rebuilding.remembered(carrierKey));
     if (carrier == nullptr || rebuilding.successorOf(carrier->id) == nullptr) return;
     const std::uint64_t system = sdai::decodeInstanceName(rebuilding.encoded("TARGETCRS"));
-    const std::string unit = system == 0 ? std::string(sdai::omittedValue) : encodedOf(model, system, "MAPUNIT");
+    const std::string unit(system == 0 ? sdai::omittedValue : encodedOf(model, system, "MAPUNIT"));
     const std::uint64_t unitId = sdai::decodeInstanceName(unit);
     const bool isUnit = unitId != 0 && rebuilding.successorOf(unitId) != nullptr;
     SetWriter writer(rebuilding, isUnit ? unit : std::string(sdai::omittedValue));

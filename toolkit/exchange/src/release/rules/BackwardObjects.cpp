@@ -17,9 +17,6 @@ constexpr ConversionRule facilities{"facility", Effect::Rebuilt,
                                     "A kind of facility that the release lacks becomes a facility called so in "
                                     "ObjectType",
                                     "The release has facilities without a kind"};
-constexpr ConversionRule parts{"facility-part-kind", Effect::Rebuilt,
-                               "A kind of facility part becomes one of another kind that is called so in ObjectType",
-                               "The part keeps its place in the facility and what it holds"};
 constexpr ConversionRule civil{
     "civil-element", Effect::Rebuilt,
     "Elements of roads, railways and waterways become civil elements called so in ObjectType",
@@ -86,18 +83,32 @@ constexpr ConversionRule structure{"structural-activity", Effect::Lost,
 constexpr ConversionRule member{"varying-member", Effect::Rebuilt,
                                 "A surface member of varying thickness becomes one without",
                                 "IFC4 keeps the variation in the material; IFC2X3 would require it here"};
-constexpr ConversionRule numbers{"number-to-count", Effect::Rebuilt, "A quantity of numbers becomes one of counts",
-                                 "Both are numbers without a unit of a kind"};
 constexpr ConversionRule offsets{"unit-offset", Effect::Lost, "The offset of a converted unit is dropped",
                                  "IFC2X3 tells the scales of temperature by the unit's name alone"};
+constexpr ConversionRule surfaces{"feature-to-proxy", Effect::Rebuilt,
+                                  "A surface feature becomes a building element proxy called so in ObjectType",
+                                  "The release has features that add or take away alone; this one does neither"};
+constexpr ConversionRule levels{"boundary-level", Effect::Rebuilt,
+                                "A space boundary of a level becomes one that is called so in Name",
+                                "So implementers of IFC2X3 agreed; parents and counterparts are lost"};
+constexpr ConversionRule factors{"assignment-factor", Effect::Rebuilt,
+                                 "An assignment to a group by a factor becomes one without",
+                                 "What belongs to the group stays in it; the release has no factors"};
+constexpr ConversionRule places{"linear-place", Effect::Lost,
+                                "A linear placement is dropped that gives no position in space",
+                                "The release cannot measure places along that curve in the same way"};
+constexpr ConversionRule curves{"linear-placement-curve", Effect::Converted,
+                                "The curve of a linear placement is what it is relative to",
+                                "IFC4X1 has it under that name"};
+constexpr ConversionRule others{"other-resources", Effect::Lost,
+                                "Volumes of connections, indices of textures and complementary data are dropped",
+                                "The release has nothing like them"};
 constexpr ConversionRule tables{"table-columns", Effect::Lost,
                                 "Columns of tables and references into the model are dropped",
                                 "IFC2X3 has rows of values alone"};
 constexpr ConversionRule rebars{"reinforcement-size", Effect::Converted,
                                 "Reinforcement takes the sizes that its type gives",
                                 "IFC2X3 requires them of every bar, mesh and tendon"};
-constexpr ConversionRule chosen{"enumerator-of-select", Effect::Converted, "An enumerator names the list that it is of",
-                                "The release has a select of several"};
 
 /// The nearest of an entity and its supertypes that the target has instances of; null when there is none.
 const sdai::EntityDefinition* nearest(const Releases& releases, const sdai::EntityDefinition& source) {
@@ -126,6 +137,7 @@ Successor becomesTypeWhereNone(const Releases& releases, DXSdaiAppInstance& inst
                                                                      : Successor::notHere();
 }
 
+constexpr const char* buildingElementProxy = "IFCBUILDINGELEMENTPROXY";
 constexpr const char* buildingElementProxyType = "IFCBUILDINGELEMENTPROXYTYPE";
 constexpr const char* civilElement = "IFCCIVILELEMENT";
 constexpr const char* civilElementType = "IFCCIVILELEMENTTYPE";
@@ -138,7 +150,6 @@ constexpr const char* earthworksCut = "IFCEARTHWORKSCUT";
 constexpr const char* opening = "IFCOPENINGELEMENT";
 constexpr const char* transport = "IFCTRANSPORTELEMENT";
 constexpr const char* transportType = "IFCTRANSPORTELEMENTTYPE";
-constexpr const char* commonPart = "IFCFACILITYPARTCOMMON";
 
 void nameIn(Rebuilding& rebuilding, RecordBuilder& record, std::string_view attribute) {
     if (isUnset(record.value(attribute))) record.set(attribute, literal(rebuilding.entity().name()));
@@ -168,10 +179,6 @@ void rebuildCaisson(Rebuilding& rebuilding) {
 
 Successor becomesFacility(const Releases& releases, DXSdaiAppInstance& facility) {
     return replacedBy(releases, facility, "IFCFACILITY");
-}
-
-Successor becomesPart(const Releases& releases, DXSdaiAppInstance& part) {
-    return replacedBy(releases, part, "IFCFACILITYPART");
 }
 
 Successor becomesVehicle(const Releases& releases, DXSdaiAppInstance& vehicle) {
@@ -322,21 +329,46 @@ Successor lostActivity(const Releases& releases, DXSdaiAppInstance& activity) {
     return nearest(releases, *activity.entity()) ? Successor::notHere() : Successor::lost();
 }
 
-Successor becomesCount(const Releases& releases, DXSdaiAppInstance& quantity) {
-    return replacedBy(releases, quantity, "IFCQUANTITYCOUNT");
+Successor becomesUnit(const Releases& releases, DXSdaiAppInstance& unit) {
+    return replacedBy(releases, unit, "IFCCONVERSIONBASEDUNIT");
 }
 
-void rebuildCount(Rebuilding& rebuilding) {
-    RecordBuilder record = rebuilding.carried(*rebuilding.target().entity("IFCQUANTITYCOUNT"));
-    if (auto value =
-            rebuilding.translated(rebuilding.encoded("NUMBERVALUE"), attributeType(rebuilding.entity(), "NUMBERVALUE"),
-                                  attributeType(record.entity(), "COUNTVALUE")))
-        record.set("COUNTVALUE", std::move(*value));
+Successor becomesBoundary(const Releases& releases, DXSdaiAppInstance& boundary) {
+    return replacedBy(releases, boundary, "IFCRELSPACEBOUNDARY");
+}
+
+void rebuildBoundary(Rebuilding& rebuilding) {
+    RecordBuilder record = rebuilding.carried(*rebuilding.target().entity("IFCRELSPACEBOUNDARY"));
+    const bool isSecond = rebuilding.entity().isKindOf("IFCRELSPACEBOUNDARY2NDLEVEL");
+    if (isUnset(record.value("NAME"))) record.set("NAME", literal(isSecond ? "2ndLevel" : "1stLevel"));
     rebuilding.become(record);
 }
 
-Successor becomesUnit(const Releases& releases, DXSdaiAppInstance& unit) {
-    return replacedBy(releases, unit, "IFCCONVERSIONBASEDUNIT");
+Successor becomesAssignment(const Releases& releases, DXSdaiAppInstance& assignment) {
+    return replacedBy(releases, assignment, "IFCRELASSIGNSTOGROUP");
+}
+
+// Of the release in which the curve stands under the name that others have for another placement.
+Successor becomesRelativeToCurve(const Releases& releases, DXSdaiAppInstance& placement) {
+    const sdai::EntityDefinition* same = releases.target.entity(placement.entity()->name());
+    const bool isHere = same != nullptr && same->attributeIndex("PLACEMENTMEASUREDALONG") < 0 &&
+                        same->attributeIndex("PLACEMENTRELTO") >= 0 && same->attributeIndex("DISTANCE") >= 0 &&
+                        placement.entity()->attributeIndex("PLACEMENTMEASUREDALONG") >= 0;
+    return isHere ? Successor::of(releases, placement.entity()->name()) : Successor::notHere();
+}
+
+void rebuildRelativeToCurve(Rebuilding& rebuilding) {
+    RecordBuilder record = rebuilding.carried(*rebuilding.target().entity(rebuilding.entity().name()));
+    if (auto curve = rebuilding.translated(rebuilding.encoded("PLACEMENTMEASUREDALONG"),
+                                           attributeType(rebuilding.entity(), "PLACEMENTMEASUREDALONG"),
+                                           attributeType(record.entity(), "PLACEMENTRELTO")))
+        record.set("PLACEMENTRELTO", std::move(*curve));
+    rebuilding.become(record);
+}
+
+Successor lostWithoutPosition(const Releases& releases, DXSdaiAppInstance& placement) {
+    const bool isElsewhere = placement.GetAttr("CARTESIANPOSITION").isSet();
+    return isElsewhere ? Successor::notHere() : lostWhereLacking(releases, placement);
 }
 
 constexpr std::array<const char*, 8> sizes{"NOMINALDIAMETER",
@@ -368,38 +400,19 @@ Successor becomesSized(const Releases& releases, DXSdaiAppInstance& bar) {
 bool planSizes(Planning& planning, DXSdaiAppInstance& bar) {
     const sdai::Model& model = planning.source();
     for (const std::uint64_t user : planning.users(bar.id())) {
-        const sdai::EntityDefinition* entity = sourceEntity(model, user);
+        const sdai::EntityDefinition* entity = entityOf(model, user);
         if (entity == nullptr || !entity->isKindOf("IFCRELDEFINESBYTYPE")) continue;
         const std::uint64_t type = sdai::decodeInstanceName(encodedOf(model, user, "RELATINGTYPE"));
         for (const char* size : missingSizes(planning.releases(), bar))
-            if (std::string value = type == 0 ? std::string() : encodedOf(model, type, size); !isUnset(value))
-                planning.setLater(bar.id(), size, std::move(value));
+            if (const std::string_view value = type == 0 ? sdai::omittedValue : encodedOf(model, type, size);
+                !isUnset(value))
+                planning.setLater(bar.id(), size, std::string(value));
     }
     return true;
 }
 
-// An enumerator of one list where any of several may stand.
-std::optional<std::vector<std::string>> ofSelect(Rebuilding&, std::string_view encoded, const sdai::Type& from,
-                                                 const sdai::Type& to) {
-    const auto* list = from.resolved().asEnumeration();
-    const auto* select = to.resolved().asSelect();
-    if (list == nullptr || select == nullptr || encoded.size() < 3 || encoded.front() != '.') return std::nullopt;
-    const std::string_view name = encoded.substr(1, encoded.size() - 2);
-    const sdai::EnumerationType* found = nullptr;
-    for (const sdai::Type* item : select->items()) {
-        const auto* other = item->resolved().asEnumeration();
-        if (other == nullptr || other->position(name) < 0) continue;
-        const bool isSame = other->definedType().name() == list->definedType().name();
-        if (found == nullptr || isSame) found = other;
-    }
-    if (found == nullptr) return std::nullopt;
-    return std::vector{typed(found->definedType().name(), encoded)};
-}
-
 constexpr RebuildRule rebuilds[] = {
     {facilities, "IFCFACILITY", becomesFacility, nullptr, rebuildNamed},
-    {parts, "IFCFACILITYPART", becomesPart, nullptr, rebuildNamed},
-    {parts, "IFCFACILITYPART", becomesWhereNone<commonPart>, nullptr, rebuildNamed},
     {civil, "IFCCOURSE", becomesWhereNone<civilElement>, nullptr, rebuildNamed},
     {civil, "IFCEARTHWORKSELEMENT", becomesWhereNone<civilElement>, nullptr, rebuildNamed},
     {civil, "IFCKERB", becomesWhereNone<civilElement>, nullptr, rebuildNamed},
@@ -450,26 +463,28 @@ constexpr RebuildRule rebuilds[] = {
     {structure, "IFCSTRUCTURALACTIVITY", lostActivity},
     {structure, "IFCSTRUCTURALLOAD", lostActivity},
     {member, "IFCSTRUCTURALSURFACEMEMBERVARYING", becomesEvenMember},
-    {numbers, "IFCQUANTITYNUMBER", becomesCount, nullptr, rebuildCount},
     {offsets, "IFCCONVERSIONBASEDUNITWITHOFFSET", becomesUnit},
+    {surfaces, "IFCSURFACEFEATURE", becomesWhereNone<buildingElementProxy>, nullptr, rebuildNamed},
+    {levels, "IFCRELSPACEBOUNDARY1STLEVEL", becomesBoundary, nullptr, rebuildBoundary},
+    {factors, "IFCRELASSIGNSTOGROUPBYFACTOR", becomesAssignment},
+    {curves, "IFCLINEARPLACEMENT", becomesRelativeToCurve, nullptr, rebuildRelativeToCurve},
+    {places, "IFCLINEARPLACEMENT", lostWithoutPosition},
+    {others, "IFCCONNECTIONVOLUMEGEOMETRY", lostWhereLacking},
+    {others, "IFCTEXTURECOORDINATEINDICES", lostWhereLacking},
+    {others, "IFCCOMPLEMENTARYDATA", lostActivity},
+    {others, "IFCDATASETREFERENCE", lostWhereLacking},
+    {others, "IFCARCHELEMENT", lostWhereLacking},
+    {others, "IFCARCHELEMENTTYPE", lostWhereLacking},
     {tables, "IFCTABLECOLUMN", lostWhereLacking},
     {tables, "IFCREFERENCE", lostWhereLacking},
     {rebars, "IFCREINFORCINGELEMENT", becomesSized, planSizes},
     {proxies, "IFCPRODUCT", becomesProxy, nullptr, rebuildProxy},
 };
 
-constexpr ValueRule values[] = {
-    {chosen, ofSelect},
-};
-
 } // namespace
 
 std::span<const RebuildRule> backwardObjectRules() {
     return rebuilds;
-}
-
-std::span<const ValueRule> backwardObjectValues() {
-    return values;
 }
 
 } // namespace velkor::exchange

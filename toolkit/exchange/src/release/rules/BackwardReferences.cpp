@@ -61,7 +61,7 @@ std::optional<std::vector<std::string>> wholeClassification(Rebuilding& rebuildi
     if (id == 0 || !takesEntity(to, "IFCCLASSIFICATION")) return std::nullopt;
     // Deeper hierarchies than any that is published are cycles.
     for (int level = 0; level < 32; ++level) {
-        const sdai::EntityDefinition* entity = sourceEntity(model, id);
+        const sdai::EntityDefinition* entity = entityOf(model, id);
         if (entity == nullptr) return std::nullopt;
         if (entity->isKindOf("IFCCLASSIFICATION"))
             return level > 0 ? std::optional(std::vector{reference(id)}) : std::nullopt;
@@ -75,7 +75,7 @@ std::optional<std::vector<std::string>> wholeClassification(Rebuilding& rebuildi
 std::uint64_t addClassificationReference(Rebuilding& rebuilding, std::string_view key) {
     const std::string_view source = key.substr(key.rfind('#'));
     RecordBuilder record(rebuilding.target(), "IFCCLASSIFICATIONREFERENCE");
-    record.set("NAME", encodedOf(rebuilding.source(), sdai::decodeInstanceName(source), "NAME"));
+    record.set("NAME", std::string(encodedOf(rebuilding.source(), sdai::decodeInstanceName(source), "NAME")));
     record.set("REFERENCEDSOURCE", std::string(source));
     return rebuilding.add(record);
 }
@@ -83,7 +83,7 @@ std::uint64_t addClassificationReference(Rebuilding& rebuilding, std::string_vie
 std::optional<std::vector<std::string>> systemReference(Rebuilding& rebuilding, std::string_view encoded,
                                                         const sdai::Type&, const sdai::Type& to) {
     const std::uint64_t id = sdai::decodeInstanceName(encoded);
-    const sdai::EntityDefinition* entity = id == 0 ? nullptr : sourceEntity(rebuilding.source(), id);
+    const sdai::EntityDefinition* entity = id == 0 ? nullptr : entityOf(rebuilding.source(), id);
     if (entity == nullptr || !entity->isKindOf("IFCCLASSIFICATION") || rebuilding.successorOf(id) == nullptr ||
         to.resolved().asSelect() == nullptr || !takesEntity(to, "IFCCLASSIFICATIONREFERENCE"))
         return std::nullopt;
@@ -177,7 +177,7 @@ Successor losesAttribute(const Releases& releases, DXSdaiAppInstance& instance) 
 std::vector<std::uint64_t> relatedOf(const sdai::Model& model, std::string_view encoded, std::string_view kind) {
     std::vector<std::uint64_t> ids;
     eachReference(encoded, [&](std::uint64_t id) {
-        const sdai::EntityDefinition* entity = sourceEntity(model, id);
+        const sdai::EntityDefinition* entity = entityOf(model, id);
         if (entity != nullptr && entity->isKindOf(kind)) ids.push_back(id);
     });
     return ids;
@@ -186,7 +186,7 @@ std::vector<std::uint64_t> relatedOf(const sdai::Model& model, std::string_view 
 Successor becomesMaterialClassification(const Releases& releases, DXSdaiAppInstance& relationship) {
     if (releases.target.entity(relationship.entity()->name()) != nullptr) return Successor::notHere();
     const std::uint64_t id = sdai::decodeInstanceName(relationship.GetAttr("RELATINGREFERENCE").encoded());
-    const sdai::EntityDefinition* entity = sourceEntity(relationship.model(), id);
+    const sdai::EntityDefinition* entity = entityOf(relationship.model(), id);
     const bool isFit =
         entity != nullptr && entity->isKindOf("IFCCLASSIFICATIONREFERENCE") &&
         !relatedOf(relationship.model(), relationship.GetAttr("RELATEDRESOURCEOBJECTS").encoded(), "IFCMATERIAL")
@@ -205,7 +205,7 @@ void rebuildMaterialClassification(Rebuilding& rebuilding) {
         if (std::exchange(isFirst, false)) rebuilding.become(record);
     }
     eachReference(related, [&](std::uint64_t id) {
-        const sdai::EntityDefinition* entity = sourceEntity(rebuilding.source(), id);
+        const sdai::EntityDefinition* entity = entityOf(rebuilding.source(), id);
         if (entity != nullptr && !entity->isKindOf("IFCMATERIAL")) rebuilding.note(external, reference(id));
     });
 }

@@ -4,7 +4,6 @@
 
 #include "velkor/sdai/Part21Encoding.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace velkor::exchange {
@@ -38,23 +37,10 @@ const std::string& projectIdentifier(Rebuilding& rebuilding) {
 RuleTable backwardRules() {
     static const std::vector<RebuildRule> rebuilds =
         joined({backwardTimeRules(), backwardReferenceRules(), backwardCoordinateRules(), backwardObjectRules()});
-    static const std::vector<ValueRule> values = joined({backwardReferenceValues(), backwardObjectValues()});
-    return {
-        .rebuild = rebuilds, .values = values, .defaults = backwardDefaults(), .enumerators = backwardEnumerators()};
-}
-
-const ConversionRule& backwardRule(std::string_view name) {
-    const std::span<const RebuildRule> all = backwardRules().rebuild;
-    return std::ranges::find(all, name, [](const RebuildRule& row) { return row.rule.name; })->rule;
-}
-
-bool isUnset(std::string_view value) {
-    return value.empty() || value == sdai::omittedValue || value == sdai::derivedValue;
-}
-
-const sdai::Type& attributeType(const sdai::EntityDefinition& entity, std::string_view attribute) {
-    const auto place = static_cast<std::size_t>(entity.attributeIndex(attribute));
-    return entity.attributes()[place].attribute->type();
+    return {.rebuild = rebuilds,
+            .values = backwardReferenceValues(),
+            .defaults = backwardDefaults(),
+            .enumerators = backwardEnumerators()};
 }
 
 bool takesEntity(const sdai::Type& to, std::string_view entity) {
@@ -66,18 +52,6 @@ bool takesEntity(const sdai::Type& to, std::string_view entity) {
     const auto* select = resolved.asSelect();
     const sdai::EntityDefinition* found = select == nullptr ? nullptr : select->definedType().schema().entity(entity);
     return found != nullptr && select->accepts(*found);
-}
-
-const sdai::EntityDefinition* sourceEntity(const sdai::Model& model, std::uint64_t id) {
-    const auto number = model.file().find(id);
-    return number ? model.entityAt(*number) : nullptr;
-}
-
-std::string encodedOf(const sdai::Model& model, std::uint64_t id, std::string_view attribute) {
-    const auto number = model.file().find(id);
-    std::string text(number ? parameterOf(model, *number, attribute) : std::string_view());
-    while (!text.empty() && text.back() == ' ') text.pop_back();
-    return text.empty() ? std::string(sdai::omittedValue) : text;
 }
 
 std::string newIdentifier(Rebuilding& rebuilding, std::string_view what) {

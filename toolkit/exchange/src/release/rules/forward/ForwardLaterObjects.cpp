@@ -108,6 +108,10 @@ void rebuildPart(Rebuilding& rebuilding) {
     RecordBuilder record = carriedBut(rebuilding, rebuilding.successorOf(rebuilding.id())->name());
     if (record.entity().attributeIndex("USAGETYPE") >= 0 && isUnset(record.value("USAGETYPE")))
         record.set("USAGETYPE", enumerator("NOTDEFINED"));
+    // Where neither entity nor type say of what it is a part.
+    const std::string_view name = rebuilding.entity().name();
+    if (name != "IFCFACILITYPART" && isUnset(record.value("PREDEFINEDTYPE")) && isUnset(record.value("OBJECTTYPE")))
+        record.set("OBJECTTYPE", literal(name));
     rebuilding.become(record);
 }
 
