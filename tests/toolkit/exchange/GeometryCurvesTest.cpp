@@ -430,6 +430,8 @@ TEST(GeometryCurves, WhatHasNoExactFormIsLostWithTheReason) {
         {"tapered-solids", "IFC4", "IFC2X3", "IFCEXTRUDEDAREASOLIDTAPERED(#5,#7,#8,2.,#11)"},
         {"tapered-solids", "IFC4", "IFC2X3", "IFCREVOLVEDAREASOLIDTAPERED(#5,#7,#9,2.,#11)"},
         {"filleted-disks", "IFC4", "IFC2X3", "IFCSWEPTDISKSOLIDPOLYGONAL(#3,0.1,$,0.,0.5,0.2)"},
+        {"filleted-disks", "IFC4", "IFC2X3", "IFCSWEPTDISKSOLIDPOLYGONAL(#20,0.1,$,$,$,1.5)"},
+        {"filleted-disks", "IFC4", "IFC2X3", "IFCSWEPTDISKSOLIDPOLYGONAL(#23,0.1,$,$,$,0.2)"},
         {"reference-sweeps", "IFC4", "IFC2X3", "IFCFIXEDREFERENCESWEPTAREASOLID(#5,#7,#3,0.,1.,#8)"},
         {"reference-sweeps", "IFC4X3_ADD2", "IFC4",
          "IFCDIRECTRIXDERIVEDREFERENCESWEPTAREASOLID(#5,#7,#3,IFCPARAMETERVALUE(0.),IFCPARAMETERVALUE(1.),#8)"},
@@ -450,13 +452,40 @@ TEST(GeometryCurves, WhatHasNoExactFormIsLostWithTheReason) {
         "#3=IFCPOLYLINE((#4,#19));#4=IFCCARTESIANPOINT((0.,0.,0.));#5=IFCRECTANGLEPROFILEDEF(.AREA.,$,#6,1.,2.);"
         "#6=IFCAXIS2PLACEMENT2D(#18,$);#7=IFCAXIS2PLACEMENT3D(#4,$,$);#8=IFCDIRECTION((0.,0.,1.));"
         "#9=IFCAXIS1PLACEMENT(#4,$);#11=IFCCIRCLEPROFILEDEF(.AREA.,$,#6,1.);#18=IFCCARTESIANPOINT((0.,0.));"
-        "#19=IFCCARTESIANPOINT((1.,0.,0.));";
+        "#19=IFCCARTESIANPOINT((1.,0.,0.));#20=IFCPOLYLINE((#4,#19,#22));#22=IFCCARTESIANPOINT((1.,1.,0.));"
+        "#23=IFCPOLYLINE((#4,#19,#4));";
     for (const Case& row : cases) {
         const auto result = toRelease(row.from, std::string("#1=") + row.instance + ";" + others, row.to);
         EXPECT_EQ(result.record(1), "") << row.instance;
         EXPECT_EQ(result.count(row.rule), 1u) << row.instance;
         EXPECT_THAT(result.problems(), IsEmpty()) << row.instance;
     }
+}
+
+TEST(GeometryCurves, FilletsAreArcsThatTouchBothSides) {
+    // To the right, up, and on in the same direction; the first corner is rounded by 0.5, the second is none.
+    const auto result = toRelease("IFC4",
+                                  "#1=IFCSWEPTDISKSOLIDPOLYGONAL(#2,0.1,0.05,$,3.,0.5);#2=IFCPOLYLINE((#3,#4,#5,#6));"
+                                  "#3=IFCCARTESIANPOINT((0.,0.,0.));#4=IFCCARTESIANPOINT((4.,0.,0.));"
+                                  "#5=IFCCARTESIANPOINT((4.,0.,3.));#6=IFCCARTESIANPOINT((4.,0.,5.));",
+                                  "IFC2X3");
+    EXPECT_EQ(result.count("rounded-disks"), 1u);
+    EXPECT_TRUE(result.report.isLossless());
+    const std::vector<double> numbers = numbersOf(result.record(1));
+    ASSERT_THAT(numbers, SizeIs(4));
+    EXPECT_NEAR(numbers[3], 3 + std::numbers::pi / 2, 1e-12);
+    const std::vector<std::string> arcs = result.records("IFCTRIMMEDCURVE");
+    ASSERT_THAT(arcs, SizeIs(1));
+    const std::vector<std::uint64_t> ids = referencesOf(arcs.front());
+    const std::string placement = result.record(referencesOf(result.record(ids.at(0))).at(0));
+    EXPECT_LT(distance(numbersOf(result.record(referencesOf(placement).at(0))), {3.5, 0, 0.5}), 1e-12);
+    EXPECT_LT(distance(numbersOf(result.record(ids.at(1))), {3.5, 0, 0}), 1e-12);
+    EXPECT_LT(distance(numbersOf(result.record(ids.at(2))), {4, 0, 0.5}), 1e-12);
+    const std::vector<std::string> lines = result.records("IFCPOLYLINE");
+    ASSERT_FALSE(lines.empty());
+    const std::vector<std::uint64_t> last = referencesOf(lines.back());
+    EXPECT_LT(distance(numbersOf(result.record(last.at(1))), {4, 0, 5}), 1e-12);
+    EXPECT_THAT(result.problems(CheckScope::Everything), IsEmpty());
 }
 
 TEST(GeometryCurves, SweepsGetTheParametersOfTheirCurves) {

@@ -14,17 +14,6 @@ namespace velkor::exchange {
 
 namespace {
 
-// Radians in one unit of plane angles of the model.
-double angleUnit(Rebuilding& rebuilding) {
-    // No instance has this number: what is remembered is the model's.
-    std::any& remembered = rebuilding.remembered(0);
-    if (!remembered.has_value()) {
-        const double factor = unitReport(rebuilding.source()).angleFactor;
-        remembered = factor > 0 ? factor : 1.0;
-    }
-    return std::any_cast<double>(remembered);
-}
-
 std::optional<double> endOfIndexed(Rebuilding& rebuilding, const DXSdaiAppInstance& curve) {
     const std::optional<PointList> points = PointList::of(curve, "POINTS");
     const std::optional<std::vector<IndexedSegment>> segments = IndexedSegment::of(curve);
@@ -44,7 +33,7 @@ std::optional<double> endOfIndexed(Rebuilding& rebuilding, const DXSdaiAppInstan
             }
             arc = CircularArc::through(through[0], through[1], through[2]);
         }
-        end += arc ? arc->angle / angleUnit(rebuilding) : static_cast<double>(segment.points.size()) - 1;
+        end += arc ? arc->angle / radiansPerAngle(rebuilding) : static_cast<double>(segment.points.size()) - 1;
     }
     return end;
 }
@@ -78,7 +67,7 @@ std::optional<double> endOfTrimmed(Rebuilding& rebuilding, const DXSdaiAppInstan
     const bool isForward = curve.GetAttr("SENSEAGREEMENT").asBoolean().value_or(true);
     double length = isForward ? *second - *first : *first - *second;
     if (basis->IsKindOf("IFCCIRCLE") || basis->IsKindOf("IFCELLIPSE")) {
-        const double turn = 2 * std::numbers::pi / angleUnit(rebuilding);
+        const double turn = 2 * std::numbers::pi / radiansPerAngle(rebuilding);
         length = std::fmod(length, turn);
         if (length <= 0) length += turn;
     } else if (!basis->IsKindOf("IFCLINE")) {
@@ -96,7 +85,7 @@ CurveRange find(Rebuilding& rebuilding, const DXSdaiAppInstance& curve, int dept
     if (curve.IsKindOf("IFCCOMPOSITECURVE")) return {endOfComposite(rebuilding, curve, depth), {}};
     if (curve.IsKindOf("IFCTRIMMEDCURVE")) return {endOfTrimmed(rebuilding, curve), {}};
     if (curve.IsKindOf("IFCCIRCLE") || curve.IsKindOf("IFCELLIPSE"))
-        return {2 * std::numbers::pi / angleUnit(rebuilding), {}};
+        return {2 * std::numbers::pi / radiansPerAngle(rebuilding), {}};
     if (curve.IsKindOf("IFCBSPLINECURVEWITHKNOTS")) {
         const std::vector<double> knots = splineRange(curve);
         if (knots.size() > 1) return {static_cast<double>(knots.size()) - 1, knots};
@@ -105,6 +94,16 @@ CurveRange find(Rebuilding& rebuilding, const DXSdaiAppInstance& curve, int dept
 }
 
 } // namespace
+
+double radiansPerAngle(Rebuilding& rebuilding) {
+    // No instance has this number: what is remembered is the model's.
+    std::any& remembered = rebuilding.remembered(0);
+    if (!remembered.has_value()) {
+        const double factor = unitReport(rebuilding.source()).angleFactor;
+        remembered = factor > 0 ? factor : 1.0;
+    }
+    return std::any_cast<double>(remembered);
+}
 
 const CurveRange& CurveRange::of(Rebuilding& rebuilding, const DXSdaiAppInstance& curve, int depth) {
     static const CurveRange unknown;

@@ -22,4 +22,7 @@ struct CurveRange {
     std::optional<double> converted(double parameter) const;
 };
 
+/// Radians in one unit of plane angles of the source.
+double radiansPerAngle(Rebuilding& rebuilding);
+
 } // namespace velkor::exchange

@@ -60,8 +60,9 @@ constexpr ConversionRule surfaceCurves = {"surface-curves", Effect::Lost,
                                           "The release has no such parameters"};
 constexpr ConversionRule taperedSolids = {"tapered-solids", Effect::Lost, "Tapered extrusions and revolutions are lost",
                                           "The release sweeps one profile that stays what it is"};
-constexpr ConversionRule fillets = {"filleted-disks", Effect::Lost, "Disks swept along a polygon with fillets are lost",
-                                    "The release cannot say the curve with its fillets as one of lines"};
+constexpr ConversionRule fillets = {
+    "filleted-disks", Effect::Lost, "Disks swept along a part of a polygon with fillets are lost",
+    "A part of such a curve, or one whose corners leave no room for the fillets, has no parameters of lines and arcs"};
 constexpr ConversionRule referenceSweeps = {"reference-sweeps", Effect::Lost,
                                             "Profiles swept with a fixed or inclined reference are lost",
                                             "The release has no sweep that turns the profile so along the curve"};

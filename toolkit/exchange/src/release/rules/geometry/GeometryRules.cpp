@@ -10,8 +10,9 @@ namespace {
 std::vector<RebuildRule> allRules() {
     std::vector<RebuildRule> all;
     // Of two rows for one entity the first that is for an instance holds: what is lost comes last.
-    for (const auto part : {faceSetRules(), indexedCurveRules(), splineRules(), brepRules(), curveSegmentRules(),
-                            sweepRules(), plainerShapeRules(), representationTypeRules(), lostGeometryRules()})
+    for (const auto part :
+         {faceSetRules(), indexedCurveRules(), splineRules(), brepRules(), curveSegmentRules(), sweepRules(),
+          filletRules(), plainerShapeRules(), representationTypeRules(), lostGeometryRules()})
         all.insert(all.end(), part.begin(), part.end());
     return all;
 }

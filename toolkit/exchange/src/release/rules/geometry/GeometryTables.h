@@ -14,6 +14,7 @@ std::span<const RebuildRule> splineRules();
 std::span<const RebuildRule> brepRules();
 std::span<const RebuildRule> curveSegmentRules();
 std::span<const RebuildRule> sweepRules();
+std::span<const RebuildRule> filletRules();
 std::span<const RebuildRule> plainerShapeRules();
 std::span<const RebuildRule> representationTypeRules();
 std::span<const RebuildRule> lostGeometryRules();
