@@ -2,6 +2,7 @@
 #include "identifiers/DerivedIdentifier.h"
 #include "RecordText.h"
 #include "release/Rebuilding.h"
+#include "release/rules/forward/ForwardTables.h"
 
 #include "velkor/sdai/Part21Encoding.h"
 #include "velkor/sdai/Part21Lexer.h"
@@ -62,8 +63,35 @@ void rebuildWith(Rebuilding& rebuilding, std::string_view entity, std::string_vi
     rebuilding.become(record);
 }
 
+/// What types have no attributes for is said by properties, unless it is what a style has anyway.
+void keepStyle(Rebuilding& rebuilding, RecordBuilder& record, std::string_view name) {
+    std::vector<std::string_view> attributes;
+    if (rebuilding.encoded("CONSTRUCTIONTYPE") != ".NOTDEFINED.") attributes.push_back("ConstructionType");
+    if (rebuilding.encoded("SIZEABLE") != ".F.") attributes.push_back("Sizeable");
+    const std::vector<std::string> properties = forward::propertiesOf(rebuilding, attributes);
+    if (properties.empty()) return;
+    RecordBuilder set = forward::objectBeside(rebuilding, "IFCPROPERTYSET", name);
+    set.set("NAME", literal(name));
+    set.set("HASPROPERTIES", listOf(properties));
+    std::string sets(record.value("HASPROPERTYSETS"));
+    if (isUnset(sets))
+        sets.assign(1, '(');
+    else
+        sets.back() = ',';
+    record.set("HASPROPERTYSETS", (sets += reference(rebuilding.add(set))) += ')');
+}
+
+void rebuildDoorType(Rebuilding& rebuilding) {
+    RecordBuilder record = rebuilding.carried(*rebuilding.target().entity("IFCDOORTYPE"));
+    keepStyle(rebuilding, record, "IfcDoorStyle");
+    rebuilding.become(record);
+}
+
 void rebuildWindowType(Rebuilding& rebuilding) {
-    rebuildWith(rebuilding, "IFCWINDOWTYPE", "OPERATIONTYPE", "PARTITIONINGTYPE");
+    RecordBuilder record = rebuilding.carried(*rebuilding.target().entity("IFCWINDOWTYPE"));
+    forward::carry(rebuilding, "OPERATIONTYPE", record, "PARTITIONINGTYPE");
+    keepStyle(rebuilding, record, "IfcWindowStyle");
+    rebuilding.become(record);
 }
 
 void rebuildWindowStyle(Rebuilding& rebuilding) {
@@ -172,9 +200,11 @@ void rebuildOverriding(Rebuilding& rebuilding) {
     rebuilding.become(base);
 }
 
-constexpr ConversionRule styleToType{"style-to-type", Effect::Rebuilt,
-                                     "Door and window styles become door and window types",
-                                     "Since IFC4 doors and windows have types like all other elements"};
+constexpr ConversionRule styleToType{
+    "style-to-type", Effect::Rebuilt,
+    "Door and window styles become door and window types; their construction, and that "
+    "they are sizeable, become properties",
+    "Since IFC4 doors and windows have types like all other elements"};
 constexpr ConversionRule typeToStyle{"type-to-style", Effect::Rebuilt,
                                      "Door and window types become door and window styles",
                                      "IFC2X3 says what doors and windows have in common with styles"};
@@ -203,7 +233,7 @@ constexpr ConversionRule overriding{"overriding-set", Effect::Rebuilt,
                                     "Since IFC4 a set that an object has overrides that of its type by name"};
 
 constexpr RebuildRule rebuilds[] = {
-    {styleToType, "IFCDOORSTYLE", becomesDoorType},
+    {styleToType, "IFCDOORSTYLE", becomesDoorType, nullptr, rebuildDoorType},
     {styleToType, "IFCWINDOWSTYLE", becomesWindowType, nullptr, rebuildWindowType},
     {typeToStyle, "IFCDOORTYPE", becomesDoorStyle},
     {typeToStyle, "IFCWINDOWTYPE", becomesWindowStyle, nullptr, rebuildWindowStyle},

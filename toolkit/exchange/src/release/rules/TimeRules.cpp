@@ -2,6 +2,7 @@
 #include "identifiers/DerivedIdentifier.h"
 #include "RecordText.h"
 #include "release/Rebuilding.h"
+#include "release/rules/forward/ForwardTables.h"
 #include "release/rules/IsoTimes.h"
 
 #include "velkor/sdai/Part21Encoding.h"
@@ -16,6 +17,10 @@ namespace velkor::exchange {
 namespace {
 
 constexpr std::string_view midnight = "T00:00:00";
+
+constexpr ConversionRule timeOfDate{"time-of-date", Effect::Lost,
+                                    "A time of day is dropped where only a date may stand",
+                                    "The attribute is a date in the target"};
 
 /// Entities of IFC2X3 and types of later releases that say the same.
 bool isDateEntity(std::string_view name) {
@@ -108,6 +113,8 @@ std::optional<std::vector<std::string>> toText(Rebuilding& rebuilding, std::stri
     if (type == nullptr || !isDateType(type->name())) return std::nullopt;
     const std::string text = textAs(type->name(), parts);
     if (text.empty()) return std::nullopt;
+    const bool isMidnight = parts.second.empty() || parts.second.starts_with("00:00:00");
+    if (type->name() == "IFCDATE" && !isMidnight) rebuilding.note(timeOfDate, parts.second);
     return std::vector{literal(text)};
 }
 
@@ -189,6 +196,19 @@ std::optional<std::vector<std::string>> toDuration(Rebuilding& rebuilding, std::
     return std::vector{literal("PT" + number + "S")};
 }
 
+std::optional<std::vector<std::string>> toLag(Rebuilding& rebuilding, std::string_view encoded, const sdai::Type& from,
+                                              const sdai::Type& to) {
+    const auto* entity = to.resolved().asEntity();
+    if (entity == nullptr || entity->name() != "IFCLAGTIME") return std::nullopt;
+    const auto* type = rebuilding.target().definition().definedType("IFCDURATION");
+    const auto text = type == nullptr ? std::nullopt : toDuration(rebuilding, encoded, from, *type);
+    if (!text) return std::nullopt;
+    RecordBuilder lag(rebuilding.target(), *entity);
+    lag.set("LAGVALUE", typed("IFCDURATION", text->front()));
+    lag.set("DURATIONTYPE", enumerator("NOTDEFINED"));
+    return std::vector{reference(rebuilding.add(lag))};
+}
+
 std::optional<std::vector<std::string>> toMeasure(Rebuilding& rebuilding, std::string_view encoded, const sdai::Type&,
                                                   const sdai::Type& to) {
     if (!isNamed(to, "IFCTIMEMEASURE") || encoded.empty()) return std::nullopt;
@@ -211,6 +231,22 @@ Successor absorbLag(const Releases& releases, DXSdaiAppInstance& time) {
     if (releases.target.entity("IFCLAGTIME") != nullptr) return Successor::notHere();
     const std::string_view lag = time.GetAttr("LAGVALUE").encoded();
     return lag.starts_with("IFCDURATION") && isoDuration(textOf(lag)) ? Successor::absorbed() : Successor::lost();
+}
+
+// Dates are values since IFC4, and no longer what properties refer to.
+Successor becomesValue(const Releases& releases, DXSdaiAppInstance& property) {
+    if (releases.target.entity("IFCCALENDARDATE") != nullptr) return Successor::notHere();
+    const sdai::Model& model = property.model();
+    const auto number = model.file().find(sdai::decodeInstanceName(property.GetAttr("PROPERTYREFERENCE").encoded()));
+    const sdai::EntityDefinition* entity = number ? model.entityAt(*number) : nullptr;
+    return entity != nullptr && isDateEntity(entity->name()) ? Successor::of(releases, "IFCPROPERTYSINGLEVALUE")
+                                                             : Successor::notHere();
+}
+
+void rebuildValue(Rebuilding& rebuilding) {
+    RecordBuilder record = rebuilding.carried(*rebuilding.target().entity("IFCPROPERTYSINGLEVALUE"));
+    forward::carry(rebuilding, "PROPERTYREFERENCE", record, "NOMINALVALUE");
+    rebuilding.become(record);
 }
 
 // The control that holds the times of a task of IFC2X3 is what later releases call the time of the task.
@@ -307,7 +343,15 @@ constexpr ConversionRule timeControl{
     "The time of a task becomes a schedule time control, assigned with its work schedule",
     "IFC2X3 has times of tasks for a schedule; those of tasks in none are lost"};
 
+constexpr ConversionRule lag{"number-to-lag", Effect::Converted, "The lag of a sequence becomes a lag time",
+                             "Since IFC4 lags are instances; of which kind they are was never said"};
+constexpr ConversionRule dateValue{"date-property", Effect::Rebuilt,
+                                   "A property that refers to a date or time becomes a single value",
+                                   "Since IFC4 dates are values, and no longer what properties refer to"};
+
 constexpr RebuildRule rebuilds[] = {
+    {dateValue, "IFCPROPERTYREFERENCEVALUE", becomesValue, nullptr, rebuildValue},
+    {timeOfDate, "IFCDATEANDTIME", notHere},
     {dateText_, "IFCCALENDARDATE", absorbDate},
     {dateText_, "IFCLOCALTIME", absorbDate},
     {dateText_, "IFCDATEANDTIME", absorbDate},
@@ -320,10 +364,7 @@ constexpr RebuildRule rebuilds[] = {
 };
 
 constexpr ValueRule values[] = {
-    {dateText_, toText},
-    {textDate, toInstance},
-    {duration, toDuration},
-    {seconds, toMeasure},
+    {dateText_, toText}, {textDate, toInstance}, {duration, toDuration}, {lag, toLag}, {seconds, toMeasure},
 };
 
 } // namespace

@@ -46,9 +46,6 @@ constexpr ConversionRule varying{"varying-load", Effect::Rebuilt,
                                  "said in numbers"};
 constexpr ConversionRule constant{"constant-load", Effect::Converted, "A linear or planar action is a constant one",
                                   "IFC2X3 has others for loads that vary"};
-constexpr ConversionRule undefined{"undefined-type", Effect::Converted, "A required predefined type is NOTDEFINED",
-                                   "The source says no type"};
-
 struct MovedType {
     std::string_view entity;
     std::string_view before;
@@ -349,15 +346,6 @@ void rebuildPort(Rebuilding& rebuilding) {
     rebuilding.become(record);
 }
 
-std::optional<std::string> notDefined(Rebuilding& rebuilding) {
-    const sdai::EntityDefinition* entity = rebuilding.successorOf(rebuilding.id());
-    if (entity == nullptr || entity->attributeIndex("PREDEFINEDTYPE") < 0) return std::nullopt;
-    return hasEnumerator(attributeType(*entity, "PREDEFINEDTYPE"), "NOTDEFINED") &&
-                   attributeType(*entity, "PREDEFINEDTYPE").resolved().asEnumeration() != nullptr
-               ? std::optional(enumerator("NOTDEFINED"))
-               : std::nullopt;
-}
-
 constexpr RebuildRule rebuilds[] = {
     {moved, "IFCWASTETERMINALTYPE", becomesMoved, nullptr, rebuildMoved},
     {moved, "IFCELECTRICAPPLIANCETYPE", becomesMoved, nullptr, rebuildMoved},
@@ -385,7 +373,6 @@ constexpr RebuildRule rebuilds[] = {
 constexpr DefaultRule defaults[] = {
     {constant, "IFCSTRUCTURALLINEARACTION", "PREDEFINEDTYPE", ".CONST."},
     {constant, "IFCSTRUCTURALPLANARACTION", "PREDEFINEDTYPE", ".CONST."},
-    {undefined, "IFCROOT", "PREDEFINEDTYPE", nullptr, notDefined},
 };
 
 } // namespace

@@ -19,6 +19,13 @@ constexpr ConversionRule sets{"attributes-to-set", Effect::Rebuilt,
 constexpr ConversionRule sounds{"sound-values", Effect::Rebuilt,
                                 "Sound values become the rows of a table from frequencies to levels",
                                 "Since IFC4 sound is said by tables in property sets"};
+constexpr ConversionRule centres{"centre-of-gravity", Effect::Rebuilt,
+                                 "The centre of gravity of a profile becomes profile properties of it",
+                                 "Since IFC4 it stands in the published property set for profiles"};
+constexpr ConversionRule changed{"change-date", Effect::Converted,
+                                 "An owner history with a change but no date of it has that of its creation",
+                                 "Since IFC4 a change has a date; no later one is known"};
+
 struct PropertyGroup {
     /// Of the source, upper case; subtypes are meant too.
     std::string_view entity;
@@ -121,7 +128,48 @@ Successor absorb(const Releases& releases, DXSdaiAppInstance& instance) {
     return releases.target.entity(instance.entity()->name()) == nullptr ? Successor::absorbed() : Successor::notHere();
 }
 
+constexpr std::string_view centre[] = {"CentreOfGravityInX", "CentreOfGravityInY"};
+
+Successor becomesPlainProfile(const Releases& releases, DXSdaiAppInstance& profile) {
+    const Successor same = Successor::of(releases, profile.entity()->name());
+    if (same.entity == nullptr) return same;
+    for (const char* name : {"CENTREOFGRAVITYINX", "CENTREOFGRAVITYINY"})
+        if (same.entity->attributeIndex(name) < 0 && profile.TestAttr(name)) return same;
+    return Successor::notHere();
+}
+
+void rebuildPlainProfile(Rebuilding& rebuilding) {
+    rebuilding.become(rebuilding.carried(*rebuilding.successorOf(rebuilding.id())));
+    const std::vector<std::string> properties = propertiesOf(rebuilding, centre);
+    if (properties.empty()) return;
+    RecordBuilder record(rebuilding.target(), "IFCPROFILEPROPERTIES");
+    record.set("NAME", literal("Pset_ProfileMechanical"));
+    record.set("PROPERTIES", listOf(properties));
+    record.set("PROFILEDEFINITION", reference(rebuilding.id()));
+    rebuilding.add(record);
+}
+
+/// Of a release that requires an action but no date to one that wants the date.
+Successor becomesDated(const Releases& releases, DXSdaiAppInstance& history) {
+    const Successor same = Successor::of(releases, "IFCOWNERHISTORY");
+    const sdai::Attribute* before = history.entity()->attribute("CHANGEACTION");
+    const sdai::Attribute* after = same.entity == nullptr ? nullptr : same.entity->attribute("CHANGEACTION");
+    if (before == nullptr || after == nullptr || before->isOptional() || !after->isOptional())
+        return Successor::notHere();
+    const std::string_view action = history.GetAttr("CHANGEACTION").encoded();
+    const bool isChange = action.ends_with("ADDED.") || action.ends_with("DELETED.") || action == ".MODIFIED.";
+    return isChange && !history.TestAttr("LASTMODIFIEDDATE") ? same : Successor::notHere();
+}
+
+void rebuildDated(Rebuilding& rebuilding) {
+    RecordBuilder record = rebuilding.carried(*rebuilding.successorOf(rebuilding.id()));
+    record.set("LASTMODIFIEDDATE", std::string(rebuilding.encoded("CREATIONDATE")));
+    rebuilding.become(record);
+}
+
 constexpr RebuildRule rebuilds[] = {
+    {centres, "IFCPARAMETERIZEDPROFILEDEF", becomesPlainProfile, nullptr, rebuildPlainProfile},
+    {changed, "IFCOWNERHISTORY", becomesDated, nullptr, rebuildDated},
     {sets, "IFCENERGYPROPERTIES", becomesSet, nullptr, rebuildSet},
     {sets, "IFCFLUIDFLOWPROPERTIES", becomesSet, nullptr, rebuildSet},
     {sets, "IFCSOUNDPROPERTIES", becomesSet, nullptr, rebuildSet},

@@ -22,8 +22,8 @@ struct AllRules {
 
     AllRules() {
         for (const RuleTable& part :
-             {lagRules(), processRules(), objectRules(), laterObjectRules(), propertyRules(), controlRules(),
-              referenceRules(), costRules(), presentationRules(), enumeratorRules()}) {
+             {processRules(), objectRules(), laterObjectRules(), propertyRules(), controlRules(), referenceRules(),
+              costRules(), presentationRules(), enumeratorRules()}) {
             rebuilds.insert(rebuilds.end(), part.rebuild.begin(), part.rebuild.end());
             values.insert(values.end(), part.values.begin(), part.values.end());
             defaults.insert(defaults.end(), part.defaults.begin(), part.defaults.end());

@@ -10,7 +10,6 @@
 
 namespace velkor::exchange::forward {
 
-RuleTable lagRules();
 RuleTable processRules();
 RuleTable objectRules();
 RuleTable laterObjectRules();
