@@ -295,6 +295,52 @@ TEST(Backward, MeasuresTimesInTheUnitOfTheProject) {
     EXPECT_THAT(toRelease("IFC4", owner + text + hours, "IFC2X3").record(1), HasSubstr(",36.,"));
 }
 
+TEST(Backward, TakesEvenLoadsAndPlainUnits) {
+    const std::string load = "#2=IFCSTRUCTURALLOADLINEARFORCE($,1.,$,$,$,$,$);";
+    const std::string varying =
+        "#2=IFCSTRUCTURALLOADCONFIGURATION($,(#3),$);#3=IFCSTRUCTURALLOADLINEARFORCE($,1.,$,$,$,$,$);";
+    const auto action = [](const std::string& loads) {
+        return "#1=IFCSTRUCTURALCURVEACTION(" + root('A') + named + "#2,.GLOBAL_COORDS.,$,$,.CONST.);" + loads;
+    };
+    expectAll({
+        {"IFC4", action(load), "IFC2X3",
+         "IFCSTRUCTURALLINEARACTION(" + root('A') + named + "#2,.GLOBAL_COORDS.,.F.,$,.TRUE_LENGTH.)", "even-action"},
+        {"IFC4", action(varying), "IFC2X3", "", "structural-activity"},
+        {"IFC4", "#1=IFCSTRUCTURALSURFACEMEMBERVARYING(" + root('A') + named + ".SHELL.,0.2);", "IFC2X3",
+         "IFCSTRUCTURALSURFACEMEMBER(" + root('A') + named + ".SHELL.,0.2)", "varying-member"},
+        {"IFC4",
+         "#1=IFCCONVERSIONBASEDUNITWITHOFFSET(#2,.THERMODYNAMICTEMPERATUREUNIT.,'FAHRENHEIT',#3,459.67);"
+         "#2=IFCDIMENSIONALEXPONENTS(0,0,0,0,1,0,0);#3=IFCMEASUREWITHUNIT(IFCREAL(1.8),#4);"
+         "#4=IFCSIUNIT(*,.THERMODYNAMICTEMPERATUREUNIT.,$,.KELVIN.);",
+         "IFC2X3", "IFCCONVERSIONBASEDUNIT(#2,.THERMODYNAMICTEMPERATUREUNIT.,'FAHRENHEIT',#3)", "unit-offset"},
+    });
+}
+
+TEST(Backward, SaysWhatItCannotKeep) {
+    const std::string walls =
+        "#2=IFCWALL(" + root('B') + ",$,$,$,$,$,$,$);#3=IFCWALL(" + root('C') + ",$,$,$,$,$,$,$);";
+    const std::string along = "#2=IFCAXIS2PLACEMENTLINEAR(#3,$,$);#3=IFCPOINTBYDISTANCEEXPRESSION(IFCLENGTHMEASURE(1.),"
+                              "$,$,$,#4);#4=IFCPOLYLINE((#5,#6));#5=IFCCARTESIANPOINT((0.,0.));"
+                              "#6=IFCCARTESIANPOINT((9.,0.));";
+    const std::vector<Case> cases = {
+        {"IFC4", "#1=IFCWORKCALENDAR(" + root('A') + ",'n',$,$,$,$,$,$);", "IFC2X3", "", "calendars"},
+        {"IFC4",
+         "#1=IFCPROPERTYSETTEMPLATE(" + root('A') + ",'n',$,$,$,(#2));#2=IFCSIMPLEPROPERTYTEMPLATE(" + root('B') +
+             ",'p',$,$,$,$,$,$,$,$,$);",
+         "IFC2X3", "", "templates"},
+        {"IFC4", "#1=IFCRELINTERFERESELEMENTS(" + root('A') + ",$,$,#2,#3,$,$,.T.);" + walls, "IFC2X3", "",
+         "relationship-lost"},
+        {"IFC4", "#1=IFCPROJECTLIBRARY(" + root('A') + ",'n',$,$,$,$,$,$);", "IFC2X3", "", "project-library"},
+        {"IFC4", "#1=IFCTABLECOLUMN($,'n',$,$,$);", "IFC2X3", "", "table-columns"},
+        {"IFC4X3_ADD2", "#1=IFCALIGNMENTVERTICALSEGMENT($,$,0.,1.,0.,0.,0.,$,.CONSTANTGRADIENT.);", "IFC4", "",
+         "alignment-parameters"},
+        {"IFC4X3_ADD2", "#1=IFCGEOGRAPHICCRS('n',$,$,$,$,$);", "IFC4", "", "coordinate-system"},
+        {"IFC4X3_ADD2", "#1=IFCLINEARPLACEMENT($,#2,$);" + along, "IFC4", "", "linear-place"},
+    };
+    expectAll(cases);
+    for (const Case& one : cases) EXPECT_FALSE(toRelease(one.from, owner + one.instances, one.to).report.isLossless());
+}
+
 TEST(Backward, CallsEnumeratorsWhatTheReleaseCallsThem) {
     const auto door = [](const std::string& operation) {
         return "IFCDOORTYPE(" + root('A') + ",'n',$,$,$,$,$,$,.DOOR.,." + operation + ".,$,$)";
