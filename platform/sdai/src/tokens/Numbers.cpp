@@ -88,6 +88,7 @@ bool decodeInteger(std::string_view token, std::int64_t& value) noexcept {
 
 std::uint64_t decodeInstanceName(std::string_view token) noexcept {
     std::uint64_t id = 0;
+    if (token.empty() || token.front() != '#') return 0;
     const auto result = std::from_chars(token.data() + 1, token.data() + token.size(), id);
     return result.ec == std::errc() ? id : 0;
 }

@@ -90,7 +90,7 @@ VELKOR_PLATFORM_API std::string decodeString(std::string_view token, std::string
 VELKOR_PLATFORM_API bool decodeReal(std::string_view token, double& value) noexcept;
 /// False when the text is no integer or does not fit.
 VELKOR_PLATFORM_API bool decodeInteger(std::string_view token, std::int64_t& value) noexcept;
-/// An InstanceName token's number; 0, which no instance has, when it needs more than 64 bits.
+/// An InstanceName token's number; 0, which no instance has, when it needs more than 64 bits, and for other texts.
 VELKOR_PLATFORM_API std::uint64_t decodeInstanceName(std::string_view token) noexcept;
 
 } // namespace velkor::sdai

@@ -159,9 +159,13 @@ void rebuildRounded(Rebuilding& rebuilding) {
 }
 
 constexpr RebuildRule rules[] = {
-    {{"rounded-disks", Effect::Rebuilt, "Disks swept along a polygon with fillets become disks swept along lines and arcs",
+    {{"rounded-disks", Effect::Rebuilt,
+      "Disks swept along a polygon with fillets become disks swept along lines and arcs",
       "A fillet is the arc of its radius that touches both sides of a corner"},
-     "IFCSWEPTDISKSOLIDPOLYGONAL", becomesRounded, planRounded, rebuildRounded},
+     "IFCSWEPTDISKSOLIDPOLYGONAL",
+     becomesRounded,
+     planRounded,
+     rebuildRounded},
 };
 
 } // namespace
