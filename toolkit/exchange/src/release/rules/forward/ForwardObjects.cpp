@@ -190,9 +190,11 @@ Successor becomesProxy(const Releases& releases, DXSdaiAppInstance& element) {
     return replacedBy(releases, element, "IFCBUILDINGELEMENTPROXY");
 }
 
-/// Keeps the name of the entity where ObjectType is free.
+/// Keeps the name of the entity where ObjectType is free. A proxy must have a name.
 void rebuildNamed(Rebuilding& rebuilding) {
     RecordBuilder record = rebuilding.carried(*rebuilding.successorOf(rebuilding.id()));
+    if (record.entity().isKindOf("IFCBUILDINGELEMENTPROXY") && isUnset(record.value("NAME")))
+        record.set("NAME", literal(rebuilding.entity().name()));
     if (isUnset(record.value("OBJECTTYPE"))) record.set("OBJECTTYPE", literal(rebuilding.entity().name()));
     rebuilding.become(record);
 }

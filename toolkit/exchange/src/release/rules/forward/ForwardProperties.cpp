@@ -128,7 +128,8 @@ Successor absorb(const Releases& releases, DXSdaiAppInstance& instance) {
     return releases.target.entity(instance.entity()->name()) == nullptr ? Successor::absorbed() : Successor::notHere();
 }
 
-constexpr std::string_view centre[] = {"CentreOfGravityInX", "CentreOfGravityInY"};
+constexpr std::pair<std::string_view, std::string_view> centre[] = {{"CENTREOFGRAVITYINX", "CentreOfGravityInX"},
+                                                                    {"CENTREOFGRAVITYINY", "CentreOfGravityInY"}};
 
 Successor becomesPlainProfile(const Releases& releases, DXSdaiAppInstance& profile) {
     const Successor same = Successor::of(releases, profile.entity()->name());
@@ -140,7 +141,12 @@ Successor becomesPlainProfile(const Releases& releases, DXSdaiAppInstance& profi
 
 void rebuildPlainProfile(Rebuilding& rebuilding) {
     rebuilding.become(rebuilding.carried(*rebuilding.successorOf(rebuilding.id())));
-    const std::vector<std::string> properties = propertiesOf(rebuilding, centre);
+    std::vector<std::string> properties;
+    for (const auto& [attribute, name] : centre) {
+        const std::string_view value = rebuilding.encoded(attribute);
+        // The published set has lengths of any sign.
+        if (!isUnset(value)) properties.push_back(addProperty(rebuilding, name, typed("IFCLENGTHMEASURE", value)));
+    }
     if (properties.empty()) return;
     RecordBuilder record(rebuilding.target(), "IFCPROFILEPROPERTIES");
     record.set("NAME", literal("Pset_ProfileMechanical"));
