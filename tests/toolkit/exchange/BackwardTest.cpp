@@ -336,6 +336,9 @@ TEST(Backward, SaysWhatItCannotKeep) {
          "alignment-parameters"},
         {"IFC4X3_ADD2", "#1=IFCGEOGRAPHICCRS('n',$,$,$,$,$);", "IFC4", "", "coordinate-system"},
         {"IFC4X3_ADD2", "#1=IFCLINEARPLACEMENT($,#2,$);" + along, "IFC4", "", "linear-place"},
+        // A profile that is known by its name alone takes along what mirrors it.
+        {"IFC4", "#1=IFCMIRROREDPROFILEDEF(.AREA.,$,#2,*,$);#2=IFCPROFILEDEF(.AREA.,'n');", "IFC2X3", "",
+         "required-missing"},
     };
     expectAll(cases);
     for (const Case& one : cases) EXPECT_FALSE(toRelease(one.from, owner + one.instances, one.to).report.isLossless());

@@ -229,7 +229,8 @@ Successor becomesAlignment(const Releases& releases, DXSdaiAppInstance& alignmen
 
 void rebuildAlignment(Rebuilding& rebuilding) {
     RecordBuilder record = rebuilding.carried(*rebuilding.target().entity(rebuilding.entity().name()));
-    record.set("AXIS", reference(axisOf(rebuilding.releases(), rebuilding.instance())));
+    const std::uint64_t axis = axisOf(rebuilding.releases(), rebuilding.instance());
+    if (rebuilding.successorOf(axis) != nullptr) record.set("AXIS", reference(axis));
     rebuilding.become(record);
 }
 

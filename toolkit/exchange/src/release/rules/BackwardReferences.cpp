@@ -233,11 +233,8 @@ void rebuildOfProperties(Rebuilding& rebuilding) {
     constexpr const Relationship& names = relationships[Index];
     const sdai::EntityDefinition& target = *rebuilding.target().entity(names.target);
     RecordBuilder record = rebuilding.carried(target);
-    record.set(names.single, std::string(rebuilding.encoded(names.singleBefore)));
-    if (auto members = rebuilding.translated(rebuilding.encoded("RELATEDRESOURCEOBJECTS"),
-                                             attributeType(rebuilding.entity(), "RELATEDRESOURCEOBJECTS"),
-                                             attributeType(target, names.several)))
-        record.set(names.several, std::move(*members));
+    carry(rebuilding, names.singleBefore, record, names.single);
+    carry(rebuilding, "RELATEDRESOURCEOBJECTS", record, names.several);
     rebuilding.become(record);
 }
 
@@ -251,10 +248,11 @@ Successor becomesApprovals(const Releases& releases, DXSdaiAppInstance& relation
 void rebuildApprovals(Rebuilding& rebuilding) {
     RecordBuilder record(rebuilding.target(), "IFCAPPROVALRELATIONSHIP");
     for (const char* attribute : {"RELATINGAPPROVAL", "NAME", "DESCRIPTION"})
-        record.set(attribute, std::string(rebuilding.encoded(attribute)));
+        carry(rebuilding, attribute, record, attribute);
     if (isUnset(record.value("NAME"))) record.set("NAME", literal({}));
     bool isFirst = true;
     eachReference(rebuilding.encoded("RELATEDAPPROVALS"), [&](std::uint64_t id) {
+        if (rebuilding.successorOf(id) == nullptr) return;
         record.set("RELATEDAPPROVAL", reference(id));
         if (!isFirst) rebuilding.add(record);
         if (std::exchange(isFirst, false)) rebuilding.become(record);

@@ -86,9 +86,7 @@ std::uint64_t makeMirror(Rebuilding& rebuilding) {
 }
 
 void rebuildMirrored(Rebuilding& rebuilding) {
-    RecordBuilder record(rebuilding.target(), "IFCDERIVEDPROFILEDEF");
-    for (const std::string_view attribute : {"PROFILETYPE", "PROFILENAME", "PARENTPROFILE", "LABEL"})
-        record.set(attribute, std::string(rebuilding.encoded(attribute)));
+    RecordBuilder record = rebuilding.carried(*rebuilding.target().entity("IFCDERIVEDPROFILEDEF"));
     record.set("OPERATOR", reference(rebuilding.shared("mirror", makeMirror)));
     rebuilding.become(record);
 }
