@@ -196,6 +196,8 @@ void rebuildProxy(Rebuilding& rebuilding) {
     rebuilding.become(record);
 }
 
+constexpr int mostAxisItems = 16;
+
 /// A curve of the axis representation that the target has too; 0 when there is none.
 std::uint64_t axisOf(const Releases& releases, const DXSdaiAppInstance& alignment) {
     const DXSdaiAppInstance* shape = alignment.GetAttr("REPRESENTATION").asInstance();
@@ -204,7 +206,10 @@ std::uint64_t axisOf(const Releases& releases, const DXSdaiAppInstance& alignmen
         const DXSdaiAppInstance* representation = one.asInstance();
         if (representation == nullptr || representation->GetAttr("REPRESENTATIONIDENTIFIER").asString() != "Axis")
             continue;
+        int looks = 0;
         for (const sdai::Primitive item : representation->GetAttr("ITEMS").asAggregate()) {
+            // Many alignments may share one shape with many items; an axis is one of few.
+            if (++looks > mostAxisItems) break;
             const DXSdaiAppInstance* curve = item.asInstance();
             if (curve == nullptr || !curve->IsKindOf("IFCCURVE")) continue;
             const sdai::EntityDefinition* same = releases.target.entity(curve->entity()->name());
@@ -403,7 +408,14 @@ bool planSizes(Planning& planning, DXSdaiAppInstance& bar) {
     for (const std::uint64_t user : planning.users(bar.id())) {
         const sdai::EntityDefinition* entity = entityOf(model, user);
         if (entity == nullptr || !entity->isKindOf("IFCRELDEFINESBYTYPE")) continue;
-        const std::uint64_t type = sdai::decodeInstanceName(encodedOf(model, user, "RELATINGTYPE"));
+        // Behind a list of all that have the type: to be read once.
+        struct RelatedType {
+            std::uint64_t id;
+        };
+        std::any& known = planning.remembered(user);
+        if (!known.has_value()) known = RelatedType{sdai::decodeInstanceName(encodedOf(model, user, "RELATINGTYPE"))};
+        const auto* related = std::any_cast<RelatedType>(&known);
+        const std::uint64_t type = related == nullptr ? 0 : related->id;
         for (const char* size : missingSizes(planning.releases(), bar))
             if (const std::string_view value = type == 0 ? sdai::omittedValue : encodedOf(model, type, size);
                 !isUnset(value))
