@@ -133,13 +133,15 @@ TEST(Forward, SaysProcessesAsTasks) {
 TEST(Forward, TellsElementsApartByTheirTypes) {
     const std::string type = "#1=IFCAIRTERMINALTYPE(~A,'t',$,$,$,$,$,$,.GRILLE.);"
                              "#2=IFCFLOWTERMINAL(~B,'f',$,$,$,$,'tag');#3=IFCFLOWTERMINAL(~C,'g',$,$,$,$,$);"
-                             "#4=IFCRELDEFINESBYTYPE(~D,$,$,(#2),#1);";
+                             "#4=IFCRELDEFINESBYTYPE(~D,$,$,(#2,#5),#1);#5=IFCFLOWSEGMENT(~E,$,$,$,$,$,$);";
     expectRows({
         {"element-by-type",
          "IFC2X3",
          "IFC4",
          type,
-         {{2, "IFCAIRTERMINAL(~B,'f',$,$,$,$,'tag',$)"}, {3, "IFCFLOWTERMINAL(~C,'g',$,$,$,$,$)"}}},
+         {{2, "IFCAIRTERMINAL(~B,'f',$,$,$,$,'tag',$)"},
+          {3, "IFCFLOWTERMINAL(~C,'g',$,$,$,$,$)"},
+          {5, "IFCFLOWSEGMENT(~E,$,$,$,$,$,$)"}}},
         {"type-moved",
          "IFC2X3",
          "IFC4",
@@ -178,6 +180,16 @@ TEST(Forward, TellsElementsApartByTheirTypes) {
          "#3=IFCRELCONNECTSPORTTOELEMENT(~C,$,$,#2,#1);",
          {{3, "IFCRELNESTS(~C,$,$,#1,(#2))"}}},
     });
+}
+
+TEST(Forward, LeavesElementsOfAReleaseThatTellsThemApart) {
+    const auto result = toRelease("IFC4",
+                                  owner + spelled("#1=IFCAIRTERMINALTYPE(~A,'t',$,$,$,$,$,$,$,.GRILLE.);"
+                                                  "#2=IFCFLOWTERMINAL(~B,'f',$,$,$,$,$);"
+                                                  "#3=IFCRELDEFINESBYTYPE(~C,$,$,(#2),#1);"),
+                                  "IFC4X3_ADD2");
+    EXPECT_EQ(result.record(2), spelled("IFCFLOWTERMINAL(~B,'f',$,$,$,$,$)"));
+    EXPECT_EQ(result.count("element-by-type"), 0u);
 }
 
 TEST(Forward, KeepsWhatHasNoAttributeAsProperties) {

@@ -116,6 +116,17 @@ std::optional<std::vector<std::string>> asSurface(Rebuilding& rebuilding, std::s
     return std::vector{std::move(*item)};
 }
 
+/// Whether so many bytes more may stand where callouts are used: what one of them says once, each of its users says.
+bool affords(Rebuilding& rebuilding, std::uint64_t bytes) {
+    // What the model as a whole has is remembered under an id that no instance has.
+    std::any& known = rebuilding.remembered(~std::uint64_t{1});
+    const auto* before = std::any_cast<std::uint64_t>(&known);
+    const std::uint64_t sum = (before == nullptr ? 0 : *before) + bytes;
+    known = sum;
+    constexpr std::uint64_t least = 1 << 22;
+    return sum <= least + 8 * rebuilding.source().file().text().size();
+}
+
 std::optional<std::vector<std::string>> asContents(Rebuilding& rebuilding, std::string_view encoded, const sdai::Type&,
                                                    const sdai::Type& to) {
     const sdai::EntityDefinition* entity = entityOf(rebuilding.source(), encoded);
@@ -124,7 +135,11 @@ std::optional<std::vector<std::string>> asContents(Rebuilding& rebuilding, std::
         return std::nullopt;
     std::vector<std::string> items;
     const std::uint64_t callout = sdai::decodeInstanceName(encoded);
-    for (const std::uint64_t id : idsOf(encodedOf(rebuilding.source(), callout, "CONTENTS"))) {
+    // Finding where they end takes as long as reading them.
+    if (!affords(rebuilding, 0)) return std::nullopt;
+    const std::string_view contents = encodedOf(rebuilding.source(), callout, "CONTENTS");
+    if (!affords(rebuilding, contents.size())) return std::nullopt;
+    for (const std::uint64_t id : idsOf(contents)) {
         const sdai::EntityDefinition* content = entityOf(rebuilding.source(), id);
         if (content == nullptr || !isOccurrence(content->name())) continue;
         if (auto item = itemOf(rebuilding, id, to)) items.push_back(std::move(*item));
