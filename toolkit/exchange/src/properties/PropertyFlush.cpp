@@ -80,8 +80,8 @@ void PropertyMover::flushRelationships() {
         if (_droppedRelationships.contains(position)) continue;
         std::vector<std::uint64_t> staying;
         eachNumber(_model.file(), parameterOf(_model, relationship.number, "RELATEDOBJECTS"),
-                   [&](std::uint32_t object) {
-                       if (!leaving.contains(object)) staying.push_back(_model.file().id(object));
+                   [&, &gone = leaving](std::uint32_t object) {
+                       if (!gone.contains(object)) staying.push_back(_model.file().id(object));
                    });
         if (staying.empty())
             _droppedRelationships.insert(position);
