@@ -35,7 +35,7 @@ struct UnitPlan {
 
 class UnitPlans {
 public:
-    UnitPlans(const sdai::SchemaDefinition& schema, MeasureRatios& ratios) : _schema(schema), _ratios(ratios) {}
+    explicit UnitPlans(MeasureRatios& ratios) : _ratios(ratios) {}
 
     const UnitPlan& plan(const sdai::EntityDefinition& entity);
 
@@ -45,7 +45,6 @@ private:
     bool mayMeasure(const sdai::Type& type, int depth) const;
     void takeHidden(const sdai::EntityDefinition& entity, std::string_view attribute, UnitPlan::Slot& slot);
 
-    const sdai::SchemaDefinition& _schema;
     MeasureRatios& _ratios;
     std::unordered_map<const sdai::EntityDefinition*, std::unique_ptr<UnitPlan>> _plans;
 };

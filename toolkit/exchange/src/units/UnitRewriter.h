@@ -48,7 +48,7 @@ private:
     MeasureRatios& _ratios;
     ChangeList& _changes;
     const Progress& _progress;
-    mutable UnitPlans _plans{_model.schema(), _ratios};
+    mutable UnitPlans _plans{_ratios};
     ParameterSpaces _spaces{_model, _ratios};
     // Whose values are in a unit that another instance names.
     std::unordered_set<std::uint32_t> _withOwnUnit;
