@@ -53,8 +53,8 @@ public:
     /// Gives ids for instances that will be added for one of the source: the points of a list. Once per instance; a
     /// further call gives the same. 0 when there are no ids left.
     std::uint64_t reserve(std::uint64_t id, std::uint64_t count);
-    /// Decides about another instance, whatever its own rules say; not after its record was rewritten.
-    void decide(std::uint64_t id, Successor successor);
+    /// Decides about another instance, whatever its own rules say. The reason is noted there; it must last.
+    void decide(std::uint64_t id, Successor successor, const ConversionRule* reason = nullptr);
     /// Another instance's attribute gets a value in the target, given as it is to be written, whatever it had.
     void setLater(std::uint64_t id, std::string_view attribute, std::string encoded);
     /// An instance of the target, at the end of the file.

@@ -216,14 +216,15 @@ bool Planning::affords(std::uint64_t bytes) {
     return true;
 }
 
-void Planning::decide(std::uint64_t id, Successor successor) {
+void Planning::decide(std::uint64_t id, Successor successor, const ConversionRule* why) {
     const auto number = _plan._model.file().find(id);
     if (!number) return;
     const Outcome& before = _plan.outcome(*number);
     if (before.source == nullptr) return;
     _plan._decided[*number] = true;
     // What carries on what was absorbed tells so.
-    const ConversionRule* reason = successor.kind == Successor::Kind::Lost       ? &rules::noEntity
+    const ConversionRule* reason = why != nullptr                                ? why
+                                   : successor.kind == Successor::Kind::Lost       ? &rules::noEntity
                                    : successor.kind == Successor::Kind::Absorbed ? nullptr
                                                                                  : before.reason;
     _plan.put(*number, {successor.kind, before.source, successor.entity, nullptr, reason});

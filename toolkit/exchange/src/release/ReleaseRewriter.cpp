@@ -347,13 +347,33 @@ const EntityDefinition* ReleaseRewriter::successorOf(std::uint64_t id) const {
     return number ? _plan.outcome(*number).target : nullptr;
 }
 
-void ReleaseRewriter::become(const RecordBuilder& record) {
+void ReleaseRewriter::become(const RecordBuilder& made) {
+    RecordBuilder record = made;
+    for (const sdai::AttributeSlot& slot : record.entity().attributes()) {
+        const std::string_view name = slot.attribute->name();
+        if (refersToGone(record.value(name))) {
+            if (slot.attribute->isOptional())
+                note(rules::referenceLost, [&] { return std::string(name); });
+            else
+                _missing = {&rules::requiredLost, name};
+            record.set(name, std::string(sdai::omittedValue));
+        } else if (!slot.attribute->isOptional() && record.value(name) == sdai::omittedValue) {
+            _missing = _missingCarried.attribute == name ? _missingCarried : Missing{&rules::requiredMissing, name};
+        }
+    }
     _become = record.text();
-    for (const sdai::AttributeSlot& slot : record.entity().attributes())
-        if (!slot.attribute->isOptional() && record.value(slot.attribute->name()) == sdai::omittedValue)
-            _missing = _missingCarried.attribute == slot.attribute->name()
-                           ? _missingCarried
-                           : Missing{&rules::requiredMissing, slot.attribute->name()};
+}
+
+/// What rules write themselves may name what cannot stand. Values that were carried do not.
+bool ReleaseRewriter::refersToGone(std::string_view value) const {
+    if (!_plan.anyGone() || value.find('#') == std::string_view::npos) return false;
+    sdai::Part21Lexer lexer(value);
+    for (sdai::Token token = lexer.next(); token.kind != sdai::TokenKind::End; token = lexer.next()) {
+        if (token.kind != sdai::TokenKind::InstanceName) continue;
+        const auto number = _plan.model().file().find(sdai::decodeInstanceName(token.text));
+        if (number && _plan.isGone(*number)) return true;
+    }
+    return false;
 }
 
 std::uint64_t ReleaseRewriter::add(std::string_view record) {

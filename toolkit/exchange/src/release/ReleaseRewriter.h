@@ -105,6 +105,7 @@ private:
     void noteDropped(const EntityPlan& plan, const std::vector<std::string>& values);
     void keepPredefinedType(const EntityPlan& plan, std::vector<std::string>& values);
     bool isAsked(std::string_view attribute) const;
+    bool refersToGone(std::string_view value) const;
     void noteLoss(const EntityPlan::Slot& slot, std::string_view value);
     ReleasePlan& _plan;
     ChangeList& _changes;

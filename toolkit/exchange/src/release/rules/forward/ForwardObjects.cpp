@@ -172,14 +172,12 @@ Successor becomesRelationship(const Releases& releases, DXSdaiAppInstance& relat
 
 bool planOccurrences(Planning& planning, DXSdaiAppInstance& relationship) {
     const sdai::EntityDefinition* specificEntity = occurrenceOf(planning.releases(), relationship);
-    bool isUsed = false;
     for (const std::uint64_t id : idsOf(relationship.GetAttr("RELATEDOBJECTS").encoded())) {
         const sdai::EntityDefinition* general = entityOf(planning.source(), id);
         if (general == nullptr || !specificEntity->isKindOf(general->name())) continue;
-        planning.decide(id, Successor::of(planning.releases(), specificEntity->name()));
-        isUsed = true;
+        planning.decide(id, Successor::of(planning.releases(), specificEntity->name()), &specific);
     }
-    return isUsed;
+    return true;
 }
 
 Successor becomesDistribution(const Releases& releases, DXSdaiAppInstance& element) {
