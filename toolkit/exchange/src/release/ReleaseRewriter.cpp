@@ -377,7 +377,7 @@ bool ReleaseRewriter::refersToGone(std::string_view value) const {
 }
 
 std::uint64_t ReleaseRewriter::add(std::string_view record) {
-    if (_isDry) return 1;
+    if (_isDry) return nowhere;
     ++_counts.added;
     return _output->add(record);
 }

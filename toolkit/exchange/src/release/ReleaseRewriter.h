@@ -42,6 +42,8 @@ public:
     bool isEnded() const noexcept { return _isEnded; }
 
 private:
+    /// An id that no instance has, for those that would be added.
+    static constexpr std::uint64_t nowhere = 0xFFFFFFFFFFFFFFFF;
     /// What stops a record.
     struct Missing {
         const ConversionRule* rule = nullptr;
@@ -77,7 +79,7 @@ private:
     }
     template <class Make>
     std::uint64_t sharedBy(std::string_view key, Make make) {
-        if (_isDry) return 1;
+        if (_isDry) return nowhere;
         const auto [found, isNew] = _shared.try_emplace(std::string(key), 0);
         // What is made may ask for others, and move those that are there.
         return isNew ? _shared[std::string(key)] = make() : found->second;
