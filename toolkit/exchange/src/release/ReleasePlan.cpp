@@ -224,7 +224,7 @@ void Planning::decide(std::uint64_t id, Successor successor, const ConversionRul
     _plan._decided[*number] = true;
     // What carries on what was absorbed tells so.
     const ConversionRule* reason = why != nullptr                                ? why
-                                   : successor.kind == Successor::Kind::Lost       ? &rules::noEntity
+                                   : successor.kind == Successor::Kind::Lost     ? &rules::noEntity
                                    : successor.kind == Successor::Kind::Absorbed ? nullptr
                                                                                  : before.reason;
     _plan.put(*number, {successor.kind, before.source, successor.entity, nullptr, reason});
