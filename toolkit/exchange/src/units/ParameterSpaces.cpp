@@ -27,13 +27,44 @@ bool isKind(const sdai::Model& model, std::uint32_t number, std::string_view nam
 } // namespace
 
 ParameterSpaces::ParameterSpaces(const sdai::Model& model, MeasureRatios& ratios) : _model(model), _ratios(ratios) {
-    for (const std::uint32_t number : model.numbersOf("IFCPCURVE")) {
-        const auto surface = referred(model, number, "BASISSURFACE");
-        const auto curve = referred(model, number, "REFERENCECURVE");
+    takeCurves();
+    takeTextures();
+    if (!_spaces.empty()) findShared();
+}
+
+void ParameterSpaces::takeCurves() {
+    for (const std::uint32_t number : _model.numbersOf("IFCPCURVE")) {
+        const auto surface = referred(_model, number, "BASISSURFACE");
+        const auto curve = referred(_model, number, "REFERENCECURVE");
         if (!surface || !curve) continue;
         const Pair pair = ofSurface(*surface);
         // On planes parameters are lengths like all others.
-        if (pair.u != _ratios.length() || pair.v != _ratios.length()) take(*curve, pair);
+        if (pair.u == _ratios.length() && pair.v == _ratios.length()) continue;
+        _owners.insert(number);
+        take(*curve, pair);
+    }
+}
+
+// A texture is moved over its surface by parts of itself.
+void ParameterSpaces::takeTextures() {
+    if (_ratios.length() == stays) return;
+    for (const std::uint32_t number : _model.numbersOf("IFCSURFACETEXTURE")) {
+        const auto transform = referred(_model, number, "TEXTURETRANSFORM");
+        if (!transform) continue;
+        _owners.insert(number);
+        take(*transform, {});
+    }
+}
+
+void ParameterSpaces::findShared() {
+    const sdai::Part21File& file = _model.file();
+    for (std::uint32_t number = 0; number < file.instanceCount(); ++number) {
+        if (_spaces.contains(number) || _owners.contains(number)) continue;
+        sdai::Part21Lexer lexer(file.instanceText(number));
+        for (sdai::Token token = lexer.nextReference(); token.kind != sdai::TokenKind::End;
+             token = lexer.nextReference())
+            if (const auto used = file.find(sdai::decodeInstanceName(token.text)); used && _spaces.contains(*used))
+                _shared.insert(*used);
     }
 }
 
@@ -42,7 +73,10 @@ void ParameterSpaces::take(std::uint32_t curve, Pair pair) {
     while (!left.empty()) {
         const std::uint32_t number = left.back();
         left.pop_back();
-        if (!_spaces.try_emplace(number, pair).second) continue;
+        if (const auto [place, isNew] = _spaces.try_emplace(number, pair); !isNew) {
+            if (place->second != pair) _shared.insert(number);
+            continue;
+        }
         const sdai::EntityDefinition* entity = _model.entityAt(number);
         if (entity == nullptr || !entity->isKindOf("IFCGEOMETRICREPRESENTATIONITEM")) continue;
         for (std::size_t i = 0; i < entity->attributes().size(); ++i)

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace velkor::exchange {
@@ -27,13 +28,21 @@ public:
     /// What an instance is measured by that describes a curve by the parameters of a surface; nothing for all others.
     std::optional<Pair> space(std::uint32_t number) const;
     bool isEmpty() const noexcept { return _spaces.empty(); }
+    /// What describes such a curve and something else as well, or curves on surfaces that do not agree.
+    const std::unordered_set<std::uint32_t>& shared() const noexcept { return _shared; }
 
 private:
+    void takeCurves();
+    void takeTextures();
     void take(std::uint32_t curve, Pair pair);
+    void findShared();
 
     const sdai::Model& _model;
     MeasureRatios& _ratios;
     std::unordered_map<std::uint32_t, Pair> _spaces;
+    // Curves on surfaces and textures.
+    std::unordered_set<std::uint32_t> _owners;
+    std::unordered_set<std::uint32_t> _shared;
 };
 
 } // namespace velkor::exchange

@@ -111,6 +111,11 @@ UnitScale UnitScale::of(double factor, double offset) {
     // A degree has no decimal, however many digits a file gives it.
     constexpr long double degree = std::numbers::pi_v<long double> / 180;
     if (offset == 0 && std::abs(factor / degree - 1) < 1e-14L) return exactly(degree);
+    // Nor has a degree Fahrenheit, or where its scale begins.
+    constexpr long double fahrenheit = 5.0L / 9;
+    constexpr long double fahrenheitZero = 45967 * fahrenheit / 100;
+    if (std::abs(factor / fahrenheit - 1) < 1e-14L && std::abs(offset / fahrenheitZero - 1) < 1e-14L)
+        return {fahrenheit, 0, fahrenheitZero};
     UnitScale scale{factor, 0, offset};
     char text[40];
     const auto written = std::to_chars(std::begin(text), std::end(text), factor, std::chars_format::scientific, 14);

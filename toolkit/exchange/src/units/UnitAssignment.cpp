@@ -1,32 +1,43 @@
 #include "units/UnitAssignment.h"
 
+#include "QORIFCUnitServices.h"
 #include "RecordBuilder.h"
 #include "RecordText.h"
 #include "ReleaseSchema.h"
 #include "units/MeasureRatios.h"
 #include "units/UnitRules.h"
-
-#include "velkor/sdai/Part21Encoding.h"
 #include "velkor/text/NearestNames.h"
 #include "velkor/text/Unicode.h"
 #include "velkor/text/Wording.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace velkor::exchange {
 
 namespace {
 
-/// How a unit of the file counts: those of SI exactly, others as the unit services say.
-UnitScale scaleOf(const sdai::Model& model, const UnitReport::Unit& unit) {
-    const DXSdaiAppInstance* instance = model.instance(unit.id);
-    if (instance->IsKindOf("IFCSIUNIT")) {
-        const SiUnit si{unit.type, instance->GetAttr("PREFIX").asEnumeration().text(),
-                        instance->GetAttr("NAME").asEnumeration().text()};
-        return scaleOf(si);
-    }
-    const double offset = instance->GetAttr("CONVERSIONOFFSET").asReal().value_or(0.0);
-    return UnitScale::of(unit.factor, offset);
+constexpr const char* offsetUnit = "IFCCONVERSIONBASEDUNITWITHOFFSET";
+
+/// A conversion factor that is stated in full: what a file leaves out counts as 1 to the unit services.
+bool hasFactor(const DXSdaiAppInstance& unit) {
+    const DXSdaiAppInstance* measure = unit.GetAttr("CONVERSIONFACTOR").asInstance();
+    return measure != nullptr && measure->GetAttr("UNITCOMPONENT").asInstance() != nullptr &&
+           measure->GetAttr("VALUECOMPONENT").asReal().has_value();
+}
+
+/// How a unit of the file counts: those of SI exactly, others as the unit services say. Nothing for units that are not
+/// defined by others, or by a factor that is none.
+std::optional<UnitScale> scaleOf(const DXSdaiAppInstance& unit) {
+    if (unit.IsKindOf("IFCSIUNIT"))
+        return scaleOf(SiUnit{unit.GetAttr("UNITTYPE").asEnumeration().text(),
+                              unit.GetAttr("PREFIX").asEnumeration().text(),
+                              unit.GetAttr("NAME").asEnumeration().text()});
+    auto* instance = unit.model().instance(unit.id());
+    const double factor = QORIFCUnitServices::GetUnitConversionFactor(instance);
+    if (!unit.IsKindOf("IFCCONVERSIONBASEDUNIT") || !hasFactor(unit) || !std::isfinite(factor) || factor <= 0)
+        return std::nullopt;
+    return UnitScale::of(factor, unit.GetAttr("CONVERSIONOFFSET").asReal().value_or(0.0));
 }
 
 std::string unitTypes(const sdai::SchemaDefinition& schema, std::string_view wanted) {
@@ -51,11 +62,28 @@ bool isUnitType(const sdai::SchemaDefinition& schema, std::string_view name) {
 
 } // namespace
 
+UnitAssignment::UnitAssignment(const sdai::Model& model, UnitReport report)
+    : _model(&model), _report(std::move(report)) {
+    const auto take = [this](std::uint64_t id) {
+        const auto number = _model->file().find(id);
+        if (number && std::ranges::count(_assignments, *number) == 0) _assignments.push_back(*number);
+    };
+    if (_report.assignment) take(*_report.assignment);
+    for (const char* context : {"IFCPROJECT", "IFCCONTEXT"})
+        for (const std::uint32_t number : _model->numbersOf(context))
+            eachReference(parameterOf(*_model, number, "UNITSINCONTEXT"), take);
+}
+
 tl::expected<UnitAssignment, std::string>
 UnitAssignment::read(const sdai::Model& model, const std::vector<std::pair<std::string, std::string>>& wanted) {
     UnitAssignment assignment(model, unitReport(model));
-    for (const auto& [type, name] : wanted)
-        if (auto done = assignment.want(text::toUpper(type), name); !done) return tl::unexpected(done.error());
+    std::vector<std::string> types;
+    for (const auto& [type, name] : wanted) {
+        types.push_back(text::toUpper(type));
+        if (std::ranges::count(types, types.back()) > 1)
+            return tl::unexpected("two units are asked for of type " + types.back());
+        if (auto done = assignment.want(types.back(), name); !done) return tl::unexpected(done.error());
+    }
     return assignment;
 }
 
@@ -63,12 +91,37 @@ tl::expected<void, std::string> UnitAssignment::want(const std::string& type, co
     if (!isUnitType(_model->schema(), type)) return tl::unexpected(unitTypes(_model->schema(), type));
     auto unit = catalogueUnit(type, name);
     if (!unit) return tl::unexpected(unit.error());
+    if (unit->conversion.offset != 0 && _model->schema().entity(offsetUnit) == nullptr)
+        return tl::unexpected(unit->displayName() + " begins at another zero, which the release cannot say of a unit");
     const UnitReport::Unit* before = _report.inForce(type);
     if (before == nullptr)
         return tl::unexpected("the project has no unit of type " + type + " that " + unit->displayName() +
                               " could replace");
-    const Ratio ratio = Ratio::between(scaleOf(*_model, *before), unit->scale);
-    if (!ratio.isOne()) _exchanges.push_back({*before, *unit, ratio});
+    const auto scale = scaleOf(*_model->instance(before->id));
+    if (!scale)
+        return tl::unexpected("what a unit of type " + type + " is worth cannot be told of #" +
+                              std::to_string(before->id));
+    Exchange exchange{*before, *unit, Ratio::between(*scale, unit->scale), {}};
+    if (exchange.ratio.isOne()) return {};
+    if (auto done = findPlaces(exchange); !done) return done;
+    _exchanges.push_back(std::move(exchange));
+    return {};
+}
+
+tl::expected<void, std::string> UnitAssignment::findPlaces(Exchange& exchange) const {
+    const auto wanted = scaleOf(*_model->instance(exchange.before.id));
+    for (const std::uint32_t assignment : _assignments) {
+        std::optional<std::uint32_t> found;
+        eachNumber(_model->file(), parameterOf(*_model, assignment, "UNITS"), [&](std::uint32_t number) {
+            const auto* unit = _model->instanceAt(number);
+            if (unit->GetAttr("UNITTYPE").asEnumeration().text() == exchange.before.type) found = number;
+        });
+        if (!found) continue;
+        if (scaleOf(*_model->instanceAt(*found)) != wanted)
+            return tl::unexpected("which unit of type " + exchange.before.type +
+                                  " a value is in cannot be told: contexts of the model have different ones");
+        exchange.places.push_back({assignment, *found});
+    }
     return {};
 }
 
@@ -78,22 +131,47 @@ std::map<std::string, Ratio, std::less<>> UnitAssignment::ratios() const {
     return result;
 }
 
-bool UnitAssignment::isUsedElsewhere(std::uint64_t id) const {
-    std::string wanted("#");
-    wanted += std::to_string(id);
-    const std::string_view text = _model->file().text();
-    int uses = 0;
-    // The instance itself begins with its name, the assignment has it once.
-    for (std::size_t at = text.find(wanted); at != std::string_view::npos && uses < 3;
-         at = text.find(wanted, at + wanted.size())) {
-        const std::size_t behind = at + wanted.size();
-        if (behind >= text.size() || text[behind] < '0' || text[behind] > '9') ++uses;
-    }
-    return uses > 2;
+std::vector<std::uint32_t> UnitAssignment::oldUnits() const {
+    std::vector<std::uint32_t> units;
+    for (const Exchange& exchange : _exchanges)
+        for (const Place& place : exchange.places)
+            if (std::ranges::count(units, place.unit) == 0) units.push_back(place.unit);
+    return units;
 }
 
-tl::expected<std::string, std::string> UnitAssignment::recordOf(const CatalogueUnit& unit,
-                                                                sdai::Part21Edit& edit) const {
+bool UnitAssignment::isAssignedAnywhere(std::uint32_t unit) const {
+    return std::ranges::any_of(_assignments, [&](std::uint32_t assignment) {
+        bool isMember = false;
+        eachNumber(_model->file(), parameterOf(*_model, assignment, "UNITS"),
+                   [&](std::uint32_t member) { isMember = isMember || member == unit; });
+        return isMember;
+    });
+}
+
+// What a model came from may still have the unit, for values of their own.
+std::optional<std::uint64_t> UnitAssignment::present(const CatalogueUnit& unit, const UnitUsers& users) const {
+    for (const std::uint32_t number :
+         _model->numbersOf(unit.isConversionBased() ? "IFCCONVERSIONBASEDUNIT" : "IFCSIUNIT")) {
+        const DXSdaiAppInstance& candidate = *_model->instanceAt(number);
+        const auto name = candidate.GetAttr("NAME");
+        const bool isNamed = unit.isConversionBased()
+                                 ? text::equalIgnoringCase(name.asString(), unit.conversion.name)
+                                 : name.asEnumeration().text() == unit.si.name &&
+                                       candidate.GetAttr("PREFIX").asEnumeration().text() == unit.si.prefix;
+        if (!isNamed || candidate.GetAttr("UNITTYPE").asEnumeration().text() != unit.si.type) continue;
+        const auto scale = scaleOf(candidate);
+        if (scale && Ratio::between(*scale, unit.scale).isOne() && !users.isLeft(number) && !isAssignedAnywhere(number))
+            return candidate.id();
+    }
+    return std::nullopt;
+}
+
+tl::expected<std::uint64_t, std::string> UnitAssignment::add(sdai::Part21Edit& edit, std::string_view record) {
+    ++_counts.added;
+    return edit.add(record);
+}
+
+tl::expected<std::string, std::string> UnitAssignment::recordOf(const CatalogueUnit& unit, sdai::Part21Edit& edit) {
     const ReleaseSchema schema(_model->schema());
     RecordBuilder si(schema, "IFCSIUNIT");
     si.set("UNITTYPE", enumerator(unit.si.type));
@@ -110,16 +188,16 @@ tl::expected<std::string, std::string> UnitAssignment::recordOf(const CatalogueU
                                      "LUMINOUSINTENSITYEXPONENT"};
     const std::array<int, 7> dimensions = dimensionsOf(unit.si.type);
     for (std::size_t i = 0; i < dimensions.size(); ++i) exponents.set(names[i], integer(dimensions[i]));
-    const auto base = edit.add(si.text());
+    const auto base = add(edit, si.text());
     if (!base) return tl::unexpected(base.error());
     RecordBuilder factor(schema, "IFCMEASUREWITHUNIT");
     factor.set("VALUECOMPONENT", typed(measureOf(unit.si.type), real(unit.conversion.factor)));
     factor.set("UNITCOMPONENT", reference(*base));
-    const auto factorId = edit.add(factor.text());
-    const auto exponentsId = edit.add(exponents.text());
+    const auto factorId = add(edit, factor.text());
+    const auto exponentsId = add(edit, exponents.text());
     if (!factorId || !exponentsId) return tl::unexpected(factorId ? exponentsId.error() : factorId.error());
-    const bool hasOffset = unit.conversion.offset != 0 && schema.entity("IFCCONVERSIONBASEDUNITWITHOFFSET") != nullptr;
-    RecordBuilder record(schema, hasOffset ? "IFCCONVERSIONBASEDUNITWITHOFFSET" : "IFCCONVERSIONBASEDUNIT");
+    const bool hasOffset = unit.conversion.offset != 0;
+    RecordBuilder record(schema, hasOffset ? offsetUnit : "IFCCONVERSIONBASEDUNIT");
     record.set("DIMENSIONS", reference(*exponentsId));
     record.set("UNITTYPE", enumerator(unit.si.type));
     record.set("NAME", literal(unit.conversion.name));
@@ -128,28 +206,57 @@ tl::expected<std::string, std::string> UnitAssignment::recordOf(const CatalogueU
     return record.text();
 }
 
-tl::expected<void, std::string> UnitAssignment::rewrite(sdai::Part21Edit& edit, ChangeList& changes) const {
+tl::expected<void, std::string> UnitAssignment::rewrite(sdai::Part21Edit& edit, ChangeList& changes) {
+    if (_exchanges.empty()) return {};
+    const UnitUsers users(*_model, oldUnits(), _assignments);
+    for (const Exchange& exchange : _exchanges)
+        if (auto done = exchangeUnit(exchange, users, edit, changes); !done) return done;
+    return dropLeft(users, edit);
+}
+
+tl::expected<void, std::string> UnitAssignment::exchangeUnit(const Exchange& exchange, const UnitUsers& users,
+                                                             sdai::Part21Edit& edit, ChangeList& changes) {
     const sdai::Part21File& file = _model->file();
-    for (const Exchange& exchange : _exchanges) {
-        auto record = recordOf(exchange.after, edit);
+    const std::uint32_t before = *file.find(exchange.before.id);
+    const bool isLeft = users.isLeft(before);
+    changes.note(isLeft ? unitrule::unitReplaced : unitrule::unitAdded, before,
+                 [&] { return exchange.before.name + " becomes " + exchange.after.displayName(); });
+    std::optional<std::uint64_t> after = present(exchange.after, users);
+    if (!after) {
+        const auto record = recordOf(exchange.after, edit);
         if (!record) return tl::unexpected(record.error());
-        const bool isShared = isUsedElsewhere(exchange.before.id);
-        const auto detail = [&] { return exchange.before.name + " becomes " + exchange.after.displayName(); };
-        changes.note(isShared ? unitrule::unitAdded : unitrule::unitReplaced, *file.find(exchange.before.id), detail);
-        if (!isShared) {
-            if (auto done = edit.replace(exchange.before.id, *record); !done) return tl::unexpected(done.error());
-            continue;
+        if (isLeft) {
+            after = exchange.before.id;
+            ++_counts.converted;
+            if (auto done = edit.replace(*after, *record); !done) return done;
+        } else {
+            const auto id = add(edit, *record);
+            if (!id) return tl::unexpected(id.error());
+            after = *id;
         }
-        const auto id = edit.add(*record);
-        if (!id) return tl::unexpected(id.error());
-        const auto assignment = edit.record(*_report.assignment);
-        if (!assignment) return tl::unexpected(assignment.error());
+    }
+    for (const Place& place : exchange.places) {
+        const std::uint64_t old = file.id(place.unit);
+        if (old == *after) continue;
+        const std::uint64_t assignment = file.id(place.assignment);
+        if (!edit.isEdited(assignment)) ++_counts.converted;
+        const auto record = edit.record(assignment);
+        if (!record) return tl::unexpected(record.error());
         std::vector<std::string> members;
-        eachReference(parameterOf(*assignment, 0), [&](std::uint64_t member) {
-            members.push_back(reference(member == exchange.before.id ? *id : member));
-        });
-        if (auto done = edit.setParameter(*_report.assignment, 0, listOf(members)); !done)
-            return tl::unexpected(done.error());
+        eachReference(parameterOf(*record, 0),
+                      [&](std::uint64_t member) { members.push_back(reference(member == old ? *after : member)); });
+        if (auto done = edit.setParameter(assignment, 0, listOf(members)); !done) return done;
+    }
+    return {};
+}
+
+tl::expected<void, std::string> UnitAssignment::dropLeft(const UnitUsers& users, sdai::Part21Edit& edit) {
+    for (const std::uint32_t number : users.left()) {
+        const std::uint64_t id = _model->file().id(number);
+        // It is the new unit now.
+        if (edit.isEdited(id)) continue;
+        if (auto done = edit.drop(id); !done) return done;
+        ++_counts.dropped;
     }
     return {};
 }

@@ -50,6 +50,9 @@ constexpr Parameter parameters[] = {
     {"IFCTRIMMEDCURVE", "TRIM1"},
     {"IFCTRIMMEDCURVE", "TRIM2"},
     {"IFCPOINTONCURVE", "POINTPARAMETER"},
+    {"IFCPOINTBYDISTANCEEXPRESSION", "DISTANCEALONG"},
+    {"IFCCURVESEGMENT", "SEGMENTSTART"},
+    {"IFCCURVESEGMENT", "SEGMENTLENGTH"},
     {"IFCSWEPTDISKSOLID", "STARTPARAM"},
     {"IFCSWEPTDISKSOLID", "ENDPARAM"},
     {"IFCDIRECTRIXCURVESWEPTAREASOLID", "STARTPARAM"},
@@ -78,7 +81,8 @@ const UnitPlan& UnitPlans::plan(const EntityDefinition& entity) {
     for (const sdai::AttributeSlot& slot : entity.attributes()) plan->slots.push_back(slotOf(entity, *slot.attribute));
     for (const UnitPlan::Slot& slot : plan->slots) plan->hasAny = plan->hasAny || slot.form != Form::Other;
     if (entity.isKindOf("IFCCARTESIANPOINT")) plan->kind = UnitPlan::Kind::Point;
-    if (entity.isKindOf("IFCMAPCONVERSION")) plan->kind = UnitPlan::Kind::MapConversion;
+    if (entity.isKindOf("IFCCOORDINATEOPERATION")) plan->kind = UnitPlan::Kind::CoordinateOperation;
+    if (entity.isKindOf("IFCTABLEROW")) plan->kind = UnitPlan::Kind::TableRow;
     return *plan;
 }
 
@@ -103,6 +107,8 @@ void UnitPlans::takeHidden(const EntityDefinition& entity, std::string_view attr
         slot.ratio = _ratios.difference(slot.ratio);
     const bool isPolynomial = entity.isKindOf("IFCPOLYNOMIALCURVE") && attribute.starts_with("COEFFICIENTS");
     if (isPolynomial && _ratios.length() != stays) slot = {Form::Powers, stays, -1, true};
+    // Where a release declares a length along the curve, it is one.
+    if (slot.form == Form::Numbers || (_ratios.length() == stays && _ratios.planeAngle() == stays)) return;
     for (const Parameter& parameter : parameters)
         if (attribute == parameter.attribute && entity.isKindOf(parameter.entity))
             slot = {Form::Parameters, stays, -1, false};

@@ -27,7 +27,7 @@ struct UnitPlan {
         /// No measure is declared, though it is one.
         bool isHidden = false;
     };
-    enum class Kind : std::uint8_t { Plain, Point, MapConversion };
+    enum class Kind : std::uint8_t { Plain, Point, CoordinateOperation, TableRow };
     Kind kind = Kind::Plain;
     std::vector<Slot> slots;
     bool hasAny = false;
