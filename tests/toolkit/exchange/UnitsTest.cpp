@@ -150,6 +150,11 @@ TEST(Units, ConvertsParametersByTheCurveTheyAreOn) {
     EXPECT_EQ(result.record(31),
               "IFCTRIMMEDCURVE(#22,(IFCPARAMETERVALUE(0.)),(IFCPARAMETERVALUE(2.)),.T.,.PARAMETER.)");
     EXPECT_EQ(result.record(20), "IFCCIRCLE(#21,1.)");
+    const std::string segment = "IFCCURVESEGMENT(.CONTINUOUS.,#21,IFCPARAMETERVALUE(0.),IFCPARAMETERVALUE(";
+    EXPECT_EQ(inUnits("IFC4X3_ADD2", curves + "#32=" + segment + "1.5707963267948966),#30);", degrees).record(32),
+              segment + "90.),#30)");
+    EXPECT_EQ(inMillimetres("IFC4X3_ADD2", "IFCPOINTBYDISTANCEEXPRESSION(IFCLENGTHMEASURE(2.),$,1.,$,#20)", curves),
+              "IFCPOINTBYDISTANCEEXPRESSION(IFCLENGTHMEASURE(2000.),$,1000.,$,#20)");
     EXPECT_THAT(result.records("IFCCONVERSIONBASEDUNIT"), ElementsAre(HasSubstr("'DEGREE'")));
 }
 
@@ -222,6 +227,14 @@ TEST(Units, RewritesTheAssignmentAndNothingThatUsesTheOldUnit) {
     EXPECT_EQ(added.record(4), "IFCUNITASSIGNMENT((#11,#2,#3))");
     EXPECT_EQ(added.record(11), "IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.)");
 
+    const std::string own = "#20=IFCPROPERTYSINGLEVALUE('w',$,IFCLENGTHMEASURE(2.),#1);";
+    std::string text = replaced.text;
+    const auto both = again(text.insert(text.find("ENDSEC;END-"), own), millimetres);
+    EXPECT_THAT(both.text, HasSubstr(own));
+    EXPECT_EQ(both.record(1), replaced.record(1));
+    EXPECT_EQ(both.records("IFCMEASUREWITHUNIT"), replaced.records("IFCMEASUREWITHUNIT")) << "what a used unit needs";
+    EXPECT_EQ(both.report.rebuilt, 0U);
+
     const std::string point = "#10=IFCCARTESIANPOINT((1.,0.));";
     EXPECT_THAT(inUnits("IFC4", point, {{"LENGTHUNIT", "METRE"}}).text, HasSubstr(point));
 }
@@ -245,6 +258,7 @@ TEST(Units, GivesBackWhatWentThereAndBack) {
         std::string text = back.text;
         std::erase(text, '\n');
         EXPECT_EQ(text, source.text) << inches.text;
+        EXPECT_TRUE(back.report.isLossless());
         EXPECT_EQ(back.report.rebuilt, inches.report.added) << "the inch has gone again";
     }
 }
