@@ -91,6 +91,7 @@ std::optional<ParameterSpaces::Pair> ParameterSpaces::space(std::uint32_t number
 }
 
 RatioNumber ParameterSpaces::ofCurve(std::uint32_t number) const {
+    if (_ratios.planeAngle() == stays) return stays;
     for (int depth = 0; depth < deepest; ++depth) {
         if (isKind(_model, number, "IFCCONIC")) return _ratios.planeAngle();
         if (!isKind(_model, number, "IFCTRIMMEDCURVE")) break;

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <unordered_set>
 
 namespace velkor::exchange {
 
@@ -64,14 +65,18 @@ bool isUnitType(const sdai::SchemaDefinition& schema, std::string_view name) {
 
 UnitAssignment::UnitAssignment(const sdai::Model& model, UnitReport report)
     : _model(&model), _report(std::move(report)) {
-    const auto take = [this](std::uint64_t id) {
-        const auto number = _model->file().find(id);
-        if (number && std::ranges::count(_assignments, *number) == 0) _assignments.push_back(*number);
+    std::unordered_set<std::uint32_t> taken;
+    const auto take = [&](std::uint32_t number) {
+        if (!taken.insert(number).second) return;
+        _assignments.push_back(number);
+        eachNumber(_model->file(), parameterOf(*_model, number, "UNITS"),
+                   [this](std::uint32_t unit) { _assigned.insert(unit); });
     };
-    if (_report.assignment) take(*_report.assignment);
+    if (_report.assignment)
+        if (const auto number = _model->file().find(*_report.assignment)) take(*number);
     for (const char* context : {"IFCPROJECT", "IFCCONTEXT"})
         for (const std::uint32_t number : _model->numbersOf(context))
-            eachReference(parameterOf(*_model, number, "UNITSINCONTEXT"), take);
+            eachNumber(_model->file(), parameterOf(*_model, number, "UNITSINCONTEXT"), take);
 }
 
 tl::expected<UnitAssignment, std::string>
@@ -132,20 +137,12 @@ std::map<std::string, Ratio, std::less<>> UnitAssignment::ratios() const {
 }
 
 std::vector<std::uint32_t> UnitAssignment::oldUnits() const {
+    std::unordered_set<std::uint32_t> taken;
     std::vector<std::uint32_t> units;
     for (const Exchange& exchange : _exchanges)
         for (const Place& place : exchange.places)
-            if (std::ranges::count(units, place.unit) == 0) units.push_back(place.unit);
+            if (taken.insert(place.unit).second) units.push_back(place.unit);
     return units;
-}
-
-bool UnitAssignment::isAssignedAnywhere(std::uint32_t unit) const {
-    return std::ranges::any_of(_assignments, [&](std::uint32_t assignment) {
-        bool isMember = false;
-        eachNumber(_model->file(), parameterOf(*_model, assignment, "UNITS"),
-                   [&](std::uint32_t member) { isMember = isMember || member == unit; });
-        return isMember;
-    });
 }
 
 // What a model came from may still have the unit, for values of their own.
@@ -160,7 +157,7 @@ std::optional<std::uint64_t> UnitAssignment::present(const CatalogueUnit& unit, 
                                        candidate.GetAttr("PREFIX").asEnumeration().text() == unit.si.prefix;
         if (!isNamed || candidate.GetAttr("UNITTYPE").asEnumeration().text() != unit.si.type) continue;
         const auto scale = scaleOf(candidate);
-        if (scale && Ratio::between(*scale, unit.scale).isOne() && !users.isLeft(number) && !isAssignedAnywhere(number))
+        if (scale && Ratio::between(*scale, unit.scale).isOne() && !users.isLeft(number) && !_assigned.contains(number))
             return candidate.id();
     }
     return std::nullopt;

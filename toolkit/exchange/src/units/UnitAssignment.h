@@ -15,6 +15,7 @@
 #include <string>
 #include <string_view>
 #include <tl/expected.hpp>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -58,7 +59,6 @@ private:
     tl::expected<void, std::string> want(const std::string& type, const std::string& name);
     tl::expected<void, std::string> findPlaces(Exchange& exchange) const;
     std::vector<std::uint32_t> oldUnits() const;
-    bool isAssignedAnywhere(std::uint32_t unit) const;
     std::optional<std::uint64_t> present(const CatalogueUnit& unit, const UnitUsers& users) const;
     tl::expected<std::uint64_t, std::string> add(sdai::Part21Edit& edit, std::string_view record);
     tl::expected<std::string, std::string> recordOf(const CatalogueUnit& unit, sdai::Part21Edit& edit);
@@ -70,6 +70,8 @@ private:
     UnitReport _report;
     // By number: those of the contexts.
     std::vector<std::uint32_t> _assignments;
+    // Units of theirs.
+    std::unordered_set<std::uint32_t> _assigned;
     std::vector<Exchange> _exchanges;
     Counts _counts;
 };

@@ -3,6 +3,7 @@
 #include "velkor/sdai/Part21Lexer.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace velkor::exchange {
 
@@ -72,8 +73,9 @@ void UnitUsers::findUsers(std::span<const std::uint32_t> assignments) {
     const Part21File& file = _model.file();
     const std::vector<char> isRead = readKeywords();
     const auto keywords = file.keywordNumbers();
+    const std::unordered_set<std::uint32_t> passed(assignments.begin(), assignments.end());
     for (std::uint32_t number = 0; number < keywords.size(); ++number) {
-        if (isRead[keywords[number]] == 0 || std::ranges::count(assignments, number) != 0) continue;
+        if (isRead[keywords[number]] == 0 || passed.contains(number)) continue;
         const auto user = _places.find(number);
         eachReferred(file, number, [&](std::uint32_t used) {
             const auto part = _places.find(used);
