@@ -88,4 +88,24 @@ TEST(VersionMappingDocument, EveryKnownRenameIsOne) {
     }
 }
 
+TEST(VersionMappingDocument, EveryLaterRenameIsOfSomeRelease) {
+    auto& repository = DXSdaiDictionaryRepo::TheOne();
+    for (const AttributeRename& rename : laterAttributeRenames) {
+        bool hasBefore = false;
+        bool hasAfter = false;
+        for (const std::string& release : repository.names()) {
+            const auto schema = repository.schema(release);
+            const auto* entity = (*schema)->entity(rename.entity);
+            if (entity == nullptr) continue;
+            EXPECT_FALSE(entity->attributeIndex(rename.before) >= 0 && entity->attributeIndex(rename.after) >= 0)
+                << rename.entity;
+            hasBefore = hasBefore || entity->attributeIndex(rename.before) >= 0;
+            hasAfter = hasAfter || entity->attributeIndex(rename.after) >= 0;
+        }
+        const bool isOfRenamed = std::string_view(rename.entity).starts_with("IFCELECTRICDISTRIBUTION");
+        EXPECT_TRUE(isOfRenamed ? hasBefore || hasAfter : hasBefore && hasAfter)
+            << rename.entity << ' ' << rename.before;
+    }
+}
+
 } // namespace velkor
