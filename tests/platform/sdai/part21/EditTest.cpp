@@ -217,4 +217,109 @@ TEST(Edit, HoldsNoMoreOfWhatARewriterAddsThanItMust) {
     }
 }
 
+namespace {
+
+/// Writes what it sees of the keywords that it wants down and puts "SEEN" in its place.
+class SeeingRewriter : public RecordRewriter {
+public:
+    SeeingRewriter(const Part21File& file, std::string keyword, std::uint64_t reserved)
+        : _file(file), _keyword(std::move(keyword)), _reserved(reserved) {}
+
+    bool wants(std::uint16_t keyword) const override {
+        return keyword < _file.keywords().size() && _file.keywords()[keyword] == _keyword;
+    }
+    Outcome rewrite(const RecordView& record, RecordOutput& output) override {
+        seen += std::to_string(_file.id(record.number)) + std::string(record.keyword);
+        for (const std::string_view parameter : record.parameters) seen += '[' + std::string(parameter) + ']';
+        seen += ' ';
+        if (_reserved != 0) output.add(_reserved++, "KEPT()");
+        output.record = "SEEN()";
+        return Outcome::Replace;
+    }
+
+    std::string seen;
+
+private:
+    const Part21File& _file;
+    std::string _keyword;
+    std::uint64_t _reserved;
+};
+
+std::string rewritten(const Part21Edit& edit, RecordRewriter& rewriter) {
+    const TemporaryFolder folder;
+    const std::string path = folder / "out.ifc";
+    auto output = files::OutputFile::create(QORUnicodeString(std::string_view(path)));
+    if (!output) return output.error().message;
+    edit.write(*output, rewriter);
+    const auto done = output->commit();
+    return done ? contents(path) : done.error().message;
+}
+
+} // namespace
+
+TEST(Edit, ShowsARewriterTheSoundRecordsThatNobodyEdited) {
+    struct Case {
+        std::function<bool(Part21Edit&)> change;
+        const char* data;
+        const char* seen;
+        const char* expected;
+    };
+    const auto none = [](Part21Edit&) { return true; };
+    const Case cases[] = {
+        {none, "#1=A(1,'a,b)',(#2,(3.)), T(.U.) /* c */ ,$,*);\n#2=B();\n", "1A[1]['a,b)'][(#2,(3.))][T(.U.)][$][*] ",
+         "#1=SEEN();\n#2=B();\n"},
+        {none, "#1 = /* x */ A ( ( 1 , 2 ) ) /* y */ ; /* z */\n", "1A[( 1 , 2 )] ", "#1 = /* x */ SEEN(); /* z */\n"},
+        // Damaged, complex, with another keyword: copied.
+        {none, "#1=A(1;\n#2=A(1)(2);\n#3=(A(1)B(2));\n#4=A;\n rubbish #5=A('x);\n", "",
+         "#1=A(1;\n#2=A(1)(2);\n#3=(A(1)B(2));\n#4=A;\n rubbish #5=A('x);\n"},
+        {none, "#1=A(1);#1=A(2);#2=A(3);", "1A[1] 1A[2] 2A[3] ", "#1=SEEN();#1=SEEN();#2=SEEN();"},
+        {none, "#1=A(1);ENDSEC;DATA;#2=A(2);", "1A[1] 2A[2] ", "#1=SEEN();ENDSEC;DATA;#2=SEEN();"},
+        {none, "#1=A();\r#2=B();\r", "1A ", "#1=SEEN();\r#2=B();\r"},
+        {[](Part21Edit& edit) { return edit.replace(1, "B(1)").has_value() && edit.drop(3).has_value(); },
+         "#1=A(1);\n#2=A(2);\n#3=A(3);\n#4=A(4);\n", "2A[2] 4A[4] ", "#1=B(1);\n#2=SEEN();\n#4=SEEN();\n"},
+        {[](Part21Edit& edit) { return edit.add("A(9)") == 3u && edit.setParameter(2, 0, "7").has_value(); },
+         "#1=A(1);\n#2=A(2);\n", "1A[1] ", "#1=SEEN();\n#2=A(7);\n#3=A(9);\n"},
+    };
+    for (const Case& one : cases) {
+        const std::string text = withData(one.data);
+        const auto file = read(text);
+        Part21Edit edit(*file);
+        ASSERT_TRUE(one.change(edit));
+        SeeingRewriter rewriter(*file, "A", 0);
+        EXPECT_EQ(rewritten(edit, rewriter), withData(one.expected));
+        EXPECT_EQ(rewriter.seen, one.seen) << one.data;
+    }
+}
+
+TEST(Edit, ReservesIdsThatNothingElseGets) {
+    const std::string text = withData("#1=A(1);\n#7=A(2);\n");
+    const auto file = read(text);
+    Part21Edit edit(*file);
+    EXPECT_EQ(edit.reserve(2), 8u);
+    EXPECT_EQ(edit.add("B()"), 10u);
+    EXPECT_EQ(edit.reserve(0), 11u);
+    EXPECT_TRUE(edit.isEdited(10));
+    EXPECT_FALSE(edit.isEdited(7) || edit.isEdited(8) || edit.isEdited(99));
+    SeeingRewriter rewriter(*file, "A", 8);
+    EXPECT_EQ(rewritten(edit, rewriter), withData("#1=SEEN();\n#8=KEPT();\n#7=SEEN();\n#10=B();\n#9=KEPT();\n"));
+    EXPECT_FALSE(edit.reserve(std::numeric_limits<std::uint64_t>::max()));
+}
+
+TEST(Edit, TakesRecordsApart) {
+    const std::string text = withData("#1=A('x', 2.);\n#2=(A()B());\n#3=A(;\n#4=C();\n");
+    const auto file = read(text);
+    RecordReader reader;
+    const RecordView* record = reader.read(*file, 0);
+    ASSERT_NE(record, nullptr);
+    EXPECT_EQ(record->keyword, "A");
+    ASSERT_EQ(record->parameters.size(), 2u);
+    EXPECT_EQ(record->parameters[1], "2.");
+    EXPECT_EQ(reader.length(), std::string("A('x', 2.)").size());
+    EXPECT_EQ(reader.read(*file, 1), nullptr);
+    EXPECT_EQ(reader.read(*file, 2), nullptr);
+    record = reader.read(*file, 3);
+    ASSERT_NE(record, nullptr);
+    EXPECT_TRUE(record->parameters.empty());
+}
+
 } // namespace velkor::sdai::test
