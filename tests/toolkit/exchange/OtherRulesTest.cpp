@@ -243,4 +243,26 @@ TEST(OtherRules, ListTheMaterialsOfProfilesAndConstituents) {
                  "IFCRELASSOCIATESMATERIAL(" + root('B') + ",$,$,(#8),#1)", "materials-to-list");
 }
 
+TEST(OtherRules, TrimSplinesByTheParametersOfTheirSegments) {
+    const std::string points = "#1=IFCCARTESIANPOINT((0.,0.));#2=IFCCARTESIANPOINT((1.,1.));#3=IFCCARTESIANPOINT((2.,0."
+                               "));#4=IFCCARTESIANPOINT((3.,1.));";
+    const std::string trim =
+        "#6=IFCTRIMMEDCURVE(#5,(IFCPARAMETERVALUE(0.5)),(#4,IFCPARAMETERVALUE(2.)),.T.,.PARAMETER.);";
+    expectRecord(
+        "IFC4",
+        points +
+            "#5=IFCBSPLINECURVEWITHKNOTS(2,(#1,#2,#3,#4),.UNSPECIFIED.,.F.,.F.,(3,1,3),(0.,1.,3.),.UNSPECIFIED.);" +
+            trim,
+        "IFC2X3", 6, "IFCTRIMMEDCURVE(#5,(IFCPARAMETERVALUE(0.5)),(#4,IFCPARAMETERVALUE(1.5)),.T.,.PARAMETER.)",
+        "trim-parameters");
+    // Knots that leave no segment.
+    const auto none = toRelease("IFC4",
+                                owner + points +
+                                    "#5=IFCBSPLINECURVEWITHKNOTS(2,(#1,#2,#3),.UNSPECIFIED.,.F.,.F.,(2,2,2),(2.,3.,7.),"
+                                    ".UNSPECIFIED.);#6=IFCGEOMETRICSET((#5,#1));",
+                                "IFC2X3");
+    EXPECT_EQ(none.record(5), "");
+    EXPECT_EQ(none.record(6), "IFCGEOMETRICSET((#1))");
+}
+
 } // namespace velkor

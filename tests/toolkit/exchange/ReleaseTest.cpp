@@ -179,6 +179,14 @@ TEST_F(MappedRelease, AsksTheDocumentOfTheSetUpFirst) {
     EXPECT_THAT(toRelease("IFC2X3", text, "IFC4X1", &setup).record(1), HasSubstr("IFCSLAB"));
 }
 
+TEST(Release, LeavesModelsOfTheReleaseAsTheyAre) {
+    const std::string text =
+        "#1=IFCMATERIAL('a');#2=IFCWATERPROPERTIES(#1,$,$,$,$,$,$,$);#3=IFCRELSPACEBOUNDARY($,$,$,$,$,$,$,$,$);";
+    const auto result = toRelease("IFC2X3", text, "IFC2X3");
+    EXPECT_THAT(result.text, HasSubstr(text));
+    EXPECT_EQ(result.report.kept, 3u);
+}
+
 TEST(Release, RefusesReleasesThatItDoesNotKnow) {
     EXPECT_THAT(toRelease("IFC4", "#1=IFCDIRECTION((1.,0.));", "IFC9").error, HasSubstr("IFC9"));
 }

@@ -33,6 +33,15 @@ Converted<StepReport> convertRelease(const sdai::Model& model, const ReleaseOpti
     sdai::Part21Edit edit(model.file());
     const ResultHeader header{.schema = target.name(), .timeStamp = options.timeStamp};
     if (auto done = setResultHeader(edit, model.file(), header, changes); !done) return tl::unexpected(done.error());
+    if (source.name() == target.name()) {
+        // Rules are for what another release says otherwise.
+        edit.write(output);
+        StepReport report;
+        report.step = "release";
+        report.kept = model.file().instanceCount();
+        report.uses = changes.uses(releaseRules());
+        return report;
+    }
     RuleBook book(releases);
     const ReleaseNames names(releases, options.setup);
     ReleasePlan plan(model, releases, book, names, edit);

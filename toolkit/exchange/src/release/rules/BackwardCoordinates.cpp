@@ -56,7 +56,8 @@ bool planConversion(Planning& planning, DXSdaiAppInstance& conversion) {
     if (carrier->id == 0 || carrier->conversion != conversion.id()) return false;
     const std::uint64_t system = sdai::decodeInstanceName(conversion.GetAttr("TARGETCRS").encoded());
     const sdai::EntityDefinition* entity = system == 0 ? nullptr : entityOf(model, system);
-    if (entity != nullptr && entity->isKindOf("IFCPROJECTEDCRS")) planning.decide(system, Successor::absorbed());
+    if (entity != nullptr && entity->isKindOf("IFCPROJECTEDCRS"))
+        planning.decide(system, Successor::absorbed(), &conversions);
     return true;
 }
 

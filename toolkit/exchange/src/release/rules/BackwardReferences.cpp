@@ -1,5 +1,6 @@
 // Classifications, documents, libraries, approvals, constraints and costs of releases that relate them otherwise.
 #include "RecordText.h"
+#include "release/RuleBook.h"
 #include "release/rules/BackwardTables.h"
 
 #include "velkor/sdai/Part21Encoding.h"
@@ -285,7 +286,12 @@ void rebuildTotal(Rebuilding& rebuilding) {
     rebuildCostValue(rebuilding);
     RecordBuilder record(rebuilding.target(), "IFCAPPLIEDVALUERELATIONSHIP");
     record.set("COMPONENTOFTOTAL", reference(rebuilding.id()));
-    record.set("ARITHMETICOPERATOR", std::string(rebuilding.encoded("ARITHMETICOPERATOR")));
+    // What the target has no operator for, the components do not add up to.
+    auto how = rebuilding.translated(rebuilding.encoded("ARITHMETICOPERATOR"),
+                                     attributeType(rebuilding.entity(), "ARITHMETICOPERATOR"),
+                                     attributeType(record.entity(), "ARITHMETICOPERATOR"));
+    if (!how) return rebuilding.note(rules::noEnumerator, "ARITHMETICOPERATOR");
+    record.set("ARITHMETICOPERATOR", std::move(*how));
     const std::string parts(rebuilding.encoded("COMPONENTS"));
     if (auto members = rebuilding.translated(parts, attributeType(rebuilding.entity(), "COMPONENTS"),
                                              attributeType(record.entity(), "COMPONENTS"))) {

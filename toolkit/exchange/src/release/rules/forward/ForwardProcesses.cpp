@@ -95,8 +95,12 @@ void rebuildRecord(Rebuilding& rebuilding) {
     for (const std::uint64_t assignment : idsOf(rebuilding.encoded("RECORDS")))
         (controls += encodedOf(rebuilding.source(), assignment, "RELATINGCONTROL")) += ",";
     std::vector<std::string> nested;
-    for (const std::uint64_t order : idsOf(controls))
-        if (rebuilding.successorOf(order) != nullptr && order != rebuilding.id()) nested.push_back(reference(order));
+    for (const std::uint64_t order : idsOf(controls)) {
+        const sdai::EntityDefinition* successor = rebuilding.successorOf(order);
+        // Some controls have become sets of properties or times.
+        const bool isObject = successor != nullptr && successor->isKindOf("IFCOBJECTDEFINITION");
+        if (isObject && order != rebuilding.id()) nested.push_back(reference(order));
+    }
     if (nested.empty()) return;
     RecordBuilder nesting = objectBeside(rebuilding, "IFCRELNESTS", "RECORDS");
     nesting.set("RELATINGOBJECT", reference(rebuilding.id()));

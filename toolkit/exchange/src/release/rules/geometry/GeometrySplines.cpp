@@ -20,7 +20,10 @@ Successor becomesBezier(const Releases& releases, DXSdaiAppInstance& curve) {
 }
 
 bool planBezier(Planning&, DXSdaiAppInstance& curve) {
-    return SplineCurve::of(curve).has_value();
+    const std::optional<SplineCurve> spline = SplineCurve::of(curve);
+    // Knots may leave no room for any segment.
+    return spline && (areBezierKnots(spline->knots, spline->degree) ||
+                      bezierPoints(spline->points, spline->knots, spline->degree).size() > spline->degree);
 }
 
 // The curve's own point where a segment begins or ends at it, else a new one.

@@ -3,6 +3,7 @@
 #include "release/rules/geometry/GeometryTables.h"
 
 #include "velkor/sdai/Part21Encoding.h"
+#include "velkor/sdai/Part21Lexer.h"
 
 #include <cmath>
 
@@ -56,6 +57,34 @@ void rebuildBounded(Rebuilding& rebuilding) {
     rebuilding.become(record);
 }
 
+Successor becomesTrimmed(const Releases& releases, DXSdaiAppInstance& curve) {
+    const DXSdaiAppInstance* basis = curve.GetAttr("BASISCURVE").asInstance();
+    const bool isSpline = basis != nullptr && basis->IsKindOf("IFCBSPLINECURVEWITHKNOTS");
+    if (!isSpline || releases.target.entity("IFCBSPLINECURVEWITHKNOTS") != nullptr) return Successor::notHere();
+    return Successor::of(releases, "IFCTRIMMEDCURVE");
+}
+
+void rebuildTrimmed(Rebuilding& rebuilding) {
+    RecordBuilder record = rebuilding.carried(*rebuilding.successorOf(rebuilding.id()));
+    const DXSdaiAppInstance* basis = rebuilding.instance().GetAttr("BASISCURVE").asInstance();
+    const CurveRange& range = CurveRange::of(rebuilding, *basis);
+    constexpr std::string_view keyword = "IFCPARAMETERVALUE(";
+    for (const char* attribute : {"TRIM1", "TRIM2"}) {
+        std::string value(record.value(attribute));
+        const std::size_t begin = value.find(keyword);
+        const std::size_t end = begin == std::string::npos ? begin : value.find(')', begin);
+        if (end == std::string::npos) continue;
+        double parameter = 0;
+        const std::size_t number = begin + keyword.size();
+        const bool isRead = sdai::decodeReal(std::string_view(value).substr(number, end - number), parameter);
+        const std::optional<double> converted = isRead ? range.converted(parameter) : std::nullopt;
+        // Without its parameter the curve would be another one.
+        record.set(attribute,
+                   converted ? value.replace(number, end - number, real(*converted)) : std::string(sdai::omittedValue));
+    }
+    rebuilding.become(record);
+}
+
 Successor becomesDisk(const Releases& releases, DXSdaiAppInstance& solid) {
     const double radius = solid.GetAttr("FILLETRADIUS").asReal().value_or(0);
     return radius == 0 ? replacedBy(releases, solid, "IFCSWEPTDISKSOLID") : Successor::notHere();
@@ -68,6 +97,10 @@ constexpr ConversionRule sweepParameters = {
     "sweep-parameters", Effect::Converted, "Sweeps along a curve get its parameters",
     "What says none runs along the whole curve; those of a B-spline follow the knots of its Bezier segments"};
 
+constexpr ConversionRule trimParameters = {
+    "trim-parameters", Effect::Converted, "Trims of a B-spline by parameters follow the knots of its Bezier segments",
+    "The segments follow each other at a distance of one, whatever the knots were"};
+
 constexpr RebuildRule rules[] = {
     {sweepLengths, "IFCSURFACECURVESWEPTAREASOLID", lostByLengths},
     {sweepLengths, "IFCFIXEDREFERENCESWEPTAREASOLID", lostByLengths},
@@ -77,6 +110,7 @@ constexpr RebuildRule rules[] = {
      becomesDisk,
      nullptr,
      rebuildBounded},
+    {trimParameters, "IFCTRIMMEDCURVE", becomesTrimmed, nullptr, rebuildTrimmed},
     {sweepParameters, "IFCSWEPTDISKSOLID", becomesBounded, nullptr, rebuildBounded},
     {sweepParameters, "IFCSURFACECURVESWEPTAREASOLID", becomesBounded, nullptr, rebuildBounded},
 };
