@@ -389,20 +389,8 @@ private:
     std::uint64_t _at = 0;
 };
 
-namespace {
-
-/// Wants nothing.
-class Copying : public RecordRewriter {
-public:
-    bool wants(std::uint16_t) const override { return false; }
-    Outcome rewrite(const RecordView&, RecordOutput&) override { return Outcome::Keep; }
-};
-
-} // namespace
-
 void Part21Edit::write(files::OutputFile& output) const {
-    Copying copying;
-    write(output, copying);
+    StructureWriter(*_state, output).finish();
 }
 
 void Part21Edit::write(files::OutputFile& output, RecordRewriter& rewriter) const {
