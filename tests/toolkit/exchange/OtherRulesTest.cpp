@@ -265,4 +265,69 @@ TEST(OtherRules, TrimSplinesByTheParametersOfTheirSegments) {
     EXPECT_EQ(none.record(6), "IFCGEOMETRICSET((#1))");
 }
 
+TEST(OtherRules, FollowEachRuleThatIsSmall) {
+    const std::string line =
+        "#1=IFCCARTESIANPOINT((0.,0.,0.));#2=IFCAXIS2PLACEMENT3D(#1,$,$);#3=IFCPLANE(#2);#4=IFCPOLYLINE((#1,#1));";
+    const struct {
+        const char* rule;
+        const char* from;
+        const char* to;
+        std::string instances;
+        /// Of instance #10.
+        std::string expected;
+    } cases[] = {
+        {"select-type", "IFC4", "IFC2X3",
+         "#1=IFCCONTEXTDEPENDENTUNIT($,.USERDEFINED.,'x');#10=IFCMEASUREWITHUNIT(IFCPOSITIVEINTEGER(2),#1);",
+         "IFCMEASUREWITHUNIT(IFCINTEGER(2),#1)"},
+        {"number-form", "IFC2X3", "IFC4X3_ADD2",
+         "#1=IFCCONTEXTDEPENDENTUNIT($,.USERDEFINED.,'x');#10=IFCMEASUREWITHUNIT(IFCCOUNTMEASURE(1.),#1);",
+         "IFCMEASUREWITHUNIT(IFCCOUNTMEASURE(1),#1)"},
+        {"related-objects-type", "IFC4X3_ADD2", "IFC2X3",
+         "#1=IFCWALL(" + root('A') + ",$,$,$,$,$,$,$);#2=IFCGROUP(" + root('B') + ",$,$,$);#10=IFCRELASSIGNSTOGROUP(" +
+             root('C') + ",$,$,(#1),.T.,#2);",
+         "IFCRELASSIGNSTOGROUP(" + root('C') + ",$,$,(#1),$,#2)"},
+        {"no-entity", "IFC2X3", "IFC4", line + "#5=IFCREPRESENTATIONCONTEXT($,$);#10=IFCREPRESENTATION(#5,$,$,(#1));",
+         ""},
+        {"no-value", "IFC4", "IFC2X3", "#10=IFCBUILDINGELEMENTPROXY(" + root('A') + ",$,$,$,$,$,$,.PROVISIONFORVOID.);",
+         "IFCBUILDINGELEMENTPROXY(" + root('A') + ",$,$,$,$,$,$,$)"},
+        {"bounded-surfaces", "IFC4", "IFC2X3", line + "#10=IFCCURVEBOUNDEDSURFACE(#3,(#4),.F.);", ""},
+        {"surface-curves", "IFC4", "IFC2X3", line + "#10=IFCPCURVE(#3,#4);", ""},
+        {"sectioned-shapes", "IFC4X1", "IFC2X3", line + "#10=IFCSECTIONEDSOLIDHORIZONTAL(#4,(#90,#91),(#92,#93),.T.);",
+         ""},
+        {"voxels", "IFC4X4", "IFC2X3", "#10=IFCVOXELGRID(7.,$,$,1,$,$,(.T.));", ""},
+        {"space-interaction", "IFC2X3", "IFC4",
+         "#10=IFCRELINTERACTIONREQUIREMENTS(" + root('A') + ",$,$,1.,2.,#91,#92,#93);", ""},
+        {"predefined-font", "IFC2X3", "IFC4", "#10=IFCDRAUGHTINGPREDEFINEDTEXTFONT('a');",
+         "IFCEXTERNALLYDEFINEDTEXTFONT($,$,'a')"},
+        {"texture-coordinates", "IFC2X3", "IFC4", "#10=IFCTEXTURECOORDINATEGENERATOR('a',(IFCREAL(0.1)));", ""},
+        {"blob-texture", "IFC2X3", "IFC4", "#10=IFCBLOBTEXTURE(.F.,.F.,.BUMP.,$,'a',.F.);", ""},
+        {"area-tiles", "IFC2X3", "IFC4", "#10=IFCFILLAREASTYLETILESYMBOLWITHSTYLE(#90);", ""},
+        {"text-box", "IFC2X3", "IFC4", "#10=IFCTEXTSTYLEWITHBOXCHARACTERISTICS($,$,$,$,$);", ""},
+        {"port-geometry", "IFC2X3", "IFC4",
+         line + "#5=IFCARBITRARYCLOSEDPROFILEDEF(.AREA.,$,#4);#10=IFCCONNECTIONPORTGEOMETRY(#2,$,#5);",
+         "IFCCONNECTIONPOINTGEOMETRY(#1,$)"},
+        {"product-shape", "IFC2X3", "IFC4",
+         line + "#5=IFCGEOMETRICREPRESENTATIONCONTEXT($,'Model',3,$,#2,$);#6=IFCSHAPEREPRESENTATION(#5,$,$,(#1));#10="
+                "IFCPRODUCTREPRESENTATION($,$,(#6));",
+         "IFCPRODUCTDEFINITIONSHAPE($,$,(#6))"},
+        {"library-references", "IFC4", "IFC2X3", "#10=IFCLIBRARYINFORMATION('l','1',$,$,'http://x',$);",
+         "IFCLIBRARYINFORMATION('l','1',$,$,$)"},
+        {"other-resources", "IFC4", "IFC2X3", "#10=IFCCONNECTIONVOLUMEGEOMETRY(#90,#91);", ""},
+        {"door-operation", "IFC4X4", "IFC2X3",
+         "#10=IFCDOORTYPE(" + root('A') + ",$,$,$,$,$,$,$,.NOTDEFINED.,.DOUBLE_PANEL_SINGLE_SWING.,$,$);",
+         "IFCDOORSTYLE(" + root('A') + ",$,$,$,$,$,$,.DOUBLE_DOOR_SINGLE_SWING.,.NOTDEFINED.,.F.,.F.)"},
+        {"change-not-defined", "IFC4", "IFC2X3", "#10=IFCOWNERHISTORY(#92,#93,$,.NOTDEFINED.,$,$,$,1);",
+         "IFCOWNERHISTORY(#92,#93,$,.NOCHANGE.,$,$,$,1)"},
+        {"member-axis", "IFC2X3", "IFC4", "#10=IFCSTRUCTURALCURVEMEMBER(" + root('A') + ",$,$,$,$,$,.CABLE.);",
+         "IFCSTRUCTURALCURVEMEMBER(" + root('A') + ",$,$,$,$,$,.CABLE.,#95)"},
+        {"linear-to-local-placement", "IFC4X1", "IFC2X3", line + "#10=IFCLINEARPLACEMENT(#4,#90,$,#2);",
+         "IFCLOCALPLACEMENT($,#2)"},
+    };
+    for (const auto& one : cases) {
+        const auto result = toRelease(one.from, owner + one.instances, one.to);
+        EXPECT_EQ(result.record(10), one.expected) << one.rule << ' ' << one.from << " to " << one.to;
+        EXPECT_GT(result.count(one.rule), 0u) << one.rule;
+    }
+}
+
 } // namespace velkor
