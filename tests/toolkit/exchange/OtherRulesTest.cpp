@@ -320,6 +320,13 @@ TEST(OtherRules, FollowEachRuleThatIsSmall) {
          "IFCOWNERHISTORY(#92,#93,$,.NOCHANGE.,$,$,$,1)"},
         {"member-axis", "IFC2X3", "IFC4", "#10=IFCSTRUCTURALCURVEMEMBER(" + root('A') + ",$,$,$,$,$,.CABLE.);",
          "IFCSTRUCTURALCURVEMEMBER(" + root('A') + ",$,$,$,$,$,.CABLE.,#95)"},
+        {"measured-along", "IFC4X1", "IFC4X2",
+         line + "#5=IFCDISTANCEEXPRESSION(1.,$,$,$,$);#10=IFCLINEARPLACEMENT(#4,#5,$,$);",
+         "IFCLINEARPLACEMENT($,#4,#5,$,$)"},
+        {"time-of-date", "IFC2X3", "IFC4",
+         "#5=IFCCALENDARDATE(3,2,2009);#6=IFCLOCALTIME(2,$,$,$,$);#7=IFCDATEANDTIME(#5,#6);#10=IFCCOSTVALUE($,$,$,$,#7,"
+         "$,'c',$);",
+         "IFCCOSTVALUE($,$,$,$,'2009-02-03',$,'c',$,$,$)"},
         {"linear-to-local-placement", "IFC4X1", "IFC2X3", line + "#10=IFCLINEARPLACEMENT(#4,#90,$,#2);",
          "IFCLOCALPLACEMENT($,#2)"},
     };

@@ -35,8 +35,6 @@ const ConversionRule valueIntroduced{
     "value-introduced", Converted,
     "An attribute that the target introduces has the value of the version mapping document",
     "The document of the set-up says with which value the attribute begins"};
-const ConversionRule enumeratorRenamed{"enumerator-renamed", Converted,
-                                       "An enumerator takes the name that it has in the target", "Both mean the same"};
 const ConversionRule enumeratorAsText{
     "enumerator-as-text", Converted,
     "A predefined type that the target lacks becomes USERDEFINED, with the old one in ObjectType or ElementType",
@@ -89,13 +87,12 @@ const ConversionRule requiredMissing{"required-missing", Lost,
 const ConversionRule shapeLost{"shape-lost", Lost, "A product has no shape any more",
                                "The target cannot say its geometry in any form, or not exactly"};
 
-constexpr const ConversionRule* general[] = {&entityMapped,     &entityRenamed,    &supertype,       &plainElement,
-                                             &attributeMapped,  &attributeRenamed, &valueIntroduced, &enumeratorRenamed,
-                                             &enumeratorAsText, &selectType,       &numberForm,      &notDefined,
-                                             &emptyText,        &userDefinedText,  &oneOfSeveral,    &equalMember,
-                                             &relatedType,      &shapeLost,        &noEntity,        &noUse,
-                                             &noAttribute,      &noEnumerator,     &noValue,         &textShortened,
-                                             &referenceLost,    &memberLost,       &requiredLost,    &requiredMissing};
+constexpr const ConversionRule* general[] = {
+    &entityMapped,    &entityRenamed,    &supertype,      &plainElement, &attributeMapped, &attributeRenamed,
+    &valueIntroduced, &enumeratorAsText, &selectType,     &numberForm,   &notDefined,      &emptyText,
+    &userDefinedText, &oneOfSeveral,     &equalMember,    &relatedType,  &shapeLost,       &noEntity,
+    &noUse,           &noAttribute,      &noEnumerator,   &noValue,      &textShortened,   &referenceLost,
+    &memberLost,      &requiredLost,     &requiredMissing};
 
 } // namespace rules
 

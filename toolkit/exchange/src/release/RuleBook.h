@@ -53,7 +53,6 @@ extern const ConversionRule plainElement;
 extern const ConversionRule attributeRenamed;
 extern const ConversionRule attributeMapped;
 extern const ConversionRule valueIntroduced;
-extern const ConversionRule enumeratorRenamed;
 extern const ConversionRule enumeratorAsText;
 extern const ConversionRule selectType;
 extern const ConversionRule numberForm;
