@@ -323,6 +323,21 @@ TEST(OtherRules, FollowEachRuleThatIsSmall) {
         {"measured-along", "IFC4X1", "IFC4X2",
          line + "#5=IFCDISTANCEEXPRESSION(1.,$,$,$,$);#10=IFCLINEARPLACEMENT(#4,#5,$,$);",
          "IFCLINEARPLACEMENT($,#4,#5,$,$)"},
+        {"property-constraint", "IFC4", "IFC2X3",
+         "#1=IFCMETRIC('m',$,.HARD.,$,$,$,$,.EQUALTO.,$,IFCLABEL('x'),$);#2=IFCPROPERTYSINGLEVALUE('p',$,$,$);"
+         "#10=IFCRESOURCECONSTRAINTRELATIONSHIP($,$,#1,(#2));",
+         "IFCPROPERTYCONSTRAINTRELATIONSHIP(#1,(#2),$,$)"},
+        {"surface-item", "IFC2X3", "IFC4",
+         line + "#5=IFCGEOMETRICREPRESENTATIONCONTEXT($,'Model',3,$,#2,$);#6=IFCANNOTATIONSURFACE(#3,$);#10="
+                "IFCSHAPEREPRESENTATION(#5,$,$,(#6));",
+         "IFCSHAPEREPRESENTATION(#5,$,$,(#3))"},
+        {"section-placement", "IFC2X3", "IFC4",
+         "#1=IFCSTRUCTURALCURVEMEMBER(" + root('A') +
+             ",$,$,$,$,$,.CABLE.);#2=IFCRECTANGLEPROFILEDEF(.AREA.,'r',#4,1.,2.);#3=IFCCARTESIANPOINT((0.,0.));"
+             "#4=IFCAXIS2PLACEMENT2D(#3,$);#5=IFCGENERALPROFILEPROPERTIES($,#2,1.,$,$,$,$);"
+             "#10=IFCRELASSOCIATESPROFILEPROPERTIES(" +
+             root('B') + ",$,$,(#1),#5,$,IFCPLANEANGLEMEASURE(1.));",
+         "IFCRELASSOCIATESMATERIAL(" + root('B') + ",$,$,(#1),#98)"},
         {"time-of-date", "IFC2X3", "IFC4",
          "#5=IFCCALENDARDATE(3,2,2009);#6=IFCLOCALTIME(2,$,$,$,$);#7=IFCDATEANDTIME(#5,#6);#10=IFCCOSTVALUE($,$,$,$,#7,"
          "$,'c',$);",

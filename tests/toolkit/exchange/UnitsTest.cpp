@@ -293,4 +293,20 @@ TEST(Units, SaysWhatIsNoUnit) {
     }
 }
 
+TEST(Units, KeepsWholeNumbersThatWouldNeedAFraction) {
+    const std::string rate = "#9=IFCPROPERTYSINGLEVALUE('r',$,IFCINTEGERCOUNTRATEMEASURE(3),$);";
+    const auto result =
+        convertText(test::modelText("IFC4", "#1=IFCSIUNIT(*,.TIMEUNIT.,.KILO.,.SECOND.);#2=IFCUNITASSIGNMENT((#1));"
+                                            "#3=IFCPROJECT('0000000000000000000001',$,$,$,$,$,$,$,#2);" +
+                                                rate),
+                    [&](const sdai::Model& model, files::OutputFile& output) {
+                        UnitOptions options;
+                        options.units = {{"TIMEUNIT", "SECOND"}};
+                        return convertUnits(model, options, output);
+                    });
+    EXPECT_THAT(result.text, HasSubstr(rate));
+    EXPECT_EQ(result.count("whole-number-kept"), 1u);
+    EXPECT_FALSE(result.report.isLossless());
+}
+
 } // namespace velkor
