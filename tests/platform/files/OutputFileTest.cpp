@@ -82,8 +82,8 @@ TEST_F(Output, LeavesNothingWhenItIsNotCommitted) {
 TEST_F(Output, NothingIsLeftWhenTheProcessIsKilled) {
     // Where the disk has no files without a name, a signal that nobody can handle leaves one.
     const int unnamed = open(_folder.c_str(), O_TMPFILE | O_WRONLY, 0600);
-    if (unnamed < 0) GTEST_SKIP() << "no files without a name on this disk";
-    close(unnamed);
+    const int leftMost = unnamed < 0 ? 1 : 0;
+    if (unnamed >= 0) close(unnamed);
     put("old");
     const pid_t child = fork();
     if (child == 0) {
@@ -96,7 +96,7 @@ TEST_F(Output, NothingIsLeftWhenTheProcessIsKilled) {
     ASSERT_EQ(waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFSIGNALED(status));
     EXPECT_EQ(content(path()), "old");
-    EXPECT_EQ(entries(), 1);
+    EXPECT_LE(entries(), 1 + leftMost);
 }
 
 TEST_F(Output, SaysWhyItCannotBegin) {

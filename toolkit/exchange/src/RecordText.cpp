@@ -1,5 +1,7 @@
 #include "RecordText.h"
 
+#include "velkor/sdai/Part21Encoding.h"
+
 namespace velkor::exchange {
 
 std::string_view parameterOf(std::string_view record, std::size_t position) {
@@ -17,6 +19,10 @@ std::string_view parameterOf(const sdai::Model& model, std::uint32_t number, std
     const int position = entity == nullptr ? -1 : entity->attributeIndex(attribute);
     if (position < 0) return {};
     return parameterOf(model.file().instanceText(number), static_cast<std::size_t>(position));
+}
+
+bool isUnset(std::string_view parameter) {
+    return parameter.empty() || parameter == sdai::omittedValue || parameter == sdai::derivedValue;
 }
 
 std::string textOf(std::string_view parameter) {

@@ -17,6 +17,9 @@ std::string_view parameterOf(std::string_view record, std::size_t position);
 /// The same by an attribute of its entity; empty when there is none of the name.
 std::string_view parameterOf(const sdai::Model& model, std::uint32_t number, std::string_view attribute);
 
+/// Whether a parameter says nothing: "$", "*", or none at all.
+bool isUnset(std::string_view parameter);
+
 /// The text of a literal, also of a typed one; empty for what is none.
 std::string textOf(std::string_view parameter);
 

@@ -42,7 +42,7 @@ Converted<StepReport> convertRelease(const sdai::Model& model, const ReleaseOpti
         report.uses = changes.uses(releaseRules());
         return report;
     }
-    RuleBook book(releases);
+    RuleBook book;
     const ReleaseNames names(releases, options.setup);
     ReleasePlan plan(model, releases, book, names, edit);
     plan.decide();

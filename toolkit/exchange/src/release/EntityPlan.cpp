@@ -24,6 +24,7 @@ std::unique_ptr<EntityPlan> EntityPlans::make(const EntityDefinition& source, co
         slot.attribute = target.attributes()[i].attribute;
         slot.isDerived = releases.target.isDerived(target, i);
         slot.isRequired = !slot.attribute->isOptional();
+        if (slot.isRequired) slot.defaults = _plan.book().defaults(target, slot.attribute->name());
         slot.isWhole = _plan.book().isWhole(target, slot.attribute->name());
         const ReleaseNames::Slot place = _plan.names().slot(source, slot.attribute->name());
         slot.source = place.index;

@@ -27,6 +27,8 @@ struct EntityPlan {
         bool isWhole = false;
         /// Why it has another name; null for most.
         const ConversionRule* renamed = nullptr;
+        /// Of a required attribute, nearest first.
+        std::vector<const DefaultRule*> defaults;
         /// Of the version mapping document; empty for most.
         std::string introduced;
     };

@@ -1,5 +1,7 @@
 #include "release/ReleaseRewriter.h"
 
+#include "RecordText.h"
+
 #include "velkor/sdai/Part21Encoding.h"
 #include "velkor/sdai/Part21Lexer.h"
 
@@ -14,10 +16,6 @@ using sdai::RecordView;
 namespace {
 
 constexpr std::uint32_t progressStep = 1 << 14;
-
-bool isUnset(std::string_view value) {
-    return value.empty() || value == sdai::omittedValue || value == sdai::derivedValue;
-}
 
 std::string words(std::string_view first, std::string_view between, std::string_view last) {
     std::string text(first);
@@ -159,7 +157,7 @@ bool ReleaseRewriter::takeValue(const EntityPlan& plan, const EntityPlan::Slot& 
                 return true;
             }
         }
-        if (!slot.isRequired || takeDefault(*plan.target, slot, value)) return slot.isRequired;
+        if (!slot.isRequired || takeDefault(slot, value)) return slot.isRequired;
         // What was missing before is missing still.
         const bool wasWrong =
             !given.empty() &&
@@ -176,7 +174,7 @@ bool ReleaseRewriter::takeValue(const EntityPlan& plan, const EntityPlan::Slot& 
     if (_values.translate(given, *slot.from, slot.attribute->type(), value)) {
         if (!slot.isRequired || !isUnset(value)) return true;
     }
-    if (slot.isRequired && takeDefault(*plan.target, slot, value)) {
+    if (slot.isRequired && takeDefault(slot, value)) {
         noteLoss(slot, given);
         return true;
     }
@@ -207,14 +205,14 @@ bool mayStand(std::string_view encoded, const sdai::Type& type) {
     return isTyped == (type.resolved().asSelect() != nullptr && encoded.front() != '#');
 }
 
-bool ReleaseRewriter::takeDefault(const EntityDefinition& entity, const EntityPlan::Slot& slot, std::string& value) {
+bool ReleaseRewriter::takeDefault(const EntityPlan::Slot& slot, std::string& value) {
     const auto take = [&](const ConversionRule& rule, std::string&& made) {
         value = std::move(made);
         note(rule, [&] { return words(slot.attribute->name(), " = ", value); });
         return true;
     };
     const sdai::Type& declared = slot.attribute->type();
-    for (const DefaultRule* rule : _plan.book().defaults(entity, slot.attribute->name())) {
+    for (const DefaultRule* rule : slot.defaults) {
         if (rule->encoded != nullptr && !mayStand(rule->encoded, declared)) continue;
         auto made = rule->encoded != nullptr ? std::optional<std::string>(rule->encoded) : rule->make(*this);
         if (made) return take(rule->rule, std::move(*made));

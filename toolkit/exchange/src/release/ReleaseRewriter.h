@@ -101,7 +101,7 @@ private:
     void takeValues(const EntityPlan& plan, std::vector<std::string>& values);
     void takeLater(const EntityPlan& plan, std::vector<std::string>& values);
     bool takeValue(const EntityPlan& plan, const EntityPlan::Slot& slot, std::string& value);
-    bool takeDefault(const sdai::EntityDefinition& entity, const EntityPlan::Slot& slot, std::string& value);
+    bool takeDefault(const EntityPlan::Slot& slot, std::string& value);
     std::string* userText(const EntityPlan& plan, std::size_t slot, std::vector<std::string>& values) const;
     void keepTexts(const EntityPlan& plan, std::vector<std::string>& values);
     void noteDropped(const EntityPlan& plan, const std::vector<std::string>& values);

@@ -101,7 +101,7 @@ RuleBook::Tables RuleBook::tables() {
             elementRules(),  styleRules(),   timeRules(),     materialRules()};
 }
 
-RuleBook::RuleBook(const Releases&) {
+RuleBook::RuleBook() {
     for (const RuleTable& table : _tables)
         for (const RebuildRule& rule : table.rebuild) _byEntity[rule.entity].push_back(&rule);
 }

@@ -13,7 +13,7 @@ namespace velkor::exchange {
 
 class RuleBook {
 public:
-    explicit RuleBook(const Releases& releases);
+    RuleBook();
 
     /// Rules for an entity of the source: its own before those of its supertypes.
     const std::vector<const RebuildRule*>& rebuilds(const sdai::EntityDefinition& entity);

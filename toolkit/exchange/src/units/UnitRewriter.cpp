@@ -21,10 +21,6 @@ namespace {
 
 constexpr std::uint32_t progressStep = 1 << 14;
 
-bool isUnset(std::string_view value) {
-    return value.empty() || value == sdai::omittedValue || value == sdai::derivedValue;
-}
-
 bool beginsNumber(char c) {
     return (c >= '0' && c <= '9') || c == '-' || c == '+';
 }

@@ -1,8 +1,7 @@
 /// The parts that the table of what older releases lack is put together from.
 #pragma once
 
-#include "release/Rebuilding.h"
-#include "release/rules/forward/ForwardTables.h"
+#include "release/rules/RuleHelpers.h"
 
 #include <cstdint>
 #include <span>
@@ -10,12 +9,6 @@
 #include <string_view>
 
 namespace velkor::exchange {
-
-using forward::attributeType;
-using forward::carry;
-using forward::encodedOf;
-using forward::entityOf;
-using forward::isUnset;
 
 std::span<const RebuildRule> backwardTimeRules();
 std::span<const RebuildRule> backwardReferenceRules();

@@ -11,26 +11,11 @@ namespace velkor::exchange {
 
 namespace {
 
-bool isUnset(std::string_view value) {
-    return value == sdai::omittedValue || value == sdai::derivedValue;
-}
-
-const sdai::Type& typeOf(const sdai::EntityDefinition& entity, std::string_view attribute) {
-    const auto place = static_cast<std::size_t>(entity.attributeIndex(attribute));
-    return entity.attributes()[place].attribute->type();
-}
-
 /// The record of another entity, with the name of the instance's own where that says something and is free.
 RecordBuilder namedAfterSource(Rebuilding& rebuilding, std::string_view entity) {
     RecordBuilder record = rebuilding.carried(*rebuilding.target().entity(entity));
     if (isUnset(record.value("OBJECTTYPE"))) record.set("OBJECTTYPE", literal(rebuilding.entity().name()));
     return record;
-}
-
-/// An identifier that follows from that of the instance.
-std::string identifierBeside(Rebuilding& rebuilding, std::string_view what) {
-    std::string text(rebuilding.encoded("GLOBALID"));
-    return literal(derivedIdentifier((text += ' ') += what));
 }
 
 // Styles of IFC2X3 are types since IFC4, and doors and windows want those.
@@ -57,8 +42,8 @@ void rebuildWith(Rebuilding& rebuilding, std::string_view entity, std::string_vi
     const sdai::EntityDefinition& target = *rebuilding.target().entity(entity);
     RecordBuilder record = rebuilding.carried(target);
     if (rebuilding.entity().attributeIndex(from) >= 0)
-        if (auto value =
-                rebuilding.translated(rebuilding.encoded(from), typeOf(rebuilding.entity(), from), typeOf(target, to)))
+        if (auto value = rebuilding.translated(rebuilding.encoded(from), attributeType(rebuilding.entity(), from),
+                                               attributeType(target, to)))
             record.set(to, std::move(*value));
     rebuilding.become(record);
 }
@@ -70,7 +55,7 @@ void keepStyle(Rebuilding& rebuilding, RecordBuilder& record, std::string_view n
     if (rebuilding.encoded("SIZEABLE") != ".F.") attributes.push_back("Sizeable");
     const std::vector<std::string> properties = forward::propertiesOf(rebuilding, attributes);
     if (properties.empty()) return;
-    RecordBuilder set = forward::objectBeside(rebuilding, "IFCPROPERTYSET", name);
+    RecordBuilder set = objectBeside(rebuilding, "IFCPROPERTYSET", name);
     set.set("NAME", literal(name));
     set.set("HASPROPERTIES", listOf(properties));
     std::string sets(record.value("HASPROPERTYSETS"));
@@ -89,7 +74,7 @@ void rebuildDoorType(Rebuilding& rebuilding) {
 
 void rebuildWindowType(Rebuilding& rebuilding) {
     RecordBuilder record = rebuilding.carried(*rebuilding.target().entity("IFCWINDOWTYPE"));
-    forward::carry(rebuilding, "OPERATIONTYPE", record, "PARTITIONINGTYPE");
+    carry(rebuilding, "OPERATIONTYPE", record, "PARTITIONINGTYPE");
     keepStyle(rebuilding, record, "IfcWindowStyle");
     rebuilding.become(record);
 }
@@ -154,7 +139,7 @@ void rebuildLinearPlacement(Rebuilding& rebuilding) {
 // One relationship for each set where a release takes one set at a time.
 Successor becomesSeveral(const Releases& releases, DXSdaiAppInstance& relationship) {
     const sdai::EntityDefinition* same = releases.target.entity("IFCRELDEFINESBYPROPERTIES");
-    if (same == nullptr || typeOf(*same, "RELATINGPROPERTYDEFINITION").resolved().asSelect() != nullptr)
+    if (same == nullptr || attributeType(*same, "RELATINGPROPERTYDEFINITION").resolved().asSelect() != nullptr)
         return Successor::notHere();
     const bool isSet =
         relationship.GetAttr("RELATINGPROPERTYDEFINITION").encoded().starts_with("IFCPROPERTYSETDEFINITIONSET");

@@ -245,7 +245,7 @@ Successor becomesValue(const Releases& releases, DXSdaiAppInstance& property) {
 
 void rebuildValue(Rebuilding& rebuilding) {
     RecordBuilder record = rebuilding.carried(*rebuilding.target().entity("IFCPROPERTYSINGLEVALUE"));
-    forward::carry(rebuilding, "PROPERTYREFERENCE", record, "NOMINALVALUE");
+    carry(rebuilding, "PROPERTYREFERENCE", record, "NOMINALVALUE");
     rebuilding.become(record);
 }
 
@@ -323,7 +323,7 @@ void rebuildTask(Rebuilding& rebuilding) {
     rebuilding.become(record);
 }
 
-constexpr ConversionRule dateText_{
+constexpr ConversionRule dateAsText{
     "date-to-text", Effect::Rebuilt, "Dates and times become ISO 8601 texts",
     "Releases since IFC4 say them so; a day for which a time is wanted begins at midnight"};
 constexpr ConversionRule textDate{
@@ -352,10 +352,10 @@ constexpr ConversionRule dateValue{"date-property", Effect::Rebuilt,
 constexpr RebuildRule rebuilds[] = {
     {dateValue, "IFCPROPERTYREFERENCEVALUE", becomesValue, nullptr, rebuildValue},
     {timeOfDate, "IFCDATEANDTIME", notHere},
-    {dateText_, "IFCCALENDARDATE", absorbDate},
-    {dateText_, "IFCLOCALTIME", absorbDate},
-    {dateText_, "IFCDATEANDTIME", absorbDate},
-    {dateText_, "IFCCOORDINATEDUNIVERSALTIMEOFFSET", absorbDate},
+    {dateAsText, "IFCCALENDARDATE", absorbDate},
+    {dateAsText, "IFCLOCALTIME", absorbDate},
+    {dateAsText, "IFCDATEANDTIME", absorbDate},
+    {dateAsText, "IFCCOORDINATEDUNIVERSALTIMEOFFSET", absorbDate},
     {seconds, "IFCLAGTIME", absorbLag},
     {taskTime, "IFCSCHEDULETIMECONTROL", becomesTaskTime, nullptr, rebuildTaskTime},
     {taskTime, "IFCRELASSIGNSTASKS", becomesControl, giveTimes, rebuildAssignment},
@@ -364,7 +364,7 @@ constexpr RebuildRule rebuilds[] = {
 };
 
 constexpr ValueRule values[] = {
-    {dateText_, toText}, {textDate, toInstance}, {duration, toDuration}, {lag, toLag}, {seconds, toMeasure},
+    {dateAsText, toText}, {textDate, toInstance}, {duration, toDuration}, {lag, toLag}, {seconds, toMeasure},
 };
 
 } // namespace
