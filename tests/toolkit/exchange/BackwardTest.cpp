@@ -8,21 +8,13 @@ namespace velkor {
 namespace {
 
 using test::ConvertedModel;
+using test::owner;
+using test::root;
 using test::toRelease;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
-
-const std::string owner = "#90=IFCPERSON('p','P',$,$,$,$,$,$);#91=IFCORGANIZATION('o','O',$,$,$);"
-                          "#92=IFCPERSONANDORGANIZATION(#90,#91,$);#93=IFCAPPLICATION(#91,'1','A','a');"
-                          "#94=IFCOWNERHISTORY(#92,#93,$,.NOCHANGE.,$,$,$,0);";
-
-/// First attributes of an object: an identifier that ends with the letter, and the history.
-std::string root(char letter) {
-    std::string text = "'000000000000000000000";
-    return (text += letter) += "',#94";
-}
 
 struct Case {
     const char* from;

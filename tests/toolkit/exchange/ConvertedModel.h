@@ -14,6 +14,17 @@
 
 namespace velkor::test {
 
+/// An owner history #94, and whom it names.
+inline const std::string owner = "#90=IFCPERSON('p','Doe',$,$,$,$,$,$);#91=IFCORGANIZATION('o','O',$,$,$);"
+                                 "#92=IFCPERSONANDORGANIZATION(#90,#91,$);#93=IFCAPPLICATION(#91,'1','A','a');"
+                                 "#94=IFCOWNERHISTORY(#92,#93,$,.NOCHANGE.,$,$,$,0);";
+
+/// The beginning of a rooted instance: an identifier that ends with the letter, and the history.
+inline std::string root(char letter) {
+    std::string text = "'000000000000000000000";
+    return (text += letter) += "',#94";
+}
+
 struct ConvertedModel {
     std::string text;
     StepReport report;

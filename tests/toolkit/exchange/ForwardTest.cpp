@@ -9,14 +9,11 @@ namespace velkor {
 namespace {
 
 using test::ConvertedModel;
+using test::owner;
 using test::toRelease;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-const std::string owner = "#90=IFCPERSON('p','Doe',$,$,$,$,$,$);#91=IFCORGANIZATION('o','O',$,$,$);"
-                          "#92=IFCPERSONANDORGANIZATION(#90,#91,$);#93=IFCAPPLICATION(#91,'1','A','a');"
-                          "#94=IFCOWNERHISTORY(#92,#93,$,.NOCHANGE.,$,$,$,0);";
 
 /// "~A" stands for identifier and owner history, the beginning of every rooted instance.
 std::string spelled(std::string text) {

@@ -8,20 +8,12 @@ namespace velkor {
 namespace {
 
 using test::ConvertedModel;
+using test::owner;
+using test::root;
 using test::toRelease;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-const std::string owner = "#90=IFCPERSON('p','Doe',$,$,$,$,$,$);#91=IFCORGANIZATION('o','O',$,$,$);"
-                          "#92=IFCPERSONANDORGANIZATION(#90,#91,$);#93=IFCAPPLICATION(#91,'1','A','a');"
-                          "#94=IFCOWNERHISTORY(#92,#93,$,.NOCHANGE.,$,$,$,0);";
-
-/// "'…A',#94" and so on: the beginning of every rooted instance.
-std::string root(char last) {
-    std::string text = "'000000000000000000000";
-    return (text += last) += "',#94";
-}
 
 /// Instances, then what one of them becomes; nothing is wrong in the result.
 void expectRecord(const std::string& from, const std::string& instances, const std::string& to, std::uint64_t id,

@@ -10,16 +10,12 @@ namespace velkor {
 namespace {
 
 using test::ConvertedModel;
+using test::owner;
 using test::toRelease;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-
-// A person, an organization, an application and the history of them.
-const std::string owner = "#90=IFCPERSON('p',$,$,$,$,$,$,$);#91=IFCORGANIZATION('o','O',$,$,$);"
-                          "#92=IFCPERSONANDORGANIZATION(#90,#91,$);#93=IFCAPPLICATION(#91,'1','A','a');"
-                          "#94=IFCOWNERHISTORY(#92,#93,$,.NOCHANGE.,$,$,$,0);";
 
 std::string guid(int number) {
     std::string text = "'000000000000000000000";
