@@ -1,6 +1,6 @@
 #include "MeasureRatios.h"
 
-#include "velkor/text/Unicode.h"
+#include "velkor/units/MeasureUnits.h"
 
 #include <algorithm>
 #include <iterator>
@@ -92,46 +92,17 @@ constexpr Composition compositions[] = {
     {"WARPINGMOMENTUNIT", {{forceUnit, 1}, {lengthUnit, 2}}},
 };
 
-/// Measures whose units are called otherwise.
-constexpr std::pair<std::string_view, std::string_view> otherNames[] = {
-    {"IFCSECTIONALAREAINTEGRALMEASURE", "SECTIONAREAINTEGRALUNIT"},
-    {"IFCTHERMALCONDUCTIVITYMEASURE", "THERMALCONDUCTANCEUNIT"},
-};
-
-constexpr std::string_view ifc = "IFC";
-constexpr std::string_view measureEnd = "MEASURE";
-constexpr std::string_view unitEnd = "UNIT";
-
 /// Compositions lead to others twice at most.
 constexpr int deepestComposition = 4;
 
 } // namespace
-
-std::string unitTypeOf(std::string_view measure) {
-    for (const auto& [name, type] : otherNames)
-        if (name == measure) return std::string(type);
-    if (!measure.starts_with(ifc) || !measure.ends_with(measureEnd) || measure.size() <= ifc.size() + measureEnd.size())
-        return {};
-    std::string type(measure.substr(ifc.size(), measure.size() - ifc.size() - measureEnd.size()));
-    return type += unitEnd;
-}
-
-std::string measureOf(std::string_view unitType) {
-    std::string measure(ifc);
-    measure += unitType.substr(0, unitType.size() - unitEnd.size());
-    return measure += measureEnd;
-}
 
 MeasureRatios::MeasureRatios(const sdai::SchemaDefinition& schema, std::map<std::string, Ratio, std::less<>> exchanged,
                              std::function<bool(std::string_view)> isAssigned)
     : _schema(schema), _byUnit(std::move(exchanged)), _isAssigned(std::move(isAssigned)) {
     _byType.resize(_schema.definedTypes().size(), stays);
     for (const sdai::DefinedType* type : _schema.definedTypes()) {
-        // A type that a measure is defined by says what it measures: a positive length is a length.
-        const sdai::DefinedType* root = type;
-        while (const sdai::DefinedType* below = root->underlying().asDefined()) root = below;
-        if (!root->underlying().isSimple()) continue;
-        const RatioNumber number = ofUnit(unitTypeOf(root->name()));
+        const RatioNumber number = ofUnit(unitTypeOf(*type));
         if (number == stays) continue;
         _byType[type->position()] = number;
         _byKeyword.emplace(type->name(), number);

@@ -57,10 +57,4 @@ private:
     RatioNumber _planeAngle = stays;
 };
 
-/// The unit type of a measure type: "LENGTHUNIT" for IFCLENGTHMEASURE; empty for a name that is no measure's.
-std::string unitTypeOf(std::string_view measure);
-
-/// The measure type of a unit type of IfcUnitEnum.
-std::string measureOf(std::string_view unitType);
-
 } // namespace velkor::exchange

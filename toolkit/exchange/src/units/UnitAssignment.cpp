@@ -4,11 +4,11 @@
 #include "RecordBuilder.h"
 #include "RecordText.h"
 #include "ReleaseSchema.h"
-#include "units/MeasureRatios.h"
 #include "units/UnitRules.h"
 #include "velkor/text/NearestNames.h"
 #include "velkor/text/Unicode.h"
 #include "velkor/text/Wording.h"
+#include "velkor/units/MeasureUnits.h"
 
 #include <algorithm>
 #include <cmath>
@@ -41,24 +41,12 @@ std::optional<UnitScale> scaleOf(const DXSdaiAppInstance& unit) {
     return UnitScale::of(factor, unit.GetAttr("CONVERSIONOFFSET").asReal().value_or(0.0));
 }
 
-std::string unitTypes(const sdai::SchemaDefinition& schema, std::string_view wanted) {
-    std::vector<std::string_view> known;
-    for (const char* list : {"IFCUNITENUM", "IFCDERIVEDUNITENUM"})
-        if (const auto* type = schema.definedType(list))
-            for (const std::string_view name : type->resolved().asEnumeration()->values()) known.push_back(name);
+std::string unknownType(const sdai::SchemaDefinition& schema, std::string_view wanted) {
     std::string message = "there is no unit type ";
     message += text::quoted(wanted);
-    if (const auto nearest = text::nearestNames(known, wanted, 3); !nearest.empty())
+    if (const auto nearest = text::nearestNames(unitTypes(schema), wanted, 3); !nearest.empty())
         message.append("; meant is perhaps ").append(text::alternatives(nearest));
     return message;
-}
-
-bool isUnitType(const sdai::SchemaDefinition& schema, std::string_view name) {
-    return std::ranges::any_of(std::initializer_list<const char*>{"IFCUNITENUM", "IFCDERIVEDUNITENUM"},
-                               [&](const char* list) {
-                                   const auto* type = schema.definedType(list);
-                                   return type != nullptr && type->resolved().asEnumeration()->position(name) >= 0;
-                               });
 }
 
 } // namespace
@@ -93,7 +81,7 @@ UnitAssignment::read(const sdai::Model& model, const std::vector<std::pair<std::
 }
 
 tl::expected<void, std::string> UnitAssignment::want(const std::string& type, const std::string& name) {
-    if (!isUnitType(_model->schema(), type)) return tl::unexpected(unitTypes(_model->schema(), type));
+    if (!isUnitType(_model->schema(), type)) return tl::unexpected(unknownType(_model->schema(), type));
     auto unit = catalogueUnit(type, name);
     if (!unit) return tl::unexpected(unit.error());
     if (unit->conversion.offset != 0 && _model->schema().entity(offsetUnit) == nullptr)
