@@ -12,23 +12,6 @@ QORListValQORUnicodeString& folders() {
     return instance;
 }
 
-/// Full paths of the entries in one place of the runtime view, without those that are hidden.
-QORListValQORUnicodeString entries(const QORUnicodeString& subPath, const QORUnicodeString& ending) {
-    QORListValQORUnicodeString paths;
-    std::unordered_set<QORUnicodeString> seen;
-    for (const QORUnicodeString& folder : folders()) {
-        const QORUnicodeString place = folder + subPath;
-        QORDirectory* directory = nullptr;
-        if (FAILED(QOROpenDirectory(place, directory))) continue;
-        QORUnicodeString name;
-        while (QORReadDirectory(directory, name) == S_OK) {
-            if (name.utf8().ends_with(ending.utf8()) && seen.insert(name).second) paths.Append(place + "/" + name);
-        }
-        QORCloseDirectory(directory);
-    }
-    return paths;
-}
-
 } // namespace
 
 void QORSysRTVWalker::AppendRTVSubDir(const QORUnicodeString& name) {
@@ -41,7 +24,7 @@ void QORSysRTVWalker::SetPattern(const QORUnicodeString& ending) {
 
 HRESULT QORSysRTVWalker::GetNext(QORUnicodeString& path) {
     if (_next == 0) {
-        _paths = entries(_subPath, _ending);
+        _paths = velkor::files::entriesOf(folders(), _subPath, _ending);
         _next = 1;
     }
     path = _next <= _paths.Size() ? _paths[_next] : QORUnicodeString();
@@ -58,6 +41,24 @@ void setRuntimeView(const QORListValQORUnicodeString& runtimeViewFolders) {
 
 QORListValQORUnicodeString runtimeView() {
     return folders();
+}
+
+QORListValQORUnicodeString entriesOf(const QORListValQORUnicodeString& places, const QORUnicodeString& subPath,
+                                     const QORUnicodeString& ending) {
+    QORListValQORUnicodeString paths;
+    // An entry of an earlier folder hides its namesakes.
+    std::unordered_set<QORUnicodeString> seen;
+    for (const QORUnicodeString& folder : places) {
+        const QORUnicodeString place = folder + subPath;
+        QORDirectory* directory = nullptr;
+        if (FAILED(QOROpenDirectory(place, directory))) continue;
+        QORUnicodeString name;
+        while (QORReadDirectory(directory, name) == S_OK) {
+            if (name.utf8().ends_with(ending.utf8()) && seen.insert(name).second) paths.Append(place + "/" + name);
+        }
+        QORCloseDirectory(directory);
+    }
+    return paths;
 }
 
 } // namespace velkor::files

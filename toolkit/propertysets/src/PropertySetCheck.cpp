@@ -26,11 +26,11 @@ std::string shown(const sdai::Primitive& name) {
     return isTooLong(name) ? '(' + text::grouped(name.encoded().size()) + " bytes)" : name.asString();
 }
 
-using State = SetDefinition::State;
+using State = NamedDefinition::State;
 
 // What the model's sets of one name have in common, so that it is asked once.
 struct NamedSet {
-    SetDefinition* definition = nullptr;
+    NamedDefinition* definition = nullptr;
     std::string likelyName;
     // By the name of the property as the file writes it.
     std::unordered_map<std::string_view, bool> properties;
@@ -183,7 +183,7 @@ private:
         return known->second;
     }
 
-    static void describeProperty(SetFinding& finding, const SetDefinition& definition, std::string name,
+    static void describeProperty(SetFinding& finding, const NamedDefinition& definition, std::string name,
                                  const char* what) {
         const std::vector<std::string_view> known(definition.properties().begin(), definition.properties().end());
         finding.property = std::move(name);

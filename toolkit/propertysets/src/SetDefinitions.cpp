@@ -62,14 +62,14 @@ std::vector<std::string> elementTexts(const QORIDOMDocument_var& document, const
 
 } // namespace
 
-SetDefinition::SetDefinition(std::string_view name, std::string path, State state)
+NamedDefinition::NamedDefinition(std::string_view name, std::string path, State state)
     : _name(name), _setName(name), _path(std::move(path)), _state(state) {}
 
-bool SetDefinition::namesClass(std::string_view className, DXSdaiAppInstance* object) const {
+bool NamedDefinition::namesClass(std::string_view className, DXSdaiAppInstance* object) const {
     return QORIFCPSetQtoValidationService::getInstance()->IsClassSupported(_setName, unicode(className), object);
 }
 
-bool SetDefinition::appliesTo(DXSdaiAppInstance* object) const {
+bool NamedDefinition::appliesTo(DXSdaiAppInstance* object) const {
     const sdai::EntityDefinition* entity = object->entity();
     if (entity == nullptr) return namesClass({}, object);
     if (namesClass(entity->name(), object)) return true;
@@ -84,7 +84,7 @@ bool SetDefinition::appliesTo(DXSdaiAppInstance* object) const {
 }
 
 // Whether the entity is what objects of a class are that the release knows by its type alone.
-bool SetDefinition::standsForAType(const sdai::EntityDefinition& entity) const {
+bool NamedDefinition::standsForAType(const sdai::EntityDefinition& entity) const {
     const auto isThatOf = [&](const std::string& className) {
         const std::string upper = text::toUpper(className);
         const sdai::SchemaDefinition& schema = entity.schema();
@@ -95,11 +95,11 @@ bool SetDefinition::standsForAType(const sdai::EntityDefinition& entity) const {
     return std::ranges::any_of(classes(), isThatOf);
 }
 
-bool SetDefinition::hasProperty(std::string_view propertyName) const {
+bool NamedDefinition::hasProperty(std::string_view propertyName) const {
     return QORIFCPSetQtoValidationService::getInstance()->IsPropertySupported(_setName, unicode(propertyName));
 }
 
-const SetDefinition::Contents& SetDefinition::contents() const {
+const NamedDefinition::Contents& NamedDefinition::contents() const {
     if (_contents) return *_contents;
     _contents.emplace();
     QORIDOMDocument_var document;
@@ -129,10 +129,10 @@ SetDefinitions::SetDefinitions() {
     }
 }
 
-SetDefinition& SetDefinitions::find(std::string_view setName) {
+NamedDefinition& SetDefinitions::find(std::string_view setName) {
     const std::string name(setName);
     if (const auto known = _asked.find(name); known != _asked.end()) return known->second;
-    using State = SetDefinition::State;
+    using State = NamedDefinition::State;
     auto* service = QORIFCPSetQtoValidationService::getInstance();
     const auto path = _paths.find(name);
     State state = State::Undefined;

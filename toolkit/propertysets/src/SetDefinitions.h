@@ -16,7 +16,7 @@ class DXSdaiAppInstance;
 
 namespace velkor {
 
-class SetDefinition {
+class NamedDefinition {
 public:
     enum class State : std::uint8_t {
         Undefined,  ///< there is no definition
@@ -26,7 +26,7 @@ public:
     };
 
     /// `path` of the definition's file is empty without one.
-    SetDefinition(std::string_view name, std::string path, State state);
+    NamedDefinition(std::string_view name, std::string path, State state);
 
     const std::string& name() const noexcept { return _name; }
     State state() const noexcept { return _state; }
@@ -66,7 +66,7 @@ public:
 
     bool empty() const noexcept { return _paths.empty(); }
     /// The definition of a name, which stays where it is.
-    SetDefinition& find(std::string_view setName);
+    NamedDefinition& find(std::string_view setName);
     /// The one defined name that a standard name is probably meant to be: letter case or one letter differs.
     /// Empty when there is none, and for names that do not begin as those of the standard do.
     std::string likelyName(std::string_view setName) const;
@@ -74,7 +74,7 @@ public:
 private:
     // By name, which is that of the file without its ending.
     std::unordered_map<std::string, std::string> _paths;
-    std::unordered_map<std::string, SetDefinition> _asked;
+    std::unordered_map<std::string, NamedDefinition> _asked;
 };
 
 } // namespace velkor

@@ -38,4 +38,10 @@ namespace velkor::files {
 VELKOR_PLATFORM_API void setRuntimeView(const QORListValQORUnicodeString& folders);
 VELKOR_PLATFORM_API QORListValQORUnicodeString runtimeView();
 
+/// Full paths of what a walk through these folders in place of the runtime view comes to: entries of the place
+/// `subPath` ("/resources") below each of them, whose names end with `ending`.
+VELKOR_PLATFORM_API QORListValQORUnicodeString entriesOf(const QORListValQORUnicodeString& folders,
+                                                         const QORUnicodeString& subPath,
+                                                         const QORUnicodeString& ending);
+
 } // namespace velkor::files

@@ -33,30 +33,38 @@ enum class SetFit : std::uint8_t {
     WrongTemplate,       ///< on a type where occurrences are meant, and the other way round
 };
 
-/// The definition must outlive it.
+/// The definition and the schema must outlive it.
 class VELKOR_TOOLKIT_API SetApplicability {
 public:
     SetApplicability(const SetDefinition& definition, const sdai::SchemaDefinition& schema);
 
-    /// By the object's own entity or its type's. A class goes for its subtypes and for the types of its objects; an
-    /// object of a release that has no entity of its own for a class, only a type (a pump of IFC2X3), counts as that
-    /// class. A predefined type counts on the object or on its type.
+    /// By the object's own entity or its type's; a complex instance, whose entity is null, is not judged. A class goes
+    /// for its subtypes and for the types of its objects; an object of a release that has no entity of its own for a
+    /// class, only a type (a pump of IFC2X3), counts as that class. A predefined type counts on the object or on its
+    /// type.
     SetFit fit(const SetBearer& bearer) const;
     /// Of objects of an entity, whatever predefined type they have.
     bool mayApplyTo(const sdai::EntityDefinition& entity) const;
 
 private:
+    /// A class as the dictionary has it; what is null matches nothing.
     struct Class {
-        const ApplicableClass* named;
-        const sdai::EntityDefinition* entity;
-        /// What describes its objects: IFCWALLTYPE for IFCWALL, or what it describes itself.
-        const sdai::EntityDefinition* type;
-        /// The supertype that stands for it in a release that knows it by its type alone.
-        const sdai::EntityDefinition* occurrence;
+        std::string_view predefinedType;
+        /// Its objects.
+        const sdai::EntityDefinition* entity = nullptr;
+        /// The types that describe them.
+        std::vector<const sdai::EntityDefinition*> types;
+        /// What stands for its objects in a release that knows the class by its type alone; without its subtypes.
+        const sdai::EntityDefinition* standIn = nullptr;
     };
-    VELKOR_TOOLKIT_LOCAL SetFit fitTo(const Class& applicable, const SetBearer& bearer) const;
+    VELKOR_TOOLKIT_LOCAL void addClass(const ApplicableClass& named);
+    VELKOR_TOOLKIT_LOCAL bool isType(const sdai::EntityDefinition& entity) const;
+    VELKOR_TOOLKIT_LOCAL bool matches(const Class& applicable, const SetBearer& bearer) const;
+    VELKOR_TOOLKIT_LOCAL bool describes(const Class& applicable, const sdai::EntityDefinition& type) const;
+    VELKOR_TOOLKIT_LOCAL bool fitsTemplate(const sdai::EntityDefinition& entity) const;
 
-    const SetDefinition& _definition;
+    TemplateType _templateType;
+    const sdai::SchemaDefinition& _schema;
     std::vector<Class> _classes;
     const sdai::EntityDefinition* _typeObject;
     const sdai::EntityDefinition* _performanceHistory;
