@@ -247,4 +247,10 @@ PropertySetCheck checkPropertySets(const sdai::Model& model, const CheckOptions&
     return Checker(model, options).check(options.progress);
 }
 
+PropertySetCheck checkPropertySets(const sdai::Model& model, const SetLibrary&, const CheckOptions& options) {
+    PropertySetCheck check = checkPropertySets(model, options);
+    check.definedBy = model.schema().name();
+    return check;
+}
+
 } // namespace velkor

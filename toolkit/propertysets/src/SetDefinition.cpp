@@ -29,9 +29,13 @@ constexpr KindWords kindWords[] = {{"single", "IFCPROPERTYSINGLEVALUE"},
                                    {"time", "IFCQUANTITYTIME"},
                                    {"number", "IFCQUANTITYNUMBER"}};
 
-constexpr std::string_view templateWords[] = {
-    "",           "type-driven-only", "type-driven-override", "occurrence-driven", "performance-driven",
-    "material-driven", "profile-driven"};
+constexpr std::string_view templateWords[] = {"",
+                                              "type-driven-only",
+                                              "type-driven-override",
+                                              "occurrence-driven",
+                                              "performance-driven",
+                                              "material-driven",
+                                              "profile-driven"};
 
 } // namespace
 

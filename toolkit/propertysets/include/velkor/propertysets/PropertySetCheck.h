@@ -1,26 +1,45 @@
 /// The property sets and quantity sets of a model against their definitions.
 ///
 ///     const PlatformSetup setup(configuration);
-///     const PropertySetCheck check = checkPropertySets(*model);
+///     SetLibrary library(setup.definitionViews());
+///     const PropertySetCheck check = checkPropertySets(*model, library);
 ///     for (const SetFinding& finding : check.findings) show(finding.problem.line, finding.problem.message);
 #pragma once
 
 #include "velkor/model/CheckResult.h"
+#include "velkor/propertysets/SetCatalogue.h"
 #include "velkor/sdai/Model.h"
 #include "velkor/sdai/Problem.h"
 #include "velkor/ToolkitExport.h"
 
 #include <cstdint>
 #include <map>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velkor {
 
-/// One thing wrong with one set. Codes: "set-unknown", a standard name misspelled; "set-not-applicable" to the
-/// class of an object; "property-unknown".
+/// A kind of finding.
+struct SetCode {
+    /// "set-unknown".
+    std::string_view code;
+    /// What it means, in a sentence.
+    std::string_view meaning;
+    /// The implementer agreement of buildingSMART that calls it a fault: "PSE001" for property sets; empty when none
+    /// does. Findings of such codes are errors, others warnings.
+    std::string_view agreement;
+    /// The same for quantity sets.
+    std::string_view quantityAgreement;
+};
+
+/// All kinds, in the order in which documentation lists them.
+VELKOR_TOOLKIT_API std::span<const SetCode> setCodes() noexcept;
+
+/// One thing wrong with one set.
 struct SetFinding {
-    /// A warning at the instance of the set.
+    /// At the instance of the set. Its code is one of setCodes().
     sdai::Problem problem;
     std::string set;
     /// The first object concerned; no entity when the set is attached to none.
@@ -35,7 +54,24 @@ struct SetFinding {
     std::string nearest;
 };
 
+/// What a model's sets of one name come to.
+struct SetSummary {
+    std::string name;
+    /// False for sets without a definition, whose properties are counted as filled alone.
+    bool isDefined = false;
+    std::uint64_t sets = 0;
+    /// What has them; an object that has two counts twice.
+    std::uint64_t objects = 0;
+    /// Properties and quantities of the definition, over all sets: with a value, without one or absent, and with
+    /// findings of their own. Wrong ones may be filled as well.
+    std::uint64_t filled = 0;
+    std::uint64_t missing = 0;
+    std::uint64_t wrong = 0;
+};
+
 struct VELKOR_TOOLKIT_API PropertySetCheck {
+    /// That of the definitions: "IFC4X3_ADD2" for a model of IFC4X4.
+    std::string definedBy;
     /// False when there is not one definition to check by.
     bool hasDefinitions = false;
     /// Looked at.
@@ -44,12 +80,14 @@ struct VELKOR_TOOLKIT_API PropertySetCheck {
     /// Of sets that have a definition.
     std::uint64_t checkedSets = 0;
     std::uint64_t checkedProperties = 0;
-    /// Of the user's own sets.
+    /// Of the user's own sets, named without a definition.
     std::uint64_t customSets = 0;
-    /// Names without a definition, and how many sets have each; misspelled ones are findings instead.
+    /// Names without a definition, and how many sets have each; those that are findings are not among them.
     std::map<std::string, std::uint64_t> undefined;
     /// Names whose definition cannot be read.
     std::map<std::string, std::uint64_t> unreadable;
+    /// By name.
+    std::vector<SetSummary> summaries;
 
     /// In file order, bounded by the limit asked for; `total` is the full count.
     std::vector<SetFinding> findings;
@@ -68,8 +106,13 @@ struct VELKOR_TOOLKIT_API PropertySetCheck {
     std::vector<NameCount> uncheckedNames() const;
 };
 
-/// Checks every IFCPROPERTYSET and IFCELEMENTQUANTITY. The platform must have been set up (PlatformSetup). Of a complex
-/// property the name of the whole counts. Time is in proportion to the text of the sets and their relationships.
+/// Checks every IFCPROPERTYSET, IFCELEMENTQUANTITY and the properties of materials and profiles by the definitions of
+/// the model's own release. Names of the user's own sets are asked of the validation service, so the platform must have
+/// been set up (PlatformSetup). Time is in proportion to the text of the sets and their relationships.
+VELKOR_TOOLKIT_API PropertySetCheck checkPropertySets(const sdai::Model& model, const SetLibrary& library,
+                                                      const CheckOptions& options = {});
+
+/// By what the validation service reads alone.
 VELKOR_TOOLKIT_API PropertySetCheck checkPropertySets(const sdai::Model& model, const CheckOptions& options = {});
 
 } // namespace velkor

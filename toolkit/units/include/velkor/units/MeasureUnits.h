@@ -13,11 +13,11 @@
 
 namespace velkor {
 
-/// The unit type of a measure type, in upper case; empty for a name that is no measure's. What has no unit by its nature,
-/// such as a ratio, gets a name that no release has among its unit types.
+/// The unit type of a measure type, in upper case; empty for a name that is no measure's. What has no unit by its
+/// nature, such as a ratio, gets a name that no release has among its unit types.
 VELKOR_TOOLKIT_API std::string unitTypeOf(std::string_view measure);
-/// The same of what the type is defined by: that of a positive length is "LENGTHUNIT". Empty for what has no unit in the
-/// type's release.
+/// The same of what the type is defined by: that of a positive length is "LENGTHUNIT". Empty for what has no unit in
+/// the type's release.
 VELKOR_TOOLKIT_API std::string unitTypeOf(const sdai::DefinedType& type);
 
 /// The measure type of a unit type; empty for a name that is no unit type's.
