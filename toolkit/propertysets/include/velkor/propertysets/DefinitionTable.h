@@ -43,8 +43,7 @@ struct DefinitionTable {
 };
 
 /// Fails with line and what was expected.
-VELKOR_TOOLKIT_API tl::expected<DefinitionTable, sdai::Problem> readTable(std::string_view text,
-                                                                          const std::string& path);
+VELKOR_TOOLKIT_API tl::expected<DefinitionTable, sdai::Problem> readTable(std::string_view text);
 VELKOR_TOOLKIT_API std::string writtenTable(const DefinitionTable& table);
 
 } // namespace velkor
