@@ -1,5 +1,6 @@
 #include "velkor/propertysets/SetApplicability.h"
 
+#include "TypeNames.h"
 #include "velkor/text/Unicode.h"
 
 #include <algorithm>
@@ -9,7 +10,6 @@ namespace velkor {
 
 namespace {
 
-constexpr std::string_view typeEndings[] = {"TYPE", "STYLE"};
 // IFCTYPEPRODUCT describes IFCPRODUCT.
 constexpr std::string_view prefix = "IFC", typePrefix = "IFCTYPE";
 
@@ -22,9 +22,7 @@ std::string joinedName(std::string_view first, std::string_view second) {
 const sdai::EntityDefinition* describedBy(const sdai::EntityDefinition& type) {
     const std::string_view name = type.name();
     const sdai::SchemaDefinition& schema = type.schema();
-    for (const std::string_view ending : typeEndings) {
-        if (name.ends_with(ending)) return schema.entity(name.substr(0, name.size() - ending.size()));
-    }
+    if (const std::string_view described = describedName(name); !described.empty()) return schema.entity(described);
     if (!name.starts_with(typePrefix)) return nullptr;
     return schema.entity(joinedName(prefix, name.substr(typePrefix.size())));
 }
