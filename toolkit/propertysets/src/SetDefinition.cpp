@@ -51,6 +51,16 @@ std::string_view wordOf(TemplateType type) noexcept {
     return templateWords[static_cast<std::size_t>(type)];
 }
 
+std::string textOf(const ApplicableClass& applicable) {
+    std::string text = applicable.entity;
+    if (!applicable.predefinedType.empty()) text.append("/").append(applicable.predefinedType);
+    return text;
+}
+
+std::string_view kindOf(const SetDefinition& definition) noexcept {
+    return definition.isQuantitySet ? "quantity set" : "property set";
+}
+
 const PropertyDefinition* SetDefinition::property(std::string_view propertyName) const noexcept {
     const auto isNamed = [&](const PropertyDefinition& property) {
         return text::equalIgnoringCase(property.name, propertyName);

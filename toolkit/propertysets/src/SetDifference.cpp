@@ -115,10 +115,6 @@ private:
     SetDifference& _difference;
 };
 
-const char* kindOf(const SetDefinition& definition) {
-    return definition.isQuantitySet ? "quantity set" : "property set";
-}
-
 std::vector<const SetDefinition*> onlyIn(const SetCatalogue& catalogue, const SetCatalogue& other) {
     std::vector<const SetDefinition*> result;
     for (const std::string_view name : catalogue.names()) {
@@ -133,12 +129,11 @@ std::vector<const SetDefinition*> onlyIn(const SetCatalogue& catalogue, const Se
 SetDifference compareSets(const SetDefinition& before, const SetDefinition& after) {
     SetDifference difference;
     difference.name = after.name;
-    if (before.isQuantitySet != after.isQuantitySet)
-        difference.changes.push_back(
-            {"kind", kindOf(before), kindOf(after)});
-    if (before.templateType != after.templateType)
-        difference.changes.push_back(
-            {"template type", std::string(wordOf(before.templateType)), std::string(wordOf(after.templateType))});
+    const auto note = [&](std::string_view what, std::string_view one, std::string_view other) {
+        if (one != other) difference.changes.push_back({what, std::string(one), std::string(other)});
+    };
+    note("kind", kindOf(before), kindOf(after));
+    note("template type", wordOf(before.templateType), wordOf(after.templateType));
     const ClassList earlier(before), later(after);
     difference.addedClasses = later.without(earlier);
     difference.removedClasses = earlier.without(later);

@@ -32,34 +32,54 @@ constexpr guid::Uuid identifierSpace{0xf2, 0xb7, 0x88, 0x89, 0x6d, 0x6f, 0x44, 0
 /// In file terms; empty for what is no simple template.
 std::string_view templateTypeOf(PropertyKind kind) {
     switch (kind) {
-    case PropertyKind::Single: return "P_SINGLEVALUE";
-    case PropertyKind::Enumerated: return "P_ENUMERATEDVALUE";
-    case PropertyKind::Bounded: return "P_BOUNDEDVALUE";
-    case PropertyKind::List: return "P_LISTVALUE";
-    case PropertyKind::Table: return "P_TABLEVALUE";
-    case PropertyKind::Reference: return "P_REFERENCEVALUE";
-    case PropertyKind::Length: return "Q_LENGTH";
-    case PropertyKind::Area: return "Q_AREA";
-    case PropertyKind::Volume: return "Q_VOLUME";
-    case PropertyKind::Count: return "Q_COUNT";
-    case PropertyKind::Weight: return "Q_WEIGHT";
-    case PropertyKind::Time: return "Q_TIME";
-    case PropertyKind::Number: return "Q_NUMBER";
-    case PropertyKind::Complex: break;
+    case PropertyKind::Single:
+        return "P_SINGLEVALUE";
+    case PropertyKind::Enumerated:
+        return "P_ENUMERATEDVALUE";
+    case PropertyKind::Bounded:
+        return "P_BOUNDEDVALUE";
+    case PropertyKind::List:
+        return "P_LISTVALUE";
+    case PropertyKind::Table:
+        return "P_TABLEVALUE";
+    case PropertyKind::Reference:
+        return "P_REFERENCEVALUE";
+    case PropertyKind::Length:
+        return "Q_LENGTH";
+    case PropertyKind::Area:
+        return "Q_AREA";
+    case PropertyKind::Volume:
+        return "Q_VOLUME";
+    case PropertyKind::Count:
+        return "Q_COUNT";
+    case PropertyKind::Weight:
+        return "Q_WEIGHT";
+    case PropertyKind::Time:
+        return "Q_TIME";
+    case PropertyKind::Number:
+        return "Q_NUMBER";
+    case PropertyKind::Complex:
+        break;
     }
     return {};
 }
 
 std::string_view templateTypeOf(const SetDefinition& set) {
     switch (set.templateType) {
-    case TemplateType::TypeDrivenOnly: return set.isQuantitySet ? "QTO_TYPEDRIVENONLY" : "PSET_TYPEDRIVENONLY";
+    case TemplateType::TypeDrivenOnly:
+        return set.isQuantitySet ? "QTO_TYPEDRIVENONLY" : "PSET_TYPEDRIVENONLY";
     case TemplateType::TypeDrivenOverride:
         return set.isQuantitySet ? "QTO_TYPEDRIVENOVERRIDE" : "PSET_TYPEDRIVENOVERRIDE";
-    case TemplateType::OccurrenceDriven: return set.isQuantitySet ? "QTO_OCCURRENCEDRIVEN" : "PSET_OCCURRENCEDRIVEN";
-    case TemplateType::PerformanceDriven: return "PSET_PERFORMANCEDRIVEN";
-    case TemplateType::MaterialDriven: return "PSET_MATERIALDRIVEN";
-    case TemplateType::ProfileDriven: return "PSET_PROFILEDRIVEN";
-    case TemplateType::Unspecified: break;
+    case TemplateType::OccurrenceDriven:
+        return set.isQuantitySet ? "QTO_OCCURRENCEDRIVEN" : "PSET_OCCURRENCEDRIVEN";
+    case TemplateType::PerformanceDriven:
+        return "PSET_PERFORMANCEDRIVEN";
+    case TemplateType::MaterialDriven:
+        return "PSET_MATERIALDRIVEN";
+    case TemplateType::ProfileDriven:
+        return "PSET_PROFILEDRIVEN";
+    case TemplateType::Unspecified:
+        break;
     }
     return {};
 }
@@ -210,20 +230,17 @@ private:
             else
                 note("the class " + textOf(one) + " is left out: " + std::string(_schema.name()) + " has none");
         }
-        std::string result = text::joined(classes, ",", textOf);
+        std::string result = text::joined(classes, ",", [](const ApplicableClass& one) { return textOf(one); });
         if (text::characterCount(result) <= longestIdentifier) return result;
         // A class goes for its types.
         std::erase_if(classes, [known = classes](const ApplicableClass& one) {
             const std::string described(describedName(one.entity));
             return std::ranges::find(known, ApplicableClass{described, one.predefinedType}) != known.end();
         });
-        result = text::joined(classes, ",", textOf);
+        result = text::joined(classes, ",", [](const ApplicableClass& one) { return textOf(one); });
         if (text::characterCount(result) <= longestIdentifier) return result;
         note("the classes are left out: their names are longer than the schema has room for");
         return {};
-    }
-    static std::string textOf(const ApplicableClass& one) {
-        return one.predefinedType.empty() ? one.entity : one.entity + '/' + one.predefinedType;
     }
 
     struct Enumeration {

@@ -84,6 +84,9 @@ struct ApplicableClass {
     bool operator==(const ApplicableClass&) const = default;
 };
 
+/// "IfcWall", "IfcActuator/ELECTRICACTUATOR".
+VELKOR_TOOLKIT_API std::string textOf(const ApplicableClass& applicable);
+
 struct SetDefinition {
     std::string name;
     bool isQuantitySet = false;
@@ -100,5 +103,8 @@ struct SetDefinition {
 
     bool operator==(const SetDefinition&) const = default;
 };
+
+/// "property set" or "quantity set".
+VELKOR_TOOLKIT_API std::string_view kindOf(const SetDefinition& definition) noexcept;
 
 } // namespace velkor
