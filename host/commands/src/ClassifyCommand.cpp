@@ -2,6 +2,7 @@
 
 #include "Commands.h"
 #include "LimitOption.h"
+#include "output/ClassificationText.h"
 #include "output/Csv.h"
 #include "output/Json.h"
 #include "terminal/DisplayText.h"
@@ -25,20 +26,12 @@ struct Options {
 
 using Result = ConfiguredClassification;
 
-std::string entityName(const Decision& decision) {
-    return decision.entity == nullptr ? "(complex instance)" : std::string(decision.entity->name());
-}
-
 std::string explanation(const Decision& decision) {
     if (decision.neutralId.empty()) return "none: " + decision.reason;
     const AECEntry& entry = *decision.entry;
     std::string text = entry.type + ", priority " + std::to_string(entry.priority);
     if (entry.condition) text += ", " + entry.condition->attribute + " is " + text::quoted(entry.condition->value);
     return text + " (line " + std::to_string(entry.line) + ')';
-}
-
-std::string orDash(const std::string& text) {
-    return text.empty() ? "-" : text;
 }
 
 /// Calls with each product that is to be listed.
@@ -90,13 +83,7 @@ Json entryJson(const std::optional<AECEntry>& entry) {
 
 Json resultJson(const sdai::Model& model, const Result& result, std::size_t limit) {
     const Classification& classification = result.classification;
-    Json classes = Json::array(), products = Json::array();
-    for (const ProductClass& group : classesOf(classification)) {
-        classes.push_back({{"entity", entityName(*group.decision)},
-                           {"neutral_id", textOrNull(group.decision->neutralId)},
-                           {"plm_type", textOrNull(group.decision->plmType)},
-                           {"count", group.count}});
-    }
+    Json products = Json::array();
     eachListed(model, classification, limit, [&](const DXSdaiAppInstance& product, const Decision& decision) {
         products.push_back({{"instance", product.id()},
                             {"global_id", product.GetAttr("GLOBALID").asString()},
@@ -113,7 +100,7 @@ Json resultJson(const sdai::Model& model, const Result& result, std::size_t limi
             {"document", result.documentPath},
             {"total", classification.products.size()},
             {"unclassified", classification.unclassified},
-            {"classes", std::move(classes)},
+            {"classes", classesJson(classification)},
             {"products", std::move(products)}};
 }
 

@@ -8,6 +8,7 @@
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/identifiers/GuidCheck.h"
 #include "velkor/identifiers/GuidText.h"
+#include "velkor/resources/ResourceSearch.h"
 #include "velkor/sdai/Model.h"
 
 #include <nlohmann/json.hpp>
@@ -27,11 +28,18 @@ void addPropertySets(CommandContext& context, const sdai::Model& model, Report& 
     report.setFindings = summarized(problems, report.propertySets.total);
 }
 
+// A document that is there and cannot be read is the user's to mend; without one the page says so and no more.
+void addClassification(CommandContext& context, const sdai::Model& model, const PlatformSetup& setup, Report& report) {
+    report.classified = classifyAsConfigured(model, setup, context.progress());
+    if (!report.classified && searchResource(aecMappingResource, setup).isUsable())
+        context.reportUnreadable(report.classified.error());
+}
+
 void runReport(CommandContext& context, const std::string& path) {
     const auto model = context.openModel(path);
     if (!model) return;
     const PlatformSetup setup(context.configuration, context.tell());
-    Report report{modelFacts(*model), unitReport(*model), {}, 0, {}, {}, {}};
+    Report report{modelFacts(*model), unitReport(*model), {}, 0, {}, {}, {}, {}};
     ModelCheckOptions options = context.checkOptions(mostProblems);
     // Those of identifiers stand for themselves.
     options.codes.ignore.assign(guid::codes.begin(), guid::codes.end());
@@ -41,6 +49,7 @@ void runReport(CommandContext& context, const std::string& path) {
     report.identifierCount = guids.count;
     report.identifiers = summarized(guids.result.problems, guids.result.total);
     addPropertySets(context, *model, report);
+    addClassification(context, *model, setup, report);
     if (context.json())
         writeJson(context.out, reportJson(report));
     else

@@ -1,3 +1,4 @@
+#include "output/ClassificationText.h"
 #include "output/PropertySetText.h"
 #include "output/Report.h"
 #include "output/UnitText.h"
@@ -81,6 +82,15 @@ Json propertySetsJson(const Report& report) {
     return json;
 }
 
+Json classificationJson(const Report& report) {
+    if (!report.classified) return nullptr;
+    const Classification& classification = report.classified->classification;
+    return {{"document", report.classified->documentPath},
+            {"total", classification.products.size()},
+            {"unclassified", classification.unclassified},
+            {"classes", classesJson(classification)}};
+}
+
 } // namespace
 
 Json reportJson(const Report& report) {
@@ -95,7 +105,8 @@ Json reportJson(const Report& report) {
             {"units", unitReportJson(report.units)},
             {"problems", summaryJson(report.problems)},
             {"identifiers", identifiersJson(report)},
-            {"property_sets", propertySetsJson(report)}};
+            {"property_sets", propertySetsJson(report)},
+            {"classification", classificationJson(report)}};
 }
 
 } // namespace velkor::host

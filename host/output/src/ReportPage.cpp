@@ -1,13 +1,16 @@
+#include "output/ClassificationText.h"
 #include "output/PropertySetText.h"
 #include "output/Report.h"
 #include "output/UnitText.h"
 #include "terminal/DisplayText.h"
 #include "terminal/Page.h"
+#include "terminal/TextTable.h"
 #include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <charconv>
 #include <filesystem>
+#include <span>
 
 namespace velkor::host {
 
@@ -18,6 +21,7 @@ using Style = Page::Style;
 constexpr std::size_t shownKeywords = 10;
 constexpr std::size_t shownKinds = 6;
 constexpr std::size_t shownNames = 5;
+constexpr std::size_t shownClasses = 10;
 
 // Without those that are blank.
 std::string joined(std::vector<std::string> texts, std::string_view separator = ", ") {
@@ -224,6 +228,52 @@ void writePropertySets(Page& page, const Report& report) {
     writeKinds(page, findings, "validate", report.facts.path);
 }
 
+// Most frequent first, those without a neutral identifier before the others.
+std::vector<ProductClass> classesByWeight(const Classification& classification) {
+    std::vector<ProductClass> classes = classesOf(classification);
+    std::ranges::stable_sort(classes, [](const ProductClass& a, const ProductClass& b) {
+        const bool isOpen = a.decision->neutralId.empty();
+        return isOpen != b.decision->neutralId.empty() ? isOpen : a.count > b.count;
+    });
+    return classes;
+}
+
+void writeClasses(TextSink out, const std::vector<ProductClass>& classes) {
+    constexpr std::size_t widestCell = 26;
+    const std::string indent(2, ' ');
+    TextTable table({{"entity"}, {"neutral id"}, {"PLM type"}, {"count", TextTable::Right}});
+    for (const ProductClass& group : std::span(classes).first(std::min(shownClasses, classes.size()))) {
+        const auto cell = [](const std::string& text) { return shortened(orDash(text), widestCell); };
+        table.add({cell(entityName(*group.decision)), cell(group.decision->neutralId), cell(group.decision->plmType),
+                   text::grouped(group.count)});
+    }
+    table.write(out, indent);
+    if (classes.size() > shownClasses)
+        out << indent << "and " << text::counted(classes.size() - shownClasses, "class more", "classes more") << '\n';
+}
+
+void writeClassification(TextSink out, Page& page, const Report& report) {
+    if (!report.classified) {
+        page.section("Classification", "not done", Style::Doubtful);
+        page.paragraph(report.classified.error());
+        return;
+    }
+    const Classification& classification = report.classified->classification;
+    const std::size_t total = classification.products.size();
+    if (total == 0) {
+        page.section("Classification", "no products in the file");
+        return;
+    }
+    const bool isComplete = classification.unclassified == 0;
+    page.section("Classification",
+                 text::counted(total, "product", "products") + ", " +
+                     (isComplete ? "each with a neutral identifier"
+                                 : text::grouped(classification.unclassified) + " without a neutral identifier"),
+                 isComplete ? Style::Good : Style::Doubtful);
+    writeClasses(out, classesByWeight(classification));
+    page.line({"Each of them: velkor classify " + shellQuoted(report.facts.path), Style::Dim});
+}
+
 void writeProblems(Page& page, const Report& report) {
     page.section("Problems", problemCounts(report.problems, "none found"), styleOf(report.problems));
     writeKinds(page, report.problems, "check", report.facts.path);
@@ -240,6 +290,7 @@ void writeReportPage(TextSink out, bool color, const Report& report) {
     writeUnits(page, report.units);
     writeIdentifiers(page, report);
     writePropertySets(page, report);
+    writeClassification(out, page, report);
     writeProblems(page, report);
 }
 

@@ -3,9 +3,13 @@
 
 #include "output/Json.h"
 #include "velkor/check/ProblemSummary.h"
+#include "velkor/classification/ProductClasses.h"
 #include "velkor/model/ModelFacts.h"
 #include "velkor/propertysets/PropertySetCheck.h"
 #include "velkor/units/UnitReport.h"
+
+#include <string>
+#include <tl/expected.hpp>
 
 namespace velkor::host {
 
@@ -19,6 +23,8 @@ struct Report {
     /// What the sets' definitions cover, without the findings, and those by kind.
     PropertySetCheck propertySets;
     ProblemSummary setFindings;
+    /// Without a document of correspondences why there is none.
+    tl::expected<ConfiguredClassification, std::string> classified;
 };
 
 void writeReportPage(TextSink out, bool color, const Report& report);
