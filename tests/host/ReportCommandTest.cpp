@@ -1,4 +1,5 @@
 #include "Matchers.h"
+#include "TemporaryFolder.h"
 #include "TestSupport.h"
 
 #include <nlohmann/json.hpp>
@@ -6,6 +7,7 @@
 namespace velkor::host {
 
 using nlohmann::json;
+using test::TemporaryFolder;
 using testing::Not;
 
 namespace {
@@ -121,6 +123,39 @@ TEST(ReportCommand, IdentifiersAndPropertySetsHaveSections) {
     EXPECT_THAT(
         page(TemporaryModel("IFC4", "#1=IFCCARTESIANPOINT((0.,0.,0.));\n").path()),
         AllOf(HasSubstr("\nIdentifiers  none in the file\n"), HasSubstr("\nProperty sets  none in the file\n")));
+}
+
+TEST(ReportCommand, ProductsHaveASection) {
+    const TemporaryFolder folder;
+    folder.file("site/xcad/entries.xml", "<E><NeutralID Name=\"Wall\"><IFC Name=\"IfcWall\" Priority=\"1\"/>"
+                                         "<NORVEL Name=\"PlmWall\"/></NeutralID></E>");
+    const std::string ours = folder.file("ours.json", R"({"collection_standard": ["site"]})");
+    const std::string broken = folder.file("broken.json", R"({"collection_standard": ["broken"]})");
+    folder.file("broken/xcad/entries.xml", "<E>");
+    const TemporaryModel model("IFC4", smallData), none("IFC4", "#1=IFCCARTESIANPOINT((0.,0.,0.));\n");
+    const auto configured = [](const std::string& path, const std::string& configuration, const char* format = "text") {
+        return runHost({"report", path, "--config", configuration, "--format", format});
+    };
+    const json answer = json::parse(configured(model.path(), ours, "json").out)["classification"];
+    EXPECT_EQ(answer["total"], 3);
+    EXPECT_EQ(answer["unclassified"], 1);
+    EXPECT_EQ(answer["classes"],
+              json::parse(R"([{"entity": "IFCOPENINGELEMENT", "neutral_id": null, "plm_type": null, "count": 1},
+                        {"entity": "IFCWALL", "neutral_id": "Wall", "plm_type": "PlmWall", "count": 1},
+                        {"entity": "IFCWALLSTANDARDCASE", "neutral_id": "Wall", "plm_type": "PlmWall", "count": 1}])"));
+    EXPECT_THAT(configured(model.path(), ours).out,
+                AllOf(HasSubstr("\nClassification  3 products, 1 without a neutral identifier\n  entity "),
+                      HasSubstr("\n  IFCOPENINGELEMENT    -           -             1\n  IFCWALL "),
+                      HasSubstr("  Each of them: velkor classify '" + model.path())));
+    EXPECT_THAT(configured(none.path(), ours).out, HasSubstr("\nClassification  no products in the file\n"));
+
+    // The page does without a document, but not with one that cannot be read.
+    EXPECT_EQ(reportJson(model.path())["classification"], nullptr);
+    EXPECT_THAT(report(model.path()).out, HasSubstr("\nClassification  not done\n  no document of correspondences: "));
+    const Outcome outcome = configured(model.path(), broken);
+    EXPECT_EQ(outcome.status, Unreadable);
+    EXPECT_THAT(outcome.out, AllOf(HasSubstr("\nClassification  not done\n"), HasSubstr("\nProblems ")));
+    EXPECT_THAT(outcome.err, HasSubstr("entries.xml: cannot be read\n"));
 }
 
 TEST(ReportCommand, AHostileFileDoesNotDisturbThePage) {
