@@ -46,7 +46,7 @@ TEST_F(ConfigurationTest, NoCommandRunsWithAWrongConfiguration) {
               "velkor: " + wrong.path() +
                   ":1: \"colour\": unknown key; expected one of \"settings\", \"conversion_options\", \"setup_data\", "
                   "\"collection_standard\", \"default_collection_standard\", \"runtime_view\", "
-                  "\"custom_property_sets\", \"knowledge_types\"\n"
+                  "\"definitions_release\", \"custom_property_sets\", \"knowledge_types\"\n"
                   "velkor: " +
                   wrong.path() + ":1: \"runtime_view\": expected a list of texts, found the number 2\n");
     EXPECT_EQ(faults("/no/such"), "velkor: /no/such: cannot be read: No such file or directory\n");

@@ -14,7 +14,7 @@ using nlohmann::json;
 
 namespace {
 
-const std::string definitionFolder = std::string(shippedResources) + "/runtime/" + propertySetResource.subFolder;
+const std::string definitionFolder = std::string(shippedResources) + "/runtime/IFC4/" + propertySetResource.subFolder;
 
 json resources(const std::vector<std::string>& more = {}) {
     std::vector<std::string> words{"resources", "--format", "json"};

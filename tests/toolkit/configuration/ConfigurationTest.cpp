@@ -4,6 +4,7 @@
 #include "QORIFCMsgLoggingServices.h"
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCOptionsServices.h"
+#include "TemporaryFolder.h"
 #include "velkor/configuration/EffectiveOptions.h"
 #include "velkor/exchangelog/QORExchangeErr.h"
 #include "velkor/files/QORSysRTVWalker.h"
@@ -31,6 +32,7 @@ constexpr const char* full = R"({
   "collection_standard": ["site", "/base"],
   "default_collection_standard": [],
   "runtime_view": ["rtv;x"],
+  "definitions_release": "IFC2X3",
   "custom_property_sets": ["Acme_Common", "ACME doors"],
   "knowledge_types": [
     {"name": "Wall", "kind": "specialization", "parent": "Thing", "abstract": false},
@@ -56,12 +58,15 @@ TEST(ConfigurationReader, ReadsEverySection) {
     EXPECT_THAT(configuration.collectionStandard.value(), ElementsAre("conf/site", "/base"));
     EXPECT_THAT(configuration.defaultCollectionStandard.value(), IsEmpty());
     EXPECT_THAT(configuration.runtimeView.value(), ElementsAre("conf/rtv;x"));
+    EXPECT_EQ(configuration.definitionsRelease, "IFC2X3");
     EXPECT_THAT(configuration.customPropertySets, ElementsAre("Acme_Common", "ACME doors"));
     ASSERT_EQ(configuration.knowledgeTypes.size(), 2U);
     EXPECT_TRUE(configuration.knowledgeTypes[0].isSpecialization);
     EXPECT_EQ(configuration.knowledgeTypes[0].parent, "Thing") << "which stands behind it";
     EXPECT_TRUE(configuration.knowledgeTypes[1].isAbstract);
-    EXPECT_FALSE(parseConfiguration("{}", "velkor.json").configuration.collectionStandard) << "not an empty list";
+    const Configuration none = parseConfiguration("{}", "velkor.json").configuration;
+    EXPECT_FALSE(none.collectionStandard) << "not an empty list";
+    EXPECT_EQ(none.definitionsRelease, "IFC4");
 }
 
 TEST(ConfigurationReader, NamesEveryFaultWithItsPlace) {
@@ -74,7 +79,7 @@ TEST(ConfigurationReader, NamesEveryFaultWithItsPlace) {
   "collection_standard": ["a;b", 3,
     ""],
   "setup_data": {"nobar": {}, "a|b|c": "x", "|b": "x", "a|": "x", "a|b": [true]},
-  "conversion_options": ["x"],
+  "conversion_options": ["x"], "definitions_release": "IFC4X4",
   "knowledge_types": [
     {"name": "A", "kind": "knowledge", "parent": "B"},
     {"name": "B", "kind": "special", "parent": "C", "abstract": "no"},
@@ -102,6 +107,7 @@ TEST(ConfigurationReader, NamesEveryFaultWithItsPlace) {
 9: "setup_data" / "a|": expected a key "RESOURCESET|CATEGORY"
 9: "setup_data" / "a|b" / item 1: expected a text, found true
 10: "conversion_options": expected an object of texts, found a list
+10: "definitions_release": expected one of "IFC2X3", "IFC4", "IFC4X1", "IFC4X2", "IFC4X3_ADD2", found "IFC4X4"
 13: "knowledge_types" / item 2 / "kind": expected "knowledge" or "specialization", found "special"
 13: "knowledge_types" / item 2 / "abstract": expected true or false, found a text
 14: "knowledge_types": the parent of "C", "A", is derived from it
@@ -181,6 +187,53 @@ TEST_F(PlatformSetupTest, NothingOfItStays) {
     clear();
     QORIFCOptions::Reset();
     EXPECT_EQ(QORIFCOptions::GetInstance().GetExchangeProfile(), QORIFCOptions::TessellatedProfile);
+}
+
+TEST_F(PlatformSetupTest, GivesTheServicesTheViewOfOneRelease) {
+    const test::TemporaryFolder folder;
+    const std::string place = folder.path;
+    for (const char* view : {"shipped/runtime/IFC4", "shipped/runtime/IFC2X3", "site", "all/IFC2X3", "more/IFC4"})
+        folder.file(std::string(view) + "/resources/standard/IFCPsetQset/Pset_A.xml");
+    // A view that has folders of such names beside its own definitions.
+    folder.file("both/resources/standard/IFCPsetQset/Pset_A.xml");
+    folder.file("both/IFC4/resources/standard/IFCPsetQset/Pset_A.xml");
+    using Folders = std::vector<std::string>;
+    const struct {
+        std::optional<Folders> configured;
+        const char* release;
+        Folders services;
+        Folders own;
+        std::string byRelease;
+        std::string shipped;
+    } cases[] = {
+        {{}, "IFC4", {"shipped/runtime/IFC4"}, {}, "shipped/runtime", "shipped/runtime/IFC4"},
+        {{}, "IFC2X3", {"shipped/runtime/IFC2X3"}, {}, "shipped/runtime", "shipped/runtime/IFC2X3"},
+        {Folders{}, "IFC4", {}, {}, "", ""},
+        {Folders{"site", "none"}, "IFC4", {"site", "none"}, {"site", "none"}, "", ""},
+        {Folders{"site", "all"}, "IFC4", {"site", "all/IFC4"}, {"site"}, "all", ""},
+        {Folders{"all", "site", "more"}, "IFC2X3", {"all/IFC2X3", "site", "more"}, {"site", "more"}, "all", ""},
+        {Folders{"both", "all/IFC2X3"}, "IFC4", {"both", "all/IFC2X3"}, {"both", "all/IFC2X3"}, "", ""},
+    };
+    const auto inside = [&](Folders folders) {
+        for (std::string& name : folders) name.insert(0, place + '/');
+        return folders;
+    };
+    const auto path = [&](const std::string& name) { return name.empty() ? name : place + '/' + name; };
+    for (const auto& expected : cases) {
+        SCOPED_TRACE(testing::PrintToString(expected.services) + ' ' + expected.release);
+        Configuration configuration;
+        configuration.shippedResources = place + "/shipped";
+        if (expected.configured) configuration.runtimeView = inside(*expected.configured);
+        configuration.definitionsRelease = expected.release;
+        const PlatformSetup setup(configuration);
+        Folders views;
+        for (const QORUnicodeString& view : files::runtimeView()) views.emplace_back(view.utf8());
+        EXPECT_EQ(views, inside(expected.services));
+        EXPECT_EQ(setup.ownRuntimeViews(), inside(expected.own));
+        EXPECT_EQ(setup.runtimeViewsByRelease(), path(expected.byRelease));
+        EXPECT_EQ(setup.shippedRuntimeView(), path(expected.shipped));
+        EXPECT_EQ(setup.definitionsRelease(), expected.release);
+    }
 }
 
 TEST_F(PlatformSetupTest, TellsWhatTheServicesSay) {

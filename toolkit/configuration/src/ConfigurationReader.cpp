@@ -88,6 +88,7 @@ private:
             if (key == keys::defaultCollectionStandard)
                 configuration.defaultCollectionStandard = readFolders(value, place, IsSeparatedList::Yes);
             if (key == keys::runtimeView) configuration.runtimeView = readFolders(value, place, IsSeparatedList::No);
+            if (key == keys::definitionsRelease) readDefinitionsRelease(value, place);
             if (key == keys::customPropertySets) readCustomPropertySets(value, place);
             if (key == keys::knowledgeTypes) readKnowledgeTypes(value, place);
         }
@@ -174,6 +175,15 @@ private:
         if (node.text.find('\0') == std::string::npos) return true;
         error(node.line, place, "expected a text without zero characters");
         return false;
+    }
+
+    void readDefinitionsRelease(const JsonNode& section, const std::string& place) {
+        if (!isText(section, place)) return;
+        if (!isDefinitionRelease(section.text))
+            error(section.line, place,
+                  "expected one of " + text::joined(definitionReleases, ", ", text::quoted) + ", found " +
+                      text::quoted(section.text));
+        _result.configuration.definitionsRelease = section.text;
     }
 
     void readCustomPropertySets(const JsonNode& section, const std::string& place) {

@@ -4,12 +4,15 @@
 #include "QORIFCOptionsFromXCAD.h"
 #include "QORIFCOptionsServices.h"
 #include "QORIFCPSetQtoValidationService.h"
+#include "ResourceKinds.h"
 #include "velkor/configuration/ConfigurationTable.h"
+#include "velkor/files/Paths.h"
 #include "velkor/files/QORSysRTVWalker.h"
 #include "velkor/knowledge/TypeDictionary.h"
 #include "velkor/settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <new>
 
 namespace velkor {
@@ -35,6 +38,16 @@ void setLog(QORExchangeErr* log) {
     QORIFCMsgLoggingServices::SetLogError();
 }
 
+/// A folder with definitions of its own is one view, whatever else is in it.
+bool hasViewsByRelease(const std::string& folder) {
+    const std::filesystem::path path(files::nativePath(unicode(folder)));
+    std::error_code none;
+    if (std::filesystem::is_directory(path / propertySetResource.subFolder, none)) return false;
+    return std::ranges::any_of(definitionReleases, [&](std::string_view release) {
+        return std::filesystem::is_directory(path / release, none);
+    });
+}
+
 QORISetupDataFinder_var finder(const Configuration& configuration) {
     auto* data = objectmodeler::newComponent<files::SetupData>();
     for (const auto& resource : configuration.setupData) data->set(unicode(resource.key), list(resource.paths));
@@ -51,8 +64,8 @@ PlatformSetup::PlatformSetup(const Configuration& configuration, Tell tell)
     setFolders(QORIFCDXFileServices::CollectionStandardVariables[1], configuration.defaultCollectionStandard);
     setSettings(configuration);
     files::setSetupDataFinder(finder(configuration));
-    files::setRuntimeView(list(configuration.runtimeView.value_or(std::vector<std::string>())));
-    useShippedResources(configuration);
+    setRuntimeView(configuration);
+    useShippedStandard(configuration);
     setKnowledgeTypes(configuration);
     for (const std::string& name : configuration.customPropertySets) {
         QORUnicodeString upper = unicode(name);
@@ -107,13 +120,31 @@ void PlatformSetup::setFolders(const char* variable, const std::optional<std::ve
     _variables.emplace_back(variable);
 }
 
-// They are the defaults: what a user names takes their place.
-void PlatformSetup::useShippedResources(const Configuration& configuration) {
-    if (configuration.shippedResources.empty()) return;
-    if (!configuration.runtimeView) {
-        _shippedRuntimeView = configuration.shippedResources + "/runtime";
-        files::setRuntimeView(list({_shippedRuntimeView}));
+// The shipped views are the default: what a user names takes their place. The services know one release, so of a folder
+// with a view for each they are given one.
+void PlatformSetup::setRuntimeView(const Configuration& configuration) {
+    _definitionsRelease = configuration.definitionsRelease;
+    std::vector<std::string> views;
+    const auto viewsByRelease = [&](const std::string& folder) {
+        _runtimeViewsByRelease = folder;
+        return views.emplace_back(folder + '/' + _definitionsRelease);
+    };
+    if (!configuration.runtimeView && !configuration.shippedResources.empty())
+        _shippedRuntimeView = viewsByRelease(configuration.shippedResources + "/runtime");
+    for (const std::string& folder : configuration.runtimeView.value_or(std::vector<std::string>())) {
+        if (_runtimeViewsByRelease.empty() && hasViewsByRelease(folder)) {
+            viewsByRelease(folder);
+        } else {
+            views.push_back(folder);
+            _ownRuntimeViews.push_back(folder);
+        }
     }
+    files::setRuntimeView(list(views));
+}
+
+// What a user names takes its place.
+void PlatformSetup::useShippedStandard(const Configuration& configuration) {
+    if (configuration.shippedResources.empty()) return;
     const char* variable = QORIFCDXFileServices::CollectionStandardVariables[1];
     const bool isNamed =
         configuration.defaultCollectionStandard || QORDXEnvironmentVariable::HasBeenSet(QORUnicodeString(variable));

@@ -1,6 +1,7 @@
 #include "velkor/propertysets/SetCatalogue.h"
 
 #include "ResourceKinds.h"
+#include "velkor/configuration/DefinitionReleases.h"
 #include "velkor/files/FileContents.h"
 #include "velkor/files/Paths.h"
 #include "velkor/files/QORSysRTVWalker.h"
@@ -23,8 +24,7 @@ constexpr std::size_t mostBytes = std::size_t{64} << 20;
 // Of a name that is asked for; what is longer is none that is nearly another.
 constexpr std::size_t longestName = 100;
 
-constexpr std::string_view releases[] = {"IFC2X3", "IFC4", "IFC4X1", "IFC4X2", "IFC4X3_ADD2"};
-// Drafts that became the last of them, and its successor, which defines none yet.
+// Drafts that became the last release that defines sets, and its successor, which defines none yet.
 constexpr std::string_view judgedByTheLast[] = {"IFC4X3_RC1", "IFC4X3_RC3", "IFC4X4"};
 
 struct Entry {
@@ -61,11 +61,11 @@ std::string spelled(std::string_view name) {
 } // namespace
 
 std::string_view definingRelease(std::string_view release) noexcept {
-    return std::ranges::find(judgedByTheLast, release) == std::end(judgedByTheLast) ? release : *std::rbegin(releases);
+    return std::ranges::find(judgedByTheLast, release) == std::end(judgedByTheLast) ? release : *std::rbegin(definitionReleases);
 }
 
 std::span<const std::string_view> definingReleases() noexcept {
-    return releases;
+    return definitionReleases;
 }
 
 struct SetCatalogue::Contents {
@@ -201,7 +201,7 @@ const SetCatalogue& SetLibrary::of(std::string_view release) const {
 
 std::vector<std::string_view> SetLibrary::releasesWith(std::string_view setName) const {
     std::vector<std::string_view> result;
-    for (const std::string_view release : releases) {
+    for (const std::string_view release : definitionReleases) {
         if (of(release).contains(setName)) result.push_back(release);
     }
     return result;

@@ -5,6 +5,8 @@
 ///     const PlatformSetup setup(configuration);
 #pragma once
 
+#include "velkor/configuration/DefinitionReleases.h"
+
 #include <optional>
 #include <string>
 #include <utility>
@@ -41,6 +43,9 @@ struct Configuration {
     std::optional<std::vector<std::string>> collectionStandard;
     std::optional<std::vector<std::string>> defaultCollectionStandard;
     std::optional<std::vector<std::string>> runtimeView;
+    /// Of a folder with a runtime view for each release, the services read the definitions of this one: one of
+    /// `definitionReleases`.
+    std::string definitionsRelease{usualDefinitionsRelease};
     /// Names of the user's own property sets, as the file writes them.
     std::vector<std::string> customPropertySets;
     /// Every parent is one of them, and none is its own ancestor.

@@ -39,6 +39,7 @@ inline constexpr const char* setupData = "setup_data";
 inline constexpr const char* collectionStandard = "collection_standard";
 inline constexpr const char* defaultCollectionStandard = "default_collection_standard";
 inline constexpr const char* runtimeView = "runtime_view";
+inline constexpr const char* definitionsRelease = "definitions_release";
 inline constexpr const char* customPropertySets = "custom_property_sets";
 inline constexpr const char* knowledgeTypes = "knowledge_types";
 inline constexpr const char* typeName = "name";
@@ -77,6 +78,8 @@ inline constexpr ConfigurationItem configurationItems[] = {
      "QORDefaultCollectionStandard, when the environment has no such variable"},
     {ConfigurationPlace::Key, keys::runtimeView, "list of folders",
      "the folders that together are the installation, the first one strongest"},
+    {ConfigurationPlace::Key, keys::definitionsRelease, "name of a release",
+     "the one whose property sets the services know; models are judged by their own release's; IFC4 unless told"},
     {ConfigurationPlace::Key, keys::customPropertySets, "list of names",
      "property sets of your own, accepted without a definition; letter case does not count"},
     {ConfigurationPlace::Key, keys::knowledgeTypes, "list of objects", "knowledge types and specializations"},

@@ -47,6 +47,13 @@ public:
     bool hasToldErrors() const noexcept { return _log.hasWritten(); }
     /// True when the services, not the user, have put the exchange profile into the environment.
     bool isProfileVariableDerived() const noexcept { return _profileVariableIsDerived; }
+    /// Runtime views of the user's own, the strongest first: their definitions hold for every release.
+    const std::vector<std::string>& ownRuntimeViews() const noexcept { return _ownRuntimeViews; }
+    /// The folder with a runtime view for each release that is in force: the shipped one, or the first such folder of
+    /// those that are configured. Empty for none.
+    const std::string& runtimeViewsByRelease() const noexcept { return _runtimeViewsByRelease; }
+    /// The release whose view of that folder the services are given.
+    const std::string& definitionsRelease() const noexcept { return _definitionsRelease; }
     /// The folders of shipped resources that are in force; empty when something else has been configured.
     const std::string& shippedRuntimeView() const noexcept { return _shippedRuntimeView; }
     const std::string& shippedStandard() const noexcept { return _shippedStandard; }
@@ -68,7 +75,8 @@ private:
     };
 
     VELKOR_TOOLKIT_LOCAL void setFolders(const char* variable, const std::optional<std::vector<std::string>>& folders);
-    VELKOR_TOOLKIT_LOCAL void useShippedResources(const Configuration& configuration);
+    VELKOR_TOOLKIT_LOCAL void setRuntimeView(const Configuration& configuration);
+    VELKOR_TOOLKIT_LOCAL void useShippedStandard(const Configuration& configuration);
     VELKOR_TOOLKIT_LOCAL void setKnowledgeTypes(const Configuration& configuration);
     VELKOR_TOOLKIT_LOCAL void setSettings(const Configuration& configuration);
     VELKOR_TOOLKIT_LOCAL void setConversionOptions(const Configuration& configuration);
@@ -82,6 +90,9 @@ private:
     std::vector<ConversionOption> _conversionOptions;
     bool _profileVariableIsDerived = false;
     bool _hasKnowledgeTypes = false;
+    std::vector<std::string> _ownRuntimeViews;
+    std::string _runtimeViewsByRelease;
+    std::string _definitionsRelease;
     std::string _shippedRuntimeView;
     std::string _shippedStandard;
 };
