@@ -15,12 +15,7 @@ namespace {
 /// A service without any set before each test, and a runtime view of two folders.
 class PropertySetValidation : public testing::Test {
 protected:
-    PropertySetValidation() {
-        QORListValQORUnicodeString folders;
-        folders.Append((folder / "first").c_str());
-        folders.Append((folder / "second").c_str());
-        files::setRuntimeView(folders);
-    }
+    PropertySetValidation() { view({"first", "second"}); }
     ~PropertySetValidation() override {
         files::setRuntimeView({});
         // The second time, nothing is left.
@@ -28,6 +23,11 @@ protected:
             EXPECT_EQ(privateOperation<int(int)>("_ZN30QORIFCPSetQtoValidationService6OnExitEi")(argument), 0);
     }
 
+    void view(const std::vector<std::string>& names) const {
+        QORListValQORUnicodeString folders;
+        for (const std::string& name : names) folders.Append((folder / name).c_str());
+        files::setRuntimeView(folders);
+    }
     void define(const std::string& place, const std::string& name, const std::string& content) const {
         folder.file(place + "/resources/standard/IFCPsetQset/" + name, content);
     }
@@ -129,6 +129,53 @@ TEST_F(PropertySetValidation, ReadsFromTheFolderOfTheLastFile) {
     EXPECT_LT(initialize("Pset_first"), 0) << "it is sought where it is not";
     EXPECT_EQ(initialize("Pset_Both"), S_OK);
     EXPECT_TRUE(hasClass("Pset_Both", "second")) << "not the file that the runtime view prefers";
+}
+
+TEST_F(PropertySetValidation, OfSeveralReleasesReadsTheFolderThatTheWalkEndsIn) {
+    // Sets of three releases: one that all have, and some that not all have.
+    const std::vector<std::pair<std::string, std::vector<std::string>>> releases = {
+        {"IFC2X3", {"Pset_Common", "Pset_Early"}},
+        {"IFC4", {"Pset_Common", "Pset_Early", "Pset_Middle"}},
+        {"IFC4X3_ADD2", {"Pset_Common", "Pset_Middle", "Pset_Late"}},
+    };
+    for (const auto& [release, sets] : releases)
+        for (const std::string& set : sets)
+            define("views/" + release, set + ".xml",
+                   "<D><ClassName>" + release + "</ClassName><Name>" + set + "</Name><Name>Of" + release +
+                       "</Name></D>");
+
+    const struct {
+        std::vector<const char*> order;
+        /// The one whose files are read; none: no files are found.
+        std::string read;
+        std::vector<const char*> known;
+        /// Those too whose name is found in another folder than they are sought in.
+        std::vector<const char*> unknown;
+    } cases[] = {
+        {{"IFC2X3"}, "IFC2X3", {"Pset_Common", "Pset_Early"}, {"Pset_Middle", "Pset_Late"}},
+        {{"IFC2X3", "IFC4X3_ADD2"}, "IFC4X3_ADD2", {"Pset_Common", "Pset_Middle", "Pset_Late"}, {"Pset_Early"}},
+        // All that the last folder has is hidden by earlier ones, so the walk does not end there.
+        {{"IFC4X3_ADD2", "IFC4", "IFC2X3"}, "IFC4", {"Pset_Common", "Pset_Early", "Pset_Middle"}, {"Pset_Late"}},
+        {{"IFC4", "IFC2X3"}, "IFC4", {"Pset_Common", "Pset_Early", "Pset_Middle"}, {"Pset_Late"}},
+        {{"", "IFC2X3", "none"}, "IFC2X3", {"Pset_Common", "Pset_Early"}, {"Pset_Middle", "Pset_Late"}},
+        // The folder that holds the views is none itself: as if there were no definitions.
+        {{""}, "", {"Pset_Common", "Pset_Late", "Pset_Nowhere"}, {}},
+    };
+    for (const auto& expected : cases) {
+        SCOPED_TRACE(testing::PrintToString(expected.order));
+        std::vector<std::string> views;
+        for (const std::string name : expected.order) views.push_back("views/" + name);
+        view(views);
+        for (const char* set : expected.known) {
+            EXPECT_EQ(initialize(set), S_OK) << set;
+            for (const auto& [release, sets] : releases) {
+                EXPECT_EQ(hasClass(set, release.c_str()), release == expected.read) << set;
+                EXPECT_EQ(hasProperty(set, ("Of" + release).c_str()), release == expected.read) << set;
+            }
+        }
+        for (const char* set : expected.unknown) EXPECT_EQ(initialize(set), E_FAIL) << set;
+        privateOperation<int(int)>("_ZN30QORIFCPSetQtoValidationService6OnExitEi")(0);
+    }
 }
 
 TEST_F(PropertySetValidation, KeepsCustomSetsAndTheSwitch) {

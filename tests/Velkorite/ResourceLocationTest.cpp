@@ -161,4 +161,36 @@ TEST_F(ResourceLocation, OfAllFilesPutsThoseOfTheSetupDataFirst) {
     EXPECT_EQ(onePath.utf8(), file) << "an empty path counts as none";
 }
 
+// A folder of definitions for each release, of which many have the same names.
+TEST_F(ResourceLocation, OfSeveralReleasesTakesEachNameFromTheFirst) {
+    const std::string place = "resources/standard/IFCPsetQset";
+    folderA.add("IFC2X3/" + place, {"Pset_Common.xml", "Pset_Early.xml"});
+    folderA.add("IFC4/" + place, {"Pset_Common.xml", "Pset_Early.xml", "Pset_Late.xml", "Qto_Base.xml.bak"});
+    folderA.add("ifc", {"VersionMapping.xml"});
+    const auto findIn = [&](const std::vector<std::string>& releases, const char* nameText = "xml") {
+        std::string folders;
+        for (const std::string& release : releases) folders.append(A).append("/").append(release).append(";");
+        standard(folders);
+        return QORIFCDXFileServices::FindResourceFiles(place.c_str(), nameText, found);
+    };
+    const std::string early = A + "/IFC2X3\\" + place + '\\', late = A + "/IFC4\\" + place + '\\';
+    EXPECT_EQ(findIn({"IFC2X3", "IFC4"}), S_OK);
+    EXPECT_THAT(texts(found), ElementsAre(early + "Pset_Common.xml", early + "Pset_Early.xml", late + "Pset_Late.xml",
+                                          late + "Qto_Base.xml.bak"));
+    EXPECT_EQ(findIn({"IFC4", "IFC2X3"}), S_OK);
+    EXPECT_THAT(texts(found), ElementsAre(late + "Pset_Common.xml", late + "Pset_Early.xml", late + "Pset_Late.xml",
+                                          late + "Qto_Base.xml.bak"));
+    EXPECT_EQ(findIn({"IFC2X3", "IFC4"}, "Late"), S_OK) << "a text anywhere in the name";
+    EXPECT_THAT(texts(found), ElementsAre(late + "Pset_Late.xml"));
+    EXPECT_EQ(findIn({"", "IFC4X4"}), E_UNEXPECTED) << "sub-folders of releases are not looked into";
+    EXPECT_EQ(assertions(), byFileServices);
+
+    // Beside them, the other kinds of resources are found as ever: one file alone where one is expected.
+    standard(A + ';' + A + "/IFC4;" + A + "/IFC2X3");
+    EXPECT_EQ(path("ifc"), S_OK);
+    EXPECT_EQ(onePath.utf8(), A + "\\ifc\\VersionMapping.xml");
+    EXPECT_EQ(path(place.c_str()), E_UNEXPECTED);
+    EXPECT_EQ(assertions(), byDataSetup);
+}
+
 } // namespace velkor::test

@@ -61,7 +61,8 @@ std::string spelled(std::string_view name) {
 } // namespace
 
 std::string_view definingRelease(std::string_view release) noexcept {
-    return std::ranges::find(judgedByTheLast, release) == std::end(judgedByTheLast) ? release : *std::rbegin(definitionReleases);
+    return std::ranges::find(judgedByTheLast, release) == std::end(judgedByTheLast) ? release
+                                                                                    : *std::rbegin(definitionReleases);
 }
 
 std::span<const std::string_view> definingReleases() noexcept {
