@@ -1,5 +1,6 @@
 #include "Parser.h"
 
+#include "Bounds.h"
 #include "DocumentStore.h"
 #include "Messages.h"
 #include "velkor/files/InputFile.h"
@@ -25,9 +26,6 @@ constexpr int maximumMessages = 20;
 constexpr std::size_t maximumDefaults = 16U << 20U;
 /// What an attribute takes beside its text.
 constexpr std::size_t attributeSize = sizeof(xmlAttr) + sizeof(xmlNode);
-/// libxml2 compares every attribute of an element with every other, and looks for namespaces one by one.
-constexpr int maximumAttributes = 1000;
-constexpr int maximumNamespaces = 1000;
 /// Attributes that a document type declares: each may be a default of the same element.
 constexpr int maximumDeclarations = 10000;
 /// Bytes of an entity that has markup.
@@ -89,7 +87,6 @@ public:
     }
 
 private:
-    static constexpr std::size_t maximumBytes = 0x7FFFFFFF;
     // Entities become what they stand for, defaults of attributes are filled in; what stands outside the
     // file is refused above.
     static constexpr int options = XML_PARSE_NOENT | XML_PARSE_DTDATTR | XML_PARSE_NONET | XML_PARSE_BIG_LINES;
@@ -193,10 +190,8 @@ private:
     }
 
     void boundElement(void* context, const xmlChar** attributes, int count, int defaulted) {
-        const xmlParserCtxt& parser = *static_cast<xmlParserCtxtPtr>(context);
-        if (parser.nameNr >= maximumDepth) stop(context, "elements nest deeper than " + std::to_string(maximumDepth));
-        if (count > maximumAttributes) stop(context, tooManyAttributes());
-        if (parser.nsNr / 2 > maximumNamespaces) stop(context, tooManyNamespaces());
+        if (const std::string excess = elementExcess(*static_cast<xmlParserCtxtPtr>(context), count); !excess.empty())
+            stop(context, excess);
         for (int i = count - defaulted; i < count; ++i) {
             // Five pointers each: local name, prefix, namespace, begin and end of the value.
             const xmlChar** attribute = attributes + static_cast<std::ptrdiff_t>(i) * 5;
@@ -205,19 +200,11 @@ private:
         if (_defaults > maximumDefaults) stop(context, "the defaults of attributes add more than 16 MB");
     }
 
-    // While a tag is being read: at its end the work is done already. There is room for twice as many attributes
-    // as have been needed.
     void boundTag() {
-        const bool hasAttributes = _context->maxatts > 2 * 5 * (maximumAttributes + 1);
-        if (!hasAttributes && _context->nsNr / 2 <= maximumNamespaces) return;
-        tellHere(hasAttributes ? tooManyAttributes() : tooManyNamespaces());
+        const std::string excess = tagExcess(*_context);
+        if (excess.empty()) return;
+        tellHere(excess);
         _isStopped = true;
-    }
-    static std::string tooManyAttributes() {
-        return "an element has more than " + std::to_string(maximumAttributes) + " attributes";
-    }
-    static std::string tooManyNamespaces() {
-        return "more than " + std::to_string(maximumNamespaces) + " namespaces are in force";
     }
 
     void stop(void* context, const std::string& reason) {

@@ -1,0 +1,43 @@
+/// What a document may have of what the parser's time grows with the square of.
+#pragma once
+
+#include "DocumentStore.h"
+
+#include <libxml/parser.h>
+#include <string>
+
+namespace velkor::xml {
+
+/// libxml2 compares every attribute of an element with every other, and looks for namespaces one by one.
+inline constexpr int maximumAttributes = 1000;
+inline constexpr int maximumNamespaces = 1000;
+/// Bytes of a document: what libxml2 counts with an int.
+inline constexpr std::size_t maximumBytes = 0x7FFFFFFF;
+
+inline std::string tooDeep() {
+    return "elements nest deeper than " + std::to_string(maximumDepth);
+}
+inline std::string tooManyAttributes() {
+    return "an element has more than " + std::to_string(maximumAttributes) + " attributes";
+}
+inline std::string tooManyNamespaces() {
+    return "more than " + std::to_string(maximumNamespaces) + " namespaces are in force";
+}
+
+/// What is too much of an element whose begin is reported; empty when nothing is.
+inline std::string elementExcess(const xmlParserCtxt& parser, int attributes) {
+    if (parser.nameNr >= maximumDepth) return tooDeep();
+    if (attributes > maximumAttributes) return tooManyAttributes();
+    if (parser.nsNr / 2 > maximumNamespaces) return tooManyNamespaces();
+    return {};
+}
+
+/// The same while a tag is being read: at its end the work is done already. There is room for twice as many attributes
+/// as have been needed.
+inline std::string tagExcess(const xmlParserCtxt& parser) {
+    if (parser.maxatts > 2 * 5 * (maximumAttributes + 1)) return tooManyAttributes();
+    if (parser.nsNr / 2 > maximumNamespaces) return tooManyNamespaces();
+    return {};
+}
+
+} // namespace velkor::xml
