@@ -101,13 +101,58 @@ inline constexpr const char* propertySet = "PropertySet";
 inline constexpr const char* value = "Value";
 } // namespace attributelist
 
-/// Definitions of property sets and quantity sets.
+/// Definitions of property sets and quantity sets. The services look at the names and the classes alone.
 namespace definition {
 inline constexpr const char* propertySet = "PropertySetDef";
 inline constexpr const char* quantitySet = "QtoSetDef";
 /// The first one is the set's own, those behind it are its properties'.
 inline constexpr const char* name = "Name";
 inline constexpr const char* className = "ClassName";
+
+/// Of a set.
+inline constexpr const char* templateType = "templatetype";
+inline constexpr const char* release = "IfcVersion";
+inline constexpr const char* releaseName = "version";
+inline constexpr const char* classes = "ApplicableClasses";
+inline constexpr const char* typeValue = "ApplicableTypeValue";
+inline constexpr const char* method = "MethodOfMeasurement";
+inline constexpr const char* properties = "PropertyDefs";
+inline constexpr const char* quantities = "QtoDefs";
+
+/// Of a property or a quantity.
+inline constexpr const char* property = "PropertyDef";
+inline constexpr const char* quantity = "QtoDef";
+inline constexpr const char* propertyType = "PropertyType";
+inline constexpr const char* quantityType = "QtoType";
+
+/// What is within a property type.
+inline constexpr const char* single = "TypePropertySingleValue";
+inline constexpr const char* simple = "TypeSimpleProperty";
+inline constexpr const char* enumerated = "TypePropertyEnumeratedValue";
+inline constexpr const char* bounded = "TypePropertyBoundedValue";
+inline constexpr const char* list = "TypePropertyListValue";
+inline constexpr const char* table = "TypePropertyTableValue";
+inline constexpr const char* reference = "TypePropertyReferenceValue";
+inline constexpr const char* complex = "TypeComplexProperty";
+inline constexpr const char* dataType = "DataType";
+inline constexpr const char* unitType = "UnitType";
+inline constexpr const char* type = "type";
+inline constexpr const char* referenceType = "reftype";
+inline constexpr const char* listValue = "ListValue";
+inline constexpr const char* definingValue = "DefiningValue";
+inline constexpr const char* definedValue = "DefinedValue";
+inline constexpr const char* enumeration = "EnumList";
+inline constexpr const char* enumerator = "EnumItem";
+inline constexpr const char* constants = "ConstantList";
+inline constexpr const char* constant = "ConstantDef";
+/// Of an enumeration, and the usage of a complex property.
+inline constexpr const char* listName = "name";
+
+/// What comes before the words of IfcPropertySetTemplateTypeEnum and of quantities.
+inline constexpr const char* propertySetPrefix = "PSET_";
+inline constexpr const char* quantitySetPrefix = "QTO_";
+inline constexpr const char* quantityPrefix = "Q_";
+
 /// The class that a text names: a predefined type may follow it behind a "/".
 constexpr std::string_view classNamed(std::string_view text) {
     const std::size_t slash = text.find('/');

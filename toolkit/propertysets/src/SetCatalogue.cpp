@@ -45,7 +45,7 @@ void read(Entry& entry) {
     if (reading)
         entry.definition = std::make_unique<SetDefinition>(std::move(reading->definition));
     else
-        entry.reason = entry.path + ':' + std::to_string(reading.error().line) + ": " + reading.error().message;
+        entry.reason = std::move(reading.error().message);
 }
 
 // Letters and digits alone, in lower case: what is left of a name that somebody spells in his own way.

@@ -14,19 +14,13 @@ struct KindWords {
 };
 
 // By kind.
-constexpr KindWords kindWords[] = {{"single", "IFCPROPERTYSINGLEVALUE"},
-                                   {"enumerated", "IFCPROPERTYENUMERATEDVALUE"},
-                                   {"bounded", "IFCPROPERTYBOUNDEDVALUE"},
-                                   {"list", "IFCPROPERTYLISTVALUE"},
-                                   {"table", "IFCPROPERTYTABLEVALUE"},
-                                   {"reference", "IFCPROPERTYREFERENCEVALUE"},
-                                   {"complex", "IFCCOMPLEXPROPERTY"},
-                                   {"length", "IFCQUANTITYLENGTH"},
-                                   {"area", "IFCQUANTITYAREA"},
-                                   {"volume", "IFCQUANTITYVOLUME"},
-                                   {"count", "IFCQUANTITYCOUNT"},
-                                   {"weight", "IFCQUANTITYWEIGHT"},
-                                   {"time", "IFCQUANTITYTIME"},
+constexpr KindWords kindWords[] = {{"single", "IFCPROPERTYSINGLEVALUE"},   {"enumerated", "IFCPROPERTYENUMERATEDVALUE"},
+                                   {"bounded", "IFCPROPERTYBOUNDEDVALUE"}, {"list", "IFCPROPERTYLISTVALUE"},
+                                   {"table", "IFCPROPERTYTABLEVALUE"},     {"reference", "IFCPROPERTYREFERENCEVALUE"},
+                                   {"complex", "IFCCOMPLEXPROPERTY"},      {"any", ""},
+                                   {"length", "IFCQUANTITYLENGTH"},        {"area", "IFCQUANTITYAREA"},
+                                   {"volume", "IFCQUANTITYVOLUME"},        {"count", "IFCQUANTITYCOUNT"},
+                                   {"weight", "IFCQUANTITYWEIGHT"},        {"time", "IFCQUANTITYTIME"},
                                    {"number", "IFCQUANTITYNUMBER"}};
 
 constexpr std::string_view templateWords[] = {"",

@@ -59,6 +59,7 @@ std::string_view templateTypeOf(PropertyKind kind) {
     case PropertyKind::Number:
         return "Q_NUMBER";
     case PropertyKind::Complex:
+    case PropertyKind::Any:
         break;
     }
     return {};

@@ -9,6 +9,7 @@
 #include "velkor/sdai/Problem.h"
 #include "velkor/ToolkitExport.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <tl/expected.hpp>
@@ -28,14 +29,22 @@ struct DefinitionFault {
     bool operator==(const DefinitionFault&) const = default;
 };
 
+/// A kind of fault and what it means, in one sentence.
+struct DefinitionFaultKind {
+    std::string_view name;
+    std::string_view meaning;
+};
+/// All there are.
+VELKOR_TOOLKIT_API std::span<const DefinitionFaultKind> definitionFaultKinds() noexcept;
+
 struct DefinitionReading {
     SetDefinition definition;
     /// In the order of the file.
     std::vector<DefinitionFault> faults;
 };
 
-/// `path` is what errors name. Fails for what is not well-formed and for what is no definition of a set, with line and
-/// what was expected.
+/// `path` is what errors name, with the line, and what a set without a name is named after. Fails for what is not
+/// well-formed and for what is no definition of a set, with what was expected; oddities are faults.
 VELKOR_TOOLKIT_API tl::expected<DefinitionReading, sdai::Problem> readDefinition(std::string_view bytes,
                                                                                  const std::string& path);
 

@@ -20,6 +20,7 @@ enum class PropertyKind : std::uint8_t {
     Table,      ///< IFCPROPERTYTABLEVALUE
     Reference,  ///< IFCPROPERTYREFERENCEVALUE
     Complex,    ///< IFCCOMPLEXPROPERTY
+    Any,        ///< whatever a model has: the definition does not say
     Length,     ///< IFCQUANTITYLENGTH, and so on for the others
     Area,
     Volume,
@@ -34,7 +35,7 @@ constexpr bool isQuantity(PropertyKind kind) noexcept {
     return kind >= PropertyKind::Length;
 }
 
-/// In file terms: "IFCPROPERTYSINGLEVALUE", "IFCQUANTITYLENGTH".
+/// In file terms: "IFCPROPERTYSINGLEVALUE", "IFCQUANTITYLENGTH"; empty for Any.
 VELKOR_TOOLKIT_API std::string_view entityOf(PropertyKind kind) noexcept;
 /// As people read it and tables write it: "single", "enumerated", "length".
 VELKOR_TOOLKIT_API std::string_view wordOf(PropertyKind kind) noexcept;
