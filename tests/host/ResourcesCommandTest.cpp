@@ -122,6 +122,11 @@ TEST_F(ResourcesCommandTest, RuntimeViewFoldersHideEachOther) {
     EXPECT_EQ(sets["folders"][2]["files"].size(), 2U) << "those with the ending";
     EXPECT_EQ(sets["folders"][2]["files"][1]["hidden_by"], folder / "user/resources/standard/IFCPsetQset");
     EXPECT_EQ(sets["setup_data"], nullptr);
+    EXPECT_EQ(sets["releases"], json::array());
+    EXPECT_EQ(sets["remarks"], json({"the validation service reads every file from \"" +
+                                     (folder / "rtv/resources/standard/IFCPsetQset") +
+                                     "\", the folder of the last one; 1 of another folder counts for the judgement of "
+                                     "models alone"}));
 
     // People see the first few of many by name, programs see all of them.
     for (int i = 10; i < 30; ++i) folder.file(definitions + std::string("Qto_") + std::to_string(i) + ".xml");
@@ -129,6 +134,34 @@ TEST_F(ResourcesCommandTest, RuntimeViewFoldersHideEachOther) {
     EXPECT_THAT(
         runHost({"resources", "--config", folder / "velkor.json"}).out,
         AllOf(HasSubstr("\n    Qto_16.xml: used\n    13 others: 13 used\n  -> 22 files\n"), Not(HasSubstr("Qto_17"))));
+}
+
+TEST_F(ResourcesCommandTest, TellsTheViewsOfReleases) {
+    const std::string place = std::string("/") + propertySetResource.subFolder;
+    for (const char* path : {"views/IFC2X3", "views/IFC4", "own"}) folder.file(path + place + "/Pset_A.xml");
+    folder.file("views/IFC4" + place + "/Pset_B.xml");
+    folder.file("views/IFC4" + place + "/notes.txt");
+    folder.file("views/IFC4X1" + place);
+    const std::string configuration =
+        configured({{"runtime_view", {"own", "views"}}, {"definitions_release", "IFC2X3"}});
+    const json sets = resource(propertySetResource, configuration);
+    const auto view = [&](const char* release, const char* state, int files, bool services) {
+        return json{{"release", release},
+                    {"path", folder / ("views/" + std::string(release) + place)},
+                    {"state", state},
+                    {"files", files},
+                    {"services", services}};
+    };
+    EXPECT_EQ(sets["releases"], json({view("IFC2X3", "readable", 1, true), view("IFC4", "readable", 2, false),
+                                      view("IFC4X1", "is_no_folder", 0, false), view("IFC4X2", "missing", 0, false),
+                                      view("IFC4X3_ADD2", "missing", 0, false)}));
+    EXPECT_EQ(sets["folders"].size(), 2U);
+    EXPECT_EQ(sets["folders"][1]["path"], sets["releases"][0]["path"]);
+    EXPECT_THAT(used(sets), ElementsAre("own" + place + "/Pset_A.xml"));
+    EXPECT_THAT(runHost({"resources", "--config", configuration}).out,
+                HasSubstr("\n  models are judged by the files of their own release:\n"
+                          "    IFC2X3  1 file, those of the services\n    IFC4  2 files\n    IFC4X1  " +
+                          (folder / ("views/IFC4X1" + place)) + " is no folder\n"));
 }
 
 TEST_F(ResourcesCommandTest, SetupDataComeFirst) {

@@ -93,6 +93,12 @@ void writeText(Page& page, const ResourceSearch& search) {
         page.line("-> " + text::grouped(search.used.size()) + " files");
     else
         for (const auto& file : search.used) page.line("-> " + withState(file.path, file.state));
+    if (!search.releaseViews.empty()) page.line("models are judged by the files of their own release:");
+    for (const auto& view : search.releaseViews)
+        page.line("  " + view.release + "  " +
+                  (view.state == PathState::Readable ? text::counted(view.files.size(), "file", "files")
+                                                     : view.path + ' ' + inWords(view.state)) +
+                  (view.isForServices ? ", those of the services" : ""));
     for (const std::string& remark : search.remarks) page.line({"note: " + remark, Page::Style::Doubtful});
     if (!search.isUsable()) page.line({search.reason, Page::Style::Bad});
 }
@@ -117,12 +123,20 @@ Json searchJson(const ResourceSearch& search) {
                            {"state", name(folder.state)},
                            {"files", std::move(entries)}});
     }
+    Json views = Json::array();
+    for (const auto& view : search.releaseViews)
+        views.push_back({{"release", view.release},
+                         {"path", view.path},
+                         {"state", name(view.state)},
+                         {"files", view.files.size()},
+                         {"services", view.isForServices}});
     return {{"name", search.kind.name},
             {"rule", name(search.kind.rule)},
             {"setup_data", search.setupKey.empty()
                                ? Json()
                                : Json{{"key", search.setupKey}, {"paths", filesJson(search.setupPaths)}}},
             {"folders", std::move(folders)},
+            {"releases", std::move(views)},
             {"result", search.result ? Json(*search.result) : Json()},
             {"used", filesJson(search.used)},
             {"reason", search.isUsable() ? Json() : Json(search.reason)},

@@ -139,10 +139,13 @@ std::vector<CheckedFile> ResourceCheck::used(const PlatformSetup& setup) {
     for (const LinterKind& kind : kinds) {
         std::vector<std::string> paths;
         std::unordered_set<std::string> known;
-        for (const auto& used : searchResource(*kind.resource, setup).used) {
-            // Setup data may name a file that the collection standard has as well.
-            if (known.insert(used.path).second) paths.push_back(used.path);
-        }
+        // Setup data may name a file that the collection standard has as well.
+        const auto add = [&](const std::string& path) {
+            if (known.insert(path).second) paths.push_back(path);
+        };
+        const ResourceSearch search = searchResource(*kind.resource, setup);
+        for (const auto& used : search.used) add(used.path);
+        for (const auto& view : search.releaseViews) std::ranges::for_each(view.files, add);
         std::ranges::move(files(paths, kind), std::back_inserter(result));
     }
     return result;

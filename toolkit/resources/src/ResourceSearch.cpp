@@ -101,6 +101,18 @@ void searchCollectionStandard(ResourceSearch& search, const std::string& shipped
     }
 }
 
+/// Calls `add` for each name of a folder that is one of the kind's files, in their order. Tells the folder's state.
+template <class Add>
+PathState listFolder(const std::string& path, const ResourceKind& kind, Add add) {
+    QORDirectory* directory = nullptr;
+    if (FAILED(QOROpenDirectory(QORUnicodeString(std::string_view(path)), directory))) return unopenedState(path);
+    for (QORUnicodeString name; QORReadDirectory(directory, name) == S_OK;) {
+        if (name.utf8().ends_with(kind.nameText)) add(name);
+    }
+    QORCloseDirectory(directory);
+    return PathState::Readable;
+}
+
 // The walker says what is used; the folders are listed to say what it passes over.
 void searchRuntimeView(ResourceSearch& search, const std::string& shipped) {
     Folders folders(search.folders);
@@ -110,14 +122,10 @@ void searchRuntimeView(ResourceSearch& search, const std::string& shipped) {
                       inside(path, search.kind.subFolder),
                       PathState::Readable,
                       {}};
-        QORDirectory* directory = nullptr;
-        if (FAILED(QOROpenDirectory(QORUnicodeString(std::string_view(folder.path)), directory)))
-            folder.state = unopenedState(folder.path);
+        const std::string place = folder.path;
         folders.begin(std::move(folder));
-        for (QORUnicodeString name; directory != nullptr && QORReadDirectory(directory, name) == S_OK;) {
-            if (name.utf8().ends_with(search.kind.nameText)) folders.add(name);
-        }
-        QORCloseDirectory(directory);
+        search.folders.back().state =
+            listFolder(place, search.kind, [&](const QORUnicodeString& name) { folders.add(name); });
     }
     QORSysRTVWalker walker;
     QORToken steps(search.kind.subFolder);
@@ -125,6 +133,20 @@ void searchRuntimeView(ResourceSearch& search, const std::string& shipped) {
         walker.AppendRTVSubDir(step);
     walker.SetPattern(search.kind.nameText);
     for (QORUnicodeString path; SUCCEEDED(walker.GetNext(path));) search.used.push_back(file(path));
+}
+
+void searchReleaseViews(ResourceSearch& search, const PlatformSetup& setup) {
+    if (setup.runtimeViewsByRelease().empty()) return;
+    const std::string root = files::nativePath(QORUnicodeString(std::string_view(setup.runtimeViewsByRelease())));
+    for (const std::string_view release : definitionReleases) {
+        ResourceSearch::ReleaseView view{std::string(release), {}, PathState::Readable, {}};
+        view.path = inside(inside(root, view.release), search.kind.subFolder);
+        view.isForServices = release == setup.definitionsRelease();
+        view.state = listFolder(view.path, search.kind, [&](const QORUnicodeString& name) {
+            view.files.push_back(inside(view.path, std::string(name.utf8())));
+        });
+        search.releaseViews.push_back(std::move(view));
+    }
 }
 
 // The services that read the kinds of these rules look for themselves, by these very steps.
@@ -218,6 +240,20 @@ std::string reason(const ResourceSearch& search) {
     return emptyReason(search);
 }
 
+// The validation service takes all files for those of one folder. What judges models does not.
+void remarkOtherFolders(ResourceSearch& search) {
+    const auto folderOf = [](const File& file) {
+        return std::string_view(file.path).substr(0, file.path.find_last_of('/'));
+    };
+    const std::string_view last = folderOf(search.used.back());
+    const auto elsewhere = std::ranges::count_if(search.used, [&](const File& file) { return folderOf(file) != last; });
+    if (elsewhere == 0) return;
+    search.remarks.push_back("the validation service reads every file from " + text::quoted(last) +
+                             ", the folder of the last one; " + text::grouped(static_cast<std::uint64_t>(elsewhere)) +
+                             " of another folder " + (elsewhere == 1 ? "counts" : "count") +
+                             " for the judgement of models alone");
+}
+
 void remark(ResourceSearch& search) {
     const std::size_t count = search.setupPaths.size();
     if (count > 1 && search.kind.rule != ResourceRule::AllFiles) {
@@ -226,6 +262,7 @@ void remark(ResourceSearch& search) {
     }
     if (search.kind.rule == ResourceRule::AllFiles && search.result && FAILED(*search.result) && search.isUsable())
         search.remarks.emplace_back("the collection standard has no such file, which the services report as a failure");
+    if (search.kind.rule == ResourceRule::RuntimeView && search.isUsable()) remarkOtherFolders(search);
     // Of what makes the search useless the reason tells.
     for (std::size_t i = search.isUsable() ? 0 : 1; i < search.used.size(); ++i) {
         const File& used = search.used[i];
@@ -249,12 +286,14 @@ const char* name(PathState state) {
 }
 
 ResourceSearch searchResource(const ResourceKind& kind, const PlatformSetup& setup) {
-    ResourceSearch search{kind, {}, {}, {}, {}, {}, {}, {}};
+    ResourceSearch search{kind, {}, {}, {}, {}, {}, {}, {}, {}};
     askSetupData(search);
-    if (kind.rule == ResourceRule::RuntimeView)
+    if (kind.rule == ResourceRule::RuntimeView) {
         searchRuntimeView(search, setup.shippedRuntimeView());
-    else
+        searchReleaseViews(search, setup);
+    } else {
         searchCollectionStandard(search, setup.shippedStandard());
+    }
     chooseFiles(search);
     search.reason = reason(search);
     remark(search);

@@ -77,7 +77,7 @@ public:
     CheckedFile file(const std::string& path, const LinterKind* kind, std::istream* standardInput);
     /// Judges the files of one kind in the order in which the services read them.
     std::vector<CheckedFile> files(const std::vector<std::string>& paths, const LinterKind& kind);
-    /// Judges every file that the services use, kind by kind.
+    /// Judges every file that the services use or models are judged by, kind by kind.
     std::vector<CheckedFile> used(const PlatformSetup& setup);
 
 private:

@@ -45,12 +45,26 @@ struct ResourceSearch {
         std::vector<Entry> entries;
     };
 
+    /// The runtime view of a release, of a folder that has one for each.
+    struct ReleaseView {
+        std::string release;
+        /// The folder in it where the files of the kind are.
+        std::string path;
+        PathState state;
+        /// Paths, in the order of their names.
+        std::vector<std::string> files;
+        /// True for that which the services are given. Models are judged by that of their own release.
+        bool isForServices = false;
+    };
+
     ResourceKind kind;
     /// What the setup data are asked for and name; empty where they are not asked.
     std::string setupKey;
     std::vector<File> setupPaths;
     /// In the order of the search.
     std::vector<Folder> folders;
+    /// Oldest release first; none when no folder of the runtime view has a view for each release.
+    std::vector<ReleaseView> releaseViews;
     /// What the services answer, for the kinds that have a service to ask.
     std::optional<HRESULT> result;
     std::vector<File> used;
