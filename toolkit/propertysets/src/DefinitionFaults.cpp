@@ -10,7 +10,7 @@ constexpr DefinitionFaultKind kinds[] = {
     {definitionfaults::blanks, "Blanks or line ends stand around a name or a type; they are left out."},
     {definitionfaults::strayPoint, "A full stop stands behind an enumerator or a predefined type; it is left out."},
     {definitionfaults::nameMissing,
-     "A set has no name and gets that of its file, or a property has none and is left out."},
+     "A set has no name and gets that of its file, or a property or an enumerator has none and is left out."},
     {definitionfaults::nameDiffers, "A set is named otherwise than its file, by which it is found."},
     {definitionfaults::templateUnknown,
      "The template type is empty or none of ISO 16739's; the set is then for types and occurrences alike, or for "
@@ -22,8 +22,9 @@ constexpr DefinitionFaultKind kinds[] = {
     {definitionfaults::classesInOneText, "One text names several classes; each is taken."},
     {definitionfaults::classRepeated, "A class is named twice; it counts once."},
     {definitionfaults::classUnknown, "The release has no such class; it is left out."},
-    {definitionfaults::predefinedTypeUnknown,
-     "The class has no such predefined type; objects whose object type is that text are meant."},
+    {definitionfaults::predefinedTypeUnknown, "The class has no such predefined type; those that begin with the text "
+                                              "are taken, and where there are none, objects "
+                                              "whose object type it is are meant."},
     {definitionfaults::condition,
      "What a set applies to depends on more than a class and its predefined or object type; a related type is taken as "
      "the class, other conditions are left out."},

@@ -122,7 +122,7 @@ constexpr std::uint64_t parentsOf(DefinitionElement element) noexcept {
     case DataType:
     case UnitType:
         return bit(Single) | bit(Simple) | bit(Bounded) | bit(List) | bit(ListValue) | bit(DefiningValue) |
-               bit(DefinedValue);
+               bit(DefinedValue) | bit(Reference);
     case ListValue:
         return bit(List);
     case DefiningValue:
