@@ -4,16 +4,20 @@
 #include "LimitOption.h"
 #include "output/Json.h"
 #include "output/ProblemText.h"
+#include "output/PropertySetText.h"
 #include "output/RuleText.h"
 #include "terminal/DisplayText.h"
 #include "velkor/check/ModelCheck.h"
 #include "velkor/check/ProblemSummary.h"
+#include "velkor/configuration/PlatformSetup.h"
+#include "velkor/propertysets/DefinitionSearch.h"
 #include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <span>
 
 namespace velkor::host {
@@ -26,6 +30,7 @@ struct Options {
     std::string path;
     bool syntaxOnly = false;
     bool withoutRules = false;
+    bool propertySets = false;
     std::string rule;
     CodeFilter codes;
     std::size_t jobs = 0;
@@ -65,7 +70,7 @@ void writeCoverage(TextSink out, const FileCheck& check, const RuleCoverage& cov
     out << '\n';
 }
 
-Json coverageJson(const RuleCoverage& coverage) {
+Json judgedJson(const RuleCoverage& coverage) {
     Json unknown = Json::array();
     for (const auto& each : coverage.unknownByRule) unknown.push_back({{"rule", each.rule}, {"count", each.count}});
     return {{"instances", coverage.instances},   {"rules", coverage.rules},     {"judged_rules", coverage.judgedRules},
@@ -89,6 +94,7 @@ void writeText(CommandContext& context, const FileCheck& check) {
         context.out << '\n';
     }
     if (result.coverage) writeCoverage(context.out, check, *result.coverage);
+    if (result.propertySets) context.out << check.file << ": " << coverageText(*result.propertySets) << '\n';
 }
 
 /// Problems with the rule that each breaks.
@@ -105,6 +111,29 @@ Json brokenRulesJson(const FileCheck& check) {
     return result;
 }
 
+/// A code of property sets that is asked for; null for none.
+const SetCode* chosenSetCode(const CodeFilter& codes) {
+    const auto isChosen = [&](const SetCode& code) { return std::ranges::count(codes.only, code.code) > 0; };
+    const auto chosen = std::ranges::find_if(setCodes(), isChosen);
+    return chosen == setCodes().end() ? nullptr : &*chosen;
+}
+
+void tellDefinitions(CommandContext& context, const PropertySetCheck& sets) {
+    if (!sets.hasDefinitions) context.reportUnreadable(noDefinitions);
+    for (const std::string& reason : unreadableDefinitions(sets)) context.reportUnreadable(reason);
+}
+
+void writeResult(CommandContext& context, const FileCheck& check) {
+    const ModelCheckResult& result = check.result;
+    if (!context.json()) return writeText(context, check);
+    writeJson(context.out, {{"file", check.file},
+                            {"release", textOrNull(check.release)},
+                            {"total", result.total},
+                            {"problems", brokenRulesJson(check)},
+                            {"judged", result.coverage ? judgedJson(*result.coverage) : Json()},
+                            {"property_sets", result.propertySets ? coverageJson(*result.propertySets) : Json()}});
+}
+
 void runCheck(CommandContext& context, const Options& options) {
     ModelCheckOptions wanted({options.limit, context.progress(), options.codes});
     wanted.scope = options.syntaxOnly     ? CheckScope::Structure
@@ -112,6 +141,16 @@ void runCheck(CommandContext& context, const Options& options) {
                                           : CheckScope::Everything;
     wanted.jobs = static_cast<unsigned>(options.jobs);
     if (!options.rule.empty()) wanted.rules = {options.rule};
+    std::optional<PlatformSetup> setup;
+    std::optional<SetLibrary> library;
+    if (options.propertySets) {
+        setup.emplace(context.configuration, context.tell());
+        wanted.definitions = &library.emplace(definitionViews(*setup));
+    } else if (const SetCode* code = chosenSetCode(options.codes)) {
+        context.err << "velkor: --only: " << code->code << " needs --property-sets\n";
+        context.status = BadUsage;
+        return;
+    }
     const auto check = checkFile(options.path, wanted);
     if (!check) return context.reportUnreadable(check.error().message);
     if (!options.rule.empty() && !check->release.empty() && !ruleNamed(check->release, options.rule)) {
@@ -120,12 +159,8 @@ void runCheck(CommandContext& context, const Options& options) {
         return;
     }
     context.status = check->result.total == 0 ? Done : Findings;
-    if (!context.json()) return writeText(context, *check);
-    writeJson(context.out, {{"file", check->file},
-                            {"release", textOrNull(check->release)},
-                            {"total", check->result.total},
-                            {"problems", brokenRulesJson(*check)},
-                            {"judged", check->result.coverage ? coverageJson(*check->result.coverage) : Json()}});
+    writeResult(context, *check);
+    if (check->result.propertySets) tellDefinitions(context, *check->result.propertySets);
 }
 
 } // namespace
@@ -133,8 +168,8 @@ void runCheck(CommandContext& context, const Options& options) {
 void addCheckCommand(const Command& app, CommandContext& context) {
     const Command command = app.addCommand(
         "check",
-        "What is wrong with a model: its exchange structure, its instances by the dictionary, and the rules of "
-        "its schema");
+        "What is wrong with a model: its exchange structure, its instances by the dictionary, the rules of its schema, "
+        "and its property sets");
     const auto options = std::make_shared<Options>();
     command.addOption("MODEL", options->path, "IFC file").required();
     const Option syntax =
@@ -144,6 +179,11 @@ void addCheckCommand(const Command& app, CommandContext& context) {
     schema.excludes(syntax);
     const Option rule = command.addOption("--rule", options->rule, "Judge this rule of the schema and nothing else");
     rule.valueName("NAME").excludes(syntax).excludes(schema);
+    command
+        .addFlag("--property-sets", options->propertySets,
+                 "Judge property sets and quantity sets by their definitions as well")
+        .excludes(syntax)
+        .excludes(rule);
     command.addOption("--only", options->codes.only, "List these kinds of problems only")
         .valueName("CODE,…")
         .someOf(problemCodes());

@@ -8,6 +8,7 @@
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/identifiers/GuidCheck.h"
 #include "velkor/identifiers/GuidText.h"
+#include "velkor/propertysets/DefinitionSearch.h"
 #include "velkor/resources/ResourceSearch.h"
 #include "velkor/sdai/Model.h"
 
@@ -20,8 +21,9 @@ namespace {
 // Enough for a summary by kind.
 constexpr std::size_t mostProblems = 10'000;
 
-void addPropertySets(CommandContext& context, const sdai::Model& model, Report& report) {
-    report.propertySets = checkPropertySets(model, context.checkOptions(mostProblems));
+void addPropertySets(CommandContext& context, const sdai::Model& model, const PlatformSetup& setup, Report& report) {
+    const SetLibrary library(definitionViews(setup));
+    report.propertySets = checkPropertySets(model, library, context.checkOptions(mostProblems));
     std::vector<sdai::Problem> problems;
     for (SetFinding& finding : report.propertySets.findings) problems.push_back(std::move(finding.problem));
     report.propertySets.findings.clear();
@@ -48,7 +50,7 @@ void runReport(CommandContext& context, const std::string& path) {
     const guid::GuidCheck guids = guid::checkGuids(*model, context.checkOptions(mostProblems));
     report.identifierCount = guids.count;
     report.identifiers = summarized(guids.result.problems, guids.result.total);
-    addPropertySets(context, *model, report);
+    addPropertySets(context, *model, setup, report);
     addClassification(context, *model, setup, report);
     if (context.json())
         writeJson(context.out, reportJson(report));

@@ -33,6 +33,12 @@ Json coverageJson(const PropertySetCheck& check) {
             {"without_definition", std::move(names)}};
 }
 
+std::string coverageText(const PropertySetCheck& check) {
+    return text::grouped(check.checkedSets) + " of " + text::counted(check.sets, "set", "sets") + " and " +
+           text::grouped(check.checkedProperties) + " of " +
+           text::counted(check.properties, "property or quantity", "properties and quantities") + " checked";
+}
+
 std::string undefinedText(const PropertySetCheck& check, std::size_t most) {
     const auto names = check.uncheckedNames();
     std::string text;

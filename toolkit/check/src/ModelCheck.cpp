@@ -61,6 +61,15 @@ void judgeRules(const sdai::Model& model, const ModelCheckOptions& options, Mode
     result.coverage = rules.coverage;
 }
 
+void judgePropertySets(const sdai::Model& model, const ModelCheckOptions& options, ModelCheckResult& result) {
+    PropertySetCheck sets = checkPropertySets(model, *options.definitions, options);
+    CheckResult found{{}, sets.total, sets.isComplete};
+    for (SetFinding& finding : sets.findings) found.problems.push_back(std::move(finding.problem));
+    take(result, found, options.limit);
+    sets.findings.clear();
+    result.propertySets = std::move(sets);
+}
+
 } // namespace
 
 CheckResult checkStructure(const sdai::Part21File& file, const CheckOptions& options) {
@@ -79,9 +88,11 @@ ModelCheckResult checkModel(const sdai::Model& model, const ModelCheckOptions& o
     take(result, checkStructure(model.file(), options), options.limit);
     if (options.scope == CheckScope::Structure || !result.isComplete) return result;
     take(result, checkInstances(model, options), options.limit);
-    if (options.scope == CheckScope::Dictionary || !result.isComplete) return result;
-    judgeRules(model, options, result);
-    if (result.isComplete) take(result, checkIdentifiers(model, options), options.limit);
+    if (options.scope == CheckScope::Everything && result.isComplete) {
+        judgeRules(model, options, result);
+        if (result.isComplete) take(result, checkIdentifiers(model, options), options.limit);
+    }
+    if (options.definitions != nullptr && result.isComplete) judgePropertySets(model, options, result);
     return result;
 }
 

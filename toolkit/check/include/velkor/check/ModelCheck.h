@@ -1,10 +1,12 @@
-/// The complete pass over a model: exchange structure, instances by the dictionary, rules of the schema, identifiers.
+/// The complete pass over a model: exchange structure, instances by the dictionary, rules of the schema, identifiers,
+/// and property sets where that is asked for.
 ///
 ///     const ModelCheckResult result = checkModel(*model);
 ///     for (const sdai::Problem& problem : result.problems) show(model->file().name(), problem);
 #pragma once
 
 #include "velkor/model/CheckResult.h"
+#include "velkor/propertysets/PropertySetCheck.h"
 #include "velkor/rules/RuleCheck.h"
 #include "velkor/sdai/Model.h"
 #include "velkor/ToolkitExport.h"
@@ -36,11 +38,17 @@ struct ModelCheckOptions : CheckOptions {
     unsigned jobs = 0;
     /// Names of rules, as ruleNamed() knows them: they are judged and nothing else. Empty for all that the scope has.
     std::vector<std::string> rules = {};
+    /// Property sets are judged by these, too, as checkPropertySets() does, unless the structure alone or single rules
+    /// are judged. Null for no such judgement.
+    const SetLibrary* definitions = nullptr;
 };
 
 struct ModelCheckResult : CheckResult {
     /// What the rules were held to; none when the scope leaves them out.
     std::optional<RuleCoverage> coverage;
+    /// What the definitions of property sets cover, its findings being among the problems; none when it was not asked
+    /// for.
+    std::optional<PropertySetCheck> propertySets;
 };
 
 /// The exchange structure alone, without a dictionary. One pass over the text; memory for the instance numbers and the
