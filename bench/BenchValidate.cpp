@@ -3,6 +3,7 @@
 
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/identifiers/GuidCheck.h"
+#include "velkor/propertysets/DefinitionSearch.h"
 #include "velkor/propertysets/PropertySetCheck.h"
 #include "velkor/sdai/Model.h"
 
@@ -64,12 +65,13 @@ void eachModel(benchmark::State& state, bool isWrong, Check check) {
     Configuration configuration;
     configuration.shippedResources = VELKOR_SOURCE_DIR "/resources";
     const PlatformSetup setup(configuration, [](const std::string& line) { std::cerr << line << '\n'; });
+    const SetLibrary library(definitionViews(setup));
     for (auto _ : state) {
         state.PauseTiming();
         auto model = Model::fromText(structureText(isWrong), "bench");
         if (!model) return state.SkipWithError(model.error().message.c_str());
         state.ResumeTiming();
-        if (!check(**model)) return state.SkipWithError("the model was not checked as expected");
+        if (!check(**model, library)) return state.SkipWithError("the model was not checked as expected");
         state.PauseTiming();
         model->reset();
         state.ResumeTiming();
@@ -78,18 +80,20 @@ void eachModel(benchmark::State& state, bool isWrong, Check check) {
 }
 
 void rightSets(benchmark::State& state) {
-    eachModel(state, false, [](const Model& model) {
-        const PropertySetCheck check = checkPropertySets(model, {});
+    eachModel(state, false, [](const Model& model, const SetLibrary& library) {
+        const PropertySetCheck check = checkPropertySets(model, library, {});
         return check.total == 0 && check.checkedProperties == wallCount * std::size(properties);
     });
 }
 
 void wrongSets(benchmark::State& state) {
-    eachModel(state, true, [](const Model& model) { return checkPropertySets(model, {}).total == 2 * wallCount; });
+    eachModel(state, true, [](const Model& model, const SetLibrary& library) {
+        return checkPropertySets(model, library, {}).total == 2 * wallCount;
+    });
 }
 
 void identifiers(benchmark::State& state) {
-    eachModel(state, false, [](const Model& model) {
+    eachModel(state, false, [](const Model& model, const SetLibrary&) {
         const guid::GuidCheck check = guid::checkGuids(model, {});
         return check.result.total == 0 && check.count == 3 * wallCount;
     });

@@ -6,6 +6,7 @@
 #include "velkor/classification/ProductClasses.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/identifiers/GuidCheck.h"
+#include "velkor/propertysets/DefinitionSearch.h"
 #include "velkor/propertysets/PropertySetCheck.h"
 
 #include <algorithm>
@@ -63,6 +64,7 @@ TEST_F(ProgressTest, AnEndedWorkKeepsWhatItHasFound) {
     Configuration configuration;
     configuration.shippedResources = VELKOR_SOURCE_DIR "/resources";
     const PlatformSetup setup(configuration);
+    const SetLibrary library(definitionViews(setup));
     const struct {
         std::string_view step;
         std::function<Answer(const CheckOptions&)> work;
@@ -73,7 +75,7 @@ TEST_F(ProgressTest, AnEndedWorkKeepsWhatItHasFound) {
         {"Checking the identifiers",
          [&](const auto& options) { return answerOf(guid::checkGuids(**model, options).result); }},
         {"Checking the property sets",
-         [&](const auto& options) { return answerOf(checkPropertySets(**model, options)); }},
+         [&](const auto& options) { return answerOf(checkPropertySets(**model, library, options)); }},
         {"Classifying the products",
          [&](const auto& options) {
              return answerOf(classifyAsConfigured(**model, setup, options.progress).value().classification);

@@ -73,6 +73,8 @@ struct SetCatalogue::Contents {
     std::string release;
     std::vector<std::string_view> names;
     std::unordered_map<std::string_view, Entry> entries;
+    // By letters and digits alone; made when it is first needed.
+    std::unordered_map<std::string, std::string_view> spelledNames;
     // What the names are views of: paths of files, in the order of their folders.
     std::vector<std::string> files;
 
@@ -151,12 +153,18 @@ bool SetCatalogue::definesQuantitySets() const noexcept {
     return std::ranges::any_of(names(), [](std::string_view name) { return name.starts_with("Qto_"); });
 }
 
+std::string_view SetCatalogue::spelledAlike(std::string_view setName) const {
+    if (setName.size() > longestName) return {};
+    if (_contents->spelledNames.empty()) {
+        for (const std::string_view name : names()) _contents->spelledNames.try_emplace(spelled(name), name);
+    }
+    const auto found = _contents->spelledNames.find(spelled(setName));
+    return found == _contents->spelledNames.end() ? std::string_view() : found->second;
+}
+
 std::string SetCatalogue::likelyName(std::string_view setName) const {
     if (setName.size() > longestName) return {};
-    const std::string wanted = spelled(setName);
-    const auto isSpelled = [&](std::string_view name) { return spelled(name) == wanted; };
-    if (const auto found = std::ranges::find_if(names(), isSpelled); found != names().end() && !wanted.empty())
-        return std::string(*found);
+    if (const std::string_view name = spelledAlike(setName); !name.empty()) return std::string(name);
     // Names of the standard that lie further apart are those of other sets.
     return text::likelyMeant({names().begin(), names().end()}, setName, 1);
 }

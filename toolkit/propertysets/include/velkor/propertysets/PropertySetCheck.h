@@ -1,7 +1,7 @@
 /// The property sets and quantity sets of a model against their definitions.
 ///
 ///     const PlatformSetup setup(configuration);
-///     SetLibrary library(setup.definitionViews());
+///     const SetLibrary library(definitionViews(setup));
 ///     const PropertySetCheck check = checkPropertySets(*model, library);
 ///     for (const SetFinding& finding : check.findings) show(finding.problem.line, finding.problem.message);
 #pragma once
@@ -111,8 +111,5 @@ struct VELKOR_TOOLKIT_API PropertySetCheck {
 /// been set up (PlatformSetup). Time is in proportion to the text of the sets and their relationships.
 VELKOR_TOOLKIT_API PropertySetCheck checkPropertySets(const sdai::Model& model, const SetLibrary& library,
                                                       const CheckOptions& options = {});
-
-/// By what the validation service reads alone.
-VELKOR_TOOLKIT_API PropertySetCheck checkPropertySets(const sdai::Model& model, const CheckOptions& options = {});
 
 } // namespace velkor

@@ -62,6 +62,8 @@ public:
     /// True when some quantity set is defined. IFC2X3 defines none.
     bool definesQuantitySets() const noexcept;
 
+    /// The name that has the same letters and digits, letter case ignored; empty when there is none.
+    std::string_view spelledAlike(std::string_view setName) const;
     /// The one name that another is probably meant to be; empty when there is none.
     std::string likelyName(std::string_view setName) const;
     /// Names that contain a text, letter case ignored, sorted.

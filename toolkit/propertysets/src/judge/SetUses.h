@@ -1,5 +1,5 @@
 /// Which objects of a model each property set and quantity set is attached to: those that a relationship defines
-/// by it, and the types that hold it.
+/// by it, the types that hold it, and the material or profile that it belongs to.
 #pragma once
 
 #include "velkor/sdai/Model.h"
@@ -23,41 +23,51 @@ struct ObjectKindHash {
     }
 };
 
-/// Objects of one kind. Whatever goes for the first goes for all of them.
+/// Objects, of which the first is shown.
 struct SetUse {
     DXSdaiAppInstance* first = nullptr;
-    /// Type of the first; null when it has none.
-    DXSdaiAppInstance* type = nullptr;
     std::uint64_t count = 0;
 
-    ObjectKind kind() const noexcept;
+    void add(const SetUse& more) noexcept {
+        if (first == nullptr) first = more.first;
+        count += more.count;
+    }
 };
 
 /// Instances of the model stay valid as long as it is open. Time and memory are in proportion to the text of the
 /// model's relationships, however many sets and objects one of them brings together.
 class SetUses {
 public:
-    /// Objects that have the same sets from the same place, by kind in the order of the file.
-    using Group = std::vector<SetUse>;
+    using Objects = std::span<DXSdaiAppInstance* const>;
 
     explicit SetUses(const sdai::Model& model);
 
-    /// Numbers of the groups that a set is attached to, in the order of the file's types and relationships.
+    /// Numbers of the groups of objects that a set is attached to, in the order of the file's types and relationships.
     std::span<const std::uint32_t> groupsOf(const DXSdaiAppInstance* set) const;
-    const Group& group(std::uint32_t number) const { return _groups[number]; }
-    /// All objects of a set together, the first of them as the first.
+    /// Objects that have the same sets from the same place, in the order of the file. None is without any.
+    Objects group(std::uint32_t number) const;
+    /// Of all groups together.
+    std::size_t objectCount() const noexcept { return _objects.size(); }
+    /// All objects of a set.
     SetUse totalOf(const DXSdaiAppInstance* set) const;
+
+    /// Null when an object has none.
+    DXSdaiAppInstance* typeOf(const DXSdaiAppInstance* object) const;
+    ObjectKind kindOf(const DXSdaiAppInstance* object) const;
     /// Objects of a type, one of each entity.
-    std::span<DXSdaiAppInstance* const> occurrencesOf(const DXSdaiAppInstance* type) const;
+    Objects occurrencesOf(const DXSdaiAppInstance* type) const;
 
 private:
     void addTypes(const sdai::Model& model);
+    void addTypeObjects(const sdai::Model& model);
     void addRelationship(const DXSdaiAppInstance& relationship);
-    std::uint32_t addGroup(Group group);
+    void addOwned(const sdai::Model& model, const char* entity, const char* owner);
+    // Of the objects that have been put behind those of the last one.
+    std::uint32_t addGroup();
 
-    std::vector<Group> _groups;
-    // The first of each group, and how many there are in all.
-    std::vector<SetUse> _totals;
+    // Of all groups, one behind the other, and where each of them ends.
+    std::vector<DXSdaiAppInstance*> _objects;
+    std::vector<std::size_t> _ends;
     // By set.
     std::unordered_map<const DXSdaiAppInstance*, std::vector<std::uint32_t>> _groupsOf;
     // By object.

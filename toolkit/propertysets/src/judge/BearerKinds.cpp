@@ -1,0 +1,80 @@
+#include "judge/BearerKinds.h"
+
+#include "judge/SharedText.h"
+
+#include <utility>
+
+namespace velkor {
+
+namespace {
+
+constexpr const char* objectTypeAttributes[] = {"OBJECTTYPE", "ELEMENTTYPE", "PROCESSTYPE", "RESOURCETYPE"};
+
+// The one that the entity has. A text too long for a name is none.
+std::string objectTypeOf(const DXSdaiAppInstance& object) {
+    for (const char* attribute : objectTypeAttributes) {
+        const sdai::Primitive text = object.GetAttr(attribute);
+        if (text.declaredType() != nullptr) return isTooLong(text) ? std::string() : text.asString();
+    }
+    return {};
+}
+
+template <class Kind, class Hash, class KindOf>
+std::vector<BearerKinds::Alike<Kind>> alike(SetUses::Objects objects, KindOf kindOf) {
+    std::vector<BearerKinds::Alike<Kind>> result;
+    if (objects.size() == 1) {
+        result.push_back({kindOf(objects.front()), {objects.front(), 1}});
+        return result;
+    }
+    std::unordered_map<Kind, std::size_t, Hash> places;
+    for (DXSdaiAppInstance* object : objects) {
+        const auto [place, isNew] = places.try_emplace(kindOf(object), result.size());
+        if (isNew) result.push_back({place->first, {}});
+        result[place->second].use.add({object, 1});
+    }
+    return result;
+}
+
+} // namespace
+
+BearerDetail::BearerDetail(const DXSdaiAppInstance* object, const SetUses& uses)
+    : kind(uses.kindOf(object)), predefinedType(object->GetAttr("PREDEFINEDTYPE").asEnumeration().text()),
+      objectType(objectTypeOf(*object)) {
+    if (const DXSdaiAppInstance* type = uses.typeOf(object)) {
+        typePredefinedType = type->GetAttr("PREDEFINEDTYPE").asEnumeration().text();
+        typeObjectType = objectTypeOf(*type);
+    }
+}
+
+SetBearer BearerDetail::bearer() const noexcept {
+    return {{kind.first, predefinedType, objectType}, {kind.second, typePredefinedType, typeObjectType}};
+}
+
+std::size_t BearerDetailHash::operator()(const BearerDetail& detail) const noexcept {
+    const std::hash<std::string_view> hash;
+    std::size_t result = ObjectKindHash()(detail.kind);
+    for (const std::string_view text : {detail.predefinedType, std::string_view(detail.objectType),
+                                        detail.typePredefinedType, std::string_view(detail.typeObjectType)})
+        result = result * 31 + hash(text);
+    return result;
+}
+
+std::span<const BearerKinds::Alike<ObjectKind>> BearerKinds::kindsOf(std::uint32_t number) {
+    const auto kindOf = [&](const DXSdaiAppInstance* object) { return _uses.kindOf(object); };
+    const SetUses::Objects objects = _uses.group(number);
+    if (objects.size() == 1) return _kinds.single = alike<ObjectKind, ObjectKindHash>(objects, kindOf);
+    auto [known, isNew] = _kinds.several.try_emplace(number);
+    if (isNew) known->second = alike<ObjectKind, ObjectKindHash>(objects, kindOf);
+    return known->second;
+}
+
+std::span<const BearerKinds::Alike<BearerDetail>> BearerKinds::detailsOf(std::uint32_t number) {
+    const auto kindOf = [&](const DXSdaiAppInstance* object) { return BearerDetail(object, _uses); };
+    const SetUses::Objects objects = _uses.group(number);
+    if (objects.size() == 1) return _details.single = alike<BearerDetail, BearerDetailHash>(objects, kindOf);
+    auto [known, isNew] = _details.several.try_emplace(number);
+    if (isNew) known->second = alike<BearerDetail, BearerDetailHash>(objects, kindOf);
+    return known->second;
+}
+
+} // namespace velkor

@@ -1,0 +1,279 @@
+#include "judge/PropertyJudge.h"
+
+#include "judge/PropertyValues.h"
+#include "velkor/model/RelatedInstances.h"
+#include "velkor/text/Printable.h"
+#include "velkor/text/Wording.h"
+
+#include <algorithm>
+
+namespace velkor {
+
+namespace {
+
+// Texts of values as long as this are judged once, however many sets they stand in.
+constexpr std::size_t longText = 4000;
+// Of one complex property.
+constexpr std::size_t mostVerdicts = 100;
+constexpr int deepest = 8;
+// Of an enumeration, and of a text.
+constexpr std::size_t mostShown = 12, longestShown = 100;
+
+std::string shownText(std::string_view token) {
+    return text::quotedBeginning(sdai::decodeString(token.substr(0, longestName)), longestShown);
+}
+
+// The first ones, and how many others there are.
+template <class Texts>
+std::string shownList(const Texts& texts) {
+    const std::size_t count = texts.size() > mostShown ? mostShown - 1 : texts.size();
+    std::string result = text::joined(std::span(texts).first(count));
+    if (count < texts.size()) result += " and " + text::counted(texts.size() - count, "other", "others");
+    return result;
+}
+
+std::string_view nameOf(const sdai::EntityDefinition* entity) {
+    return entity == nullptr ? std::string_view("an unknown entity") : entity->name();
+}
+
+std::string reference(const DXSdaiAppInstance& instance) {
+    return '#' + std::to_string(instance.id());
+}
+
+std::size_t valueSize(const DXSdaiAppInstance& property, const PropertySlots& slots) {
+    std::size_t size = 0;
+    for (const PropertySlots::Value& slot : slots.values) {
+        if (slot.place >= 0) size += property.attribute(static_cast<std::size_t>(slot.place)).encoded().size();
+    }
+    return size;
+}
+
+std::string_view wordFor(const PropertySlots& slots) {
+    return slots.kind && !isQuantity(*slots.kind) ? "property " : "quantity ";
+}
+
+sdai::Primitive nameIn(const DXSdaiAppInstance& property, const PropertySlots& slots) {
+    return property.attribute(static_cast<std::size_t>(slots.name));
+}
+
+} // namespace
+
+std::size_t PropertyJudge::KeyHash::operator()(const Key& key) const noexcept {
+    const std::hash<const void*> hash;
+    return hash(key.first) * 31 + hash(key.second);
+}
+
+PropertyJudge::PropertyJudge(const sdai::Model& model, const CodeFilter& codes)
+    : _schema(model.schema()), _slots(model.schema()), _units(model.schema()) {
+    for (std::size_t i = 0; i < _isTaken.size(); ++i) _isTaken[i] = codes.takes(setCodes()[i].code);
+}
+
+const PropertyOutcome& PropertyJudge::judge(const DXSdaiAppInstance& property, JudgedProperty* wanted,
+                                            bool isDescribed) {
+    _outcome.verdicts.clear();
+    _outcome.isFilled = false;
+    const PropertySlots* slots = slotsOf(property);
+    if (slots == nullptr) return _outcome;
+    const Asked asked{property, *slots, wanted};
+    if (slots->members >= 0 || valueSize(property, *slots) > longText) return remembered(asked, 0);
+    _isDescribed = isDescribed;
+    judgeOne(asked, _outcome);
+    return _outcome;
+}
+
+const PropertyOutcome& PropertyJudge::remembered(const Asked& asked, int depth) {
+    const auto [known, isNew] = _remembered.try_emplace({&asked.property, asked.wanted});
+    PropertyOutcome& outcome = known->second;
+    // What is within itself finds nothing yet, and stays out of itself.
+    if (!isNew) return outcome;
+    _isDescribed = true;
+    judgeOne(asked, outcome);
+    judgeMembers(asked, outcome, depth);
+    return outcome;
+}
+
+void PropertyJudge::judgeOne(const Asked& asked, PropertyOutcome& outcome) {
+    outcome.isFilled = asked.slots.isFilled(asked.property);
+    if (asked.wanted != nullptr && judgeKind(asked, outcome)) {
+        judgeTypes(asked, outcome);
+        judgeEnumerators(asked, outcome);
+    }
+    judgeUnits(asked, outcome);
+}
+
+void PropertyJudge::judgeMembers(const Asked& asked, PropertyOutcome& outcome, int depth) {
+    if (asked.slots.members < 0 || depth == deepest) return;
+    const auto members = asked.property.attribute(static_cast<std::size_t>(asked.slots.members)).asAggregate();
+    eachInstance(members, [&](const DXSdaiAppInstance* member) { addMember(*member, asked, outcome, depth); });
+}
+
+void PropertyJudge::addMember(const DXSdaiAppInstance& member, const Asked& asked, PropertyOutcome& outcome,
+                              int depth) {
+    const PropertySlots* slots = slotsOf(member);
+    if (slots == nullptr) return;
+    const sdai::Primitive name = nameIn(member, *slots);
+    JudgedProperty* wanted = asked.slots.kind == PropertyKind::Complex ? asked.wanted : nullptr;
+    // A complex property that is defined without members may have any.
+    if (wanted != nullptr && (wanted->definition.kind != PropertyKind::Complex || wanted->definition.members.empty()))
+        wanted = nullptr;
+    const auto take = [&](Verdict verdict) {
+        if (outcome.verdicts.size() == mostVerdicts) {
+            ++outcome.more;
+            return;
+        }
+        verdict.property.insert(0, shown(nameIn(asked.property, asked.slots)) + '.');
+        outcome.verdicts.push_back(std::move(verdict));
+    };
+    PropertyNames::Entry* entry = wanted == nullptr ? nullptr : wanted->members.find(name);
+    JudgedProperty* memberWanted = entry == nullptr ? nullptr : entry->property;
+    if (wanted != nullptr && memberWanted == nullptr && takes(Code::PropertyUnknown) && isText(name))
+        take(unknown(wanted->members, entry, name, false));
+    const PropertyOutcome& found = remembered({member, *slots, memberWanted}, depth + 1);
+    for (const Verdict& verdict : found.verdicts) take(verdict);
+    outcome.more += found.more;
+}
+
+// True when it is what the definition wants.
+bool PropertyJudge::judgeKind(const Asked& asked, PropertyOutcome& outcome) {
+    const PropertyKind wanted = asked.wanted->definition.kind;
+    if (asked.slots.kind == wanted) return true;
+    const Code code = isQuantity(wanted) ? Code::QuantityKind : Code::PropertyKind;
+    if (Verdict* verdict = add(code, asked, outcome)) {
+        verdict->after.append(" as ").append(nameOf(asked.property.entity()));
+        verdict->after.append("; expected ").append(entityOf(wanted));
+    }
+    return false;
+}
+
+void PropertyJudge::judgeTypes(const Asked& asked, PropertyOutcome& outcome) {
+    if (asked.slots.kind == PropertyKind::Reference) return judgeReference(asked, outcome);
+    // Those of quantities are in the schema.
+    if (isQuantity(asked.wanted->definition.kind)) return;
+    for (const PropertySlots::Value& slot : asked.slots.values) {
+        std::string_view wrong;
+        WantedType& type = slot.isDefining ? asked.wanted->defining : asked.wanted->value;
+        eachValue(asked.property, slot, [&](const sdai::Primitive& value) {
+            const std::string_view keyword = typedValue(value).keyword;
+            if (!keyword.empty() && !type.fits(keyword)) wrong = keyword;
+            return wrong.empty();
+        });
+        if (wrong.empty()) continue;
+        if (Verdict* verdict = add(Code::ValueType, asked, outcome)) {
+            const PropertyDefinition& definition = asked.wanted->definition;
+            verdict->before = "has a value of ";
+            verdict->before.append(wrong).append(" in the property ");
+            verdict->after.append("; expected ").append(slot.isDefining ? definition.definingType : type.name());
+        }
+        return;
+    }
+}
+
+void PropertyJudge::judgeReference(const Asked& asked, PropertyOutcome& outcome) {
+    const sdai::Primitive value = asked.property.attribute(static_cast<std::size_t>(asked.slots.values[0].place));
+    const DXSdaiAppInstance* referredTo = referred(value);
+    if (referredTo == nullptr || referredTo->entity() == nullptr) return;
+    if (asked.wanted->value.fits(*referredTo->entity())) return;
+    if (Verdict* verdict = add(Code::ValueType, asked, outcome)) {
+        verdict->before = "refers to ";
+        verdict->before.append(nameOf(referredTo->entity())).append(" ").append(reference(*referredTo));
+        verdict->before.append(" in the property ");
+        verdict->after.append("; expected ").append(asked.wanted->value.name());
+    }
+}
+
+void PropertyJudge::judgeEnumerators(const Asked& asked, PropertyOutcome& outcome) {
+    if (asked.slots.kind != PropertyKind::Enumerated || asked.wanted->definition.enumerators.empty()) return;
+    Enumerators& enumerators = asked.wanted->enumerators;
+    std::string_view wrong;
+    eachValue(asked.property, asked.slots.values[0], [&](const sdai::Primitive& value) {
+        const sdai::Token token = typedValue(value).token;
+        if (token.kind == sdai::TokenKind::String && !enumerators.contain(token.text)) wrong = token.text;
+        return wrong.empty();
+    });
+    const sdai::Primitive own = asked.slots.enumeration < 0
+                                    ? sdai::Primitive()
+                                    : asked.property.attribute(static_cast<std::size_t>(asked.slots.enumeration));
+    const DXSdaiAppInstance* enumeration = referred(own);
+    const std::string* others = enumeration == nullptr ? nullptr : strangers(*enumeration, *asked.wanted);
+    if (wrong.empty() && others == nullptr) return;
+    Verdict* verdict = add(Code::ValueEnumerator, asked, outcome);
+    if (verdict == nullptr) return;
+    if (!wrong.empty()) {
+        verdict->before = "has the value " + shownText(wrong) + " in the property ";
+        verdict->after = "; expected " + shownList(asked.wanted->definition.enumerators);
+        verdict->nearest = enumerators.meant(wrong, sdai::decodeString(wrong.substr(0, longestName)));
+        if (!verdict->nearest.empty()) verdict->after += "; did you mean " + text::quoted(verdict->nearest) + '?';
+    }
+    if (others != nullptr) {
+        if (wrong.empty()) verdict->before = "has the property ";
+        verdict->after.append(wrong.empty() ? " with" : "; it has");
+        verdict->after += " an enumeration of its own, " + reference(*enumeration) + ", which lists " + *others +
+                          " beside what the definition lists";
+    }
+}
+
+// What an enumeration of the model lists beside the members of a definition, as people are told; null for nothing.
+const std::string* PropertyJudge::strangers(const DXSdaiAppInstance& enumeration, const JudgedProperty& wanted) {
+    const auto [known, isNew] = _strangers.try_emplace({&enumeration, &wanted});
+    if (isNew) {
+        std::vector<std::string> texts;
+        for (const sdai::Primitive value : enumeration.GetAttr("ENUMERATIONVALUES").asAggregate()) {
+            const sdai::Token token = typedValue(value).token;
+            if (token.kind != sdai::TokenKind::String || wanted.enumerators.contain(token.text)) continue;
+            texts.push_back(shownText(token.text));
+        }
+        if (!texts.empty()) known->second = shownList(texts);
+    }
+    return known->second.empty() ? nullptr : &known->second;
+}
+
+// Null when the schema does not know it.
+const sdai::DefinedType* PropertyJudge::typeOf(const sdai::Primitive& value) const {
+    const std::string_view keyword = typedValue(value).keyword;
+    if (!keyword.empty()) return _schema.definedType(keyword);
+    return value.declaredType() == nullptr ? nullptr : value.declaredType()->asDefined();
+}
+
+void PropertyJudge::judgeUnits(const Asked& asked, PropertyOutcome& outcome) {
+    for (const PropertySlots::Value& slot : asked.slots.values) {
+        if (slot.place < 0 || slot.unit < 0) continue;
+        const DXSdaiAppInstance* unit = referred(asked.property.attribute(static_cast<std::size_t>(slot.unit)));
+        if (unit == nullptr) continue;
+        const sdai::DefinedType* wrong = nullptr;
+        eachValue(asked.property, slot, [&](const sdai::Primitive& value) {
+            const sdai::DefinedType* type = typeOf(value);
+            if (type != nullptr && type->resolved().asSelect() == nullptr && !_units.fits(*type, unit)) wrong = type;
+            return wrong == nullptr;
+        });
+        if (wrong == nullptr) continue;
+        if (Verdict* verdict = add(Code::ValueUnit, asked, outcome)) {
+            verdict->before = "has ";
+            verdict->before.append(wrong->name()).append(" in ").append(_units.found(unit)).append(" ");
+            verdict->before.append(reference(*unit)).append(" in the ").append(wordFor(asked.slots));
+            verdict->after.append("; expected ").append(_units.expected(*wrong));
+        }
+        return;
+    }
+}
+
+Verdict PropertyJudge::unknown(PropertyNames& names, PropertyNames::Entry* entry, const sdai::Primitive& name,
+                               bool isQuantity) {
+    Verdict verdict{Code::PropertyUnknown};
+    verdict.property = shown(name);
+    verdict.before = isQuantity ? "has no quantity " : "has no property ";
+    if (entry != nullptr) verdict.nearest = names.meant(*entry, verdict.property);
+    if (!verdict.nearest.empty()) verdict.after = "; did you mean " + text::quoted(verdict.nearest) + '?';
+    return verdict;
+}
+
+Verdict* PropertyJudge::add(Code code, const Asked& asked, PropertyOutcome& outcome) const {
+    if (!takes(code)) return nullptr;
+    Verdict& verdict = outcome.verdicts.emplace_back(Verdict{code});
+    if (!_isDescribed) return nullptr;
+    verdict.property = shown(nameIn(asked.property, asked.slots));
+    verdict.before = "has the ";
+    verdict.before += wordFor(asked.slots);
+    return &verdict;
+}
+
+} // namespace velkor

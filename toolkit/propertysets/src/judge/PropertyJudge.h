@@ -1,0 +1,97 @@
+/// One property or quantity held to what its definition says of it.
+#pragma once
+
+#include "judge/JudgedProperty.h"
+#include "judge/PropertySlots.h"
+#include "judge/SetCodes.h"
+#include "judge/UnitFits.h"
+#include "velkor/model/CodeFilter.h"
+#include "velkor/sdai/Model.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace velkor {
+
+/// What is wrong with a property. As people are told: what has it, `before`, the name of the property, `after`.
+struct Verdict {
+    Code code;
+    /// With the names of the complex properties that it is within: "Weather.Temperature".
+    std::string property = {};
+    std::string before = {};
+    std::string after = {};
+    std::string nearest = {};
+};
+
+struct PropertyOutcome {
+    /// It has a value.
+    bool isFilled = false;
+    std::vector<Verdict> verdicts = {};
+    /// Of a complex property beyond measure: verdicts that are only counted.
+    std::uint64_t more = 0;
+
+    bool isRight() const noexcept { return verdicts.empty(); }
+};
+
+/// What a property shares with many sets, and its text is long, is judged once: time is in proportion to the text of
+/// the model.
+class PropertyJudge {
+public:
+    PropertyJudge(const sdai::Model& model, const CodeFilter& codes);
+
+    /// Where a property has its name; null for what is neither property nor quantity.
+    const PropertySlots* slotsOf(const DXSdaiAppInstance& property) const noexcept {
+        return _slots.of(property.entity());
+    }
+    /// Findings that count.
+    bool takes(Code code) const noexcept { return _isTaken[static_cast<std::size_t>(code)]; }
+
+    /// Without a definition, kinds and types are not judged. Of findings that are not `described`, the code alone is
+    /// told. The answer holds until the next question.
+    const PropertyOutcome& judge(const DXSdaiAppInstance& property, JudgedProperty* wanted, bool isDescribed);
+
+    /// A property that the definition does not have.
+    Verdict unknown(PropertyNames& names, PropertyNames::Entry* entry, const sdai::Primitive& name, bool isQuantity);
+
+private:
+    struct Asked {
+        const DXSdaiAppInstance& property;
+        const PropertySlots& slots;
+        JudgedProperty* wanted;
+    };
+    using Key = std::pair<const DXSdaiAppInstance*, const JudgedProperty*>;
+    struct KeyHash {
+        std::size_t operator()(const Key& key) const noexcept;
+    };
+
+    const PropertyOutcome& remembered(const Asked& asked, int depth);
+    void judgeOne(const Asked& asked, PropertyOutcome& outcome);
+    void judgeMembers(const Asked& asked, PropertyOutcome& outcome, int depth);
+    void addMember(const DXSdaiAppInstance& member, const Asked& asked, PropertyOutcome& outcome, int depth);
+    bool judgeKind(const Asked& asked, PropertyOutcome& outcome);
+    void judgeTypes(const Asked& asked, PropertyOutcome& outcome);
+    void judgeReference(const Asked& asked, PropertyOutcome& outcome);
+    void judgeEnumerators(const Asked& asked, PropertyOutcome& outcome);
+    void judgeUnits(const Asked& asked, PropertyOutcome& outcome);
+    const std::string* strangers(const DXSdaiAppInstance& enumeration, const JudgedProperty& wanted);
+    const sdai::DefinedType* typeOf(const sdai::Primitive& value) const;
+    Verdict* add(Code code, const Asked& asked, PropertyOutcome& outcome) const;
+
+    const sdai::SchemaDefinition& _schema;
+    std::array<bool, 12> _isTaken = {};
+    PropertySlotTable _slots;
+    UnitFits _units;
+    bool _isDescribed = true;
+    // Of the property that was asked for last.
+    PropertyOutcome _outcome;
+    std::unordered_map<Key, PropertyOutcome, KeyHash> _remembered;
+    // What an enumeration of the model has beside the members of a definition, as people are told; empty for nothing.
+    std::unordered_map<Key, std::string, KeyHash> _strangers;
+};
+
+} // namespace velkor

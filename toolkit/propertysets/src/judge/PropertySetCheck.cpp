@@ -1,0 +1,341 @@
+#include "velkor/propertysets/PropertySetCheck.h"
+
+#include "judge/NamedSets.h"
+#include "judge/PropertyJudge.h"
+#include "judge/RepeatedSets.h"
+#include "judge/SetCodes.h"
+#include "judge/SetList.h"
+#include "judge/SharedText.h"
+#include "velkor/text/Printable.h"
+#include "velkor/text/Wording.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace velkor {
+
+namespace {
+
+constexpr std::uint64_t progressStep = 256;
+// Of what a set applies to, and of methods.
+constexpr std::size_t mostShown = 12;
+constexpr std::string_view baseQuantities = "BaseQuantities";
+
+using State = NamedSet::State;
+
+std::string objectText(const SetFinding& finding) {
+    std::string text = finding.objectEntity + " #" + std::to_string(finding.object);
+    if (!finding.objectName.empty()) text += ' ' + text::quoted(finding.objectName);
+    if (finding.others > 0) text += " and " + text::counted(finding.others, "other object", "other objects");
+    return text;
+}
+
+std::string ofObject(const SetFinding& finding) {
+    std::string text = text::quoted(finding.set);
+    if (finding.object != 0) text += " of " + objectText(finding);
+    return text;
+}
+
+std::string classText(const ApplicableClass& applicable) {
+    std::string text = applicable.entity;
+    if (!applicable.predefinedType.empty()) text.append("/").append(applicable.predefinedType);
+    return text;
+}
+
+std::string classesText(const std::vector<ApplicableClass>& classes) {
+    if (classes.empty()) return "no class";
+    const std::size_t count = classes.size() > mostShown ? mostShown - 1 : classes.size();
+    std::string text = text::joined(std::span(classes).first(count), ", ", classText);
+    if (count < classes.size()) text += " and " + text::counted(classes.size() - count, "other", "others");
+    return text;
+}
+
+std::string_view templateText(TemplateType type) {
+    switch (type) {
+    case TemplateType::TypeDrivenOnly:
+        return "types";
+    case TemplateType::OccurrenceDriven:
+        return "occurrences";
+    case TemplateType::PerformanceDriven:
+        return "performance histories";
+    default:
+        return "other objects";
+    }
+}
+
+class Checker {
+public:
+    Checker(const sdai::Model& model, const SetLibrary& library, const CheckOptions& options)
+        : _model(model), _options(options), _uses(model), _bearers(_uses), _named(model, library),
+          _judge(model, options.codes) {}
+
+    PropertySetCheck check();
+
+private:
+    void checkSet(const ListedSet& listed, NamedSet& named);
+    void checkDefinition(const DXSdaiAppInstance* set);
+    void checkName();
+    void checkRepetition(const DXSdaiAppInstance* set, const RepeatedSets& repeated);
+    void checkUses(const DXSdaiAppInstance* set);
+    void checkMethod(const DXSdaiAppInstance* set);
+    void checkMembers(const sdai::Aggregate& members);
+    void checkMember(const DXSdaiAppInstance& member);
+    void checkPropertyRepetition(PropertyNames::Entry& entry, const DXSdaiAppInstance& member,
+                                 const sdai::Primitive& name);
+    void countMember(JudgedProperty* property, const PropertyOutcome& outcome, bool isWrong);
+    void addVerdict(const Verdict& verdict);
+    void summarize();
+
+    bool isDescribed() const noexcept { return _result.total < _options.limit; }
+    SetFinding* add(Code code, const SetUse& use);
+    SetFinding* add(Code code, const SetUse& use, sdai::Severity severity);
+
+    const sdai::Model& _model;
+    const CheckOptions& _options;
+    SetUses _uses;
+    BearerKinds _bearers;
+    NamedSets _named;
+    PropertyJudge _judge;
+    PropertySetCheck _result;
+
+    // The set that is looked at.
+    std::uint32_t _number = 0;
+    // It, counted from 1.
+    std::uint64_t _ordinal = 0;
+    bool _isQuantitySet = false;
+    NamedSet* _set = nullptr;
+    SetUse _total;
+};
+
+PropertySetCheck Checker::check() {
+    _result.hasDefinitions = !_named.catalogue().empty();
+    _result.definedBy = _named.catalogue().release();
+    const std::vector<ListedSet> sets = setsOf(_model);
+    std::vector<NamedSet*> names;
+    std::vector<RepeatedSets::Set> comparable;
+    std::unordered_map<const NamedSet*, std::uint32_t> numbers;
+    for (const ListedSet& listed : sets) {
+        const DXSdaiAppInstance* set = _model.instanceAt(listed.number);
+        NamedSet& named = _named.of(set->GetAttr("NAME"));
+        names.push_back(&named);
+        const auto number = static_cast<std::uint32_t>(numbers.size());
+        if (named.isName) comparable.push_back({set, numbers.try_emplace(&named, number).first->second});
+    }
+    const RepeatedSets repeated(comparable, _uses);
+    for (std::size_t i = 0; i < sets.size(); ++i) {
+        if (i % progressStep == 0 && !goesOn(_options.progress, {"Checking the property sets", i, sets.size()})) {
+            _result.isComplete = false;
+            break;
+        }
+        _ordinal = i + 1;
+        checkSet(sets[i], *names[i]);
+        checkRepetition(_model.instanceAt(sets[i].number), repeated);
+        checkMembers(_model.instanceAt(sets[i].number)->GetAttr(sets[i].kind->members).asAggregate());
+    }
+    summarize();
+    return std::move(_result);
+}
+
+void Checker::checkSet(const ListedSet& listed, NamedSet& named) {
+    const DXSdaiAppInstance* set = _model.instanceAt(listed.number);
+    _number = listed.number;
+    _set = &named;
+    _isQuantitySet = named.definition != nullptr ? named.definition->isQuantitySet : listed.kind->isQuantitySet;
+    _total = _uses.totalOf(set);
+    ++_result.sets;
+    ++named.summary.sets;
+    named.summary.objects += _total.count;
+    if (named.state == State::Misnamed) checkName();
+    if (named.state != State::Defined) return;
+    ++_result.checkedSets;
+    named.summary.missing += named.definition->properties.size();
+    checkUses(set);
+    if (listed.kind->isQuantitySet) checkMethod(set);
+}
+
+void Checker::checkName() {
+    const UnknownName& unknown = *_set->unknown;
+    SetFinding* finding = add(Code::SetUnknown, _total, unknown.severity);
+    if (finding == nullptr) return;
+    finding->nearest = unknown.nearest;
+    std::string& message = finding->problem.message;
+    message = "expected a standard set, found " + ofObject(*finding);
+    if (!unknown.nearest.empty()) message += "; did you mean " + text::quoted(unknown.nearest) + '?';
+    if (!unknown.releases.empty()) message += "; defined by " + text::joined(unknown.releases);
+}
+
+void Checker::checkRepetition(const DXSdaiAppInstance* set, const RepeatedSets& repeated) {
+    const RepeatedSets::Repeat* repeat = repeated.of(set);
+    if (repeat == nullptr) return;
+    if (SetFinding* finding = add(Code::SetRepeated, repeat->objects)) {
+        finding->problem.message = objectText(*finding) + " has another set " + text::quoted(finding->set) + ", #" +
+                                   std::to_string(repeat->other->id());
+    }
+}
+
+void Checker::checkUses(const DXSdaiAppInstance* set) {
+    Misfits misfits;
+    for (const std::uint32_t group : _uses.groupsOf(set)) misfits.add(_set->fits->misfits(group, _bearers));
+    const SetDefinition& definition = *_set->definition;
+    if (misfits.notApplicable.first != nullptr) {
+        if (SetFinding* finding = add(Code::SetNotApplicable, misfits.notApplicable)) {
+            finding->problem.message = text::quoted(finding->set) + " does not apply to " + objectText(*finding) +
+                                       (misfits.isPredefinedType ? " by its predefined type" : "") + "; expected " +
+                                       classesText(definition.classes);
+        }
+    }
+    if (misfits.wrongTemplate.first == nullptr) return;
+    if (SetFinding* finding = add(Code::SetTemplate, misfits.wrongTemplate)) {
+        finding->problem.message =
+            text::quoted(finding->set) + " is attached to " + objectText(*finding) + "; expected ";
+        finding->problem.message += templateText(definition.templateType);
+    }
+}
+
+void Checker::checkMethod(const DXSdaiAppInstance* set) {
+    const sdai::Primitive method = set->GetAttr("METHODOFMEASUREMENT");
+    if (!isText(method)) return;
+    const std::vector<std::string>& methods = _set->definition->methods;
+    const bool isByPractice = methods.empty();
+    // What the documentation of the standard's sets of this name says, without their definitions.
+    if (isByPractice && !_set->name.ends_with(baseQuantities)) return;
+    const std::string found = shown(method);
+    if (isByPractice ? found == baseQuantities : std::ranges::find(methods, found) != methods.end()) return;
+    SetFinding* finding = add(Code::QuantityMethod, _total,
+                              isByPractice ? sdai::Severity::Warning : severityOf(Code::QuantityMethod, true));
+    if (finding == nullptr) return;
+    finding->problem.message = ofObject(*finding) + " has the method of measurement " + text::quoted(found) +
+                               "; expected " + (isByPractice ? std::string(baseQuantities) : text::joined(methods));
+}
+
+void Checker::checkMembers(const sdai::Aggregate& members) {
+    for (const sdai::Primitive member : members) {
+        ++_result.properties;
+        const DXSdaiAppInstance* property = member.asInstance();
+        if (property == nullptr) continue;
+        if (_set->state == State::Defined) ++_result.checkedProperties;
+        checkMember(*property);
+    }
+}
+
+void Checker::checkMember(const DXSdaiAppInstance& member) {
+    const PropertySlots* slots = _judge.slotsOf(member);
+    if (slots == nullptr) return;
+    const sdai::Primitive name = member.attribute(static_cast<std::size_t>(slots->name));
+    PropertyNames::Entry* entry = _set->properties.find(name);
+    const std::uint64_t before = _result.total;
+    if (entry != nullptr) checkPropertyRepetition(*entry, member, name);
+    JudgedProperty* property = entry == nullptr ? nullptr : entry->property;
+    if (_set->state == State::Defined && property == nullptr && isText(name) && _judge.takes(Code::PropertyUnknown)) {
+        addVerdict(isDescribed() ? _judge.unknown(_set->properties, entry, name, _isQuantitySet)
+                                 : Verdict{Code::PropertyUnknown});
+    }
+    const PropertyOutcome& outcome = _judge.judge(member, property, isDescribed());
+    for (const Verdict& verdict : outcome.verdicts) addVerdict(verdict);
+    _result.total += outcome.more;
+    countMember(property, outcome, _result.total > before);
+}
+
+void Checker::checkPropertyRepetition(PropertyNames::Entry& entry, const DXSdaiAppInstance& member,
+                                      const sdai::Primitive& name) {
+    if (entry.set != _ordinal) {
+        entry.set = _ordinal;
+        entry.member = &member;
+        entry.isRepeated = false;
+        return;
+    }
+    if (entry.member == &member || entry.isRepeated) return;
+    entry.isRepeated = true;
+    SetFinding* finding = add(Code::PropertyRepeated, _total);
+    if (finding == nullptr) return;
+    finding->property = shown(name);
+    finding->problem.message = ofObject(*finding) + " has " + text::quoted(finding->property) + " twice, #" +
+                               std::to_string(entry.member->id()) + " and #" + std::to_string(member.id());
+}
+
+void Checker::countMember(JudgedProperty* property, const PropertyOutcome& outcome, bool isWrong) {
+    SetSummary& summary = _set->summary;
+    if (_set->definition == nullptr) {
+        if (outcome.isFilled) ++summary.filled;
+        return;
+    }
+    if (property == nullptr) return;
+    // A name that is there twice counts once.
+    if (outcome.isFilled && property->filledIn != _ordinal) {
+        property->filledIn = _ordinal;
+        ++summary.filled;
+        --summary.missing;
+    }
+    if (isWrong && property->wrongIn != _ordinal) {
+        property->wrongIn = _ordinal;
+        ++summary.wrong;
+    }
+}
+
+void Checker::addVerdict(const Verdict& verdict) {
+    SetFinding* finding = add(verdict.code, _total);
+    if (finding == nullptr) return;
+    finding->property = verdict.property;
+    finding->nearest = verdict.nearest;
+    finding->problem.message =
+        ofObject(*finding) + ' ' + verdict.before + text::quoted(verdict.property) + verdict.after;
+}
+
+// A new finding at the current set, or null when it is only counted.
+SetFinding* Checker::add(Code code, const SetUse& use) {
+    return add(code, use, severityOf(code, _isQuantitySet));
+}
+
+SetFinding* Checker::add(Code code, const SetUse& use, sdai::Severity severity) {
+    if (!_judge.takes(code) || ++_result.total > _options.limit) return nullptr;
+    SetFinding finding;
+    const sdai::Part21File& file = _model.file();
+    const std::uint64_t offset = file.offset(_number);
+    finding.problem = {severity, offset, file.line(offset), file.id(_number), std::string(codeOf(code).code), {}};
+    finding.set = _set->name;
+    if (use.first != nullptr) {
+        finding.object = use.first->id();
+        finding.objectEntity = use.first->entity() == nullptr ? "" : use.first->entity()->name();
+        finding.objectName = shown(use.first->GetAttr("NAME"));
+        finding.others = use.count - 1;
+    }
+    return &_result.findings.emplace_back(std::move(finding));
+}
+
+void Checker::summarize() {
+    _named.each([&](NamedSet& named) {
+        const std::uint64_t sets = named.summary.sets;
+        if (sets == 0) return;
+        if (named.state == State::Undefined) _result.undefined[named.name] += sets;
+        if (named.state == State::Unreadable) _result.unreadable[named.name] += sets;
+        if (named.state == State::Custom) _result.customSets += sets;
+        _result.summaries.push_back(std::move(named.summary));
+    });
+    std::ranges::sort(_result.summaries, {}, &SetSummary::name);
+}
+
+std::uint64_t sum(const std::map<std::string, std::uint64_t>& counts) {
+    return std::accumulate(counts.begin(), counts.end(), std::uint64_t{0},
+                           [](std::uint64_t total, const auto& entry) { return total + entry.second; });
+}
+
+} // namespace
+
+std::uint64_t PropertySetCheck::uncheckedSets() const noexcept {
+    return sum(undefined) + sum(unreadable);
+}
+
+std::vector<PropertySetCheck::NameCount> PropertySetCheck::uncheckedNames() const {
+    std::vector<NameCount> names;
+    for (const auto* counts : {&undefined, &unreadable}) {
+        for (const auto& [name, count] : *counts) names.push_back({name, count});
+    }
+    std::ranges::stable_sort(names, std::greater<>(), &NameCount::count);
+    return names;
+}
+
+PropertySetCheck checkPropertySets(const sdai::Model& model, const SetLibrary& library, const CheckOptions& options) {
+    return Checker(model, library, options).check();
+}
+
+} // namespace velkor
