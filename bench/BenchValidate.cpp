@@ -63,7 +63,7 @@ const std::string& structureText(bool isWrong) {
 template <class Check>
 void eachModel(benchmark::State& state, bool isWrong, Check check) {
     Configuration configuration;
-    configuration.shippedResources = VELKOR_SOURCE_DIR "/resources";
+    configuration.shippedResources = VELKOR_RESOURCE_DIR;
     const PlatformSetup setup(configuration, [](const std::string& line) { std::cerr << line << '\n'; });
     const SetLibrary library(definitionViews(setup));
     for (auto _ : state) {

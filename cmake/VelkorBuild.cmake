@@ -138,7 +138,7 @@ function(velkor_test NAME)
   target_link_libraries(${NAME} PRIVATE ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
   target_compile_definitions(${NAME} PRIVATE
     VELKOR_SOURCE_DIR="${PROJECT_SOURCE_DIR}" VELKOR_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}"
-    VELKOR_LIB_DIR="${CMAKE_LIBRARY_OUTPUT_DIRECTORY}" ${ARG_DEFINITIONS})
+    VELKOR_LIB_DIR="${CMAKE_LIBRARY_OUTPUT_DIRECTORY}" VELKOR_RESOURCE_DIR="${VELKOR_RESOURCES}" ${ARG_DEFINITIONS})
   # What is tested is optimised; the tests themselves are compiled far more often than run.
   target_compile_options(${NAME} PRIVATE -O0)
   if(VELKOR_PRECOMPILE)
@@ -176,5 +176,6 @@ function(velkor_benchmark NAME)
   add_executable(${NAME} ${ARG_SOURCES})
   target_link_libraries(${NAME} PRIVATE ${ARG_LIBRARIES} benchmark::benchmark_main)
   target_compile_definitions(${NAME} PRIVATE VELKOR_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
-    VELKOR_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" VELKOR_LIB_DIR="${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
+    VELKOR_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}" VELKOR_LIB_DIR="${CMAKE_LIBRARY_OUTPUT_DIRECTORY}"
+    VELKOR_RESOURCE_DIR="${VELKOR_RESOURCES}")
 endfunction()

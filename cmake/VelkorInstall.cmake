@@ -24,8 +24,8 @@ foreach(_library velkorplatform velkortoolkit)
     install(DIRECTORY ${_include}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
   endforeach()
 endforeach()
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/resources/ DESTINATION ${CMAKE_INSTALL_DATADIR}/velkor
-        FILES_MATCHING PATTERN "*.xml")
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/resources/standard ${VELKOR_RESOURCES}/runtime
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/velkor FILES_MATCHING PATTERN "*.xml")
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 install(EXPORT VelkorTargets NAMESPACE velkor:: DESTINATION ${_package})

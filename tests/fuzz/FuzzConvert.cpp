@@ -29,7 +29,7 @@ void require(bool condition, const char* reason) {
 const PlatformSetup& setup() {
     static const PlatformSetup shipped([] {
         Configuration configuration;
-        configuration.shippedResources = VELKOR_SOURCE_DIR "/resources";
+        configuration.shippedResources = VELKOR_RESOURCE_DIR;
         return configuration;
     }());
     return shipped;

@@ -22,7 +22,7 @@ struct Outcome {
 };
 
 /// The resource files that come with the program, where the project has them.
-inline constexpr const char* shippedResources = VELKOR_SOURCE_DIR "/resources";
+inline constexpr const char* shippedResources = VELKOR_RESOURCE_DIR;
 
 /// Without shipped resources unless told.
 inline Outcome runHost(std::vector<std::string> words, bool color = false, const std::string& shipped = {},

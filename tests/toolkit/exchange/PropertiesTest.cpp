@@ -26,7 +26,7 @@ class Properties : public test::ConfiguredTest {
 protected:
     ConvertedModel mapped(const std::string& instances, PropertyOptions options) {
         Configuration configuration;
-        configuration.shippedResources = VELKOR_SOURCE_DIR "/resources";
+        configuration.shippedResources = VELKOR_RESOURCE_DIR;
         const PlatformSetup setup(configuration);
         options.setup = &setup;
         return test::convertText(test::modelText("IFC4", objects + instances),

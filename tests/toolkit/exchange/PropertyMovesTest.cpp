@@ -15,7 +15,7 @@ test::ConvertedText<StepReport> converted(const std::string& instances, Property
                                           const std::string& mapping = {}) {
     const test::TemporaryFolder folder;
     Configuration configuration;
-    configuration.shippedResources = VELKOR_SOURCE_DIR "/resources";
+    configuration.shippedResources = VELKOR_RESOURCE_DIR;
     if (!mapping.empty()) {
         configuration.setupData.push_back(
             {"QORAECDataExchangeResources|IFCCustomMapping",

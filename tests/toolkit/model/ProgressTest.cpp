@@ -62,7 +62,7 @@ TEST_F(ProgressTest, AnEndedWorkKeepsWhatItHasFound) {
     const auto model = sdai::Model::open(file.path());
     ASSERT_TRUE(model);
     Configuration configuration;
-    configuration.shippedResources = VELKOR_SOURCE_DIR "/resources";
+    configuration.shippedResources = VELKOR_RESOURCE_DIR;
     const PlatformSetup setup(configuration);
     const SetLibrary library(definitionViews(setup));
     const struct {

@@ -9,8 +9,6 @@
 
 namespace velkor::express {
 
-namespace {
-
 std::string sha256(const std::string& text) {
     std::array<unsigned char, EVP_MAX_MD_SIZE> digest;
     unsigned length = 0;
@@ -22,8 +20,6 @@ std::string sha256(const std::string& text) {
     }
     return result;
 }
-
-} // namespace
 
 std::optional<std::string> contents(const std::filesystem::path& path) {
     std::ifstream file(path, std::ios::binary);
