@@ -37,10 +37,18 @@ public:
         if (_context == nullptr) _context = newContext();
         _context->_private = this;
         // Nothing is opened, and no tree is made.
-        xmlFreeDoc(xmlCtxtReadIO(
-            _context,
-            [](void* parser, char* buffer, int size) { return static_cast<Parser*>(parser)->feed(buffer, size); },
-            nullptr, this, nullptr, nullptr, XML_PARSE_NONET | XML_PARSE_BIG_LINES));
+        constexpr int options = XML_PARSE_NONET | XML_PARSE_BIG_LINES;
+        // What is small is parsed as a whole: even if it were one tag, that would not be many attributes to compare.
+        constexpr std::size_t small = 16U << 10U;
+        if (bytes.size() <= small) {
+            xmlFreeDoc(
+                xmlCtxtReadMemory(_context, bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr, options));
+        } else {
+            xmlFreeDoc(xmlCtxtReadIO(
+                _context,
+                [](void* parser, char* buffer, int size) { return static_cast<Parser*>(parser)->feed(buffer, size); },
+                nullptr, this, nullptr, nullptr, options));
+        }
         const bool isGood = _context->wellFormed != 0 && _context->nsWellFormed != 0;
         if (!isGood) note("is no XML document");
         // The names of a document stay in the context; a large one must not leave them all.

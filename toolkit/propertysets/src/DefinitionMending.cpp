@@ -31,7 +31,8 @@ std::string joined(std::string_view first, std::string_view second) {
 class Mender {
 public:
     Mender(SetDefinition& definition, const sdai::SchemaDefinition& schema)
-        : _definition(definition), _schema(schema), _values(select(valueSelect)), _references(select(referenceSelect)) {}
+        : _definition(definition), _schema(schema), _values(select(valueSelect)), _references(select(referenceSelect)) {
+    }
 
     std::vector<DefinitionFault> mend() {
         mendTemplateType();
@@ -55,7 +56,8 @@ private:
                 _definition.classes.end())
             return;
         _definition.templateType = TemplateType::PerformanceDriven;
-        fault(definitionfaults::templateUnknown, "no template type", "for performance histories, as the set's name says");
+        fault(definitionfaults::templateUnknown, "no template type",
+              "for performance histories, as the set's name says");
     }
 
     // "IfcElementAssembly" of Pset_ElementAssemblyCommon: the longest beginning of the name that is an entity.
@@ -101,8 +103,7 @@ private:
             mended.push_back(std::move(named));
             return;
         }
-        const std::string found =
-            "predefined type " + shown(named.predefinedType) + " of class " + shown(named.entity);
+        const std::string found = "predefined type " + shown(named.predefinedType) + " of class " + shown(named.entity);
         if (beginning.empty()) {
             fault(definitionfaults::predefinedTypeUnknown, found, "objects whose object type is that are meant");
             mended.push_back(std::move(named));
@@ -156,9 +157,8 @@ private:
     // To the entity itself, or to some that are of its kind.
     bool canRefer(const sdai::EntityDefinition& entity) const {
         if (_references == nullptr) return false;
-        return _references->accepts(entity) || std::ranges::any_of(entity.subtypes(), [this](const auto* subtype) {
-                   return canRefer(*subtype);
-               });
+        return _references->accepts(entity) ||
+               std::ranges::any_of(entity.subtypes(), [this](const auto* subtype) { return canRefer(*subtype); });
     }
 
     void mendType(PropertyDefinition& property, std::string& type) {
@@ -168,8 +168,8 @@ private:
             return;
         }
         const sdai::DefinedType* defined = _schema.definedType(type);
-        if (defined != nullptr && (defined->resolved().asSelect() != nullptr || _values == nullptr ||
-                                   _values->accepts(*defined)))
+        if (defined != nullptr &&
+            (defined->resolved().asSelect() != nullptr || _values == nullptr || _values->accepts(*defined)))
             return;
         fault(definitionfaults::typeUnknown, "type " + shown(type) + " of property " + shown(property.name),
               "any will do");
@@ -207,7 +207,8 @@ private:
         if (property.unitType.empty() || values == nullptr) return;
         const std::string expected = unitTypeOf(*values);
         if (expected.empty() || expected == property.unitType) return;
-        fault(definitionfaults::unitMismatch, "unit type " + shown(property.unitType) + " of property " + shown(property.name),
+        fault(definitionfaults::unitMismatch,
+              "unit type " + shown(property.unitType) + " of property " + shown(property.name),
               "left out, since that of " + property.valueType + " is " + expected);
         property.unitType.clear();
     }

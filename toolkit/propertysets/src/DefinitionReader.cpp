@@ -28,28 +28,44 @@ std::string_view attributeOf(std::span<const xml::XmlAttribute> attributes, std:
     return found == attributes.end() ? std::string_view() : found->value;
 }
 
-std::string nameOf(const ApplicableClass& named) {
+const std::string& asText(const std::string& name) {
+    return name;
+}
+std::string asText(const ApplicableClass& named) {
     return named.predefinedType.empty() ? named.entity : named.entity + '/' + named.predefinedType;
 }
 
-// Takes out what has been there already, and tells each.
-template <class Items, class Name, class Tell>
-void dropRepeated(Items& items, Name name, Tell tell) {
-    if (items.size() < 2) return;
+// Takes out what equals an earlier one by a key, and tells each with its position.
+template <class Item, class Key, class Tell>
+void dropRepeated(std::vector<Item>& items, Key key, Tell tell) {
+    // Few are compared with each other.
+    constexpr std::size_t few = 32;
     std::unordered_set<std::string> seen;
+    const auto isRepeated = [&](std::size_t position) {
+        const auto& wanted = std::invoke(key, items[position]);
+        if (items.size() > few) return !seen.insert(asText(wanted)).second;
+        const auto end = items.begin() + static_cast<std::ptrdiff_t>(position);
+        return std::any_of(items.begin(), end, [&](const Item& item) { return std::invoke(key, item) == wanted; });
+    };
+    std::vector<std::size_t> repeated;
+    for (std::size_t position = 0; position < items.size(); ++position) {
+        if (!isRepeated(position)) continue;
+        tell(asText(std::invoke(key, items[position])), position);
+        repeated.push_back(position);
+    }
+    auto next = repeated.begin();
     std::size_t position = 0;
-    std::erase_if(items, [&](const auto& item) {
-        std::string itemName(std::invoke(name, item));
-        const bool isNew = seen.insert(itemName).second;
-        if (!isNew) tell(itemName, position);
-        ++position;
-        return !isNew;
-    });
+    if (!repeated.empty())
+        std::erase_if(items, [&](const Item&) {
+            const bool isNext = next != repeated.end() && *next == position++;
+            if (isNext) ++next;
+            return isNext;
+        });
 }
 
-// A property while it is read.
+// A property while it is read, where it will stay.
 struct OpenProperty {
-    PropertyDefinition definition;
+    PropertyDefinition* definition = nullptr;
     int line = 0;
     bool hasKind = false;
     std::vector<std::string> constants;
@@ -108,7 +124,7 @@ public:
                   "it is found by the name of the file");
         }
         addConditions(_typeValue, _typeValueLine, set.classes, _result.faults);
-        dropRepeated(set.classes, nameOf, [&](const std::string& name, std::size_t) {
+        dropRepeated(set.classes, std::identity(), [&](const std::string& name, std::size_t) {
             fault(_classesLine, definitionfaults::classRepeated, shown(name) + " is named twice", "counted once");
         });
         dropRepeatedProperties(set.properties, _propertyLines);
@@ -136,8 +152,7 @@ private:
             break;
         case Property:
         case Quantity:
-            _open.emplace_back().line = line;
-            _open.back().definition.kind = PropertyKind::Any;
+            beginProperty();
             break;
         case DataType:
             readType(attributeOf(attributes, words::type));
@@ -162,6 +177,16 @@ private:
             _result.definition.templateType = *type;
         else
             fault(_line, definitionfaults::templateUnknown, "the template type " + shown(written->value), "left out");
+    }
+
+    void beginProperty() {
+        // Siblings come one after the other, so that it stays where it is until it ends.
+        std::vector<PropertyDefinition>& siblings =
+            _open.empty() ? _result.definition.properties : definition().members;
+        siblings.emplace_back().kind = PropertyKind::Any;
+        OpenProperty& open = _open.emplace_back();
+        open.definition = &siblings.back();
+        open.line = _line;
     }
 
     void beginKind(DefinitionElement element, PropertyKind kind, std::span<const xml::XmlAttribute> attributes) {
@@ -272,21 +297,22 @@ private:
     void endProperty() {
         OpenProperty open = std::move(_open.back());
         _open.pop_back();
-        if (open.definition.name.empty())
-            return fault(open.line, definitionfaults::nameMissing, "a property without a name", "left out");
-        if (!open.hasKind) {
-            fault(open.line, definitionfaults::kindMissing, "property " + shown(open.definition.name) + " has no kind",
-                  "any will do");
+        PropertyDefinition& property = *open.definition;
+        if (property.name.empty()) {
+            fault(open.line, definitionfaults::nameMissing, "a property without a name", "left out");
+            (_open.empty() ? _result.definition.properties : definition().members).pop_back();
+            return;
         }
-        if (open.definition.kind == PropertyKind::Enumerated) endEnumeration(open);
-        dropRepeatedProperties(open.definition.members, open.memberLines);
-        const bool isMember = !_open.empty();
-        (isMember ? _open.back().memberLines : _propertyLines).push_back(open.line);
-        (isMember ? definition().members : _result.definition.properties).push_back(std::move(open.definition));
+        if (!open.hasKind)
+            fault(open.line, definitionfaults::kindMissing, "property " + shown(property.name) + " has no kind",
+                  "any will do");
+        if (property.kind == PropertyKind::Enumerated) endEnumeration(open);
+        dropRepeatedProperties(property.members, open.memberLines);
+        (_open.empty() ? _propertyLines : _open.back().memberLines).push_back(open.line);
     }
 
     void endEnumeration(OpenProperty& open) {
-        PropertyDefinition& property = open.definition;
+        PropertyDefinition& property = *open.definition;
         const std::string which = "the enumeration of property " + shown(property.name);
         const auto tellRepeated = [&](const std::string& name, std::size_t) {
             fault(open.line, definitionfaults::enumeratorRepeated, shown(name) + " is twice in " + which,
@@ -308,7 +334,7 @@ private:
     }
 
     void uniteEnumerators(OpenProperty& open, const std::string& which) {
-        std::vector<std::string>& listed = open.definition.enumerators;
+        std::vector<std::string>& listed = open.definition->enumerators;
         const auto missing = [](const std::vector<std::string>& some, const std::vector<std::string>& others) {
             const std::unordered_set<std::string_view> known(others.begin(), others.end());
             std::vector<std::string> result;
@@ -351,9 +377,9 @@ private:
         return std::string(clean);
     }
 
-    PropertyDefinition& definition() { return _open.back().definition; }
+    PropertyDefinition& definition() { return *_open.back().definition; }
     std::string ofProperty(std::string what) const {
-        return what.append(" of property ").append(shown(_open.back().definition.name));
+        return what.append(" of property ").append(shown(_open.back().definition->name));
     }
     void fault(int line, std::string_view kind, std::string found, std::string_view becomes) {
         addFault(_result.faults, line, kind, std::move(found), becomes);
@@ -397,15 +423,20 @@ sdai::Problem unreadable(const std::string& path, int line, const std::string& r
 
 } // namespace
 
-tl::expected<DefinitionReading, sdai::Problem> readDefinition(std::string_view bytes, const std::string& path) {
+tl::expected<DefinitionReading, sdai::Problem> readDefinition(xml::XmlEvents& events, std::string_view bytes,
+                                                              const std::string& path) {
     if (bytes.size() > mostBytes) return tl::unexpected(unreadable(path, 0, "is larger than 4 MB"));
     DefinitionReader reader(stem(path));
-    xml::XmlEvents events;
     if (const auto end = events.read(bytes, reader); !end) {
         const auto& [line, column, message] = end.error();
         return tl::unexpected(unreadable(path, line, message.empty() ? reader.refusal() : message));
     }
     return reader.take();
+}
+
+tl::expected<DefinitionReading, sdai::Problem> readDefinition(std::string_view bytes, const std::string& path) {
+    xml::XmlEvents events;
+    return readDefinition(events, bytes, path);
 }
 
 } // namespace velkor

@@ -19,39 +19,50 @@ struct NamedElement {
     DefinitionElement element;
 };
 
-// By name.
-constexpr auto elements = [] {
-    std::array result{NamedElement{words::propertySet, PropertySet},
-                      NamedElement{words::quantitySet, QuantitySet},
-                      NamedElement{words::name, Name},
-                      NamedElement{words::classes, Classes},
-                      NamedElement{words::className, ClassName},
-                      NamedElement{words::typeValue, TypeValue},
-                      NamedElement{words::method, Method},
-                      NamedElement{words::properties, Properties},
-                      NamedElement{words::quantities, Quantities},
-                      NamedElement{words::property, Property},
-                      NamedElement{words::quantity, Quantity},
-                      NamedElement{words::propertyType, PropertyType},
-                      NamedElement{words::quantityType, QuantityType},
-                      NamedElement{words::single, Single},
-                      NamedElement{words::simple, Simple},
-                      NamedElement{words::enumerated, Enumerated},
-                      NamedElement{words::bounded, Bounded},
-                      NamedElement{words::list, List},
-                      NamedElement{words::table, Table},
-                      NamedElement{words::reference, Reference},
-                      NamedElement{words::complex, Complex},
-                      NamedElement{words::dataType, DataType},
-                      NamedElement{words::unitType, UnitType},
-                      NamedElement{words::listValue, ListValue},
-                      NamedElement{words::definingValue, DefiningValue},
-                      NamedElement{words::definedValue, DefinedValue},
-                      NamedElement{words::enumeration, Enumeration},
-                      NamedElement{words::enumerator, Enumerator},
-                      NamedElement{words::constants, Constants},
-                      NamedElement{words::constant, Constant}};
-    std::ranges::sort(result, {}, &NamedElement::name);
+constexpr std::array elements{NamedElement{words::propertySet, PropertySet},
+                              NamedElement{words::quantitySet, QuantitySet},
+                              NamedElement{words::name, Name},
+                              NamedElement{words::classes, Classes},
+                              NamedElement{words::className, ClassName},
+                              NamedElement{words::typeValue, TypeValue},
+                              NamedElement{words::method, Method},
+                              NamedElement{words::properties, Properties},
+                              NamedElement{words::quantities, Quantities},
+                              NamedElement{words::property, Property},
+                              NamedElement{words::quantity, Quantity},
+                              NamedElement{words::propertyType, PropertyType},
+                              NamedElement{words::quantityType, QuantityType},
+                              NamedElement{words::single, Single},
+                              NamedElement{words::simple, Simple},
+                              NamedElement{words::enumerated, Enumerated},
+                              NamedElement{words::bounded, Bounded},
+                              NamedElement{words::list, List},
+                              NamedElement{words::table, Table},
+                              NamedElement{words::reference, Reference},
+                              NamedElement{words::complex, Complex},
+                              NamedElement{words::dataType, DataType},
+                              NamedElement{words::unitType, UnitType},
+                              NamedElement{words::listValue, ListValue},
+                              NamedElement{words::definingValue, DefiningValue},
+                              NamedElement{words::definedValue, DefinedValue},
+                              NamedElement{words::enumeration, Enumeration},
+                              NamedElement{words::enumerator, Enumerator},
+                              NamedElement{words::constants, Constants},
+                              NamedElement{words::constant, Constant}};
+
+// Positions in the list above, counted from 1, by the names' hashes: the first that is free from there on.
+constexpr std::size_t hashed(std::string_view name) noexcept {
+    return name.empty() ? 0
+                        : name.size() * 5 + static_cast<unsigned char>(name.front()) +
+                              3 * static_cast<unsigned char>(name[name.size() / 2]);
+}
+constexpr auto places = [] {
+    std::array<std::uint8_t, 128> result{};
+    for (std::size_t i = 0; i < elements.size(); ++i) {
+        std::size_t place = hashed(elements[i].name) % result.size();
+        while (result[place] != 0) place = (place + 1) % result.size();
+        result[place] = static_cast<std::uint8_t>(i + 1);
+    }
     return result;
 }();
 
@@ -147,8 +158,11 @@ constexpr std::uint64_t parentsOf(DefinitionElement element) noexcept {
 } // namespace
 
 DefinitionElement definitionElement(std::string_view name) noexcept {
-    const auto found = std::ranges::lower_bound(elements, name, {}, &NamedElement::name);
-    return found != elements.end() && found->name == name ? found->element : Other;
+    for (std::size_t place = hashed(name) % places.size(); places[place] != 0; place = (place + 1) % places.size()) {
+        const NamedElement& candidate = elements[places[place] - 1U];
+        if (candidate.name == name) return candidate.element;
+    }
+    return Other;
 }
 
 bool standsIn(DefinitionElement element, DefinitionElement parent) noexcept {
