@@ -20,9 +20,6 @@ namespace {
 namespace words = velkor::names::definition;
 using enum DefinitionElement;
 
-// A definition says in a few kilobytes what it has to say.
-constexpr std::size_t mostBytes = std::size_t{4} << 20;
-
 std::string_view attributeOf(std::span<const xml::XmlAttribute> attributes, std::string_view name) {
     const auto found = std::ranges::find(attributes, name, &xml::XmlAttribute::name);
     return found == attributes.end() ? std::string_view() : found->value;
@@ -425,7 +422,7 @@ sdai::Problem unreadable(const std::string& path, int line, const std::string& r
 
 tl::expected<DefinitionReading, sdai::Problem> readDefinition(xml::XmlEvents& events, std::string_view bytes,
                                                               const std::string& path) {
-    if (bytes.size() > mostBytes) return tl::unexpected(unreadable(path, 0, "is larger than 4 MB"));
+    if (bytes.size() > mostDefinitionBytes) return tl::unexpected(unreadable(path, 0, "is larger than 4 MB"));
     DefinitionReader reader(stem(path));
     if (const auto end = events.read(bytes, reader); !end) {
         const auto& [line, column, message] = end.error();

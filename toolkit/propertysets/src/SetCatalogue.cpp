@@ -9,6 +9,7 @@
 #include "velkor/propertysets/SetApplicability.h"
 #include "velkor/text/NearestNames.h"
 #include "velkor/text/Unicode.h"
+#include "velkor/xml/XmlEvents.h"
 
 #include <algorithm>
 #include <map>
@@ -19,8 +20,6 @@ namespace velkor {
 
 namespace {
 
-// A definition says in a few kilobytes what it has to say.
-constexpr std::size_t mostBytes = std::size_t{64} << 20;
 // Of a name that is asked for; what is longer is none that is nearly another.
 constexpr std::size_t longestName = 100;
 
@@ -34,14 +33,14 @@ struct Entry {
     std::string reason;
 };
 
-void read(Entry& entry) {
+void read(Entry& entry, xml::XmlEvents& events) {
     entry.isRead = true;
-    const auto bytes = files::readFile(entry.path, mostBytes);
+    const auto bytes = files::readFile(entry.path, mostDefinitionBytes + 1);
     if (!bytes) {
         entry.reason = entry.path + ": " + bytes.error().message;
         return;
     }
-    auto reading = readDefinition(*bytes, entry.path);
+    auto reading = readDefinition(events, *bytes, entry.path);
     if (reading)
         entry.definition = std::make_unique<SetDefinition>(std::move(reading->definition));
     else
@@ -77,11 +76,13 @@ struct SetCatalogue::Contents {
     std::unordered_map<std::string, std::string_view> spelledNames;
     // What the names are views of: paths of files, in the order of their folders.
     std::vector<std::string> files;
+    // What reads them, one after the other.
+    xml::XmlEvents events;
 
     Entry* entry(std::string_view setName) {
         const auto found = entries.find(setName);
         if (found == entries.end()) return nullptr;
-        if (!found->second.isRead) read(found->second);
+        if (!found->second.isRead) read(found->second, events);
         return &found->second;
     }
 };

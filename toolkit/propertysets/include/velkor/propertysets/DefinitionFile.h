@@ -9,6 +9,7 @@
 #include "velkor/sdai/Problem.h"
 #include "velkor/ToolkitExport.h"
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
@@ -40,6 +41,9 @@ struct DefinitionFaultKind {
 };
 /// All there are.
 VELKOR_TOOLKIT_API std::span<const DefinitionFaultKind> definitionFaultKinds() noexcept;
+
+/// Of a definition file, which says in a few kilobytes what it has to say. A larger one is refused.
+inline constexpr std::size_t mostDefinitionBytes = std::size_t{4} << 20U;
 
 struct DefinitionReading {
     SetDefinition definition;
