@@ -9,6 +9,7 @@ void addReportCommand(const Command& app, CommandContext& context);
 void addCheckCommand(const Command& app, CommandContext& context);
 void addGuidCommand(const Command& app, CommandContext& context);
 void addValidateCommand(const Command& app, CommandContext& context);
+void addPropertySetsCommand(const Command& app, CommandContext& context);
 void addUnitsCommand(const Command& app, CommandContext& context);
 void addDictionaryCommand(const Command& app, CommandContext& context);
 void addOptionsCommand(const Command& app, CommandContext& context);

@@ -15,6 +15,7 @@ void addCommands(const Command& program, CommandContext& context) {
     addReportCommand(program, context);
     addCheckCommand(program, context);
     addValidateCommand(program, context);
+    addPropertySetsCommand(program, context);
     addClassifyCommand(program, context);
     addGuidCommand(program, context);
     addUnitsCommand(program, context);

@@ -115,6 +115,11 @@ private:
     SetDifference& _difference;
 };
 
+/// Whether the type forbids something.
+bool isHeldTo(TemplateType type) {
+    return type != TemplateType::Unspecified && type != TemplateType::TypeDrivenOverride;
+}
+
 std::vector<const SetDefinition*> onlyIn(const SetCatalogue& catalogue, const SetCatalogue& other) {
     std::vector<const SetDefinition*> result;
     for (const std::string_view name : catalogue.names()) {
@@ -133,7 +138,8 @@ SetDifference compareSets(const SetDefinition& before, const SetDefinition& afte
         if (one != other) difference.changes.push_back({what, std::string(one), std::string(other)});
     };
     note("kind", kindOf(before), kindOf(after));
-    note("template type", wordOf(before.templateType), wordOf(after.templateType));
+    if (isHeldTo(before.templateType) || isHeldTo(after.templateType))
+        note("template type", wordOf(before.templateType), wordOf(after.templateType));
     const ClassList earlier(before), later(after);
     difference.addedClasses = later.without(earlier);
     difference.removedClasses = earlier.without(later);

@@ -22,6 +22,8 @@ using sdai::SchemaDefinition;
 /// The first release that has templates; the others are older.
 constexpr std::string_view firstWithTemplates = "IFC4";
 constexpr std::string_view templateEntity = "IFCPROPERTYSETTEMPLATE";
+/// Of the values of enumerations.
+constexpr std::string_view enumeratorType = "IfcLabel";
 /// Of an identifier of the schema, in characters.
 constexpr std::size_t longestIdentifier = 255;
 
@@ -186,7 +188,9 @@ private:
         TemplateRecord record("IFCSIMPLEPROPERTYTEMPLATE");
         record.text(identifier(path)).unset().text(property.name).unset();
         putTemplateType(record, "IFCSIMPLEPROPERTYTEMPLATETYPEENUM", templateTypeOf(property.kind));
-        record.text(isTable ? property.definingType : property.valueType);
+        record.text(isTable            ? std::string_view(property.definingType)
+                    : enumeration == 0 ? std::string_view(property.valueType)
+                                       : enumeratorType);
         record.text(isTable ? property.valueType : std::string());
         return add(record.reference(enumeration).unset(4));
     }

@@ -55,21 +55,21 @@ enum class TemplateType : std::uint8_t {
 VELKOR_TOOLKIT_API std::string_view wordOf(TemplateType type) noexcept;
 
 struct PropertyDefinition {
-    std::string name;
+    std::string name = {};
     PropertyKind kind = PropertyKind::Single;
     /// The type of the values, "IfcLabel"; of a table that of its defined values, of a reference the entity. Empty when
     /// any will do: a definition may leave it open.
-    std::string valueType;
+    std::string valueType = {};
     /// Of a table alone: the type of its defining values.
-    std::string definingType;
+    std::string definingType = {};
     /// "LENGTHUNIT", where the definition says so.
-    std::string unitType;
+    std::string unitType = {};
     /// Of enumerated properties: the name of the list, which may be empty, and its members in the definition's order.
-    std::string enumeration;
-    std::vector<std::string> enumerators;
+    std::string enumeration = {};
+    std::vector<std::string> enumerators = {};
     /// Of complex properties: its UsageName, which may be empty, and what it is made of.
-    std::string usageName;
-    std::vector<PropertyDefinition> members;
+    std::string usageName = {};
+    std::vector<PropertyDefinition> members = {};
 
     bool operator==(const PropertyDefinition&) const = default;
 };

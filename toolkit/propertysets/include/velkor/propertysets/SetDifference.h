@@ -5,7 +5,8 @@
 ///
 /// Order makes no difference, nor does letter case in names of classes and types. A class that another of the
 /// definition's classes implies makes none: a set for IfcWall is one for IfcWallType. Nor does what only one of two
-/// definitions states and nobody is held to: the name of a list of enumerators, a unit type.
+/// definitions states and nobody is held to: the name of a list of enumerators, a unit type, a template type that
+/// allows both types and occurrences.
 #pragma once
 
 #include "velkor/propertysets/SetDefinition.h"
