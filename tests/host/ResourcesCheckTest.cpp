@@ -257,21 +257,95 @@ TEST_F(ResourcesCheckTest, AttributeLists) {
 }
 
 TEST_F(ResourcesCheckTest, Definitions) {
-    const auto set = [](const std::string& content, const std::string& name = "document") {
-        return "<PropertySetDef ifdguid='1' new=''>\n<Name>" + name + "</Name>\n" + content + "</PropertySetDef>";
+    const auto set = [](const std::string& content, const std::string& name = "document",
+                        const std::string& release = "") {
+        return "<PropertySetDef ifdguid='1' new=''>" +
+               (release.empty() ? release : "<IfcVersion version='" + release + "'/>") + "\n<Name>" + name +
+               "</Name>\n" + content + "</PropertySetDef>";
     };
-    const std::string wall = "<ClassName>IfcWall/SHEAR</ClassName>\n",
-                      tag = "<PropertyDef><Name>Tag</Name></PropertyDef>\n";
+    const auto ofClass = [](const std::string& text) {
+        return "<ApplicableClasses><ClassName>" + text + "</ClassName></ApplicableClasses>\n";
+    };
+    const auto property = [](const std::string& type, const char* name = "Tag") {
+        return "<PropertyDefs><PropertyDef><Name>" + std::string(name) + "</Name>\n<PropertyType>" + type +
+               "</PropertyType></PropertyDef></PropertyDefs>\n";
+    };
+    const auto single = [&](const std::string& type, const std::string& unit = "LENGTHUNIT") {
+        return property("<TypePropertySingleValue><DataType type='" + type + "'/><UnitType type='" + unit +
+                        "'/></TypePropertySingleValue>");
+    };
+    const std::string wall = ofClass("IfcWall"), tag = single("IfcLengthMeasure");
     const Case cases[] = {
         {set(wall + tag), ""},
-        {set(wall + tag + "<Whatever/>\n<PropertDef/>"), "6 unknown-element: did you mean \"PropertyDef\"?"},
+        {set(ofClass("IfcWall/SHEAR") + tag, "document", "IFC4"), ""},
+        {set(wall + tag + "<Whatever/>\n<PropertDef/>"), "7 unknown-element: did you mean \"PropertyDef\"?"},
         {set(wall), "1 no-entries"},
         {set(wall + tag, "Pset_Wall"), "2 file-name"},
-        {set(tag), "1 no-classes"},
-        {set("<ClassName/>\n<ClassName>IfcWal/SHEAR</ClassName>\n<ClassName>/IfcWall</ClassName>\n" + tag + "<Name/>"),
-         "3 missing-value, 4 unknown-entity: did you mean \"IFCWALL\"?, 5 unknown-entity: did you mean \"IFCWALL\"?, 7 "
-         "missing-value"}};
+        {set(tag), "1 no-classes, 1 class-missing"},
+        {set("<ApplicableClasses>\n<ClassName/>\n<ClassName>IfcWal/SHEAR</ClassName>\n<ClassName>/IfcWall</ClassName>"
+             "</ApplicableClasses>\n" +
+             tag + "<Name/>"),
+         "4 missing-value, 5 unknown-entity: did you mean \"IFCWALL\"?, 6 unknown-entity: did you mean \"IFCWALL\"?, "
+         "6 class-with-schema, 9 missing-value"},
+        // What models are judged by, against the release that the definition is for.
+        {set(ofClass("IfcWall/SHEER") + tag, "document", "IFC4"), "3 predefined-type-unknown: did you mean \"SHEAR\"?"},
+        {set(ofClass("IfcPump") + tag, "document", "2x3 TC1"), ""},
+        {set(ofClass("IfcGeographicElement") + tag, "document", "IFC2X3"), "3 unknown-entity: IFC4 has it"},
+        {set(ofClass("IfcGeographicElement") + tag, "document", "IFC2X3, IFC4x3"), ""},
+        {set(wall + tag, "document", "IFC5"), "1 unknown-release"},
+        {set(wall + single("IfcLenghtMeasure")), "4 type-unknown: did you mean \"IFCLENGTHMEASURE\"?"},
+        {set(wall + single("IfcLengthMeasure", "LENGHTUNIT")), "4 unit-unknown: did you mean \"LENGTHUNIT\"?"},
+        {set(wall + single("IfcLengthMeasure", "AREAUNIT")), "4 unit-mismatch"},
+        {set(wall + single("IfcLengthMeasure", "IFCLENGTHMEASURE")), "4 unit-is-measure"},
+        {set(wall + single("IfcSoundPowerLevelMeasure", ""), "document", "IFC2X3"), "4 type-unknown, 5 unit-missing"},
+        {set(wall + single("IfcSoundPowerLevelMeasure", "")), "5 unit-missing"},
+        {set(wall + property("<TypePropertyReferenceValue reftype='IfcWall'/>")), "4 type-unknown"},
+        {set(wall + property("<TypePropertyReferenceValue reftype='IfcMaterial'/>")), ""},
+        {set(wall + property("<TypePropertyEnumeratedValue><EnumList name='E'>\n<EnumItem>A</EnumItem>\n"
+                             "<EnumItem>A</EnumItem></EnumList></TypePropertyEnumeratedValue>")),
+         "4 enumerator-repeated"},
+        {set(wall + property("<TypePropertyEnumeratedValue><EnumList name='E'>\n<EnumItem>A</EnumItem></EnumList>\n"
+                             "<ConstantList><ConstantDef><Name>A</Name></ConstantDef>\n"
+                             "<ConstantDef><Name>B</Name></ConstantDef></ConstantList></TypePropertyEnumeratedValue>")),
+         "4 enumerators-differ, 7 constant-names: list them as EnumItem alone"},
+        {"<PropertySetDef templatetype='PSET_TYPEDRIVEN'>\n<Name>document</Name>" + wall + tag + "</PropertySetDef>",
+         "1 template-unknown"},
+        {set(ofClass("IFCSHAREDBLDGELEMENTS/IfcBeam") + tag), "3 unknown-entity, 3 class-with-schema"}};
     for (const Case& expected : cases) expect("definition", expected);
+
+    // Any root will do for the services, but not for models.
+    const std::string path = folder.file("document.xml", "<Set><Name>document</Name>\n" + wall + tag + "</Set>");
+    EXPECT_EQ(findingsOf(check(path, Findings, {"--kind", "definition"})["files"][0]), "1 definition-unreadable");
+    EXPECT_THAT(text(set(wall + single("IfcLabell"))),
+                HasSubstr("document.xml:4: error: type \"IfcLabell\" of property \"Tag\": any will do; did you mean "
+                          "\"IFCLABEL\"? [type-unknown]\n"));
+}
+
+TEST_F(ResourcesCheckTest, TablesOfDefinitions) {
+    const std::string source = "  source a.xml " + std::string(64, '0') + "\n";
+    const auto table = [&](const std::string& facts, const std::string& release = "IFC4") {
+        return "# made\nrelease " + release + "\n\nproperty-set Pset_A\n" + source +
+               "  class IfcWall\n\nproperty-set Pset_B\n" + source + facts;
+    };
+    const std::string right = "  class IfcWall SHEAR\n  single Tag IfcLengthMeasure unit LENGTHUNIT\n";
+    const Case cases[] = {
+        {table(right), ""},
+        {table(right, "IFC4X4"), "2 unknown-release"},
+        {table(right + "  fault 3 blanks \"odd\"\n"), ""},
+        {table(right + "  fault 3 oddity \"odd\"\n"), "8 unknown-fault"},
+        {table(right + "  single TAG IfcLabel\n"), "8 duplicate-key"},
+        {table("  class IfcWal\n  single Tag IfcLabl\n"),
+         "8 class-unknown, 8 type-unknown: did you mean \"IFCLABEL\"?"},
+        // Told by the table already.
+        {table("  class IfcTank PREFORMED\n"), "8 predefined-type-unknown"},
+        {table(
+             "  fault 0 predefined-type-unknown \"predefined type \\\"PREFORMED\\\" of class \\\"IfcTank\\\": objects "
+             "whose object type is that are meant\"\n  class IfcTank PREFORMED\n"),
+         ""},
+        {table("  odd\n"), "10 table-unreadable"},
+        {"release IFC4 now\n", "1 table-unreadable"}};
+    for (const Case& expected : cases) expect("definition-table", expected);
+    EXPECT_THAT(text(table(right)), EndsWith("Definition table: 1 file, 2 entries, no findings\n"));
 }
 
 TEST_F(ResourcesCheckTest, JudgesTheFilesThatAreUsed) {

@@ -49,9 +49,9 @@ void writeText(CommandContext& context, const std::vector<CheckedFile>& files, c
             if (file.kind == &kind) counts.add(file);
         }
         if (counts.files > 0)
-            context.out << kind.resource->name << ": " << summary(counts) << '\n';
-        else if (isSearched)
-            context.out << kind.resource->name << ": no file that can be read; \"velkor resources\" says why\n";
+            context.out << kind.name << ": " << summary(counts) << '\n';
+        else if (isSearched && kind.resource != nullptr)
+            context.out << kind.name << ": no file that can be read; \"velkor resources\" says why\n";
     }
     if (total.listed == total.findings()) return;
     context.out << "the first " << text::grouped(total.listed) << " of "

@@ -258,4 +258,10 @@ tl::expected<DefinitionTable, sdai::Problem> readTable(std::string_view text) {
     return TableReader(text).read();
 }
 
+bool beginsTable(std::string_view text) noexcept {
+    while (!text.empty() && (text.front() == '#' || text.front() == '\n' || text.front() == '\r'))
+        text.remove_prefix(std::min(text.find('\n'), text.size() - 1) + 1);
+    return text.starts_with(tablewords::release) && text.substr(tablewords::release.size()).starts_with(' ');
+}
+
 } // namespace velkor

@@ -27,6 +27,15 @@ const std::vector<std::string_view>& Dictionaries::entityNames(const Releases& r
     return place->second;
 }
 
+const std::vector<std::string_view>& Dictionaries::typeNames(const std::string& release) {
+    const auto [place, isNew] = _typeNames.try_emplace(release);
+    const sdai::SchemaDefinition* known = isNew ? schema(release) : nullptr;
+    if (known == nullptr) return place->second;
+    for (const sdai::DefinedType* type : known->definedTypes()) place->second.push_back(type->name());
+    for (const sdai::EntityDefinition* entity : known->entities()) place->second.push_back(entity->name());
+    return place->second;
+}
+
 const Dictionaries::Releases& Dictionaries::all() {
     static const Releases releases = DXSdaiDictionaryRepo::TheOne().names();
     return releases;

@@ -20,12 +20,17 @@ public:
     /// Names of all entities of the releases, each once.
     const std::vector<std::string_view>& entityNames(const Releases& releases);
 
+    /// Names of all defined types and entities of a release.
+    const std::vector<std::string_view>& typeNames(const std::string& release);
+    /// Null for what is no release.
+    const sdai::SchemaDefinition* schema(const std::string& release);
+
     static const Releases& all();
 
 private:
-    const sdai::SchemaDefinition* schema(const std::string& release);
     std::map<std::string, DXSdaiDictionaryRepo::SchemaPointer> _schemas;
     std::map<Releases, std::vector<std::string_view>> _names;
+    std::map<std::string, std::vector<std::string_view>> _typeNames;
 };
 
 } // namespace velkor::lint

@@ -38,6 +38,7 @@ Judgement Linter::judge(const std::string& path, const XmlReading& reading) {
     const XmlElement& root = *reading.root;
     _path = path;
     _document = reading.document;
+    _bytes = reading.bytes;
     _judgement = {};
     judgeStructure(root, false);
     judgeEntries(root);
@@ -45,6 +46,7 @@ Judgement Linter::judge(const std::string& path, const XmlReading& reading) {
         warn(root.line, "no-entries", "the document has no entries");
     std::ranges::stable_sort(_judgement.findings, {}, &Finding::line);
     _document = {};
+    _bytes = {};
     return std::exchange(_judgement, {});
 }
 

@@ -66,6 +66,8 @@ protected:
     void judgePlace(const XmlElement& element);
 
     const std::string& path() const noexcept { return _path; }
+    std::string_view bytes() const noexcept { return _bytes; }
+    Dictionaries& dictionaries() const noexcept { return _dictionaries; }
     const QORIDOMDocument_var& document() const noexcept { return _document; }
 
 private:
@@ -79,6 +81,7 @@ private:
     const Format& _format;
     Dictionaries& _dictionaries;
     std::string _path;
+    std::string_view _bytes;
     QORIDOMDocument_var _document;
     Judgement _judgement;
 };

@@ -4,9 +4,11 @@
 #include "AttributeListLinter.h"
 #include "CustomMappingLinter.h"
 #include "DefinitionLinter.h"
+#include "DefinitionTableLinter.h"
 #include "PLMAttributesLinter.h"
 #include "ResourceNames.h"
 #include "velkor/files/InputText.h"
+#include "velkor/propertysets/DefinitionTable.h"
 #include "velkor/resources/ResourceSearch.h"
 #include "VersionMappingLinter.h"
 
@@ -25,14 +27,24 @@ std::unique_ptr<Linter> make(Dictionaries& dictionaries) {
     return std::make_unique<Kind>(dictionaries);
 }
 
+constexpr LinterKind read(const char* word, const ResourceKind& resource) {
+    return {word, resource.name, &resource};
+}
+
 constexpr LinterKind kinds[] = {
-    {"version-mapping", &versionMappingResource},      {"custom-mapping", &customMappingResource},
-    {"plm-attributes", &plmAttributesMappingResource}, {"aec", &aecMappingResource},
-    {"attribute-list", &attributeListResource},        {"definition", &propertySetResource}};
-// In the same order.
-constexpr Make makers[] = {make<VersionMappingLinter>, make<CustomMappingLinter>,
-                           make<PLMAttributesLinter>,  make<AECLinter>,
-                           make<AttributeListLinter>,  make<DefinitionLinter>};
+    read("version-mapping", versionMappingResource),      read("custom-mapping", customMappingResource),
+    read("plm-attributes", plmAttributesMappingResource), read("aec", aecMappingResource),
+    read("attribute-list", attributeListResource),        read("definition", propertySetResource),
+    {"definition-table", "Definition table", nullptr}};
+constexpr const LinterKind& tableKind = kinds[std::size(kinds) - 1];
+// In the same order; a table is no document of elements.
+constexpr Make makers[] = {make<VersionMappingLinter>,
+                           make<CustomMappingLinter>,
+                           make<PLMAttributesLinter>,
+                           make<AECLinter>,
+                           make<AttributeListLinter>,
+                           make<DefinitionLinter>,
+                           nullptr};
 static_assert(std::size(kinds) == std::size(makers));
 
 std::unique_ptr<Linter> linterOf(const LinterKind& kind, Dictionaries& dictionaries) {
@@ -72,6 +84,11 @@ CheckedFile judged(const std::string& path, const LinterKind* kind, Linter* lint
     auto text = files::readInput(path, standardInput, mostBytes);
     if (!text) {
         file.unreadable = std::move(text.error());
+        return file;
+    }
+    if (kind == nullptr && beginsTable(*text)) file.kind = &tableKind;
+    if (file.kind == &tableKind) {
+        file.judgement = judgeDefinitionTable(*text, dictionaries);
         return file;
     }
     XmlReading reading = readXml(*text, path);
@@ -127,7 +144,7 @@ CheckedFile ResourceCheck::file(const std::string& path, const LinterKind* kind,
 }
 
 std::vector<CheckedFile> ResourceCheck::files(const std::vector<std::string>& paths, const LinterKind& kind) {
-    const auto linter = linterOf(kind, *_dictionaries);
+    const auto linter = &kind == &tableKind ? nullptr : linterOf(kind, *_dictionaries);
     std::vector<CheckedFile> result;
     for (const std::string& path : paths)
         result.push_back(counted(judged(path, &kind, linter.get(), *_dictionaries, nullptr)));
@@ -137,6 +154,7 @@ std::vector<CheckedFile> ResourceCheck::files(const std::vector<std::string>& pa
 std::vector<CheckedFile> ResourceCheck::used(const PlatformSetup& setup) {
     std::vector<CheckedFile> result;
     for (const LinterKind& kind : kinds) {
+        if (kind.resource == nullptr) continue;
         std::vector<std::string> paths;
         std::unordered_set<std::string> known;
         // Setup data may name a file that the collection standard has as well.

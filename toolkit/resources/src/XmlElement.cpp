@@ -87,6 +87,7 @@ bool XmlElement::contains(std::string_view wanted) const {
 
 XmlReading readXml(std::string_view bytes, const std::string& path) {
     XmlReading reading;
+    reading.bytes = bytes;
     QORIXMLDOMDocumentBuilder_var builder;
     CreateQORIXMLDOMDocumentBuilder(CLSID_XML4C5_DOM, builder);
     const auto handler = QORIXMLErrorHandler_var::adopt(objectmodeler::newComponent<Messages>(reading.findings));

@@ -57,11 +57,13 @@ struct XmlReading {
     QORIDOMDocument_var document;
     /// Null when the file is not well-formed.
     std::unique_ptr<XmlElement> root;
+    /// What was read.
+    std::string_view bytes;
     /// What the parser has to say.
     std::vector<Finding> findings;
 };
 
-/// Reads the bytes of a file.
+/// Reads the bytes of a file, which must outlive the answer.
 XmlReading readXml(std::string_view bytes, const std::string& path);
 
 } // namespace velkor::lint

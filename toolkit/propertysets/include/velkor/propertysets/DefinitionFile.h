@@ -38,9 +38,13 @@ struct DefinitionFault {
 struct DefinitionFaultKind {
     std::string_view name;
     std::string_view meaning;
+    /// True when what was written does not count.
+    bool isDropped = false;
 };
 /// All there are.
 VELKOR_TOOLKIT_API std::span<const DefinitionFaultKind> definitionFaultKinds() noexcept;
+/// Null when there is none of the name.
+VELKOR_TOOLKIT_API const DefinitionFaultKind* definitionFaultKind(std::string_view name) noexcept;
 
 /// Of a definition file, which says in a few kilobytes what it has to say. A larger one is refused.
 inline constexpr std::size_t mostDefinitionBytes = std::size_t{4} << 20U;

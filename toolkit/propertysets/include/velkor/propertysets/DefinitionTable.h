@@ -44,6 +44,8 @@ struct DefinitionTable {
 
 /// Fails with line and what was expected.
 VELKOR_TOOLKIT_API tl::expected<DefinitionTable, sdai::Problem> readTable(std::string_view text);
+/// True when the first word is that of a table.
+VELKOR_TOOLKIT_API bool beginsTable(std::string_view text) noexcept;
 VELKOR_TOOLKIT_API std::string writtenTable(const DefinitionTable& table);
 
 } // namespace velkor

@@ -25,10 +25,13 @@ namespace velkor::lint {
 struct LinterKind {
     /// Short stable word for it: "version-mapping".
     const char* word;
+    /// For people.
+    const char* name;
+    /// Null for what the services do not read.
     const ResourceKind* resource;
 };
 
-/// In the order of the resource kinds.
+/// In the order of the resource kinds, and tables of definitions, which definitions are made from.
 VELKOR_TOOLKIT_API std::span<const LinterKind> linterKinds();
 /// Null when there is none of the word.
 VELKOR_TOOLKIT_API const LinterKind* linterKind(std::string_view word);
@@ -42,7 +45,7 @@ struct Judgement {
 
 struct CheckedFile {
     std::string path;
-    /// Null when it is none of the six.
+    /// Null when it is none of them.
     const LinterKind* kind = nullptr;
     /// Why the file could not be read; nothing has then been judged.
     std::optional<files::OpenError> unreadable = {};
