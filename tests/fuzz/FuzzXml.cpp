@@ -7,6 +7,7 @@
 #include "velkor/xml/QORIDOMNodeFilter.h"
 #include "velkor/xml/QORIDOMNodeIterator.h"
 #include "velkor/xml/QORIXMLXPathFactory.h"
+#include "velkor/xml/XmlEvents.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -72,6 +73,66 @@ void ask(const QORIDOMNode_var& node) {
     });
 }
 
+/// Elements, their attributes without prefix and texts, one behind the other.
+class Digest : public velkor::xml::XmlReceiver {
+public:
+    bool begin(std::string_view name, std::span<const velkor::xml::XmlAttribute> attributes, int) override {
+        _text.append("<").append(name);
+        for (const auto& [key, value] : attributes) _text.append(" ").append(key).append("=").append(value);
+        _text += '>';
+        return true;
+    }
+    void text(std::string_view piece) override { _text += piece; }
+    void end() override { _text += "</>"; }
+
+    void node(const QORIDOMNode_var& node) {
+        unsigned short type = 0;
+        require(node->GetNodeType(type) == S_OK);
+        if (type == QORIDOMNode::TEXT_NODE || type == QORIDOMNode::CDATA_SECTION_NODE)
+            text(got(node, &QORIDOMNode::GetNodeValue));
+        const QORIDOMElement_var element = node;
+        if (!element.IsNull()) beginElement(element);
+        QORIDOMNodeList_var children;
+        require(node->GetChildNodes(children) == S_OK);
+        forEach(children, [&](const QORIDOMNode_var& child) { this->node(child); });
+        if (!element.IsNull()) end();
+    }
+    const std::string& text() const noexcept { return _text; }
+
+private:
+    static std::string got(const QORIDOMNode_var& node, HRESULT (QORIDOMNode::*get)(QORUnicodeString&)) {
+        QORUnicodeString result;
+        require(((node.get())->*get)(result) == S_OK);
+        return std::string(result.utf8());
+    }
+    void beginElement(const QORIDOMElement_var& element) {
+        std::vector<std::string> texts;
+        std::vector<velkor::xml::XmlAttribute> attributes;
+        QORIDOMNodeList_var nodes;
+        require(element->GetAttributes(nodes) == S_OK);
+        forEach(nodes, [&](const QORIDOMNode_var& node) {
+            if (!got(node, &QORIDOMNode::GetPrefix).empty()) return;
+            texts.push_back(got(node, &QORIDOMNode::GetNodeName));
+            texts.push_back(got(node, &QORIDOMNode::GetNodeValue));
+        });
+        for (std::size_t i = 0; i < texts.size(); i += 2) attributes.push_back({texts[i], texts[i + 1]});
+        begin(got(element, &QORIDOMNode::GetLocalName), attributes, 0);
+    }
+    std::string _text;
+};
+
+/// Events are those of the document, where no document type tells the one more than the other.
+void compareEvents(std::string_view input, const QORIDOMDocument_var& document) {
+    static velkor::xml::XmlEvents events;
+    Digest ofEvents, ofDocument;
+    const auto end = events.read(input, ofEvents);
+    if (input.find("<!DOCTYPE") != std::string_view::npos || input.find('\0') != std::string_view::npos) return;
+    require(end.has_value() == !document.IsNull());
+    if (!end) return;
+    ofDocument.node(document);
+    require(ofEvents.text() == ofDocument.text());
+}
+
 void select(const QORIDOMDocument_var& document, const std::string& xpath) {
     QORIXMLXPathExpression_var expression;
     const QORIXMLXPathFactory_var factory = document;
@@ -119,6 +180,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     };
     const std::string commands(line()), xpath(line().substr(0, 60));
     const QORIDOMDocument_var document = parsed(input);
+    compareEvents(input, document);
     if (document.IsNull()) return 0;
     const Nodes nodes = walked(document);
     for (const QORIDOMNode_var& node : nodes) ask(node);

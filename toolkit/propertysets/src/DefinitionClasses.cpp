@@ -13,6 +13,8 @@ namespace velkor {
 namespace {
 
 constexpr std::string_view classPrefix = "Ifc";
+// Of classes in one text.
+constexpr std::string_view classSeparators = ",;";
 
 // Takes what stands before a separator off a text, without blanks around it.
 std::string_view taken(std::string_view& text, std::string_view separators) {
@@ -20,6 +22,23 @@ std::string_view taken(std::string_view& text, std::string_view separators) {
     const std::string_view first = trimmed(text.substr(0, end));
     text.remove_prefix(std::min(end + 1, text.size()));
     return first;
+}
+
+// An object type may have a comma too, but what follows there is no class.
+bool namesSeveral(std::string_view text) {
+    if (text.find_first_of(classSeparators) == std::string_view::npos) return false;
+    while (!text.empty()) {
+        const std::string_view piece = taken(text, classSeparators).substr(0, classPrefix.size());
+        if (!piece.empty() && !text::equalIgnoringCase(piece, classPrefix)) return false;
+    }
+    return true;
+}
+
+bool isIdentifier(std::string_view text) {
+    return std::ranges::all_of(text, [](char c) {
+        const char lower = text::asciiLower(c);
+        return (lower >= 'a' && lower <= 'z') || (c >= '0' && c <= '9') || c == '_';
+    });
 }
 
 // Where a condition on a class is one of these, objects of that kind are meant.
@@ -58,6 +77,7 @@ std::optional<Condition> conditionOf(std::string_view text) {
         point > equals)
         return {};
     result.entity = trimmed(text.substr(0, point));
+    if (!isIdentifier(result.entity)) return {};
     const std::string_view attribute = trimmed(text.substr(point + 1, equals - point - 1));
     if (std::ranges::find(typeAttributes, attribute) == std::end(typeAttributes)) return {};
     if (!takeValues(trimmed(text.substr(equals + 1)), result.values)) return {};
@@ -83,7 +103,7 @@ public:
 private:
     void readClasses(std::string_view text) {
         while (!text.empty()) {
-            std::string_view behind = taken(text, ",;");
+            std::string_view behind = taken(text, classSeparators);
             const std::string_view entity = taken(behind, "/");
             if (!entity.empty() && !trimmed(behind).empty()) restrict(entity, {{trimmed(behind)}});
         }
@@ -142,17 +162,17 @@ void addClasses(std::string_view text, int line, std::vector<ApplicableClass>& c
                 std::vector<DefinitionFault>& faults) {
     std::string_view rest = trimmed(text);
     if (rest.empty()) return addFault(faults, line, definitionfaults::classMissing, "an empty class", "left out");
-    const bool isOne = rest.find_first_of(",;") == std::string_view::npos;
-    if (!isOne)
+    const bool areSeveral = namesSeveral(rest);
+    if (areSeveral)
         addFault(faults, line, definitionfaults::classesInOneText, shown(rest), "each of them is taken");
     else if (rest.size() != text.size())
         addFault(faults, line, definitionfaults::blanks, shown(text), "read as " + shown(rest));
     while (!rest.empty()) {
-        const std::string_view whole = taken(rest, ",;");
+        const std::string_view whole = areSeveral ? taken(rest, classSeparators) : std::exchange(rest, {});
         std::string_view behind = whole;
         std::string_view entity = taken(behind, "/");
         behind = trimmed(behind);
-        if (behind.starts_with(classPrefix) && entity != behind) {
+        if (behind.starts_with(classPrefix) && !entity.starts_with(classPrefix)) {
             entity = std::exchange(behind, {});
             addFault(faults, line, definitionfaults::classWithSchema, shown(whole), "read as " + std::string(entity));
         }

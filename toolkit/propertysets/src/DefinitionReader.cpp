@@ -81,7 +81,7 @@ public:
         const DefinitionElement element = definitionElement(name);
         if (_stack.empty()) {
             if (element != PropertySet && element != QuantitySet) return refuse(name);
-        } else if (!standsIn(element, _stack.back())) {
+        } else if (!standsIn(element, _stack.back()) || (kindOf(element) && _open.back().hasKind)) {
             _skipped = 1;
             return true;
         }
@@ -283,8 +283,9 @@ private:
     void addEnumerator(std::vector<std::string>& enumerators) {
         std::string enumerator = cleaned(_text);
         if (enumerator.size() > 1 && enumerator.ends_with('.')) {
-            enumerator.pop_back();
-            fault(_line, definitionfaults::strayPoint, shown(enumerator + '.'), "read as " + shown(enumerator));
+            const std::string written = enumerator;
+            while (enumerator.size() > 1 && enumerator.ends_with('.')) enumerator.pop_back();
+            fault(_line, definitionfaults::strayPoint, shown(written), "read as " + shown(enumerator));
         }
         if (enumerator.empty())
             return fault(_line, definitionfaults::nameMissing, ofProperty("an enumerator"), "left out");

@@ -123,9 +123,8 @@ constexpr std::uint64_t parentsOf(DefinitionElement element) noexcept {
     case ClassName:
         return bit(Classes);
     case Property:
-        return bit(Properties) | bit(Complex);
     case Quantity:
-        return bit(Quantities);
+        return bit(Properties) | bit(Quantities) | bit(Complex);
     case PropertyType:
         return bit(Property);
     case QuantityType:

@@ -27,15 +27,15 @@ public:
         if (!set.classes.empty()) end(1, words::classes);
         for (const std::string& method : set.methods) line(1, words::method, method);
         begin(1, set.isQuantitySet ? words::quantities : words::properties);
-        for (const PropertyDefinition& property : set.properties) this->property(2, property, set.isQuantitySet);
+        for (const PropertyDefinition& property : set.properties) this->property(2, property);
         end(1, set.isQuantitySet ? words::quantities : words::properties);
         end(0, element);
         return std::move(_text);
     }
 
 private:
-    void property(std::size_t depth, const PropertyDefinition& property, bool isInQuantitySet) {
-        const char* element = isInQuantitySet ? words::quantity : words::property;
+    void property(std::size_t depth, const PropertyDefinition& property) {
+        const char* element = isQuantity(property.kind) ? words::quantity : words::property;
         begin(depth, element);
         line(depth + 1, words::name, property.name);
         if (isQuantity(property.kind))
@@ -57,7 +57,7 @@ private:
         case PropertyKind::Complex:
             open(element, words::listName, property.usageName);
             _text += '\n';
-            for (const PropertyDefinition& member : property.members) this->property(depth + 1, member, false);
+            for (const PropertyDefinition& member : property.members) this->property(depth + 1, member);
             indent(depth);
             break;
         case PropertyKind::Enumerated:
