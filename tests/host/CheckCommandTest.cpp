@@ -164,6 +164,43 @@ TEST(CheckCommand, JudgesWhatIsChosen) {
     EXPECT_EQ(checkJson(model.path(), {"--rule", "IfcRoot.UR1", "--limit", "0"})["total"], 1);
 }
 
+TEST(CheckCommand, TakesInWhatIsFoundOfPropertySets) {
+    const TemporaryModel model("IFC4", "#1=IFCWALL('0$WU4A9R19$vKWO$AdOnKA',$,$,$,$,$,$,$,$);\n"
+                                       "#2=IFCPROPERTYSINGLEVALUE('FireRatng',$,$,$);\n"
+                                       "#3=IFCPROPERTYSET('1$WU4A9R19$vKWO$AdOnKA',$,'Pset_WallCommon',$,(#2));\n"
+                                       "#4=IFCRELDEFINESBYPROPERTIES('2$WU4A9R19$vKWO$AdOnKA',$,$,$,(#1),#3);\n"
+                                       "#5=IFCFOO();\n");
+    const auto judged = [&](std::vector<std::string> options, const std::string& shipped = shippedResources) {
+        options.insert(options.begin(), {"check", model.path(), "--schema"});
+        return runHost(options, false, shipped);
+    };
+    const auto answer = [&](std::vector<std::string> options) {
+        options.insert(options.end(), {"--format", "json"});
+        return json::parse(judged(options).out);
+    };
+    const std::string found = "10 #3 property-unknown", all = found + ", 12 #5 unknown-entity";
+    const std::pair<std::vector<std::string>, std::string> cases[] = {
+        {{}, "12 #5 unknown-entity"},
+        {{"--property-sets"}, all},
+        {{"--property-sets", "--only", "property-unknown,set-unknown"}, found},
+        {{"--property-sets", "--ignore", "unknown-entity"}, found},
+        {{"--property-sets", "--ignore", "property-unknown"}, "12 #5 unknown-entity"},
+        {{"--property-sets", "--limit", "1"}, found}};
+    for (const auto& [options, expected] : cases) EXPECT_EQ(places(answer(options)), expected);
+    EXPECT_EQ(answer({"--property-sets", "--limit", "1"})["total"], 2);
+    EXPECT_EQ(answer({})["property_sets"], nullptr);
+    EXPECT_EQ(answer({"--property-sets"})["property_sets"]["sets"]["checked"], 1);
+    EXPECT_THAT(judged({"--property-sets"}).out, HasSubstr(": 1 of 1 set and 1 of 1 property or quantity checked\n"));
+
+    const Outcome without = judged({"--property-sets"}, {});
+    EXPECT_EQ(without.status, Unreadable);
+    EXPECT_THAT(without.out, HasSubstr("[unknown-entity]")) << "the rest is judged all the same";
+    EXPECT_THAT(without.err, HasSubstr("there are no definitions of property sets to check by"));
+    const Outcome pointless = judged({"--only", "unknown-entity,property-unknown"});
+    EXPECT_EQ(pointless.status, BadUsage);
+    EXPECT_EQ(pointless.err, "velkor: --only: property-unknown needs --property-sets\n");
+}
+
 TEST(CheckCommand, SaysWhatCannotBeChosen) {
     const TemporaryModel model("IFC2X3", "");
     const std::pair<std::vector<std::string>, const char*> cases[] = {

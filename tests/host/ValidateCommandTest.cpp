@@ -123,6 +123,41 @@ TEST_F(ValidateCommandTest, FindsWhatIsWrongWithItsPlaceAndAHint) {
     EXPECT_EQ(validation(model.path(), {"--limit", "0"})["total"], 5);
 }
 
+TEST_F(ValidateCommandTest, TellsWhatSetsComeToAndALinePerFinding) {
+    const TemporaryModel model(
+        "IFC4",
+        instances({object("IFCWALL", 6, "'=A, \"B\"'"), object("IFCWALL", 6), "IFCPROPERTYSINGLEVALUE('-x',$,$,$)",
+                   "IFCPROPERTYSINGLEVALUE('FireRating',$,IFCLABEL('F 90'),$)",
+                   "IFCPROPERTYSINGLEVALUE('Reference',$,$,$)", propertySet("'Pset_WallCommon'", "#3,#4,#5"),
+                   defines("#1,#2", "#6"), propertySet("'Pset_WallCommon'", "#4"), propertySet("'Acme'", "#4,#5")}));
+    // Of eleven properties two have a value, one in each set.
+    const std::string summary = "set              sets  objects  filled  missing  wrong\n"
+                                "Acme                1        0       1        -      0\n"
+                                "Pset_WallCommon     2        2       2       20      1\n";
+    EXPECT_THAT(validate(model.path()).out,
+                HasSubstr(" [property-unknown]\n\n" + summary + '\n' + model.path() + ": 1 finding; "));
+    EXPECT_THAT(validate(model.path(), {"--ignore", "property-unknown"}).out,
+                AllOf(StartsWith("set "), HasSubstr(": no findings; ")));
+    const json answered = validation(model.path());
+    EXPECT_EQ(answered["defined_by"], "IFC4");
+    EXPECT_EQ(answered["summaries"],
+              json::parse(R"([{"set": "Acme", "defined": false, "sets": 1, "objects": 0, "filled": 1, "missing": null,
+                               "wrong": 0},
+                              {"set": "Pset_WallCommon", "defined": true, "sets": 2, "objects": 2, "filled": 2,
+                               "missing": 20, "wrong": 1}])"));
+
+    const std::string head = "line,instance,severity,code,set,object,entity,object_name,others,property,nearest,"
+                             "message\r\n";
+    EXPECT_EQ(validate(model.path(), {"--format", "csv"}).out,
+              head + "13,6,error,property-unknown,Pset_WallCommon,1,IFCWALL,\"'=A, \"\"B\"\"\",1,'-x,,\"\"\"Pset_"
+                     "WallCommon\"\" of IFCWALL #1 \"\"=A, \"\"B\"\"\"\" and 1 other object has no property "
+                     "\"\"-x\"\"\"\r\n");
+    const Outcome none = validate(model.path(), {"--format", "csv", "--limit", "0"});
+    EXPECT_EQ(none.out, head);
+    EXPECT_EQ(none.err, "velkor: the first 0 of 1 findings are listed (--limit shows more)\n");
+    EXPECT_EQ(validate(model.path(), {"--only", "where-rule"}).status, BadUsage);
+}
+
 TEST_F(ValidateCommandTest, AppliesToTheClassOfAnObjectOrOfItsType) {
     struct Case {
         const char* why;
