@@ -111,15 +111,16 @@ TEST(ReportCommand, IdentifiersAndPropertySetsHaveSections) {
     EXPECT_EQ(sets["findings"]["kinds"][0]["count"], 2);
     EXPECT_THAT(page(model.path()),
                 AllOf(HasSubstr("\nIdentifiers  8, 2 errors\n  error    guid-duplicate in line 15, #8\n"),
-                      HasSubstr("\nProperty sets  3 sets, 2 warnings\n  Checked         1 with 2 properties"),
+                      HasSubstr("\nProperty sets  3 sets, 2 errors\n  Checked         1 with 2 properties"),
                       HasSubstr("\n  Not checked     2 without a definition: Acme (2)\n"
-                                "  warning  property-unknown, 2 times, first in line 17, #10\n"),
+                                "  error    property-unknown, 2 times, first in line 17, #10\n"),
                       HasSubstr("velkor guid check '" + model.path()), HasSubstr("velkor validate '" + model.path())));
 
     EXPECT_THAT(page(example("house-ifc2x3.ifc")),
                 AllOf(HasSubstr("\nIdentifiers  53, all well-formed and unique\n"),
                       HasSubstr("\nProperty sets  12 sets, nothing wrong with those checked\n")));
-    EXPECT_THAT(page(example("road-ifc4x3.ifc")), HasSubstr("\nProperty sets  1 set, none of them checked\n"));
+    EXPECT_THAT(page(example("road-ifc4x3.ifc")),
+                HasSubstr("\nProperty sets  1 set, nothing wrong with those checked\n"));
     EXPECT_THAT(
         page(TemporaryModel("IFC4", "#1=IFCCARTESIANPOINT((0.,0.,0.));\n").path()),
         AllOf(HasSubstr("\nIdentifiers  none in the file\n"), HasSubstr("\nProperty sets  none in the file\n")));

@@ -118,9 +118,9 @@ const SetCode* chosenSetCode(const CodeFilter& codes) {
     return chosen == setCodes().end() ? nullptr : &*chosen;
 }
 
-void tellDefinitions(CommandContext& context, const PropertySetCheck& sets) {
+void tellDefinitions(CommandContext& context, const PropertySetCheck& sets, const SetLibrary& library) {
     if (!sets.hasDefinitions) context.reportUnreadable(noDefinitions);
-    for (const std::string& reason : unreadableDefinitions(sets)) context.reportUnreadable(reason);
+    for (const std::string& reason : unreadableDefinitions(sets, library)) context.reportUnreadable(reason);
 }
 
 void writeResult(CommandContext& context, const FileCheck& check) {
@@ -160,7 +160,7 @@ void runCheck(CommandContext& context, const Options& options) {
     }
     context.status = check->result.total == 0 ? Done : Findings;
     writeResult(context, *check);
-    if (check->result.propertySets) tellDefinitions(context, *check->result.propertySets);
+    if (check->result.propertySets) tellDefinitions(context, *check->result.propertySets, *library);
 }
 
 } // namespace

@@ -21,8 +21,7 @@ namespace {
 // Enough for a summary by kind.
 constexpr std::size_t mostProblems = 10'000;
 
-void addPropertySets(CommandContext& context, const sdai::Model& model, const PlatformSetup& setup, Report& report) {
-    const SetLibrary library(definitionViews(setup));
+void addPropertySets(CommandContext& context, const sdai::Model& model, const SetLibrary& library, Report& report) {
     report.propertySets = checkPropertySets(model, library, context.checkOptions(mostProblems));
     std::vector<sdai::Problem> problems;
     for (SetFinding& finding : report.propertySets.findings) problems.push_back(std::move(finding.problem));
@@ -41,6 +40,7 @@ void runReport(CommandContext& context, const std::string& path) {
     const auto model = context.openModel(path);
     if (!model) return;
     const PlatformSetup setup(context.configuration, context.tell());
+    const SetLibrary library(definitionViews(setup));
     Report report{modelFacts(*model), unitReport(*model), {}, 0, {}, {}, {}, {}};
     ModelCheckOptions options = context.checkOptions(mostProblems);
     // Those of identifiers stand for themselves.
@@ -50,13 +50,14 @@ void runReport(CommandContext& context, const std::string& path) {
     const guid::GuidCheck guids = guid::checkGuids(*model, context.checkOptions(mostProblems));
     report.identifierCount = guids.count;
     report.identifiers = summarized(guids.result.problems, guids.result.total);
-    addPropertySets(context, *model, setup, report);
+    addPropertySets(context, *model, library, report);
     addClassification(context, *model, setup, report);
     if (context.json())
         writeJson(context.out, reportJson(report));
     else
         writeReportPage(context.out, context.color, report);
-    for (const std::string& reason : unreadableDefinitions(report.propertySets)) context.reportUnreadable(reason);
+    for (const std::string& reason : unreadableDefinitions(report.propertySets, library))
+        context.reportUnreadable(reason);
 }
 
 } // namespace

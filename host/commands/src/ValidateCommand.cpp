@@ -139,7 +139,7 @@ void runValidate(CommandContext& context, const Options& options) {
     if (!check.hasDefinitions) return context.reportUnreadable(noDefinitions);
     context.status = check.total == 0 ? Done : Findings;
     writeResult(context, *model, check, options.limit);
-    for (const std::string& reason : unreadableDefinitions(check)) context.reportUnreadable(reason);
+    for (const std::string& reason : unreadableDefinitions(check, library)) context.reportUnreadable(reason);
 }
 
 } // namespace

@@ -15,9 +15,11 @@ constexpr std::size_t widestName = 80;
 
 } // namespace
 
-std::vector<std::string> unreadableDefinitions(const PropertySetCheck& check) {
+std::vector<std::string> unreadableDefinitions(const PropertySetCheck& check, const SetLibrary& library) {
     std::vector<std::string> lines;
-    for (const auto& [name, count] : check.unreadable) lines.push_back("the definition of " + name + " cannot be read");
+    const SetCatalogue& catalogue = library.of(check.definedBy);
+    for (const auto& [name, count] : check.unreadable)
+        lines.push_back("the definition of " + name + " cannot be read: " + catalogue.unreadable(name));
     return lines;
 }
 

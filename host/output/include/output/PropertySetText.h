@@ -13,8 +13,8 @@ namespace velkor::host {
 inline constexpr const char* noDefinitions =
     "there are no definitions of property sets to check by; velkor resources says where they are looked for";
 
-/// One line per definition that cannot be read.
-std::vector<std::string> unreadableDefinitions(const PropertySetCheck& check);
+/// One line per definition that cannot be read, with the reason that the library has.
+std::vector<std::string> unreadableDefinitions(const PropertySetCheck& check, const SetLibrary& library);
 
 /// The counts: "sets", "properties" and "without_definition".
 Json coverageJson(const PropertySetCheck& check);

@@ -136,7 +136,7 @@ void PropertyJudge::addMember(const DXSdaiAppInstance& member, const Asked& aske
 // True when it is what the definition wants.
 bool PropertyJudge::judgeKind(const Asked& asked, PropertyOutcome& outcome) {
     const PropertyKind wanted = asked.wanted->definition.kind;
-    if (asked.slots.kind == wanted) return true;
+    if (asked.slots.kind == wanted || wanted == PropertyKind::Any) return true;
     const Code code = isQuantity(wanted) ? Code::QuantityKind : Code::PropertyKind;
     if (Verdict* verdict = add(code, asked, outcome)) {
         verdict->after.append(" as ").append(nameOf(asked.property.entity()));
