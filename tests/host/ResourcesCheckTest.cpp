@@ -289,6 +289,8 @@ TEST_F(ResourcesCheckTest, Definitions) {
          "6 class-with-schema, 9 missing-value"},
         // What models are judged by, against the release that the definition is for.
         {set(ofClass("IfcWall/SHEER") + tag, "document", "IFC4"), "3 predefined-type-unknown: did you mean \"SHEAR\"?"},
+        {set(ofClass("IfcWall/Garden wall") + tag, "document", "IFC4"), ""},
+        {set(ofClass("IfcFan/CENTRIFUGAL") + tag, "document", "IFC4"), "3 predefined-type-unknown"},
         {set(ofClass("IfcPump") + tag, "document", "2x3 TC1"), ""},
         {set(ofClass("IfcGeographicElement") + tag, "document", "IFC2X3"), "3 unknown-entity: IFC4 has it"},
         {set(ofClass("IfcGeographicElement") + tag, "document", "IFC2X3, IFC4x3"), ""},
@@ -337,10 +339,9 @@ TEST_F(ResourcesCheckTest, TablesOfDefinitions) {
         {table("  class IfcWal\n  single Tag IfcLabl\n"),
          "8 class-unknown, 8 type-unknown: did you mean \"IFCLABEL\"?"},
         // Told by the table already.
-        {table("  class IfcTank PREFORMED\n"), "8 predefined-type-unknown"},
-        {table(
-             "  fault 0 predefined-type-unknown \"predefined type \\\"PREFORMED\\\" of class \\\"IfcTank\\\": objects "
-             "whose object type is that are meant\"\n  class IfcTank PREFORMED\n"),
+        {table("  class IfcWall SHEER\n"), "8 predefined-type-unknown: did you mean \"SHEAR\"?"},
+        {table("  fault 0 predefined-type-unknown \"predefined type \\\"SHEER\\\" of class \\\"IfcWall\\\": objects "
+               "whose object type is that are meant\"\n  class IfcWall SHEER\n"),
          ""},
         {table("  odd\n"), "10 table-unreadable"},
         {"release IFC4 now\n", "1 table-unreadable"}};

@@ -52,8 +52,7 @@ private:
         for (const std::string& release : _releases) ofEmpty.push_back(beyond({}, empty, release));
         const auto judge = [&](const SetDefinition& part, const std::vector<Faults>& frames) {
             std::vector<Faults> faults;
-            for (std::size_t i = 0; i < _releases.size(); ++i)
-                faults.push_back(beyond(frames[i], part, _releases[i]));
+            for (std::size_t i = 0; i < _releases.size(); ++i) faults.push_back(beyond(frames[i], part, _releases[i]));
             return faults;
         };
         ofClasses.resize(_releases.size());
@@ -61,9 +60,13 @@ private:
             SetDefinition part;
             part.classes = {applicable};
             const std::vector<Faults> faults = judge(part, ofEmpty);
-            for (std::size_t i = 0; i < faults.size(); ++i) std::ranges::copy(faults[i], std::back_inserter(ofClasses[i]));
+            for (std::size_t i = 0; i < faults.size(); ++i)
+                std::ranges::copy(faults[i], std::back_inserter(ofClasses[i]));
+            const std::string hint = classHint(applicable);
+            // An object type of one's own stands there like a predefined type, and is none that is nearly one.
+            if (hint.empty() && isLeftAlone(part)) continue;
             for (DefinitionFault& fault : common(faults))
-                _found.push_back({std::move(fault), &applicable, nullptr, classHint(applicable)});
+                _found.push_back({std::move(fault), &applicable, nullptr, hint});
         }
         SetDefinition whole = _definition;
         whole.properties.clear();
@@ -76,6 +79,12 @@ private:
                 _found.push_back({std::move(fault), nullptr, &property, std::move(hint)});
             }
         }
+    }
+
+    bool isLeftAlone(const SetDefinition& part) const {
+        SetDefinition mended = part;
+        mendDefinition(mended, _releases.back());
+        return mended == part;
     }
 
     std::string classHint(const ApplicableClass& applicable) {
