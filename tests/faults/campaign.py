@@ -192,8 +192,10 @@ class Outcome:
 def prepare(folder, tools):
     for name, text in RESOURCES.items():
         write(os.path.join(folder, 'standard', name), text.encode())
-    for name in ('Pset_WallCommon.xml', 'Qto_WallBaseQuantities.xml'):
-        source = os.path.join(tools.resources, 'runtime/IFC4/resources/standard/IFCPsetQset', name)
+    # What the model has.
+    for name in ('Building', 'BuildingStorey', 'Door', 'Slab', 'Space', 'Wall', 'Window'):
+        name = f'Pset_{name}Common.xml'
+        source = os.path.join(tools.resources, 'runtime/IFC2X3/resources/standard/IFCPsetQset', name)
         with open(source, 'rb') as file:
             write(os.path.join(folder, SETS, name), file.read())
     with open(tools.model, 'rb') as file:
