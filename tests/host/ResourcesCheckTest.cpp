@@ -301,6 +301,10 @@ TEST_F(ResourcesCheckTest, Definitions) {
         {set(wall + single("IfcLengthMeasure", "IFCLENGTHMEASURE")), "4 unit-is-measure"},
         {set(wall + single("IfcSoundPowerLevelMeasure", ""), "document", "IFC2X3"), "4 type-unknown, 5 unit-missing"},
         {set(wall + single("IfcSoundPowerLevelMeasure", "")), "5 unit-missing"},
+        {set(wall + property("<TypeComplexProperty name='Use'>\n<PropertyDef><Name>Part</Name><PropertyType>"
+                             "<TypePropertySingleValue><DataType type='IfcLabl'/></TypePropertySingleValue>"
+                             "</PropertyType></PropertyDef></TypeComplexProperty>")),
+         "4 type-unknown: did you mean \"IFCLABEL\"?"},
         {set(wall + property("<TypePropertyReferenceValue reftype='IfcWall'/>")), "4 type-unknown"},
         {set(wall + property("<TypePropertyReferenceValue reftype='IfcMaterial'/>")), ""},
         {set(wall + property("<TypePropertyEnumeratedValue><EnumList name='E'>\n<EnumItem>A</EnumItem>\n"

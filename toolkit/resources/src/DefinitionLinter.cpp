@@ -132,17 +132,33 @@ std::unordered_map<std::string_view, int> propertyLines(const XmlElement& root) 
     return lines;
 }
 
-/// Where a class is named, or else what is to say it.
-int lineOf(const XmlElement& root, const ApplicableClass& applicable) {
-    int line = 0, listLine = root.line;
-    root.visitNamed(names::classes, [&](const XmlElement& list) { listLine = list.line; });
-    root.visitNamed(names::className, [&](const XmlElement& element) {
-        const bool isNamed = element.text.find(applicable.entity) != std::string::npos &&
-                             element.text.find(applicable.predefinedType) != std::string::npos;
-        if (isNamed && line == 0) line = element.line;
-    });
-    return line != 0 ? line : listLine;
-}
+/// Where classes are named, by the whole text and by each word of it.
+class ClassLines {
+public:
+    explicit ClassLines(const XmlElement& root) : _listLine(root.line) {
+        root.visitNamed(names::classes, [this](const XmlElement& list) { _listLine = list.line; });
+        root.visitNamed(names::className, [this](const XmlElement& element) {
+            std::string_view rest = trimmed(element.text);
+            _lines.try_emplace(std::string(rest), element.line);
+            while (!rest.empty()) {
+                const std::string_view word = rest.substr(0, rest.find_first_of(" ,;/\t\r\n"));
+                _lines.try_emplace(std::string(word), element.line);
+                rest.remove_prefix(std::min(word.size() + 1, rest.size()));
+            }
+        });
+    }
+
+    /// That of the list where the class is named elsewhere.
+    int of(const ApplicableClass& applicable) const {
+        auto found = _lines.find(applicable.entity + '/' + applicable.predefinedType);
+        if (found == _lines.end()) found = _lines.find(applicable.entity);
+        return found == _lines.end() ? _listLine : found->second;
+    }
+
+private:
+    std::unordered_map<std::string, int> _lines;
+    int _listLine;
+};
 
 } // namespace
 
@@ -228,19 +244,20 @@ void DefinitionLinter::judgeFacts(const XmlElement& root) {
         const std::string place = path() + ':' + std::to_string(reading.error().line) + ": ";
         std::string_view reason = reading.error().message;
         if (reason.starts_with(place)) reason.remove_prefix(place.size());
-        return error(static_cast<int>(reading.error().line), reading.error().code.c_str(),
+        return error(std::max(1, static_cast<int>(reading.error().line)), reading.error().code.c_str(),
                      "models cannot be judged by it: " + std::string(reason));
     }
     for (const DefinitionFault& fault : reading->faults)
         if (fault.line != 0 && !_emptyLines.contains(fault.line)) tell(fault, fault.line, {});
     const auto lines = propertyLines(root);
+    const ClassLines classLines(root);
     for (PartFault& part : faultsOf(reading->definition, _releases, dictionaries())) {
         int line = root.line;
         if (part.property != nullptr) {
             const auto found = lines.find(part.property->name);
             if (found != lines.end()) line = found->second;
         } else if (part.applicable != nullptr) {
-            line = lineOf(root, *part.applicable);
+            line = classLines.of(*part.applicable);
             if (_unknownLines.contains(line)) continue;
         }
         tell(part.fault, line, std::move(part.hint));

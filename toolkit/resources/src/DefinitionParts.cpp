@@ -5,28 +5,46 @@
 
 #include <algorithm>
 #include <iterator>
+#include <set>
+#include <utility>
 
 namespace velkor::lint {
 
 namespace {
 
 using Faults = std::vector<DefinitionFault>;
+/// Kinds and texts.
+using Frame = std::set<std::pair<std::string, std::string>>;
+
+void addTo(Frame& frame, const Faults& faults) {
+    for (const DefinitionFault& fault : faults) frame.emplace(fault.kind, fault.text);
+}
 
 /// What is told of a part of a definition alone, the rest of which is the frame.
-Faults beyond(const Faults& frame, SetDefinition part, const std::string& release) {
+Faults beyond(const Frame& frame, SetDefinition part, const std::string& release) {
     Faults faults = mendDefinition(part, release);
-    std::erase_if(faults, [&](const DefinitionFault& fault) { return std::ranges::find(frame, fault) != frame.end(); });
+    std::erase_if(faults, [&](const DefinitionFault& fault) { return frame.contains({fault.kind, fault.text}); });
     return faults;
+}
+
+PropertyDefinition withoutMembers(const PropertyDefinition& property) {
+    PropertyDefinition alone;
+    alone.name = property.name;
+    alone.kind = property.kind;
+    alone.valueType = property.valueType;
+    alone.definingType = property.definingType;
+    alone.unitType = property.unitType;
+    return alone;
 }
 
 /// The faults that every release has by their kind, as the last one tells them.
 Faults common(const std::vector<Faults>& byRelease) {
     Faults result = byRelease.back();
-    std::erase_if(result, [&](const DefinitionFault& fault) {
-        return std::ranges::any_of(byRelease, [&](const Faults& faults) {
-            return std::ranges::find(faults, fault.kind, &DefinitionFault::kind) == faults.end();
-        });
-    });
+    for (const Faults& faults : byRelease) {
+        std::set<std::string_view> kinds;
+        for (const DefinitionFault& fault : faults) kinds.insert(fault.kind);
+        std::erase_if(result, [&](const DefinitionFault& fault) { return !kinds.contains(fault.kind); });
+    }
     return result;
 }
 
@@ -46,22 +64,25 @@ public:
 
 private:
     void findParts() {
-        // A name tells of what is left out; without one a part is judged by itself.
-        const SetDefinition empty;
-        std::vector<Faults> ofEmpty, ofClasses;
-        for (const std::string& release : _releases) ofEmpty.push_back(beyond({}, empty, release));
-        const auto judge = [&](const SetDefinition& part, const std::vector<Faults>& frames) {
-            std::vector<Faults> faults;
-            for (std::size_t i = 0; i < _releases.size(); ++i) faults.push_back(beyond(frames[i], part, _releases[i]));
-            return faults;
-        };
-        ofClasses.resize(_releases.size());
+        for (const std::string& release : _releases) addTo(_ofEmpty.emplace_back(), beyond({}, {}, release));
+        findClasses();
+        for (const PropertyDefinition& property : _definition.properties) findProperty(property, property);
+    }
+
+    // A part is judged without a name, which would tell of what is left out.
+    std::vector<Faults> judge(const SetDefinition& part, const std::vector<Frame>& frames) const {
+        std::vector<Faults> faults;
+        for (std::size_t i = 0; i < _releases.size(); ++i) faults.push_back(beyond(frames[i], part, _releases[i]));
+        return faults;
+    }
+
+    void findClasses() {
+        std::vector<Frame> ofClasses(_releases.size());
         for (const ApplicableClass& applicable : _definition.classes) {
             SetDefinition part;
             part.classes = {applicable};
-            const std::vector<Faults> faults = judge(part, ofEmpty);
-            for (std::size_t i = 0; i < faults.size(); ++i)
-                std::ranges::copy(faults[i], std::back_inserter(ofClasses[i]));
+            const std::vector<Faults> faults = judge(part, _ofEmpty);
+            for (std::size_t i = 0; i < faults.size(); ++i) addTo(ofClasses[i], faults[i]);
             const std::string hint = classHint(applicable);
             // An object type of one's own stands there like a predefined type, and is none that is nearly one.
             if (hint.empty() && isLeftAlone(part)) continue;
@@ -71,14 +92,17 @@ private:
         SetDefinition whole = _definition;
         whole.properties.clear();
         for (DefinitionFault& fault : common(judge(whole, ofClasses))) _found.push_back({std::move(fault), {}, {}, {}});
-        for (const PropertyDefinition& property : _definition.properties) {
-            SetDefinition part;
-            part.properties = {property};
-            for (DefinitionFault& fault : common(judge(part, ofEmpty))) {
-                std::string hint = propertyHint(property, fault.text);
-                _found.push_back({std::move(fault), nullptr, &property, std::move(hint)});
-            }
+    }
+
+    // The parser bounds how deep members have members.
+    void findProperty(const PropertyDefinition& property, const PropertyDefinition& ofSet) {
+        SetDefinition part;
+        part.properties.push_back(withoutMembers(property));
+        for (DefinitionFault& fault : common(judge(part, _ofEmpty))) {
+            std::string hint = propertyHint(property, fault.text);
+            _found.push_back({std::move(fault), nullptr, &ofSet, std::move(hint)});
         }
+        for (const PropertyDefinition& member : property.members) findProperty(member, ofSet);
     }
 
     bool isLeftAlone(const SetDefinition& part) const {
@@ -111,14 +135,14 @@ private:
                 return didYouMean(_dictionaries.typeNames(_releases.back()), *type);
         if (isMeant(property.unitType) && !isUnitType(*schema, property.unitType))
             return didYouMean(unitTypes(*schema), property.unitType);
-        for (const PropertyDefinition& member : property.members)
-            if (std::string hint = propertyHint(member, fault); !hint.empty()) return hint;
         return {};
     }
 
     const SetDefinition& _definition;
     const Dictionaries::Releases& _releases;
     Dictionaries& _dictionaries;
+    // What is told where nothing is.
+    std::vector<Frame> _ofEmpty;
     std::vector<PartFault> _found;
 };
 

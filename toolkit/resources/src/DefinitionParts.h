@@ -14,6 +14,7 @@ struct PartFault {
     DefinitionFault fault;
     /// What it is about; neither when it is the whole.
     const ApplicableClass* applicable = nullptr;
+    /// Of the set itself, also where a member of it is meant.
     const PropertyDefinition* property = nullptr;
     /// Empty when nothing is known.
     std::string hint;
