@@ -158,67 +158,6 @@ TEST_F(ValidateCommandTest, TellsWhatSetsComeToAndALinePerFinding) {
     EXPECT_EQ(validate(model.path(), {"--only", "where-rule"}).status, BadUsage);
 }
 
-TEST_F(ValidateCommandTest, AppliesToTheClassOfAnObjectOrOfItsType) {
-    struct Case {
-        const char* why;
-        const char* release;
-        const char* set;                    // is #2
-        std::vector<std::string> instances; // from #3 on
-        std::vector<int> wrongObjects;
-    };
-    const auto type = [](const char* keyword, const char* rest) {
-        return std::string(keyword) + "('',$,$,$,$,(#2)" + rest + ')';
-    };
-    const auto typed = [](const char* objects, const char* relating) {
-        return std::string("IFCRELDEFINESBYTYPE('',$,$,$,(") + objects + ")," + relating + ')';
-    };
-    const std::string wall = object("IFCWALL", 6), door = object("IFCDOOR", 10);
-    const std::string proxy = object("IFCBUILDINGELEMENTPROXY", 6), mover = object("IFCFLOWMOVINGDEVICE", 5);
-    const std::string itsSet = defines("#3", "#2"), anyType = type("IFCTYPEPRODUCT", ",$,$");
-    const char *ofWalls = "Pset_WallCommon", *ofDoors = "Pset_DoorCommon", *ofPumps = "Pset_PumpTypeCommon";
-    const Case cases[] = {
-        {"a subtype", "IFC4", ofWalls, {object("IFCWALLELEMENTEDCASE", 6), itsSet}, {}},
-        {"several sets of several objects",
-         "IFC4",
-         ofWalls,
-         {propertySet("'Pset_DoorCommon'", "#1"), wall, door, defines("#4,#5", "IFCPROPERTYSETDEFINITIONSET((#2,#3))")},
-         {5, 4}},
-        {"two relationships", "IFC4", ofWalls, {wall, door, door, defines("#4", "#2"), defines("#3,#5", "#2")}, {4}},
-        {"a set of a type", "IFC4", ofWalls, {type("IFCWALLTYPE", ",$,$,$,.SOLIDWALL.")}, {}},
-        {"a wrong type", "IFC4", ofWalls, {type("IFCSLABTYPE", ",$,$,$,.FLOOR.")}, {3}},
-        {"the type in a relationship", "IFC4", ofWalls, {"IFCWALLTYPE('',$,$,$,$,$,$,$,$,.SOLIDWALL.)", itsSet}, {}},
-        {"a style", "IFC2X3", ofDoors, {type("IFCDOORSTYLE", ",$,$,.NOTDEFINED.,.NOTDEFINED.,.F.,.F.")}, {}},
-        {"the class of the type",
-         "IFC4",
-         ofPumps,
-         {proxy, "IFCPUMPTYPE('',$,$,$,$,$,$,$,$,.ENDSUCTION.)", typed("#3", "#4"), itsSet},
-         {}},
-        {"not without that type", "IFC4", ofPumps, {proxy, itsSet}, {3}},
-        {"a pump of a release without pumps", "IFC2X3", ofPumps, {mover, itsSet}, {}},
-        {"but no pipe", "IFC2X3", ofPumps, {object("IFCFLOWSEGMENT", 5), itsSet}, {3}},
-        {"where there are pumps, they are meant", "IFC4", ofPumps, {mover, itsSet}, {3}},
-        {"a type that does not say of what", "IFC4", ofWalls, {anyType}, {}},
-        {"its objects do", "IFC4", ofWalls, {anyType, wall, typed("#4", "#3")}, {}},
-        {"its objects differ", "IFC4", ofWalls, {anyType, door, typed("#4", "#3")}, {3}},
-        {"damage",
-         "IFC4",
-         ofWalls,
-         {defines("#99,#1", "#98"), defines("", "#2"), "IFCRELDEFINESBYPROPERTIES()",
-          "IFCPROPERTYSET('',$,'Pset_WallCommon',$,(#97,$,7))", "IFCPROPERTYSET()", typed("#96", "#95"),
-          "IFCTYPEOBJECT('',$,$,$,$,(#94,#2))", "IFCPROPERTYSET('',$,'Pset_DoorCommon',$,#1)"},
-         {}}};
-    for (const auto& [why, release, set, more, wrongObjects] : cases) {
-        std::vector<std::string> texts{reference, propertySet('\'' + std::string(set) + '\'', "#1")};
-        texts.insert(texts.end(), more.begin(), more.end());
-        const TemporaryModel model(release, instances(texts));
-        const json answered = validation(model.path(), {"--only", "set-not-applicable"});
-        std::vector<int> found;
-        for (const json& finding : answered["findings"]) found.push_back(finding["object"]["instance"]);
-        EXPECT_EQ(found, wrongObjects) << why << answered;
-        EXPECT_GT(answered["sets"]["checked"], 0) << why;
-    }
-}
-
 TEST_F(ValidateCommandTest, WhatManySetsShareIsNotRepeatedWithoutMeasure) {
     // One property with a name beyond all measure in 2,000 sets of one such object.
     const std::string longName = '\'' + std::string(100'000, 'x') + '\'';
