@@ -1,5 +1,6 @@
 #include "judge/BearerKinds.h"
 
+#include "judge/Record.h"
 #include "judge/SharedText.h"
 
 #include <utility>
@@ -11,12 +12,15 @@ namespace {
 constexpr const char* objectTypeAttributes[] = {"OBJECTTYPE", "ELEMENTTYPE", "PROCESSTYPE", "RESOURCETYPE"};
 
 // The one that the entity has. A text too long for a name is none.
-std::string objectTypeOf(const DXSdaiAppInstance& object) {
+std::string objectTypeOf(const Record& object) {
     for (const char* attribute : objectTypeAttributes) {
-        const sdai::Primitive text = object.GetAttr(attribute);
-        if (text.declaredType() != nullptr) return isTooLong(text) ? std::string() : text.asString();
+        if (const std::string_view text = object.text(attribute); !text.empty()) return nameText(text);
     }
     return {};
+}
+
+std::string_view predefinedTypeOf(const Record& object) {
+    return object.attribute("PREDEFINEDTYPE").asEnumeration().text();
 }
 
 template <class Kind, class Hash, class KindOf>
@@ -27,7 +31,7 @@ std::vector<BearerKinds::Alike<Kind>> alike(SetUses::Objects objects, KindOf kin
         return result;
     }
     std::unordered_map<Kind, std::size_t, Hash> places;
-    for (DXSdaiAppInstance* object : objects) {
+    for (const ObjectIndex object : objects) {
         const auto [place, isNew] = places.try_emplace(kindOf(object), result.size());
         if (isNew) result.push_back({place->first, {}});
         result[place->second].use.add({object, 1});
@@ -37,13 +41,15 @@ std::vector<BearerKinds::Alike<Kind>> alike(SetUses::Objects objects, KindOf kin
 
 } // namespace
 
-BearerDetail::BearerDetail(const DXSdaiAppInstance* object, const SetUses& uses)
-    : kind(uses.kindOf(object)), predefinedType(object->GetAttr("PREDEFINEDTYPE").asEnumeration().text()),
-      objectType(objectTypeOf(*object)) {
-    if (const DXSdaiAppInstance* type = uses.typeOf(object)) {
-        typePredefinedType = type->GetAttr("PREDEFINEDTYPE").asEnumeration().text();
-        typeObjectType = objectTypeOf(*type);
-    }
+BearerDetail::BearerDetail(const sdai::Model& model, const SetUses& uses, ObjectIndex object)
+    : kind(uses.kindOf(object)) {
+    Record record(model, uses.numberOf(object));
+    predefinedType = predefinedTypeOf(record);
+    objectType = objectTypeOf(record);
+    if (uses.typeOf(object) == SetUses::none) return;
+    record.read(uses.typeOf(object));
+    typePredefinedType = predefinedTypeOf(record);
+    typeObjectType = objectTypeOf(record);
 }
 
 SetBearer BearerDetail::bearer() const noexcept {
@@ -60,7 +66,7 @@ std::size_t BearerDetailHash::operator()(const BearerDetail& detail) const noexc
 }
 
 std::span<const BearerKinds::Alike<ObjectKind>> BearerKinds::kindsOf(std::uint32_t number) {
-    const auto kindOf = [&](const DXSdaiAppInstance* object) { return _uses.kindOf(object); };
+    const auto kindOf = [&](ObjectIndex object) { return _uses.kindOf(object); };
     const SetUses::Objects objects = _uses.group(number);
     if (objects.size() == 1) return _kinds.single = alike<ObjectKind, ObjectKindHash>(objects, kindOf);
     auto [known, isNew] = _kinds.several.try_emplace(number);
@@ -69,7 +75,7 @@ std::span<const BearerKinds::Alike<ObjectKind>> BearerKinds::kindsOf(std::uint32
 }
 
 std::span<const BearerKinds::Alike<BearerDetail>> BearerKinds::detailsOf(std::uint32_t number) {
-    const auto kindOf = [&](const DXSdaiAppInstance* object) { return BearerDetail(object, _uses); };
+    const auto kindOf = [&](ObjectIndex object) { return BearerDetail(_model, _uses, object); };
     const SetUses::Objects objects = _uses.group(number);
     if (objects.size() == 1) return _details.single = alike<BearerDetail, BearerDetailHash>(objects, kindOf);
     auto [known, isNew] = _details.several.try_emplace(number);

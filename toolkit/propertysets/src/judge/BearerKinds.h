@@ -19,7 +19,7 @@ struct BearerDetail {
     std::string_view predefinedType, typePredefinedType;
     std::string objectType, typeObjectType;
 
-    BearerDetail(const DXSdaiAppInstance* object, const SetUses& uses);
+    BearerDetail(const sdai::Model& model, const SetUses& uses, ObjectIndex object);
     SetBearer bearer() const noexcept;
     bool operator==(const BearerDetail&) const = default;
 };
@@ -37,7 +37,7 @@ public:
         SetUse use;
     };
 
-    explicit BearerKinds(const SetUses& uses) noexcept : _uses(uses) {}
+    BearerKinds(const sdai::Model& model, const SetUses& uses) noexcept : _model(model), _uses(uses) {}
 
     const SetUses& uses() const noexcept { return _uses; }
     /// The objects of a group by their entities, in the order in which the first of each stands.
@@ -53,6 +53,7 @@ private:
         std::vector<Alike<Kind>> single;
     };
 
+    const sdai::Model& _model;
     const SetUses& _uses;
     Groups<ObjectKind> _kinds;
     Groups<BearerDetail> _details;

@@ -80,14 +80,13 @@ PropertyNames::PropertyNames(const std::vector<PropertyDefinition>* definitions,
 
 PropertyNames::~PropertyNames() = default;
 
-PropertyNames::Entry* PropertyNames::find(const sdai::Primitive& name) {
-    const std::string_view written = name.encoded();
-    if (written.size() > longestName) return nullptr;
-    if (const auto known = _entries.find(written); known != _entries.end()) return &known->second;
+PropertyNames::Entry* PropertyNames::find(std::string_view name) {
+    if (isTooLong(name)) return nullptr;
+    if (const auto known = _entries.find(name); known != _entries.end()) return &known->second;
     if (!isText(name)) return nullptr;
-    Entry& entry = _entries[written];
+    Entry& entry = _entries[name];
     if (_definitions == nullptr) return &entry;
-    const std::string text = name.asString();
+    const std::string text = nameText(name);
     const auto isNamed = [&](const PropertyDefinition& each) { return text::equalIgnoringCase(each.name, text); };
     const auto definition = std::ranges::find_if(*_definitions, isNamed);
     if (definition == _definitions->end()) return &entry;

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "velkor/propertysets/SetDefinition.h"
-#include "velkor/sdai/Dictionary.h"
-#include "velkor/sdai/DXSdaiAppInstance.h"
+#include "velkor/sdai/Model.h"
 
 #include <cstdint>
 #include <memory>
@@ -69,9 +68,9 @@ public:
     struct Entry {
         /// Null when the definition has no property of the name.
         JudgedProperty* property = nullptr;
-        /// The set that has been counted last, and what had the name there first.
+        /// The set that has been counted last, and the number of what had the name there first.
         std::uint64_t set = 0;
-        const DXSdaiAppInstance* member = nullptr;
+        std::uint32_t member = 0;
         bool isRepeated = false;
         /// The name that is probably meant, once it has been asked for.
         std::optional<std::string> meant = {};
@@ -83,8 +82,8 @@ public:
     PropertyNames& operator=(const PropertyNames&) = delete;
     ~PropertyNames();
 
-    /// Null for what is no name. An entry stays where it is.
-    Entry* find(const sdai::Primitive& name);
+    /// By the name as it stands in the file; null for what is no name. An entry stays where it is.
+    Entry* find(std::string_view name);
     /// The name that is probably meant by one that is not known; empty without one.
     const std::string& meant(Entry& entry, std::string_view name) const;
 

@@ -24,10 +24,8 @@ NamedSet::NamedSet(std::string shownName, const SetDefinition* itsDefinition, co
 NamedSets::NamedSets(const sdai::Model& model, const SetLibrary& library)
     : _schema(model.schema()), _catalogue(library.of(model.schema().name())), _unknownNames(library, _catalogue) {}
 
-NamedSet& NamedSets::of(const sdai::Primitive& name) {
-    // A longer one stands in one set alone.
-    const std::string_view written = name.encoded();
-    NamedSet*& known = _byText[written];
+NamedSet& NamedSets::of(std::string_view name) {
+    NamedSet*& known = _byText[name];
     if (known != nullptr) return *known;
     const std::string text = shown(name);
     std::unique_ptr<NamedSet>& named = _byName[text];

@@ -45,8 +45,8 @@ public:
     NamedSets(const sdai::Model& model, const SetLibrary& library);
 
     const SetCatalogue& catalogue() const noexcept { return _catalogue; }
-    /// Stays where it is.
-    NamedSet& of(const sdai::Primitive& name);
+    /// By the name as it stands in the file. Stays where it is.
+    NamedSet& of(std::string_view name);
 
     template <class Take>
     void each(Take take) {

@@ -1,7 +1,6 @@
 #include "judge/PropertyJudge.h"
 
-#include "judge/PropertyValues.h"
-#include "velkor/model/RelatedInstances.h"
+#include "judge/SharedText.h"
 #include "velkor/text/Printable.h"
 #include "velkor/text/Wording.h"
 
@@ -32,19 +31,9 @@ std::string shownList(const Texts& texts) {
     return result;
 }
 
-std::string_view nameOf(const sdai::EntityDefinition* entity) {
-    return entity == nullptr ? std::string_view("an unknown entity") : entity->name();
-}
-
-std::string reference(const DXSdaiAppInstance& instance) {
-    return '#' + std::to_string(instance.id());
-}
-
-std::size_t valueSize(const DXSdaiAppInstance& property, const PropertySlots& slots) {
+std::size_t valueSize(const Record& property, const PropertySlots& slots) {
     std::size_t size = 0;
-    for (const PropertySlots::Value& slot : slots.values) {
-        if (slot.place >= 0) size += property.attribute(static_cast<std::size_t>(slot.place)).encoded().size();
-    }
+    for (const PropertySlots::Value& slot : slots.values()) size += property.text(slot.place).size();
     return size;
 }
 
@@ -52,37 +41,33 @@ std::string_view wordFor(const PropertySlots& slots) {
     return slots.kind && !isQuantity(*slots.kind) ? "property " : "quantity ";
 }
 
-sdai::Primitive nameIn(const DXSdaiAppInstance& property, const PropertySlots& slots) {
-    return property.attribute(static_cast<std::size_t>(slots.name));
+std::string nameOf(const Record& property, const PropertySlots& slots) {
+    return shown(property.text(slots.name));
 }
 
 } // namespace
 
 std::size_t PropertyJudge::KeyHash::operator()(const Key& key) const noexcept {
-    const std::hash<const void*> hash;
-    return hash(key.first) * 31 + hash(key.second);
+    return std::hash<const void*>()(key.second) * 31 + key.first;
 }
 
 PropertyJudge::PropertyJudge(const sdai::Model& model, const CodeFilter& codes)
-    : _schema(model.schema()), _slots(model.schema()), _units(model.schema()) {
+    : _model(model), _slots(model.schema()), _units(model) {
     for (std::size_t i = 0; i < _isTaken.size(); ++i) _isTaken[i] = codes.takes(setCodes()[i].code);
 }
 
-const PropertyOutcome& PropertyJudge::judge(const DXSdaiAppInstance& property, JudgedProperty* wanted,
+const PropertyOutcome& PropertyJudge::judge(const Record& property, const PropertySlots& slots, JudgedProperty* wanted,
                                             bool isDescribed) {
+    const Asked asked{property, slots, wanted};
+    if (slots.members >= 0 || valueSize(property, slots) > longText) return remembered(asked, 0);
     _outcome.verdicts.clear();
-    _outcome.isFilled = false;
-    const PropertySlots* slots = slotsOf(property);
-    if (slots == nullptr) return _outcome;
-    const Asked asked{property, *slots, wanted};
-    if (slots->members >= 0 || valueSize(property, *slots) > longText) return remembered(asked, 0);
     _isDescribed = isDescribed;
     judgeOne(asked, _outcome);
     return _outcome;
 }
 
 const PropertyOutcome& PropertyJudge::remembered(const Asked& asked, int depth) {
-    const auto [known, isNew] = _remembered.try_emplace({&asked.property, asked.wanted});
+    const auto [known, isNew] = _remembered.try_emplace({asked.property.number(), asked.wanted});
     PropertyOutcome& outcome = known->second;
     // What is within itself finds nothing yet, and stays out of itself.
     if (!isNew) return outcome;
@@ -103,15 +88,15 @@ void PropertyJudge::judgeOne(const Asked& asked, PropertyOutcome& outcome) {
 
 void PropertyJudge::judgeMembers(const Asked& asked, PropertyOutcome& outcome, int depth) {
     if (asked.slots.members < 0 || depth == deepest) return;
-    const auto members = asked.property.attribute(static_cast<std::size_t>(asked.slots.members)).asAggregate();
-    eachInstance(members, [&](const DXSdaiAppInstance* member) { addMember(*member, asked, outcome, depth); });
+    eachReference(_model, asked.property.text(asked.slots.members),
+                  [&](std::uint32_t member) { judgeMember(member, asked, outcome, depth); });
 }
 
-void PropertyJudge::addMember(const DXSdaiAppInstance& member, const Asked& asked, PropertyOutcome& outcome,
-                              int depth) {
+void PropertyJudge::judgeMember(std::uint32_t number, const Asked& asked, PropertyOutcome& outcome, int depth) {
+    const Record member(_model, number);
     const PropertySlots* slots = slotsOf(member);
     if (slots == nullptr) return;
-    const sdai::Primitive name = nameIn(member, *slots);
+    const std::string_view name = member.text(slots->name);
     JudgedProperty* wanted = asked.slots.kind == PropertyKind::Complex ? asked.wanted : nullptr;
     // A complex property that is defined without members may have any.
     if (wanted != nullptr && (wanted->definition.kind != PropertyKind::Complex || wanted->definition.members.empty()))
@@ -121,7 +106,7 @@ void PropertyJudge::addMember(const DXSdaiAppInstance& member, const Asked& aske
             ++outcome.more;
             return;
         }
-        verdict.property.insert(0, shown(nameIn(asked.property, asked.slots)) + '.');
+        verdict.property.insert(0, nameOf(asked.property, asked.slots) + '.');
         outcome.verdicts.push_back(std::move(verdict));
     };
     PropertyNames::Entry* entry = wanted == nullptr ? nullptr : wanted->members.find(name);
@@ -139,7 +124,7 @@ bool PropertyJudge::judgeKind(const Asked& asked, PropertyOutcome& outcome) {
     if (asked.slots.kind == wanted || wanted == PropertyKind::Any) return true;
     const Code code = isQuantity(wanted) ? Code::QuantityKind : Code::PropertyKind;
     if (Verdict* verdict = add(code, asked, outcome)) {
-        verdict->after.append(" as ").append(nameOf(asked.property.entity()));
+        verdict->after.append(" as ").append(asked.property.entity()->name());
         verdict->after.append("; expected ").append(entityOf(wanted));
     }
     return false;
@@ -149,11 +134,11 @@ void PropertyJudge::judgeTypes(const Asked& asked, PropertyOutcome& outcome) {
     if (asked.slots.kind == PropertyKind::Reference) return judgeReference(asked, outcome);
     // Those of quantities are in the schema.
     if (isQuantity(asked.wanted->definition.kind)) return;
-    for (const PropertySlots::Value& slot : asked.slots.values) {
+    for (const PropertySlots::Value& slot : asked.slots.values()) {
         std::string_view wrong;
         WantedType& type = slot.isDefining ? asked.wanted->defining : asked.wanted->value;
-        eachValue(asked.property, slot, [&](const sdai::Primitive& value) {
-            const std::string_view keyword = typedValue(value).keyword;
+        eachValue(asked.property, slot, [&](std::string_view value) {
+            const std::string_view keyword = typedText(value).keyword;
             if (!keyword.empty() && !type.fits(keyword)) wrong = keyword;
             return wrong.empty();
         });
@@ -169,14 +154,12 @@ void PropertyJudge::judgeTypes(const Asked& asked, PropertyOutcome& outcome) {
 }
 
 void PropertyJudge::judgeReference(const Asked& asked, PropertyOutcome& outcome) {
-    const sdai::Primitive value = asked.property.attribute(static_cast<std::size_t>(asked.slots.values[0].place));
-    const DXSdaiAppInstance* referredTo = referred(value);
-    if (referredTo == nullptr || referredTo->entity() == nullptr) return;
-    if (asked.wanted->value.fits(*referredTo->entity())) return;
+    const auto number = referredNumber(_model, asked.property.text(asked.slots.values().front().place));
+    const sdai::EntityDefinition* entity = number ? _model.entityAt(*number) : nullptr;
+    if (entity == nullptr || asked.wanted->value.fits(*entity)) return;
     if (Verdict* verdict = add(Code::ValueType, asked, outcome)) {
         verdict->before = "refers to ";
-        verdict->before.append(nameOf(referredTo->entity())).append(" ").append(reference(*referredTo));
-        verdict->before.append(" in the property ");
+        verdict->before.append(instanceText(*number)).append(" in the property ");
         verdict->after.append("; expected ").append(asked.wanted->value.name());
     }
 }
@@ -185,16 +168,13 @@ void PropertyJudge::judgeEnumerators(const Asked& asked, PropertyOutcome& outcom
     if (asked.slots.kind != PropertyKind::Enumerated || asked.wanted->definition.enumerators.empty()) return;
     Enumerators& enumerators = asked.wanted->enumerators;
     std::string_view wrong;
-    eachValue(asked.property, asked.slots.values[0], [&](const sdai::Primitive& value) {
-        const sdai::Token token = typedValue(value).token;
-        if (token.kind == sdai::TokenKind::String && !enumerators.contain(token.text)) wrong = token.text;
+    eachValue(asked.property, asked.slots.values().front(), [&](std::string_view value) {
+        const std::string_view text = typedText(value).string();
+        if (!text.empty() && !enumerators.contain(text)) wrong = text;
         return wrong.empty();
     });
-    const sdai::Primitive own = asked.slots.enumeration < 0
-                                    ? sdai::Primitive()
-                                    : asked.property.attribute(static_cast<std::size_t>(asked.slots.enumeration));
-    const DXSdaiAppInstance* enumeration = referred(own);
-    const std::string* others = enumeration == nullptr ? nullptr : strangers(*enumeration, *asked.wanted);
+    const auto enumeration = referredNumber(_model, asked.property.text(asked.slots.enumeration));
+    const std::string* others = enumeration ? strangers(*enumeration, *asked.wanted) : nullptr;
     if (wrong.empty() && others == nullptr) return;
     Verdict* verdict = add(Code::ValueEnumerator, asked, outcome);
     if (verdict == nullptr) return;
@@ -207,57 +187,56 @@ void PropertyJudge::judgeEnumerators(const Asked& asked, PropertyOutcome& outcom
     if (others != nullptr) {
         if (wrong.empty()) verdict->before = "has the property ";
         verdict->after.append(wrong.empty() ? " with" : "; it has");
-        verdict->after += " an enumeration of its own, " + reference(*enumeration) + ", which lists " + *others +
+        verdict->after += " an enumeration of its own, " + instanceText(*enumeration) + ", that lists " + *others +
                           " beside what the definition lists";
     }
 }
 
 // What an enumeration of the model lists beside the members of a definition, as people are told; null for nothing.
-const std::string* PropertyJudge::strangers(const DXSdaiAppInstance& enumeration, const JudgedProperty& wanted) {
-    const auto [known, isNew] = _strangers.try_emplace({&enumeration, &wanted});
+const std::string* PropertyJudge::strangers(std::uint32_t enumeration, const JudgedProperty& wanted) {
+    const auto [known, isNew] = _strangers.try_emplace({enumeration, &wanted});
     if (isNew) {
         std::vector<std::string> texts;
-        for (const sdai::Primitive value : enumeration.GetAttr("ENUMERATIONVALUES").asAggregate()) {
-            const sdai::Token token = typedValue(value).token;
-            if (token.kind != sdai::TokenKind::String || wanted.enumerators.contain(token.text)) continue;
-            texts.push_back(shownText(token.text));
-        }
+        const Record record(_model, enumeration);
+        eachMember(record.text("ENUMERATIONVALUES"), [&](std::string_view value) {
+            const std::string_view text = typedText(value).string();
+            if (!text.empty() && !wanted.enumerators.contain(text)) texts.push_back(shownText(text));
+            return true;
+        });
         if (!texts.empty()) known->second = shownList(texts);
     }
     return known->second.empty() ? nullptr : &known->second;
 }
 
 // Null when the schema does not know it.
-const sdai::DefinedType* PropertyJudge::typeOf(const sdai::Primitive& value) const {
-    const std::string_view keyword = typedValue(value).keyword;
-    if (!keyword.empty()) return _schema.definedType(keyword);
-    return value.declaredType() == nullptr ? nullptr : value.declaredType()->asDefined();
+const sdai::DefinedType* PropertyJudge::typeOf(std::string_view value, const PropertySlots::Value& slot) const {
+    return slot.type != nullptr ? slot.type : _model.schema().definedType(typedText(value).keyword);
 }
 
 void PropertyJudge::judgeUnits(const Asked& asked, PropertyOutcome& outcome) {
-    for (const PropertySlots::Value& slot : asked.slots.values) {
-        if (slot.place < 0 || slot.unit < 0) continue;
-        const DXSdaiAppInstance* unit = referred(asked.property.attribute(static_cast<std::size_t>(slot.unit)));
-        if (unit == nullptr) continue;
+    for (const PropertySlots::Value& slot : asked.slots.values()) {
+        const auto unit = referredNumber(_model, asked.property.text(slot.unit));
+        if (!unit) continue;
         const sdai::DefinedType* wrong = nullptr;
-        eachValue(asked.property, slot, [&](const sdai::Primitive& value) {
-            const sdai::DefinedType* type = typeOf(value);
-            if (type != nullptr && type->resolved().asSelect() == nullptr && !_units.fits(*type, unit)) wrong = type;
+        eachValue(asked.property, slot, [&](std::string_view value) {
+            const sdai::DefinedType* type = typeOf(value, slot);
+            if (type != nullptr && !_units.fits(*type, *unit)) wrong = type;
             return wrong == nullptr;
         });
         if (wrong == nullptr) continue;
         if (Verdict* verdict = add(Code::ValueUnit, asked, outcome)) {
             verdict->before = "has ";
-            verdict->before.append(wrong->name()).append(" in ").append(_units.found(unit)).append(" ");
-            verdict->before.append(reference(*unit)).append(" in the ").append(wordFor(asked.slots));
+            verdict->before.append(wrong->name()).append(" in ").append(_units.found(*unit)).append(" #");
+            verdict->before.append(std::to_string(_model.file().id(*unit))).append(" in the ");
+            verdict->before.append(wordFor(asked.slots));
             verdict->after.append("; expected ").append(_units.expected(*wrong));
         }
         return;
     }
 }
 
-Verdict PropertyJudge::unknown(PropertyNames& names, PropertyNames::Entry* entry, const sdai::Primitive& name,
-                               bool isQuantity) {
+Verdict PropertyJudge::unknown(PropertyNames& names, PropertyNames::Entry* entry, std::string_view name,
+                               bool isQuantity) const {
     Verdict verdict{Code::PropertyUnknown};
     verdict.property = shown(name);
     verdict.before = isQuantity ? "has no quantity " : "has no property ";
@@ -270,10 +249,16 @@ Verdict* PropertyJudge::add(Code code, const Asked& asked, PropertyOutcome& outc
     if (!takes(code)) return nullptr;
     Verdict& verdict = outcome.verdicts.emplace_back(Verdict{code});
     if (!_isDescribed) return nullptr;
-    verdict.property = shown(nameIn(asked.property, asked.slots));
+    verdict.property = nameOf(asked.property, asked.slots);
     verdict.before = "has the ";
     verdict.before += wordFor(asked.slots);
     return &verdict;
+}
+
+std::string PropertyJudge::instanceText(std::uint32_t number) const {
+    const sdai::EntityDefinition* entity = _model.entityAt(number);
+    std::string text(entity == nullptr ? std::string_view() : entity->name());
+    return text.append(entity == nullptr ? "#" : " #").append(std::to_string(_model.file().id(number)));
 }
 
 } // namespace velkor

@@ -10,7 +10,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -34,37 +33,33 @@ struct PropertyOutcome {
     std::vector<Verdict> verdicts = {};
     /// Of a complex property beyond measure: verdicts that are only counted.
     std::uint64_t more = 0;
-
-    bool isRight() const noexcept { return verdicts.empty(); }
 };
 
-/// What a property shares with many sets, and its text is long, is judged once: time is in proportion to the text of
-/// the model.
+/// What is shared by many sets and has a long text is judged once: time is in proportion to the text of the model.
 class PropertyJudge {
 public:
     PropertyJudge(const sdai::Model& model, const CodeFilter& codes);
 
-    /// Where a property has its name; null for what is neither property nor quantity.
-    const PropertySlots* slotsOf(const DXSdaiAppInstance& property) const noexcept {
-        return _slots.of(property.entity());
-    }
+    /// Where a property has what counts; null for what is neither property nor quantity.
+    const PropertySlots* slotsOf(const Record& property) const noexcept { return _slots.of(property.entity()); }
     /// Findings that count.
     bool takes(Code code) const noexcept { return _isTaken[static_cast<std::size_t>(code)]; }
 
     /// Without a definition, kinds and types are not judged. Of findings that are not `described`, the code alone is
     /// told. The answer holds until the next question.
-    const PropertyOutcome& judge(const DXSdaiAppInstance& property, JudgedProperty* wanted, bool isDescribed);
+    const PropertyOutcome& judge(const Record& property, const PropertySlots& slots, JudgedProperty* wanted,
+                                 bool isDescribed);
 
     /// A property that the definition does not have.
-    Verdict unknown(PropertyNames& names, PropertyNames::Entry* entry, const sdai::Primitive& name, bool isQuantity);
+    Verdict unknown(PropertyNames& names, PropertyNames::Entry* entry, std::string_view name, bool isQuantity) const;
 
 private:
     struct Asked {
-        const DXSdaiAppInstance& property;
+        const Record& property;
         const PropertySlots& slots;
         JudgedProperty* wanted;
     };
-    using Key = std::pair<const DXSdaiAppInstance*, const JudgedProperty*>;
+    using Key = std::pair<std::uint32_t, const JudgedProperty*>;
     struct KeyHash {
         std::size_t operator()(const Key& key) const noexcept;
     };
@@ -72,18 +67,19 @@ private:
     const PropertyOutcome& remembered(const Asked& asked, int depth);
     void judgeOne(const Asked& asked, PropertyOutcome& outcome);
     void judgeMembers(const Asked& asked, PropertyOutcome& outcome, int depth);
-    void addMember(const DXSdaiAppInstance& member, const Asked& asked, PropertyOutcome& outcome, int depth);
+    void judgeMember(std::uint32_t number, const Asked& asked, PropertyOutcome& outcome, int depth);
     bool judgeKind(const Asked& asked, PropertyOutcome& outcome);
     void judgeTypes(const Asked& asked, PropertyOutcome& outcome);
     void judgeReference(const Asked& asked, PropertyOutcome& outcome);
     void judgeEnumerators(const Asked& asked, PropertyOutcome& outcome);
     void judgeUnits(const Asked& asked, PropertyOutcome& outcome);
-    const std::string* strangers(const DXSdaiAppInstance& enumeration, const JudgedProperty& wanted);
-    const sdai::DefinedType* typeOf(const sdai::Primitive& value) const;
+    const std::string* strangers(std::uint32_t enumeration, const JudgedProperty& wanted);
+    const sdai::DefinedType* typeOf(std::string_view value, const PropertySlots::Value& slot) const;
     Verdict* add(Code code, const Asked& asked, PropertyOutcome& outcome) const;
+    std::string instanceText(std::uint32_t number) const;
 
-    const sdai::SchemaDefinition& _schema;
-    std::array<bool, 12> _isTaken = {};
+    const sdai::Model& _model;
+    std::array<bool, codeCount> _isTaken = {};
     PropertySlotTable _slots;
     UnitFits _units;
     bool _isDescribed = true;

@@ -2,6 +2,7 @@
 
 #include "judge/NamedSets.h"
 #include "judge/PropertyJudge.h"
+#include "judge/Record.h"
 #include "judge/RepeatedSets.h"
 #include "judge/SetCodes.h"
 #include "judge/SetList.h"
@@ -66,42 +67,45 @@ std::string_view templateText(TemplateType type) {
 class Checker {
 public:
     Checker(const sdai::Model& model, const SetLibrary& library, const CheckOptions& options)
-        : _model(model), _options(options), _uses(model), _bearers(_uses), _named(model, library),
-          _judge(model, options.codes) {}
+        : _model(model), _options(options), _sets(model), _uses(model, _sets), _bearers(model, _uses),
+          _named(model, library), _judge(model, options.codes), _record(model), _member(model) {}
 
     PropertySetCheck check();
 
 private:
-    void checkSet(const ListedSet& listed, NamedSet& named);
-    void checkDefinition(const DXSdaiAppInstance* set);
+    RepeatedSets readNames();
+    void checkSet(const SetKind& kind);
     void checkName();
-    void checkRepetition(const DXSdaiAppInstance* set, const RepeatedSets& repeated);
-    void checkUses(const DXSdaiAppInstance* set);
-    void checkMethod(const DXSdaiAppInstance* set);
-    void checkMembers(const sdai::Aggregate& members);
-    void checkMember(const DXSdaiAppInstance& member);
-    void checkPropertyRepetition(PropertyNames::Entry& entry, const DXSdaiAppInstance& member,
-                                 const sdai::Primitive& name);
+    void checkRepetition(const RepeatedSets::Repeat* repeat);
+    void checkUses();
+    void checkMethod();
+    void checkMember(std::uint32_t number);
+    void checkPropertyRepetition(PropertyNames::Entry& entry, std::string_view name);
     void countMember(JudgedProperty* property, const PropertyOutcome& outcome, bool isWrong);
     void addVerdict(const Verdict& verdict);
     void summarize();
 
+    // Of the set, counted from 1.
+    std::uint64_t ordinal() const noexcept { return _index + 1; }
     bool isDescribed() const noexcept { return _result.total < _options.limit; }
     SetFinding* add(Code code, const SetUse& use);
     SetFinding* add(Code code, const SetUse& use, sdai::Severity severity);
 
     const sdai::Model& _model;
     const CheckOptions& _options;
+    SetList _sets;
     SetUses _uses;
     BearerKinds _bearers;
     NamedSets _named;
     PropertyJudge _judge;
     PropertySetCheck _result;
 
-    // The set that is looked at.
-    std::uint32_t _number = 0;
-    // It, counted from 1.
-    std::uint64_t _ordinal = 0;
+    // By set.
+    std::vector<NamedSet*> _names;
+    // The set that is looked at, and that of its properties.
+    std::size_t _index = 0;
+    Record _record;
+    Record _member;
     bool _isQuantitySet = false;
     NamedSet* _set = nullptr;
     SetUse _total;
@@ -110,47 +114,55 @@ private:
 PropertySetCheck Checker::check() {
     _result.hasDefinitions = !_named.catalogue().empty();
     _result.definedBy = _named.catalogue().release();
-    const std::vector<ListedSet> sets = setsOf(_model);
-    std::vector<NamedSet*> names;
-    std::vector<RepeatedSets::Set> comparable;
-    std::unordered_map<const NamedSet*, std::uint32_t> numbers;
-    for (const ListedSet& listed : sets) {
-        const DXSdaiAppInstance* set = _model.instanceAt(listed.number);
-        NamedSet& named = _named.of(set->GetAttr("NAME"));
-        names.push_back(&named);
-        const auto number = static_cast<std::uint32_t>(numbers.size());
-        if (named.isName) comparable.push_back({set, numbers.try_emplace(&named, number).first->second});
-    }
-    const RepeatedSets repeated(comparable, _uses);
-    for (std::size_t i = 0; i < sets.size(); ++i) {
-        if (i % progressStep == 0 && !goesOn(_options.progress, {"Checking the property sets", i, sets.size()})) {
+    const RepeatedSets repeated = readNames();
+    for (_index = 0; _index < _sets.size(); ++_index) {
+        if (_index % progressStep == 0 &&
+            !goesOn(_options.progress, {"Checking the property sets", _index, _sets.size()})) {
             _result.isComplete = false;
             break;
         }
-        _ordinal = i + 1;
-        checkSet(sets[i], *names[i]);
-        checkRepetition(_model.instanceAt(sets[i].number), repeated);
-        checkMembers(_model.instanceAt(sets[i].number)->GetAttr(sets[i].kind->members).asAggregate());
+        const SetKind& kind = _sets.kindOf(_index);
+        _record.read(_sets.numberOf(_index));
+        _set = _names[_index];
+        checkSet(kind);
+        checkRepetition(repeated.of(_index));
+        const std::size_t members =
+            eachReference(_model, kind.membersOf(_record), [&](std::uint32_t number) { checkMember(number); });
+        _result.properties += members;
+        if (_set->state == State::Defined) _result.checkedProperties += members;
     }
     summarize();
     return std::move(_result);
 }
 
-void Checker::checkSet(const ListedSet& listed, NamedSet& named) {
-    const DXSdaiAppInstance* set = _model.instanceAt(listed.number);
-    _number = listed.number;
-    _set = &named;
-    _isQuantitySet = named.definition != nullptr ? named.definition->isQuantitySet : listed.kind->isQuantitySet;
-    _total = _uses.totalOf(set);
+RepeatedSets Checker::readNames() {
+    std::unordered_map<const NamedSet*, std::uint32_t> numbers;
+    std::vector<std::uint32_t> comparable;
+    _names.reserve(_sets.size());
+    comparable.reserve(_sets.size());
+    for (std::size_t i = 0; i < _sets.size(); ++i) {
+        _record.read(_sets.numberOf(i));
+        NamedSet& named = _named.of(_sets.kindOf(i).name(_record));
+        const auto number = static_cast<std::uint32_t>(numbers.size());
+        _names.push_back(&named);
+        comparable.push_back(named.isName ? numbers.try_emplace(&named, number).first->second : RepeatedSets::noName);
+    }
+    return {comparable, _uses};
+}
+
+void Checker::checkSet(const SetKind& kind) {
+    const SetDefinition* definition = _set->definition;
+    _isQuantitySet = definition != nullptr ? definition->isQuantitySet : kind.isQuantitySet;
+    _total = _uses.totalOf(_index);
     ++_result.sets;
-    ++named.summary.sets;
-    named.summary.objects += _total.count;
-    if (named.state == State::Misnamed) checkName();
-    if (named.state != State::Defined) return;
+    ++_set->summary.sets;
+    _set->summary.objects += _total.count;
+    if (_set->state == State::Misnamed) checkName();
+    if (_set->state != State::Defined) return;
     ++_result.checkedSets;
-    named.summary.missing += named.definition->properties.size();
-    checkUses(set);
-    if (listed.kind->isQuantitySet) checkMethod(set);
+    _set->summary.missing += definition->properties.size();
+    checkUses();
+    if (kind.isQuantitySet) checkMethod();
 }
 
 void Checker::checkName() {
@@ -164,27 +176,26 @@ void Checker::checkName() {
     if (!unknown.releases.empty()) message += "; defined by " + text::joined(unknown.releases);
 }
 
-void Checker::checkRepetition(const DXSdaiAppInstance* set, const RepeatedSets& repeated) {
-    const RepeatedSets::Repeat* repeat = repeated.of(set);
+void Checker::checkRepetition(const RepeatedSets::Repeat* repeat) {
     if (repeat == nullptr) return;
     if (SetFinding* finding = add(Code::SetRepeated, repeat->objects)) {
         finding->problem.message = objectText(*finding) + " has another set " + text::quoted(finding->set) + ", #" +
-                                   std::to_string(repeat->other->id());
+                                   std::to_string(_model.file().id(_sets.numberOf(repeat->other)));
     }
 }
 
-void Checker::checkUses(const DXSdaiAppInstance* set) {
+void Checker::checkUses() {
     Misfits misfits;
-    for (const std::uint32_t group : _uses.groupsOf(set)) misfits.add(_set->fits->misfits(group, _bearers));
+    for (const std::uint32_t group : _uses.groupsOf(_index)) misfits.add(_set->fits->misfits(group, _bearers));
     const SetDefinition& definition = *_set->definition;
-    if (misfits.notApplicable.first != nullptr) {
+    if (misfits.notApplicable.isAny()) {
         if (SetFinding* finding = add(Code::SetNotApplicable, misfits.notApplicable)) {
             finding->problem.message = text::quoted(finding->set) + " does not apply to " + objectText(*finding) +
                                        (misfits.isPredefinedType ? " by its predefined type" : "") + "; expected " +
                                        classesText(definition.classes);
         }
     }
-    if (misfits.wrongTemplate.first == nullptr) return;
+    if (!misfits.wrongTemplate.isAny()) return;
     if (SetFinding* finding = add(Code::SetTemplate, misfits.wrongTemplate)) {
         finding->problem.message =
             text::quoted(finding->set) + " is attached to " + objectText(*finding) + "; expected ";
@@ -192,8 +203,8 @@ void Checker::checkUses(const DXSdaiAppInstance* set) {
     }
 }
 
-void Checker::checkMethod(const DXSdaiAppInstance* set) {
-    const sdai::Primitive method = set->GetAttr("METHODOFMEASUREMENT");
+void Checker::checkMethod() {
+    const std::string_view method = _record.text("METHODOFMEASUREMENT");
     if (!isText(method)) return;
     const std::vector<std::string>& methods = _set->definition->methods;
     const bool isByPractice = methods.empty();
@@ -208,49 +219,39 @@ void Checker::checkMethod(const DXSdaiAppInstance* set) {
                                "; expected " + (isByPractice ? std::string(baseQuantities) : text::joined(methods));
 }
 
-void Checker::checkMembers(const sdai::Aggregate& members) {
-    for (const sdai::Primitive member : members) {
-        ++_result.properties;
-        const DXSdaiAppInstance* property = member.asInstance();
-        if (property == nullptr) continue;
-        if (_set->state == State::Defined) ++_result.checkedProperties;
-        checkMember(*property);
-    }
-}
-
-void Checker::checkMember(const DXSdaiAppInstance& member) {
-    const PropertySlots* slots = _judge.slotsOf(member);
+void Checker::checkMember(std::uint32_t number) {
+    _member.read(number);
+    const PropertySlots* slots = _judge.slotsOf(_member);
     if (slots == nullptr) return;
-    const sdai::Primitive name = member.attribute(static_cast<std::size_t>(slots->name));
+    const std::string_view name = _member.text(slots->name);
     PropertyNames::Entry* entry = _set->properties.find(name);
     const std::uint64_t before = _result.total;
-    if (entry != nullptr) checkPropertyRepetition(*entry, member, name);
+    if (entry != nullptr) checkPropertyRepetition(*entry, name);
     JudgedProperty* property = entry == nullptr ? nullptr : entry->property;
     if (_set->state == State::Defined && property == nullptr && isText(name) && _judge.takes(Code::PropertyUnknown)) {
         addVerdict(isDescribed() ? _judge.unknown(_set->properties, entry, name, _isQuantitySet)
                                  : Verdict{Code::PropertyUnknown});
     }
-    const PropertyOutcome& outcome = _judge.judge(member, property, isDescribed());
+    const PropertyOutcome& outcome = _judge.judge(_member, *slots, property, isDescribed());
     for (const Verdict& verdict : outcome.verdicts) addVerdict(verdict);
     _result.total += outcome.more;
     countMember(property, outcome, _result.total > before);
 }
 
-void Checker::checkPropertyRepetition(PropertyNames::Entry& entry, const DXSdaiAppInstance& member,
-                                      const sdai::Primitive& name) {
-    if (entry.set != _ordinal) {
-        entry.set = _ordinal;
-        entry.member = &member;
+void Checker::checkPropertyRepetition(PropertyNames::Entry& entry, std::string_view name) {
+    if (entry.set != ordinal()) {
+        entry.set = ordinal();
+        entry.member = _member.number();
         entry.isRepeated = false;
         return;
     }
-    if (entry.member == &member || entry.isRepeated) return;
+    if (entry.member == _member.number() || entry.isRepeated) return;
     entry.isRepeated = true;
     SetFinding* finding = add(Code::PropertyRepeated, _total);
     if (finding == nullptr) return;
     finding->property = shown(name);
     finding->problem.message = ofObject(*finding) + " has " + text::quoted(finding->property) + " twice, #" +
-                               std::to_string(entry.member->id()) + " and #" + std::to_string(member.id());
+                               std::to_string(_model.file().id(entry.member)) + " and #" + std::to_string(_member.id());
 }
 
 void Checker::countMember(JudgedProperty* property, const PropertyOutcome& outcome, bool isWrong) {
@@ -261,13 +262,13 @@ void Checker::countMember(JudgedProperty* property, const PropertyOutcome& outco
     }
     if (property == nullptr) return;
     // A name that is there twice counts once.
-    if (outcome.isFilled && property->filledIn != _ordinal) {
-        property->filledIn = _ordinal;
+    if (outcome.isFilled && property->filledIn != ordinal()) {
+        property->filledIn = ordinal();
         ++summary.filled;
         --summary.missing;
     }
-    if (isWrong && property->wrongIn != _ordinal) {
-        property->wrongIn = _ordinal;
+    if (isWrong && property->wrongIn != ordinal()) {
+        property->wrongIn = ordinal();
         ++summary.wrong;
     }
 }
@@ -290,13 +291,14 @@ SetFinding* Checker::add(Code code, const SetUse& use, sdai::Severity severity) 
     if (!_judge.takes(code) || ++_result.total > _options.limit) return nullptr;
     SetFinding finding;
     const sdai::Part21File& file = _model.file();
-    const std::uint64_t offset = file.offset(_number);
-    finding.problem = {severity, offset, file.line(offset), file.id(_number), std::string(codeOf(code).code), {}};
+    const std::uint64_t offset = file.offset(_record.number());
+    finding.problem = {severity, offset, file.line(offset), _record.id(), std::string(codeOf(code).code), {}};
     finding.set = _set->name;
-    if (use.first != nullptr) {
-        finding.object = use.first->id();
-        finding.objectEntity = use.first->entity() == nullptr ? "" : use.first->entity()->name();
-        finding.objectName = shown(use.first->GetAttr("NAME"));
+    if (use.isAny()) {
+        const Record object(_model, _uses.numberOf(use.first));
+        finding.object = object.id();
+        finding.objectEntity = object.entity() == nullptr ? "" : object.entity()->name();
+        finding.objectName = shown(object.text("NAME"));
         finding.others = use.count - 1;
     }
     return &_result.findings.emplace_back(std::move(finding));

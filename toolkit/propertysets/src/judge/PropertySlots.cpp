@@ -1,7 +1,5 @@
 #include "judge/PropertySlots.h"
 
-#include "judge/SharedText.h"
-
 #include <algorithm>
 #include <span>
 #include <string_view>
@@ -49,37 +47,41 @@ std::string_view entityNameOf(const std::optional<Kind>& kind) {
     return kind ? entityOf(*kind) : "IFCPHYSICALCOMPLEXQUANTITY";
 }
 
+PropertySlots::Value slotOf(const ValueNames& names, const sdai::EntityDefinition& entity) {
+    PropertySlots::Value slot;
+    slot.place = entity.attributeIndex(names.value);
+    if (slot.place < 0) return slot;
+    slot.unit = entity.attributeIndex(names.unit);
+    slot.isDefining = names.value == std::string_view(definingValues);
+    const sdai::Type& type = entity.attributes()[static_cast<std::size_t>(slot.place)].attribute->type();
+    slot.isMany = type.resolved().isAggregate();
+    slot.type = type.resolved().isSimple() ? type.asDefined() : nullptr;
+    return slot;
+}
+
 PropertySlots slotsOf(const Names& names, const sdai::EntityDefinition& entity) {
     PropertySlots slots;
     slots.kind = names.kind;
     slots.name = entity.attributeIndex("NAME");
     slots.members = entity.attributeIndex(names.members);
     slots.enumeration = entity.attributeIndex("ENUMERATIONREFERENCE");
-    for (std::size_t i = 0; i < names.values.size(); ++i) {
-        const auto& [value, unit] = names.values[i];
-        PropertySlots::Value& slot = slots.values[i];
-        slot.place = entity.attributeIndex(value);
-        slot.unit = entity.attributeIndex(unit);
-        slot.isDefining = value == std::string_view(definingValues);
-        slot.isMany =
-            slot.place >= 0 &&
-            entity.attributes()[static_cast<std::size_t>(slot.place)].attribute->type().resolved().isAggregate();
+    for (const ValueNames& value : names.values) {
+        if (const auto slot = slotOf(value, entity); slot.place >= 0) slots.all[slots.valueCount++] = slot;
     }
     return slots;
 }
 
 } // namespace
 
-bool PropertySlots::isFilled(const DXSdaiAppInstance& property) const {
-    const auto isThere = [&](int place, bool isMany) {
-        if (place < 0) return false;
-        const sdai::Primitive value = property.attribute(static_cast<std::size_t>(place));
-        if (!isMany) return isGiven(value);
-        const sdai::Aggregate many = value.asAggregate();
-        return many.begin() != many.end();
+bool PropertySlots::isFilled(const Record& property) const {
+    bool isFilled = false;
+    const auto fill = [&](std::string_view) {
+        isFilled = true;
+        return false;
     };
-    return isThere(members, true) ||
-           std::ranges::any_of(values, [&](const Value& value) { return isThere(value.place, value.isMany); });
+    for (const Value& value : values()) eachValue(property, value, fill);
+    if (members >= 0) eachMember(property.text(members), fill);
+    return isFilled;
 }
 
 PropertySlotTable::PropertySlotTable(const sdai::SchemaDefinition& schema) : _numbers(schema.entities().size()) {

@@ -16,28 +16,32 @@ public:
         /// What has another set of the name, one that stands before.
         SetUse objects;
         /// That of the first object.
-        const DXSdaiAppInstance* other = nullptr;
-    };
-    struct Set {
-        const DXSdaiAppInstance* instance;
-        /// The same for sets of the same name.
-        std::uint32_t name;
+        std::size_t other = 0;
     };
 
-    /// Sets in the order of the file. Relationships that bring together thousands of sets and thousands of objects,
-    /// each of them anew, can ask for more comparisons than the file has bytes: behind many times as many as there are
-    /// objects, nothing more is looked for.
-    RepeatedSets(std::span<const Set> sets, const SetUses& uses);
+    /// By the names of sets as they are listed: the same number for the same name. Relationships that bring together
+    /// thousands of sets and thousands of objects, each of them anew, can ask for more comparisons than the file has
+    /// bytes: behind many times as many as there are objects, nothing more is looked for.
+    RepeatedSets(std::span<const std::uint32_t> names, const SetUses& uses);
+    /// Of a set that has no name.
+    static constexpr std::uint32_t noName = ~std::uint32_t{0};
 
     /// Null when no object has another one.
-    const Repeat* of(const DXSdaiAppInstance* set) const;
+    const Repeat* of(std::size_t set) const;
 
 private:
-    // False when there would be too much to compare.
-    bool compare(std::span<const Set> alike, const SetUses& uses, std::uint64_t mostSteps);
+    struct Holder {
+        std::uint32_t name = noName;
+        // The first set of the name, and the last one that has been counted with it.
+        std::uint32_t first = 0;
+        std::uint32_t last = 0;
+    };
 
-    std::unordered_map<const DXSdaiAppInstance*, Repeat> _repeats;
-    std::uint64_t _steps = 0;
+    void add(std::uint32_t set, std::uint32_t name, ObjectIndex object);
+
+    // By object.
+    std::vector<Holder> _holders;
+    std::unordered_map<std::size_t, Repeat> _repeats;
 };
 
 } // namespace velkor

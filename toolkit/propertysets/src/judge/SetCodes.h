@@ -23,6 +23,8 @@ enum class Code : std::uint8_t {
     QuantityMethod,
 };
 
+inline constexpr std::size_t codeCount = static_cast<std::size_t>(Code::QuantityMethod) + 1;
+
 inline const SetCode& codeOf(Code code) noexcept {
     return setCodes()[static_cast<std::size_t>(code)];
 }

@@ -6,24 +6,25 @@ namespace velkor {
 
 namespace {
 
-bool isOfRightClass(SetFit fit) noexcept {
-    return fit != SetFit::WrongClass;
-}
-
 void add(Misfits& misfits, SetFit fit, const SetUse& use) noexcept {
     if (fit == SetFit::WrongTemplate) misfits.wrongTemplate.add(use);
     if (fit != SetFit::WrongClass && fit != SetFit::WrongPredefinedType) return;
-    if (misfits.notApplicable.first == nullptr) misfits.isPredefinedType = fit == SetFit::WrongPredefinedType;
+    if (!misfits.notApplicable.isAny()) misfits.isPredefinedType = fit == SetFit::WrongPredefinedType;
     misfits.notApplicable.add(use);
 }
 
 } // namespace
 
 void Misfits::add(const Misfits& more) noexcept {
-    if (notApplicable.first == nullptr) isPredefinedType = more.isPredefinedType;
+    if (!notApplicable.isAny()) isPredefinedType = more.isPredefinedType;
     notApplicable.add(more.notApplicable);
     wrongTemplate.add(more.wrongTemplate);
 }
+
+SetFits::SetFits(const SetDefinition& definition, const sdai::SchemaDefinition& schema)
+    : _applicability(definition, schema),
+      _templateType(definition.templateType), _genericTypes{schema.entity("IFCTYPEOBJECT"),
+                                                            schema.entity("IFCTYPEPRODUCT")} {}
 
 Misfits SetFits::misfits(std::uint32_t group, BearerKinds& bearers) {
     if (bearers.uses().group(group).size() == 1) return found(group, bearers);
@@ -36,36 +37,35 @@ Misfits SetFits::found(std::uint32_t group, BearerKinds& bearers) {
     Misfits misfits;
     bool countsDetail = false;
     for (const auto& alike : bearers.kindsOf(group)) {
-        const SetFit fit = fitOf(alike, bearers.uses());
+        const SetFit fit = fitOf(alike.kind, alike.use.first, bearers.uses());
         countsDetail = countsDetail || fit == SetFit::WrongPredefinedType;
         add(misfits, fit, alike.use);
     }
     if (!countsDetail) return misfits;
     misfits = {};
     for (const auto& alike : bearers.detailsOf(group)) {
-        SetFit fit = fitOf({alike.kind.kind, alike.use}, bearers.uses());
+        SetFit fit = fitOf(alike.kind.kind, alike.use.first, bearers.uses());
         if (fit == SetFit::WrongPredefinedType) fit = fitOf(alike.kind);
         add(misfits, fit, alike.use);
     }
     return misfits;
 }
 
-SetFit SetFits::fitOf(const BearerKinds::Alike<ObjectKind>& alike, const SetUses& uses) {
-    const DXSdaiAppInstance* first = alike.use.first;
-    if (first->IsInstanceOf("IFCTYPEOBJECT") || first->IsInstanceOf("IFCTYPEPRODUCT"))
-        return fitOfGenericType(first, uses);
-    const auto [known, isNew] = _kinds.try_emplace(alike.kind);
-    if (isNew) known->second = _applicability.fit({{.entity = alike.kind.first}, {.entity = alike.kind.second}});
+SetFit SetFits::fitOf(const ObjectKind& kind, ObjectIndex object, const SetUses& uses) {
+    if (kind.first != nullptr && std::ranges::find(_genericTypes, kind.first) != _genericTypes.end())
+        return fitOfGenericType(uses.numberOf(object), uses);
+    const auto [known, isNew] = _kinds.try_emplace(kind);
+    if (isNew) known->second = _applicability.fit({{.entity = kind.first}, {.entity = kind.second}});
     return known->second;
 }
 
 // A type that says nothing about the class leaves that to its objects.
-SetFit SetFits::fitOfGenericType(const DXSdaiAppInstance* type, const SetUses& uses) const {
-    const auto occurrences = uses.occurrencesOf(type);
-    const auto isRight = [&](const DXSdaiAppInstance* object) {
-        return isOfRightClass(_applicability.fit({{.entity = object->entity()}}));
+SetFit SetFits::fitOfGenericType(std::uint32_t type, const SetUses& uses) const {
+    const auto entities = uses.entitiesOf(type);
+    const auto isRight = [&](const sdai::EntityDefinition* entity) {
+        return _applicability.fit({{.entity = entity}}) != SetFit::WrongClass;
     };
-    if (!occurrences.empty() && std::ranges::none_of(occurrences, isRight)) return SetFit::WrongClass;
+    if (!entities.empty() && std::ranges::none_of(entities, isRight)) return SetFit::WrongClass;
     return _templateType == TemplateType::OccurrenceDriven ? SetFit::WrongTemplate : SetFit::Applies;
 }
 

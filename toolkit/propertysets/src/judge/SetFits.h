@@ -3,6 +3,7 @@
 
 #include "judge/BearerKinds.h"
 
+#include <array>
 #include <unordered_map>
 
 namespace velkor {
@@ -19,20 +20,21 @@ struct Misfits {
 class SetFits {
 public:
     /// Both must outlive it.
-    SetFits(const SetDefinition& definition, const sdai::SchemaDefinition& schema)
-        : _applicability(definition, schema), _templateType(definition.templateType) {}
+    SetFits(const SetDefinition& definition, const sdai::SchemaDefinition& schema);
 
     /// Of the objects of a group.
     Misfits misfits(std::uint32_t group, BearerKinds& bearers);
 
 private:
     Misfits found(std::uint32_t group, BearerKinds& bearers);
-    SetFit fitOf(const BearerKinds::Alike<ObjectKind>& alike, const SetUses& uses);
-    SetFit fitOfGenericType(const DXSdaiAppInstance* type, const SetUses& uses) const;
+    SetFit fitOf(const ObjectKind& kind, ObjectIndex object, const SetUses& uses);
+    SetFit fitOfGenericType(std::uint32_t type, const SetUses& uses) const;
     SetFit fitOf(const BearerDetail& detail);
 
     SetApplicability _applicability;
     TemplateType _templateType;
+    // Entities of types that say nothing about the class of their objects.
+    std::array<const sdai::EntityDefinition*, 2> _genericTypes;
     // Whatever their predefined types are.
     std::unordered_map<ObjectKind, SetFit, ObjectKindHash> _kinds;
     // Of kinds for which those count.

@@ -1,99 +1,130 @@
 #include "judge/SetUses.h"
 
+#include "judge/Record.h"
 #include "judge/SharedText.h"
-#include "velkor/model/RelatedInstances.h"
 
 #include <algorithm>
 
 namespace velkor {
 
-SetUses::SetUses(const sdai::Model& model) {
-    addTypes(model);
-    addTypeObjects(model);
-    for (const std::uint32_t number : model.numbersOf("IFCRELDEFINESBYPROPERTIES"))
-        addRelationship(*model.instanceAt(number));
-    addOwned(model, "IFCMATERIALPROPERTIES", "MATERIAL");
-    addOwned(model, "IFCPROFILEPROPERTIES", "PROFILEDEFINITION");
+SetUses::SetUses(const sdai::Model& model, const SetList& sets)
+    : _model(model), _setIndices(model.file().instanceCount()), _objectIndices(model.file().instanceCount()) {
+    for (std::size_t i = 0; i < sets.size(); ++i) _setIndices[sets.numberOf(i)] = static_cast<std::uint32_t>(i + 1);
+    addTypes();
+    addTypeObjects();
+    addRelationships();
+    addOwned("IFCMATERIALPROPERTIES", "MATERIAL");
+    addOwned("IFCPROFILEPROPERTIES", "PROFILEDEFINITION");
+    sortSets(sets.size());
 }
 
-void SetUses::addTypes(const sdai::Model& model) {
-    for (const std::uint32_t number : model.numbersOf("IFCRELDEFINESBYTYPE")) {
-        const DXSdaiAppInstance& relationship = *model.instanceAt(number);
-        DXSdaiAppInstance* type = relationship.GetAttr("RELATINGTYPE").asInstance();
-        if (type == nullptr) continue;
-        std::vector<DXSdaiAppInstance*>& occurrences = _occurrences[type];
-        eachInstance(relationship.GetAttr("RELATEDOBJECTS").asAggregate(), [&](DXSdaiAppInstance* object) {
-            _types.try_emplace(object, type);
-            const auto isAlike = [&](const DXSdaiAppInstance* other) { return other->entity() == object->entity(); };
-            if (std::ranges::none_of(occurrences, isAlike)) occurrences.push_back(object);
+void SetUses::addTypes() {
+    const std::vector<std::uint32_t> relationships = _model.numbersOf("IFCRELDEFINESBYTYPE");
+    if (!relationships.empty()) _types.resize(_model.file().instanceCount(), none);
+    Record relationship(_model);
+    for (const std::uint32_t number : relationships) {
+        relationship.read(number);
+        const auto type = referredNumber(_model, relationship.text("RELATINGTYPE"));
+        if (!type) continue;
+        std::vector<const sdai::EntityDefinition*>& entities = _entities[*type];
+        eachReference(_model, relationship.text("RELATEDOBJECTS"), [&](std::uint32_t object) {
+            if (_types[object] == none) _types[object] = *type;
+            const sdai::EntityDefinition* entity = _model.entityAt(object);
+            if (std::ranges::find(entities, entity) == entities.end()) entities.push_back(entity);
         });
     }
 }
 
-void SetUses::addTypeObjects(const sdai::Model& model) {
-    for (const std::uint32_t number : model.numbersOf("IFCTYPEOBJECT")) {
-        DXSdaiAppInstance* type = model.instanceAt(number);
-        const sdai::Aggregate sets = type->GetAttr("HASPROPERTYSETS").asAggregate();
-        if (sets.isNull()) continue;
-        _objects.push_back(type);
-        const std::uint32_t group = addGroup();
-        eachInstance(sets, [&](const DXSdaiAppInstance* set) { _groupsOf[set].push_back(group); });
+void SetUses::addTypeObjects() {
+    Record type(_model);
+    for (const std::uint32_t number : _model.numbersOf("IFCTYPEOBJECT")) {
+        type.read(number);
+        const std::string_view sets = type.text("HASPROPERTYSETS");
+        if (!isGiven(sets)) continue;
+        addObject(number);
+        addGroup(sets);
     }
 }
 
-void SetUses::addRelationship(const DXSdaiAppInstance& relationship) {
-    const std::size_t before = _objects.size();
-    eachInstance(relationship.GetAttr("RELATEDOBJECTS").asAggregate(),
-                 [&](DXSdaiAppInstance* object) { _objects.push_back(object); });
-    if (_objects.size() == before) return;
-    const std::uint32_t group = addGroup();
-    eachSet(relationship, [&](const DXSdaiAppInstance* set) { _groupsOf[set].push_back(group); });
-}
-
-void SetUses::addOwned(const sdai::Model& model, const char* entity, const char* owner) {
-    for (const std::uint32_t number : model.numbersOf(entity)) {
-        const DXSdaiAppInstance* set = model.instanceAt(number);
-        DXSdaiAppInstance* object = referred(set->GetAttr(owner));
-        if (object == nullptr) continue;
-        _objects.push_back(object);
-        _groupsOf[set].push_back(addGroup());
+void SetUses::addRelationships() {
+    Record relationship(_model);
+    for (const std::uint32_t number : _model.numbersOf("IFCRELDEFINESBYPROPERTIES")) {
+        relationship.read(number);
+        const std::size_t before = _members.size();
+        eachReference(_model, relationship.text("RELATEDOBJECTS"), [&](std::uint32_t object) { addObject(object); });
+        // One set, or since IFC4 several at once.
+        if (_members.size() > before) addGroup(relationship.text("RELATINGPROPERTYDEFINITION"));
     }
 }
 
-std::uint32_t SetUses::addGroup() {
-    _ends.push_back(_objects.size());
-    return static_cast<std::uint32_t>(_ends.size() - 1);
+void SetUses::addOwned(const char* entity, const char* owner) {
+    Record set(_model);
+    for (const std::uint32_t number : _model.numbersOf(entity)) {
+        set.read(number);
+        const auto object = referredNumber(_model, set.text(owner));
+        if (!object) continue;
+        addObject(*object);
+        addGroup({});
+        addSet(number);
+    }
 }
 
-std::span<const std::uint32_t> SetUses::groupsOf(const DXSdaiAppInstance* set) const {
-    const auto groups = _groupsOf.find(set);
-    return groups == _groupsOf.end() ? std::span<const std::uint32_t>() : groups->second;
+void SetUses::addObject(std::uint32_t number) {
+    std::uint32_t& index = _objectIndices[number];
+    if (index == 0) {
+        _objects.push_back({number, _types.empty() ? none : _types[number]});
+        index = static_cast<std::uint32_t>(_objects.size());
+    }
+    _members.push_back(index - 1);
+}
+
+void SetUses::addGroup(std::string_view sets) {
+    _ends.push_back(_members.size());
+    eachReference(_model, sets, [&](std::uint32_t set) { addSet(set); });
+}
+
+// To the last group.
+void SetUses::addSet(std::uint32_t number) {
+    const std::uint32_t index = _setIndices[number];
+    if (index > 0) _pairs.emplace_back(index - 1, static_cast<std::uint32_t>(_ends.size() - 1));
+}
+
+void SetUses::sortSets(std::size_t count) {
+    _firstGroups.resize(count + 1);
+    for (const auto& [set, group] : _pairs) ++_firstGroups[set + 1];
+    for (std::size_t i = 1; i <= count; ++i) _firstGroups[i] += _firstGroups[i - 1];
+    _groups.resize(_pairs.size());
+    std::vector<std::size_t> places(_firstGroups.begin(), _firstGroups.end() - 1);
+    for (const auto& [set, group] : _pairs) _groups[places[set]++] = group;
+    _pairs = {};
+    _setIndices = {};
+    _objectIndices = {};
+    _types = {};
+}
+
+std::span<const std::uint32_t> SetUses::groupsOf(std::size_t set) const {
+    return std::span(_groups).subspan(_firstGroups[set], _firstGroups[set + 1] - _firstGroups[set]);
 }
 
 SetUses::Objects SetUses::group(std::uint32_t number) const {
     const std::size_t begin = number == 0 ? 0 : _ends[number - 1];
-    return Objects(_objects).subspan(begin, _ends[number] - begin);
+    return Objects(_members).subspan(begin, _ends[number] - begin);
 }
 
-SetUse SetUses::totalOf(const DXSdaiAppInstance* set) const {
+SetUse SetUses::totalOf(std::size_t set) const {
     SetUse total;
     for (const std::uint32_t number : groupsOf(set)) total.add({group(number).front(), group(number).size()});
     return total;
 }
 
-DXSdaiAppInstance* SetUses::typeOf(const DXSdaiAppInstance* object) const {
-    const auto type = _types.find(object);
-    return type == _types.end() ? nullptr : type->second;
+ObjectKind SetUses::kindOf(ObjectIndex object) const {
+    const auto& [number, type] = _objects[object];
+    return {_model.entityAt(number), type == none ? nullptr : _model.entityAt(type)};
 }
 
-ObjectKind SetUses::kindOf(const DXSdaiAppInstance* object) const {
-    const DXSdaiAppInstance* type = typeOf(object);
-    return {object->entity(), type == nullptr ? nullptr : type->entity()};
-}
-
-SetUses::Objects SetUses::occurrencesOf(const DXSdaiAppInstance* type) const {
-    const auto occurrences = _occurrences.find(type);
-    return occurrences == _occurrences.end() ? Objects() : occurrences->second;
+std::span<const sdai::EntityDefinition* const> SetUses::entitiesOf(std::uint32_t type) const {
+    const auto known = _entities.find(type);
+    return known == _entities.end() ? std::span<const sdai::EntityDefinition* const>() : known->second;
 }
 
 } // namespace velkor

@@ -2,11 +2,13 @@
 /// by it, the types that hold it, and the material or profile that it belongs to.
 #pragma once
 
+#include "judge/SetList.h"
 #include "velkor/sdai/Model.h"
 
 #include <cstdint>
 #include <functional>
 #include <span>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -23,57 +25,81 @@ struct ObjectKindHash {
     }
 };
 
+/// An object that has sets, counted from 0 as they are found.
+using ObjectIndex = std::uint32_t;
+
 /// Objects, of which the first is shown.
 struct SetUse {
-    DXSdaiAppInstance* first = nullptr;
+    ObjectIndex first = 0;
     std::uint64_t count = 0;
 
+    bool isAny() const noexcept { return count > 0; }
     void add(const SetUse& more) noexcept {
-        if (first == nullptr) first = more.first;
+        if (count == 0) first = more.first;
         count += more.count;
     }
 };
 
-/// Instances of the model stay valid as long as it is open. Time and memory are in proportion to the text of the
-/// model's relationships, however many sets and objects one of them brings together.
+/// Time and memory are in proportion to the model and the text of its relationships, however many sets and objects one
+/// of them brings together.
 class SetUses {
 public:
-    using Objects = std::span<DXSdaiAppInstance* const>;
+    using Objects = std::span<const ObjectIndex>;
 
-    explicit SetUses(const sdai::Model& model);
+    SetUses(const sdai::Model& model, const SetList& sets);
 
-    /// Numbers of the groups of objects that a set is attached to, in the order of the file's types and relationships.
-    std::span<const std::uint32_t> groupsOf(const DXSdaiAppInstance* set) const;
+    /// Numbers of the groups of objects that a set has, in the order of the file's types and relationships. Sets are
+    /// counted as they are listed.
+    std::span<const std::uint32_t> groupsOf(std::size_t set) const;
     /// Objects that have the same sets from the same place, in the order of the file. None is without any.
     Objects group(std::uint32_t number) const;
-    /// Of all groups together.
-    std::size_t objectCount() const noexcept { return _objects.size(); }
     /// All objects of a set.
-    SetUse totalOf(const DXSdaiAppInstance* set) const;
+    SetUse totalOf(std::size_t set) const;
 
-    /// Null when an object has none.
-    DXSdaiAppInstance* typeOf(const DXSdaiAppInstance* object) const;
-    ObjectKind kindOf(const DXSdaiAppInstance* object) const;
-    /// Objects of a type, one of each entity.
-    Objects occurrencesOf(const DXSdaiAppInstance* type) const;
+    std::size_t objectCount() const noexcept { return _objects.size(); }
+    /// Of all groups together.
+    std::size_t useCount() const noexcept { return _members.size(); }
+    /// The number of an object's instance, and that of its type's; `none` when it has no type.
+    std::uint32_t numberOf(ObjectIndex object) const noexcept { return _objects[object].number; }
+    std::uint32_t typeOf(ObjectIndex object) const noexcept { return _objects[object].type; }
+    ObjectKind kindOf(ObjectIndex object) const;
+    /// Entities of the objects of a type.
+    std::span<const sdai::EntityDefinition* const> entitiesOf(std::uint32_t type) const;
+
+    static constexpr std::uint32_t none = ~std::uint32_t{0};
 
 private:
-    void addTypes(const sdai::Model& model);
-    void addTypeObjects(const sdai::Model& model);
-    void addRelationship(const DXSdaiAppInstance& relationship);
-    void addOwned(const sdai::Model& model, const char* entity, const char* owner);
-    // Of the objects that have been put behind those of the last one.
-    std::uint32_t addGroup();
+    struct Object {
+        std::uint32_t number;
+        std::uint32_t type;
+    };
 
+    void addTypes();
+    void addTypeObjects();
+    void addRelationships();
+    void addOwned(const char* entity, const char* owner);
+    void addObject(std::uint32_t number);
+    // Gives the objects behind those of the last group to the sets of an attribute.
+    void addGroup(std::string_view sets);
+    void addSet(std::uint32_t number);
+    void sortSets(std::size_t count);
+
+    const sdai::Model& _model;
+    // By the number of an instance, counted from 1: where it is listed as a set and stands among the objects.
+    std::vector<std::uint32_t> _setIndices, _objectIndices;
+    // By the number of an object.
+    std::vector<std::uint32_t> _types;
+    std::vector<Object> _objects;
     // Of all groups, one behind the other, and where each of them ends.
-    std::vector<DXSdaiAppInstance*> _objects;
+    std::vector<ObjectIndex> _members;
     std::vector<std::size_t> _ends;
-    // By set.
-    std::unordered_map<const DXSdaiAppInstance*, std::vector<std::uint32_t>> _groupsOf;
-    // By object.
-    std::unordered_map<const DXSdaiAppInstance*, DXSdaiAppInstance*> _types;
+    // Of all sets, one behind the other, and where those of each begin.
+    std::vector<std::uint32_t> _groups;
+    std::vector<std::size_t> _firstGroups;
+    // Before that: a set and a group that it has.
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> _pairs;
     // By type.
-    std::unordered_map<const DXSdaiAppInstance*, std::vector<DXSdaiAppInstance*>> _occurrences;
+    std::unordered_map<std::uint32_t, std::vector<const sdai::EntityDefinition*>> _entities;
 };
 
 } // namespace velkor

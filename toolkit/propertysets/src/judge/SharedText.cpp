@@ -1,37 +1,43 @@
 #include "judge/SharedText.h"
 
+#include "velkor/sdai/Part21Lexer.h"
 #include "velkor/text/Wording.h"
 
 namespace velkor {
 
 namespace {
 
-// What a value begins with; a short one may have a comment before it.
-char first(const sdai::Primitive& value) noexcept {
-    const std::string_view text = value.encoded();
-    if (text.empty()) return '\0';
-    if (text.front() != '/' || text.size() > longestName) return text.front();
-    const std::string_view token = sdai::Part21Lexer(text).next().text;
-    return token.empty() ? '\0' : token.front();
+bool isKeywordCharacter(char c) noexcept {
+    return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_';
 }
 
 } // namespace
 
-std::string shown(const sdai::Primitive& name) {
-    return isTooLong(name) ? '(' + text::grouped(name.encoded().size()) + " bytes)" : name.asString();
+std::string shown(std::string_view value) {
+    return isTooLong(value) ? '(' + text::grouped(value.size()) + " bytes)" : nameText(value);
 }
 
-bool isGiven(const sdai::Primitive& value) noexcept {
-    const char begin = first(value);
-    return begin != '\0' && begin != '$' && begin != '*';
+std::string nameText(std::string_view value) {
+    if (!isText(value) || isTooLong(value)) return {};
+    const sdai::Token token = sdai::Part21Lexer(value).next();
+    return token.kind == sdai::TokenKind::String ? sdai::decodeString(token.text) : std::string();
 }
 
-bool isText(const sdai::Primitive& value) noexcept {
-    return first(value) == '\'';
+TypedText typedText(std::string_view value) noexcept {
+    std::size_t size = 0;
+    while (size < value.size() && isKeywordCharacter(value[size])) ++size;
+    if (size > 0 && size < value.size() && value[size] == '(' && value.front() >= 'A')
+        return {value.substr(0, size), value.substr(size + 1)};
+    // With space or comments between.
+    sdai::Part21Lexer lexer(value);
+    const sdai::Token keyword = lexer.next();
+    if (keyword.kind != sdai::TokenKind::Keyword || lexer.next().kind != sdai::TokenKind::Open) return {{}, value};
+    return {keyword.text, value.substr(static_cast<std::size_t>(lexer.position() - value.data()))};
 }
 
-DXSdaiAppInstance* referred(const sdai::Primitive& value) {
-    return first(value) == '#' ? value.asInstance() : nullptr;
+std::string_view TypedText::string() const noexcept {
+    const sdai::Token token = sdai::Part21Lexer(content).next();
+    return token.kind == sdai::TokenKind::String ? token.text : std::string_view();
 }
 
 } // namespace velkor

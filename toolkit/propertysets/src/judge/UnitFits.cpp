@@ -1,5 +1,6 @@
 #include "judge/UnitFits.h"
 
+#include "judge/Record.h"
 #include "velkor/units/MeasureUnits.h"
 
 namespace velkor {
@@ -32,7 +33,7 @@ std::string needed(const sdai::DefinedType& type) {
 
 } // namespace
 
-UnitFits::UnitFits(const sdai::SchemaDefinition& schema) : _moneyUnit(schema.entity("IFCMONETARYUNIT")) {}
+UnitFits::UnitFits(const sdai::Model& model) : _model(model), _moneyUnit(model.schema().entity("IFCMONETARYUNIT")) {}
 
 const std::string& UnitFits::neededBy(const sdai::DefinedType& type) {
     const auto [known, isNew] = _needed.try_emplace(&type);
@@ -40,16 +41,16 @@ const std::string& UnitFits::neededBy(const sdai::DefinedType& type) {
     return known->second;
 }
 
-std::string_view UnitFits::unitTypeOf(const DXSdaiAppInstance* unit) {
+std::string_view UnitFits::unitTypeOf(std::uint32_t unit) {
     const auto [known, isNew] = _unitTypes.try_emplace(unit);
     if (!isNew) return known->second;
-    const sdai::EntityDefinition* entity = unit->entity();
+    const sdai::EntityDefinition* entity = _model.entityAt(unit);
     if (entity != nullptr && _moneyUnit != nullptr && entity->isKindOf(*_moneyUnit)) return known->second = money;
-    const std::string_view type = unit->GetAttr("UNITTYPE").asEnumeration().text();
+    const std::string_view type = Record(_model, unit).attribute("UNITTYPE").asEnumeration().text();
     return known->second = type == userDefined ? std::string_view() : type;
 }
 
-bool UnitFits::fits(const sdai::DefinedType& type, const DXSdaiAppInstance* unit) {
+bool UnitFits::fits(const sdai::DefinedType& type, std::uint32_t unit) {
     const std::string& wanted = neededBy(type);
     if (wanted.empty()) return true;
     const std::string_view given = unitTypeOf(unit);
@@ -60,10 +61,10 @@ std::string_view UnitFits::expected(const sdai::DefinedType& type) {
     return neededBy(type);
 }
 
-std::string_view UnitFits::found(const DXSdaiAppInstance* unit) {
+std::string_view UnitFits::found(std::uint32_t unit) {
     const std::string_view type = unitTypeOf(unit);
-    if (!type.empty() || unit->entity() == nullptr) return type;
-    return unit->entity()->name();
+    const sdai::EntityDefinition* entity = _model.entityAt(unit);
+    return !type.empty() || entity == nullptr ? type : entity->name();
 }
 
 } // namespace velkor
