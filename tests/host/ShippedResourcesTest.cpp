@@ -144,4 +144,50 @@ TEST_F(ShippedResourcesTest, AreUsedUnlessSomethingElseIsNamed) {
               std::vector<std::string>{"QORDefaultCollectionStandard"});
 }
 
+// Models of several releases in one process, the user's own set for all of them, and one that takes the place of a
+// published one.
+TEST_F(ShippedResourcesTest, OwnSetsStandBesideThoseOfTheReleaseOfAModel) {
+    const TemporaryFolder folder;
+    const auto define = [&](const std::string& name, const std::string& property) {
+        folder.file(std::string("site/") + propertySetResource.subFolder + '/' + name + ".xml",
+                    "<PropertySetDef><Name>" + name +
+                        "</Name><ApplicableClasses><ClassName>IfcWall</ClassName></ApplicableClasses><PropertyDefs>"
+                        "<PropertyDef><Name>" +
+                        property + "</Name></PropertyDef></PropertyDefs></PropertySetDef>");
+    };
+    define("Acme_Wall", "Colour");
+    define("Pset_WallCommon", "Mine");
+    const auto found = [&](const std::string& release, const std::vector<std::string>& folders) {
+        const std::string data = "#1=IFCWALL('0',$,$,$,$,$,$,$" + std::string(release == "IFC2X3" ? "" : ",$") +
+                                 ");#2=IFCPROPERTYSINGLEVALUE('Colour',$,$,$);"
+                                 "#3=IFCPROPERTYSET('1',$,'Acme_Wall',$,(#2));"
+                                 "#10=IFCPROPERTYSINGLEVALUE('Mine',$,$,$);"
+                                 "#4=IFCPROPERTYSET('2',$,'Pset_WallCommon',$,(#10));"
+                                 "#5=IFCELEMENTQUANTITY('3',$,'Qto_WallBaseQuantities',$,$,());"
+                                 "#6=IFCPROPERTYSET('4',$,'Pset_Acme',$,(#2));" +
+                                 "#7=IFCRELDEFINESBYPROPERTIES('5',$,$,$,(#1),#3);"
+                                 "#8=IFCRELDEFINESBYPROPERTIES('6',$,$,$,(#1),#4);"
+                                 "#9=IFCRELDEFINESBYPROPERTIES('7',$,$,$,(#1),#5);";
+        const TemporaryModel model(release, data);
+        const std::string path = folder.file("velkor.json", json{{"runtime_view", folders}}.dump());
+        const Outcome outcome = runHost({"validate", model.path(), "--config", path, "--format", "json"});
+        std::string result;
+        const json answered = json::parse(outcome.out, nullptr, false);
+        for (const json& finding : answered["findings"])
+            result +=
+                (result.empty() ? "" : ", ") + finding["instance"].dump() + ' ' + finding["code"].get<std::string>();
+        return result;
+    };
+    const std::string shipped = std::string(shippedResources) + "/runtime";
+    for (const std::vector<std::string>& folders : {std::vector{std::string("site"), shipped}, {shipped, "site"}}) {
+        EXPECT_EQ(found("IFC2X3", folders), "5 set-unknown, 6 set-unknown");
+        EXPECT_EQ(found("IFC4", folders), "6 set-unknown");
+    }
+    EXPECT_EQ(found("IFC4", {shipped}), "4 property-unknown, 6 set-unknown");
+    EXPECT_EQ(found("IFC4", {shipped + "/IFC2X3"}), "4 property-unknown, 5 set-unknown, 6 set-unknown");
+    EXPECT_EQ(found("IFC4", {"site"}), "5 set-unknown, 6 set-unknown");
+    define("Acme_Wall", "Color");
+    EXPECT_EQ(found("IFC4", {"site", shipped}), "3 property-unknown, 6 set-unknown");
+}
+
 } // namespace velkor::host
