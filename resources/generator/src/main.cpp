@@ -22,12 +22,12 @@ int run(int argc, char** argv) {
     using namespace velkor;
     std::string sources, folder = VELKOR_SET_TABLES;
     std::vector<std::string> releases(definingReleases().begin(), definingReleases().end());
-    bool check = false, faults = false;
+    bool check = false, faults = false, kinds = false;
     CLI::App app("Writes the tables of the sets that releases define.", "velkor-setgen");
-    app.add_option("DIR", sources, "Folder with a folder of published definitions for each release, named after it")
-        ->required();
+    app.add_option("DIR", sources, "Folder with a folder of published definitions for each release, named after it");
     app.add_flag("--check", check, "Write nothing; compare, and tell where the tables differ (status 1)");
     app.add_flag("--faults", faults, "Tell what is odd in the sources as well");
+    app.add_flag("--kinds", kinds, "Tell what kinds of faults there are and what each means, and do nothing else");
     app.add_option("--release", releases, "These releases alone")
         ->check(CLI::IsMember(releases))
         ->option_text("RELEASE …");
@@ -37,6 +37,16 @@ int run(int argc, char** argv) {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : badUsage;
+    }
+
+    if (kinds) {
+        for (const DefinitionFaultKind& kind : definitionFaultKinds())
+            std::cout << kind.name << ' ' << kind.meaning << '\n';
+        return 0;
+    }
+    if (sources.empty()) {
+        fail("expected the folder DIR; --help tells more");
+        return badUsage;
     }
 
     std::vector<express::GeneratedUnit> units;
