@@ -6,6 +6,7 @@
 #include "terminal/TextTable.h"
 #include "velkor/text/Wording.h"
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <string>
 
@@ -60,12 +61,38 @@ std::string typeText(const PropertyDefinition& property) {
     return property.valueType.empty() && !isQuantity(property.kind) ? "any" : property.valueType;
 }
 
-void addRows(TextTable& table, const std::vector<PropertyDefinition>& properties, const std::string& indent = {}) {
-    for (const PropertyDefinition& property : properties) {
-        table.add({indent + property.name, wordOf(property.kind), typeText(property), property.unitType});
-        addRows(table, property.members, indent + "  ");
-    }
+bool hasUnits(const std::vector<PropertyDefinition>& properties) {
+    return std::ranges::any_of(
+        properties, [](const auto& property) { return !property.unitType.empty() || hasUnits(property.members); });
 }
+
+class PropertyTable {
+public:
+    explicit PropertyTable(const SetDefinition& set) : _hasUnits(hasUnits(set.properties)), _table(columns(set)) {
+        add(set.properties, {});
+    }
+
+    const TextTable& table() const { return _table; }
+
+private:
+    std::vector<TextTable::Column> columns(const SetDefinition& set) const {
+        std::vector<TextTable::Column> result{{set.isQuantitySet ? "quantity" : "property"}, {"kind"}, {"type"}};
+        if (_hasUnits) result.push_back({"unit"});
+        return result;
+    }
+    void add(const std::vector<PropertyDefinition>& properties, const std::string& indent) {
+        for (const PropertyDefinition& property : properties) {
+            const std::string name = indent + property.name, type = typeText(property);
+            std::vector<std::string_view> cells{name, wordOf(property.kind), type};
+            if (_hasUnits) cells.push_back(property.unitType);
+            _table.add(cells);
+            add(property.members, indent + "  ");
+        }
+    }
+
+    bool _hasUnits;
+    TextTable _table;
+};
 
 void writeEnumerators(TextSink out, const std::vector<PropertyDefinition>& properties, const std::string& whole = {}) {
     constexpr std::size_t indent = 4;
@@ -123,13 +150,11 @@ void writeSet(TextSink out, const SetCatalogue& catalogue, const SetDefinition& 
     if (!set.methods.empty()) paragraph("methods of measurement: " + text::joined(set.methods));
     paragraph("defined by: " + text::joined(releases));
     out << "file: " << catalogue.path(set.name) << "\n\n";
-    TextTable table({{set.isQuantitySet ? "quantity" : "property"}, {"kind"}, {"type"}, {"unit"}});
-    addRows(table, set.properties);
-    if (table.empty()) {
+    if (set.properties.empty()) {
         out << "no properties\n";
         return;
     }
-    table.write(out);
+    PropertyTable(set).table().write(out);
     writeEnumerators(out, set.properties);
 }
 

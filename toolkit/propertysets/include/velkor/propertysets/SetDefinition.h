@@ -88,7 +88,7 @@ struct ApplicableClass {
 /// "IfcWall", "IfcActuator/ELECTRICACTUATOR".
 VELKOR_TOOLKIT_API std::string textOf(const ApplicableClass& applicable);
 
-struct SetDefinition {
+struct VELKOR_TOOLKIT_API SetDefinition {
     std::string name;
     bool isQuantitySet = false;
     TemplateType templateType = TemplateType::Unspecified;
@@ -100,7 +100,7 @@ struct SetDefinition {
     std::vector<PropertyDefinition> properties;
 
     /// By name, letter case ignored as the services ignore it; null when there is none.
-    VELKOR_TOOLKIT_API const PropertyDefinition* property(std::string_view propertyName) const noexcept;
+    const PropertyDefinition* property(std::string_view propertyName) const noexcept;
 
     bool operator==(const SetDefinition&) const = default;
 };
