@@ -2,11 +2,9 @@
 
 #include "Bounds.h"
 #include "Messages.h"
-#include "PlainReader.h"
 #include "velkor/objectmodeler/OutOfMemory.h"
 #include "velkor/text/Wording.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <utility>
@@ -30,22 +28,6 @@ public:
 
     tl::expected<void, XmlError> read(std::string_view bytes, XmlReceiver& receiver) {
         if (bytes.size() > maximumBytes) return tl::unexpected(XmlError{0, 0, "is larger than 2 GB"});
-        PlainReader plain(bytes, receiver);
-        switch (plain.read()) {
-        case PlainReader::End::OfDocument:
-            return {};
-        case PlainReader::End::OfReceiver:
-            return tl::unexpected(XmlError{plain.line(), plain.column(), {}});
-        case PlainReader::End::OfPlain:
-            break;
-        }
-        _knownTags = plain.tags();
-        _knownText = plain.textBytes();
-        return parse(bytes, receiver);
-    }
-
-private:
-    tl::expected<void, XmlError> parse(std::string_view bytes, XmlReceiver& receiver) {
         _receiver = &receiver;
         _rest = bytes;
         _error.reset();
@@ -77,6 +59,7 @@ private:
         return {};
     }
 
+private:
     static Parser& of(void* context) { return *static_cast<Parser*>(static_cast<xmlParserCtxtPtr>(context)->_private); }
 
     static xmlParserCtxtPtr newContext() {
@@ -89,10 +72,10 @@ private:
             of(parser).step([&] { of(parser).begin(name, attributes, count); });
         };
         sax.endElementNs = [](void* parser, const xmlChar*, const xmlChar*, const xmlChar*) {
-            of(parser).step([&] { of(parser).end(); });
+            of(parser).step([&] { of(parser)._receiver->end(); });
         };
         sax.characters = [](void* parser, const xmlChar* text, int length) {
-            of(parser).step([&] { of(parser).text(between(text, text + length)); });
+            of(parser).step([&] { of(parser)._receiver->text(between(text, text + length)); });
         };
         sax.ignorableWhitespace = sax.characters;
         sax.serror = [](void* parser, xmlErrorPtr error) { of(parser).report(*error); };
@@ -153,7 +136,6 @@ private:
 
     void begin(const xmlChar* name, const xmlChar** attributes, int count) {
         if (std::string excess = elementExcess(*_context, count); !excess.empty()) return refuse(std::move(excess));
-        if (isKnownTag()) return;
         _attributes.clear();
         for (int i = 0; i < count; ++i) {
             // Five pointers each: local name, prefix, namespace, begin and end of the value.
@@ -163,22 +145,6 @@ private:
                     {reinterpret_cast<const char*>(attribute[0]), between(attribute[3], attribute[4])});
         }
         if (!_receiver->begin(reinterpret_cast<const char*>(name), _attributes, line())) refuse({});
-    }
-
-    void end() {
-        if (!isKnownTag()) _receiver->end();
-    }
-    void text(std::string_view piece) {
-        if (_knownTags > 0) return;
-        const std::size_t known = std::min(_knownText, piece.size());
-        _knownText -= known;
-        if (known < piece.size()) _receiver->text(piece.substr(known));
-    }
-    /// Whether the receiver has had it from the plain reader.
-    bool isKnownTag() noexcept {
-        if (_knownTags == 0) return false;
-        --_knownTags;
-        return true;
     }
 
     void refuseDeclaration() noexcept {
@@ -204,8 +170,6 @@ private:
     MessageCapture* _capture = nullptr;
     XmlReceiver* _receiver = nullptr;
     std::string_view _rest;
-    std::size_t _knownTags = 0;
-    std::size_t _knownText = 0;
     std::vector<XmlAttribute> _attributes;
     std::optional<XmlError> _error;
 };

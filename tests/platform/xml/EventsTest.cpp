@@ -63,42 +63,6 @@ TEST(Events, ComeInTheOrderOfTheText) {
         EXPECT_EQ(eventsOf(parser, bytes), expected) << bytes;
 }
 
-// Nothing but elements, attributes and texts is read by other means than what has a comment.
-TEST(Events, AreTheSameWhereverAComment) {
-    XmlEvents parser;
-    const std::string comment = "<!-- -->";
-    // It may stand at each "#".
-    for (const std::string marked : {
-             "#<a/>#",
-             "<a\n x = '1'\n\ty=\"it&apos;s\"\n/>#\n",
-             "<a>#\n\n<b c='d'/>#t#u<e >u#\n#v</e\n>#w\n</a>\n#\n",
-             "<a>#&lt;#b&gt;&amp;#&quot;&apos;#;</a>#",
-             "#<a>]#]#</a>",
-             "<a x=\"a &lt; b\" y='\n'>#\r\n#&#65;</a>",
-             "#<a xmlns='u' x='v'><b:c xmlns:b='w'/></a>#",
-             "<a>t#\xC3\xA9#u<b/>#\xC3\xA9</a>",
-             "<a.b-c_1 _='~'/>#",
-         }) {
-        std::string document = marked;
-        std::erase(document, '#');
-        if (marked.find("&#65;") != std::string::npos) document.replace(document.find("&65;"), 4, "&#65;");
-        const std::string events = eventsOf(parser, document);
-        EXPECT_THAT(events, testing::StartsWith("<")) << document;
-        for (std::size_t i = 0, marks = 0; i < marked.size(); ++i) {
-            if (marked[i] != '#' || (i > 0 && marked[i - 1] == '&')) continue;
-            std::string commented = document;
-            EXPECT_EQ(eventsOf(parser, commented.insert(i - marks++, comment)), events) << commented;
-        }
-    }
-    for (const std::string document :
-         {"<a>\n</b>", "<a>]]></a>", "<a x='1' x='2'/>", "<a x='1'y='2'/>", "<a x='<'/>", "<a>\n</a><b/>", "<a></a>t",
-          "<a>&amp</a>", "<a b></a>", "<1a/>", "<a>\x01</a>", "<a", "<a>", "</a>", "<a/ >", "<a x=1/>"}) {
-        const std::string events = eventsOf(parser, document);
-        EXPECT_THAT(events, testing::MatchesRegex("[12]: .*")) << document;
-        EXPECT_EQ(eventsOf(parser, comment + document), events) << document;
-    }
-}
-
 TEST(Events, EndWhereTextIsNotWellFormedOrTooMuch) {
     XmlEvents parser;
     const std::string manyAttributes = [] {
