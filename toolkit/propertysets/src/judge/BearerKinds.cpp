@@ -9,7 +9,9 @@ namespace velkor {
 
 namespace {
 
-constexpr const char* objectTypeAttributes[] = {"OBJECTTYPE", "ELEMENTTYPE", "PROCESSTYPE", "RESOURCETYPE"};
+// Those of materials are categories.
+constexpr const char* objectTypeAttributes[] = {"OBJECTTYPE", "ELEMENTTYPE", "PROCESSTYPE", "RESOURCETYPE", "CATEGORY"};
+constexpr std::string_view objectEntity = "IFCOBJECTDEFINITION";
 
 // The one that the entity has. A text too long for a name is none.
 std::string objectTypeOf(const Record& object) {
@@ -20,7 +22,9 @@ std::string objectTypeOf(const Record& object) {
 }
 
 std::string_view predefinedTypeOf(const Record& object) {
-    return object.attribute("PREDEFINEDTYPE").asEnumeration().text();
+    const sdai::Primitive type = object.attribute("PREDEFINEDTYPE");
+    // Transport elements of IFC2X3 call theirs otherwise.
+    return (type.declaredType() != nullptr ? type : object.attribute("OPERATIONTYPE")).asEnumeration().text();
 }
 
 template <class Kind, class Hash, class KindOf>
@@ -46,6 +50,7 @@ BearerDetail::BearerDetail(const sdai::Model& model, const SetUses& uses, Object
     Record record(model, uses.numberOf(object));
     predefinedType = predefinedTypeOf(record);
     objectType = objectTypeOf(record);
+    isOpen = objectType.empty() && kind.first != nullptr && !kind.first->isKindOf(objectEntity);
     if (uses.typeOf(object) == SetUses::none) return;
     record.read(uses.typeOf(object));
     typePredefinedType = predefinedTypeOf(record);

@@ -19,6 +19,9 @@ struct BearerDetail {
     std::string_view predefinedType, typePredefinedType;
     std::string objectType, typeObjectType;
 
+    /// What might tell its kind is unset: a material without a category.
+    bool isOpen = false;
+
     BearerDetail(const sdai::Model& model, const SetUses& uses, ObjectIndex object);
     SetBearer bearer() const noexcept;
     bool operator==(const BearerDetail&) const = default;

@@ -74,7 +74,7 @@ public:
 
 private:
     RepeatedSets readNames();
-    void checkSet(const SetKind& kind);
+    void checkSet(const SetKind& kind, const RepeatedSets& repeated);
     void checkName();
     void checkRepetition(const RepeatedSets::Repeat* repeat);
     void checkUses();
@@ -124,8 +124,7 @@ PropertySetCheck Checker::check() {
         const SetKind& kind = _sets.kindOf(_index);
         _record.read(_sets.numberOf(_index));
         _set = _names[_index];
-        checkSet(kind);
-        checkRepetition(repeated.of(_index));
+        checkSet(kind, repeated);
         const std::size_t members =
             eachReference(_model, kind.membersOf(_record), [&](std::uint32_t number) { checkMember(number); });
         _result.properties += members;
@@ -150,19 +149,22 @@ RepeatedSets Checker::readNames() {
     return {comparable, _uses};
 }
 
-void Checker::checkSet(const SetKind& kind) {
+void Checker::checkSet(const SetKind& kind, const RepeatedSets& repeated) {
     const SetDefinition* definition = _set->definition;
     _isQuantitySet = definition != nullptr ? definition->isQuantitySet : kind.isQuantitySet;
     _total = _uses.totalOf(_index);
+    _total.count -= repeated.more(_index);
     ++_result.sets;
     ++_set->summary.sets;
     _set->summary.objects += _total.count;
     if (_set->state == State::Misnamed) checkName();
-    if (_set->state != State::Defined) return;
-    ++_result.checkedSets;
-    _set->summary.missing += definition->properties.size();
-    checkUses();
-    if (kind.isQuantitySet) checkMethod();
+    if (_set->state == State::Defined) {
+        ++_result.checkedSets;
+        _set->summary.missing += definition->properties.size();
+        checkUses();
+        if (kind.isQuantitySet) checkMethod();
+    }
+    checkRepetition(repeated.of(_index));
 }
 
 void Checker::checkName() {
@@ -211,6 +213,7 @@ void Checker::checkMethod() {
     // What the documentation of the standard's sets of this name says, without their definitions.
     if (isByPractice && !_set->name.ends_with(baseQuantities)) return;
     const std::string found = shown(method);
+    if (found.empty()) return;
     if (isByPractice ? found == baseQuantities : std::ranges::find(methods, found) != methods.end()) return;
     SetFinding* finding = add(Code::QuantityMethod, _total,
                               isByPractice ? sdai::Severity::Warning : severityOf(Code::QuantityMethod, true));

@@ -36,12 +36,23 @@ RepeatedSets::RepeatedSets(std::span<const std::uint32_t> names, const SetUses& 
 
 void RepeatedSets::add(std::uint32_t set, std::uint32_t name, ObjectIndex object) {
     Holder& holder = _holders[object];
-    if (holder.name != name) holder = {name, set, set};
-    if (holder.last == set) return;
+    if (holder.name != name) {
+        holder = {name, set, set};
+        return;
+    }
+    if (holder.last == set) {
+        ++_more[set];
+        return;
+    }
     holder.last = set;
     Repeat& repeat = _repeats[set];
     if (!repeat.objects.isAny()) repeat.other = holder.first;
     repeat.objects.add({object, 1});
+}
+
+std::uint64_t RepeatedSets::more(std::size_t set) const {
+    const auto more = _more.find(set);
+    return more == _more.end() ? 0 : more->second;
 }
 
 const RepeatedSets::Repeat* RepeatedSets::of(std::size_t set) const {

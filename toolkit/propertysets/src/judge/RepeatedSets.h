@@ -26,6 +26,8 @@ public:
     /// Of a set that has no name.
     static constexpr std::uint32_t noName = ~std::uint32_t{0};
 
+    /// How often an object has the same set once more.
+    std::uint64_t more(std::size_t set) const;
     /// Null when no object has another one.
     const Repeat* of(std::size_t set) const;
 
@@ -41,6 +43,8 @@ private:
 
     // By object.
     std::vector<Holder> _holders;
+    // By set.
+    std::unordered_map<std::size_t, std::uint64_t> _more;
     std::unordered_map<std::size_t, Repeat> _repeats;
 };
 

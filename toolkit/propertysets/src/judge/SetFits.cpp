@@ -71,7 +71,9 @@ SetFit SetFits::fitOfGenericType(std::uint32_t type, const SetUses& uses) const 
 
 SetFit SetFits::fitOf(const BearerDetail& detail) {
     const auto [known, isNew] = _details.try_emplace(detail);
-    if (isNew) known->second = _applicability.fit(detail.bearer());
+    if (!isNew) return known->second;
+    known->second = _applicability.fit(detail.bearer());
+    if (detail.isOpen && known->second == SetFit::WrongPredefinedType) known->second = SetFit::Applies;
     return known->second;
 }
 
