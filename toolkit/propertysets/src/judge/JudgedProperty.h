@@ -72,6 +72,7 @@ public:
         std::uint64_t set = 0;
         std::uint32_t member = 0;
         bool isRepeated = false;
+        bool isFilled = false;
         /// The name that is probably meant, once it has been asked for.
         std::optional<std::string> meant = {};
     };

@@ -88,34 +88,45 @@ void PropertyJudge::judgeOne(const Asked& asked, PropertyOutcome& outcome) {
 
 void PropertyJudge::judgeMembers(const Asked& asked, PropertyOutcome& outcome, int depth) {
     if (asked.slots.members < 0 || depth == deepest) return;
-    eachReference(_model, asked.property.text(asked.slots.members),
-                  [&](std::uint32_t member) { judgeMember(member, asked, outcome, depth); });
+    // The first member of each name.
+    std::unordered_map<std::string_view, std::uint32_t> firsts;
+    Record member(_model);
+    eachReference(_model, asked.property.text(asked.slots.members), [&](std::uint32_t number) {
+        member.read(number);
+        const PropertySlots* slots = slotsOf(member);
+        if (slots == nullptr) return;
+        const std::string_view name = member.text(slots->name);
+        if (isText(name) && !isTooLong(name)) {
+            const std::uint32_t first = firsts.try_emplace(name, number).first->second;
+            if (first != number && takes(Code::PropertyRepeated))
+                addWithin(asked, outcome, repeated(first, number, name));
+        }
+        judgeMember({member, *slots, nullptr}, asked, outcome, depth);
+    });
 }
 
-void PropertyJudge::judgeMember(std::uint32_t number, const Asked& asked, PropertyOutcome& outcome, int depth) {
-    const Record member(_model, number);
-    const PropertySlots* slots = slotsOf(member);
-    if (slots == nullptr) return;
-    const std::string_view name = member.text(slots->name);
-    JudgedProperty* wanted = asked.slots.kind == PropertyKind::Complex ? asked.wanted : nullptr;
+void PropertyJudge::judgeMember(const Asked& member, const Asked& whole, PropertyOutcome& outcome, int depth) {
+    const std::string_view name = member.property.text(member.slots.name);
+    JudgedProperty* wanted = whole.slots.kind == PropertyKind::Complex ? whole.wanted : nullptr;
     // A complex property that is defined without members may have any.
     if (wanted != nullptr && (wanted->definition.kind != PropertyKind::Complex || wanted->definition.members.empty()))
         wanted = nullptr;
-    const auto take = [&](Verdict verdict) {
-        if (outcome.verdicts.size() == mostVerdicts) {
-            ++outcome.more;
-            return;
-        }
-        verdict.property.insert(0, nameOf(asked.property, asked.slots) + '.');
-        outcome.verdicts.push_back(std::move(verdict));
-    };
     PropertyNames::Entry* entry = wanted == nullptr ? nullptr : wanted->members.find(name);
     JudgedProperty* memberWanted = entry == nullptr ? nullptr : entry->property;
     if (wanted != nullptr && memberWanted == nullptr && takes(Code::PropertyUnknown) && isText(name))
-        take(unknown(wanted->members, entry, name, false));
-    const PropertyOutcome& found = remembered({member, *slots, memberWanted}, depth + 1);
-    for (const Verdict& verdict : found.verdicts) take(verdict);
+        addWithin(whole, outcome, unknown(wanted->members, entry, name, false));
+    const PropertyOutcome& found = remembered({member.property, member.slots, memberWanted}, depth + 1);
+    for (const Verdict& verdict : found.verdicts) addWithin(whole, outcome, verdict);
     outcome.more += found.more;
+}
+
+void PropertyJudge::addWithin(const Asked& whole, PropertyOutcome& outcome, Verdict verdict) {
+    if (outcome.verdicts.size() == mostVerdicts) {
+        ++outcome.more;
+        return;
+    }
+    verdict.property.insert(0, nameOf(whole.property, whole.slots) + '.');
+    outcome.verdicts.push_back(std::move(verdict));
 }
 
 // True when it is what the definition wants.
@@ -242,6 +253,15 @@ Verdict PropertyJudge::unknown(PropertyNames& names, PropertyNames::Entry* entry
     verdict.before = isQuantity ? "has no quantity " : "has no property ";
     if (entry != nullptr) verdict.nearest = names.meant(*entry, verdict.property);
     if (!verdict.nearest.empty()) verdict.after = "; did you mean " + text::quoted(verdict.nearest) + '?';
+    return verdict;
+}
+
+Verdict PropertyJudge::repeated(std::uint32_t first, std::uint32_t second, std::string_view name) const {
+    Verdict verdict{Code::PropertyRepeated};
+    verdict.property = shown(name);
+    verdict.before = "has ";
+    verdict.after =
+        " twice, #" + std::to_string(_model.file().id(first)) + " and #" + std::to_string(_model.file().id(second));
     return verdict;
 }
 

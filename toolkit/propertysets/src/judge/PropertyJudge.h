@@ -52,6 +52,8 @@ public:
 
     /// A property that the definition does not have.
     Verdict unknown(PropertyNames& names, PropertyNames::Entry* entry, std::string_view name, bool isQuantity) const;
+    /// A name that two properties have, by their numbers.
+    Verdict repeated(std::uint32_t first, std::uint32_t second, std::string_view name) const;
 
 private:
     struct Asked {
@@ -67,7 +69,8 @@ private:
     const PropertyOutcome& remembered(const Asked& asked, int depth);
     void judgeOne(const Asked& asked, PropertyOutcome& outcome);
     void judgeMembers(const Asked& asked, PropertyOutcome& outcome, int depth);
-    void judgeMember(std::uint32_t number, const Asked& asked, PropertyOutcome& outcome, int depth);
+    void judgeMember(const Asked& member, const Asked& whole, PropertyOutcome& outcome, int depth);
+    static void addWithin(const Asked& whole, PropertyOutcome& outcome, Verdict verdict);
     bool judgeKind(const Asked& asked, PropertyOutcome& outcome);
     void judgeTypes(const Asked& asked, PropertyOutcome& outcome);
     void judgeReference(const Asked& asked, PropertyOutcome& outcome);

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace velkor {
 
@@ -81,7 +82,7 @@ private:
     void checkMethod();
     void checkMember(std::uint32_t number);
     void checkPropertyRepetition(PropertyNames::Entry& entry, std::string_view name);
-    void countMember(JudgedProperty* property, const PropertyOutcome& outcome, bool isWrong);
+    void countMember(PropertyNames::Entry& entry, bool isFilled, bool isWrong);
     void addVerdict(const Verdict& verdict);
     void summarize();
 
@@ -238,42 +239,32 @@ void Checker::checkMember(std::uint32_t number) {
     const PropertyOutcome& outcome = _judge.judge(_member, *slots, property, isDescribed());
     for (const Verdict& verdict : outcome.verdicts) addVerdict(verdict);
     _result.total += outcome.more;
-    countMember(property, outcome, _result.total > before);
+    if (entry != nullptr) countMember(*entry, outcome.isFilled, _result.total > before);
 }
 
 void Checker::checkPropertyRepetition(PropertyNames::Entry& entry, std::string_view name) {
     if (entry.set != ordinal()) {
         entry.set = ordinal();
         entry.member = _member.number();
-        entry.isRepeated = false;
+        entry.isRepeated = entry.isFilled = false;
         return;
     }
     if (entry.member == _member.number() || entry.isRepeated) return;
     entry.isRepeated = true;
-    SetFinding* finding = add(Code::PropertyRepeated, _total);
-    if (finding == nullptr) return;
-    finding->property = shown(name);
-    finding->problem.message = ofObject(*finding) + " has " + text::quoted(finding->property) + " twice, #" +
-                               std::to_string(_model.file().id(entry.member)) + " and #" + std::to_string(_member.id());
+    addVerdict(_judge.repeated(entry.member, _member.number(), name));
 }
 
-void Checker::countMember(JudgedProperty* property, const PropertyOutcome& outcome, bool isWrong) {
+// A name that is there twice counts once.
+void Checker::countMember(PropertyNames::Entry& entry, bool isFilled, bool isWrong) {
     SetSummary& summary = _set->summary;
-    if (_set->definition == nullptr) {
-        if (outcome.isFilled) ++summary.filled;
-        return;
-    }
+    JudgedProperty* property = entry.property;
+    if (isFilled && _set->definition == nullptr && !std::exchange(entry.isFilled, true)) ++summary.filled;
     if (property == nullptr) return;
-    // A name that is there twice counts once.
-    if (outcome.isFilled && property->filledIn != ordinal()) {
-        property->filledIn = ordinal();
+    if (isFilled && std::exchange(property->filledIn, ordinal()) != ordinal()) {
         ++summary.filled;
         --summary.missing;
     }
-    if (isWrong && property->wrongIn != ordinal()) {
-        property->wrongIn = ordinal();
-        ++summary.wrong;
-    }
+    if (isWrong && std::exchange(property->wrongIn, ordinal()) != ordinal()) ++summary.wrong;
 }
 
 void Checker::addVerdict(const Verdict& verdict) {
