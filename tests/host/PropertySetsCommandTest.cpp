@@ -117,9 +117,10 @@ TEST_F(PropertySetsCommandTest, ShowsAllThatADefinitionSays) {
                                      "  Red      single   IfcInteger\n"
                                      "  Green    single   IfcInteger\n"
                                      "  Blue     single   IfcInteger\n"));
-    EXPECT_THAT(run("show 4x4 Pset_PumpOccurrence").out,
-                AllOf(StartsWith("what IFC4X3_ADD2 defines holds for IFC4X4\nPset_PumpOccurrence of IFC4X3_ADD2, "),
-                      HasSubstr("\n\nvalues of BaseType\n    BASE, FRAME, NONE, OTHER, NOTKNOWN, UNSET\n\nvalues of DriveC")));
+    EXPECT_THAT(
+        run("show 4x4 Pset_PumpOccurrence").out,
+        AllOf(StartsWith("what IFC4X3_ADD2 defines holds for IFC4X4\nPset_PumpOccurrence of IFC4X3_ADD2, "),
+              HasSubstr("\n\nvalues of BaseType\n    BASE, FRAME, NONE, OTHER, NOTKNOWN, UNSET\n\nvalues of DriveC")));
 }
 
 TEST_F(PropertySetsCommandTest, SaysWhatIsMeantByNamesThatAreUnknown) {
@@ -185,9 +186,8 @@ TEST_F(PropertySetsCommandTest, WritesTemplatesThatAreSoundModels) {
     }
     const Outcome streamed = run("show 2x3 Pset_GasTerminalTypeCommon --as-template -");
     EXPECT_THAT(streamed.out, AllOf(StartsWith("ISO-10303-21;\n"), EndsWith("\nEND-ISO-10303-21;\n")));
-    EXPECT_EQ(streamed.err,
-              "Pset_GasTerminalTypeCommon: the class IfcGasTerminalType is left out: IFC4 has none\n"
-              "standard output: 1 template in IFC4\n");
+    EXPECT_EQ(streamed.err, "Pset_GasTerminalTypeCommon: the class IfcGasTerminalType is left out: IFC4 has none\n"
+                            "standard output: 1 template in IFC4\n");
     const Outcome refused = run("show 4 Pset_WallCommon", {"--as-template", folder / "none/t.ifc"});
     EXPECT_EQ(refused.status, Unreadable);
     EXPECT_THAT(refused.err, HasSubstr("none/t.ifc: cannot be written: "));

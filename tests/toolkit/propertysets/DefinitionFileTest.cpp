@@ -204,8 +204,8 @@ TEST(DefinitionFileTest, FaultsAreToldWithTheirLineInTheOrderOfTheFile) {
               "11 property \"P\" has no kind: any will do\n"
               "11 property \"P\" is defined twice: the first counts");
     std::set<std::string_view> names;
-    for (const auto& [name, meaning] : definitionFaultKinds())
-        EXPECT_TRUE(names.insert(name).second && meaning.ends_with('.')) << name;
+    for (const DefinitionFaultKind& kind : definitionFaultKinds())
+        EXPECT_TRUE(names.insert(kind.name).second && kind.meaning.ends_with('.')) << kind.name;
 }
 
 TEST(DefinitionFileTest, WhatIsNoDefinitionIsRefusedWithItsPlace) {

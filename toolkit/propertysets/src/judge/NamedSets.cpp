@@ -27,7 +27,7 @@ NamedSets::NamedSets(const sdai::Model& model, const SetLibrary& library)
 NamedSet& NamedSets::of(std::string_view name) {
     NamedSet*& known = _byText[name];
     if (known != nullptr) return *known;
-    const std::string text = shown(name);
+    const std::string text = nameShown(name);
     std::unique_ptr<NamedSet>& named = _byName[text];
     if (named == nullptr) named = made(text, isText(name) && !text.empty() && !isTooLong(name));
     known = named.get();

@@ -42,7 +42,7 @@ std::string_view wordFor(const PropertySlots& slots) {
 }
 
 std::string nameOf(const Record& property, const PropertySlots& slots) {
-    return shown(property.text(slots.name));
+    return nameShown(property.text(slots.name));
 }
 
 } // namespace
@@ -249,7 +249,7 @@ void PropertyJudge::judgeUnits(const Asked& asked, PropertyOutcome& outcome) {
 Verdict PropertyJudge::unknown(PropertyNames& names, PropertyNames::Entry* entry, std::string_view name,
                                bool isQuantity) const {
     Verdict verdict{Code::PropertyUnknown};
-    verdict.property = shown(name);
+    verdict.property = nameShown(name);
     verdict.before = isQuantity ? "has no quantity " : "has no property ";
     if (entry != nullptr) verdict.nearest = names.meant(*entry, verdict.property);
     if (!verdict.nearest.empty()) verdict.after = "; did you mean " + text::quoted(verdict.nearest) + '?';
@@ -258,7 +258,7 @@ Verdict PropertyJudge::unknown(PropertyNames& names, PropertyNames::Entry* entry
 
 Verdict PropertyJudge::repeated(std::uint32_t first, std::uint32_t second, std::string_view name) const {
     Verdict verdict{Code::PropertyRepeated};
-    verdict.property = shown(name);
+    verdict.property = nameShown(name);
     verdict.before = "has ";
     verdict.after =
         " twice, #" + std::to_string(_model.file().id(first)) + " and #" + std::to_string(_model.file().id(second));

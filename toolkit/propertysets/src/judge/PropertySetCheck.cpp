@@ -213,7 +213,7 @@ void Checker::checkMethod() {
     const bool isByPractice = methods.empty();
     // What the documentation of the standard's sets of this name says, without their definitions.
     if (isByPractice && !_set->name.ends_with(baseQuantities)) return;
-    const std::string found = shown(method);
+    const std::string found = nameShown(method);
     if (found.empty()) return;
     if (isByPractice ? found == baseQuantities : std::ranges::find(methods, found) != methods.end()) return;
     SetFinding* finding = add(Code::QuantityMethod, _total,
@@ -292,7 +292,7 @@ SetFinding* Checker::add(Code code, const SetUse& use, sdai::Severity severity) 
         const Record object(_model, _uses.numberOf(use.first));
         finding.object = object.id();
         finding.objectEntity = object.entity() == nullptr ? "" : object.entity()->name();
-        finding.objectName = shown(object.text("NAME"));
+        finding.objectName = nameShown(object.text("NAME"));
         finding.others = use.count - 1;
     }
     return &_result.findings.emplace_back(std::move(finding));

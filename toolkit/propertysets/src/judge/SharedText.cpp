@@ -13,7 +13,7 @@ bool isKeywordCharacter(char c) noexcept {
 
 } // namespace
 
-std::string shown(std::string_view value) {
+std::string nameShown(std::string_view value) {
     return isTooLong(value) ? '(' + text::grouped(value.size()) + " bytes)" : nameText(value);
 }
 

@@ -24,7 +24,7 @@ inline bool isText(std::string_view value) noexcept {
 }
 
 /// A string as findings repeat it: its size alone when it is too long for a name.
-std::string shown(std::string_view value);
+std::string nameShown(std::string_view value);
 /// A string in UTF-8; empty for what is too long for a name, and for what is no string.
 std::string nameText(std::string_view value);
 
