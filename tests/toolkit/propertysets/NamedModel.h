@@ -17,10 +17,13 @@ namespace velkor::test {
 
 class NamedModel {
 public:
+    /// Blanks, line ends and comments wherever they may be.
+    enum class Layout { Dense, Loose };
+
     /// Names are numbers from 1 on in the order in which they occur. An ellipsis stands for as many unset attributes as
     /// the entity lacks.
-    NamedModel(const std::string& release, const std::string& instances)
-        : _text(modelText(release, numbered(filled(release, instances)))), _model(opened(_text)) {}
+    NamedModel(const std::string& release, const std::string& instances, Layout layout = Layout::Dense)
+        : _text(modelText(release, laidOut(numbered(filled(release, instances)), layout))), _model(opened(_text)) {}
 
     const sdai::Model& model() const { return *_model; }
     /// "#wall"; "" for none.
@@ -60,6 +63,20 @@ private:
         if (character == open) ++depth;
         if (character == close) --depth;
         return character == ',' && depth == 0;
+    }
+
+    static std::string laidOut(const std::string& text, Layout layout) {
+        if (layout == Layout::Dense) return text;
+        std::string result;
+        bool isInString = false;
+        for (const char character : text) {
+            isInString ^= character == '\'';
+            const bool isPlace = !isInString && std::string_view("(),;").find(character) != std::string_view::npos;
+            if (isPlace) result += " /*,)'*/ ";
+            result += character;
+            if (isPlace) result += "\n\t/*(;#*/";
+        }
+        return result;
     }
 
     std::string numbered(const std::string& text) {

@@ -16,6 +16,7 @@ std::string surroundings(const std::string& release) {
                        "#metres=IFCDERIVEDUNITELEMENT(#metre,3);#seconds=IFCDERIVEDUNITELEMENT(#second,-1);"
                        "#flow=IFCDERIVEDUNIT((#metres,#seconds),.VOLUMETRICFLOWRATEUNIT.,...);"
                        "#speed=IFCDERIVEDUNIT((#metres,#seconds),.LINEARVELOCITYUNIT.,...);"
+                       "#own=IFCDERIVEDUNIT((#metres,#seconds),.USERDEFINED.,'own',...);"
                        "#none=IFCDIMENSIONALEXPONENTS(0,0,0,0,0,0,0);"
                        "#pace=IFCCONTEXTDEPENDENTUNIT(#none,.LENGTHUNIT.,'pace');#inchvalue=IFCMEASUREWITHUNIT("
                        "IFCLENGTHMEASURE(0.0254),#metre);#one=IFCDIMENSIONALEXPONENTS(1,0,0,0,0,0,0);"
@@ -95,7 +96,7 @@ IFC2X3 IFCWALL Pset_Draughting Colour
   IFCCOMPLEXPROPERTY(@,'RGB_Colour',(#q));#q=IFCPROPERTYSINGLEVALUE('Red',$,IFCINTEGER(1),$)
   IFCPROPERTYSINGLEVALUE(@,IFCINTEGER(1),$) -> property-kind
   IFCCOMPLEXPROPERTY(@,'RGB_Colour',(#q));#q=IFCPROPERTYLISTVALUE('Red',$,(IFCINTEGER(1)),$) -> property-kind Colour.Red
-IFC4X3_ADD2 IFCMATERIAL Pset_MaterialConcrete Workability
+IFC4 IFC4X3_ADD2 IFCMATERIAL Pset_MaterialConcrete Workability
   IFCPROPERTYSINGLEVALUE(@,IFCTEXT('a'),$)
   IFCPROPERTYLISTVALUE(@,(IFCTEXT('a')),$) -> property-kind
 IFC4 IFC4X3_ADD2 IFCRECTANGLEPROFILEDEF Pset_ProfileMechanical Perimeter
@@ -112,6 +113,7 @@ IFC2X3 IFC4 IFC4X3_ADD2 IFCWALL Pset_WallCommon Reference
   IFCPROPERTYSINGLEVALUE(@,IFCLABEL('A'),$) -> value-type
   IFCPROPERTYSINGLEVALUE(@,IFCTEXT('A'),$) -> value-type
   IFCPROPERTYSINGLEVALUE('reference',$,IFCLABEL('A'),$) -> value-type reference
+  IFCPROPERTYSINGLEVALUE('Ref\X2\0065\X0\rence',$,IFCLABEL('A'),$) -> value-type
 IFC2X3 IFC4 IFC4X3_ADD2 IFCWALL Pset_WallCommon IsExternal
   IFCPROPERTYSINGLEVALUE(@,IFCBOOLEAN(.T.),$)
   IFCPROPERTYSINGLEVALUE(@,IFCLOGICAL(.T.),$) -> value-type
@@ -153,7 +155,7 @@ IFC4 IFCREINFORCINGBAR Pset_ReinforcingBarCommon BendingParameters
 IFC2X3 IFCWALL Pset_Draughting Colour
   IFCCOMPLEXPROPERTY(@,'RGB_Colour',(#q));#q=IFCPROPERTYSINGLEVALUE('Blue',$,IFCREAL(1.),$) -> value-type Colour.Blue
   IFCCOMPLEXPROPERTY('Colour',$,'RGB_Colour',(#q));#q=IFCPROPERTYSINGLEVALUE('Hue',...) -> property-unknown Colour.Hue
-IFC4X3_ADD2 IFCMATERIAL Pset_MaterialConcrete Workability
+IFC4 IFC4X3_ADD2 IFCMATERIAL Pset_MaterialConcrete Workability
   IFCPROPERTYSINGLEVALUE(@,IFCLABEL('a'),$) -> value-type
 )");
 }
@@ -162,6 +164,8 @@ TEST_F(PropertySetCheckTest, EnumeratedValuesAreOfTheDefinitionsList) {
     expectOfProperties(R"(
 IFC2X3 IFC4 IFC4X3_ADD2 IFCBOILERTYPE Pset_BoilerTypeCommon OperatingMode
   IFCPROPERTYENUMERATEDVALUE(@,(IFCLABEL('TWOSTEP'),IFCLABEL('MODULATING')),$)
+  IFCPROPERTYENUMERATEDVALUE(@,(IFCLABEL('TWO\X\53TEP')),$)
+  IFCPROPERTYENUMERATEDVALUE(@,(IFCLABEL('FIX''ED')),$) -> value-enumerator ~FIXED
   IFCPROPERTYENUMERATEDVALUE(@,(IFCLABEL('MODULATNG')),$) -> value-enumerator ~MODULATING
   IFCPROPERTYENUMERATEDVALUE(@,(IFCLABEL('Modulating')),$) -> value-enumerator ~MODULATING
   IFCPROPERTYENUMERATEDVALUE(@,(IFCLABEL('FIXED'),IFCLABEL('x'),IFCLABEL('y')),$) -> value-enumerator
@@ -214,6 +218,7 @@ IFC2X3 IFC4 IFC4X3_ADD2 IFCAIRTERMINALTYPE Pset_AirTerminalTypeCommon ThrowLengt
   IFCPROPERTYSINGLEVALUE(@,IFCLENGTHMEASURE(1.),#metre)
   IFCPROPERTYSINGLEVALUE(@,IFCPOSITIVELENGTHMEASURE(1.),#inch)
   IFCPROPERTYSINGLEVALUE(@,IFCLENGTHMEASURE(1.),#pace)
+  IFCPROPERTYSINGLEVALUE(@,IFCLENGTHMEASURE(1.),#own)
   IFCPROPERTYSINGLEVALUE(@,IFCLENGTHMEASURE(1.),#second) -> value-unit
   IFCPROPERTYSINGLEVALUE(@,IFCPOSITIVELENGTHMEASURE(1.),#flow) -> value-unit
   IFCPROPERTYSINGLEVALUE(@,IFCLENGTHMEASURE(1.),#money) -> value-unit
@@ -232,6 +237,7 @@ IFC2X3 IFC4 IFC4X3_ADD2 IFCBOILERTYPE Pset_BoilerTypeCommon NominalPartLoadRatio
   IFCPROPERTYBOUNDEDVALUE(@,IFCREAL(1.),IFCREAL(0.),#metre,...)
 IFC2X3 IFC4 IFC4X3_ADD2 IFCWALL Pset_WallCommon FireRating
   IFCPROPERTYSINGLEVALUE(@,IFCLABEL('A'),#metre) -> value-unit
+  IFCPROPERTYSINGLEVALUE(@,IFCLABEL('A'),#own) -> value-unit
 IFC2X3 IFC4 IFC4X3_ADD2 IFCWALL Pset_WallCommon IsExternal
   IFCPROPERTYSINGLEVALUE(@,IFCBOOLEAN(.T.),#metre) -> value-unit
 IFC2X3 IFC4 IFC4X3_ADD2 IFCWALL Pset_WallCommon FireRating
@@ -244,6 +250,9 @@ IFC2X3 IFC4 IFC4X3_ADD2 IFCWALL Acme Count
   IFCPROPERTYSINGLEVALUE(@,IFCCOUNTMEASURE(1),#second)
 IFC2X3 IFC4 IFC4X3_ADD2 IFCWALL Acme Whole
   IFCCOMPLEXPROPERTY(@,'',(#wide)) -> value-unit Whole.Width
+IFC2X3 IFC4 IFC4X3_ADD2 IFCMATERIAL Acme Width
+  IFCPROPERTYSINGLEVALUE(@,IFCLENGTHMEASURE(1.),#metre)
+  IFCPROPERTYSINGLEVALUE(@,IFCLENGTHMEASURE(1.),#second) -> value-unit
 IFC4 IFC4X3_ADD2 IFCWALL Qto_WallBaseQuantities Length
   IFCQUANTITYLENGTH(@,#metre,1.,$)
   IFCQUANTITYLENGTH(@,#second,1.,$) -> value-unit
@@ -270,6 +279,7 @@ IFC2X3 IFC4 IFC4X3_ADD2
   Pset-WallCommon -> set-unknown #w ~Pset_WallCommon
   PsetWallCommon -> set-unknown #w ~Pset_WallCommon
   Pset_Wall Common -> set-unknown #w ~Pset_WallCommon
+  Pset\X\5FWallCommon
   PSetAcme -> set-unknown #w
 IFC2X3
   Qto_WallBaseQuantities -> warning set-unknown #w

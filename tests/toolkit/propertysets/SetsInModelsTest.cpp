@@ -195,7 +195,8 @@ TEST_F(SetsInModelsTest, ComeToOneSummaryForEachName) {
                 "#c=IFCPROPERTYSINGLEVALUE('FireRating',$,$,$);#d=IFCPROPERTYSINGLEVALUE('Mine',$,IFCLABEL('A'),$);"
                 "#r=" +
                     attached("#w,#v", "#s") + "#t=IFCPROPERTYSET('',$,'Pset_WallCommon',$,(#a));#u=" +
-                    attached("#w", "#t") + "#m=IFCPROPERTYSET('',$,'Acme',$,(#d,#c));#o=" + attached("#v", "#m"));
+                    attached("#w", "#t") + "#again=" + attached("#v,#w", "#s") +
+                    "#m=IFCPROPERTYSET('',$,'Acme',$,(#d,#c));#o=" + attached("#v", "#m"));
     const auto check = checkPropertySets(named.model(), shipped());
     EXPECT_EQ(check.sets, 3u);
     EXPECT_EQ(check.checkedSets, 2u);

@@ -98,8 +98,11 @@ IFC4 Pset_DiscreteAccessoryCornerFixingPlate
   IFCDISCRETEACCESSORY('',$,$,$,'Edge fixing plate',...,.USERDEFINED.) -> set-not-applicable
   IFCDISCRETEACCESSORY('',...) by IFCDISCRETEACCESSORYTYPE('',...,'Corner fixing plate',.USERDEFINED.)
 IFC2X3 Pset_TransportElementElevator
+  IFCTRANSPORTELEMENT('',$,$,$,$,$,$,$,.ELEVATOR.,$,$)
   IFCTRANSPORTELEMENT('',$,$,$,$,$,$,$,.ESCALATOR.,$,$) -> set-not-applicable
 IFC4 Pset_MaterialConcrete
+  IFCMATERIAL('C30/37',$,'concrete')
+  IFCMATERIAL('C30/37',$,$)
   IFCMATERIAL('S235',$,'steel') -> set-not-applicable
 IFC4X3_ADD2 Pset_MaterialConcrete
   IFCMATERIAL('C30/37',$,$)
@@ -203,15 +206,18 @@ IFC2X3 IFC4 IFC4X3_ADD2 IFCPROPERTYSET('',$,'Pset_WallCommon',$,
 IFC2X3 IFC4 IFC4X3_ADD2 IFCPROPERTYSET('',$,'Acme',$,
   IFCPROPERTYSINGLEVALUE('A',...) IFCPROPERTYSINGLEVALUE('B',...)
   IFCPROPERTYSINGLEVALUE('A',...) IFCPROPERTYLISTVALUE('A',...) -> property-repeated A
+  IFCPROPERTYSINGLEVALUE('A',...) IFCCOMPLEXPROPERTY('C',$,'',(#p,#p))
+  IFCPROPERTYSINGLEVALUE('A',...) IFCCOMPLEXPROPERTY('C',$,'',(#p,#t)) -> property-repeated C.A
 IFC2X3 IFC4 IFC4X3_ADD2 IFCELEMENTQUANTITY('',$,'Acme',$,$,
   IFCQUANTITYLENGTH('A',$,$,1.,...) IFCQUANTITYLENGTH('B',$,$,1.,...)
   IFCQUANTITYLENGTH('A',$,$,1.,...) IFCQUANTITYAREA('A',$,$,1.,...) -> property-repeated A
 )",
                [](const std::string& release, const std::string& set, const std::string& text) {
                    const std::size_t blank = text.find(' ');
-                   const NamedModel named(release,
-                                          "#w=IFCWALL('',...);#s=" + set + "(#p,#q));#r=" + attached("#w", "#s") +
-                                              "#p=" + text.substr(0, blank) + ";#q=" + text.substr(blank + 1) + ';');
+                   const NamedModel named(release, "#w=IFCWALL('',...);#s=" + set +
+                                                       "(#p,#q));#r=" + attached("#w", "#s") +
+                                                       "#p=" + text.substr(0, blank) + ";#q=" + text.substr(blank + 1) +
+                                                       ";#t=IFCPROPERTYLISTVALUE('A',...);");
                    return told(named, shipped());
                });
 }
