@@ -81,9 +81,10 @@ const std::string& structureText(bool isWrong) {
 }
 
 void open(benchmark::State& state) {
+    const std::string& text = structureText(false);
     for ([[maybe_unused]] auto round : state) {
         const bench::CpuTimer timer;
-        const auto model = Model::fromText(structureText(false), "bench");
+        const auto model = Model::fromText(text, "bench");
         state.SetIterationTime(timer.seconds());
         if (!model) return state.SkipWithError(model.error().message.c_str());
     }
