@@ -24,8 +24,14 @@ constexpr std::string_view firstWithTemplates = "IFC4";
 constexpr std::string_view templateEntity = "IFCPROPERTYSETTEMPLATE";
 /// Of the values of enumerations.
 constexpr std::string_view enumeratorType = "IfcLabel";
-/// Of an identifier of the schema, in characters.
-constexpr std::size_t longestIdentifier = 255;
+/// Of a label or an identifier of the schema, in characters.
+constexpr std::size_t longestLabel = 255;
+/// Of a name in a note, in bytes.
+constexpr std::size_t longestQuoted = 60;
+
+bool hasRoom(std::string_view label) {
+    return text::characterCount(label) <= longestLabel;
+}
 
 // Drawn at random, once.
 constexpr guid::Uuid identifierSpace{0xf2, 0xb7, 0x88, 0x89, 0x6d, 0x6f, 0x44, 0xc4,
@@ -91,6 +97,12 @@ bool hasEnumerator(const SchemaDefinition& schema, std::string_view type, std::s
     const sdai::DefinedType* defined = schema.definedType(type);
     const auto* enumeration = defined == nullptr ? nullptr : defined->underlying().asEnumeration();
     return enumeration != nullptr && enumeration->position(enumerator) >= 0;
+}
+
+/// Whether there is a property to declare and room for the set's name.
+bool hasTemplate(const SetDefinition& set) {
+    return hasRoom(set.name) &&
+           std::ranges::any_of(set.properties, [](const auto& property) { return hasRoom(property.name); });
 }
 
 bool isQuantities(const PropertyDefinition& property) {
@@ -160,9 +172,12 @@ private:
         std::unordered_set<std::string_view> names;
         for (const PropertyDefinition& property : properties) {
             const std::string path = whole + '\n' + property.name;
+            const std::string quoted = text::quotedBeginning(property.name, longestQuoted);
             // A set of the schema has a name once.
-            if (!names.insert(property.name).second)
-                note("the second property " + text::quoted(property.name) + " is left out");
+            if (!hasRoom(property.name))
+                note("the property " + quoted + " is left out: its name is longer than the schema has room for");
+            else if (!names.insert(property.name).second)
+                note("the second property " + quoted + " is left out");
             else
                 ids.push_back(property.kind == PropertyKind::Complex ? addComplex(property, path)
                                                                      : addSimple(property, path));
@@ -212,7 +227,7 @@ private:
         std::vector<std::string_view> values;
         std::unordered_set<std::string_view> known;
         for (const std::string& value : property.enumerators)
-            if (known.insert(value).second) values.push_back(value);
+            if (hasRoom(value) && known.insert(value).second) values.push_back(value);
         std::string name = property.enumeration.empty() ? property.name : property.enumeration;
         // Enumerations have names of their own; those of two definitions may differ under one name.
         for (int count = 1; _enumerations.contains(name); ++count) {
@@ -236,14 +251,14 @@ private:
                 note("the class " + textOf(one) + " is left out: " + std::string(_schema.name()) + " has none");
         }
         std::string result = text::joined(classes, ",", [](const ApplicableClass& one) { return textOf(one); });
-        if (text::characterCount(result) <= longestIdentifier) return result;
+        if (hasRoom(result)) return result;
         // A class goes for its types.
         std::erase_if(classes, [known = classes](const ApplicableClass& one) {
             const std::string described(describedName(one.entity));
             return std::ranges::find(known, ApplicableClass{described, one.predefinedType}) != known.end();
         });
         result = text::joined(classes, ",", [](const ApplicableClass& one) { return textOf(one); });
-        if (text::characterCount(result) <= longestIdentifier) return result;
+        if (hasRoom(result)) return result;
         note("the classes are left out: their names are longer than the schema has room for");
         return {};
     }
@@ -275,7 +290,7 @@ tl::expected<SetTemplateFile, std::string> setTemplates(const std::vector<const 
     if (!schema) return tl::unexpected(schema.error().message);
     if (definitions.empty()) return tl::unexpected(std::string("no set was given"));
     for (const SetDefinition* set : definitions)
-        if (set->properties.empty()) return tl::unexpected(set->name + " has no properties, which a template needs");
+        if (!hasTemplate(*set)) return tl::unexpected(set->name + " has no properties that a template has room for");
     TemplateWriter writer(**schema, release);
     writer.addProject(definitions);
     for (const SetDefinition* set : definitions) writer.addSet(*set);

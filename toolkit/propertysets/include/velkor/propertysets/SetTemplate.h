@@ -32,7 +32,8 @@ struct SetTemplateHeader {
 
 /// `release` is that of the definitions. Identifiers are the same on every run: they are made of the release and the
 /// names of sets and properties. Units are left to the project that uses a template: definitions tell the types of
-/// units alone. An error for a release that is none, and for a set without properties, which no template has.
+/// units alone. An error for a release that is none, and for a set without properties, which no template has; names
+/// that the schema has no room for are none.
 VELKOR_TOOLKIT_API tl::expected<SetTemplateFile, std::string>
 setTemplates(const std::vector<const SetDefinition*>& definitions, std::string_view release,
              const SetTemplateHeader& header);
