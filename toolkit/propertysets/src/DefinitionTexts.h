@@ -3,6 +3,7 @@
 
 #include "velkor/propertysets/DefinitionFile.h"
 #include "velkor/text/Printable.h"
+#include "velkor/text/Unicode.h"
 
 #include <string>
 #include <string_view>
@@ -24,12 +25,6 @@ inline void addFault(std::vector<DefinitionFault>& faults, int line, std::string
     faults.push_back({line, std::string(kind), std::move(found.append(": ").append(becomes))});
 }
 
-/// Blanks and line ends, as XML counts them.
-inline std::string_view trimmed(std::string_view text) noexcept {
-    constexpr std::string_view blanks = " \t\r\n";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
+using text::trimmed;
 
 } // namespace velkor

@@ -14,6 +14,7 @@ namespace velkor::lint {
 namespace {
 
 namespace names = velkor::names::definition;
+using text::trimmed;
 
 constexpr std::string_view ending = ".xml";
 
@@ -112,12 +113,6 @@ std::string releaseNamed(std::string_view written) {
     for (const std::string_view release : definitionReleases)
         if (release.starts_with(name + '_')) return std::string(release);
     return {};
-}
-
-std::string_view trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t\r\n";
-    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
-    return text.substr(0, text.find_last_not_of(blanks) + 1);
 }
 
 /// Where each property of the set itself is defined.

@@ -29,6 +29,14 @@ VELKOR_PLATFORM_API std::string_view beginning(std::string_view utf8, std::size_
 /// Puts a character behind a text. `code` is that of a character of Unicode.
 VELKOR_PLATFORM_API void append(std::string& utf8, std::int32_t code);
 
+/// Without the blanks, tabs and line ends at both ends: what XML takes for space.
+constexpr std::string_view trimmed(std::string_view text) noexcept {
+    constexpr std::string_view blanks = " \t\r\n";
+    const std::size_t first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
 /// Case mapping of ASCII alone.
 constexpr char asciiUpper(char c) noexcept {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
