@@ -67,8 +67,7 @@ DefinitionReading readingOf(const std::string& bytes, const std::string& path = 
     if (!reading) return {};
     for (const auto& [line, kind, text] : reading->faults) {
         EXPECT_THAT(text, HasSubstr(": ")) << kind;
-        const auto isThis = [&](const DefinitionFaultKind& each) { return each.name == kind; };
-        EXPECT_TRUE(std::ranges::any_of(definitionFaultKinds(), isThis)) << kind;
+        EXPECT_NE(definitionFaultKind(kind), nullptr) << kind;
     }
     return std::move(*reading);
 }
@@ -326,6 +325,10 @@ TEST(DefinitionFileTest, ReleasesMendWhatTheyContradict) {
              {"IFC4X3_ADD2", classes("<ClassName>IfcPump</ClassName><ClassName>IfcCourse</ClassName>"),
               "IfcPump, IfcCourse {}"},
              {"IFC4", named("Pset_ElementAssemblyCommon", ""), "IfcElementAssembly {}", "class-missing"},
+             {"IFC4",
+              "<PropertySetDef><Name>Pset_TankCommon</Name><ApplicableClasses><ClassName>IfcTnak</ClassName>"
+              "</ApplicableClasses></PropertySetDef>",
+              "IfcTank {}", "class-unknown class-missing"},
              {"IFC4", named("Pset_TankPHistory", ""), "performance-driven IfcTank {}",
               "template-unknown class-missing"},
              {"IFC4", named("MySet", " templatetype='PSET_OCCURRENCEDRIVEN'"), "occurrence-driven  {}",

@@ -8,7 +8,7 @@
 #include <optional>
 #include <utility>
 
-namespace velkor {
+namespace velkor::definitions {
 
 namespace {
 
@@ -185,4 +185,4 @@ void addConditions(std::string_view text, int line, std::vector<ApplicableClass>
     ConditionReader(line, classes, faults).read(trimmed(text));
 }
 
-} // namespace velkor
+} // namespace velkor::definitions

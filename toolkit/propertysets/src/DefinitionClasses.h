@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace velkor {
+namespace velkor::definitions {
 
 /// The classes that a text names: "IfcWall", "IfcActuator/ELECTRICACTUATOR", "IFCSHAREDBLDGELEMENTS/IfcBeam", several
 /// with commas between them.
@@ -19,4 +19,4 @@ void addClasses(std::string_view text, int line, std::vector<ApplicableClass>& c
 void addConditions(std::string_view text, int line, std::vector<ApplicableClass>& classes,
                    std::vector<DefinitionFault>& faults);
 
-} // namespace velkor
+} // namespace velkor::definitions

@@ -12,6 +12,7 @@ namespace velkor {
 
 namespace {
 
+using namespace definitions;
 constexpr std::string_view classPrefix = "Ifc";
 constexpr std::string_view typeEndings[] = {"Type", "Style"};
 constexpr std::string_view setPrefixes[] = {"Pset_", "Qto_"};
@@ -36,8 +37,8 @@ public:
 
     std::vector<DefinitionFault> mend() {
         mendTemplateType();
-        if (_definition.classes.empty()) nameClass();
         std::erase_if(_definition.classes, [this](const ApplicableClass& named) { return !isKnown(named); });
+        if (_definition.classes.empty()) nameClass();
         mendPredefinedTypes();
         for (PropertyDefinition& property : _definition.properties) mendProperty(property);
         return std::move(_faults);

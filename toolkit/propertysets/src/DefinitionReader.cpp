@@ -17,6 +17,7 @@ namespace velkor {
 
 namespace {
 
+using namespace definitions;
 namespace words = velkor::names::definition;
 using enum DefinitionElement;
 

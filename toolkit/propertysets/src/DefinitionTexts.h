@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-namespace velkor {
+namespace velkor::definitions {
 
 /// A text of a definition for people: one line, not too long.
 inline std::string shown(std::string_view text) {
@@ -27,4 +27,4 @@ inline void addFault(std::vector<DefinitionFault>& faults, int line, std::string
 
 using text::trimmed;
 
-} // namespace velkor
+} // namespace velkor::definitions

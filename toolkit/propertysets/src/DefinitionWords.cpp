@@ -7,7 +7,7 @@
 #include <array>
 #include <utility>
 
-namespace velkor {
+namespace velkor::definitions {
 
 namespace {
 
@@ -201,4 +201,4 @@ std::string templateWord(TemplateType type, bool isQuantitySet) {
     return wordFor(templateTypes, type, isQuantitySet ? words::quantitySetPrefix : words::propertySetPrefix);
 }
 
-} // namespace velkor
+} // namespace velkor::definitions

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace velkor {
+namespace velkor::definitions {
 
 enum class DefinitionElement : std::uint8_t {
     Other, ///< holds no fact
@@ -63,4 +63,4 @@ std::string quantityWord(PropertyKind kind);
 std::optional<TemplateType> templateType(std::string_view word) noexcept;
 std::string templateWord(TemplateType type, bool isQuantitySet);
 
-} // namespace velkor
+} // namespace velkor::definitions

@@ -8,6 +8,7 @@ namespace velkor {
 
 namespace {
 
+using namespace definitions;
 namespace words = velkor::names::definition;
 
 class DefinitionWriter {
