@@ -40,7 +40,8 @@ Json propertiesJson(const std::vector<PropertyDefinition>& properties) {
                           {"enumeration", textOrNull(property.enumeration)},
                           {"enumerators", property.enumerators},
                           {"usage_name", textOrNull(property.usageName)},
-                          {"members", propertiesJson(property.members)}});
+                          {"members", propertiesJson(property.members)},
+                          {"defining_unit_type", textOrNull(property.definingUnitType)}});
     }
     return result;
 }

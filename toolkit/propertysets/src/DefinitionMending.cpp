@@ -142,7 +142,8 @@ private:
             mendReference(property);
         else
             mendType(property, property.valueType);
-        mendUnit(property);
+        mendUnit(property, property.definingUnitType, property.definingType);
+        mendUnit(property, property.unitType, property.valueType);
         for (PropertyDefinition& member : property.members) mendProperty(member);
     }
 
@@ -188,30 +189,28 @@ private:
         type.clear();
     }
 
-    void mendUnit(PropertyDefinition& property) {
-        if (property.unitType.empty()) return;
-        const std::string found = "unit type " + shown(property.unitType) + " of property " + shown(property.name);
-        const sdai::DefinedType* measure = _schema.definedType(property.unitType);
-        if (measure != nullptr || property.unitType.starts_with(text::asciiUpper(classPrefix))) {
-            property.unitType = measure == nullptr ? std::string() : unitTypeOf(*measure);
-            fault(definitionfaults::unitIsMeasure, found,
-                  property.unitType.empty() ? "none is taken" : "read as " + property.unitType);
-        } else if (!isUnitType(_schema, property.unitType)) {
+    void mendUnit(const PropertyDefinition& property, std::string& unitType, const std::string& valueType) {
+        if (unitType.empty()) return;
+        const std::string found = "unit type " + shown(unitType) + " of property " + shown(property.name);
+        const sdai::DefinedType* measure = _schema.definedType(unitType);
+        if (measure != nullptr || unitType.starts_with(text::asciiUpper(classPrefix))) {
+            unitType = measure == nullptr ? std::string() : unitTypeOf(*measure);
+            fault(definitionfaults::unitIsMeasure, found, unitType.empty() ? "none is taken" : "read as " + unitType);
+        } else if (!isUnitType(_schema, unitType)) {
             fault(definitionfaults::unitUnknown, found, "none is taken");
-            property.unitType.clear();
+            unitType.clear();
         }
-        checkUnitOfValues(property);
+        checkUnitOfValues(property, unitType, valueType);
     }
 
-    void checkUnitOfValues(PropertyDefinition& property) {
-        const sdai::DefinedType* values = _schema.definedType(property.valueType);
-        if (property.unitType.empty() || values == nullptr) return;
+    void checkUnitOfValues(const PropertyDefinition& property, std::string& unitType, const std::string& valueType) {
+        const sdai::DefinedType* values = _schema.definedType(valueType);
+        if (unitType.empty() || values == nullptr) return;
         const std::string expected = unitTypeOf(*values);
-        if (expected.empty() || expected == property.unitType) return;
-        fault(definitionfaults::unitMismatch,
-              "unit type " + shown(property.unitType) + " of property " + shown(property.name),
-              "left out, since that of " + property.valueType + " is " + expected);
-        property.unitType.clear();
+        if (expected.empty() || expected == unitType) return;
+        fault(definitionfaults::unitMismatch, "unit type " + shown(unitType) + " of property " + shown(property.name),
+              "left out, since that of " + valueType + " is " + expected);
+        unitType.clear();
     }
 
     void fault(std::string_view kind, std::string found, std::string_view becomes) {

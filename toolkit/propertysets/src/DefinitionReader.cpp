@@ -261,14 +261,13 @@ private:
     }
 
     void readUnit(std::string_view written) {
-        // Of a table the unit of its defined values counts.
-        if (_stack.back() == DefiningValue) return;
         constexpr std::string_view ownUnit = "USERDEFINED", leftOpen = "UNSPECIFIED";
         std::string unit = text::asciiUpper(cleaned(written));
         if (unit.empty() || unit == leftOpen)
             return fault(_line, definitionfaults::unitMissing, ofProperty("the unit type " + shown(written)),
                          "none is taken");
-        if (unit != ownUnit) definition().unitType = std::move(unit);
+        if (unit == ownUnit) return;
+        (_stack.back() == DefiningValue ? definition().definingUnitType : definition().unitType) = std::move(unit);
     }
 
     void readQuantityKind() {

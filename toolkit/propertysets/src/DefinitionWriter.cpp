@@ -71,7 +71,7 @@ private:
             break;
         case PropertyKind::Table:
             open(element);
-            within(words::definingValue, property.definingType, {});
+            within(words::definingValue, property.definingType, property.definingUnitType);
             within(words::definedValue, property.valueType, property.unitType);
             break;
         default:

@@ -102,6 +102,7 @@ private:
         noteType("value type", before.valueType, after.valueType);
         noteType("defining type", before.definingType, after.definingType);
         noteStated("unit type", before.unitType, after.unitType);
+        noteStated("unit type of defining values", before.definingUnitType, after.definingUnitType);
         noteStated("enumeration", before.enumeration, after.enumeration);
         if (before.usageName != after.usageName) note("usage name", before.usageName, after.usageName);
         changed.addedEnumerators = namesWithout(after.enumerators, before.enumerators);

@@ -144,7 +144,9 @@ private:
                 while (++_used < _words.size()) property.enumerators.push_back(_words[_used].text);
                 return true;
             }
-            std::string* fact = key.is(tablewords::definingType) && property.kind == Table  ? &property.definingType
+            const bool isTable = property.kind == Table;
+            std::string* fact = key.is(tablewords::definingType) && isTable                 ? &property.definingType
+                                : key.is(tablewords::definingUnitType) && isTable           ? &property.definingUnitType
                                 : key.is(tablewords::unitType)                              ? &property.unitType
                                 : key.is(tablewords::enumeration) && isEnumerated           ? &property.enumeration
                                 : key.is(tablewords::usageName) && property.kind == Complex ? &property.usageName

@@ -23,10 +23,11 @@ inline constexpr std::string_view method = "method";
 /// What the words behind the name of a property mean. The first that is none of these is the type of its values.
 inline constexpr std::string_view definingType = "by";
 inline constexpr std::string_view unitType = "unit";
+inline constexpr std::string_view definingUnitType = "by-unit";
 inline constexpr std::string_view enumeration = "list";
 inline constexpr std::string_view usageName = "usage";
 inline constexpr std::string_view enumerators = "values";
-inline constexpr std::array keys{definingType, unitType, enumeration, usageName, enumerators};
+inline constexpr std::array keys{definingType, unitType, definingUnitType, enumeration, usageName, enumerators};
 
 /// Blanks before a line for each level that it stands below another.
 inline constexpr std::size_t indentation = 2;

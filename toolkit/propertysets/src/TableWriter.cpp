@@ -55,6 +55,7 @@ private:
         if (!property.valueType.empty()) word(property.valueType);
         fact(tablewords::definingType, property.definingType);
         fact(tablewords::unitType, property.unitType);
+        fact(tablewords::definingUnitType, property.definingUnitType);
         fact(tablewords::enumeration, property.enumeration);
         fact(tablewords::usageName, property.usageName);
         if (!property.enumerators.empty()) _text.append(" ").append(tablewords::enumerators);

@@ -34,6 +34,7 @@ PropertyDefinition withoutMembers(const PropertyDefinition& property) {
     alone.valueType = property.valueType;
     alone.definingType = property.definingType;
     alone.unitType = property.unitType;
+    alone.definingUnitType = property.definingUnitType;
     return alone;
 }
 
@@ -133,8 +134,8 @@ private:
         for (const std::string* type : {&property.valueType, &property.definingType})
             if (isMeant(*type) && schema->named(*type) == nullptr)
                 return didYouMean(_dictionaries.typeNames(_releases.back()), *type);
-        if (isMeant(property.unitType) && !isUnitType(*schema, property.unitType))
-            return didYouMean(unitTypes(*schema), property.unitType);
+        for (const std::string* unit : {&property.unitType, &property.definingUnitType})
+            if (isMeant(*unit) && !isUnitType(*schema, *unit)) return didYouMean(unitTypes(*schema), *unit);
         return {};
     }
 

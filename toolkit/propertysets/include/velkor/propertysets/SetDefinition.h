@@ -62,7 +62,7 @@ struct PropertyDefinition {
     std::string valueType = {};
     /// Of a table alone: the type of its defining values.
     std::string definingType = {};
-    /// "LENGTHUNIT", where the definition says so.
+    /// "LENGTHUNIT", where the definition says so; of a table that of its defined values.
     std::string unitType = {};
     /// Of enumerated properties: the name of the list, which may be empty, and its members in the definition's order.
     std::string enumeration = {};
@@ -70,6 +70,8 @@ struct PropertyDefinition {
     /// Of complex properties: its UsageName, which may be empty, and what it is made of.
     std::string usageName = {};
     std::vector<PropertyDefinition> members = {};
+    /// Of a table alone: the unit type of its defining values.
+    std::string definingUnitType = {};
 
     bool operator==(const PropertyDefinition&) const = default;
 };
