@@ -37,11 +37,11 @@ Json propertiesJson(const std::vector<PropertyDefinition>& properties) {
                           {"value_type", textOrNull(property.valueType)},
                           {"defining_type", textOrNull(property.definingType)},
                           {"unit_type", textOrNull(property.unitType)},
+                          {"defining_unit_type", textOrNull(property.definingUnitType)},
                           {"enumeration", textOrNull(property.enumeration)},
                           {"enumerators", property.enumerators},
                           {"usage_name", textOrNull(property.usageName)},
-                          {"members", propertiesJson(property.members)},
-                          {"defining_unit_type", textOrNull(property.definingUnitType)}});
+                          {"members", propertiesJson(property.members)}});
     }
     return result;
 }
