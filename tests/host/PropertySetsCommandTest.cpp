@@ -104,8 +104,8 @@ TEST_F(PropertySetsCommandTest, ShowsAllThatADefinitionSays) {
     ASSERT_EQ(wall["properties"].size(), 11U);
     EXPECT_EQ(wall["properties"][1],
               json::parse(R"({"name":"Status","kind":"enumerated","value_type":null,"defining_type":null,
-                              "unit_type":null,"defining_unit_type":null,"enumeration":"PEnum_ElementStatus","enumerators":["NEW","EXISTING",
-                              "DEMOLISH","TEMPORARY","OTHER","NOTKNOWN","UNSET"],"usage_name":null,"members":[]})"));
+                              "unit_type":null,"defining_unit_type":null,"enumeration":"PEnum_ElementStatus",
+                              "enumerators":["NEW","EXISTING","DEMOLISH","TEMPORARY","OTHER","NOTKNOWN","UNSET"],"usage_name":null,"members":[]})"));
     EXPECT_EQ(wall["properties"][6]["value_type"], "IfcThermalTransmittanceMeasure");
 
     const std::string draughting = run("show 2x3 Pset_Draughting").out;
