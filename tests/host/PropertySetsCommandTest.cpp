@@ -203,8 +203,19 @@ TEST_F(PropertySetsCommandTest, HasTheDefinitionsOfTheUser) {
     EXPECT_EQ(run("show 4 Own_Paint", {"--config", file}).status, Done);
     EXPECT_EQ(run("show 4 Own_Broken", {"--config", file}).status, Unreadable);
     EXPECT_EQ(run("diff 2x3 4 Own_Broken", {"--config", file}).status, Unreadable);
+    const std::string told = run("diff 2x3 4", {"--config", file}).err;
+    EXPECT_THAT(told, AllOf(HasSubstr("Own_Broken.xml:2: "), EndsWith("\n")));
+    EXPECT_EQ(std::ranges::count(told, '\n'), 1) << told;
     EXPECT_THAT(run("show 4x2 Own_Paint --as-template -", {"--config", file}).out,
                 HasSubstr(",$,'Gloss',$,.P_SINGLEVALUE.,'IfcRatioMeasure',$,"));
+
+    // Those of one release alone.
+    for (const std::string release : {"IFC2X3", "IFC4"})
+        folder.file("runtime/" + release + "/resources/standard/IFCPsetQset/Own_Paint.xml",
+                    release == "IFC4" ? ownSet : "<PropertySetDef>");
+    const Outcome compared = runHost({"propertysets", "diff", "2x3", "4"}, false, folder.path);
+    EXPECT_EQ(compared.status, Unreadable);
+    EXPECT_THAT(compared.err, HasSubstr("IFC2X3/resources/standard/IFCPsetQset/Own_Paint.xml:1: "));
 
     const Outcome nothing = runHost({"propertysets", "list", "4"});
     EXPECT_EQ(nothing.status, Unreadable);

@@ -18,6 +18,7 @@
 #include <ctime>
 #include <filesystem>
 #include <nlohmann/json.hpp>
+#include <set>
 
 namespace velkor::host {
 
@@ -143,10 +144,14 @@ bool selectByEntity(CommandContext& context, const Release& release, const std::
     return true;
 }
 
-void reportUnreadableSets(CommandContext& context, const SetCatalogue& catalogue) {
-    for (const std::string_view name : catalogue.names()) {
-        const std::string reason = catalogue.unreadable(name);
-        if (!reason.empty()) context.reportUnreadable(reason);
+/// Each file once: those of the user hold for every release.
+void reportUnreadableSets(CommandContext& context, const std::vector<const SetCatalogue*>& catalogues) {
+    std::set<std::string> told;
+    for (const SetCatalogue* catalogue : catalogues) {
+        for (const std::string_view name : catalogue->names()) {
+            const std::string reason = catalogue->unreadable(name);
+            if (!reason.empty() && told.insert(reason).second) context.reportUnreadable(reason);
+        }
     }
 }
 
@@ -194,7 +199,7 @@ void runList(CommandContext& context, const Release& release, const Arguments& a
         });
     }
     writeSelection(context, release, selection, arguments.search);
-    reportUnreadableSets(context, release.catalogue());
+    reportUnreadableSets(context, {&release.catalogue()});
 }
 
 /// Now, in ISO 8601.
@@ -316,8 +321,7 @@ void runDiff(CommandContext& context, const Release& before, const Release& afte
                   setDifferencesJson(before.catalogue().release(), after.catalogue().release(), *difference));
     else
         writeSetDifferences(context.out, before.catalogue().release(), after.catalogue().release(), *difference);
-    if (!arguments.name.empty()) return;
-    for (const Release* release : {&before, &after}) reportUnreadableSets(context, release->catalogue());
+    if (arguments.name.empty()) reportUnreadableSets(context, {&before.catalogue(), &after.catalogue()});
 }
 
 /// Has a subcommand run with the definitions that are configured and the releases that are named.
