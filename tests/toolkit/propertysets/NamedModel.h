@@ -74,7 +74,7 @@ private:
             const bool isPlace = !isInString && std::string_view("(),;").find(character) != std::string_view::npos;
             if (isPlace) result += " /*,)'*/ ";
             result += character;
-            if (isPlace) result += "\n\t/*(;#*/";
+            if (isPlace) result += "\n\t/*,)'*/";
         }
         return result;
     }

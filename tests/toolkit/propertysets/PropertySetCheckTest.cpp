@@ -114,6 +114,8 @@ IFC2X3 IFC4 IFC4X3_ADD2 IFCWALL Pset_WallCommon Reference
   IFCPROPERTYSINGLEVALUE(@,IFCTEXT('A'),$) -> value-type
   IFCPROPERTYSINGLEVALUE('reference',$,IFCLABEL('A'),$) -> value-type reference
   IFCPROPERTYSINGLEVALUE('Ref\X2\0065\X0\rence',$,IFCLABEL('A'),$) -> value-type
+  IFCPROPERTYSINGLEVALUE('Referenze',...) -> property-unknown Referenze ~Reference
+  IFCPROPERTYSINGLEVALUE('Weather',...) -> property-unknown Weather
 IFC2X3 IFC4 IFC4X3_ADD2 IFCWALL Pset_WallCommon IsExternal
   IFCPROPERTYSINGLEVALUE(@,IFCBOOLEAN(.T.),$)
   IFCPROPERTYSINGLEVALUE(@,IFCLOGICAL(.T.),$) -> value-type

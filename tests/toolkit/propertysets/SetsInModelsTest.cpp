@@ -243,6 +243,20 @@ TEST_F(SetsInModelsTest, MayBeDamagedAndHostile) {
         EXPECT_EQ(check.total, check.findings.size()) << text;
     }
 
+    // All sets of one relationship are sets of all its objects.
+    std::string sets, objects, instances;
+    for (int i = 0; i < 3000; ++i) {
+        const std::string number = std::to_string(i);
+        instances += "#s" + number + "=IFCPROPERTYSET('',$,'Pset_DoorCommon',$,(#p));#w" + number + "=IFCWALL('');";
+        sets += (i > 0 ? ",#s" : "#s") + number;
+        objects += (i > 0 ? ",#w" : "#w") + number;
+    }
+    const NamedModel many("IFC4", instances + "#p=IFCPROPERTYSINGLEVALUE('Reference',...);#r=" +
+                                      attached(objects, "IFCPROPERTYSETDEFINITIONSET((" + sets + "))"));
+    const auto check = checkPropertySets(many.model(), shipped());
+    EXPECT_EQ(check.total, 3000u + 2999u);
+    EXPECT_EQ(check.findings.at(0).others, 2999u);
+
     // What many share is looked at once: each doubling of depth would double what there is to look at.
     std::string nested = setOf("Acme", "#c0");
     for (int i = 0; i < 60; ++i) {

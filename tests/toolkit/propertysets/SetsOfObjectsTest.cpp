@@ -51,10 +51,12 @@ IFC2X3 IFC4 IFC4X3_ADD2 Pset_WallCommon
   IFCSLABTYPE('',$,$,$,$,(#set),...,.FLOOR.) -> set-not-applicable
   IFCBUILDINGELEMENTPROXY('',...) by IFCWALLTYPE('',...,.STANDARD.)
   IFCBUILDINGELEMENTPROXY('',...) by IFCSLABTYPE('',...,.FLOOR.) -> set-not-applicable
+  IFCMATERIAL('Oak',...) -> set-not-applicable
   IFCTYPEPRODUCT('',$,$,$,$,(#set),...)
   IFCWALL('',...) by IFCTYPEPRODUCT('',$,$,$,$,(#set),...)
   IFCDOOR('',...) by IFCTYPEPRODUCT('',$,$,$,$,(#set),...) -> set-not-applicable #type
 IFC4 IFC4X3_ADD2 Pset_WallCommon
+  IFCRECTANGLEPROFILEDEF(.AREA.,$,$,1.,1.) -> set-not-applicable
   IFCWALLTYPE('',...,.SOLIDWALL.)
   IFCPROJECT('',...) -> set-not-applicable
 IFC4 Pset_WallCommon
@@ -215,7 +217,7 @@ IFC2X3 IFC4 IFC4X3_ADD2 IFCELEMENTQUANTITY('',$,'Acme',$,$,
                [](const std::string& release, const std::string& set, const std::string& text) {
                    const std::size_t blank = text.find(' ');
                    const NamedModel named(release, "#w=IFCWALL('',...);#s=" + set +
-                                                       "(#p,#q));#r=" + attached("#w", "#s") +
+                                                       "(#p,#q,#p));#r=" + attached("#w", "#s") +
                                                        "#p=" + text.substr(0, blank) + ";#q=" + text.substr(blank + 1) +
                                                        ";#t=IFCPROPERTYLISTVALUE('A',...);");
                    return told(named, shipped());
