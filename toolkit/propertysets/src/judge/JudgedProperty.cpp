@@ -1,6 +1,6 @@
 #include "judge/JudgedProperty.h"
 
-#include "judge/SharedText.h"
+#include "records/SharedText.h"
 #include "velkor/text/NearestNames.h"
 #include "velkor/text/Unicode.h"
 

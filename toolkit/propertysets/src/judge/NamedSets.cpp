@@ -1,7 +1,7 @@
 #include "judge/NamedSets.h"
 
-#include "judge/SharedText.h"
 #include "QORIFCPSetQtoValidationService.h"
+#include "records/SharedText.h"
 
 namespace velkor {
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "judge/JudgedProperty.h"
-#include "judge/SetFits.h"
 #include "judge/UnknownNames.h"
+#include "uses/SetFits.h"
 #include "velkor/propertysets/PropertySetCheck.h"
 #include "velkor/sdai/Model.h"
 

@@ -1,10 +1,11 @@
 #include "judge/PropertyJudge.h"
 
-#include "judge/SharedText.h"
+#include "records/SharedText.h"
 #include "velkor/text/Printable.h"
 #include "velkor/text/Wording.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace velkor {
 
@@ -14,6 +15,7 @@ namespace {
 constexpr std::size_t longText = 4000;
 // Of one complex property.
 constexpr std::size_t mostVerdicts = 100;
+constexpr std::uint64_t mostCounted = 1'000'000;
 constexpr int deepest = 8;
 // Of an enumeration, and of a text.
 constexpr std::size_t mostShown = 12, longestShown = 100;
@@ -90,11 +92,12 @@ void PropertyJudge::judgeMembers(const Asked& asked, PropertyOutcome& outcome, i
     if (asked.slots.members < 0 || depth == deepest) return;
     // The first member of each name.
     std::unordered_map<std::string_view, std::uint32_t> firsts;
+    std::unordered_set<std::uint32_t> judged;
     Record member(_model);
     eachReference(_model, asked.property.text(asked.slots.members), [&](std::uint32_t number) {
         member.read(number);
         const PropertySlots* slots = slotsOf(member);
-        if (slots == nullptr) return;
+        if (slots == nullptr || !judged.insert(number).second) return;
         const std::string_view name = member.text(slots->name);
         if (isText(name) && !isTooLong(name)) {
             const std::uint32_t first = firsts.try_emplace(name, number).first->second;
@@ -117,7 +120,7 @@ void PropertyJudge::judgeMember(const Asked& member, const Asked& whole, Propert
         addWithin(whole, outcome, unknown(wanted->members, entry, name, false));
     const PropertyOutcome& found = remembered({member.property, member.slots, memberWanted}, depth + 1);
     for (const Verdict& verdict : found.verdicts) addWithin(whole, outcome, verdict);
-    outcome.more += found.more;
+    outcome.more = std::min(outcome.more + found.more, mostCounted);
 }
 
 void PropertyJudge::addWithin(const Asked& whole, PropertyOutcome& outcome, Verdict verdict) {

@@ -2,11 +2,11 @@
 
 #include "judge/NamedSets.h"
 #include "judge/PropertyJudge.h"
-#include "judge/Record.h"
-#include "judge/RepeatedSets.h"
 #include "judge/SetCodes.h"
-#include "judge/SetList.h"
-#include "judge/SharedText.h"
+#include "records/Record.h"
+#include "records/SharedText.h"
+#include "uses/RepeatedSets.h"
+#include "uses/SetList.h"
 #include "velkor/text/Printable.h"
 #include "velkor/text/Wording.h"
 

@@ -1,8 +1,8 @@
 /// Where instances of each kind of property and quantity have what counts here.
 #pragma once
 
-#include "judge/Record.h"
-#include "judge/SharedText.h"
+#include "records/Record.h"
+#include "records/SharedText.h"
 #include "velkor/propertysets/SetDefinition.h"
 
 #include <array>

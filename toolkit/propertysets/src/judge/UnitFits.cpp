@@ -1,6 +1,6 @@
 #include "judge/UnitFits.h"
 
-#include "judge/Record.h"
+#include "records/Record.h"
 #include "velkor/units/MeasureUnits.h"
 
 namespace velkor {

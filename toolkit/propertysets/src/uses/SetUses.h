@@ -2,7 +2,7 @@
 /// by it, the types that hold it, and the material or profile that it belongs to.
 #pragma once
 
-#include "judge/SetList.h"
+#include "uses/SetList.h"
 #include "velkor/sdai/Model.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
-#include "judge/SetUses.h"
+#include "uses/SetUses.h"
 
-#include "judge/Record.h"
-#include "judge/SharedText.h"
+#include "records/Record.h"
+#include "records/SharedText.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "judge/BearerKinds.h"
+#include "uses/BearerKinds.h"
 
-#include "judge/Record.h"
-#include "judge/SharedText.h"
+#include "records/Record.h"
+#include "records/SharedText.h"
 
 #include <utility>
 

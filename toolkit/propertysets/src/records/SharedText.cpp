@@ -1,4 +1,4 @@
-#include "judge/SharedText.h"
+#include "records/SharedText.h"
 
 #include "velkor/sdai/Part21Lexer.h"
 #include "velkor/text/Wording.h"

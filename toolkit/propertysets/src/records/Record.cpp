@@ -1,4 +1,4 @@
-#include "judge/Record.h"
+#include "records/Record.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "judge/SetFits.h"
+#include "uses/SetFits.h"
 
 #include <algorithm>
 

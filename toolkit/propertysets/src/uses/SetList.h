@@ -1,7 +1,7 @@
 /// The property sets and quantity sets of a model.
 #pragma once
 
-#include "judge/Record.h"
+#include "records/Record.h"
 #include "velkor/sdai/Model.h"
 
 #include <cstdint>

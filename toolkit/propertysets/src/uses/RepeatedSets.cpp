@@ -1,4 +1,4 @@
-#include "judge/RepeatedSets.h"
+#include "uses/RepeatedSets.h"
 
 #include <algorithm>
 
@@ -7,7 +7,7 @@ namespace velkor {
 namespace {
 
 // Files of programs take a step or a few for each object of a relationship.
-constexpr std::uint64_t fewSteps = 10'000'000, stepsOfAUse = 32;
+constexpr std::uint64_t fewSteps = 100'000'000, stepsOfAUse = 32;
 
 // Those with a name, by name, in the order of the file.
 std::vector<std::uint32_t> sortedByName(std::span<const std::uint32_t> names) {

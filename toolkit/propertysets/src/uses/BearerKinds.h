@@ -1,7 +1,7 @@
 /// The objects that sets are attached to, by what a set may ask of them. What goes for one goes for all that are alike.
 #pragma once
 
-#include "judge/SetUses.h"
+#include "uses/SetUses.h"
 #include "velkor/propertysets/SetApplicability.h"
 
 #include <span>

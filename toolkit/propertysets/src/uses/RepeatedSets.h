@@ -1,7 +1,7 @@
 /// Objects that have two sets of one name.
 #pragma once
 
-#include "judge/SetUses.h"
+#include "uses/SetUses.h"
 
 #include <cstdint>
 #include <span>

@@ -1,4 +1,4 @@
-#include "judge/SetList.h"
+#include "uses/SetList.h"
 
 #include <algorithm>
 

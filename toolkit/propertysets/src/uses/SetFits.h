@@ -1,7 +1,7 @@
 /// Which objects have a set that is not for them, of the sets of one name.
 #pragma once
 
-#include "judge/BearerKinds.h"
+#include "uses/BearerKinds.h"
 
 #include <array>
 #include <unordered_map>
