@@ -294,8 +294,15 @@ TEST_F(ResourcesCheckTest, Definitions) {
         {set(ofClass("IfcPump") + tag, "document", "2x3 TC1"), ""},
         {set(ofClass("IfcGeographicElement") + tag, "document", "IFC2X3"), "3 unknown-entity: IFC4 has it"},
         {set(ofClass("IfcGeographicElement") + tag, "document", "IFC2X3, IFC4x3"), ""},
+        // A draft has no definitions of its own.
+        {set(ofClass("IfcFacilityPartCommon") + tag, "document", "IFC4X3_RC1"), ""},
         {set(wall + tag, "document", "IFC5"), "1 unknown-release"},
         {set(wall + single("IfcLenghtMeasure")), "4 type-unknown: did you mean \"IFCLENGTHMEASURE\"?"},
+        // For no release in particular, what none of them has is told.
+        {set(wall + single("IfcLabl") + property("<TypePropertyReferenceValue reftype='IfcCalendarDate'/>", "Day")),
+         "4 type-unknown: did you mean \"IFCLABEL\"?"},
+        {set(wall + property("<TypePropertyReferenceValue reftype='IfcCalendarDate'/>"), "document", "IFC4"),
+         "4 type-unknown"},
         {set(wall + single("IfcLengthMeasure", "LENGHTUNIT")), "4 unit-unknown: did you mean \"LENGTHUNIT\"?"},
         {set(wall + single("IfcLengthMeasure", "AREAUNIT")), "4 unit-mismatch"},
         {set(wall + single("IfcLengthMeasure", "IFCLENGTHMEASURE")), "4 unit-is-measure"},
