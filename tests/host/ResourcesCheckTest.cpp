@@ -292,7 +292,8 @@ TEST_F(ResourcesCheckTest, Definitions) {
         {set(ofClass("IfcWall/Garden wall") + tag, "document", "IFC4"), ""},
         {set(ofClass("IfcFan/CENTRIFUGAL") + tag, "document", "IFC4"), "3 predefined-type-unknown"},
         {set(ofClass("IfcPump") + tag, "document", "2x3 TC1"), ""},
-        {set(ofClass("IfcGeographicElement") + tag, "document", "IFC2X3"), "3 unknown-entity: IFC4 has it"},
+        {set(ofClass("IfcGeographicElement") + tag, "document", "IFC2X3"),
+         "1 class-missing, 3 unknown-entity: IFC4 has it"},
         {set(ofClass("IfcGeographicElement") + tag, "document", "IFC2X3, IFC4x3"), ""},
         // A draft has no definitions of its own.
         {set(ofClass("IfcFacilityPartCommon") + tag, "document", "IFC4X3_RC1"), ""},
@@ -348,7 +349,7 @@ TEST_F(ResourcesCheckTest, TablesOfDefinitions) {
         {table(right + "  fault 3 oddity \"odd\"\n"), "8 unknown-fault"},
         {table(right + "  single TAG IfcLabel\n"), "8 duplicate-key"},
         {table("  class IfcWal\n  single Tag IfcLabl\n"),
-         "8 class-unknown, 8 type-unknown: did you mean \"IFCLABEL\"?"},
+         "8 class-unknown, 8 class-missing, 8 type-unknown: did you mean \"IFCLABEL\"?"},
         // Told by the table already.
         {table("  class IfcWall SHEER\n"), "8 predefined-type-unknown: did you mean \"SHEAR\"?"},
         {table("  fault 0 predefined-type-unknown \"predefined type \\\"SHEER\\\" of class \\\"IfcWall\\\": objects "
