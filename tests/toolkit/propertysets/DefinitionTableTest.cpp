@@ -34,13 +34,14 @@ DefinitionTable everything() {
     set.properties[0].unitType = "LENGTHUNIT";
     set.properties[1].enumerators = {"values", "by", "", "NOT KNOWN", "\"", "a\\nb"};
     set.properties[1].enumeration = "list";
-    PropertyDefinition table2 = property(PropertyKind::Table, "T", "IfcRatioMeasure");
-    table2.definingType = "IfcReal";
+    PropertyDefinition curve = property(PropertyKind::Table, "T", "IfcRatioMeasure");
+    curve.definingType = "IfcReal";
+    curve.definingUnitType = "by-unit";
     PropertyDefinition inner = property(PropertyKind::Complex, "Inner"),
                        outer = property(PropertyKind::Complex, "Outer");
     inner.members = {property(PropertyKind::List, "L", "IfcLabel"), property(PropertyKind::Bounded, "B")};
     outer.usageName = "Use of it";
-    outer.members = {table2, inner, property(PropertyKind::Reference, "R", "IfcPerson")};
+    outer.members = {curve, inner, property(PropertyKind::Reference, "R", "IfcPerson")};
     set.properties.push_back(outer);
     set.properties.push_back(inner);
     set.properties.push_back(property(PropertyKind::Single, ""));
@@ -64,7 +65,7 @@ TEST(DefinitionTableTest, WhatIsWrittenReadsBackTheSame) {
     EXPECT_TRUE(*read == table) << text << writtenTable(*read);
     EXPECT_THAT(text, HasSubstr("\nproperty-set Pset_A profile-driven\n  source Pset_A.xml aaaa"));
     EXPECT_THAT(text, HasSubstr("\n  class IfcActuator ELECTRICACTUATOR\n"));
-    EXPECT_THAT(text, HasSubstr("\n  complex Outer usage \"Use of it\"\n    table T IfcRatioMeasure by IfcReal\n"
+    EXPECT_THAT(text, HasSubstr("\n  complex Outer usage \"Use of it\"\n    table T IfcRatioMeasure by IfcReal by-unit \"by-unit\"\n"
                                 "    complex Inner\n      list L IfcLabel\n"));
 
     // As other systems end lines, and with what people add.
