@@ -65,7 +65,8 @@ TEST(DefinitionTableTest, WhatIsWrittenReadsBackTheSame) {
     EXPECT_TRUE(*read == table) << text << writtenTable(*read);
     EXPECT_THAT(text, HasSubstr("\nproperty-set Pset_A profile-driven\n  source Pset_A.xml aaaa"));
     EXPECT_THAT(text, HasSubstr("\n  class IfcActuator ELECTRICACTUATOR\n"));
-    EXPECT_THAT(text, HasSubstr("\n  complex Outer usage \"Use of it\"\n    table T IfcRatioMeasure by IfcReal by-unit \"by-unit\"\n"
+    EXPECT_THAT(text, HasSubstr("\n  complex Outer usage \"Use of it\"\n"
+                                "    table T IfcRatioMeasure by IfcReal by-unit \"by-unit\"\n"
                                 "    complex Inner\n      list L IfcLabel\n"));
 
     // As other systems end lines, and with what people add.
