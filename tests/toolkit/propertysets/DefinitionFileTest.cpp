@@ -101,6 +101,8 @@ TEST(DefinitionFileTest, EveryReleasesWayOfSayingItIsRead) {
              "IfcActuator/ELECTRICACTUATOR, IfcDiscreteAccessory/Wire loop {}"},
             {classes("<ClassName>IFCSHAREDBLDGELEMENTS/IfcBeam\n</ClassName>"), "IfcBeam {}",
              "blanks class-with-schema"},
+            {classes("<ClassName>IFCHVACDOMAIN/IfcFan/AIRFOIL</ClassName><ClassName>IfcFan/</ClassName>"),
+             "IfcFan/AIRFOIL, IfcFan {}", "class-with-schema"},
             {classes("<ClassName> IfcZone</ClassName><ClassName/>"), "IfcZone {}", "blanks class-missing"},
             {classes("<ClassName>IfcDoor, IfcWindow</ClassName>"), "IfcDoor, IfcWindow {}", "classes-in-one-text"},
             {classes("<ClassName>IfcDoor</ClassName><ClassName>IfcDoor/GATE</ClassName><ClassName>IfcDoor</ClassName>"),

@@ -173,7 +173,8 @@ void addClasses(std::string_view text, int line, std::vector<ApplicableClass>& c
         std::string_view entity = taken(behind, "/");
         behind = trimmed(behind);
         if (behind.starts_with(classPrefix) && !entity.starts_with(classPrefix)) {
-            entity = std::exchange(behind, {});
+            entity = taken(behind, "/");
+            behind = trimmed(behind);
             addFault(faults, line, definitionfaults::classWithSchema, shown(whole), "read as " + std::string(entity));
         }
         if (!entity.empty()) classes.push_back({std::string(entity), std::string(behind)});
