@@ -69,7 +69,7 @@ class Checker {
 public:
     Checker(const sdai::Model& model, const SetLibrary& library, const CheckOptions& options)
         : _model(model), _options(options), _sets(model), _uses(model, _sets), _bearers(model, _uses),
-          _named(model, library), _judge(model, options.codes), _record(model), _member(model) {}
+          _named(model, library), _judge(model, options.codes), _record(model), _member(model), _object(model) {}
 
     PropertySetCheck check();
 
@@ -107,6 +107,8 @@ private:
     std::size_t _index = 0;
     Record _record;
     Record _member;
+    // What a finding is about.
+    Record _object;
     bool _isQuantitySet = false;
     NamedSet* _set = nullptr;
     SetUse _total;
@@ -289,10 +291,10 @@ SetFinding* Checker::add(Code code, const SetUse& use, sdai::Severity severity) 
     finding.problem = {severity, offset, file.line(offset), _record.id(), std::string(codeOf(code).code), {}};
     finding.set = _set->name;
     if (use.isAny()) {
-        const Record object(_model, _uses.numberOf(use.first));
-        finding.object = object.id();
-        finding.objectEntity = object.entity() == nullptr ? "" : object.entity()->name();
-        finding.objectName = nameShown(object.text("NAME"));
+        _object.read(_uses.numberOf(use.first));
+        finding.object = _object.id();
+        finding.objectEntity = _object.entity() == nullptr ? "" : _object.entity()->name();
+        finding.objectName = nameShown(_object.text("NAME"));
         finding.others = use.count - 1;
     }
     return &_result.findings.emplace_back(std::move(finding));

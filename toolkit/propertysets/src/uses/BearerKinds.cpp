@@ -13,18 +13,19 @@ namespace {
 constexpr const char* objectTypeAttributes[] = {"OBJECTTYPE", "ELEMENTTYPE", "PROCESSTYPE", "RESOURCETYPE", "CATEGORY"};
 constexpr std::string_view objectEntity = "IFCOBJECTDEFINITION";
 
-// The one that the entity has. A text too long for a name is none.
-std::string objectTypeOf(const Record& object) {
-    for (const char* attribute : objectTypeAttributes) {
-        if (const std::string_view text = object.text(attribute); !text.empty()) return nameText(text);
-    }
-    return {};
-}
-
 std::string_view predefinedTypeOf(const Record& object) {
     const sdai::Primitive type = object.attribute("PREDEFINEDTYPE");
     // Transport elements of IFC2X3 call theirs otherwise.
     return (type.declaredType() != nullptr ? type : object.attribute("OPERATIONTYPE")).asEnumeration().text();
+}
+
+// Nothing where the predefined type says it. A text too long for a name is none.
+std::string objectTypeOf(const Record& object, std::string_view predefinedType) {
+    if (!predefinedType.empty() && predefinedType != "USERDEFINED") return {};
+    for (const char* attribute : objectTypeAttributes) {
+        if (const std::string_view text = object.text(attribute); !text.empty()) return nameText(text);
+    }
+    return {};
 }
 
 template <class Kind, class Hash, class KindOf>
@@ -45,16 +46,15 @@ std::vector<BearerKinds::Alike<Kind>> alike(SetUses::Objects objects, KindOf kin
 
 } // namespace
 
-BearerDetail::BearerDetail(const sdai::Model& model, const SetUses& uses, ObjectIndex object)
-    : kind(uses.kindOf(object)) {
-    Record record(model, uses.numberOf(object));
+BearerDetail::BearerDetail(Record& record, const SetUses& uses, ObjectIndex object) : kind(uses.kindOf(object)) {
+    record.read(uses.numberOf(object));
     predefinedType = predefinedTypeOf(record);
-    objectType = objectTypeOf(record);
+    objectType = objectTypeOf(record, predefinedType);
     isOpen = objectType.empty() && kind.first != nullptr && !kind.first->isKindOf(objectEntity);
     if (uses.typeOf(object) == SetUses::none) return;
     record.read(uses.typeOf(object));
     typePredefinedType = predefinedTypeOf(record);
-    typeObjectType = objectTypeOf(record);
+    typeObjectType = objectTypeOf(record, typePredefinedType);
 }
 
 SetBearer BearerDetail::bearer() const noexcept {
@@ -80,7 +80,7 @@ std::span<const BearerKinds::Alike<ObjectKind>> BearerKinds::kindsOf(std::uint32
 }
 
 std::span<const BearerKinds::Alike<BearerDetail>> BearerKinds::detailsOf(std::uint32_t number) {
-    const auto kindOf = [&](ObjectIndex object) { return BearerDetail(_model, _uses, object); };
+    const auto kindOf = [&](ObjectIndex object) { return BearerDetail(_record, _uses, object); };
     const SetUses::Objects objects = _uses.group(number);
     if (objects.size() == 1) return _details.single = alike<BearerDetail, BearerDetailHash>(objects, kindOf);
     auto [known, isNew] = _details.several.try_emplace(number);

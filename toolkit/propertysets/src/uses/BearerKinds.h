@@ -1,6 +1,7 @@
 /// The objects that sets are attached to, by what a set may ask of them. What goes for one goes for all that are alike.
 #pragma once
 
+#include "records/Record.h"
 #include "uses/SetUses.h"
 #include "velkor/propertysets/SetApplicability.h"
 
@@ -22,7 +23,8 @@ struct BearerDetail {
     /// What might tell its kind is unset: a material without a category.
     bool isOpen = false;
 
-    BearerDetail(const sdai::Model& model, const SetUses& uses, ObjectIndex object);
+    /// Reads the instances of the object and its type.
+    BearerDetail(Record& record, const SetUses& uses, ObjectIndex object);
     SetBearer bearer() const noexcept;
     bool operator==(const BearerDetail&) const = default;
 };
@@ -40,7 +42,7 @@ public:
         SetUse use;
     };
 
-    BearerKinds(const sdai::Model& model, const SetUses& uses) noexcept : _model(model), _uses(uses) {}
+    BearerKinds(const sdai::Model& model, const SetUses& uses) : _record(model), _uses(uses) {}
 
     const SetUses& uses() const noexcept { return _uses; }
     /// The objects of a group by their entities, in the order in which the first of each stands.
@@ -56,7 +58,7 @@ private:
         std::vector<Alike<Kind>> single;
     };
 
-    const sdai::Model& _model;
+    Record _record;
     const SetUses& _uses;
     Groups<ObjectKind> _kinds;
     Groups<BearerDetail> _details;

@@ -6,6 +6,9 @@ namespace velkor {
 
 namespace {
 
+// Every object may have an object type of its own.
+constexpr std::size_t mostDetails = 1000;
+
 void add(Misfits& misfits, SetFit fit, const SetUse& use) noexcept {
     if (fit == SetFit::WrongTemplate) misfits.wrongTemplate.add(use);
     if (fit != SetFit::WrongClass && fit != SetFit::WrongPredefinedType) return;
@@ -70,11 +73,11 @@ SetFit SetFits::fitOfGenericType(std::uint32_t type, const SetUses& uses) const 
 }
 
 SetFit SetFits::fitOf(const BearerDetail& detail) {
-    const auto [known, isNew] = _details.try_emplace(detail);
-    if (!isNew) return known->second;
-    known->second = _applicability.fit(detail.bearer());
-    if (detail.isOpen && known->second == SetFit::WrongPredefinedType) known->second = SetFit::Applies;
-    return known->second;
+    if (const auto known = _details.find(detail); known != _details.end()) return known->second;
+    SetFit fit = _applicability.fit(detail.bearer());
+    if (detail.isOpen && fit == SetFit::WrongPredefinedType) fit = SetFit::Applies;
+    if (_details.size() < mostDetails) _details.emplace(detail, fit);
+    return fit;
 }
 
 } // namespace velkor
