@@ -15,7 +15,6 @@ namespace {
 using namespace definitions;
 constexpr std::string_view classPrefix = "Ifc";
 constexpr std::string_view typeEndings[] = {"Type", "Style"};
-constexpr std::string_view setPrefixes[] = {"Pset_", "Qto_"};
 // What sets of performance histories are called by.
 constexpr std::string_view historyWord = "PHistory";
 constexpr std::string_view performanceHistory = "IfcPerformanceHistory";
@@ -63,7 +62,7 @@ private:
 
     // "IfcElementAssembly" of Pset_ElementAssemblyCommon: the longest beginning of the name that is an entity.
     void nameClass() {
-        for (const std::string_view prefix : setPrefixes) {
+        for (const std::string_view prefix : {propertySetPrefix, quantitySetPrefix}) {
             if (!_definition.name.starts_with(prefix)) continue;
             std::string entity = joined(classPrefix, std::string_view(_definition.name).substr(prefix.size()));
             while (entity.size() > classPrefix.size() && _schema.entity(entity) == nullptr) entity.pop_back();

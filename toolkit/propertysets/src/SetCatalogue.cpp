@@ -151,7 +151,7 @@ std::vector<const SetDefinition*> SetCatalogue::all() const {
 }
 
 bool SetCatalogue::definesQuantitySets() const noexcept {
-    return std::ranges::any_of(names(), [](std::string_view name) { return name.starts_with("Qto_"); });
+    return std::ranges::any_of(names(), [](std::string_view name) { return name.starts_with(quantitySetPrefix); });
 }
 
 std::string_view SetCatalogue::spelledAlike(std::string_view setName) const {

@@ -89,6 +89,7 @@ private:
     // Of the set, counted from 1.
     std::uint64_t ordinal() const noexcept { return _index + 1; }
     bool isDescribed() const noexcept { return _result.total < _options.limit; }
+    sdai::Severity agreedSeverity(Code code) const;
     SetFinding* add(Code code, const SetUse& use);
     SetFinding* add(Code code, const SetUse& use, sdai::Severity severity);
 
@@ -219,7 +220,7 @@ void Checker::checkMethod() {
     if (found.empty()) return;
     if (isByPractice ? found == baseQuantities : std::ranges::find(methods, found) != methods.end()) return;
     SetFinding* finding = add(Code::QuantityMethod, _total,
-                              isByPractice ? sdai::Severity::Warning : severityOf(Code::QuantityMethod, true));
+                              isByPractice ? sdai::Severity::Warning : agreedSeverity(Code::QuantityMethod));
     if (finding == nullptr) return;
     finding->problem.message = ofObject(*finding) + " has the method of measurement " + text::quoted(found) +
                                "; expected " + (isByPractice ? std::string(baseQuantities) : text::joined(methods));
@@ -278,9 +279,14 @@ void Checker::addVerdict(const Verdict& verdict) {
         ofObject(*finding) + ' ' + verdict.before + text::quoted(verdict.property) + verdict.after;
 }
 
+sdai::Severity Checker::agreedSeverity(Code code) const {
+    // The agreements leave to others what they put into sets of their own.
+    return hasStandardPrefix(_set->name) ? severityOf(code, _isQuantitySet) : sdai::Severity::Warning;
+}
+
 // A new finding at the current set, or null when it is only counted.
 SetFinding* Checker::add(Code code, const SetUse& use) {
-    return add(code, use, severityOf(code, _isQuantitySet));
+    return add(code, use, agreedSeverity(code));
 }
 
 SetFinding* Checker::add(Code code, const SetUse& use, sdai::Severity severity) {

@@ -9,7 +9,6 @@ namespace velkor {
 namespace {
 
 constexpr std::string_view propertySet = "PSET", quantitySet = "QTO";
-constexpr std::string_view writtenPropertySet = "Pset_", writtenQuantitySet = "Qto_";
 // A file may have more names that are wrong than anybody wants hints for.
 constexpr std::size_t mostHints = 1000;
 
@@ -29,11 +28,10 @@ std::optional<UnknownName> UnknownNames::judge(std::string_view name) {
     // No agreement speaks of other names that are only written like those of the standard, nor of quantity sets in a
     // release that defines none.
     const bool isAgreedOn =
-        beginning == propertySet || (name.starts_with(writtenQuantitySet) && _catalogue.definesQuantitySets());
+        beginning == propertySet || (name.starts_with(quantitySetPrefix) && _catalogue.definesQuantitySets());
     unknown.severity = isAgreedOn ? sdai::Severity::Error : sdai::Severity::Warning;
     if (isWrittenAlike || _hints++ < mostHints) unknown.nearest = _catalogue.likelyName(name);
-    if (name.starts_with(writtenPropertySet) || name.starts_with(writtenQuantitySet))
-        unknown.releases = _library.releasesWith(name);
+    if (hasStandardPrefix(name)) unknown.releases = _library.releasesWith(name);
     return unknown;
 }
 

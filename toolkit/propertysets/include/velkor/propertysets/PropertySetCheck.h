@@ -28,7 +28,8 @@ struct SetCode {
     /// What it means, in a sentence.
     std::string_view meaning;
     /// The implementer agreement of buildingSMART that calls it a fault: "PSE001" for property sets; empty when none
-    /// does. Findings of such codes are errors, others warnings.
+    /// does. Findings of such codes are errors, others warnings, and so are
+    /// those about sets whose names are not those of the standard.
     std::string_view agreement;
     /// The same for quantity sets.
     std::string_view quantityAgreement;

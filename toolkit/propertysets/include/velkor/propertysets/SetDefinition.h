@@ -11,6 +11,12 @@
 
 namespace velkor {
 
+/// How the names of the sets that releases define begin.
+inline constexpr std::string_view propertySetPrefix = "Pset_", quantitySetPrefix = "Qto_";
+constexpr bool hasStandardPrefix(std::string_view setName) noexcept {
+    return setName.starts_with(propertySetPrefix) || setName.starts_with(quantitySetPrefix);
+}
+
 /// What kind of property or quantity a definition wants.
 enum class PropertyKind : std::uint8_t {
     Single,     ///< IFCPROPERTYSINGLEVALUE
