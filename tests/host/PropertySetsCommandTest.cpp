@@ -131,6 +131,8 @@ TEST_F(PropertySetsCommandTest, SaysWhatIsMeantByNamesThatAreUnknown) {
              {"list 4 IfcPupm", Findings, "IFC4 has no entity \"IfcPupm\"; nearest: IFCPUMP"},
              {"list 4 IfcPump/CIRCULATER", Findings,
               "IFCPUMP of IFC4 has no predefined type \"CIRCULATER\"; nearest: CIRCULATOR"},
+             {"list 4 IfcActuator/HANDOPERATED", Findings,
+              "IFCACTUATOR of IFC4 has no predefined type \"HANDOPERATED\"; nearest: HANDOPERATEDACTUATOR\n"},
              {"diff 4 4x3 Pset_WalCommon", Findings, "IFC4X3_ADD2 has no set \"Pset_WalCommon\"; nearest: "},
              {"list 5", BadUsage, "unknown release \"5\""},
          }) {

@@ -108,16 +108,16 @@ bool hasDefinitions(CommandContext& context, const SetCatalogue& catalogue) {
 
 /// Predefined types that objects of an entity can have, and those that sets for it name beside them.
 std::vector<std::string_view> predefinedTypes(const sdai::EntityDefinition& entity, const SetList& sets) {
-    std::vector<std::string_view> known;
+    std::set<std::string_view> known;
     const sdai::Attribute* attribute = entity.attribute("PREDEFINEDTYPE");
     if (attribute != nullptr) {
         if (const auto* enumeration = attribute->type().resolved().asEnumeration())
-            known.assign(enumeration->values().begin(), enumeration->values().end());
+            known.insert(enumeration->values().begin(), enumeration->values().end());
     }
     for (const SetDefinition* set : sets)
         for (const ApplicableClass& one : set->classes)
-            if (!one.predefinedType.empty()) known.push_back(one.predefinedType);
-    return known;
+            if (!one.predefinedType.empty()) known.insert(one.predefinedType);
+    return {known.begin(), known.end()};
 }
 
 /// Fills in what applies to "IfcActuator" or "IfcActuator/ELECTRICACTUATOR". False after saying what is not known.
