@@ -28,6 +28,7 @@ std::string surroundings(const std::string& release) {
                     ".MEASURED.,$,$,1.,(#v));") +
            "#v=IFCTIMESERIESVALUE((IFCREAL(1.)));"
            "#wide=IFCPROPERTYSINGLEVALUE('Width',$,IFCLENGTHMEASURE(1.),#second);"
+           "#long=IFCQUANTITYLENGTH('Part',$,#second,1.,...);"
            "#fewer=IFCPROPERTYENUMERATION('',(IFCLABEL('FIXED'),IFCLABEL('OTHER')),$);"
            "#others=IFCPROPERTYENUMERATION('',(IFCLABEL('FIXED'),IFCLABEL('SOME'),IFCLABEL('ANY')),$);";
 }
@@ -60,8 +61,11 @@ protected:
             std::string keyword, set, property;
             words >> keyword >> set >> property;
             if (const std::size_t at = text.find('@'); at < text.size()) text.replace(at, 1, '\'' + property + "',$");
-            const NamedModel named(release, surroundings(release) + setOf(release, keyword, set) + "#p=" + text + ';');
-            return told(named, shipped(), {}, property);
+            const std::string instances = surroundings(release) + setOf(release, keyword, set) + "#p=" + text + ';';
+            const std::string found = told(NamedModel(release, instances), shipped(), {}, property);
+            const NamedModel loose(release, instances, NamedModel::Layout::Loose);
+            EXPECT_EQ(told(loose, shipped(), {}, property), found) << "laid out in another way";
+            return found;
         });
     }
 };
@@ -258,6 +262,7 @@ IFC2X3 IFC4 IFC4X3_ADD2 IFCMATERIAL Acme Width
 IFC4 IFC4X3_ADD2 IFCWALL Qto_WallBaseQuantities Length
   IFCQUANTITYLENGTH(@,#metre,1.,$)
   IFCQUANTITYLENGTH(@,#second,1.,$) -> value-unit
+  IFCPHYSICALCOMPLEXQUANTITY(@,(#long),'',$,$) -> quantity-kind, value-unit Length.Part
 IFC4 IFC4X3_ADD2 IFCWALL Qto_WallBaseQuantities NetSideArea
   IFCQUANTITYAREA(@,#metre,1.,$) -> value-unit
 IFC2X3 IFCWALL Qto_OfMine Length

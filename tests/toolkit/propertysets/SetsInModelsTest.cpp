@@ -146,6 +146,13 @@ TEST_F(SetsInModelsTest, AreToldWithPlaceObjectsAndWhatIsExpected) {
             "IFCLABEL('OLD')),$);#t=IFCPROPERTYSET('',$,'Pset_SlabCommon',$,(#x));#x=IFCPROPERTYSINGLEVALUE("
             "'Reference',$,$,$);#u=" +
             attached("#v", "#t"));
+    EXPECT_EQ(
+        told(NamedModel("IFC4", "#m=IFCMATERIALPROPERTIES('Pset_M',$,(),#o);#q=IFCELEMENTQUANTITY('',$,'Qto_Q',$,$,"
+                                "());#s=IFCPROPERTYSET('',$,'Pset_S',$,());#o=IFCMATERIAL('Oak',...);#w=IFCWALL('"
+                                "',...);#r=" +
+                                    attached("#w", "#q") + "#t=" + attached("#w", "#s")),
+             shipped()),
+        "set-unknown #o, set-unknown #w, set-unknown #w");
     const auto check = checkPropertySets(named.model(), shipped());
     ASSERT_EQ(check.findings.size(), 3u);
     const SetFinding& type = check.findings[0];
