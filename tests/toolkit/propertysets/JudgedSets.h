@@ -15,7 +15,7 @@ namespace velkor::test {
 
 inline const std::string shippedDefinitions = VELKOR_RESOURCE_DIR "/runtime";
 
-/// Codes of what no agreement calls a fault.
+/// Codes of what no agreement calls a fault; nor does one speak of sets of one's own.
 inline const std::set<std::string> warnings{"set-repeated", "property-repeated", "value-unit"};
 
 class JudgedSets : public ConfiguredTest {

@@ -76,16 +76,16 @@ TEST_F(SetsInModelsTest, OfTheUsersOwnAreJudgedAlike) {
 IFC4 IFC4X3_ADD2 .SOLIDWALL. Acme_Wall
   IFCPROPERTYSINGLEVALUE('Any',$,IFCLENGTHMEASURE(1.),$)
   IFCPROPERTYSINGLEVALUE('Any',$,IFCTEXT('a'),$)
-  IFCPROPERTYLISTVALUE('Any',$,(IFCTEXT('a')),$) -> property-kind Any
+  IFCPROPERTYLISTVALUE('Any',$,(IFCTEXT('a')),$) -> warning property-kind Any
   IFCPROPERTYSINGLEVALUE('Open',$,IFCTEXT('a'),$)
-  IFCPROPERTYSINGLEVALUE('Opn',$,IFCTEXT('a'),$) -> property-unknown Opn ~Open
+  IFCPROPERTYSINGLEVALUE('Opn',$,IFCTEXT('a'),$) -> warning property-unknown Opn ~Open
   IFCPROPERTYENUMERATEDVALUE('Choice',$,(IFCLABEL('B b')),$)
-  IFCPROPERTYENUMERATEDVALUE('Choice',$,(IFCLABEL('other')),$) -> value-enumerator Choice
+  IFCPROPERTYENUMERATEDVALUE('Choice',$,(IFCLABEL('other')),$) -> warning value-enumerator Choice
   IFCPROPERTYENUMERATEDVALUE('Free',$,(IFCLABEL('b')),$)
   IFCCOMPLEXPROPERTY('Size',$,'S',(#label,#width))
-  IFCCOMPLEXPROPERTY('Size',$,'S',(#text,#hight)) -> value-type Size.Label, property-unknown Size.Hight
+  IFCCOMPLEXPROPERTY('Size',$,'S',(#text,#hight)) -> warning value-type Size.Label, warning property-unknown Size.Hight
 IFC4 IFC4X3_ADD2 .PARTITIONING. Acme_Wall
-  IFCPROPERTYSINGLEVALUE('Open',$,IFCTEXT('a'),$) -> set-not-applicable #w
+  IFCPROPERTYSINGLEVALUE('Open',$,IFCTEXT('a'),$) -> warning set-not-applicable #w
 IFC4 IFC4X3_ADD2 $ Acme_Wal
   IFCPROPERTYSINGLEVALUE('Open',$,IFCTEXT('a'),$)
 IFC2X3 IFC4 IFC4X3_ADD2 $ Pset_WallCommon

@@ -137,8 +137,8 @@ IFC4 IFC4X3_ADD2 Pset_FanPHistory
     expectOfSets(R"(
 IFC2X3 IFC4 IFC4X3_ADD2 Acme_Types
   IFCWALLTYPE('',$,$,$,$,(#set),...,.STANDARD.)
-  IFCWALL('',...) -> set-template
-  IFCDOOR('',...) -> set-not-applicable
+  IFCWALL('',...) -> warning set-template
+  IFCDOOR('',...) -> warning set-not-applicable
 )",
                  mine);
 }
