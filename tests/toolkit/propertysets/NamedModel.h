@@ -70,7 +70,7 @@ private:
         std::string result;
         bool isInString = false;
         for (const char character : text) {
-            isInString ^= character == '\'';
+            isInString ^= character == '\'' && !result.ends_with("\\S\\");
             const bool isPlace = !isInString && std::string_view("(),;").find(character) != std::string_view::npos;
             if (isPlace) result += " /*,)'*/ ";
             result += character;

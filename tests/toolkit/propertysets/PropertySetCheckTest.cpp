@@ -244,6 +244,7 @@ IFC2X3 IFC4 IFC4X3_ADD2 IFCBOILERTYPE Pset_BoilerTypeCommon NominalPartLoadRatio
 IFC2X3 IFC4 IFC4X3_ADD2 IFCWALL Pset_WallCommon FireRating
   IFCPROPERTYSINGLEVALUE(@,IFCLABEL('A'),#metre) -> value-unit
   IFCPROPERTYSINGLEVALUE(@,IFCLABEL('A'),#own) -> value-unit
+  IFCPROPERTYSINGLEVALUE('FireRating','a\S\',b',IFCLABEL('A'),#own) -> value-unit
 IFC2X3 IFC4 IFC4X3_ADD2 IFCWALL Pset_WallCommon IsExternal
   IFCPROPERTYSINGLEVALUE(@,IFCBOOLEAN(.T.),#metre) -> value-unit
 IFC2X3 IFC4 IFC4X3_ADD2 IFCWALL Pset_WallCommon FireRating

@@ -61,7 +61,7 @@ TEST_F(SetsInModelsTest, OfTheUsersOwnAreJudgedAlike) {
     define("Pset_WallCommon", member("Colour", label), "IfcWall");
     define("Acme_Wall",
            member("Any", "<TypePropertySingleValue><DataType type=\"IfcValue\"/></TypePropertySingleValue>") +
-               member("Open", "<TypePropertySingleValue/>") +
+               member("Open", "<TypePropertySingleValue/>") + member("Loose", "") +
                member("Choice", "<TypePropertyEnumeratedValue><EnumList name=\"E\"><EnumItem>a</EnumItem>"
                                 "<EnumItem>B b</EnumItem></EnumList></TypePropertyEnumeratedValue>") +
                member("Free", "<TypePropertyEnumeratedValue><EnumList name=\"E\"/></TypePropertyEnumeratedValue>") +
@@ -78,6 +78,7 @@ IFC4 IFC4X3_ADD2 .SOLIDWALL. Acme_Wall
   IFCPROPERTYSINGLEVALUE('Any',$,IFCTEXT('a'),$)
   IFCPROPERTYLISTVALUE('Any',$,(IFCTEXT('a')),$) -> warning property-kind Any
   IFCPROPERTYSINGLEVALUE('Open',$,IFCTEXT('a'),$)
+  IFCPROPERTYLISTVALUE('Loose',$,(IFCTEXT('a')),$)
   IFCPROPERTYSINGLEVALUE('Opn',$,IFCTEXT('a'),$) -> warning property-unknown Opn ~Open
   IFCPROPERTYENUMERATEDVALUE('Choice',$,(IFCLABEL('B b')),$)
   IFCPROPERTYENUMERATEDVALUE('Choice',$,(IFCLABEL('other')),$) -> warning value-enumerator Choice
