@@ -251,6 +251,14 @@ TEST_F(SetsInModelsTest, MayBeDamagedAndHostile) {
         EXPECT_EQ(check.total, check.findings.size()) << text;
     }
 
+    // Members too deep for one set are not for another.
+    std::string deep = "#s=IFCPROPERTYSET('',$,'A',$,(#ca));#t=IFCPROPERTYSET('',$,'B',$,(#ci));"
+                       "#u=IFCSIUNIT(*,.TIMEUNIT.,$,.SECOND.);"
+                       "#cj=IFCPROPERTYSINGLEVALUE('C',$,IFCLENGTHMEASURE(1.),#u);";
+    for (char c = 'a'; c < 'j'; ++c)
+        deep += std::string("#c") + c + "=IFCCOMPLEXPROPERTY('P',$,'',(#c" + static_cast<char>(c + 1) + "));";
+    EXPECT_EQ(told(NamedModel("IFC4", deep), shipped()), "value-unit P.C");
+
     // All sets of one relationship are sets of all its objects.
     std::string sets, objects, instances;
     for (int i = 0; i < 3000; ++i) {

@@ -72,7 +72,9 @@ const PropertyOutcome& PropertyJudge::remembered(const Asked& asked, int depth) 
     const auto [known, isNew] = _remembered.try_emplace({asked.property.number(), asked.wanted});
     PropertyOutcome& outcome = known->second;
     // What is within itself finds nothing yet, and stays out of itself.
-    if (!isNew) return outcome;
+    if (!isNew && (!outcome.isCut || depth >= outcome.depth)) return outcome;
+    outcome = {};
+    outcome.depth = depth;
     _isDescribed = true;
     judgeOne(asked, outcome);
     judgeMembers(asked, outcome, depth);
@@ -89,7 +91,11 @@ void PropertyJudge::judgeOne(const Asked& asked, PropertyOutcome& outcome) {
 }
 
 void PropertyJudge::judgeMembers(const Asked& asked, PropertyOutcome& outcome, int depth) {
-    if (asked.slots.members < 0 || depth == deepest) return;
+    if (asked.slots.members < 0) return;
+    if (depth == deepest) {
+        outcome.isCut = true;
+        return;
+    }
     // The first member of each name.
     std::unordered_map<std::string_view, std::uint32_t> firsts;
     std::unordered_set<std::uint32_t> judged;
@@ -121,6 +127,7 @@ void PropertyJudge::judgeMember(const Asked& member, const Asked& whole, Propert
     const PropertyOutcome& found = remembered({member.property, member.slots, memberWanted}, depth + 1);
     for (const Verdict& verdict : found.verdicts) addWithin(whole, outcome, verdict);
     outcome.more = std::min(outcome.more + found.more, mostCounted);
+    outcome.isCut = outcome.isCut || found.isCut;
 }
 
 void PropertyJudge::addWithin(const Asked& whole, PropertyOutcome& outcome, Verdict verdict) {

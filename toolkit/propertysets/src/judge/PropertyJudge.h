@@ -33,6 +33,9 @@ struct PropertyOutcome {
     std::vector<Verdict> verdicts = {};
     /// Of a complex property beyond measure: verdicts that are only counted.
     std::uint64_t more = 0;
+    /// How far within others it was judged, and whether that was too far to judge all of its members.
+    int depth = 0;
+    bool isCut = false;
 };
 
 /// What is shared by many sets and has a long text is judged once: time is in proportion to the text of the model.
