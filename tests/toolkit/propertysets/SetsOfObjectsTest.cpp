@@ -131,6 +131,7 @@ IFC4 IFC4X3_ADD2 Pset_FanPHistory
   IFCPERFORMANCEHISTORY('',...,'',$)
   IFCFAN('',...) -> set-template
   IFCFANTYPE('',$,$,$,$,(#set),...,.TUBEAXIAL.) -> set-template
+  IFCTYPEPRODUCT('',$,$,$,$,(#set),...) -> set-template
 )");
     define("Acme_Types", "", "IfcWall", "PSET_TYPEDRIVENONLY");
     const SetLibrary mine({{_own.path}, test::shippedDefinitions});
@@ -208,6 +209,7 @@ IFC2X3 IFC4 IFC4X3_ADD2 IFCPROPERTYSET('',$,'Pset_WallCommon',$,
 IFC2X3 IFC4 IFC4X3_ADD2 IFCPROPERTYSET('',$,'Acme',$,
   IFCPROPERTYSINGLEVALUE('A',...) IFCPROPERTYSINGLEVALUE('B',...)
   IFCPROPERTYSINGLEVALUE('A',...) IFCPROPERTYLISTVALUE('A',...) -> property-repeated A
+  IFCPROPERTYSINGLEVALUE('A',...) IFCPROPERTYSINGLEVALUE('\X2\0041\X0\',...) -> property-repeated A
   IFCPROPERTYSINGLEVALUE('A',...) IFCCOMPLEXPROPERTY('C',$,'',(#p,#p))
   IFCPROPERTYSINGLEVALUE('A',...) IFCCOMPLEXPROPERTY('C',$,'',(#p,#t)) -> property-repeated C.A
 IFC2X3 IFC4 IFC4X3_ADD2 IFCELEMENTQUANTITY('',$,'Acme',$,$,

@@ -166,8 +166,10 @@ std::string_view SetCatalogue::spelledAlike(std::string_view setName) const {
 std::string SetCatalogue::likelyName(std::string_view setName) const {
     if (setName.size() > longestName) return {};
     if (const std::string_view name = spelledAlike(setName); !name.empty()) return std::string(name);
-    // Names of the standard that lie further apart are those of other sets.
-    return text::likelyMeant({names().begin(), names().end()}, setName, 1);
+    const std::vector<std::string_view> known(names().begin(), names().end());
+    // What lies closer comes first: many names of the standard are close to each other.
+    std::string meant = text::likelyMeant(known, setName, 1);
+    return meant.empty() ? text::likelyMeant(known, setName, 2) : meant;
 }
 
 std::vector<std::string_view> SetCatalogue::namesWith(std::string_view text) const {

@@ -82,11 +82,13 @@ PropertyNames::~PropertyNames() = default;
 
 PropertyNames::Entry* PropertyNames::find(std::string_view name) {
     if (isTooLong(name)) return nullptr;
-    if (const auto known = _entries.find(name); known != _entries.end()) return &known->second;
+    if (const auto known = _written.find(name); known != _written.end()) return known->second;
     if (!isText(name)) return nullptr;
-    Entry& entry = _entries[name];
-    if (_definitions == nullptr) return &entry;
     const std::string text = nameText(name);
+    const auto [place, isNew] = _entries.try_emplace(text);
+    Entry& entry = place->second;
+    _written.emplace(name, &entry);
+    if (_definitions == nullptr || !isNew) return &entry;
     const auto isNamed = [&](const PropertyDefinition& each) { return text::equalIgnoringCase(each.name, text); };
     const auto definition = std::ranges::find_if(*_definitions, isNamed);
     if (definition == _definitions->end()) return &entry;

@@ -92,8 +92,9 @@ private:
     const std::vector<PropertyDefinition>* _definitions;
     const sdai::SchemaDefinition& _schema;
     std::unordered_map<const PropertyDefinition*, std::unique_ptr<JudgedProperty>> _properties;
-    // As the file writes it.
-    std::unordered_map<std::string_view, Entry> _entries;
+    std::unordered_map<std::string, Entry> _entries;
+    // As the file writes the names, some of them in several ways.
+    std::unordered_map<std::string_view, Entry*> _written;
 };
 
 struct JudgedProperty {

@@ -45,7 +45,7 @@ std::string classText(const ApplicableClass& applicable) {
 }
 
 std::string classesText(const std::vector<ApplicableClass>& classes) {
-    if (classes.empty()) return "no class";
+    if (classes.empty()) return "nothing, since its definition names no class";
     const std::size_t count = classes.size() > mostShown ? mostShown - 1 : classes.size();
     std::string text = text::joined(std::span(classes).first(count), ", ", classText);
     if (count < classes.size()) text += " and " + text::counted(classes.size() - count, "other", "others");

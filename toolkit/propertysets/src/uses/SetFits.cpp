@@ -69,7 +69,9 @@ SetFit SetFits::fitOfGenericType(std::uint32_t type, const SetUses& uses) const 
         return _applicability.fit({{.entity = entity}}) != SetFit::WrongClass;
     };
     if (!entities.empty() && std::ranges::none_of(entities, isRight)) return SetFit::WrongClass;
-    return _templateType == TemplateType::OccurrenceDriven ? SetFit::WrongTemplate : SetFit::Applies;
+    const bool isForNoType =
+        _templateType == TemplateType::OccurrenceDriven || _templateType == TemplateType::PerformanceDriven;
+    return isForNoType ? SetFit::WrongTemplate : SetFit::Applies;
 }
 
 SetFit SetFits::fitOf(const BearerDetail& detail) {
