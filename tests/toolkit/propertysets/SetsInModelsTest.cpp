@@ -110,6 +110,18 @@ IFC2X3 IFC4 IFC4X3_ADD2 $ Pset_SlabCommon
                });
 }
 
+TEST_F(SetsInModelsTest, OfPublishedFilesAreMendedInTheViewOfTheirRelease) {
+    define("Pset_Log",
+           "<PropertyDef><Name>Flow</Name><PropertyType><TypePropertySingleValue><DataType type=\"IfcTimeSeries\"/>"
+           "</TypePropertySingleValue></PropertyType></PropertyDef>",
+           "IfcWall");
+    const test::TemporaryFolder views;
+    std::filesystem::create_directory_symlink(_own.path, views / "IFC2X3");
+    const NamedModel named("IFC2X3", setOf("Pset_Log", "#p") + "#p=IFCPROPERTYREFERENCEVALUE('Flow',...);");
+    EXPECT_EQ(told(named, SetLibrary(DefinitionViews{{}, views.path})), "") << "a time series is no value but referred to";
+    EXPECT_EQ(told(named, SetLibrary(DefinitionViews{{_own.path}, {}})), "property-kind Flow") << "for every release, as written";
+}
+
 TEST_F(SetsInModelsTest, MeasureQuantitiesByAMethodOfTheirDefinition) {
     const std::string length = "<QtoDef><Name>Length</Name><QtoType>Q_LENGTH</QtoType></QtoDef>";
     const std::string element = "MethodOfMeasurement>";

@@ -28,12 +28,14 @@ constexpr std::string_view judgedByTheLast[] = {"IFC4X3_RC1", "IFC4X3_RC3", "IFC
 
 struct Entry {
     std::string path;
+    /// In the view of the release, whose dictionary mends what published files get wrong.
+    bool isOfRelease = false;
     bool isRead = false;
     std::unique_ptr<SetDefinition> definition;
     std::string reason;
 };
 
-void read(Entry& entry, xml::XmlEvents& events) {
+void read(Entry& entry, const std::string& release, xml::XmlEvents& events) {
     entry.isRead = true;
     const auto bytes = files::readFile(entry.path, mostDefinitionBytes + 1);
     if (!bytes) {
@@ -41,10 +43,12 @@ void read(Entry& entry, xml::XmlEvents& events) {
         return;
     }
     auto reading = readDefinition(events, *bytes, entry.path);
-    if (reading)
-        entry.definition = std::make_unique<SetDefinition>(std::move(reading->definition));
-    else
+    if (!reading) {
         entry.reason = std::move(reading.error().message);
+        return;
+    }
+    if (entry.isOfRelease) mendDefinition(reading->definition, release);
+    entry.definition = std::make_unique<SetDefinition>(std::move(reading->definition));
 }
 
 // Letters and digits alone, in lower case: what is left of a name that somebody spells in his own way.
@@ -82,7 +86,7 @@ struct SetCatalogue::Contents {
     Entry* entry(std::string_view setName) {
         const auto found = entries.find(setName);
         if (found == entries.end()) return nullptr;
-        if (!found->second.isRead) read(found->second, events);
+        if (!found->second.isRead) read(found->second, release, events);
         return &found->second;
     }
 };
@@ -92,13 +96,15 @@ SetCatalogue::SetCatalogue(const DefinitionViews& views, std::string_view releas
     _contents->release = release;
     QORListValQORUnicodeString folders;
     for (const std::string& folder : views.own) folders.Append(QORUnicodeString(std::string_view(folder)));
-    if (!views.byRelease.empty()) {
-        std::string folder = views.byRelease;
-        folders.Append(QORUnicodeString(std::string_view(folder.append("/").append(release))));
-    }
     const std::string_view ending = propertySetResource.nameText;
     std::string subPath("/");
     subPath += propertySetResource.subFolder;
+    std::string ofRelease;
+    if (!views.byRelease.empty()) {
+        ofRelease.append(views.byRelease).append("/").append(release);
+        folders.Append(QORUnicodeString(std::string_view(ofRelease)));
+        ofRelease.append(subPath).append("/");
+    }
     const auto paths = files::entriesOf(folders, QORUnicodeString(std::string_view(subPath)),
                                         QORUnicodeString(propertySetResource.nameText));
     _contents->files.reserve(static_cast<std::size_t>(paths.Size()));
@@ -108,7 +114,9 @@ SetCatalogue::SetCatalogue(const DefinitionViews& views, std::string_view releas
         name.remove_prefix(name.rfind('/') + 1);
         name.remove_suffix(ending.size());
         _contents->names.push_back(name);
-        _contents->entries[name].path = file;
+        Entry& entry = _contents->entries[name];
+        entry.path = file;
+        entry.isOfRelease = !ofRelease.empty() && file.starts_with(ofRelease);
     }
     std::ranges::sort(_contents->names);
 }

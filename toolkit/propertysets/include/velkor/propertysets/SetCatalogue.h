@@ -26,7 +26,7 @@ struct DefinitionViews {
     /// Runtime views, the strongest first, whose definitions hold for every release.
     std::vector<std::string> own;
     /// A folder with a runtime view for each release that defines sets, named after it; empty for none. What is in the
-    /// own views hides what has the same name here.
+    /// own views hides what has the same name here. Definitions are mended by the dictionary of the release.
     std::string byRelease;
 };
 
