@@ -118,8 +118,10 @@ TEST_F(SetsInModelsTest, OfPublishedFilesAreMendedInTheViewOfTheirRelease) {
     const test::TemporaryFolder views;
     std::filesystem::create_directory_symlink(_own.path, views / "IFC2X3");
     const NamedModel named("IFC2X3", setOf("Pset_Log", "#p") + "#p=IFCPROPERTYREFERENCEVALUE('Flow',...);");
-    EXPECT_EQ(told(named, SetLibrary(DefinitionViews{{}, views.path})), "") << "a time series is no value but referred to";
-    EXPECT_EQ(told(named, SetLibrary(DefinitionViews{{_own.path}, {}})), "property-kind Flow") << "for every release, as written";
+    EXPECT_EQ(told(named, SetLibrary(DefinitionViews{{}, views.path})), "")
+        << "a time series is no value but referred to";
+    EXPECT_EQ(told(named, SetLibrary(DefinitionViews{{_own.path}, {}})), "property-kind Flow")
+        << "for every release, as written";
 }
 
 TEST_F(SetsInModelsTest, MeasureQuantitiesByAMethodOfTheirDefinition) {
