@@ -53,6 +53,31 @@ TEST(Program, TellsItsVersionAndItsCommands) {
     }
 }
 
+TEST(Program, VersionNamesLibrariesCompilerAndBuildAsJson) {
+    const Outcome version =
+        shell("velkor --version --format json | python3 -c 'import json, sys; v = json.load(sys.stdin); "
+              "print(v[\"version\"], *(l[\"name\"] for l in v[\"libraries\"]), v[\"compiler\"][\"name\"], \"type\" in "
+              "v[\"build\"])'");
+    EXPECT_THAT(version.text, MatchesRegex("[0-9.]+ libxml2 utf8proc xxhash (gcc|clang) True\n"));
+    EXPECT_EQ(shell("velkor --format json 2>/dev/null").status, 2);
+}
+
+TEST(Program, HelpOfACommandIsWhatItsOptionSays) {
+    for (const std::string command : {"", "report", "guid", "guid check", "dictionary entity", "help"}) {
+        const Outcome help = shell("velkor help " + command);
+        EXPECT_EQ(help.status, 0) << command;
+        EXPECT_EQ(help.text, shell("velkor " + command + " --help").text);
+    }
+    for (const auto& [words, message] :
+         {std::pair("rapport", "unknown command rapport; nearest: report\nSee \"velkor --help\""),
+          {"guid chek", "unknown command chek; nearest: check\nSee \"velkor guid --help\""}}) {
+        const Outcome quiet = shell(std::string("velkor help ") + words + " 2>/dev/null");
+        EXPECT_EQ(quiet.status, 2) << words;
+        EXPECT_THAT(quiet.text, IsEmpty());
+        EXPECT_THAT(shell(std::string("velkor help ") + words + " 2>&1").text, HasSubstr(message));
+    }
+}
+
 TEST(Program, BadUsageIsStatus2AndLeavesStandardOutputAlone) {
     for (const auto& [line, message] : {std::pair("", "Usage: velkor"),
                                         {"rapport", "unknown command rapport"},

@@ -1,5 +1,6 @@
 #include "commandline/Command.h"
 
+#include "ValueWords.h"
 #include "velkor/text/NearestNames.h"
 #include "velkor/text/Wording.h"
 
@@ -20,20 +21,20 @@ const Option& Option::valueName(const std::string& name) const {
 }
 
 const Option& Option::oneOf(const std::vector<std::string>& words) const {
-    _option->check(CLI::IsMember(words));
+    _option->check(CLI::IsMember(words).description(text::joined(words, ",")), valueWords);
     return *this;
 }
 
 const Option& Option::someOf(const std::vector<std::string_view>& words) const {
     _option->delimiter(',')->allow_extra_args(false);
-    _option->check(CLI::Validator(
+    _option->check(
         [words](const std::string& word) -> std::string {
             if (std::ranges::find(words, word) != words.end()) return {};
             const auto nearest = text::nearestNames(words, word);
             return "unknown " + text::quoted(word) +
                    (nearest.empty() ? "; known: " + text::joined(words) : "; nearest: " + text::joined(nearest));
         },
-        {}));
+        text::joined(words, ","), valueWords);
     return *this;
 }
 

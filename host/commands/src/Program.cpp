@@ -4,8 +4,10 @@
 
 #include "commandline/Program.h"
 #include "Commands.h"
+#include "Version.h"
 
 #include <new>
+#include <sstream>
 
 namespace velkor::host {
 
@@ -26,13 +28,16 @@ void addCommands(const Command& program, CommandContext& context) {
     addResourcesCommand(program, context);
 }
 
+ProgramParts parts(CommandContext& context) {
+    return {[&context](const Command& program) { addCommands(program, context); }, versionText};
+}
+
 } // namespace
 
 int run(std::vector<std::string> words, CommandContext& context) {
     try {
         context.words = words;
-        const auto status = parse(withJoinedGuidWords(std::move(words)), context.out, context.err,
-                                  [&](const Command& program) { addCommands(program, context); });
+        const auto status = parse(withJoinedGuidWords(std::move(words)), context.out, context.err, parts(context));
         if (status) return *status;
     } catch (const std::bad_alloc&) {
         context.reportUnreadable("out of memory");
@@ -40,6 +45,12 @@ int run(std::vector<std::string> words, CommandContext& context) {
         context.reportUnreadable(error.what());
     }
     return context.status;
+}
+
+CommandDescription describeProgram() {
+    std::ostringstream nowhere;
+    CommandContext context{nowhere, nowhere};
+    return describeProgram(parts(context));
 }
 
 } // namespace velkor::host
