@@ -16,6 +16,10 @@ set_target_properties(velkor velkorplatform velkortoolkit PROPERTIES INSTALL_RPA
 install(TARGETS velkorplatform velkor velkortoolkit EXPORT VelkorTargets)
 if(VELKOR_PROGRAM)
   install(TARGETS velkor_program)
+  # Man pages and completions lie as they do below share.
+  install(DIRECTORY ${VELKOR_USAGE}/man/ DESTINATION ${CMAKE_INSTALL_MANDIR})
+  install(DIRECTORY ${VELKOR_USAGE}/bash-completion ${VELKOR_USAGE}/zsh ${VELKOR_USAGE}/fish
+          DESTINATION ${CMAKE_INSTALL_DATADIR})
 endif()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/Velkorite/interfaces/ DESTINATION ${_headers}/interfaces FILES_MATCHING PATTERN "*.h")
 foreach(_library velkorplatform velkortoolkit)

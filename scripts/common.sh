@@ -8,7 +8,7 @@ cd "$root"
 build_packages=(g++ cmake ninja-build libutf8proc-dev libxxhash-dev libxml2-dev libexpected-dev libcli11-dev
   nlohmann-json3-dev libssl-dev pkg-config)
 # To test as well.
-test_packages=(libgtest-dev libgmock-dev clang-format binutils git python3)
+test_packages=(libgtest-dev libgmock-dev clang-format binutils git python3 groff-base zsh fish)
 # For the slow extras: second compiler, fuzzing, linting, benchmarks, memory checks.
 extra_packages=(clang libclang-rt-14-dev clang-tidy libbenchmark-dev valgrind)
 

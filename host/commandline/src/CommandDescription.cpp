@@ -62,7 +62,8 @@ void splitFooter(const std::string& footer, CommandDescription& described) {
 }
 
 void addContents(CLI::App& app, CommandDescription& described) {
-    for (CLI::Option* option : app.get_options(std::function<bool(CLI::Option*)>{})) described.options.push_back(describeOption(*option));
+    for (CLI::Option* option : app.get_options(std::function<bool(CLI::Option*)>{}))
+        described.options.push_back(describeOption(*option));
     for (CLI::App* below : app.get_subcommands(std::function<bool(CLI::App*)>{})) {
         // A group of options has no name of its own.
         if (below->get_name().empty()) {

@@ -51,7 +51,10 @@ std::string versionText(const std::string& format) {
                          {"version", version},
                          {"libraries", libraries()},
                          {"compiler", compiler()},
-                         {"build", {{"type", VELKOR_BUILD_TYPE}, {"sanitizers", VELKOR_BUILD_SANITIZERS}, {"system", VELKOR_BUILD_SYSTEM}}}});
+                         {"build",
+                          {{"type", VELKOR_BUILD_TYPE},
+                           {"sanitizers", VELKOR_BUILD_SANITIZERS},
+                           {"system", VELKOR_BUILD_SYSTEM}}}});
     std::string line = text.str();
     line.pop_back();
     return line;
