@@ -3,7 +3,6 @@
 #include "Commands.h"
 #include "output/PropertySetText.h"
 #include "output/Report.h"
-#include "output/UnitText.h"
 #include "velkor/check/ModelCheck.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/identifiers/GuidCheck.h"
@@ -20,6 +19,7 @@ namespace {
 
 // Enough for a summary by kind.
 constexpr std::size_t mostProblems = 10'000;
+constexpr const char* htmlFormat = "html";
 
 void addPropertySets(CommandContext& context, const sdai::Model& model, const SetLibrary& library, Report& report) {
     report.propertySets = checkPropertySets(model, library, context.checkOptions(mostProblems));
@@ -54,6 +54,8 @@ void runReport(CommandContext& context, const std::string& path) {
     addClassification(context, *model, setup, report);
     if (context.json())
         writeJson(context.out, reportJson(report));
+    else if (context.format == htmlFormat)
+        writeReportHtml(context.out, report);
     else
         writeReportPage(context.out, context.color, report);
     for (const std::string& reason : unreadableDefinitions(report.propertySets, library))
@@ -66,8 +68,10 @@ void addReportCommand(const Command& app, CommandContext& context) {
     const Command command = app.addCommand("report", "One page about a model");
     const auto path = std::make_shared<std::string>();
     command.addOption("MODEL", *path, "IFC file").required();
-    command.example("velkor report house.ifc\n\nProblems of the model do not change the exit status.");
-    context.complete(command, [&context, path] { runReport(context, *path); });
+    command.example("velkor report house.ifc --format html > house.html\n\n"
+                    "Problems of the model do not change the exit status.");
+    context.complete(
+        command, [&context, path] { runReport(context, *path); }, htmlFormat);
 }
 
 } // namespace velkor::host

@@ -1,4 +1,4 @@
-/// What `velkor report` tells about a model, as a page and as JSON.
+/// What `velkor report` tells about a model, as a page, as HTML and as JSON.
 #pragma once
 
 #include "output/Json.h"
@@ -28,6 +28,9 @@ struct Report {
 };
 
 void writeReportPage(TextSink out, bool color, const Report& report);
+
+/// One page for a browser that needs neither a network nor a script. It is well-formed XML, too.
+void writeReportHtml(TextSink out, const Report& report);
 
 Json reportJson(const Report& report);
 
