@@ -1,8 +1,8 @@
 // Writes the man pages and completions into a folder that is laid out as "share" of an installation is.
 
+#include "usage/UsageFiles.h"
 #include "commandline/Program.h"
 #include "commands/Program.h"
-#include "usage/UsageFiles.h"
 
 #include <filesystem>
 #include <fstream>

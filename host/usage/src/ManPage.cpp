@@ -117,8 +117,8 @@ void writeReferences(std::string& page, const CommandDescription& command, const
     std::vector<std::string> others;
     forEachCommand(program, [&](const CommandDescription& other) {
         const bool isAbove = command.name.starts_with(other.name + ' ');
-        const bool isRightBelow =
-            other.name.starts_with(command.name + ' ') && other.name.find(' ', command.name.size() + 1) == std::string::npos;
+        const bool isRightBelow = other.name.starts_with(command.name + ' ') &&
+                                  other.name.find(' ', command.name.size() + 1) == std::string::npos;
         if (isAbove || isRightBelow) others.push_back(reference(other));
     });
     if (!others.empty()) page += ".SH SEE ALSO\n" + text::joined(others, " ,\n") + '\n';
