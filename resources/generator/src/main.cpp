@@ -1,6 +1,7 @@
 // velkor-setgen: writes the tables of property sets and quantity sets from published definitions, or compares them.
 
 #include "GeneratedUnits.h"
+#include "GeneratorProgram.h"
 #include "PublishedSets.h"
 #include "velkor/propertysets/SetCatalogue.h"
 
@@ -10,12 +11,10 @@
 
 namespace {
 
-constexpr int badUsage = 2;
-constexpr int unreadable = 3;
+constexpr const char* program = "velkor-setgen";
 
 int fail(const std::string& message) {
-    std::cerr << "velkor-setgen: " << message << '\n';
-    return unreadable;
+    return velkor::express::fail(program, message);
 }
 
 int run(int argc, char** argv) {
@@ -23,7 +22,7 @@ int run(int argc, char** argv) {
     std::string sources, folder = VELKOR_SET_TABLES;
     std::vector<std::string> releases(definingReleases().begin(), definingReleases().end());
     bool check = false, faults = false, kinds = false;
-    CLI::App app("Writes the tables of the sets that releases define.", "velkor-setgen");
+    CLI::App app("Writes the tables of the sets that releases define.", program);
     app.add_option("DIR", sources, "Folder with a folder of published definitions for each release, named after it");
     app.add_flag("--check", check, "Write nothing; compare, and tell where the tables differ (status 1)");
     app.add_flag("--faults", faults, "Tell what is odd in the sources as well");
@@ -36,7 +35,7 @@ int run(int argc, char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : badUsage;
+        return app.exit(error) == 0 ? 0 : velkor::express::badUsage;
     }
 
     if (kinds) {
@@ -46,7 +45,7 @@ int run(int argc, char** argv) {
     }
     if (sources.empty()) {
         fail("expected the folder DIR; --help tells more");
-        return badUsage;
+        return velkor::express::badUsage;
     }
 
     std::vector<express::GeneratedUnit> units;
@@ -63,15 +62,11 @@ int run(int argc, char** argv) {
         for (const auto& [source, hash, reason] : table->refused)
             std::cerr << place << source << ": refused: " << reason << '\n';
     }
-    return express::finish("velkor-setgen", units, folder, check);
+    return express::finish(program, units, folder, check);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    try {
-        return run(argc, argv);
-    } catch (const std::exception& error) {
-        return fail(error.what());
-    }
+    return velkor::express::guarded(program, [&] { return run(argc, argv); });
 }

@@ -1,5 +1,6 @@
 // velkor-rulegen: writes the units of the rules from EXPRESS sources, or compares them.
 
+#include "GeneratorProgram.h"
 #include "RuleUnits.h"
 #include "SourceFile.h"
 
@@ -9,8 +10,7 @@
 
 namespace {
 
-constexpr int badUsage = 2;
-constexpr int unreadable = 3;
+constexpr const char* program = "velkor-rulegen";
 
 struct Release {
     const char* schema;
@@ -21,15 +21,14 @@ constexpr std::array<Release, 8> releases{
     {{"IFC2X3"}, {"IFC4"}, {"IFC4X1"}, {"IFC4X2"}, {"IFC4X3_ADD2"}, {"IFC4X3_RC1"}, {"IFC4X3_RC3"}, {"IFC4X4", false}}};
 
 int fail(const std::string& message) {
-    std::cerr << "velkor-rulegen: " << message << '\n';
-    return unreadable;
+    return velkor::express::fail(program, message);
 }
 
 int run(int argc, char** argv) {
     using namespace velkor;
     std::string sources, folder = VELKOR_RULE_TABLES;
     bool check = false, notes = false;
-    CLI::App app("Compiles the rules of the schemas into source units.", "velkor-rulegen");
+    CLI::App app("Compiles the rules of the schemas into source units.", program);
     app.add_option("DIR", sources, "Folder with the EXPRESS source SCHEMA.exp of each release")->required();
     app.add_flag("--check", check, "Write nothing; compare, and tell where the units differ (status 1)");
     app.add_flag("--notes", notes, "Tell what is odd in the sources as well");
@@ -38,7 +37,7 @@ int run(int argc, char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : badUsage;
+        return app.exit(error) == 0 ? 0 : velkor::express::badUsage;
     }
 
     std::vector<rulegen::RuleSource> schemas;
@@ -56,17 +55,13 @@ int run(int argc, char** argv) {
         for (const std::string& note : compiler.notes()) std::cerr << note << '\n';
     }
     for (const std::string& error : compiler.errors()) std::cerr << error << '\n';
-    if (!compiler.errors().empty()) return unreadable;
+    if (!compiler.errors().empty()) return velkor::express::unreadable;
     const auto units = rulegen::ruleUnits(compiler, inputs);
-    return express::finish("velkor-rulegen", units, folder, check);
+    return express::finish(program, units, folder, check);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    try {
-        return run(argc, argv);
-    } catch (const std::exception& error) {
-        return fail(error.what());
-    }
+    return velkor::express::guarded(program, [&] { return run(argc, argv); });
 }

@@ -1,5 +1,6 @@
 #include "GeneratedUnits.h"
 
+#include "GeneratorProgram.h"
 #include "SourceFile.h"
 
 #include <fstream>
@@ -60,7 +61,7 @@ tl::expected<std::vector<std::string>, std::string> writeUnits(const std::vector
 
 int finish(const std::string& program, const std::vector<GeneratedUnit>& units, const std::string& folder,
            bool isComparison) {
-    constexpr int different = 1, unwritable = 3;
+    constexpr int different = 1;
     if (isComparison) {
         const auto lines = differences(units, folder);
         for (const std::string& line : lines) std::cerr << line << '\n';
@@ -69,10 +70,7 @@ int finish(const std::string& program, const std::vector<GeneratedUnit>& units, 
         return 0;
     }
     const auto written = writeUnits(units, folder);
-    if (!written) {
-        std::cerr << program << ": " << written.error() << '\n';
-        return unwritable;
-    }
+    if (!written) return fail(program, written.error());
     for (const std::string& name : *written) std::cout << "wrote " << name << '\n';
     if (written->empty()) std::cout << units.size() << " units were up to date\n";
     return 0;

@@ -1,25 +1,24 @@
 // velkor-dictgen: writes the dictionary units from EXPRESS sources, or compares them.
 
 #include "Generator.h"
+#include "GeneratorProgram.h"
 
 #include <CLI/CLI.hpp>
 #include <iostream>
 
 namespace {
 
-constexpr int badUsage = 2;
-constexpr int unreadable = 3;
+constexpr const char* program = "velkor-dictgen";
 
 int fail(const std::string& message) {
-    std::cerr << "velkor-dictgen: " << message << '\n';
-    return unreadable;
+    return velkor::express::fail(program, message);
 }
 
 int run(int argc, char** argv) {
     using namespace velkor::dictgen;
     std::string sources, folder = VELKOR_UNITS, profilesPath = VELKOR_PROFILES;
     bool check = false;
-    CLI::App app("Writes the source units of the schema dictionaries.", "velkor-dictgen");
+    CLI::App app("Writes the source units of the schema dictionaries.", program);
     app.add_option("DIR", sources, "Folder with the EXPRESS source SCHEMA.exp of each release")->required();
     app.add_flag("--check", check, "Write nothing; compare, and tell where the units differ (status 1)");
     app.add_option("--out", folder, "Folder of the units")->option_text("FOLDER");
@@ -28,22 +27,18 @@ int run(int argc, char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : badUsage;
+        return app.exit(error) == 0 ? 0 : velkor::express::badUsage;
     }
 
     const auto profiles = readProfiles(profilesPath);
     if (!profiles) return fail(profiles.error());
     const auto units = generate(*profiles, sources);
     if (!units) return fail(units.error());
-    return velkor::express::finish("velkor-dictgen", *units, folder, check);
+    return velkor::express::finish(program, *units, folder, check);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    try {
-        return run(argc, argv);
-    } catch (const std::exception& error) {
-        return fail(error.what());
-    }
+    return velkor::express::guarded(program, [&] { return run(argc, argv); });
 }
