@@ -10,7 +10,7 @@ build_packages=(g++ cmake ninja-build libutf8proc-dev libxxhash-dev libxml2-dev 
 # To test as well.
 test_packages=(libgtest-dev libgmock-dev clang-format binutils git python3 groff-base zsh fish)
 # For the slow extras: second compiler, fuzzing, linting, benchmarks, memory checks.
-extra_packages=(clang libclang-rt-14-dev clang-tidy libbenchmark-dev valgrind)
+extra_packages=(clang libclang-rt-14-dev clang-tidy cppcheck libbenchmark-dev valgrind)
 
 # A compiler cache is used where there is one.
 if [ -z "${CMAKE_CXX_COMPILER_LAUNCHER+set}" ] && command -v ccache >/dev/null; then

@@ -19,7 +19,7 @@ public:
 
 private:
     QORIFCOptionsServices();
-    ~QORIFCOptionsServices();
+    ~QORIFCOptionsServices() = default;
     static int OnExit(int);
 
     static QORIFCOptionsServices* _pinstance;

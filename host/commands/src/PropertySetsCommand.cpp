@@ -62,7 +62,7 @@ public:
         if (const auto others = _library.releasesWith(word); !others.empty())
             told += "; it is one of " + text::joined(others);
         const std::vector<std::string_view> known(_catalogue.names().begin(), _catalogue.names().end());
-        return withNearest(std::move(told), text::nearestNames(known, word, 5, "PSET_"));
+        return withNearest(told, text::nearestNames(known, word, 5, "PSET_"));
     }
     /// The same of a word that may have been meant for an entity.
     std::string neitherSetNorEntity(const std::string& word) const {
@@ -75,7 +75,7 @@ public:
     std::string noSuchEntity(const std::string& word) const {
         return withNearest(_name + " has no entity " + text::quoted(word), nearestEntities(*_schema, word));
     }
-    static std::string withNearest(std::string told, const std::vector<std::string>& nearest) {
+    static std::string withNearest(const std::string& told, const std::vector<std::string>& nearest) {
         return nearest.empty() ? told : told + "; nearest: " + text::joined(nearest);
     }
 

@@ -79,7 +79,7 @@ public:
     explicit Layout(std::size_t width) : _width(width) {}
 
     /// `lead` stands before the text in its first line and is as wide as later lines are indented.
-    void add(const std::string& indent, std::string lead, std::string_view text, std::string_view tail,
+    void add(const std::string& indent, const std::string& lead, std::string_view text, std::string_view tail,
              std::size_t depth = 0) {
         text = trimmed(text);
         if (depth >= deepest || indent.size() + lead.size() + text.size() + tail.size() <= _width) {

@@ -198,7 +198,7 @@ QORIType_var typeOrStranger(const std::string& name) {
 
 QORBaseUnknown_var makeOccurrence(const std::string& typeName, Attributes attributes) {
     auto table = std::make_shared<AttributeTable>();
-    for (auto& [name, value] : attributes) table->try_emplace(std::move(name), std::move(value));
+    for (auto& attribute : attributes) table->insert(std::move(attribute));
     auto object = QORBaseUnknown_var::adopt(objectmodeler::newComponent<PLMInstance>(typeName, table));
     return QORBaseUnknown_var::adopt(objectmodeler::newComponent<PLMOccurrence>(std::move(object), std::move(table)));
 }

@@ -35,7 +35,6 @@ void QORIFCOptionsServices::Clear() {
 }
 
 QORIFCOptionsServices::QORIFCOptionsServices() : _customPropertySetsRequired(1) {}
-QORIFCOptionsServices::~QORIFCOptionsServices() = default;
 
 int QORIFCOptionsServices::OnExit(int) {
     delete _pinstance;

@@ -28,8 +28,8 @@ NodeRange NodeRange::behindFirst() const {
 
 void ElementRange::Iterator::settle() {
     for (; !(_position == _end); ++_position) {
-        const auto [result, node] = *_position;
-        _element = SUCCEEDED(result) ? QORIDOMElement_var(node) : QORIDOMElement_var();
+        const ListedNode listed = *_position;
+        _element = SUCCEEDED(listed.result) ? QORIDOMElement_var(listed.node) : QORIDOMElement_var();
         if (!_element.IsNull()) return;
     }
 }

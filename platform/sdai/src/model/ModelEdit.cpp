@@ -1,5 +1,6 @@
 #include "velkor/sdai/ModelEdit.h"
 
+#include "EditText.h"
 #include "PopulationChecker.h"
 #include "RecordSyntax.h"
 #include "velkor/sdai/Part21Encoding.h"
@@ -11,17 +12,10 @@
 
 namespace velkor::sdai {
 
+using part21::named;
+using part21::refused;
+
 namespace {
-
-std::string named(std::uint64_t id) {
-    std::string name(1, '#');
-    name += std::to_string(id);
-    return name;
-}
-
-tl::unexpected<std::string> refused(std::string reason) {
-    return tl::unexpected<std::string>(std::move(reason));
-}
 
 std::vector<std::uint64_t> referencesOf(std::string_view record) {
     std::vector<std::uint64_t> ids;

@@ -1,5 +1,6 @@
 #include "velkor/sdai/Part21Edit.h"
 
+#include "EditText.h"
 #include "RecordSyntax.h"
 #include "velkor/sdai/Part21Encoding.h"
 #include "velkor/sdai/Part21Lexer.h"
@@ -29,16 +30,6 @@ struct Patch {
     std::uint64_t end;
     Piece text;
 };
-
-std::string named(std::uint64_t id) {
-    std::string name(1, '#');
-    name += std::to_string(id);
-    return name;
-}
-
-tl::unexpected<std::string> refused(std::string reason) {
-    return tl::unexpected<std::string>(std::move(reason));
-}
 
 std::string textList(std::span<const std::string> texts) {
     std::string list = "(";
