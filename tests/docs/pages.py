@@ -128,7 +128,9 @@ def check_commands(program):
         for page in PAGES:
             for line, info, lines in blocks(page):
                 if " " in info:
-                    (folder / info.split()[1]).write_text("\n".join(lines) + "\n")
+                    file = folder / info.split()[1]
+                    file.parent.mkdir(parents=True, exist_ok=True)
+                    file.write_text("\n".join(lines) + "\n")
                 for offset, command, shown in commands(lines):
                     run_count += 1
                     wrong = fault(command, shown, folder, f"{folder / 'stubs'}:{program.parent}")
