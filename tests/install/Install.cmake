@@ -40,7 +40,7 @@ step(python3 ${SOURCE}/tests/docs/pages.py samples ${work}/pages)
 step(${CMAKE_COMMAND} -S ${work}/pages -B ${work}/pages/build -G ${GENERATOR}
      -D CMAKE_CXX_COMPILER=${COMPILER} -D CMAKE_CXX_FLAGS=${flags} -D CMAKE_PREFIX_PATH=${prefix})
 step(${CMAKE_COMMAND} --build ${work}/pages/build)
-foreach(sample README importer)
+foreach(sample README cookbook importer)
   step(${CMAKE_COMMAND} -E chdir ${work}/pages build/${sample})
 endforeach()
 
