@@ -1,4 +1,5 @@
-// Writes the man pages and completions into a folder that is laid out as "share" of an installation is.
+// Writes the man pages and completions into a folder that is laid out as "share" of an installation is, or the tables
+// of options to standard output.
 
 #include "usage/UsageFiles.h"
 #include "commandline/Program.h"
@@ -23,12 +24,16 @@ void write(const std::filesystem::path& path, const std::string& text) {
 int main(int argc, char** argv) {
     using namespace velkor::host;
     if (argc != 2) {
-        std::cerr << "usage: velkor-usage FOLDER\n";
+        std::cerr << "usage: velkor-usage FOLDER | --tables\n";
         return 2;
     }
     try {
         const std::filesystem::path folder = argv[1];
         const CommandDescription program = describeProgram();
+        if (folder == "--tables") {
+            std::cout << optionTables(program);
+            return std::cout.flush() ? 0 : 3;
+        }
         forEachCommand(program, [&](const CommandDescription& command) {
             write(folder / "man/man1" / manPageName(command), manPage(command, program, programVersion));
         });

@@ -1,4 +1,4 @@
-"""Man pages and completions name every command and option that the program's help shows.
+"""Man pages, completions and docs/options.md name every command and option that the program's help shows.
 
 usage.py PROGRAM FOLDER, a folder laid out as "share" of an installation is.
 """
@@ -12,6 +12,7 @@ PROGRAM, FOLDER = pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2])
 BASH = FOLDER / "bash-completion/completions/velkor"
 ZSH = FOLDER / "zsh/site-functions/_velkor"
 FISH = FOLDER / "fish/vendor_completions.d/velkor.fish"
+TABLES = pathlib.Path(__file__).parents[2] / "docs/options.md"
 failures = []
 
 
@@ -46,7 +47,10 @@ def judge(words):
     text = page.read_text("ascii").replace("\\-", "-")
     bold = re.findall(r"\\fB(.*?)\\fR", text)
     zsh = re.search("^_" + "_".join(["velkor", *words]) + r"\(\) \{\n(.*?)^\}", ZSH.read_text(), re.M | re.S).group(1)
+    table = re.search("^## " + " ".join(["velkor", *words]) + r"\n(.*?)^(## |<!-- end)", TABLES.read_text(), re.M | re.S)
+    expect(table, f"{TABLES.name} lacks {words}")
     for option in options:
+        expect(option in ("-h", "--help") or re.search(rf"[` ]{option}[,` ]", table[1]), f"{TABLES.name} lacks {option}")
         expect(option in bold, f"{page.name} lacks {option}")
         expect(re.search(r"[*)]" + re.escape(option) + r"[=+\[]", zsh), f"zsh lacks {option} of {words}")
         expect(option in bash_words(*words, option), f"bash lacks {option} of {words}")

@@ -1,4 +1,4 @@
-/// Man pages and completions, written from the commands as the parser knows them.
+/// Man pages, completions and tables of options, written from the commands as the parser knows them.
 #pragma once
 
 #include "commandline/CommandDescription.h"
@@ -15,5 +15,8 @@ std::string manPageName(const CommandDescription& command);
 std::string bashCompletion(const CommandDescription& program);
 std::string zshCompletion(const CommandDescription& program);
 std::string fishCompletion(const CommandDescription& program);
+
+/// A section for each command with its options as a table, in Markdown. The option that prints help is left out.
+std::string optionTables(const CommandDescription& program);
 
 } // namespace velkor::host
