@@ -30,7 +30,9 @@ import judge
 import tables
 
 SUFFIXES = (".ifc",)
-# Models that a thread of a worker has before it: enough that none waits, few enough that a dying one takes few along.
+# How many models are given out as one at most: one by one, the scheduler would be busier than a hundred workers.
+TOGETHER = 16
+# What a thread has before it, its work included: enough that none waits, and a worker that dies takes few along.
 AHEAD = 2
 # How long a cluster may have no worker at all.
 PATIENCE = 60.0
@@ -76,36 +78,37 @@ def models_in(folder: Path) -> list[str]:
     return sorted(found, key=os.fsencode)
 
 
-def outcomes(client: Client, folder: Path, models: Iterable[str], settings: judge.Settings,
-             together: int | None = None) -> Iterator[tuple[str, tuple[judge.Row, judge.Row] | None]]:
-    """Each model with its rows as they come, None for one whose workers died again and again.
+def outcomes(client: Client, folder: Path, models: Iterable[str], settings: judge.Settings, alone: bool = False
+             ) -> Iterator[tuple[str, tuple[judge.Row, judge.Row] | None]]:
+    """Each model with its rows as they come, None for those whose workers died again and again.
 
-    At most `together` models are given out at a time, or as many as the workers can take.
+    With `alone` no model is given out before the one before it has come back.
     """
     workers = Workers(client)
     waiting = collections.deque(models)
-    given: dict[Future, str] = {}
+    given: dict[Future, list[str]] = {}
     while waiting or given:
-        room = together or AHEAD * workers.threads()
-        while waiting and len(given) < room:
-            model = waiting.popleft()
-            given[client.submit(judge.judge, str(folder / model), settings, pure=False)] = model
+        threads = workers.threads()
+        while waiting and len(given) < (1 if alone else AHEAD * threads):
+            # Fewer towards the end, so that all threads end together.
+            size = 1 if alone else max(1, min(TOGETHER, len(waiting) // (4 * threads)))
+            batch = [waiting.popleft() for _ in range(size)]
+            given[client.submit(judge.judge, [str(folder / model) for model in batch], settings, pure=False)] = batch
         if not given:
             time.sleep(0.5)
             continue
         try:
             done = wait(list(given), timeout=2.0, return_when="FIRST_COMPLETED").done
         except TimeoutError:
-            workers.threads()
             continue
         for future in done:
-            model = given.pop(future)
+            batch = given.pop(future)
             try:
                 rows = future.result()
             except KilledWorker:
-                rows = None
+                rows = [None] * len(batch)
             future.release()  # or it would be made again when its worker dies
-            yield model, rows
+            yield from zip(batch, rows)
 
 
 def judged(client: Client, folder: Path, models: list[str], settings: judge.Settings
@@ -121,7 +124,7 @@ def judged(client: Client, folder: Path, models: list[str], settings: judge.Sett
             suspects.append(model)
         else:
             yield model, rows
-    for model, rows in outcomes(client, folder, sorted(suspects, key=os.fsencode), settings, together=1):
+    for model, rows in outcomes(client, folder, sorted(suspects, key=os.fsencode), settings, alone=True):
         yield model, rows or ({"error": "ended every worker that judged it"}, {})
 
 
@@ -215,6 +218,8 @@ def main(arguments: list[str]) -> int:
     except (Unfinished, OSError, RuntimeError, CancelledError, subprocess.SubprocessError) as error:
         print(f"corpus.py: {error}", file=sys.stderr)
         return 3
+    except KeyboardInterrupt:
+        return 130
 
 
 if __name__ == "__main__":

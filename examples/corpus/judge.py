@@ -47,14 +47,16 @@ def version_of(program: str) -> str:
                           stdin=subprocess.DEVNULL, timeout=60).stdout
 
 
-def judge(path: str, settings: Settings) -> tuple[Row, Row]:
-    """The model's rows for models.csv and times.csv. Findings and classes are kept in its part.
-
-    A part is taken as it stands when all commands had an answer; else they are asked again.
-    """
-    began = time.monotonic()
+def judge(paths: list[str], settings: Settings) -> list[tuple[Row, Row]]:
+    """Each model's rows for models.csv and times.csv. Findings and classes are kept in their parts."""
     if version_of(settings.program) != settings.version:
         raise RuntimeError(f"{socket.gethostname()} has another {settings.program}:\n{version_of(settings.program)}")
+    return [judge_model(path, settings) for path in paths]
+
+
+def judge_model(path: str, settings: Settings) -> tuple[Row, Row]:
+    """A part is taken as it stands when all commands had an answer; else they are asked again."""
+    began = time.monotonic()
     kept = False
     try:
         sha256, size = digest(path)
