@@ -14,6 +14,7 @@ import argparse
 import collections
 import contextlib
 import hashlib
+import logging
 import os
 import shutil
 import subprocess
@@ -136,8 +137,9 @@ def connected(options: argparse.Namespace) -> Iterator[Client]:
         else:
             scratch = stack.enter_context(tempfile.TemporaryDirectory())
             stack.enter_context(dask.config.set({"temporary-directory": scratch}))
+            # What matters of workers on this machine comes back as an error; a slow end is told at great length.
             cluster = LocalCluster(n_workers=options.workers, threads_per_worker=1, host="127.0.0.1",
-                                   dashboard_address="127.0.0.1:0")
+                                   dashboard_address="127.0.0.1:0", silence_logs=logging.CRITICAL)
             client = Client(stack.enter_context(cluster))
         stack.enter_context(client)
         client.upload_file(judge.__file__)
