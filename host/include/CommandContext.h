@@ -10,17 +10,14 @@
 
 #include <functional>
 #include <iosfwd>
-#include <memory>
 #include <string>
 #include <vector>
-
-namespace velkor::sdai {
-class Model;
-}
 
 namespace velkor::host {
 
 inline constexpr const char* configurationVariable = "VELKOR_CONFIG";
+/// The format of a line of JSON for each model.
+inline constexpr const char* jsonLinesFormat = "jsonl";
 inline constexpr const char* noColorVariable = "NO_COLOR";
 inline constexpr const char* terminalVariable = "TERM";
 
@@ -54,14 +51,22 @@ struct CommandContext {
     Configuration configuration = {};
     int status = Done;
 
-    bool json() const { return format == "json"; }
+    /// True for the format of a line per model, too.
+    bool json() const { return format == "json" || jsonLines(); }
+    bool jsonLines() const { return format == jsonLinesFormat; }
     bool csv() const { return format == "csv"; }
 
     /// Completes a command that answers something: adds `--format text|json` and `--config FILE`, and
     /// has `run` called once the configuration has been read. With a wrong configuration no command
-    /// runs: its faults are reported and the status is Unreadable. A command may have a third format. When one of its
+    /// runs: its faults are reported and the status is Unreadable. A command may have more formats. When one of its
     /// subcommands is named, that one answers.
-    void complete(const Command& command, std::function<void()> run, const std::string& thirdFormat = {});
+    void complete(const Command& command, std::function<void()> run, const std::vector<std::string>& moreFormats = {});
+
+    /// Runs work, and reports what it cannot go on for.
+    void guard(const std::function<void()>& work);
+
+    /// Says what is wrong with the command line and sets the status BadUsage.
+    void reportBadUsage(const std::string& reason);
 
     /// Writes why input cannot be read to `err` and sets the status Unreadable.
     void reportUnreadable(const std::string& reason);
@@ -72,9 +77,6 @@ struct CommandContext {
 
     /// Takes what the services tell of faults to `err`.
     PlatformSetup::Tell tell() const;
-
-    /// Opens a model; null after reporting why it cannot be read.
-    std::unique_ptr<sdai::Model> openModel(const std::string& path);
 
 private:
     bool readConfiguration();

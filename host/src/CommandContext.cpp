@@ -2,16 +2,20 @@
 
 #include "terminal/ProgressBar.h"
 #include "velkor/configuration/ConfigurationReader.h"
-#include "velkor/sdai/Model.h"
 #include "velkor/settings/QORDXEnvironmentVariable.h"
+#include "velkor/text/Wording.h"
+
+#include <memory>
+#include <new>
 
 namespace velkor::host {
 
-void CommandContext::complete(const Command& command, std::function<void()> run, const std::string& thirdFormat) {
+void CommandContext::complete(const Command& command, std::function<void()> run,
+                              const std::vector<std::string>& moreFormats) {
     std::vector<std::string> formats{"text", "json"};
-    if (!thirdFormat.empty()) formats.push_back(thirdFormat);
+    formats.insert(formats.end(), moreFormats.begin(), moreFormats.end());
     command.addOption("--format", format, "text for people, json for programs; text unless told")
-        .valueName("text|json" + (thirdFormat.empty() ? "" : '|' + thirdFormat))
+        .valueName(text::joined(formats, "|"))
         .oneOf(formats);
     command
         .addOption("--config", configurationFile,
@@ -39,6 +43,21 @@ bool CommandContext::readConfiguration() {
     return reading->errors.empty();
 }
 
+void CommandContext::guard(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const std::bad_alloc&) {
+        reportUnreadable("out of memory");
+    } catch (const std::exception& error) {
+        reportUnreadable(error.what());
+    }
+}
+
+void CommandContext::reportBadUsage(const std::string& reason) {
+    err << "velkor: " << reason << '\n';
+    status = BadUsage;
+}
+
 void CommandContext::reportUnreadable(const std::string& reason) {
     err << "velkor: " << reason << '\n';
     status = Unreadable;
@@ -53,13 +72,6 @@ Progress CommandContext::progress() const {
 
 PlatformSetup::Tell CommandContext::tell() const {
     return [sink = err](const std::string& message) { sink << "velkor: " << message << '\n'; };
-}
-
-std::unique_ptr<sdai::Model> CommandContext::openModel(const std::string& path) {
-    auto model = sdai::Model::open(path);
-    if (model) return std::move(*model);
-    reportUnreadable(model.error().message);
-    return nullptr;
 }
 
 } // namespace velkor::host

@@ -2,6 +2,7 @@
 
 #include "Commands.h"
 #include "LimitOption.h"
+#include "models/ModelWork.h"
 #include "output/Json.h"
 #include "output/ProblemText.h"
 #include "output/PropertySetText.h"
@@ -24,16 +25,13 @@ namespace velkor::host {
 
 namespace {
 
-constexpr std::size_t mostJobs = 1024;
-
 struct Options {
-    std::string path;
+    ModelArguments models;
     bool syntaxOnly = false;
     bool withoutRules = false;
     bool propertySets = false;
     std::string rule;
     CodeFilter codes;
-    std::size_t jobs = 0;
     std::size_t limit = defaultLimit;
 };
 
@@ -126,41 +124,46 @@ void tellDefinitions(CommandContext& context, const PropertySetCheck& sets, cons
 void writeResult(CommandContext& context, const FileCheck& check) {
     const ModelCheckResult& result = check.result;
     if (!context.json()) return writeText(context, check);
-    writeJson(context.out, {{"file", check.file},
-                            {"release", textOrNull(check.release)},
-                            {"total", result.total},
-                            {"problems", brokenRulesJson(check)},
-                            {"judged", result.coverage ? judgedJson(*result.coverage) : Json()},
-                            {"property_sets", result.propertySets ? coverageJson(*result.propertySets) : Json()}});
+    writeModelJson(context, {{"file", check.file},
+                             {"release", textOrNull(check.release)},
+                             {"total", result.total},
+                             {"problems", brokenRulesJson(check)},
+                             {"judged", result.coverage ? judgedJson(*result.coverage) : Json()},
+                             {"property_sets", result.propertySets ? coverageJson(*result.propertySets) : Json()}});
 }
 
-void runCheck(CommandContext& context, const Options& options) {
+void checkOne(CommandContext& context, const Options& options, const ModelInput& input, Json& facts) {
     ModelCheckOptions wanted({options.limit, context.progress(), options.codes});
     wanted.scope = options.syntaxOnly     ? CheckScope::Structure
                    : options.withoutRules ? CheckScope::Dictionary
                                           : CheckScope::Everything;
-    wanted.jobs = static_cast<unsigned>(options.jobs);
+    wanted.jobs = input.jobs;
     if (!options.rule.empty()) wanted.rules = {options.rule};
     std::optional<PlatformSetup> setup;
     std::optional<SetLibrary> library;
     if (options.propertySets) {
         setup.emplace(context.configuration, context.tell());
         wanted.definitions = &library.emplace(definitionViews(*setup));
-    } else if (const SetCode* code = chosenSetCode(options.codes)) {
-        context.err << "velkor: --only: " << code->code << " needs --property-sets\n";
-        context.status = BadUsage;
-        return;
     }
-    const auto check = checkFile(options.path, wanted);
+    const auto check = input.openFile().and_then(
+        [&](std::unique_ptr<sdai::Part21File> file) { return checkFile(std::move(file), wanted); });
     if (!check) return context.reportUnreadable(check.error().message);
-    if (!options.rule.empty() && !check->release.empty() && !ruleNamed(check->release, options.rule)) {
-        context.err << "velkor: --rule: " << noSuchRule(check->release, options.rule) << '\n';
-        context.status = BadUsage;
-        return;
-    }
+    if (!options.rule.empty() && !check->release.empty() && !ruleNamed(check->release, options.rule))
+        return context.reportBadUsage("--rule: " + noSuchRule(check->release, options.rule));
     context.status = check->result.total == 0 ? Done : Findings;
+    facts = {{"problems", check->result.total}};
     writeResult(context, *check);
     if (check->result.propertySets) tellDefinitions(context, *check->result.propertySets, *library);
+}
+
+void runCheck(CommandContext& context, const Options& options) {
+    const SetCode* code = options.propertySets ? nullptr : chosenSetCode(options.codes);
+    if (code != nullptr) return context.reportBadUsage("--only: " + std::string(code->code) + " needs --property-sets");
+    ModelWork work{.run = [&](CommandContext& one, const ModelInput& input, Json& facts) {
+        checkOne(one, options, input, facts);
+    }};
+    work.totals = {{"problems", "problem", "problems"}};
+    workOnModels(context, options.models, work);
 }
 
 } // namespace
@@ -171,7 +174,7 @@ void addCheckCommand(const Command& app, CommandContext& context) {
         "What is wrong with a model: its exchange structure, its instances by the dictionary, the rules of its schema, "
         "and its property sets");
     const auto options = std::make_shared<Options>();
-    command.addOption("MODEL", options->path, "IFC file").required();
+    options->models.addTo(command);
     const Option syntax =
         command.addFlag("--syntax", options->syntaxOnly, "Judge the exchange structure (ISO 10303-21) alone");
     const Option schema = command.addFlag("--schema", options->withoutRules,
@@ -190,12 +193,9 @@ void addCheckCommand(const Command& app, CommandContext& context) {
     command.addOption("--ignore", options->codes.ignore, "List all kinds of problems but these")
         .valueName("CODE,…")
         .someOf(problemCodes());
-    command.addOption("--jobs", options->jobs, "Work on N cores; on all of them unless told")
-        .valueName("N")
-        .wholeNumber(1, mostJobs);
     addLimitOption(command, options->limit, "problems");
     command.example("velkor check house.ifc\n\nExit status 1 when there are problems.");
-    context.complete(command, [&context, options] { runCheck(context, *options); });
+    context.complete(command, [&context, options] { runCheck(context, *options); }, {jsonLinesFormat});
 }
 
 } // namespace velkor::host

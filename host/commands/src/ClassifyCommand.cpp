@@ -2,6 +2,7 @@
 
 #include "Commands.h"
 #include "LimitOption.h"
+#include "models/ModelWork.h"
 #include "output/ClassificationText.h"
 #include "output/Csv.h"
 #include "output/Json.h"
@@ -20,7 +21,7 @@ namespace {
 using Decision = Classification::Decision;
 
 struct Options {
-    std::string path;
+    ModelArguments models;
     std::size_t limit = defaultLimit;
 };
 
@@ -124,17 +125,19 @@ void writeCsv(CommandContext& context, const sdai::Model& model, const Classific
     }
 }
 
-void runClassify(CommandContext& context, const Options& options) {
-    const auto model = context.openModel(options.path);
+void runClassify(CommandContext& context, const Options& options, const ModelInput& input, Json& facts) {
+    const auto model = input.openModel(context);
     if (!model) return;
     const PlatformSetup setup(context.configuration, context.tell());
     const auto result = classifyAsConfigured(*model, setup, context.progress());
     if (!result) return context.reportUnreadable(result.error());
-    context.status = result->classification.unclassified == 0 ? Done : Findings;
+    const Classification& classification = result->classification;
+    context.status = classification.unclassified == 0 ? Done : Findings;
+    facts = {{"products", classification.products.size()}, {"unclassified", classification.unclassified}};
     if (context.json())
-        writeJson(context.out, resultJson(*model, *result, options.limit));
+        writeModelJson(context, resultJson(*model, *result, options.limit));
     else if (context.csv())
-        writeCsv(context, *model, result->classification, options.limit);
+        writeCsv(context, *model, classification, options.limit);
     else
         writeText(context.out, *model, *result, options.limit);
 }
@@ -145,12 +148,20 @@ void addClassifyCommand(const Command& app, CommandContext& context) {
     const Command command =
         app.addCommand("classify", "The neutral identifier and the PLM type of every product of a model");
     const auto options = std::make_shared<Options>();
-    command.addOption("MODEL", options->path, "IFC file").required();
+    options->models.addTo(command);
     addLimitOption(command, options->limit, "products");
     command.example("velkor classify house.ifc --format csv\n\n"
                     "Exit status 1 when a product has no neutral identifier.");
-    context.complete(
-        command, [&context, options] { runClassify(context, *options); }, "csv");
+    const auto run = [&context, options] {
+        ModelWork work{.run = [options](CommandContext& one, const ModelInput& input, Json& facts) {
+            runClassify(one, *options, input, facts);
+        }};
+        work.totals = {{"products", "product", "products"},
+                       {"unclassified", "without neutral id", "without neutral id"}};
+        work.isHeaded = true;
+        workOnModels(context, options->models, work);
+    };
+    context.complete(command, run, {jsonLinesFormat, "csv"});
 }
 
 } // namespace velkor::host

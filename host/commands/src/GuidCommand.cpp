@@ -2,6 +2,7 @@
 
 #include "Commands.h"
 #include "LimitOption.h"
+#include "models/ModelWork.h"
 #include "output/Json.h"
 #include "output/ProblemText.h"
 #include "QORIFCExportServices.h"
@@ -23,7 +24,7 @@ constexpr std::size_t mostNew = 1'000'000;
 struct Arguments {
     std::size_t count = 1;
     std::size_t limit = defaultLimit;
-    std::string model;
+    ModelArguments models;
     std::vector<std::string> texts;
 };
 
@@ -100,17 +101,26 @@ void writeText(CommandContext& context, const std::string& file, const guid::Gui
     context.out << '\n';
 }
 
-void runCheck(CommandContext& context, const Arguments& arguments) {
-    const auto model = context.openModel(arguments.model);
+void checkIdentifiers(CommandContext& context, std::size_t limit, const ModelInput& input, Json& facts) {
+    const auto model = input.openModel(context);
     if (!model) return;
-    const guid::GuidCheck check = guid::checkGuids(*model, context.checkOptions(arguments.limit));
+    const guid::GuidCheck check = guid::checkGuids(*model, context.checkOptions(limit));
     context.status = check.result.total == 0 ? Done : Findings;
+    facts = {{"identifiers", check.count}, {"problems", check.result.total}};
     if (!context.json()) return writeText(context, model->file().name(), check);
-    writeJson(context.out, {{"file", model->file().name()},
-                            {"release", model->schema().name()},
-                            {"identifiers", check.count},
-                            {"total", check.result.total},
-                            {"problems", problemsJson(check.result.problems)}});
+    writeModelJson(context, {{"file", model->file().name()},
+                             {"release", model->schema().name()},
+                             {"identifiers", check.count},
+                             {"total", check.result.total},
+                             {"problems", problemsJson(check.result.problems)}});
+}
+
+void runCheck(CommandContext& context, const Arguments& arguments) {
+    ModelWork work{.run = [limit = arguments.limit](CommandContext& one, const ModelInput& input, Json& facts) {
+        checkIdentifiers(one, limit, input, facts);
+    }};
+    work.totals = {{"identifiers", "identifier", "identifiers"}, {"problems", "problem", "problems"}};
+    workOnModels(context, arguments.models, work);
 }
 
 using Conversion = tl::expected<std::string, std::string> (*)(std::string_view);
@@ -183,9 +193,9 @@ void addGuidCommand(const Command& app, CommandContext& context) {
 
     const Command check = addSubcommand(guid, "check", "Whether the identifiers of a model are well-formed and unique",
                                         "velkor guid check house.ifc\n\nExit status 1 when there are problems.");
-    check.addOption("MODEL", arguments->model, "IFC file").required();
+    arguments->models.addTo(check);
     addLimitOption(check, arguments->limit, "problems");
-    context.complete(check, [&context, arguments] { runCheck(context, *arguments); });
+    context.complete(check, [&context, arguments] { runCheck(context, *arguments); }, {jsonLinesFormat});
 
     addConversions(guid, context, arguments);
 }

@@ -6,7 +6,6 @@
 #include "Commands.h"
 #include "Version.h"
 
-#include <new>
 #include <sstream>
 
 namespace velkor::host {
@@ -35,15 +34,11 @@ ProgramParts parts(CommandContext& context) {
 } // namespace
 
 int run(std::vector<std::string> words, CommandContext& context) {
-    try {
-        context.words = words;
+    context.words = words;
+    context.guard([&] {
         const auto status = parse(withJoinedGuidWords(std::move(words)), context.out, context.err, parts(context));
-        if (status) return *status;
-    } catch (const std::bad_alloc&) {
-        context.reportUnreadable("out of memory");
-    } catch (const std::exception& error) {
-        context.reportUnreadable(error.what());
-    }
+        if (status) context.status = *status;
+    });
     return context.status;
 }
 

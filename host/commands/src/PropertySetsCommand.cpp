@@ -355,7 +355,7 @@ void addList(const Command& propertySets, CommandContext& context, const std::sh
             runList(context, releases.front(), *arguments);
         });
     };
-    context.complete(list, run, "csv");
+    context.complete(list, run, {"csv"});
 }
 
 void addShow(const Command& propertySets, CommandContext& context, const std::shared_ptr<Arguments>& arguments) {
@@ -385,7 +385,7 @@ void addDiff(const Command& propertySets, CommandContext& context, const std::sh
                          runDiff(context, releases.front(), releases.back(), *arguments);
                      });
     };
-    context.complete(diff, run, "csv");
+    context.complete(diff, run, {"csv"});
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // velkor report
 
 #include "Commands.h"
+#include "models/ModelWork.h"
 #include "output/PropertySetText.h"
 #include "output/Report.h"
 #include "velkor/check/ModelCheck.h"
@@ -36,8 +37,8 @@ void addClassification(CommandContext& context, const sdai::Model& model, const 
         context.reportUnreadable(report.classified.error());
 }
 
-void runReport(CommandContext& context, const std::string& path) {
-    const auto model = context.openModel(path);
+void runReport(CommandContext& context, const ModelInput& input, Json& facts) {
+    const auto model = input.openModel(context);
     if (!model) return;
     const PlatformSetup setup(context.configuration, context.tell());
     const SetLibrary library(definitionViews(setup));
@@ -52,8 +53,11 @@ void runReport(CommandContext& context, const std::string& path) {
     report.identifiers = summarized(guids.result.problems, guids.result.total);
     addPropertySets(context, *model, library, report);
     addClassification(context, *model, setup, report);
+    facts = {{"instances", report.facts.instanceCount},
+             {"problems", report.problems.total},
+             {"set_findings", report.setFindings.total}};
     if (context.json())
-        writeJson(context.out, reportJson(report));
+        writeModelJson(context, reportJson(report));
     else if (context.format == htmlFormat)
         writeReportHtml(context.out, report);
     else
@@ -66,12 +70,21 @@ void runReport(CommandContext& context, const std::string& path) {
 
 void addReportCommand(const Command& app, CommandContext& context) {
     const Command command = app.addCommand("report", "One page about a model");
-    const auto path = std::make_shared<std::string>();
-    command.addOption("MODEL", *path, "IFC file").required();
+    const auto models = std::make_shared<ModelArguments>();
+    models->addTo(command);
     command.example("velkor report house.ifc --format html > house.html\n\n"
                     "Problems of the model do not change the exit status.");
-    context.complete(
-        command, [&context, path] { runReport(context, *path); }, htmlFormat);
+    const auto run = [&context, models] {
+        if (context.format == htmlFormat && !models->isSingle())
+            return context.reportBadUsage("--format html takes one model");
+        ModelWork work{.run = runReport, .done = "read"};
+        work.totals = {{"instances", "instance", "instances"},
+                       {"problems", "problem", "problems"},
+                       {"set_findings", "finding in property sets", "findings in property sets"}};
+        work.isFileObject = true;
+        workOnModels(context, *models, work);
+    };
+    context.complete(command, run, {jsonLinesFormat, htmlFormat});
 }
 
 } // namespace velkor::host

@@ -1,6 +1,7 @@
 // velkor units
 
 #include "Commands.h"
+#include "models/ModelWork.h"
 #include "output/Json.h"
 #include "output/UnitText.h"
 #include "terminal/DisplayText.h"
@@ -44,24 +45,28 @@ void writeText(TextSink out, const sdai::Model& model, const UnitReport& report)
     measures.write(out, "  ");
 }
 
-void runUnits(CommandContext& context, const std::string& path) {
-    const auto model = context.openModel(path);
+void runUnits(CommandContext& context, const ModelInput& input) {
+    const auto model = input.openModel(context);
     if (!model) return;
     const UnitReport report = unitReport(*model);
     if (!context.json()) return writeText(context.out, *model, report);
     Json json{{"file", model->file().name()}, {"release", model->schema().name()}};
     json.update(unitReportJson(report));
-    writeJson(context.out, json);
+    writeModelJson(context, json);
 }
 
 } // namespace
 
 void addUnitsCommand(const Command& app, CommandContext& context) {
     const Command command = app.addCommand("units", "Units of a model and what they are worth in SI units");
-    const auto path = std::make_shared<std::string>();
-    command.addOption("MODEL", *path, "IFC file").required();
+    const auto models = std::make_shared<ModelArguments>();
+    models->addTo(command);
     command.example("velkor units house.ifc --format json");
-    context.complete(command, [&context, path] { runUnits(context, *path); });
+    const auto run = [&context, models] {
+        const auto runOne = [](CommandContext& one, const ModelInput& input, Json&) { runUnits(one, input); };
+        workOnModels(context, *models, {.run = runOne, .done = "read"});
+    };
+    context.complete(command, run, {jsonLinesFormat});
 }
 
 } // namespace velkor::host

@@ -2,6 +2,7 @@
 
 #include "Commands.h"
 #include "LimitOption.h"
+#include "models/ModelWork.h"
 #include "output/Csv.h"
 #include "output/Json.h"
 #include "output/ProblemText.h"
@@ -28,7 +29,7 @@ constexpr std::size_t mostNames = 8;
 constexpr std::size_t widestName = 60;
 
 struct Options {
-    std::string path;
+    ModelArguments models;
     CodeFilter codes;
     std::size_t limit = defaultLimit;
 };
@@ -122,15 +123,15 @@ void writeCsv(CommandContext& context, const PropertySetCheck& check) {
 
 void writeResult(CommandContext& context, const sdai::Model& model, const PropertySetCheck& check, std::size_t limit) {
     if (context.json())
-        writeJson(context.out, resultJson(model, check));
+        writeModelJson(context, resultJson(model, check));
     else if (context.csv())
         writeCsv(context, check);
     else
         writeText(context.out, model.file().name(), check, limit);
 }
 
-void runValidate(CommandContext& context, const Options& options) {
-    const auto model = context.openModel(options.path);
+void runValidate(CommandContext& context, const Options& options, const ModelInput& input, Json& facts) {
+    const auto model = input.openModel(context);
     if (!model) return;
     const PlatformSetup setup(context.configuration, context.tell());
     const SetLibrary library(definitionViews(setup));
@@ -138,6 +139,7 @@ void runValidate(CommandContext& context, const Options& options) {
         checkPropertySets(*model, library, {options.limit, context.progress(), options.codes});
     if (!check.hasDefinitions) return context.reportUnreadable(noDefinitions);
     context.status = check.total == 0 ? Done : Findings;
+    facts = {{"findings", check.total}};
     writeResult(context, *model, check, options.limit);
     for (const std::string& reason : unreadableDefinitions(check, library)) context.reportUnreadable(reason);
 }
@@ -148,7 +150,7 @@ void addValidateCommand(const Command& app, CommandContext& context) {
     const Command command =
         app.addCommand("validate", "The property sets and quantity sets of a model against their definitions");
     const auto options = std::make_shared<Options>();
-    command.addOption("MODEL", options->path, "IFC file").required();
+    options->models.addTo(command);
     command.addOption("--only", options->codes.only, "List these kinds of findings only")
         .valueName("CODE,…")
         .someOf(codeNames());
@@ -157,8 +159,15 @@ void addValidateCommand(const Command& app, CommandContext& context) {
         .someOf(codeNames());
     addLimitOption(command, options->limit, "findings");
     command.example("velkor validate house.ifc --format csv\n\nExit status 1 when there are findings.");
-    context.complete(
-        command, [&context, options] { runValidate(context, *options); }, "csv");
+    const auto run = [&context, options] {
+        ModelWork work{.run = [options](CommandContext& one, const ModelInput& input, Json& facts) {
+            runValidate(one, *options, input, facts);
+        }};
+        work.totals = {{"findings", "finding", "findings"}};
+        work.isHeaded = true;
+        workOnModels(context, options->models, work);
+    };
+    context.complete(command, run, {jsonLinesFormat, "csv"});
 }
 
 } // namespace velkor::host

@@ -65,7 +65,7 @@ Json exactBytes(const Json& member) {
 
 class Writer {
 public:
-    explicit Writer(TextSink out) : _out(out) {}
+    Writer(TextSink out, JsonLayout layout) : _out(out), _layout(layout) {}
 
     void write(const Json& value) {
         if (value.is_number_float())
@@ -111,7 +111,7 @@ private:
     }
 
     void beginItem() {
-        if (!_isFirst) _out << ',';
+        if (!_isFirst) _out << (isIndented() ? "," : ", ");
         beginLine();
     }
 
@@ -122,12 +122,16 @@ private:
         _isFirst = false;
     }
 
+    bool isIndented() const { return _layout == JsonLayout::Indented; }
+
     void beginLine() {
+        if (!isIndented()) return;
         _out << '\n';
         for (int i = 0; i < _depth; ++i) _out << "  ";
     }
 
     TextSink _out;
+    JsonLayout _layout;
     int _depth = 0;
     // True when nothing stands in the innermost brackets yet.
     bool _isFirst = true;
@@ -139,8 +143,8 @@ Json textOrNull(const std::string& text) {
     return text.empty() ? Json() : Json(text);
 }
 
-void writeJson(TextSink out, const Json& value) {
-    Writer(out).write(value);
+void writeJson(TextSink out, const Json& value, JsonLayout layout) {
+    Writer(out, layout).write(value);
     out << '\n';
 }
 

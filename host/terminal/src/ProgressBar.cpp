@@ -16,9 +16,14 @@ ProgressBar::ProgressBar(TextSink err, bool isTerminal)
     : _err(err), _isTerminal(isTerminal), _next(Clock::now() + quietTime) {}
 
 ProgressBar::~ProgressBar() {
+    hide();
+}
+
+void ProgressBar::hide() {
     if (!_isShown) return;
     _err << "\r\033[K";
     _err.flush();
+    _isShown = false;
 }
 
 void ProgressBar::show(std::string_view work, std::uint64_t done, std::uint64_t total) {

@@ -26,6 +26,18 @@ void TextSink::lines(std::string_view text) const {
     }
 }
 
+void TextSink::printed(std::string_view text) const {
+    *_stream << text;
+}
+
+void TextSink::redirect(std::streambuf* target) const {
+    _stream->rdbuf(target);
+}
+
+bool TextSink::isWritable() const {
+    return !_stream->fail();
+}
+
 void TextSink::flush() const {
     _stream->flush();
 }

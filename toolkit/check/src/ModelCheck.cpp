@@ -97,18 +97,22 @@ ModelCheckResult checkModel(const sdai::Model& model, const ModelCheckOptions& o
 }
 
 tl::expected<FileCheck, files::OpenError> checkFile(const std::string& path, const ModelCheckOptions& options) {
-    auto file = sdai::Part21File::open(path);
-    if (!file) return tl::unexpected(file.error());
-    FileCheck check{(*file)->name(), {}, {}};
+    return sdai::Part21File::open(path).and_then(
+        [&](std::unique_ptr<sdai::Part21File> file) { return checkFile(std::move(file), options); });
+}
+
+tl::expected<FileCheck, files::OpenError> checkFile(std::unique_ptr<sdai::Part21File> file,
+                                                    const ModelCheckOptions& options) {
+    FileCheck check{file->name(), {}, {}};
     const bool isStructureAlone = options.scope == CheckScope::Structure;
-    const auto schemaProblem = isStructureAlone ? std::nullopt : sdai::Model::schemaProblem(**file);
+    const auto schemaProblem = isStructureAlone ? std::nullopt : sdai::Model::schemaProblem(*file);
     if (isStructureAlone || schemaProblem) {
-        take(check.result, checkStructure(**file, options), options.limit);
+        take(check.result, checkStructure(*file, options), options.limit);
         if (schemaProblem && options.codes.takes(schemaProblem->code))
             check.result.add({*schemaProblem}, 1, options.limit);
         return check;
     }
-    const auto model = sdai::Model::over(std::move(*file));
+    const auto model = sdai::Model::over(std::move(file));
     if (!model) return tl::unexpected(model.error());
     check.release = (*model)->schema().name();
     check.result = checkModel(**model, options);

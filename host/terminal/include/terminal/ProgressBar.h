@@ -19,6 +19,8 @@ public:
     ProgressBar& operator=(const ProgressBar&) = delete;
 
     void show(std::string_view work, std::uint64_t done, std::uint64_t total);
+    /// Makes room for other lines; show() brings the bar back.
+    void hide();
 
 private:
     using Clock = std::chrono::steady_clock;

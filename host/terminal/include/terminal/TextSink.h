@@ -57,6 +57,12 @@ public:
     }
     /// A text of the program that has been put together of lines: line ends in it are meant, too.
     void lines(std::string_view text) const;
+    /// What another sink has written: it is printable already, and goes on as it stands.
+    void printed(std::string_view text) const;
+    /// From now on all sinks of this stream write there.
+    void redirect(std::streambuf* target) const;
+    /// False once something could not be written.
+    bool isWritable() const;
     void flush() const;
 
 private:

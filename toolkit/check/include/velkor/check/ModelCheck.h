@@ -12,6 +12,7 @@
 #include "velkor/ToolkitExport.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -69,6 +70,9 @@ struct FileCheck {
 /// Opens a file and judges what can be judged: its structure alone when that is asked for, or when FILE_SCHEMA names no
 /// dictionary that is known, which is then a problem itself.
 VELKOR_TOOLKIT_API tl::expected<FileCheck, files::OpenError> checkFile(const std::string& path,
+                                                                       const ModelCheckOptions& options = {});
+/// The same over a file that is open already.
+VELKOR_TOOLKIT_API tl::expected<FileCheck, files::OpenError> checkFile(std::unique_ptr<sdai::Part21File> file,
                                                                        const ModelCheckOptions& options = {});
 
 /// Every code that a problem of a check may have, in alphabetical order.
