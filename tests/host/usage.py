@@ -73,8 +73,8 @@ count = judge([])
 pages = len(list((FOLDER / "man/man1").iterdir()))
 expect(pages == count, f"{pages} man pages for {count} commands")
 for words, offered in (
-    (["report", "--format", ""], ["text", "json", "html"]),
-    (["report", "--format", "=", "j"], ["json"]),
+    (["report", "--format", ""], ["text", "json", "jsonl", "html"]),
+    (["report", "--format", "=", "j"], ["json", "jsonl"]),
     (["check", "--only", "text-length,where"], ["text-length,where-rule"]),
     (["report", "--config", ""], []),
     (["report", ""], []),

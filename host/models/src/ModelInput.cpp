@@ -63,8 +63,8 @@ tl::expected<std::unique_ptr<sdai::Part21File>, files::OpenError> ModelInput::op
 }
 
 std::unique_ptr<sdai::Model> ModelInput::openModel(CommandContext& context) const {
-    auto model = openFile().and_then(
-        [](std::unique_ptr<sdai::Part21File> file) { return sdai::Model::over(std::move(file)); });
+    auto model =
+        openFile().and_then([](std::unique_ptr<sdai::Part21File> file) { return sdai::Model::over(std::move(file)); });
     if (model) return std::move(*model);
     context.reportUnreadable(model.error().message);
     return nullptr;

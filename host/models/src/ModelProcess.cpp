@@ -57,7 +57,8 @@ ModelProcess::ModelProcess(ModelProcess&& other) noexcept
 ModelProcess::~ModelProcess() {
     if (_id < 0 || hasEnded()) return;
     kill(_id, SIGTERM);
-    while (waitpid(_id, nullptr, 0) < 0 && errno == EINTR) {}
+    while (waitpid(_id, nullptr, 0) < 0 && errno == EINTR) {
+    }
 }
 
 tl::expected<ModelProcess, int> ModelProcess::start(const std::function<int(std::string&)>& work) {

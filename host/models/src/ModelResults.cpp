@@ -83,8 +83,8 @@ std::string reasonOf(const MemoryFile& err) {
 
 } // namespace
 
-ModelResults::ModelResults(CommandContext& context, const ModelWork& work)
-    : _context(context), _work(work), _totals(work.totals.size()) {}
+ModelResults::ModelResults(CommandContext& context, const ModelWork& work, std::size_t models)
+    : _context(context), _work(work), _models(models), _totals(work.totals.size()) {}
 
 void ModelResults::add(const ModelInput& input, const ModelProcess& process) {
     const auto status = process.status();
@@ -98,7 +98,7 @@ void ModelResults::add(const ModelInput& input, const ModelProcess& process) {
     forEachPiece(process.err(), 0, [&](const std::string& piece) { _context.err.printed(piece); });
     const std::string fault = process.fault();
     if (!fault.empty()) _context.err << "velkor: " << input.name() << ": " << fault << '\n';
-    if (!hasResult && (!status || *status != Done)) writeError(input, fault.empty() ? reasonOf(process.err()) : fault);
+    if (!hasResult) writeError(input, fault.empty() ? reasonOf(process.err()) : fault);
     const Json facts = Json::parse(process.facts(), nullptr, false);
     count(input, status.value_or(Unreadable), status && facts.is_object() ? facts : Json::object());
 }
@@ -111,11 +111,10 @@ void ModelResults::add(const ModelInput& input, const std::string& fault) {
 }
 
 void ModelResults::count(const ModelInput& input, int status, const Json& facts) {
-    ++_models;
+    ++_added;
     ++_counts.at(static_cast<std::size_t>(std::clamp<int>(status, Done, Unreadable)));
     _context.status = std::max(_context.status, status);
-    for (std::size_t i = 0; i < _totals.size(); ++i)
-        _totals[i] += facts.value(_work.totals[i].name, std::uint64_t(0));
+    for (std::size_t i = 0; i < _totals.size(); ++i) _totals[i] += facts.value(_work.totals[i].name, std::uint64_t(0));
     if (_work.take) _work.take(input, status, facts);
 }
 
@@ -126,10 +125,13 @@ void ModelResults::begin(const ModelInput& input) {
 }
 
 void ModelResults::beginItem() {
-    if (_isFirst)
-        _context.out << "{\n  \"models\": [\n";
-    else
-        _context.out << ",\n";
+    if (_isFirst) _context.out << "{\n  \"models\": [\n";
+}
+
+// With the end of its line, so that messages stand between lines.
+void ModelResults::endItem() {
+    if (_added + 1 < _models) _context.out << ',';
+    _context.out << '\n';
 }
 
 void ModelResults::writeOutput(const ModelInput& input, const MemoryFile& out) {
@@ -144,6 +146,7 @@ void ModelResults::writeOutput(const ModelInput& input, const MemoryFile& out) {
         LineCopier copier(_context.out, std::string(itemIndent));
         beginItem();
         forEachPiece(out, 1, [&](const std::string& piece) { copier.copy(piece); });
+        endItem();
     } else {
         forEachPiece(out, 0, [&](const std::string& piece) { _context.out.printed(piece); });
     }
@@ -160,6 +163,7 @@ void ModelResults::writeError(const ModelInput& input, const std::string& reason
     } else {
         beginItem();
         LineCopier(_context.out, std::string(itemIndent)).copy(jsonText(json));
+        endItem();
     }
     _isFirst = false;
 }
@@ -197,7 +201,7 @@ void ModelResults::finish(bool isSingle) {
         if (_isFirst)
             _context.out << "{\n  \"models\": []";
         else
-            _context.out << "\n  ]";
+            _context.out << "  ]";
         _context.out << ",\n  \"summary\": ";
         LineCopier copier(_context.out, std::string(memberIndent));
         copier.beginWith({});

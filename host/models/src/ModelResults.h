@@ -2,8 +2,8 @@
 #pragma once
 
 #include "CommandContext.h"
-#include "models/ModelWork.h"
 #include "ModelProcess.h"
+#include "models/ModelWork.h"
 
 #include <array>
 #include <cstdint>
@@ -15,8 +15,9 @@ namespace velkor::host {
 
 class ModelResults {
 public:
-    /// Writes to the context, whose status becomes the worst. Both have to live as long as this object.
-    ModelResults(CommandContext& context, const ModelWork& work);
+    /// Of so many models. Writes to the context, whose status becomes the worst. Context and work have to live as long
+    /// as this object.
+    ModelResults(CommandContext& context, const ModelWork& work, std::size_t models);
 
     /// What a process has left of its model.
     void add(const ModelInput& input, const ModelProcess& process);
@@ -31,13 +32,15 @@ private:
     void writeOutput(const ModelInput& input, const MemoryFile& out);
     void writeError(const ModelInput& input, const std::string& reason);
     void beginItem();
+    void endItem();
     std::string summaryText() const;
     Json summaryJson() const;
 
     CommandContext& _context;
     const ModelWork& _work;
     bool _isFirst = true;
-    std::uint64_t _models = 0;
+    std::size_t _models;
+    std::size_t _added = 0;
     // By status.
     std::array<std::uint64_t, Unreadable + 1> _counts{};
     std::vector<std::uint64_t> _totals;

@@ -38,7 +38,7 @@ class ModelRuns {
 public:
     ModelRuns(CommandContext& context, const ModelWork& work, std::vector<ModelInput> list, std::size_t jobs)
         : _context(context), _work(work), _list(std::move(list)), _bar(context.err, context.interactive),
-          _results(context, work) {
+          _results(context, work, _list.size()) {
         const std::size_t cores = jobs > 0 ? jobs : std::max(1U, std::thread::hardware_concurrency());
         _mostProcesses = std::max<std::size_t>(1, std::min(cores, _list.size()));
         for (ModelInput& input : _list) input.jobs = static_cast<unsigned>(cores / _mostProcesses);
@@ -107,9 +107,7 @@ private:
         });
     }
 
-    bool isHeadReady() const {
-        return !_runs.empty() && (!_runs.front().process || _runs.front().process->hasEnded());
-    }
+    bool isHeadReady() const { return !_runs.empty() && (!_runs.front().process || _runs.front().process->hasEnded()); }
 
     void writeHead() {
         _bar.hide();

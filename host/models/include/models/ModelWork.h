@@ -2,7 +2,8 @@
 ///
 ///     void runUnits(CommandContext& context, const ModelInput& input);
 ///     ...
-///     workOnModels(context, arguments, {.run = [](auto& context, const auto& input, Json&) { runUnits(context, input); }});
+///     workOnModels(context, arguments, {.run = [](auto& context, const auto& input, Json&) { runUnits(context, input);
+///     }});
 ///
 /// A single model is worked on in this process. Of several each has a process of its own, as many at once as there are
 /// cores to work on, and what they write is put together in the order of the models: text one behind the other, JSON as
