@@ -70,8 +70,8 @@ TEST(Models, TextStandsInTheOrderOfTheWordsAndASummaryBehindIt) {
     const std::string rest = both.text.substr(std::min(one.text.size(), both.text.size()));
     EXPECT_THAT(both.text, testing::StartsWith(broken + ":"));
     EXPECT_THAT(rest, HasSubstr("\n" + house + ": no problems found\n"));
-    EXPECT_THAT(both.text, testing::EndsWith(
-                               "\n\n3 models: 1 without findings, 1 with findings, 1 unreadable; 8 problems\n"));
+    EXPECT_THAT(both.text,
+                testing::EndsWith("\n\n3 models: 1 without findings, 1 with findings, 1 unreadable; 8 problems\n"));
     EXPECT_EQ(shell("velkor units " + house + " " + house + " | tail -1").text, "1 model: 1 read\n");
     EXPECT_EQ(shell("velkor validate " + broken + " " + house + " | head -1").text, broken + "\n");
 }
@@ -90,8 +90,8 @@ TEST(Models, TheStatusIsTheWorst) {
 
 TEST(Models, FoldersAreTakenByPathAndEachFileOnce) {
     const Tree tree;
-    const ShellOutcome found =
-        shell("velkor check --format jsonl -r " + tree.quoted() + " '" + tree.folder.path + "/inner/../b.ifc' 2>/dev/null");
+    const ShellOutcome found = shell("velkor check --format jsonl -r " + tree.quoted() + " '" + tree.folder.path +
+                                     "/inner/../b.ifc' 2>/dev/null");
     EXPECT_EQ(found.status, 3);
     const auto objects = jsonLines(found.text);
     // "link.ifc" is "b.ifc", which stands before it.
@@ -99,7 +99,8 @@ TEST(Models, FoldersAreTakenByPathAndEachFileOnce) {
                                             "inner/torn.ifc", "lost.ifc"}));
     EXPECT_FALSE(objects.at(5).contains("error")) << "a torn structure has problems";
     EXPECT_THAT(objects.back().at("error").get<std::string>(), HasSubstr("lost.ifc: cannot be read"));
-    EXPECT_THAT(shell("velkor check --format jsonl -r examples/embedding 2>/dev/null").text, HasSubstr("holds no model"));
+    EXPECT_THAT(shell("velkor check --format jsonl -r examples/embedding 2>/dev/null").text,
+                HasSubstr("holds no model"));
 }
 
 TEST(Models, OneObjectHoldsWhatEachModelAloneHas) {
@@ -124,18 +125,21 @@ TEST(Models, OneObjectHoldsWhatEachModelAloneHas) {
         EXPECT_EQ(object["summary"].at("unreadable"), 1);
         const auto lines = jsonLines(shell(line + "jsonl " + house + " no.ifc " + broken + " 2>/dev/null").text);
         ASSERT_EQ(lines.size(), 3) << command;
-        for (std::size_t i = 0; i < lines.size(); ++i) EXPECT_EQ(known(lines[i]), known(object["models"][i])) << command;
+        for (std::size_t i = 0; i < lines.size(); ++i)
+            EXPECT_EQ(known(lines[i]), known(object["models"][i])) << command;
     }
     // Further in by the two brackets around it.
     const std::string inner = shell("velkor units --format json " + house + " | sed 's/^/    /'").text;
-    EXPECT_THAT(shell("velkor units --format json no.ifc " + house + " 2>/dev/null").text,
-                HasSubstr("},\n" + inner.substr(0, inner.size() - 1) + "\n  ],\n  \"summary\": {\n    \"models\": 2,\n"));
+    EXPECT_THAT(
+        shell("velkor units --format json no.ifc " + house + " 2>/dev/null").text,
+        HasSubstr("},\n" + inner.substr(0, inner.size() - 1) + "\n  ],\n  \"summary\": {\n    \"models\": 2,\n"));
 }
 
 TEST(Models, ALineOfJsonSaysOfASingleModelThatItCannotBeRead) {
     const ShellOutcome single = shell("velkor units no.ifc --format jsonl 2>/dev/null");
     EXPECT_EQ(single.status, 3);
-    EXPECT_EQ(single.text, "{\"file\": \"no.ifc\", \"error\": \"no.ifc: cannot be read: No such file or directory\"}\n");
+    EXPECT_EQ(single.text,
+              "{\"file\": \"no.ifc\", \"error\": \"no.ifc: cannot be read: No such file or directory\"}\n");
     EXPECT_EQ(shell("velkor units no.ifc --format jsonl 2>&1 >/dev/null").text,
               "velkor: no.ifc: cannot be read: No such file or directory\n");
     const ShellOutcome good = shell("velkor units " + house + " --format jsonl 2>&1");
@@ -165,7 +169,8 @@ TEST(Models, RowsOfAllHaveTheirFileInFront) {
 TEST(Models, StandardInputIsReadOnce) {
     const std::string input = " < " + broken;
     std::string alone = shell("velkor check --limit 3 " + broken + " | grep -v judged").text;
-    for (std::size_t at; (at = alone.find(broken)) != std::string::npos;) alone.replace(at, broken.size(), "standard input");
+    for (std::size_t at; (at = alone.find(broken)) != std::string::npos;)
+        alone.replace(at, broken.size(), "standard input");
     // All but the seconds.
     const auto cut = [](const std::string& text) { return text.substr(0, text.rfind(", ")); };
     EXPECT_EQ(cut(shell("velkor check --limit 3 -" + input).text), cut(alone));
@@ -190,8 +195,8 @@ TEST(Models, AProcessThatDiesIsToldOfAndTheOthersGoOn) {
     // What each process is allowed is too little for the large model.
     for (const auto& [limit, words] : {std::pair("ulimit -v 60000", "memory"), {"ulimit -t 1", "ended by signal"}}) {
         SCOPED_TRACE(limit);
-        const ShellOutcome lines = shell(std::string("(") + limit + "; velkor check --jobs 1 --format jsonl " + models +
-                                         " 2>/dev/null)");
+        const ShellOutcome lines =
+            shell(std::string("(") + limit + "; velkor check --jobs 1 --format jsonl " + models + " 2>/dev/null)");
         const auto objects = jsonLines(lines.text);
         ASSERT_EQ(objects.size(), 2);
         EXPECT_EQ(lines.status, 3);
@@ -203,8 +208,8 @@ TEST(Models, AProcessThatDiesIsToldOfAndTheOthersGoOn) {
 TEST(Models, ConversionsKeepTheirNamesInAFolder) {
     const Tree tree;
     const std::string out = tree.folder.path + "/made/here";
-    const ShellOutcome made = shell("velkor convert " + house + " no.ifc " + broken + " -o '" + out + "' --report '" + out +
-                                    "' --to 4 2>/dev/null | tail -1");
+    const ShellOutcome made = shell("velkor convert " + house + " no.ifc " + broken + " -o '" + out + "' --report '" +
+                                    out + "' --to 4 2>/dev/null | tail -1");
     EXPECT_THAT(made.text, HasSubstr("3 models: "));
     for (const std::string name : {"house-ifc2x3.ifc", "broken.ifc", "broken.ifc.json"})
         EXPECT_TRUE(std::filesystem::exists(out + '/' + name)) << name;
