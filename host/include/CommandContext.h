@@ -20,6 +20,7 @@ inline constexpr const char* configurationVariable = "VELKOR_CONFIG";
 inline constexpr const char* jsonLinesFormat = "jsonl";
 inline constexpr const char* noColorVariable = "NO_COLOR";
 inline constexpr const char* terminalVariable = "TERM";
+inline constexpr const char* columnsVariable = "COLUMNS";
 
 /// What the program itself is set by. With the items of the toolkit this is what `velkor options --list-variables`
 /// prints and docs/configuration.md repeats.
@@ -28,6 +29,8 @@ inline constexpr ConfigurationItem programVariables[] = {
      "the configuration file, unless --config names one"},
     {ConfigurationPlace::Environment, noColorVariable, "presence", "no colour when it is there and not empty"},
     {ConfigurationPlace::Environment, terminalVariable, "text", "\"dumb\": neither colour nor progress"},
+    {ConfigurationPlace::Environment, columnsVariable, "number",
+     "width of text on a terminal; the terminal's own unless told"},
 };
 
 struct CommandContext {

@@ -22,6 +22,8 @@ void CommandContext::complete(const Command& command, std::function<void()> run,
                    "Configuration file, - for standard input; the one VELKOR_CONFIG names unless told")
         .valueName("FILE");
     command.onUse([this, run = std::move(run)] {
+        // Programs read the other formats, and there a line is a line.
+        if (format != "text") out = out.unfitted();
         if (readConfiguration()) run();
     });
 }

@@ -1,5 +1,6 @@
 #include "commands/Program.h"
 #include "terminal/LastWords.h"
+#include "terminal/LineFitter.h"
 #include "velkor/settings/QORDXEnvironmentVariable.h"
 
 #include <algorithm>
@@ -44,14 +45,19 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
 
     const bool capable = QORGetEnv(terminalVariable).utf8() != "dumb";
-    CommandContext context{std::cout, std::cerr};
+    const auto columns = QORGetEnv(columnsVariable).utf8();
+    LineFitter outLines(std::cout, terminalWidth(STDOUT_FILENO, columns));
+    LineFitter errLines(std::cerr, terminalWidth(STDERR_FILENO, columns));
+    CommandContext context{isatty(STDOUT_FILENO) != 0 ? TextSink(std::cout, outLines) : TextSink(std::cout),
+                           isatty(STDERR_FILENO) != 0 ? TextSink(std::cerr, errLines) : TextSink(std::cerr)};
     context.in = &std::cin;
     context.shippedResources = shippedResources();
     context.interactive = capable && isatty(STDERR_FILENO) != 0;
     context.color = capable && isatty(STDOUT_FILENO) != 0 && QORGetEnv(noColorVariable).IsEmpty();
 
     const int status = run({argv + std::min(argc, 1), argv + argc}, context);
-    std::cout.flush();
+    context.out.flush();
+    context.err.flush();
     if (!std::cout && !isReaderGone()) {
         context.err << "velkor: the results could not be written to standard output\n";
         return Unreadable;

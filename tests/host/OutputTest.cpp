@@ -108,13 +108,14 @@ TEST(Output, NothingUntrustedActsOnATerminalOrForgesALine) {
                                                       "\\u202e\\u2066\\u2028\\u2029\\u000aEVIL,"));
 }
 
-TEST(Output, LongTextsAreCutInTablesAlone) {
+TEST(Output, LongTextsAreWholeButOnATerminal) {
     const std::string name = std::string(100, 'x') + "建物" + std::string(100'000, 'y');
     const TemporaryModel model("IFC4", "#1=IFCWALL('0$WU4A9R19$vKWO$AdOnKA',$,'" + name + "',$,$,$,$,$,$);\n");
     const auto classified = [&](const char* format) {
         return runHost({"classify", model.path(), "--format", format}, false, shippedResources).out;
     };
-    EXPECT_THAT(classified("text"), testing::HasSubstr(name.substr(0, 106 + 15) + "…  "));
+    EXPECT_THAT(classified("text"), testing::HasSubstr(name + "  "));
+    EXPECT_LT(classified("text").size(), name.size() + 10'000);
     EXPECT_THAT(classified("csv"), testing::HasSubstr(name + ','));
     EXPECT_THAT(classified("json"), testing::HasSubstr(name + '"'));
 }
@@ -136,7 +137,8 @@ TEST(DisplayText, CountsColumnsNotCharacters) {
 TEST(DisplayText, WrapsAtBlanksAndCutsAtWholeCharacters) {
     EXPECT_THAT(wrapped("one two three", 7, 4), ElementsAre("one two", "three"));
     EXPECT_THAT(wrapped("one two three four", 7, 2), ElementsAre("one two", "three…"));
-    EXPECT_THAT(wrapped("abcdefghij", 4, 4), ElementsAre("abcd", "efgh", "ij"));
+    EXPECT_THAT(wrapped("abcdefghij", 4, 4), ElementsAre("abcdefghij"));
+    EXPECT_THAT(wrapped("ab cdefghij kl m", 4, 4), ElementsAre("ab", "cdefghij", "kl m"));
     EXPECT_THAT(wrapped("abcd", 4, 1), ElementsAre("abcd"));
     EXPECT_THAT(wrapped("abcd  ", 4, 1), ElementsAre("abcd"));
     EXPECT_THAT(wrapped("abcde", 4, 1), ElementsAre("abc…"));
@@ -146,7 +148,7 @@ TEST(DisplayText, WrapsAtBlanksAndCutsAtWholeCharacters) {
     EXPECT_THAT(wrapped("nu\u0308nu\u0308nu\u0308", 4, 1), ElementsAre("nu\u0308n…"));
     EXPECT_THAT(wrapped("", 4, 2), IsEmpty());
     EXPECT_THAT(wrapped("    ", 4, 2), IsEmpty());
-    EXPECT_THAT(wrapped(std::string(10'000'000, 'x'), 10, 2), ElementsAre("xxxxxxxxxx", "xxxxxxxxx…"));
+    EXPECT_THAT(wrapped(std::string(10'000'000, 'x'), 10, 2), ElementsAre(std::string(21, 'x') + "…"));
 }
 
 TEST(DisplayText, GroupsDigits) {

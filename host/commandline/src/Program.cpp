@@ -1,6 +1,7 @@
 #include "commandline/Program.h"
 
 #include "terminal/ExitStatus.h"
+#include "terminal/LineFitter.h"
 #include "velkor/text/NearestNames.h"
 #include "velkor/text/Printable.h"
 #include "velkor/text/Wording.h"
@@ -12,6 +13,19 @@
 namespace velkor::host {
 
 namespace {
+
+constexpr std::size_t widestHelp = 80;
+constexpr std::size_t namesWidth = 30;
+
+std::size_t helpWidth(TextSink out) {
+    return std::min(widestHelp, out.width());
+}
+
+void writeHelp(TextSink out, const std::string& text) {
+    std::ostringstream lines;
+    LineFitter(lines, helpWidth(out)).write(text);
+    out.lines(lines.str());
+}
 
 // The command that the user meant: the deepest one parsed.
 std::string usedCommand(const CLI::App* app) {
@@ -50,7 +64,10 @@ std::string failureMessage(const CLI::App* app, const CLI::Error& error) {
 int answer(const CLI::App& app, const CLI::ParseError& error, TextSink out, TextSink err) {
     std::ostringstream outText, errText;
     const int code = app.exit(error, outText, errText);
-    out.lines(outText.str());
+    if (dynamic_cast<const CLI::CallForHelp*>(&error) != nullptr)
+        writeHelp(out, outText.str());
+    else
+        out.unfitted().lines(outText.str());
     err.lines(errText.str());
     return code == 0 ? Done : BadUsage;
 }
@@ -68,13 +85,14 @@ int help(const CLI::App& program, const std::vector<std::string>& words, TextSin
         command = below.front();
         name += ' ' + word;
     }
-    out.lines(command->get_formatter()->make_help(command, name, CLI::AppFormatMode::Normal));
+    writeHelp(out, command->get_formatter()->make_help(command, name, CLI::AppFormatMode::Normal));
     return Done;
 }
 
 // The program as the parser sees it.
 struct Parser {
-    explicit Parser(const ProgramParts& parts);
+    /// Help in lines of at most `width` columns.
+    Parser(const ProgramParts& parts, std::size_t width);
 
     CLI::App app{"Services for building models in IFC (ISO 16739).", "velkor"};
     std::string versionFormat = "text";
@@ -82,7 +100,7 @@ struct Parser {
     CLI::App* help = nullptr;
 };
 
-Parser::Parser(const ProgramParts& parts) {
+Parser::Parser(const ProgramParts& parts, std::size_t width) {
     // Ahead of --version, whose answer ends the parsing.
     const Command program(&app);
     const Option format = program.addOption("--format", versionFormat, "How --version answers; text unless told")
@@ -99,6 +117,8 @@ Parser::Parser(const ProgramParts& parts) {
                "3 input could not be read, or memory ran out.");
     // Not required here: a word that is no command is then reported as such.
     app.require_subcommand(0, 1);
+    // Names leave the larger part of a line to what they mean. The commands that follow take this over.
+    app.get_formatter()->column_width(std::min(namesWidth, width / 8 * 3));
     parts.addCommands(program);
     const Command helping = program.addCommand("help", "Explain a command, or list them all");
     helping.addOption("COMMAND", helpWords, "The command, such as: guid check");
@@ -111,7 +131,7 @@ Parser::Parser(const ProgramParts& parts) {
 const char* const programVersion = VELKOR_VERSION;
 
 std::optional<int> parse(std::vector<std::string> words, TextSink out, TextSink err, const ProgramParts& parts) {
-    Parser parser(parts);
+    Parser parser(parts, helpWidth(out));
     try {
         std::ranges::reverse(words);
         parser.app.parse(words);
@@ -120,12 +140,12 @@ std::optional<int> parse(std::vector<std::string> words, TextSink out, TextSink 
     }
     if (parser.help->parsed()) return help(parser.app, parser.helpWords, out, err);
     if (!parser.app.get_subcommands().empty()) return std::nullopt;
-    err.lines(parser.app.help());
+    writeHelp(err, parser.app.help());
     return BadUsage;
 }
 
 CommandDescription describeProgram(const ProgramParts& parts) {
-    Parser parser(parts);
+    Parser parser(parts, widestHelp);
     return describeCommand(parser.app);
 }
 

@@ -5,7 +5,6 @@
 #include "output/Json.h"
 #include "output/RuleText.h"
 #include "ReleaseName.h"
-#include "terminal/DisplayText.h"
 #include "terminal/TextTable.h"
 #include "velkor/dictionaries/DictionaryDiff.h"
 #include "velkor/dictionaries/EntityFacts.h"
@@ -227,7 +226,7 @@ void runAsMapping(CommandContext& context, const std::string& first, const std::
         }
         if (!addPair(context, other.substr(0, colon), other.substr(colon + 1), pairs, schemas)) return;
     }
-    context.out.lines(versionMappingDocument(pairs));
+    context.out.unfitted().lines(versionMappingDocument(pairs));
 }
 
 /// What the user typed for one of the subcommands.

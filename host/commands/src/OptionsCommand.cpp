@@ -45,7 +45,7 @@ void writeText(CommandContext& context, const PlatformSetup& setup, const std::v
     TextSink::Literal before = "\n";
     for (const EffectiveOption& option : options) {
         for (const std::string& remark : option.remarks) {
-            out << before << option.name << ": " << shortened(remark, longestMessage) << '\n';
+            out << before << option.name << ": " << shortenedOn(out, remark, longestMessage) << '\n';
             before = "";
         }
     }

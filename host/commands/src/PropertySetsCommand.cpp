@@ -231,7 +231,7 @@ void writeTemplates(CommandContext& context, const Release& release, const SetLi
     const auto file = setTemplates(sets, release.catalogue().release(), header);
     if (!file) return answerNo(context, "no templates are written: " + file.error());
     if (isStream)
-        context.out.lines(file->text);
+        context.out.unfitted().lines(file->text);
     else if (!writeFile(context, path, file->text))
         return;
     if (context.json() && !isStream) {

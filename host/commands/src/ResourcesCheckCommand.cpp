@@ -39,8 +39,9 @@ void writeText(CommandContext& context, const std::vector<CheckedFile>& files, c
     for (const CheckedFile& file : files) {
         for (const Finding& finding : file.judgement.findings) {
             context.out << file.path << ':' << finding.line << ": " << name(finding.severity) << ": "
-                        << shortened(finding.message, longestMessage) << (finding.hint.empty() ? "" : "; ")
-                        << shortened(finding.hint, longestMessage) << " [" << finding.code << "]\n";
+                        << shortenedOn(context.out, finding.message, longestMessage)
+                        << (finding.hint.empty() ? "" : "; ") << shortenedOn(context.out, finding.hint, longestMessage)
+                        << " [" << finding.code << "]\n";
         }
     }
     for (const LinterKind& kind : lint::linterKinds()) {

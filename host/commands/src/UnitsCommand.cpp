@@ -36,7 +36,7 @@ void writeText(TextSink out, const sdai::Model& model, const UnitReport& report)
     out << "\nGeometry\n  1 length unit = " << text::shortest(report.lengthFactor)
         << " mm\n  1 plane angle unit = " << text::shortest(report.angleFactor) << " rad\n";
     if (!report.lengthUnitName.empty()) {
-        out << "  document length unit: " << shortened(report.lengthUnitName, TextTable::widest) << ", factor "
+        out << "  document length unit: " << shortenedOn(out, report.lengthUnitName, TextTable::widest) << ", factor "
             << text::shortest(report.lengthUnitFactor) << '\n';
     }
     out << "\nFactor to SI by measure type\n";

@@ -7,7 +7,6 @@
 #include "output/Json.h"
 #include "output/ProblemText.h"
 #include "output/PropertySetText.h"
-#include "terminal/DisplayText.h"
 #include "terminal/TextTable.h"
 #include "velkor/check/ProblemSummary.h"
 #include "velkor/configuration/PlatformSetup.h"
@@ -23,10 +22,8 @@ namespace velkor::host {
 
 namespace {
 
-/// Names without a definition that people are file.
+/// Names without a definition that people are told.
 constexpr std::size_t mostNames = 8;
-/// Of a set's name in the summary, in columns.
-constexpr std::size_t widestName = 60;
 
 struct Options {
     ModelArguments models;
@@ -49,8 +46,8 @@ void writeSummaries(TextSink out, const PropertySetCheck& check, std::size_t lim
                      {"missing", TextTable::Right},
                      {"wrong", TextTable::Right}});
     for (const SetSummary& summary : std::span(check.summaries).first(std::min(limit, check.summaries.size()))) {
-        table.add({summary.name.empty() ? "(no name)" : shortened(summary.name, widestName),
-                   text::grouped(summary.sets), text::grouped(summary.objects), text::grouped(summary.filled),
+        table.add({summary.name.empty() ? "(no name)" : summary.name, text::grouped(summary.sets),
+                   text::grouped(summary.objects), text::grouped(summary.filled),
                    summary.isDefined ? text::grouped(summary.missing) : "-", text::grouped(summary.wrong)});
     }
     if (table.empty()) return;

@@ -75,7 +75,7 @@ void writeUse(Page& page, const RuleUse& use, bool allPlaces) {
     const bool isWarning = rank(use.rule->effect) < 2;
     std::string text(use.rule->what);
     ((text += " [") += use.rule->name) += ']';
-    const auto lines = wrapped(text, Page::width - ruleIndent, 4);
+    const auto lines = wrapped(text, page.width() - ruleIndent, std::string_view::npos);
     const std::string label = padded(word(use.rule->effect), 10) + rightAligned(text::grouped(use.count), 6) + "  ";
     for (std::size_t i = 0; i < lines.size(); ++i) {
         page.line({Page::Span(i == 0 ? label : std::string(label.size(), ' '), styleOf(use.rule->effect)),

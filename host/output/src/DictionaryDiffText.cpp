@@ -1,7 +1,6 @@
 #include "output/DictionaryDiffText.h"
 
 #include "output/RuleText.h"
-#include "terminal/DisplayText.h"
 #include "terminal/TextTable.h"
 
 #include <nlohmann/json.hpp>
@@ -41,8 +40,7 @@ void writeChanges(TextSink out, const std::vector<DictionaryDiff::Change>& chang
 void writeRules(TextSink out, const char* title, const std::vector<RuleFacts>& rules) {
     if (rules.empty()) return;
     out << '\n' << title << '\n';
-    for (const RuleFacts& rule : rules)
-        out << "  " << rule.name << ": " << shortened(meaning(rule), TextTable::widest) << '\n';
+    for (const RuleFacts& rule : rules) out << "  " << rule.name << ": " << meaning(rule) << '\n';
 }
 
 void writeRuleChanges(TextSink out, const DictionaryDiff& diff) {

@@ -10,7 +10,7 @@ namespace velkor::host {
 void writeProblem(TextSink out, const std::string& file, const sdai::Problem& problem) {
     out << file << ':' << problem.line << ": " << name(problem.severity) << ": ";
     if (problem.instance != 0) out << '#' << problem.instance << ": ";
-    out << shortened(problem.message, longestMessage) << " [" << problem.code << "]\n";
+    out << shortenedOn(out, problem.message, longestMessage) << " [" << problem.code << "]\n";
 }
 
 Json problemJson(const sdai::Problem& problem) {

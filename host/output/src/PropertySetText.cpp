@@ -1,19 +1,11 @@
 #include "output/PropertySetText.h"
 
-#include "terminal/DisplayText.h"
 #include "velkor/text/Wording.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
 namespace velkor::host {
-
-namespace {
-
-/// Of a name that people are shown, in columns.
-constexpr std::size_t widestName = 80;
-
-} // namespace
 
 std::vector<std::string> unreadableDefinitions(const PropertySetCheck& check, const SetLibrary& library) {
     std::vector<std::string> lines;
@@ -47,7 +39,7 @@ std::string undefinedText(const PropertySetCheck& check, std::size_t most) {
     const std::size_t shown = std::min(names.size(), most);
     for (std::size_t i = 0; i < shown; ++i) {
         const auto& [name, count] = names[i];
-        text += (text.empty() ? "" : ", ") + (name.empty() ? "sets without a name" : shortened(name, widestName));
+        text += (text.empty() ? "" : ", ") + (name.empty() ? "sets without a name" : name);
         if (count > 1) text += " (" + text::grouped(count) + ')';
     }
     if (names.size() > shown) text += ", " + text::counted(names.size() - shown, "other", "others");

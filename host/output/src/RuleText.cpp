@@ -62,12 +62,13 @@ void writeRules(TextSink out, const std::vector<RuleFacts>& rules) {
 void writeRule(TextSink out, std::string_view schema, const RuleFacts& rule) {
     constexpr std::size_t indent = 4;
     const auto paragraph = [&](std::string_view text) {
-        for (const std::string& line : wrapped(text, Page::width, std::string_view::npos)) out << line << '\n';
+        for (const std::string& line : wrapped(text, Page::widthOn(out), std::string_view::npos)) out << line << '\n';
     };
     out << rule.name << " of " << schema << ", " << name(rule.kind) << '\n';
     if (!rule.wording.empty()) paragraph("expected: " + rule.wording);
     out << '\n';
-    for (const std::string& line : expressLines(rule.expression, Page::width - indent)) out << "    " << line << '\n';
+    for (const std::string& line : expressLines(rule.expression, Page::widthOn(out) - indent))
+        out << "    " << line << '\n';
     if (rule.fault.empty()) return;
     out << '\n';
     paragraph("known to be faulty, so that its findings are warnings: " + rule.fault);

@@ -102,7 +102,7 @@ void writeEnumerators(TextSink out, const std::vector<PropertyDefinition>& prope
         if (!property.enumerators.empty()) {
             out << '\n' << "values of " << name << '\n';
             const std::string values = text::joined(property.enumerators);
-            for (const std::string& line : wrapped(values, Page::width - indent, std::string_view::npos))
+            for (const std::string& line : wrapped(values, Page::widthOn(out) - indent, std::string_view::npos))
                 out << "    " << line << '\n';
         }
         writeEnumerators(out, property.members, name + '.');
@@ -145,7 +145,7 @@ void writeSet(TextSink out, const SetCatalogue& catalogue, const SetDefinition& 
     if (set.templateType != TemplateType::Unspecified) out << ", " << wordOf(set.templateType);
     out << '\n';
     const auto paragraph = [&](const std::string& text) {
-        for (const std::string& line : wrapped(text, Page::width, std::string_view::npos)) out << line << '\n';
+        for (const std::string& line : wrapped(text, Page::widthOn(out), std::string_view::npos)) out << line << '\n';
     };
     paragraph("applies to: " + (set.classes.empty() ? "nothing that is named" : classesText(set)));
     if (!set.methods.empty()) paragraph("methods of measurement: " + text::joined(set.methods));

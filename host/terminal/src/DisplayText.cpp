@@ -53,6 +53,10 @@ std::size_t displayWidth(std::string_view text) {
     return width;
 }
 
+std::size_t takeCharacter(std::string_view& text) {
+    return takeCluster(text).width;
+}
+
 std::string shortened(std::string_view text, std::size_t width) {
     const std::size_t most = (width + 1) * bytesPerColumn;
     const std::string clean = text::printable(text.substr(0, most));
@@ -65,10 +69,15 @@ std::string shortened(std::string_view text, std::size_t width) {
     return columns <= width && text.size() <= most ? clean : clean.substr(0, end).append(ellipsis);
 }
 
+std::string shortenedOn(TextSink out, std::string_view text, std::size_t width) {
+    return out.isTerminal() ? shortened(text, width) : text::printable(text);
+}
+
 std::vector<std::string> wrapped(std::string_view text, std::size_t width, std::size_t maxLines) {
     constexpr auto nowhere = std::numeric_limits<std::size_t>::max();
-    // A text of any length costs no more than what can be seen of it.
-    const std::string clean = text::printable(text.substr(0, (width * maxLines + 1) * bytesPerColumn));
+    text = text.substr(0, text.find_last_not_of(' ') + 1);
+    // A text of any length costs no more than what can be seen of it, with a blank at the end of each line.
+    const std::string clean = maxLines >= text.size() ? text::printable(text) : shortened(text, (width + 1) * maxLines);
     const std::vector<Cluster> all = clusters(clean);
     const auto isBlank = [&](std::size_t i) { return all[i].text == " "; };
     const auto join = [&](std::size_t begin, std::size_t end) {
@@ -96,10 +105,35 @@ std::vector<std::string> wrapped(std::string_view text, std::size_t width, std::
             return lines;
         }
         if (!fits && !isBlank(end) && blank != nowhere) end = blank;
-        end = std::max(end, begin + 1);
+        if (!fits && blank == nowhere) {
+            while (end < all.size() && !isBlank(end) && (end == begin || all[end].width < 2)) ++end;
+        }
         lines.push_back(join(begin, end));
         begin = end;
     }
+}
+
+std::vector<std::string> cellLines(std::string_view text, std::size_t width, std::size_t maxLines) {
+    std::string words;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(' '), text.size());
+        words += shortened(text.substr(0, end), width);
+        text.remove_prefix(end);
+        const std::size_t next = std::min(text.find_first_not_of(' '), text.size());
+        words.append(next, ' ');
+        text.remove_prefix(next);
+    }
+    return wrapped(words, width, maxLines);
+}
+
+std::size_t widestWord(std::string_view text) {
+    std::size_t widest = 0;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find(' '), text.size());
+        widest = std::max(widest, displayWidth(text.substr(0, end)));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return widest;
 }
 
 } // namespace velkor::host

@@ -11,7 +11,9 @@ namespace velkor::host {
 namespace {
 
 constexpr std::size_t labelWidth = 16;
+/// Of a text on a terminal as wide as the page; on a narrow one it has more.
 constexpr std::size_t maxLines = 4;
+constexpr std::size_t narrow = 60;
 
 TextSink::Literal escape(Page::Style style) {
     switch (style) {
@@ -53,9 +55,12 @@ void Page::section(std::string_view heading, std::string_view remark, Style rema
 }
 
 void Page::entry(std::string_view label, std::string_view text) {
-    constexpr std::size_t indent = 2 + labelWidth;
-    _out << "  " << padded(label, labelWidth);
-    const auto lines = wrapped(text, width - indent, maxLines);
+    // On a narrow terminal the text begins below its label.
+    const bool isBelow = width() < narrow;
+    const std::size_t indent = isBelow ? 4 : 2 + labelWidth;
+    _out << "  " << (isBelow ? std::string(label) : padded(label, labelWidth));
+    if (isBelow) _out << "\n    ";
+    const auto lines = wrappedOn(text, indent);
     if (lines.empty()) {
         write({"not stated", Style::Dim});
         _out << '\n';
@@ -72,11 +77,16 @@ void Page::line(const std::vector<Span>& spans) {
 }
 
 void Page::paragraph(std::string_view text, std::size_t indent, Style style) {
-    for (const std::string& line : wrapped(text, width - indent, maxLines)) {
+    for (const std::string& line : wrappedOn(text, indent)) {
         _out << std::string(indent, ' ');
         write({line, style});
         _out << '\n';
     }
+}
+
+std::vector<std::string> Page::wrappedOn(std::string_view text, std::size_t indent) const {
+    const std::size_t mostLines = _out.isTerminal() ? maxLines * widest / width() : std::string_view::npos;
+    return wrapped(text, width() - indent, mostLines);
 }
 
 void Page::write(const Span& span) {

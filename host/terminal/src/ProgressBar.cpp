@@ -1,6 +1,9 @@
 #include "terminal/ProgressBar.h"
 
+#include "terminal/DisplayText.h"
 #include "terminal/Page.h"
+
+#include <algorithm>
 
 namespace velkor::host {
 
@@ -33,7 +36,10 @@ void ProgressBar::show(std::string_view work, std::uint64_t done, std::uint64_t 
     _next = now + interval;
     _isShown = true;
     const double part = static_cast<double>(done) / static_cast<double>(total);
-    _err << '\r' << work << "  " << padded(bar(part, barWidth), barWidth) << ' ' << static_cast<int>(part * 100.0)
+    // What stands beside the bar, and the last column, which a terminal may not leave.
+    const std::size_t beside = displayWidth(work) + 2 + 6 + 1;
+    const std::size_t width = std::min(barWidth, _err.width() - std::min(_err.width(), beside));
+    _err << '\r' << work << "  " << padded(bar(part, width), width) << ' ' << static_cast<int>(part * 100.0)
          << " %\033[K";
     _err.flush();
 }

@@ -9,7 +9,7 @@
 
 namespace velkor::host {
 
-/// The widest line of a message that people are shown; it is cut there.
+/// A message on a terminal is cut there.
 inline constexpr std::size_t longestMessage = 1000;
 
 /// One line as compilers write it, so that editors jump to the place.

@@ -1,5 +1,5 @@
-/// A page for people: sections of labelled entries, no wider than 96 columns, coloured when
-/// the output may be.
+/// A page for people: sections of labelled entries, wrapped at 96 columns and those of the terminal, coloured when
+/// the output may be. On a terminal a text is no longer than a few lines.
 ///
 ///     Page page(out, color);
 ///     page.section("Project");
@@ -8,6 +8,7 @@
 
 #include "terminal/TextSink.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,10 +17,14 @@ namespace velkor::host {
 
 class Page {
 public:
-    static constexpr std::size_t width = 96;
+    static constexpr std::size_t widest = 96;
     enum class Style { Plain, Bold, Dim, Good, Doubtful, Bad };
 
     Page(TextSink out, bool color) noexcept : _out(out), _color(color) {}
+
+    std::size_t width() const noexcept { return widthOn(_out); }
+    /// What a page has on a terminal.
+    static std::size_t widthOn(TextSink out) noexcept { return std::min(widest, out.width()); }
 
     void title(std::string_view text);
     /// A heading after an empty line, and what is to be said beside it.
@@ -42,6 +47,7 @@ public:
 
 private:
     void write(const Span& span);
+    std::vector<std::string> wrappedOn(std::string_view text, std::size_t indent) const;
     TextSink _out;
     bool _color;
 };

@@ -7,13 +7,16 @@
 #pragma once
 
 #include <concepts>
+#include <cstddef>
 #include <iosfwd>
 #include <string_view>
 #include <type_traits>
 
 namespace velkor::host {
 
-/// Refers to a stream; copies write to the same one.
+class LineFitter;
+
+/// Refers to a stream, or to the lines of a terminal; copies write to the same one.
 class TextSink {
 public:
     /// A text or character that stands in the program: only the compiler can make one.
@@ -36,6 +39,14 @@ public:
     };
 
     TextSink(std::ostream& stream) noexcept : _stream(&stream) {}
+    /// Writes lines of the terminal that `fitter` writes to `stream`.
+    TextSink(std::ostream& stream, LineFitter& fitter) noexcept : _stream(&stream), _fitter(&fitter) {}
+
+    bool isTerminal() const noexcept { return _fitter != nullptr; }
+    /// Columns of the terminal; without one there is no end to a line.
+    std::size_t width() const noexcept;
+    /// The way for what is not text for people, whose lines are left alone.
+    TextSink unfitted() const;
 
     const TextSink& operator<<(Literal literal) const;
     const TextSink& operator<<(LiteralCharacter literal) const;
@@ -67,10 +78,12 @@ public:
 
 private:
     void write(std::string_view text) const;
+    void put(std::string_view text) const;
     void writeNumber(long long number) const;
     void writeNumber(unsigned long long number) const;
 
     std::ostream* _stream;
+    LineFitter* _fitter = nullptr;
 };
 
 } // namespace velkor::host

@@ -1,4 +1,6 @@
-/// A table for people: columns as wide as their widest cell, which is cut beyond `widest`; two blanks between them.
+/// A table for people: columns as wide as their widest cell, up to `widest`; two blanks between them. A cell that is
+/// wider stands out of its column; on a terminal it is wrapped or cut, as all are in the columns that give where the
+/// table is too wide.
 ///
 ///     TextTable table({{"name"}, {"count", TextTable::Right}});
 ///     table.add({"IFCWALL", "12"});
@@ -15,7 +17,7 @@ namespace velkor::host {
 
 class TextTable {
 public:
-    /// Of a cell, in columns.
+    /// Of a column.
     static constexpr std::size_t widest = 120;
     enum Alignment { Left, Right };
     struct Column {
@@ -31,6 +33,11 @@ public:
     void write(TextSink out, const std::string& indent = {}) const;
 
 private:
+    bool fit(std::vector<std::size_t>& widths, std::size_t available) const;
+    void writeRow(TextSink out, const std::string& indent, const std::vector<std::string>& cells,
+                  const std::vector<std::size_t>& widths) const;
+    void writeRecords(TextSink out, const std::string& indent) const;
+
     std::vector<Column> _columns;
     std::vector<std::vector<std::string>> _rows;
 };
