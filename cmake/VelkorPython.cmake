@@ -1,0 +1,21 @@
+# Whether the Python module is built: where Python and pybind11 are there, unless told. The interpreter cannot load what
+# needs a sanitizer's runtime before anything else.
+set(_python OFF)
+# The system's own, whose folder of packages gets the module, whatever else is in the path.
+if(NOT Python_EXECUTABLE AND EXISTS /usr/bin/python3)
+  set(Python_EXECUTABLE /usr/bin/python3)
+endif()
+if(PROJECT_IS_TOP_LEVEL AND NOT VELKOR_SANITIZE AND NOT VELKOR_FUZZ)
+  find_package(Python COMPONENTS Interpreter Development.Module QUIET)
+  find_package(pybind11 CONFIG QUIET)
+  if(Python_Development.Module_FOUND AND pybind11_FOUND)
+    set(_python ON)
+  else()
+    message(STATUS "The Python module is left out: it needs python3-dev and pybind11-dev")
+  endif()
+endif()
+option(VELKOR_PYTHON "Build the Python module velkor" ${_python})
+if(VELKOR_PYTHON)
+  find_package(Python COMPONENTS Interpreter Development.Module REQUIRED)
+  find_package(pybind11 CONFIG REQUIRED)
+endif()
