@@ -63,7 +63,7 @@ def test_products_are_classified():
     assert [one.neutral_id for one in walls].count("ExternalWall") == 4
     assert all((one.neutral_id is None) == bool(one.reason) for one in result.products)
     assert result.unclassified == sum(one.neutral_id is None for one in result.products)
-    assert result.document.endswith("CustomMapping.xml")
+    assert result.document.endswith("AECCorrespondences.xml")
 
 
 def test_units_have_factors(pump_room):
