@@ -62,26 +62,32 @@ py::list attributes(const py::object& self) {
 void declareEntity(py::module_& module) {
     using Attribute = EntityFacts::Attribute;
     py::class_<Attribute>(module, "Attribute", "An attribute of an entity, as its release declares it.")
-        .def_property_readonly("name", [](const Attribute& self) { return toText(self.name); }, "In upper case.")
-        .def_property_readonly("owner", [](const Attribute& self) { return toText(self.owner); },
-                               "The entity that declares it.")
-        .def_property_readonly("type", [](const Attribute& self) { return toText(self.type); },
-                               "In EXPRESS notation, without OPTIONAL.")
+        .def_property_readonly(
+            "name", [](const Attribute& self) { return toText(self.name); }, "In upper case.")
+        .def_property_readonly(
+            "owner", [](const Attribute& self) { return toText(self.owner); }, "The entity that declares it.")
+        .def_property_readonly(
+            "type", [](const Attribute& self) { return toText(self.type); }, "In EXPRESS notation, without OPTIONAL.")
         .def_readonly("is_optional", &Attribute::isOptional)
         .def_readonly("is_derived", &Attribute::isDerived)
-        .def_property_readonly("position", [](const Attribute& self) { return numberOrNone(self.position); },
-                               "Place among the values of an instance, counted from 1; None when it has none there.")
-        .def("__repr__", [](const Attribute& self) { return py::str("<velkor.Attribute {}>").format(toText(self.name)); });
+        .def_property_readonly(
+            "position", [](const Attribute& self) { return numberOrNone(self.position); },
+            "Place among the values of an instance, counted from 1; None when it has none there.")
+        .def("__repr__",
+             [](const Attribute& self) { return py::str("<velkor.Attribute {}>").format(toText(self.name)); });
     py::class_<Entity>(module, "Entity", "An entity of a release, inherited attributes included.")
-        .def_property_readonly("name", [](const Entity& self) { return toText(self.facts.name); }, "In upper case.")
+        .def_property_readonly(
+            "name", [](const Entity& self) { return toText(self.facts.name); }, "In upper case.")
         .def_property_readonly("is_abstract", [](const Entity& self) { return self.facts.isAbstract; })
-        .def_property_readonly("supertypes", [](const Entity& self) { return listOf(self.facts.supertypes); },
-                               "From the nearest to the root.")
-        .def_property_readonly("subtypes", [](const Entity& self) { return listOf(self.facts.subtypes); },
-                               "One level down.")
+        .def_property_readonly(
+            "supertypes", [](const Entity& self) { return listOf(self.facts.supertypes); },
+            "From the nearest to the root.")
+        .def_property_readonly(
+            "subtypes", [](const Entity& self) { return listOf(self.facts.subtypes); }, "One level down.")
         .def_property_readonly("attributes", &attributes,
                                "In the order of an instance's values; behind them those that have no value there.")
-        .def("__repr__", [](const Entity& self) { return py::str("<velkor.Entity {}>").format(toText(self.facts.name)); });
+        .def("__repr__",
+             [](const Entity& self) { return py::str("<velkor.Entity {}>").format(toText(self.facts.name)); });
 }
 
 } // namespace
@@ -105,23 +111,27 @@ void declareDictionaries(py::module_& module, ModelClass& model) {
              "Raises Error 'schema-unknown'.")
         .def_property_readonly("name", [](const Dictionary& self) { return toText(self.schema->name()); })
         .def_property_readonly("entities", &entities, "The names of all entities, in upper case.")
-        .def("entity",
-             [](const Dictionary& self, const std::string& name) {
-                 return Entity{self.schema, entityFacts(entityNamed(*self.schema, name))};
-             },
-             py::arg("name"), "An entity by name. Raises Error 'unknown-entity'.")
+        .def(
+            "entity",
+            [](const Dictionary& self, const std::string& name) {
+                return Entity{self.schema, entityFacts(entityNamed(*self.schema, name))};
+            },
+            py::arg("name"), "An entity by name. Raises Error 'unknown-entity'.")
         .def("is_subtype", &isSubtype, py::arg("entity"), py::arg("ancestor"),
              "Whether an entity is another or one of its subtypes at any depth. Raises Error 'unknown-entity'.")
-        .def("__contains__",
-             [](const Dictionary& self, const std::string& name) { return self.schema->entity(name) != nullptr; },
-             py::arg("name"))
-        .def("__repr__",
-             [](const Dictionary& self) { return py::str("<velkor.Dictionary {}>").format(toText(self.schema->name())); });
-    module.def("releases", [] { return toTexts(DXSdaiDictionaryRepo::TheOne().names()); },
-               "The names of all dictionaries there are.");
-    model.def_property_readonly("dictionary",
-                                [](const OpenModel& self) { return dictionaryOf(std::string(self.model().schema().name())); },
-                                "The dictionary of its release.");
+        .def(
+            "__contains__",
+            [](const Dictionary& self, const std::string& name) { return self.schema->entity(name) != nullptr; },
+            py::arg("name"))
+        .def("__repr__", [](const Dictionary& self) {
+            return py::str("<velkor.Dictionary {}>").format(toText(self.schema->name()));
+        });
+    module.def(
+        "releases", [] { return toTexts(DXSdaiDictionaryRepo::TheOne().names()); },
+        "The names of all dictionaries there are.");
+    model.def_property_readonly(
+        "dictionary", [](const OpenModel& self) { return dictionaryOf(std::string(self.model().schema().name())); },
+        "The dictionary of its release.");
 }
 
 } // namespace velkor::python

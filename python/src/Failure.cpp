@@ -14,17 +14,28 @@ PyObject* errorType = nullptr;
 const char* codeOf(files::OpenError::Code code) {
     using Code = files::OpenError::Code;
     switch (code) {
-    case Code::Missing: return "file-missing";
-    case Code::Denied: return "file-denied";
-    case Code::Folder: return "file-is-folder";
-    case Code::NotRegular: return "file-not-regular";
-    case Code::Failed: return "file-failed";
-    case Code::TooLarge: return "file-too-large";
-    case Code::Empty: return "file-empty";
-    case Code::NoExchangeStructure: return "no-exchange-structure";
-    case Code::UnknownSchema: return "schema-unknown";
-    case Code::DamagedSchema: return "schema-damaged";
-    case Code::Unsupported: return "unsupported";
+    case Code::Missing:
+        return "file-missing";
+    case Code::Denied:
+        return "file-denied";
+    case Code::Folder:
+        return "file-is-folder";
+    case Code::NotRegular:
+        return "file-not-regular";
+    case Code::Failed:
+        return "file-failed";
+    case Code::TooLarge:
+        return "file-too-large";
+    case Code::Empty:
+        return "file-empty";
+    case Code::NoExchangeStructure:
+        return "no-exchange-structure";
+    case Code::UnknownSchema:
+        return "schema-unknown";
+    case Code::DamagedSchema:
+        return "schema-damaged";
+    case Code::Unsupported:
+        return "unsupported";
     }
     return "file-failed";
 }

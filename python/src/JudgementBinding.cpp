@@ -58,7 +58,8 @@ CheckScope scopeNamed(const std::string& name) {
 void requireCodes(const std::vector<std::string>& codes) {
     const auto known = problemCodes();
     for (const std::string& code : codes) {
-        if (std::ranges::find(known, code) == known.end()) throw py::value_error("no finding has the code '" + code + "'");
+        if (std::ranges::find(known, code) == known.end())
+            throw py::value_error("no finding has the code '" + code + "'");
     }
 }
 
@@ -119,7 +120,9 @@ ClassifiedModel classifyOpened(const SharedModel& self, const std::string& confi
         for (const Classification::Product& product : result.products) {
             const Classification::Decision& decision = result.decisions[product.decision];
             answer.products.push_back({{self, self->model().instanceAt(product.number)},
-                                       decision.neutralId, decision.plmType, decision.reason});
+                                       decision.neutralId,
+                                       decision.plmType,
+                                       decision.reason});
         }
         return answer;
     });
@@ -139,15 +142,18 @@ const char* severityOf(const Problem& problem) {
 template <class Class, class Get>
 void addProblem(Class& type, Get problem) {
     using Self = typename Class::type;
-    type.def_property_readonly("code", [=](const Self& self) { return toText(problem(self).code); },
-                               "Short stable word.")
-        .def_property_readonly("severity", [=](const Self& self) { return severityOf(problem(self)); },
-                               "'error' or 'warning'.")
-        .def_property_readonly("line", [=](const Self& self) { return problem(self).line; }, "Counted from 1.")
-        .def_property_readonly("instance", [=](const Self& self) { return numberOrNone(problem(self).instance); },
-                               "Id of the instance; None outside any.")
-        .def_property_readonly("message", [=](const Self& self) { return toText(problem(self).message); },
-                               "What was expected and what was found.")
+    type.def_property_readonly(
+            "code", [=](const Self& self) { return toText(problem(self).code); }, "Short stable word.")
+        .def_property_readonly(
+            "severity", [=](const Self& self) { return severityOf(problem(self)); }, "'error' or 'warning'.")
+        .def_property_readonly(
+            "line", [=](const Self& self) { return problem(self).line; }, "Counted from 1.")
+        .def_property_readonly(
+            "instance", [=](const Self& self) { return numberOrNone(problem(self).instance); },
+            "Id of the instance; None outside any.")
+        .def_property_readonly(
+            "message", [=](const Self& self) { return toText(problem(self).message); },
+            "What was expected and what was found.")
         .def("__repr__", [=](const Self& self) {
             return py::str("<velkor.{} {} in line {}: {}>")
                 .format(py::type::of<Self>().attr("__name__"), toText(problem(self).code), problem(self).line,
@@ -158,27 +164,36 @@ void addProblem(Class& type, Get problem) {
 void declareFindings(py::module_& module) {
     py::class_<Problem> finding(module, "Finding", "One thing found wrong in a file.");
     addProblem(finding, [](const Problem& self) -> const Problem& { return self; });
-    finding.def_property_readonly("rule", [](const Problem& self) { return textOrNone(self.rule); },
-                                  "The rule that is broken, 'IfcWall.CorrectPredefinedType'; None when it is none.");
+    finding.def_property_readonly(
+        "rule", [](const Problem& self) { return textOrNone(self.rule); },
+        "The rule that is broken, 'IfcWall.CorrectPredefinedType'; None when it is none.");
     py::class_<SetFinding> setFinding(module, "SetFinding", "One thing wrong with one property set or quantity set.");
     addProblem(setFinding, [](const SetFinding& self) -> const Problem& { return self.problem; });
-    setFinding.def_property_readonly("set", [](const SetFinding& self) { return toText(self.set); }, "Its name.")
-        .def_property_readonly("property", [](const SetFinding& self) { return textOrNone(self.property); },
-                               "The property concerned; None when the set is.")
-        .def_property_readonly("object", [](const SetFinding& self) { return numberOrNone(self.object); },
-                               "Id of the first object that has the set; None when none has.")
-        .def_property_readonly("nearest", [](const SetFinding& self) { return textOrNone(self.nearest); },
-                               "The name that was probably meant, or None.");
+    setFinding
+        .def_property_readonly(
+            "set", [](const SetFinding& self) { return toText(self.set); }, "Its name.")
+        .def_property_readonly(
+            "property", [](const SetFinding& self) { return textOrNone(self.property); },
+            "The property concerned; None when the set is.")
+        .def_property_readonly(
+            "object", [](const SetFinding& self) { return numberOrNone(self.object); },
+            "Id of the first object that has the set; None when none has.")
+        .def_property_readonly(
+            "nearest", [](const SetFinding& self) { return textOrNone(self.nearest); },
+            "The name that was probably meant, or None.");
     py::class_<Check>(module, "CheckResult", "What a check found.")
-        .def_property_readonly("release", [](const Check& self) { return textOrNone(self.release); },
-                               "The dictionary that was judged by; None when none was.")
-        .def_property_readonly("findings", [](const Check& self) { return self.result.problems; },
-                               "In file order, no more than the limit.")
-        .def_property_readonly("total", [](const Check& self) { return self.result.total; },
-                               "Their full count.");
+        .def_property_readonly(
+            "release", [](const Check& self) { return textOrNone(self.release); },
+            "The dictionary that was judged by; None when none was.")
+        .def_property_readonly(
+            "findings", [](const Check& self) { return self.result.problems; },
+            "In file order, no more than the limit.")
+        .def_property_readonly(
+            "total", [](const Check& self) { return self.result.total; }, "Their full count.");
     py::class_<PropertySetCheck>(module, "Validation", "Property sets and quantity sets against their definitions.")
-        .def_property_readonly("defined_by", [](const PropertySetCheck& self) { return toText(self.definedBy); },
-                               "The release of the definitions.")
+        .def_property_readonly(
+            "defined_by", [](const PropertySetCheck& self) { return toText(self.definedBy); },
+            "The release of the definitions.")
         .def_readonly("has_definitions", &PropertySetCheck::hasDefinitions)
         .def_readonly("sets", &PropertySetCheck::sets, "How many were looked at.")
         .def_readonly("properties", &PropertySetCheck::properties)
@@ -191,15 +206,19 @@ void declareFindings(py::module_& module) {
 void declareClassification(py::module_& module) {
     py::class_<ClassifiedProduct>(module, "ClassifiedProduct", "A product with what the services make of it.")
         .def_readonly("instance", &ClassifiedProduct::instance)
-        .def_property_readonly("neutral_id", [](const ClassifiedProduct& self) { return textOrNone(self.neutralId); },
-                               "The neutral identifier; None without one.")
-        .def_property_readonly("plm_type", [](const ClassifiedProduct& self) { return textOrNone(self.plmType); },
-                               "The PLM type; None without one.")
-        .def_property_readonly("reason", [](const ClassifiedProduct& self) { return textOrNone(self.reason); },
-                               "Why there is no neutral identifier; None when there is one.");
+        .def_property_readonly(
+            "neutral_id", [](const ClassifiedProduct& self) { return textOrNone(self.neutralId); },
+            "The neutral identifier; None without one.")
+        .def_property_readonly(
+            "plm_type", [](const ClassifiedProduct& self) { return textOrNone(self.plmType); },
+            "The PLM type; None without one.")
+        .def_property_readonly(
+            "reason", [](const ClassifiedProduct& self) { return textOrNone(self.reason); },
+            "Why there is no neutral identifier; None when there is one.");
     py::class_<ClassifiedModel>(module, "ClassificationResult", "The products of a model, classified.")
-        .def_property_readonly("document", [](const ClassifiedModel& self) { return toText(self.document); },
-                               "The mapping document that decided.")
+        .def_property_readonly(
+            "document", [](const ClassifiedModel& self) { return toText(self.document); },
+            "The mapping document that decided.")
         .def_readonly("products", &ClassifiedModel::products, "In file order.")
         .def_readonly("unclassified", &ClassifiedModel::unclassified, "How many have no neutral identifier.");
 }
@@ -215,9 +234,11 @@ void declareUnits(py::module_& module) {
     py::class_<Unit>(module, "Unit", "A unit of the model's assignment.")
         .def_readonly("id", &Unit::id)
         .def_property_readonly("entity", [](const Unit& self) { return toText(self.entity); })
-        .def_property_readonly("type", [](const Unit& self) { return textOrNone(self.type); },
-                               "'LENGTHUNIT'; None for a unit without a type, such as money.")
-        .def_property_readonly("name", [](const Unit& self) { return toText(self.name); }, "'MILLIMETRE', 'INCH'.")
+        .def_property_readonly(
+            "type", [](const Unit& self) { return textOrNone(self.type); },
+            "'LENGTHUNIT'; None for a unit without a type, such as money.")
+        .def_property_readonly(
+            "name", [](const Unit& self) { return toText(self.name); }, "'MILLIMETRE', 'INCH'.")
         .def_readonly("factor", &Unit::factor, "SI base units in one of the unit.");
     py::class_<UnitReport>(module, "Units", "The units of a model.")
         .def_readonly("units", &UnitReport::units, "In the order of the assignment.")
@@ -225,13 +246,14 @@ void declareUnits(py::module_& module) {
                                "Millimetres in a length unit; None when the units give no factors.")
         .def_property_readonly("angle_factor", ofGeometry(&UnitReport::angleFactor),
                                "Radians in a plane angle unit; None when the units give no factors.")
-        .def_property_readonly("measures",
-                               [](const UnitReport& self) {
-                                   py::dict measures;
-                                   for (const auto& [name, factor] : self.measures) measures[toText(name)] = factor;
-                                   return measures;
-                               },
-                               "Factor to SI base units by measure type: 'IFCAREAMEASURE'.");
+        .def_property_readonly(
+            "measures",
+            [](const UnitReport& self) {
+                py::dict measures;
+                for (const auto& [name, factor] : self.measures) measures[toText(name)] = factor;
+                return measures;
+            },
+            "Factor to SI base units by measure type: 'IFCAREAMEASURE'.");
 }
 
 } // namespace
@@ -258,14 +280,15 @@ void declareJudgement(py::module_& module, ModelClass& model) {
              "Judges property sets and quantity sets by the definitions of the release.\n"
              "configuration  -- path of a configuration file; the shipped definitions count without\n"
              "Other Python threads run meanwhile. Raises Error 'configuration-invalid'.")
-        .def("classify",
-             [](const std::shared_ptr<OpenModel>& self, const std::string& configuration) {
-                 return classifyOpened(self, configuration);
-             },
-             py::arg("configuration") = "",
-             "Gives every product its neutral identifier and PLM type.\n"
-             "configuration  -- path of a configuration file; the shipped mapping counts without\n"
-             "Other Python threads run meanwhile. Raises Error 'no-classification', 'configuration-invalid'.")
+        .def(
+            "classify",
+            [](const std::shared_ptr<OpenModel>& self, const std::string& configuration) {
+                return classifyOpened(self, configuration);
+            },
+            py::arg("configuration") = "",
+            "Gives every product its neutral identifier and PLM type.\n"
+            "configuration  -- path of a configuration file; the shipped mapping counts without\n"
+            "Other Python threads run meanwhile. Raises Error 'no-classification', 'configuration-invalid'.")
         .def("units", &unitsOf, "The units of the model with their factors.");
 }
 

@@ -50,8 +50,7 @@ InstanceList byEntity(const SharedModel& model, const std::string& name, bool su
     const sdai::EntityDefinition& entity = entityNamed(model->model().schema(), name);
     auto numbers = model->work([&](const sdai::Model& opened) {
         auto found = opened.numbersOf(entity.name());
-        if (!subtypes)
-            std::erase_if(found, [&](std::uint32_t number) { return opened.entityAt(number) != &entity; });
+        if (!subtypes) std::erase_if(found, [&](std::uint32_t number) { return opened.entityAt(number) != &entity; });
         return found;
     });
     return {model, std::move(numbers)};
@@ -110,15 +109,19 @@ void declareInstance(py::module_& module) {
                          "An instance of a model. Its attributes are read by name, letter case ignored: wall.Name.\n"
                          "It keeps its model open. Two are equal when they are the same instance of the same open "
                          "model.")
-        .def_property_readonly("id", [](const Instance& self) { return self.instance->id(); }, "Its number in the file, without '#'.")
-        .def_property_readonly("entity", [](const Instance& self) { return toText(entityName(*self.instance)); },
-                               "The entity in upper case, 'IFCWALL'; '(…)' for a complex instance.")
-        .def_property_readonly("attributes", &attributes,
-                               "All explicit attributes by name in upper case, in the order of the file.\n"
-                               "Raises Error as reading each of them does, and 'no-single-entity' for complex instances "
-                               "and unknown entities.")
-        .def_property_readonly("model", [](const Instance& self) { return std::const_pointer_cast<OpenModel>(self.model); },
-                               "The model that it is of.")
+        .def_property_readonly(
+            "id", [](const Instance& self) { return self.instance->id(); }, "Its number in the file, without '#'.")
+        .def_property_readonly(
+            "entity", [](const Instance& self) { return toText(entityName(*self.instance)); },
+            "The entity in upper case, 'IFCWALL'; '(…)' for a complex instance.")
+        .def_property_readonly(
+            "attributes", &attributes,
+            "All explicit attributes by name in upper case, in the order of the file.\n"
+            "Raises Error as reading each of them does, and 'no-single-entity' for complex instances "
+            "and unknown entities.")
+        .def_property_readonly(
+            "model", [](const Instance& self) { return std::const_pointer_cast<OpenModel>(self.model); },
+            "The model that it is of.")
         .def("is_a", &isA, py::arg("entity"),
              "Whether it is of an entity or of one of its subtypes. Letter case is ignored.\n"
              "Raises Error 'unknown-entity' for a name that the release does not have.")
@@ -128,13 +131,14 @@ void declareInstance(py::module_& module) {
                  if (!value) throw py::attribute_error(noAttribute(self, name));
                  return *value;
              })
-        .def("__getitem__",
-             [](const Instance& self, const std::string& name) {
-                 auto value = attributeNamed(self, name);
-                 if (!value) throw py::key_error(noAttribute(self, name));
-                 return *value;
-             },
-             py::arg("name"), "The attribute of a name; KeyError when the entity has none.")
+        .def(
+            "__getitem__",
+            [](const Instance& self, const std::string& name) {
+                auto value = attributeNamed(self, name);
+                if (!value) throw py::key_error(noAttribute(self, name));
+                return *value;
+            },
+            py::arg("name"), "The attribute of a name; KeyError when the entity has none.")
         .def("__eq__",
              [](const Instance& self, const py::object& other) {
                  return py::isinstance<Instance>(other) && self == other.cast<const Instance&>();
@@ -148,7 +152,9 @@ void declareInstance(py::module_& module) {
 void declareLists(py::module_& module) {
     py::class_<InstanceList>(module, "InstanceList", "Instances in file order, each made when it is asked for.")
         .def("__len__", [](const InstanceList& self) { return self.numbers.size(); })
-        .def("__getitem__", &InstanceList::at, py::arg("index"));
+        .def("__getitem__", &InstanceList::at, py::arg("index"))
+        .def("__iter__",
+             [](const py::object& self) { return py::reinterpret_steal<py::object>(PySeqIter_New(self.ptr())); });
     py::class_<InstanceIterator>(module, "InstanceIterator", "All instances of a model in file order.")
         .def("__iter__", [](py::object self) { return self; })
         .def("__next__", &InstanceIterator::advance);
@@ -159,9 +165,7 @@ void declareHeader(py::module_& module) {
     const auto texts = [](auto member) {
         return [member](const FileHeader& header) { return toTexts(header.*member); };
     };
-    const auto text = [](auto member) {
-        return [member](const FileHeader& header) { return toText(header.*member); };
-    };
+    const auto text = [](auto member) { return [member](const FileHeader& header) { return toText(header.*member); }; };
     py::class_<FileHeader>(module, "Header", "The header of a file; what the file leaves out is empty.")
         .def_property_readonly("description", texts(&FileHeader::description), "The entries of FILE_DESCRIPTION.")
         .def_property_readonly("implementation_level", text(&FileHeader::implementationLevel))
@@ -185,34 +189,39 @@ void declareModel(py::module_& module, ModelClass& model) {
                "Opens an IFC file (ISO 10303-21). Other Python threads run meanwhile.\n"
                "Raises Error: 'file-missing', 'file-denied', 'no-exchange-structure', 'schema-unknown' …");
     model
-        .def_property_readonly("path", [](const OpenModel& self) { return toText(self.path()); }, "As it was opened.")
-        .def_property_readonly("release", [](const OpenModel& self) { return toText(self.model().schema().name()); },
-                               "The dictionary that is used: 'IFC4'.")
+        .def_property_readonly(
+            "path", [](const OpenModel& self) { return toText(self.path()); }, "As it was opened.")
+        .def_property_readonly(
+            "release", [](const OpenModel& self) { return toText(self.model().schema().name()); },
+            "The dictionary that is used: 'IFC4'.")
         .def_property_readonly("header", [](const OpenModel& self) { return self.model().header(); })
         .def("__len__", [](const OpenModel& self) { return self.model().file().instanceCount(); })
         .def("__iter__", [](const std::shared_ptr<OpenModel>& self) { return InstanceIterator{self}; })
-        .def("__contains__",
-             [](const OpenModel& self, std::uint64_t id) { return self.model().file().find(id).has_value(); },
-             py::arg("id"))
+        .def(
+            "__contains__",
+            [](const OpenModel& self, std::uint64_t id) { return self.model().file().find(id).has_value(); },
+            py::arg("id"))
         .def("__contains__",
              [](const OpenModel& self, const Instance& instance) { return instance.model.get() == &self; })
         .def("__contains__", [](const OpenModel&, const py::object&) { return false; })
-        .def("__getitem__", [](const std::shared_ptr<OpenModel>& self, std::uint64_t id) { return byId(self, id); },
-             py::arg("id"), "The instance of an id; KeyError when the file has none.")
-        .def("by_id", [](const std::shared_ptr<OpenModel>& self, std::uint64_t id) { return byId(self, id); },
-             py::arg("id"), "The instance of an id; KeyError when the file has none.")
-        .def("by_entity",
-             [](const std::shared_ptr<OpenModel>& self, const std::string& entity, bool subtypes) {
-                 return byEntity(self, entity, subtypes);
-             },
-             py::arg("entity"), py::arg("subtypes") = true,
-             "The instances of an entity and, unless told otherwise, of its subtypes, in file order. Letter case is "
-             "ignored.\n"
-             "Raises Error 'unknown-entity' for a name that the release does not have.")
+        .def(
+            "__getitem__", [](const std::shared_ptr<OpenModel>& self, std::uint64_t id) { return byId(self, id); },
+            py::arg("id"), "The instance of an id; KeyError when the file has none.")
+        .def(
+            "by_id", [](const std::shared_ptr<OpenModel>& self, std::uint64_t id) { return byId(self, id); },
+            py::arg("id"), "The instance of an id; KeyError when the file has none.")
+        .def(
+            "by_entity",
+            [](const std::shared_ptr<OpenModel>& self, const std::string& entity, bool subtypes) {
+                return byEntity(self, entity, subtypes);
+            },
+            py::arg("entity"), py::arg("subtypes") = true,
+            "The instances of an entity and, unless told otherwise, of its subtypes, in file order. Letter case is "
+            "ignored.\n"
+            "Raises Error 'unknown-entity' for a name that the release does not have.")
         .def("__repr__", [](const OpenModel& self) {
             return py::str("<velkor.Model {!r}, {}, {} instances>")
-                .format(toText(self.path()), toText(self.model().schema().name()),
-                        self.model().file().instanceCount());
+                .format(toText(self.path()), toText(self.model().schema().name()), self.model().file().instanceCount());
         });
 }
 

@@ -23,7 +23,8 @@ PYBIND11_MODULE(_velkor, module) {
     using namespace velkor::python;
     declareError(module);
     declareValues(module);
-    ModelClass model(module, "Model", "An IFC model opened for reading. It is closed when nothing of it is used any more.");
+    ModelClass model(module, "Model",
+                     "An IFC model opened for reading. It is closed when nothing of it is used any more.");
     declareModel(module, model);
     declareDictionaries(module, model);
     declareJudgement(module, model);

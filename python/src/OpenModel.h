@@ -10,8 +10,8 @@
 
 namespace velkor::python {
 
-/// One thread at a time may read a model, and long work lets other Python threads run. Whoever has to wait for the model
-/// does so without the interpreter, so that neither lock is waited for while the other is held.
+/// One thread at a time may read a model, and long work lets other Python threads run. Whoever has to wait for the
+/// model does so without the interpreter, so that neither lock is waited for while the other is held.
 class ModelLock {
 public:
     explicit ModelLock(std::recursive_mutex& mutex) : _lock(mutex, std::try_to_lock) {

@@ -62,30 +62,35 @@ py::list applicable(const Catalogue& self, const std::string& entity, const std:
 void declareDefinitions(py::module_& module) {
     py::class_<PropertyDefinition>(module, "Property", "What a definition says of a property or quantity.")
         .def_property_readonly("name", [](const PropertyDefinition& self) { return toText(self.name); })
-        .def_property_readonly("kind", [](const PropertyDefinition& self) { return toText(wordOf(self.kind)); },
-                               "'single', 'enumerated', 'length' …")
-        .def_property_readonly("value_type", [](const PropertyDefinition& self) { return textOrNone(self.valueType); },
-                               "The type of the values, 'IfcLabel'; None when any will do.")
-        .def_property_readonly("unit_type", [](const PropertyDefinition& self) { return textOrNone(self.unitType); },
-                               "'LENGTHUNIT'; None when the definition does not say.")
-        .def_property_readonly("enumerators", [](const PropertyDefinition& self) { return toTexts(self.enumerators); },
-                               "Of enumerated properties, in the definition's order.")
+        .def_property_readonly(
+            "kind", [](const PropertyDefinition& self) { return toText(wordOf(self.kind)); },
+            "'single', 'enumerated', 'length' …")
+        .def_property_readonly(
+            "value_type", [](const PropertyDefinition& self) { return textOrNone(self.valueType); },
+            "The type of the values, 'IfcLabel'; None when any will do.")
+        .def_property_readonly(
+            "unit_type", [](const PropertyDefinition& self) { return textOrNone(self.unitType); },
+            "'LENGTHUNIT'; None when the definition does not say.")
+        .def_property_readonly(
+            "enumerators", [](const PropertyDefinition& self) { return toTexts(self.enumerators); },
+            "Of enumerated properties, in the definition's order.")
         .def_readonly("members", &PropertyDefinition::members, "Of complex properties.")
         .def("__repr__",
              [](const PropertyDefinition& self) { return py::str("<velkor.Property {}>").format(toText(self.name)); });
     py::class_<SetDefinition>(module, "PropertySet", "The definition of a property set or quantity set.")
         .def_property_readonly("name", [](const SetDefinition& self) { return toText(self.name); })
         .def_readonly("is_quantity_set", &SetDefinition::isQuantitySet)
-        .def_property_readonly("template_type",
-                               [](const SetDefinition& self) { return textOrNone(wordOf(self.templateType)); },
-                               "'type-driven-override', 'occurrence-driven' …; None when it does not say.")
-        .def_property_readonly("classes",
-                               [](const SetDefinition& self) {
-                                   py::list list;
-                                   for (const ApplicableClass& named : self.classes) list.append(toText(textOf(named)));
-                                   return list;
-                               },
-                               "What it applies to: 'IfcWall', 'IfcActuator/ELECTRICACTUATOR'.")
+        .def_property_readonly(
+            "template_type", [](const SetDefinition& self) { return textOrNone(wordOf(self.templateType)); },
+            "'type-driven-override', 'occurrence-driven' …; None when it does not say.")
+        .def_property_readonly(
+            "classes",
+            [](const SetDefinition& self) {
+                py::list list;
+                for (const ApplicableClass& named : self.classes) list.append(toText(textOf(named)));
+                return list;
+            },
+            "What it applies to: 'IfcWall', 'IfcActuator/ELECTRICACTUATOR'.")
         .def_readonly("properties", &SetDefinition::properties, "In the definition's order.")
         .def("__repr__",
              [](const SetDefinition& self) { return py::str("<velkor.PropertySet {}>").format(toText(self.name)); });
@@ -100,12 +105,14 @@ void declarePropertySets(py::module_& module) {
              "Of a release, as Dictionary knows it.\n"
              "configuration  -- path of a configuration file; the shipped definitions count without\n"
              "Raises Error 'schema-unknown', 'configuration-invalid'.")
-        .def_property_readonly("release", [](const Catalogue& self) { return toText(self.sets->release()); },
-                               "That of the definitions: 'IFC4X3_ADD2' for IFC4X4.")
+        .def_property_readonly(
+            "release", [](const Catalogue& self) { return toText(self.sets->release()); },
+            "That of the definitions: 'IFC4X3_ADD2' for IFC4X4.")
         .def_property_readonly("names", &names, "Sorted.")
         .def("__len__", [](const Catalogue& self) { return self.sets->names().size(); })
-        .def("__contains__", [](const Catalogue& self, const std::string& name) { return self.sets->contains(name); },
-             py::arg("name"))
+        .def(
+            "__contains__", [](const Catalogue& self, const std::string& name) { return self.sets->contains(name); },
+            py::arg("name"))
         .def("show", &show, py::arg("name"),
              "The definition of a set; letter case counts. Raises Error 'set-unknown', 'set-unreadable'.")
         .def("applicable", &applicable, py::arg("entity"), py::arg("predefined_type") = "",

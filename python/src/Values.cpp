@@ -24,9 +24,12 @@ public:
         const sdai::Type& type = declared->resolved();
         if (type.isAggregate()) return members(primitive, depth);
         switch (type.kind()) {
-        case sdai::TypeKind::Entity: return reference(primitive);
-        case sdai::TypeKind::Select: return selected(primitive, depth);
-        default: return simple(primitive, type.kind());
+        case sdai::TypeKind::Entity:
+            return reference(primitive);
+        case sdai::TypeKind::Select:
+            return selected(primitive, depth);
+        default:
+            return simple(primitive, type.kind());
         }
     }
 
@@ -44,8 +47,9 @@ private:
             message.append("there is no instance ").append(text);
         else
             message.append(text).append(" is no value of its type");
-        throw Failure(code, message,
-                      {.path = _owner.model->path(), .line = number ? file.line(file.offset(*number)) : 0, .instance = id});
+        throw Failure(
+            code, message,
+            {.path = _owner.model->path(), .line = number ? file.line(file.offset(*number)) : 0, .instance = id});
     }
 
     template <class Value>
@@ -83,9 +87,12 @@ private:
     py::object simple(const sdai::Primitive& primitive, sdai::TypeKind kind) const {
         const std::string_view encoded = primitive.encoded();
         switch (kind) {
-        case sdai::TypeKind::Integer: return given(primitive.asInteger(), primitive);
-        case sdai::TypeKind::Real: return given(primitive.asReal(), primitive);
-        case sdai::TypeKind::Boolean: return given(primitive.asBoolean(), primitive);
+        case sdai::TypeKind::Integer:
+            return given(primitive.asInteger(), primitive);
+        case sdai::TypeKind::Real:
+            return given(primitive.asReal(), primitive);
+        case sdai::TypeKind::Boolean:
+            return given(primitive.asBoolean(), primitive);
         case sdai::TypeKind::Logical: {
             const auto logical = primitive.asLogical();
             if (!logical) fail("wrong-type", primitive);
@@ -103,7 +110,8 @@ private:
             if (enumeration.type == nullptr) fail("wrong-type", primitive);
             return toText(enumeration.text());
         }
-        default: fail("wrong-type", primitive);
+        default:
+            fail("wrong-type", primitive);
         }
     }
 
@@ -158,9 +166,11 @@ py::object toPython(const Instance& owner, const sdai::Primitive& value, std::st
 }
 
 void declareValues(py::module_& module) {
-    py::class_<TypedValue>(module, "TypedValue", "A value with its defined type, where an attribute allows several types.")
-        .def_property_readonly("type", [](const TypedValue& typed) { return toText(typed.type); },
-                               "The defined type in upper case: 'IFCLABEL'.")
+    py::class_<TypedValue>(module, "TypedValue",
+                           "A value with its defined type, where an attribute allows several types.")
+        .def_property_readonly(
+            "type", [](const TypedValue& typed) { return toText(typed.type); },
+            "The defined type in upper case: 'IFCLABEL'.")
         .def_readonly("value", &TypedValue::value, "The value itself, in the model's own units.")
         .def("__eq__",
              [](const TypedValue& left, const py::object& right) {

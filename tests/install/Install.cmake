@@ -1,7 +1,7 @@
 # Installs a build into an empty prefix, builds examples/checking against it as a project of its own, and runs that on
 # models whose faults and classes are known.
 #
-#   cmake -D SOURCE=… -D BUILD=… -D COMPILER=… -D GENERATOR=… [-D SANITIZE=…] -P Install.cmake
+#   cmake -D SOURCE=… -D BUILD=… -D COMPILER=… -D GENERATOR=… [-D SANITIZE=…] [-D PYTHON=…] -P Install.cmake
 
 set(work ${BUILD}/install)
 set(prefix ${work}/prefix)
@@ -54,4 +54,18 @@ execute_process(COMMAND ${prefix}/bin/velkor validate ${SOURCE}/examples/models/
                 OUTPUT_VARIABLE validation RESULT_VARIABLE status)
 if(NOT status EQUAL 0 OR NOT validation MATCHES "no findings; 9 of 9 sets ")
   message(FATAL_ERROR "the installed program answered validate with ${status}: ${validation}")
+endif()
+
+# So do all of it, and the Python module, when the prefix is moved as a whole.
+if(PYTHON)
+  set(moved ${work}/moved)
+  file(RENAME ${prefix} ${moved})
+  step(${CMAKE_COMMAND} -E env PYTHONPATH=${moved}/lib/python3/dist-packages ${PYTHON} -B -c
+       "import sys, velkor
+model = velkor.open(sys.argv[1])
+print(velkor.__file__, model.validate().checked_sets, len(model.classify().products))"
+       ${SOURCE}/examples/models/pump-room-ifc4.ifc)
+  if(NOT output MATCHES "^${moved}/.* 9 [1-9][0-9]*\n$")
+    message(FATAL_ERROR "the installed Python module answered: ${output}")
+  endif()
 endif()
