@@ -22,11 +22,12 @@ public:
     CustoMappingElement(const CustoMappingElement& other) = default;
     CustoMappingElement& operator=(const CustoMappingElement& other) = default;
 
-    QORUnicodeString GetFromEntity() { return FromEntity; }
+    QORUnicodeString GetFromEntity() { return FromEntity; } ///< The entity or property set that is mapped.
+    /// The property that is mapped; empty when the entity itself is.
     QORUnicodeString GetFromProperty() { return FromProperty; }
-    QORUnicodeString GetFromType() { return FromType; }
-    QORUnicodeString GetToEntity() { return ToEntity; }
-    QORUnicodeString GetToProperty() { return ToProperty; }
+    QORUnicodeString GetFromType() { return FromType; }     ///< The scope: a type followed by its direction.
+    QORUnicodeString GetToEntity() { return ToEntity; }     ///< What takes the place of the entity.
+    QORUnicodeString GetToProperty() { return ToProperty; } ///< What takes the place of the property.
     /// Name of a type followed by "_Import" or "_Export".
     QORUnicodeString GetScope() { return Scope; }
     /// Hash of the entity, the property and the scope, put together in upper case.

@@ -6,6 +6,7 @@
 
 namespace velkor {
 
+/// A release, and what it is called where.
 struct MappingRelease {
     /// What the services are asked with.
     int code;

@@ -14,7 +14,7 @@ extern "C" {
 /// S_OK.
 VELKOR_API HRESULT QORDXForceLoadShemas();
 
-// One per schema. The two release candidates have the shorter prefix, as hosts look them up.
+/// One per schema. The two release candidates have the shorter prefix, as hosts look them up.
 VELKOR_API void QORDXSdaiIFC2X3dummy();
 VELKOR_API void QORDXSdaiIFC4dummy();
 VELKOR_API void QORDXSdaiIFC4X1dummy();
@@ -24,6 +24,7 @@ VELKOR_API void QORDXSdaiIFC4X4dummy();
 VELKOR_API void QORSdaiIFC4X3_RC1dummy();
 VELKOR_API void QORSdaiIFC4X3_RC3dummy();
 
+/// One per schema, as hosts with such dictionaries look them up.
 VELKOR_API void LoxLoadDicoIFC2X3(LoxDictionary& iDictionary);
 VELKOR_API void LoxLoadDicoIFC4(LoxDictionary& iDictionary);
 VELKOR_API void LoxLoadDicoIFC4X1(LoxDictionary& iDictionary);

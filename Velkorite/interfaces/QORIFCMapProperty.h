@@ -12,12 +12,12 @@ public:
     QORIFCMapProperty(const QORUnicodeString& name);
     virtual ~QORIFCMapProperty();
 
-    QORUnicodeString GetName() const;
+    QORUnicodeString GetName() const; ///< The name that it was made with.
 
     /// Adds a row behind the others, also one that is there already. S_OK.
     HRESULT AppendAttribute(const QORUnicodeString& a1, const QORUnicodeString& a2, const QORUnicodeString& a3,
                             const QORUnicodeString& a4, const QORUnicodeString& a5);
-    int GetNumberOfAttributes() const;
+    int GetNumberOfAttributes() const; ///< Number of rows.
     /// The row at a position counted from 1. E_FAIL, and untouched outputs, when there is none.
     HRESULT GetAttributeAt(int index, QORUnicodeString& a1, QORUnicodeString& a2, QORUnicodeString& a3,
                            QORUnicodeString& a4, QORUnicodeString& a5);

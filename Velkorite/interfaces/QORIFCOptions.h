@@ -24,18 +24,21 @@ class VELKOR_API QORIFCOptions : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
+    /// What an exchange is made for.
     enum ExchangeProfile : std::uint16_t {
         TessellatedProfile = 0,  ///< everything into one tessellated representation
         FullyExposedProfile = 1, ///< the spatial structure fully exposed
         FeatureProfile = 2,      ///< transfer as feature representation
         UndefinedProfile = 3,    ///< not given: the user's setting decides
     };
+    /// How shapes are exchanged.
     enum GeometryMode : std::uint16_t {
         OtherGeometry = 0, ///< a third representation; no profile implies it
         TessellatedGeometry = 1,
         FeatureGeometry = 2,
         UndefinedGeometry = 3, ///< not given: the user's setting decides
     };
+    /// How much of the structure becomes objects of its own.
     enum StructureExposure : std::uint16_t {
         NotExposed = 0,
         FullyExposed = 1,
@@ -74,8 +77,9 @@ public:
 
     /// Whether IFC attributes are exchanged.
     bool ExchangeWithAttributes() const;
-    void ToggleExchangeWithAttributes();
+    void ToggleExchangeWithAttributes(); ///< Switches the exchange of attributes on or off.
 
+    /// Where a value comes from.
     enum class Origin { Environment, RunTime, Setting, Fallback };
     /// What was there but could not be taken as it is.
     struct Refused {
@@ -98,9 +102,9 @@ public:
         bool isDerived = false;
         std::vector<Refused> refused = {};
     };
-    Source GetExchangeProfileSource() const;
-    Source GetGeometryModeSource() const;
-    Source GetStructureExposureSource() const;
+    Source GetExchangeProfileSource() const;   ///< Where the exchange profile comes from.
+    Source GetGeometryModeSource() const;      ///< Where the geometry mode comes from.
+    Source GetStructureExposureSource() const; ///< Where the structure exposure comes from.
     /// At run time when it has been toggled.
     Source GetAttributesSource() const;
     /// The variables that amount to a profile and give the profile's its number where that is not set; empty when they

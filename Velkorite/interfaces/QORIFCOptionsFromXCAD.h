@@ -32,11 +32,12 @@ public:
     /// What a pair acts upon: nothing, so that it is only kept; version and custom mapping; the exchange profile.
     /// Pairs of the last kind are left out of lists, and kept like any other outside them.
     enum class Effect { None, VersionMapping, ExchangeProfile, LeftOut };
+    /// What the services would do with an option.
     static Effect GetEffect(const QORUnicodeString& name, const QORUnicodeString& value);
 
     /// The one record, made empty on first use. It stays until DeleteInstance.
     static QORIFCOptionsFromXCAD* GetInstance();
-    static void DeleteInstance();
+    static void DeleteInstance(); ///< Ends the one object; nothing when there is none.
     /// Null: the object modeler makes no second record.
     static QORBaseUnknown* CreateItself();
 

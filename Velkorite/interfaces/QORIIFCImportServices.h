@@ -35,9 +35,11 @@ public:
     virtual HRESULT EndImport() = 0;
 };
 
+/// A handle of the import services.
 class VELKOR_API QORIIFCImportServices_var : public QORInterface_var<QORIIFCImportServices> {
 public:
     QORIIFCImportServices_var() noexcept = default;
+    /// Of the services, or of an object that has them; each with a reference of its own.
     QORIIFCImportServices_var(QORIIFCImportServices* object) noexcept : QORInterface_var(object) {}
     QORIIFCImportServices_var(const QORBaseUnknown_var& other) : QORInterface_var(other) {}
 

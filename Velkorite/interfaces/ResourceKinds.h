@@ -14,6 +14,7 @@ enum class ResourceRule {
     RuntimeView,               ///< all files of a folder of the runtime view
 };
 
+/// A kind of resource file, and how its files are found.
 struct ResourceKind {
     const char* name;
     ResourceRule rule;

@@ -12,13 +12,17 @@
 #include "velkor/objectmodeler/QORBaseUnknown.h"
 
 extern "C" {
+/// QORIExchangeAECServices.
 VELKOR_API IUnknown* CreateBOAQORIExchangeAECServicesQOREExchangeAECServices(QORBaseUnknown* object,
                                                                              QORBaseUnknown* second);
+/// QORIExchangeIFCCustomMappingServices.
 VELKOR_API IUnknown*
 CreateBOAQORIExchangeIFCCustomMappingServicesQOREExchangeIFCCustomMappingServices(QORBaseUnknown* object,
                                                                                   QORBaseUnknown* second);
+/// QORIExchangeIFCMappingServices.
 VELKOR_API IUnknown* CreateBOAQORIExchangeIFCMappingServicesQOREExchangeIFCMappingServices(QORBaseUnknown* object,
                                                                                            QORBaseUnknown* second);
+/// QORIExchangeIFCPLMAttributesMappingServices.
 VELKOR_API IUnknown*
 CreateBOAQORIExchangeIFCPLMAttributesMappingServicesQOREExchangeIFCPLMAttributesMappingServices(QORBaseUnknown* object,
                                                                                                 QORBaseUnknown* second);

@@ -14,7 +14,7 @@ class VELKOR_PLATFORM_API EntryTable {
 public:
     static constexpr std::int32_t None = -1;
 
-    explicit EntryTable(std::size_t expectedEntries = 0);
+    explicit EntryTable(std::size_t expectedEntries = 0); ///< An empty table with room for that many entries.
     EntryTable(const EntryTable& other) = default;
     /// Leaves an empty table behind, which has no buckets until it is given an entry.
     EntryTable(EntryTable&& other) noexcept;
@@ -22,9 +22,9 @@ public:
     EntryTable& operator=(EntryTable other) noexcept;
     ~EntryTable() = default;
 
-    std::size_t size() const noexcept { return _size; }
-    std::size_t bucketCount() const noexcept { return _heads.size(); }
-    std::size_t emptyBucketCount() const noexcept;
+    std::size_t size() const noexcept { return _size; }                ///< Number of entries.
+    std::size_t bucketCount() const noexcept { return _heads.size(); } ///< Number of buckets.
+    std::size_t emptyBucketCount() const noexcept;                     ///< Number of buckets without an entry.
 
     /// The entry at a position; null for one that was removed or does not exist.
     void* at(std::int32_t position) const noexcept;
@@ -47,7 +47,7 @@ public:
     void add(unsigned int key, void* value);
     /// Takes out the entry at a position and gives it; null when there is none.
     void* remove(std::int32_t position);
-    void clear() noexcept;
+    void clear() noexcept; ///< Takes all entries out.
 
 private:
     struct Entry {

@@ -12,9 +12,9 @@ class QORHashTable;
 /// Walks a table; stands on its first entry when made.
 class VELKOR_PLATFORM_API QORHashCodeIter {
 public:
-    explicit QORHashCodeIter(const QORHashTable& table) noexcept;
-    bool AtEnd() const noexcept;
-    QORHashCodeIter& operator++() noexcept;
+    explicit QORHashCodeIter(const QORHashTable& table) noexcept; ///< At the first entry of a table.
+    bool AtEnd() const noexcept;                                  ///< True behind the last entry.
+    QORHashCodeIter& operator++() noexcept;                       ///< Goes on to the next entry.
 
 private:
     friend class QORHashTable;
@@ -25,7 +25,7 @@ private:
 
 class VELKOR_PLATFORM_API QORHashTable {
 public:
-    using HashFunction = unsigned int (*)(void* entry);
+    using HashFunction = unsigned int (*)(void* entry); ///< Hash of an entry.
     /// 0 when two entries are the same entry.
     using CompareFunction = int (*)(void* a, void* b);
 
@@ -45,8 +45,8 @@ public:
                         }},
                        dimension, extra) {}
 
-    void* Extra() const noexcept { return _extra; }
-    int Size() const noexcept { return static_cast<int>(_entries.size()); }
+    void* Extra() const noexcept { return _extra; }                         ///< What the host gave the table to keep.
+    int Size() const noexcept { return static_cast<int>(_entries.size()); } ///< Number of entries.
     /// Number of buckets, of buckets without an entry, and of entries that share one with another.
     int Dimension() const noexcept { return static_cast<int>(_entries.bucketCount()); }
     int Unused() const noexcept { return static_cast<int>(_entries.emptyBucketCount()); }
@@ -55,11 +55,12 @@ public:
     /// Adds an entry unless it is null or the same as one present. Gives the entry that the table
     /// holds afterwards.
     void* Insert(void* entry);
-    void* Locate(void* pattern) const;
+    void* Locate(void* pattern) const; ///< The entry that is the same as a pattern; null when there is none.
     /// 1 and the position when the entry is found, else 0 and both outputs untouched.
     int LocatePosition(void* pattern, int& bucket, int& place) const;
     /// The first entry inserted with the hash `key`, whatever the comparison says.
     void* KeyLocate(unsigned int key) const;
+    /// Its position: 1, or 0 and both outputs untouched.
     int KeyLocatePosition(unsigned int key, int& bucket, int& place) const;
     /// The entry at a position; null when there is none.
     void* Retrieve(int bucket, int place) const noexcept;
@@ -69,13 +70,14 @@ public:
     void* Next(int& bucket, int& place) const noexcept;
     /// The entry behind `entry`, the first one for null; null behind the last.
     void* Next(void* entry) const;
+    /// An iterator at the first entry.
     QORHashCodeIter CreateIterator() const noexcept { return QORHashCodeIter(*this); }
-    void* operator[](const QORHashCodeIter& iterator) const noexcept;
+    void* operator[](const QORHashCodeIter& iterator) const noexcept; ///< The entry that an iterator stands at.
 
     /// Takes entries out without destroying them and gives them; null when there is none.
     void* Remove(void* pattern);
-    void* RemovePosition(int bucket, int place);
-    void RemoveAll() noexcept { _entries.clear(); }
+    void* RemovePosition(int bucket, int place);    ///< Takes the entry at a place out; null when there is none.
+    void RemoveAll() noexcept { _entries.clear(); } ///< Takes all entries out; they stay the host's.
 
     /// Calls `function` on each entry from `start` (the first for null) until an answer is not 0.
     /// The entry called last and its answer go to the outputs that are not null. Gives the number

@@ -6,7 +6,7 @@
 
 class VELKOR_PLATFORM_API QORSysSimpleHashTable {
 public:
-    using HashFunction = unsigned int (*)(void* entry);
+    using HashFunction = unsigned int (*)(void* entry); ///< Hash of an entry.
     /// 1 when two entries are the same entry.
     using EqualityFunction = int (*)(void* a, void* b);
 
@@ -27,7 +27,7 @@ public:
     void* Remove(void* pattern);
     /// Takes out all entries without destroying them.
     void RemoveAll() noexcept { _entries.clear(); }
-    int Size() const noexcept { return static_cast<int>(_entries.size()); }
+    int Size() const noexcept { return static_cast<int>(_entries.size()); } ///< Number of entries.
 
     /// The entry behind `entry` in the order of insertion, the first one for null; null behind the
     /// last.

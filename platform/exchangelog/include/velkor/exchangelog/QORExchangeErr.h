@@ -10,7 +10,7 @@
 class VELKOR_PLATFORM_API QORExchangeErr {
 public:
     virtual ~QORExchangeErr() = default;
-    virtual int GetCurLevel() const = 0;
+    virtual int GetCurLevel() const = 0; ///< Messages above this level are not meant to be written.
     /// The full form. The meaning of the arguments is the log's; pointers may be null and stay the
     /// caller's. Gives a result code.
     virtual int PutMsgErr(QORUnicodeString* text, int* code, QORString first, QORString second, int level,

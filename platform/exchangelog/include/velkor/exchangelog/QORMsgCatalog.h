@@ -15,5 +15,5 @@ public:
 
     /// Sets a text, in place of one that was there.
     static void SetText(const QORString& catalogue, const QORString& key, const QORUnicodeString& text);
-    static void RemoveAll();
+    static void RemoveAll(); ///< Forgets every text.
 };

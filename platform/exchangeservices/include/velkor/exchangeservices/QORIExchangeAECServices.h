@@ -17,15 +17,18 @@ class VELKOR_PLATFORM_API QORIExchangeAECServices : public QORBaseUnknown {
 public:
     /// Reads the document of correspondences anew.
     virtual HRESULT LoadAECResource() = 0;
+    /// The PLM type of a neutral identifier.
     virtual HRESULT GetPLMTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oPLMType) = 0;
     /// The attribute and value that the PLM side of a neutral identifier carries; both empty for none.
     virtual HRESULT GetPLMValuationFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oAttribute,
                                                  QORUnicodeString& oValue) = 0;
+    /// The IFC type of a neutral identifier.
     virtual HRESULT GetIFCTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oIFCType) = 0;
     /// Of a QORIPLMNavOccurrence.
     virtual HRESULT GetNeutralIDFromPLMObject(const QORBaseUnknown_var& iObject, QORUnicodeString& oNeutralID) = 0;
     /// Of a QORIExchangeObject with QORIExchangeUserProperties.
     virtual HRESULT GetNeutralIDFromIFCObject(const QORBaseUnknown_var& iObject, QORUnicodeString& oNeutralID) = 0;
+    /// The PLM type of an IFC type, by the entry whose condition has the value.
     virtual HRESULT GetPLMTypeFromIFCType(const QORUnicodeString& iIFCType, const QORUnicodeString& iConditionValue,
                                           QORUnicodeString& oPLMType) = 0;
     virtual HRESULT GetObjectTypeFromNeutralID(const QORString& iNeutralID, QORUnicodeString& oObjectType) = 0;

@@ -11,6 +11,7 @@
 namespace velkor::files {
 
 struct OpenError {
+    /// Kinds of failure, for those who tell them apart.
     enum class Code : std::uint8_t {
         /// There is nothing of the name.
         Missing,

@@ -34,6 +34,7 @@ public:
 };
 using QORISetupDataFinder_var = QORInterface_var<QORISetupDataFinder>;
 
+/// Where the host's finder is asked for.
 class VELKOR_PLATFORM_API QORSetupDataGlobalFunctions {
 public:
     /// The host's finder; empty when it has none.

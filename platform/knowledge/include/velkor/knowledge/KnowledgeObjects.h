@@ -18,6 +18,7 @@ using Attributes = std::vector<std::pair<std::string, std::string>>;
 /// type, with knowledge attributes. The type need not be known to the type dictionary.
 VELKOR_PLATFORM_API QORBaseUnknown_var makeOccurrence(const std::string& typeName, Attributes attributes);
 
+/// What an exchange object is made from.
 struct ExchangeDescription {
     std::string identifier;
     std::string name;

@@ -11,11 +11,11 @@ class VELKOR_PLATFORM_API QORIExchangeObject : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
-    virtual HRESULT GetIdentifier(QORUnicodeString& identifier) = 0;
-    virtual HRESULT GetName(QORUnicodeString& name) = 0;
+    virtual HRESULT GetIdentifier(QORUnicodeString& identifier) = 0; ///< The object's identifier.
+    virtual HRESULT GetName(QORUnicodeString& name) = 0;             ///< The object's name.
     /// The object that this one is a part of; empty for none.
     virtual HRESULT GetParent(QORBaseUnknown_var& parent) = 0;
-    virtual HRESULT GetFileName(QORUnicodeString& fileName) = 0;
+    virtual HRESULT GetFileName(QORUnicodeString& fileName) = 0; ///< Name of the file that it comes from.
     /// Identifier, name, IFC type name, description, file name, and the number of the instance in the file.
     virtual HRESULT GetDescription(QORUnicodeString& identifier, QORUnicodeString& name, QORUnicodeString& ifcType,
                                    QORUnicodeString& description, QORUnicodeString& fileName, int& number) = 0;

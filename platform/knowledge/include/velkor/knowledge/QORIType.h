@@ -10,6 +10,6 @@ class VELKOR_PLATFORM_API QORIType : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
-    virtual HRESULT GetName(QORUnicodeString& name) = 0;
+    virtual HRESULT GetName(QORUnicodeString& name) = 0; ///< The type's name.
 };
 using QORIType_var = QORInterface_var<QORIType>;

@@ -15,6 +15,7 @@ public:
 };
 using QORITypeDictionary_var = QORInterface_var<QORITypeDictionary>;
 
+/// Where the host's type dictionary is asked for.
 class VELKOR_PLATFORM_API QORGlobalFunctions {
 public:
     /// Empty when the host has made no types known.

@@ -15,6 +15,7 @@ public:
 };
 using QORIVleObject_var = QORInterface_var<QORIVleObject>;
 
+/// Reads attributes of PLM objects.
 class VELKOR_PLATFORM_API QORVleObjectAttrReadServices {
 public:
     /// The value of a knowledge attribute in words. E_UNEXPECTED for an empty object; the object's failures are passed

@@ -11,8 +11,10 @@
 
 namespace velkor::knowledge {
 
+/// Which kind of type it is.
 enum class TypeKind { Knowledge, Specialization };
 
+/// What a type is made known by.
 struct TypeDescription {
     std::string name;
     TypeKind kind = TypeKind::Knowledge;

@@ -13,7 +13,8 @@ namespace velkor::objectmodeler {
 
 /// Starts with an empty record.
 VELKOR_PLATFORM_API void startRecording();
-VELKOR_PLATFORM_API void stopRecording();
+VELKOR_PLATFORM_API void stopRecording(); ///< Calls are no longer recorded; what was recorded stays.
+/// What was called since the recording began, in its order.
 VELKOR_PLATFORM_API std::vector<std::string> recordedCalls();
 
 /// True while recording; asked before a line is put together.

@@ -63,6 +63,7 @@ public:                                                                         
 private:                                                                                                               \
     VELKOR_PLATFORM_LOCAL static std::atomic<QORMetaClass*> _metaClass;
 
+/// What all classes of the object modeler have.
 #define VELKOR_IMPLEMENT_CLASS_OPERATIONS(Class)                                                                       \
     std::atomic<QORMetaClass*> Class::_metaClass = nullptr;                                                            \
     const char* Class::ClassName() {                                                                                   \
@@ -148,6 +149,7 @@ private:                                                                        
         QORMetaClass* GetMetaObject() const override { return TieMetaObject(); }                                       \
         Implementation* implementation() const { return static_cast<Implementation*>(GetImpl()); }
 
+/// Ends what VELKOR_TIE_BEGIN began.
 #define VELKOR_TIE_END(visibility, Interface, Implementation)                                                          \
     }                                                                                                                  \
     ;                                                                                                                  \

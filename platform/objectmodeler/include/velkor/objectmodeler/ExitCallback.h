@@ -7,10 +7,11 @@
 
 namespace vrn::internal::v1::exit_callback {
 
-using callback = int (*)(int);
+using callback = int (*)(int); ///< What is called at the end.
 
 /// A library's one list of callbacks; a static object of the library.
 struct list {
+    /// A callback and its place in the order.
     struct entry {
         callback function;
         int order;

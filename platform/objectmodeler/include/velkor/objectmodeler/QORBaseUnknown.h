@@ -27,10 +27,13 @@ protected:
 /// Late-bound calls, which no component of this platform offers: every operation gives E_NOTIMPL.
 class VELKOR_PLATFORM_API IDispatch : public IUnknown {
 public:
-    virtual HRESULT GetTypeInfoCount(unsigned int* count) = 0;
+    virtual HRESULT GetTypeInfoCount(unsigned int* count) = 0; ///< How many descriptions of types there are.
+    /// A description of the type.
     virtual HRESULT GetTypeInfo(unsigned int index, unsigned long locale, void** typeInfo) = 0;
+    /// Numbers of operations by name.
     virtual HRESULT GetIDsOfNames(const IID& interfaceId, const char* const* names, unsigned int count,
                                   unsigned long locale, long* ids) = 0;
+    /// Calls an operation by its number.
     virtual HRESULT Invoke(long member, const IID& interfaceId, unsigned long locale, unsigned short flags,
                            void* parameters, void* result, void* exception, unsigned int* badArgument) = 0;
 
@@ -63,7 +66,7 @@ public:
     /// The same as QueryInterface by the interface's name.
     virtual HRESULT QueryInterface(const char* interfaceName, void** interface);
     virtual ~QORBaseUnknown();
-    virtual QORMetaClass* GetMetaObject() const;
+    virtual QORMetaClass* GetMetaObject() const; ///< The class of the object.
     /// Name of the object's class.
     virtual const char* IsA() const;
     /// 1 when the class or an ancestor has the name.
@@ -78,13 +81,13 @@ public:
     /// Components without states of their own accept every change: S_OK.
     virtual HRESULT ChangeComponentState(ComponentState from, ComponentState to, const void* context);
 
-    static QORMetaClass* MetaObject();
-    static const char* ClassName();
-    static const IID& ClassId();
+    static QORMetaClass* MetaObject(); ///< The class itself.
+    static const char* ClassName();    ///< Name of the class.
+    static const IID& ClassId();       ///< Identifier of the class.
 
     /// Components come from the object modeler's storage; null when there is none left.
     static void* operator new(std::size_t size) noexcept;
-    static void operator delete(void* object) noexcept;
+    static void operator delete(void* object) noexcept; ///< Gives the memory of an object back.
 
 private:
     friend struct ComponentAccess;

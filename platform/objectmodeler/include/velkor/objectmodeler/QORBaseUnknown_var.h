@@ -38,9 +38,11 @@ public:
         return result;
     }
 
+    /// The object, without a reference of its own; null for none.
     QORBaseUnknown* get() const noexcept { return _object; }
-    bool IsNull() const noexcept { return _object == nullptr; }
-    explicit operator bool() const noexcept { return _object != nullptr; }
+    bool IsNull() const noexcept { return _object == nullptr; }            ///< True without an object.
+    explicit operator bool() const noexcept { return _object != nullptr; } ///< True with an object.
+    /// The object; without one it throws.
     QORBaseUnknown* operator->() const {
         if (_object == nullptr) ThrowErrorNullVar();
         return _object;
@@ -53,7 +55,7 @@ public:
     /// The interface of an identifier with a reference of its own; null when the pointer is empty or
     /// the object lacks it.
     void* CastTo(const IID& interfaceId) const;
-    [[noreturn]] static void ThrowErrorNullVar();
+    [[noreturn]] static void ThrowErrorNullVar(); ///< Throws, for a call through an empty handle.
 
 private:
     QORBaseUnknown* _object = nullptr;
@@ -65,7 +67,8 @@ template <class Interface>
 class QORInterface_var : public QORBaseUnknown_var {
 public:
     QORInterface_var() noexcept = default;
-    QORInterface_var(Interface* object) noexcept : QORBaseUnknown_var(object) {}
+    QORInterface_var(Interface* object) noexcept : QORBaseUnknown_var(object) {} ///< Takes a reference to the object.
+    /// The interface of another handle's object; null when it has none.
     QORInterface_var(const QORBaseUnknown_var& other)
         : QORBaseUnknown_var(QORBaseUnknown_var::adopt(__CastTo(other))) {}
 
@@ -81,8 +84,11 @@ public:
         return static_cast<Interface*>(other.CastTo(Interface::ClassId()));
     }
 
+    /// The object, without a reference of its own; null for none.
     Interface* get() const noexcept { return static_cast<Interface*>(QORBaseUnknown_var::get()); }
+    /// The object; without one it throws.
     Interface* operator->() const { return static_cast<Interface*>(QORBaseUnknown_var::operator->()); }
 };
 
+/// A list of objects.
 using QORListValQORBaseUnknown_var = QORListVal<QORBaseUnknown_var>;

@@ -23,10 +23,10 @@ public:
     QORMetaClass(const QORMetaClass&) = delete;
     QORMetaClass& operator=(const QORMetaClass&) = delete;
 
-    const char* GetClassName() const noexcept { return _name.c_str(); }
-    const char* GetFrameworkName() const noexcept { return _framework.c_str(); }
-    ENUMTypeOfClass GetTypeOfClass() const noexcept { return _kind; }
-    const IID& GetClassId() const noexcept { return _id; }
+    const char* GetClassName() const noexcept { return _name.c_str(); }          ///< Name of the class.
+    const char* GetFrameworkName() const noexcept { return _framework.c_str(); } ///< Name of the framework that has it.
+    ENUMTypeOfClass GetTypeOfClass() const noexcept { return _kind; }            ///< What kind of class it is.
+    const IID& GetClassId() const noexcept { return _id; }                       ///< Identifier of the class.
     /// The parent metaclass; of a TIE that of its interface; null for QORBaseUnknown's.
     QORMetaClass* GetParent() const noexcept { return _parent; }
     /// Of a TIE the implementation's metaclass, else null.

@@ -16,12 +16,12 @@ struct QOROMModuleInfo {
 
 class VELKOR_PLATFORM_API QOROMModule {
 public:
-    explicit QOROMModule(const QOROMModuleInfo& info);
+    explicit QOROMModule(const QOROMModuleInfo& info); ///< A module of that description.
     ~QOROMModule();
     QOROMModule(const QOROMModule&) = delete;
     QOROMModule& operator=(const QOROMModule&) = delete;
 
-    const QOROMModuleInfo& info() const noexcept { return _info; }
+    const QOROMModuleInfo& info() const noexcept { return _info; } ///< What it was made with.
 
 private:
     QOROMModuleInfo _info;

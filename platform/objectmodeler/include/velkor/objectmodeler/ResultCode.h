@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-using HRESULT = std::int32_t;
+using HRESULT = std::int32_t; ///< A result, below 0 for a failure.
 
 /// Success.
 inline constexpr HRESULT S_OK = 0;
@@ -20,9 +20,11 @@ inline constexpr HRESULT E_NOTIMPL = static_cast<HRESULT>(0x80004001U);
 /// The object does not have the interface asked for.
 inline constexpr HRESULT E_NOINTERFACE = static_cast<HRESULT>(0x80004002U);
 
+/// True for a success, one that found nothing as well.
 constexpr bool SUCCEEDED(HRESULT result) noexcept {
     return result >= 0;
 }
+/// True for a failure.
 constexpr bool FAILED(HRESULT result) noexcept {
     return result < 0;
 }

@@ -18,11 +18,12 @@ public:
     std::uint64_t id() const noexcept;
     /// The entity; null when the schema does not know the file's keyword, and of a complex instance.
     const velkor::sdai::EntityDefinition* entity() const noexcept { return _entity; }
-    const velkor::sdai::Model& model() const noexcept { return *_model; }
+    const velkor::sdai::Model& model() const noexcept { return *_model; } ///< The model that it is of.
 
     /// True for the entity named (upper case) and its subtypes. Of a complex instance every
     /// partial entity counts.
     bool IsKindOf(std::string_view entityName) const noexcept;
+    /// True when its entity is the one of a name or a subtype of it.
     bool IsInstanceOf(std::string_view entityName) const noexcept;
 
     /// True when the attribute exists and has a value. Names are upper case.

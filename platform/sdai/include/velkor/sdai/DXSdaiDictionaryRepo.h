@@ -23,7 +23,8 @@
 
 class VELKOR_PLATFORM_API DXSdaiDictionaryRepo {
 public:
-    using Loader = void (*)();
+    using Loader = void (*)(); ///< Restores one schema into the repository.
+    /// A dictionary, shared by all who use it.
     using SchemaPointer = std::shared_ptr<const velkor::sdai::SchemaDefinition>;
     /// The two text lists that a schema was restored from; views that live as long as it.
     struct Lists {

@@ -16,7 +16,7 @@ public:
         if (text != nullptr) _text = length == ZeroTerminated ? std::string(text) : std::string(text, length);
     }
 
-    std::string_view view() const noexcept { return _text; }
+    std::string_view view() const noexcept { return _text; } ///< The text in UTF-8.
     /// Zero-terminated; valid as long as the string is unchanged.
     const char* c_str() const noexcept { return _text.c_str(); }
     /// In bytes.

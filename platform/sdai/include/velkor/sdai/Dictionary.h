@@ -29,6 +29,7 @@ class SchemaDefinition;
 class SelectType;
 class SimpleType;
 
+/// Kinds of types of EXPRESS.
 enum class TypeKind : std::uint8_t {
     Integer,
     Real,
@@ -52,8 +53,9 @@ using NameTable = std::span<const std::uint16_t>;
 /// What an attribute, an aggregate element or a select item is of.
 class VELKOR_PLATFORM_API Type {
 public:
-    TypeKind kind() const noexcept { return _kind; }
-    bool isSimple() const noexcept { return _kind <= TypeKind::Binary; }
+    TypeKind kind() const noexcept { return _kind; }                     ///< Which kind it is.
+    bool isSimple() const noexcept { return _kind <= TypeKind::Binary; } ///< True for the simple types of EXPRESS.
+    /// True for LIST, SET and ARRAY.
     bool isAggregate() const noexcept { return _kind >= TypeKind::List && _kind <= TypeKind::Array; }
 
     /// The type as its own class; null when the kind is another.
@@ -72,17 +74,18 @@ public:
 
 protected:
     friend class SchemaBuilder;
-    explicit Type(TypeKind kind) noexcept : _kind(kind) {}
+    explicit Type(TypeKind kind) noexcept : _kind(kind) {} ///< A type of a kind.
 
 private:
     TypeKind _kind;
 };
 
+/// A simple type of EXPRESS.
 class SimpleType : public Type {
 public:
     /// Width of a STRING or BINARY, precision of a REAL; 0 when none is stated.
     int width() const noexcept { return _width; }
-    bool isFixed() const noexcept { return _fixed; }
+    bool isFixed() const noexcept { return _fixed; } ///< True when texts or binaries have exactly the length.
 
 private:
     friend class SchemaBuilder;
@@ -91,11 +94,12 @@ private:
     int _width = 0;
 };
 
+/// A TYPE of EXPRESS.
 class DefinedType : public Type {
 public:
-    std::string_view name() const noexcept { return _name; }
-    const Type& underlying() const noexcept { return *_underlying; }
-    const SchemaDefinition& schema() const noexcept { return *_schema; }
+    std::string_view name() const noexcept { return _name; }             ///< Name as the dictionary has it.
+    const Type& underlying() const noexcept { return *_underlying; }     ///< The type that it is defined by.
+    const SchemaDefinition& schema() const noexcept { return *_schema; } ///< The schema that declares it.
     /// Position in the schema's base order of defined types, counted from 0.
     std::uint32_t position() const noexcept { return _position; }
 
@@ -115,10 +119,11 @@ private:
 /// asked for by position + 1 (`text`), as the SDAI runtime counts.
 class VELKOR_PLATFORM_API EnumerationType : public Type {
 public:
+    /// The enumerators in the schema's order.
     std::span<const std::string_view> values() const noexcept { return _values; }
     /// The defined type that names this enumeration.
     const DefinedType& definedType() const noexcept { return *_definedType; }
-    const SchemaDefinition& schema() const noexcept { return *_schema; }
+    const SchemaDefinition& schema() const noexcept { return *_schema; } ///< The schema that declares it.
     /// Position of an enumerator, letter case ignored; -1 when there is none of the name.
     int position(std::string_view name) const noexcept;
     /// Enumerator by position counted from 1; empty when there is no such position.
@@ -133,6 +138,7 @@ private:
     const SchemaDefinition* _schema = nullptr;
 };
 
+/// The select under a defined type.
 class VELKOR_PLATFORM_API SelectType : public Type {
 public:
     /// The items as the schema lists them: defined types and entities.
@@ -153,14 +159,15 @@ private:
     const std::uint64_t* _accepted = nullptr;
 };
 
+/// A list, set or array of another type.
 class AggregateType : public Type {
 public:
-    const Type& element() const noexcept { return *_element; }
-    int lowerBound() const noexcept { return _lower; }
+    const Type& element() const noexcept { return *_element; } ///< Type of the members.
+    int lowerBound() const noexcept { return _lower; } ///< Least number of members; of an array the first index.
     /// -1 when unbounded. Bounds of an ARRAY given by an expression are 0 and 0.
     int upperBound() const noexcept { return _upper; }
-    bool hasUniqueElements() const noexcept { return _unique; }
-    bool hasOptionalElements() const noexcept { return _optional; }
+    bool hasUniqueElements() const noexcept { return _unique; }     ///< True when no two members may be equal.
+    bool hasOptionalElements() const noexcept { return _optional; } ///< True when members of an array may be unset.
 
 private:
     friend class SchemaBuilder;
@@ -175,11 +182,11 @@ private:
 /// One attribute, as the entity that declares it states it.
 class Attribute {
 public:
-    std::string_view name() const noexcept { return _name; }
-    const EntityDefinition& owner() const noexcept { return *_owner; }
-    const Type& type() const noexcept { return *_type; }
-    bool isOptional() const noexcept { return _optional; }
-    bool isDerived() const noexcept { return _derived; }
+    std::string_view name() const noexcept { return _name; }           ///< Name as the dictionary has it.
+    const EntityDefinition& owner() const noexcept { return *_owner; } ///< The entity that declares it.
+    const Type& type() const noexcept { return *_type; }               ///< Type of its values.
+    bool isOptional() const noexcept { return _optional; }             ///< True when it may be unset.
+    bool isDerived() const noexcept { return _derived; }               ///< True for one of DERIVE.
     /// The inherited attribute that this one redeclares; null for most.
     const Attribute* redeclared() const noexcept { return _redeclared; }
 
@@ -203,19 +210,21 @@ struct AttributeSlot {
     bool isDerived;
 };
 
+/// A UNIQUE rule: its label, and the attributes that together are unique.
 struct UniquenessRule {
     std::string_view label;
     std::span<const Attribute* const> attributes;
 };
 
+/// An entity with what it declares and inherits.
 class VELKOR_PLATFORM_API EntityDefinition : public Type {
 public:
-    std::string_view name() const noexcept { return _name; }
-    const SchemaDefinition& schema() const noexcept { return *_schema; }
-    bool isAbstract() const noexcept { return _abstract; }
+    std::string_view name() const noexcept { return _name; }             ///< Name as the dictionary has it.
+    const SchemaDefinition& schema() const noexcept { return *_schema; } ///< The schema that declares it.
+    bool isAbstract() const noexcept { return _abstract; }               ///< True when only subtypes have instances.
     /// Null for a root entity. IFC entities have at most one supertype.
     const EntityDefinition* supertype() const noexcept { return _supertype; }
-    std::span<const EntityDefinition* const> subtypes() const noexcept { return _subtypes; }
+    std::span<const EntityDefinition* const> subtypes() const noexcept { return _subtypes; } ///< The direct subtypes.
     /// Position in the schema's base order of entities, counted from 0.
     std::uint32_t position() const noexcept { return _position; }
 
@@ -239,7 +248,7 @@ public:
     /// Attribute by name, letter case ignored: own or inherited, explicit or derived, the latest
     /// redeclaration; null when unknown.
     const Attribute* attribute(std::string_view name) const noexcept;
-    std::span<const UniquenessRule> uniquenessRules() const noexcept { return _rules; }
+    std::span<const UniquenessRule> uniquenessRules() const noexcept { return _rules; } ///< Its UNIQUE rules.
 
 private:
     friend class SchemaBuilder;
@@ -278,13 +287,15 @@ struct SchemaCounts {
     int entitiesStatements = 0;
 };
 
+/// A schema with its entities and defined types.
 class VELKOR_PLATFORM_API SchemaDefinition {
 public:
     virtual ~SchemaDefinition() = default;
     SchemaDefinition(const SchemaDefinition&) = delete;
     SchemaDefinition& operator=(const SchemaDefinition&) = delete;
 
-    std::string_view name() const noexcept { return _name; }
+    std::string_view name() const noexcept { return _name; } ///< Name as the dictionary has it.
+    /// How many entities, types and attributes there are.
     const SchemaCounts& counts() const noexcept { return _counts; }
     /// All entities and defined types in the schema's base order.
     std::span<const EntityDefinition* const> entities() const noexcept { return _entities; }

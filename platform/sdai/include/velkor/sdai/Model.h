@@ -39,9 +39,9 @@ public:
     Model(const Model&) = delete;
     Model& operator=(const Model&) = delete;
 
-    const Part21File& file() const noexcept { return *_file; }
-    const FileHeader& header() const noexcept { return _file->header(); }
-    const SchemaDefinition& schema() const noexcept { return *_schema; }
+    const Part21File& file() const noexcept { return *_file; }            ///< The file that it is read from.
+    const FileHeader& header() const noexcept { return _file->header(); } ///< The header of the file.
+    const SchemaDefinition& schema() const noexcept { return *_schema; }  ///< The dictionary that it is read with.
 
     /// The instance of an id; null when the file has none.
     DXSdaiAppInstance* instance(std::uint64_t id) const;
@@ -64,7 +64,7 @@ public:
         const EntityDefinition* entity;
         std::uint64_t count;
     };
-    std::vector<KeywordCount> keywordCounts() const;
+    std::vector<KeywordCount> keywordCounts() const; ///< By keyword.
 
     /// Bytes held beside the mapped text: the index, and the instances that were asked for. The dictionary
     /// is shared by all models of its release and not counted.

@@ -27,7 +27,8 @@ namespace velkor::sdai {
 class VELKOR_PLATFORM_API ModelEdit {
 public:
     template <class Value>
-    using Result = Part21Edit::Result<Value>;
+    using Result = Part21Edit::Result<Value>; ///< A value, or why there is none.
+    /// Attributes by name, each with its value as a file writes it.
     using NamedValues = std::vector<std::pair<std::string, std::string>>;
 
     /// The model must outlive the edit. `derivedSlots` as for checkPopulation().
@@ -60,7 +61,7 @@ public:
     /// The structure beneath, for what is no attribute: the header, complex instances. Changes of references made there
     /// are not seen by users().
     Part21Edit& structure();
-    void write(files::OutputFile& output) const;
+    void write(files::OutputFile& output) const; ///< Writes the edited model.
     /// Bytes held beside the model.
     std::size_t memoryUse() const noexcept;
 

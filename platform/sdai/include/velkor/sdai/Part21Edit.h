@@ -73,6 +73,7 @@ private:
 /// Makes other records of those of a structure while it is written, so that nothing is held for them.
 class VELKOR_PLATFORM_API RecordRewriter {
 public:
+    /// What becomes of a statement.
     enum class Outcome : std::uint8_t { Keep, Replace, Drop };
 
     virtual ~RecordRewriter();
@@ -88,7 +89,7 @@ public:
 class VELKOR_PLATFORM_API Part21Edit {
 public:
     template <class Value>
-    using Result = tl::expected<Value, std::string>;
+    using Result = tl::expected<Value, std::string>; ///< A value, or why there is none.
 
     /// The file must outlive the edit.
     explicit Part21Edit(const Part21File& file);
@@ -107,7 +108,7 @@ public:
 
     /// A new instance behind the last sound one of the file; its id is above all others.
     Result<std::uint64_t> add(std::string_view record);
-    Result<void> replace(std::uint64_t id, std::string_view record);
+    Result<void> replace(std::uint64_t id, std::string_view record); ///< Another record in place of the instance's.
     /// References to it stay what they are.
     Result<void> drop(std::uint64_t id);
     /// Puts one encoded value in the place of a parameter, counted from 0, of a simple record. The text of the

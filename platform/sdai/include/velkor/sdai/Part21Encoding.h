@@ -26,7 +26,7 @@ VELKOR_PLATFORM_API void appendString(std::string& text, std::string_view utf8);
 /// False, and nothing appended, for what is no finite number: the standard has no form for it.
 [[nodiscard]] VELKOR_PLATFORM_API bool appendReal(std::string& text, double value);
 
-VELKOR_PLATFORM_API void appendInteger(std::string& text, std::int64_t value);
+VELKOR_PLATFORM_API void appendInteger(std::string& text, std::int64_t value); ///< The value as an INTEGER.
 
 /// False, and nothing appended, for 0, which no instance has.
 [[nodiscard]] VELKOR_PLATFORM_API bool appendReference(std::string& text, std::uint64_t id);

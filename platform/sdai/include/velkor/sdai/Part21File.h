@@ -68,28 +68,28 @@ public:
     Part21File(const Part21File&) = delete;
     Part21File& operator=(const Part21File&) = delete;
 
-    const std::string& name() const noexcept;
-    std::string_view text() const noexcept;
-    const FileHeader& header() const noexcept;
+    const std::string& name() const noexcept;  ///< The name that it was opened by.
+    std::string_view text() const noexcept;    ///< All bytes of the file.
+    const FileHeader& header() const noexcept; ///< What the header section says.
     /// Sections of data; a DATA section may name its own schema (edition 2).
     struct DataSection {
         std::uint32_t firstInstance;
         std::string name;
         std::vector<std::string> schemas;
     };
-    std::span<const DataSection> dataSections() const noexcept;
+    std::span<const DataSection> dataSections() const noexcept; ///< The data sections in their order.
 
     /// Instances are numbered from 0 in file order.
     std::uint32_t instanceCount() const noexcept;
     /// Number of the instance of an id; nothing when the file has none. Of several
     /// instances with the same id the first counts.
     std::optional<std::uint32_t> find(std::uint64_t id) const noexcept;
-    std::uint64_t id(std::uint32_t number) const noexcept;
+    std::uint64_t id(std::uint32_t number) const noexcept; ///< The id of an instance by its number.
     /// Where the instance's "#" stands.
     std::uint64_t offset(std::uint32_t number) const noexcept;
     /// Index into keywords(), or complexKeyword, or unlistedKeyword.
     std::uint16_t keyword(std::uint32_t number) const noexcept;
-    std::span<const std::uint16_t> keywordNumbers() const noexcept;
+    std::span<const std::uint16_t> keywordNumbers() const noexcept; ///< The number of the keyword of each instance.
     /// The different keywords of the file, upper case, in order of first appearance.
     std::span<const std::string> keywords() const noexcept;
     /// Text from behind "=" up to the start of the next instance or the end of the section;

@@ -16,6 +16,7 @@
 
 namespace velkor::sdai {
 
+/// Kinds of tokens.
 enum class TokenKind : std::uint8_t {
     End,          ///< end of the text
     Keyword,      ///< IFCWALL, also the user-defined form with a leading "!"
@@ -35,6 +36,7 @@ enum class TokenKind : std::uint8_t {
     Bad, ///< no token of the standard; as long as what a reader should skip
 };
 
+/// A token of the exchange structure.
 struct Token {
     TokenKind kind = TokenKind::End;
     /// The token as it stands in the text; its address places it.
@@ -43,6 +45,7 @@ struct Token {
 
 class VELKOR_PLATFORM_API Part21Lexer {
 public:
+    /// Reads a text from its beginning.
     explicit Part21Lexer(std::string_view text) noexcept : _next(text.data()), _end(text.data() + text.size()) {}
 
     /// The next token, white space and comments skipped.
@@ -52,7 +55,7 @@ public:
         Part21Lexer copy = *this;
         return copy.next();
     }
-    const char* position() const noexcept { return _next; }
+    const char* position() const noexcept { return _next; } ///< Where the next token is looked for.
 
     /// Skips one parameter, nested ones included, up to the "," or ")" behind it without
     /// reading it closely. False when the text or the statement (";") ends first.

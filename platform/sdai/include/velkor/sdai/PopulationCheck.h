@@ -16,6 +16,7 @@ struct DerivedSlot {
     std::string_view attribute;
 };
 
+/// What a check is made with.
 struct PopulationCheckOptions {
     std::size_t limit = 10'000;
     /// Explicit attributes that entities redeclare as derived, for schemas whose dictionary does not carry them: an

@@ -6,6 +6,7 @@
 
 namespace velkor::sdai {
 
+/// How grave a problem is.
 enum class Severity : std::uint8_t { Warning, Error };
 
 struct Problem {

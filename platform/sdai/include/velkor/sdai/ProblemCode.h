@@ -38,6 +38,7 @@ inline constexpr std::array<std::string_view, 4> openingCodes{"comment-in-commen
 /// One of them: a word that is none does not compile.
 class ProblemCode {
 public:
+    /// Compiles for codes of the table alone.
 #if defined(__clang__) && __clang_major__ < 16
     // Beside a consteval call, clang 14 destroys temporaries of other arguments twice. Other compilers look through the
     // codes for it.
@@ -49,6 +50,7 @@ public:
         : _text(code) {
         if (!isAmong(checkCodes, code) && !isAmong(openingCodes, code)) throw "no code of a problem";
     }
+    /// The code as it is written.
     constexpr std::string_view text() const noexcept {
         return _text;
     }

@@ -18,7 +18,7 @@ public:
     QORDXSdaiSchemaDecl(const QORDXSdaiSchemaDecl&) = delete;
     QORDXSdaiSchemaDecl& operator=(const QORDXSdaiSchemaDecl&) = delete;
 
-    std::uint64_t handle() const noexcept { return _handle; }
+    std::uint64_t handle() const noexcept { return _handle; } ///< Number of the registration.
 
 private:
     std::uint64_t _handle;

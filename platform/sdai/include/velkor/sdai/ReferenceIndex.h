@@ -20,13 +20,13 @@ namespace velkor::sdai {
 /// passed over.
 class VELKOR_PLATFORM_API ReferenceIndex {
 public:
-    explicit ReferenceIndex(const Part21File& file);
+    explicit ReferenceIndex(const Part21File& file); ///< Reads all references of a file.
 
     /// The instances that refer to one, by their numbers, in file order and each once.
     std::span<const std::uint32_t> users(std::uint32_t number) const noexcept {
         return std::span(_users).subspan(_first[number], _first[number + 1] - _first[number]);
     }
-    std::size_t memoryUse() const noexcept;
+    std::size_t memoryUse() const noexcept; ///< Bytes that it takes.
 
 private:
     // Of each instance the place of its first user; one more for the end.

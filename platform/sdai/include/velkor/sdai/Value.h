@@ -32,6 +32,7 @@ struct Enumeration {
     std::string_view text() const noexcept { return type ? type->text(value + 1) : std::string_view(); }
 };
 
+/// The values of LOGICAL.
 enum class Logical : std::uint8_t { False, True, Unknown };
 
 /// The runtime's handle on one value of any type. Conversions never fail loudly: a value of
@@ -39,6 +40,7 @@ enum class Logical : std::uint8_t { False, True, Unknown };
 class VELKOR_PLATFORM_API Primitive {
 public:
     Primitive() = default;
+    /// Of a place of that type, as the file encodes it.
     Primitive(const Model* model, const Type* type, std::string_view text) noexcept
         : _model(model), _type(type), _text(text) {}
 
@@ -63,8 +65,8 @@ public:
     /// Numbers, also through a typed parameter. An enumeration gives its position as an integer.
     std::optional<double> asReal() const;
     std::optional<std::int64_t> asInteger() const;
-    std::optional<bool> asBoolean() const;
-    std::optional<Logical> asLogical() const;
+    std::optional<bool> asBoolean() const;    ///< The value as BOOLEAN; nothing when it is none.
+    std::optional<Logical> asLogical() const; ///< The value as LOGICAL; nothing when it is none.
     /// Bits of a BINARY as the hexadecimal digits of the file, the leading count of unused bits
     /// included; empty when the value is none.
     std::string_view asBinary() const noexcept;
@@ -79,10 +81,12 @@ private:
 class Select {
 public:
     Select() = default;
+    /// A value of the chosen type.
     Select(const Type* chosen, Primitive value) noexcept : _chosen(chosen), _value(value) {}
-    bool isNull() const noexcept { return _value.declaredType() == nullptr; }
+    bool isNull() const noexcept { return _value.declaredType() == nullptr; } ///< True without a value.
     /// The defined type or entity chosen; null when the file's keyword is unknown.
     const Type* chosenType() const noexcept { return _chosen; }
+    /// The value without the type that was chosen.
     const Primitive& underlyingValue() const noexcept { return _value; }
 
 private:
@@ -99,16 +103,17 @@ class MemberIterator;
 class VELKOR_PLATFORM_API Aggregate {
 public:
     Aggregate() = default;
+    /// Of a place of that type, as the file encodes it.
     Aggregate(const Model* model, const AggregateType* type, std::string_view text) noexcept
         : _model(model), _type(type), _text(text) {}
-    bool isNull() const noexcept { return _type == nullptr; }
-    const AggregateType* type() const noexcept { return _type; }
+    bool isNull() const noexcept { return _type == nullptr; }    ///< True for a null aggregate.
+    const AggregateType* type() const noexcept { return _type; } ///< Type of the aggregate; null when it is none.
     /// Counted anew at each call by a pass over the text.
     std::size_t memberCount() const noexcept;
 
     /// The members in their order, each found when the iterator gets there.
     MemberIterator begin() const noexcept;
-    std::default_sentinel_t end() const noexcept { return {}; }
+    std::default_sentinel_t end() const noexcept { return {}; } ///< Behind the last member.
 
 private:
     friend class AggregateIterator;
@@ -122,8 +127,9 @@ private:
 ///     for (AggregateIterator it(units); it.next();) use(it.current().asInstance());
 class VELKOR_PLATFORM_API AggregateIterator {
 public:
+    /// In front of the first member.
     explicit AggregateIterator(const Aggregate& aggregate) noexcept : _aggregate(aggregate) { beginning(); }
-    void beginning() noexcept;
+    void beginning() noexcept; ///< Goes back in front of the first member.
     /// Moves to the next member; false behind the last.
     bool next() noexcept;
     /// The member stood on; an unset handle before the first and behind the last.
@@ -140,17 +146,19 @@ private:
 /// The iterator of a range-based loop over an aggregate, an input iterator.
 class MemberIterator {
 public:
-    using value_type = Primitive;
-    using difference_type = std::ptrdiff_t;
+    using value_type = Primitive;           ///< What members are.
+    using difference_type = std::ptrdiff_t; ///< Demanded of iterators.
 
+    /// At the first member.
     explicit MemberIterator(const Aggregate& aggregate) noexcept : _member(aggregate) { ++*this; }
-    Primitive operator*() const noexcept { return _member.current(); }
+    Primitive operator*() const noexcept { return _member.current(); } ///< The member that it stands at.
+    /// Goes on to the next member.
     MemberIterator& operator++() noexcept {
         _isAtEnd = !_member.next();
         return *this;
     }
-    void operator++(int) noexcept { ++*this; }
-    bool operator==(std::default_sentinel_t) const noexcept { return _isAtEnd; }
+    void operator++(int) noexcept { ++*this; }                                   ///< Goes on to the next member.
+    bool operator==(std::default_sentinel_t) const noexcept { return _isAtEnd; } ///< True behind the last member.
 
 private:
     AggregateIterator _member;

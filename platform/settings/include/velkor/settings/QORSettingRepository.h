@@ -16,6 +16,7 @@ class QORSettingController;
 
 class VELKOR_PLATFORM_API QORSettingRepository {
 public:
+    /// What a repository is opened for.
     enum AccessType : int { ReadAccess = 1, WriteAccess = 2 };
 
     /// The repository of a name. For reading it is null when the host has none, for writing it is then made
@@ -29,7 +30,7 @@ public:
     int ReadSetting(const QORDXUnicodeString& name, short* values, int count) const;
     /// Sets or replaces a setting and gives the number of its values.
     int WriteSetting(const QORDXUnicodeString& name, const short* values, int count);
-    void RemoveSetting(const QORDXUnicodeString& name);
+    void RemoveSetting(const QORDXUnicodeString& name); ///< Takes a setting out; nothing when there is none.
 
 private:
     std::unordered_map<QORDXUnicodeString, std::vector<short>> _settings;

@@ -11,11 +11,12 @@
 class VELKOR_PLATFORM_API QORDXUnicodeString {
 public:
     QORDXUnicodeString();
+    /// A copy of a text.
     QORDXUnicodeString(const QORUnicodeString& text);
     QORDXUnicodeString(const char* utf8) : QORDXUnicodeString(QORUnicodeString(utf8)) {}
 
-    const QORUnicodeString& text() const noexcept { return _text; }
-    std::string_view utf8() const noexcept { return _text.utf8(); }
+    const QORUnicodeString& text() const noexcept { return _text; } ///< The same text.
+    std::string_view utf8() const noexcept { return _text.utf8(); } ///< The text in UTF-8.
 
     /// XXH64 with seed 0 over the UTF-8 bytes, computed once.
     std::uint64_t GetHash() const noexcept { return _hash; }

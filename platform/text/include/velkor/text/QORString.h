@@ -12,13 +12,15 @@ public:
     QORString() = default;
     /// A null pointer gives the empty text.
     QORString(const char* text) : _text(text ? text : "") {}
-    explicit QORString(std::string_view text) : _text(text) {}
+    explicit QORString(std::string_view text) : _text(text) {} ///< A copy of a text.
 
-    std::string_view view() const noexcept { return _text; }
+    std::string_view view() const noexcept { return _text; } ///< The text.
+    /// The text with a zero behind it; valid until it changes.
     const char* CastToCharPtr() const noexcept { return _text.c_str(); }
-    int GetLength() const noexcept { return static_cast<int>(_text.size()); }
-    bool IsEmpty() const noexcept { return _text.empty(); }
+    int GetLength() const noexcept { return static_cast<int>(_text.size()); } ///< Number of bytes.
+    bool IsEmpty() const noexcept { return _text.empty(); }                   ///< True without a byte.
 
+    /// Adds a text at the end.
     QORString& Append(const QORString& other) {
         _text += other._text;
         return *this;

@@ -9,7 +9,7 @@
 
 class VELKOR_PLATFORM_API QORToken {
 public:
-    explicit QORToken(const QORUnicodeString& text) : _text(text) {}
+    explicit QORToken(const QORUnicodeString& text) : _text(text) {} ///< Parts of a text, none taken yet.
 
     /// The next run of characters that are none of the separators. Separators before it are passed
     /// over, so that no token is empty but the one that tells the end.

@@ -16,15 +16,16 @@ public:
     QORUnicodeString() = default;
     /// From UTF-8; a null pointer gives the empty text.
     QORUnicodeString(const char* utf8) : _text(utf8 ? utf8 : "") {}
-    explicit QORUnicodeString(std::string_view utf8) : _text(utf8) {}
-    explicit QORUnicodeString(std::string&& utf8) noexcept : _text(std::move(utf8)) {}
+    explicit QORUnicodeString(std::string_view utf8) : _text(utf8) {}                  ///< A copy of a text in UTF-8.
+    explicit QORUnicodeString(std::string&& utf8) noexcept : _text(std::move(utf8)) {} ///< A text in UTF-8.
 
     /// The text in UTF-8; valid until the string changes.
     std::string_view utf8() const noexcept { return _text; }
+    /// The text in UTF-8 with a zero behind it; valid until it changes.
     const char* ConvertToChar() const noexcept { return _text.c_str(); }
 
-    int GetLengthInChar() const noexcept;
-    bool IsEmpty() const noexcept { return _text.empty(); }
+    int GetLengthInChar() const noexcept;                   ///< Number of characters.
+    bool IsEmpty() const noexcept { return _text.empty(); } ///< True without a character.
 
     /// 0 when the texts differ, 1 when they are equal only if letter case is ignored, 2 when they
     /// are identical. A name matches when the answer is not 0.
@@ -34,8 +35,8 @@ public:
     /// Order of the UTF-8 bytes, which is that of the code points.
     friend auto operator<=>(const QORUnicodeString& a, const QORUnicodeString& b) noexcept = default;
 
-    QORUnicodeString& Append(const QORUnicodeString& other);
-    QORUnicodeString& operator+=(const QORUnicodeString& other) { return Append(other); }
+    QORUnicodeString& Append(const QORUnicodeString& other);                              ///< Adds a text at the end.
+    QORUnicodeString& operator+=(const QORUnicodeString& other) { return Append(other); } ///< The same as Append.
     friend QORUnicodeString operator+(QORUnicodeString a, const QORUnicodeString& b) { return std::move(a.Append(b)); }
 
     /// Case mapping in place, character by character.
@@ -49,7 +50,7 @@ public:
     int SearchSubString(const QORUnicodeString& text, int from = 0) const noexcept;
     /// Puts `text` before the character at `position`, at the end when there is none.
     void Insert(int position, const QORUnicodeString& text);
-    void Remove(int start, int length);
+    void Remove(int start, int length); ///< Takes `length` characters out.
     /// Replaces every occurrence, from the left, without looking at what it put in. Gives the count.
     int ReplaceAll(const QORUnicodeString& text, const QORUnicodeString& replacement);
     /// Drops blanks, tabs and line ends at both ends.

@@ -15,6 +15,7 @@ public:
     virtual HRESULT GetTagName(QORUnicodeString& name) = 0;
     /// Value of the attribute with this name, prefix included; empty when it is absent.
     virtual HRESULT GetAttribute(const QORUnicodeString& name, QORUnicodeString& value) = 0;
+    /// Whether it has an attribute of a name.
     virtual HRESULT HasAttribute(const QORUnicodeString& name, bool& has) = 0;
     /// The attribute's node; empty when it is absent.
     virtual HRESULT GetAttributeNode(const QORUnicodeString& name, QORIDOMAttr_var& attribute) = 0;

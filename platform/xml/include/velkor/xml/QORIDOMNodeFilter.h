@@ -8,6 +8,7 @@
 /// {D1B6E0C4-7B0E-4C57-9A86-3C3E1C0B9B57}
 VELKOR_PLATFORM_API extern const IID IID_QORIDOMNodeFilter;
 
+/// Names for what a filter answers and asks for.
 struct QORDOMNodeFilterType {
     /// Answers of a filter. A node iterator passes over a node alone, not over what is below it,
     /// whether it is skipped or rejected.

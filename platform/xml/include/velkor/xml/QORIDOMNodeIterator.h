@@ -13,6 +13,6 @@ public:
     /// The next node that is shown and accepted; empty, with S_OK, behind the last. A filter's failure
     /// is passed on and leaves the iterator where it stood.
     virtual HRESULT NextNode(QORIDOMNode_var& node) = 0;
-    virtual HRESULT PreviousNode(QORIDOMNode_var& node) = 0;
-    virtual HRESULT GetRoot(QORIDOMNode_var& root) = 0;
+    virtual HRESULT PreviousNode(QORIDOMNode_var& node) = 0; ///< Goes back to the node before; null at the beginning.
+    virtual HRESULT GetRoot(QORIDOMNode_var& root) = 0;      ///< The node that the walk began at.
 };

@@ -24,6 +24,7 @@ class VELKOR_PLATFORM_API QORIXMLDOMDocumentBuilder : public QORBaseUnknown {
 public:
     /// An empty document, without document element.
     virtual HRESULT CreateDocument(QORIDOMDocument_var& document) = 0;
+    /// What makes empty documents.
     virtual HRESULT GetDOMImplementation(QORIDOMImplementation_var& implementation) = 0;
 
     /// Reads a file, or a source. E_FAIL, and an empty document, when it cannot be read or is not well-formed, names
@@ -37,6 +38,7 @@ public:
     virtual HRESULT Parse(const QORUnicodeString& path, QORIDOMDocument_var& document,
                           const QORListValQORUnicodeString& names, const QORListValQORUnicodeString& values,
                           const QORIXMLEntityResolver_var& resolver, const QORIXMLErrorHandler_var& handler) = 0;
+    /// Reads a document from a source.
     virtual HRESULT Parse(const QORIXMLInputSource_var& source, QORIDOMDocument_var& document,
                           const QORListValQORUnicodeString& names, const QORListValQORUnicodeString& values,
                           const QORIXMLEntityResolver_var& resolver, const QORIXMLErrorHandler_var& handler) = 0;

@@ -19,7 +19,7 @@ class VELKOR_PLATFORM_API QORIXMLErrorHandler : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
-    virtual HRESULT Warning(const QORXMLMessage& message) = 0;
+    virtual HRESULT Warning(const QORXMLMessage& message) = 0; ///< Told of what is odd but harmless.
     /// After any of these the parse fails.
     virtual HRESULT Error(const QORXMLMessage& message) = 0;
 };
@@ -30,6 +30,7 @@ class VELKOR_PLATFORM_API QORIXMLEntityResolver : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 
 public:
+    /// The source of an external entity.
     virtual HRESULT ResolveEntity(const QORUnicodeString& publicId, const QORUnicodeString& systemId,
                                   QORIXMLInputSource_var& source) = 0;
 };

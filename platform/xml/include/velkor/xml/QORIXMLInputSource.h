@@ -14,10 +14,11 @@ class VELKOR_PLATFORM_API QORIXMLInputSource : public QORBaseUnknown {
 public:
     /// Path of the file, or what messages call a text.
     virtual HRESULT GetSystemId(QORUnicodeString& systemId) = 0;
-    virtual HRESULT GetPublicId(QORUnicodeString& publicId) = 0;
+    virtual HRESULT GetPublicId(QORUnicodeString& publicId) = 0; ///< Public identifier; empty without one.
 };
 using QORIXMLInputSource_var = QORInterface_var<QORIXMLInputSource>;
 
+/// Makes sources.
 class VELKOR_PLATFORM_API QORIXMLSAX2Factory : public QORBaseUnknown {
     VELKOR_DECLARE_CLASS
 

@@ -18,6 +18,7 @@
 
 namespace velkor::xml {
 
+/// An attribute of an element.
 struct XmlAttribute {
     std::string_view name;
     std::string_view value;
@@ -33,9 +34,10 @@ public:
     virtual bool begin(std::string_view name, std::span<const XmlAttribute> attributes, int line) = 0;
     /// The text of an element may come in several pieces. White space between elements comes too.
     virtual void text(std::string_view piece) = 0;
-    virtual void end() = 0;
+    virtual void end() = 0; ///< Behind the end of an element.
 };
 
+/// Why a document cannot be read.
 struct XmlError {
     /// Counted from 1; 0 where no place is meant.
     int line = 0;

@@ -31,7 +31,9 @@ enum class CheckScope : std::uint8_t {
     Everything,
 };
 
+/// What a check of a model is made with.
 struct ModelCheckOptions : CheckOptions {
+    /// With those that all checks have.
     ModelCheckOptions(CheckOptions options = {}) : CheckOptions(std::move(options)) {}
 
     CheckScope scope = CheckScope::Everything;
@@ -44,6 +46,7 @@ struct ModelCheckOptions : CheckOptions {
     const SetLibrary* definitions = nullptr;
 };
 
+/// What is wrong with a model, and what was judged.
 struct ModelCheckResult : CheckResult {
     /// What the rules were held to; none when the scope leaves them out.
     std::optional<RuleCoverage> coverage;
@@ -60,6 +63,7 @@ VELKOR_TOOLKIT_API CheckResult checkStructure(const sdai::Part21File& file, cons
 /// where the release has one.
 VELKOR_TOOLKIT_API ModelCheckResult checkModel(const sdai::Model& model, const ModelCheckOptions& options = {});
 
+/// A file, and what is wrong in it.
 struct FileCheck {
     std::string file;
     /// Of the dictionary that the instances were judged by; empty when they were not.

@@ -15,6 +15,7 @@
 namespace velkor {
 
 struct ProblemSummary {
+    /// Problems of one code.
     struct Kind {
         std::string code;
         sdai::Severity severity;
@@ -30,7 +31,7 @@ struct ProblemSummary {
     std::uint64_t warnings = 0;
     std::uint64_t total = 0;
 
-    std::uint64_t listed() const noexcept { return errors + warnings; }
+    std::uint64_t listed() const noexcept { return errors + warnings; } ///< How many problems are listed.
 };
 
 /// "error" or "warning".

@@ -33,6 +33,7 @@ struct Classification {
         std::string reason;
         std::uint64_t count = 0;
     };
+    /// A product, and what decided about it.
     struct Product {
         /// Of the instance, in file order.
         std::uint32_t number;

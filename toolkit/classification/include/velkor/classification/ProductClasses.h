@@ -27,6 +27,7 @@ struct ProductClass {
 /// points into the classification.
 VELKOR_TOOLKIT_API std::vector<ProductClass> classesOf(const Classification& classification);
 
+/// A classification, and the document that it was made by.
 struct ConfiguredClassification {
     /// The document that the services use.
     std::string documentPath;

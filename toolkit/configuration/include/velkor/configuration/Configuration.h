@@ -15,6 +15,7 @@
 namespace velkor {
 
 struct Configuration {
+    /// A setting of a repository.
     struct Setting {
         std::string repository;
         std::string name;
@@ -25,6 +26,7 @@ struct Configuration {
         std::string key;
         std::vector<std::string> paths;
     };
+    /// A type that scopes of custom mappings may name.
     struct KnowledgeType {
         std::string name;
         bool isSpecialization = false;

@@ -17,6 +17,7 @@
 
 namespace velkor {
 
+/// A configuration, or what is wrong in its file.
 struct ConfigurationReading {
     Configuration configuration;
     /// One line each, with the file, the line, the key and what was expected. With any of them

@@ -14,6 +14,7 @@
 
 namespace velkor {
 
+/// Where something can be set.
 enum class ConfigurationPlace {
     Environment,      ///< a variable of the environment
     Key,              ///< a key of the configuration file
@@ -22,6 +23,7 @@ enum class ConfigurationPlace {
     ConversionOption, ///< a conversion option
 };
 
+/// Something that a user can set.
 struct ConfigurationItem {
     ConfigurationPlace place;
     const char* name;

@@ -11,6 +11,7 @@ inline constexpr std::string_view definitionReleases[] = {"IFC2X3", "IFC4", "IFC
 /// Whose definitions the services read unless told otherwise.
 inline constexpr std::string_view usualDefinitionsRelease = "IFC4";
 
+/// True for the name of a release that defines sets.
 constexpr bool isDefinitionRelease(std::string_view name) noexcept {
     return std::ranges::find(definitionReleases, name) != std::ranges::end(definitionReleases);
 }

@@ -13,8 +13,9 @@
 
 namespace velkor {
 
+/// An option with the value in force.
 struct EffectiveOption {
-    using Origin = QORIFCOptions::Origin;
+    using Origin = QORIFCOptions::Origin; ///< Where a value comes from.
 
     /// In words; as a member of JSON with "_" for blanks.
     const char* name;

@@ -23,6 +23,7 @@ namespace velkor {
 
 class VELKOR_TOOLKIT_API PlatformSetup {
 public:
+    /// What became of a conversion option.
     enum class Outcome { ActedUpon, Kept, LeftOut };
     /// A conversion option and what the services made of it.
     struct ConversionOption {
@@ -56,6 +57,7 @@ public:
     const std::string& definitionsRelease() const noexcept { return _definitionsRelease; }
     /// The folders of shipped resources that are in force; empty when something else has been configured.
     const std::string& shippedRuntimeView() const noexcept { return _shippedRuntimeView; }
+    /// The folder that stands behind all others; empty for none.
     const std::string& shippedStandard() const noexcept { return _shippedStandard; }
 
 private:

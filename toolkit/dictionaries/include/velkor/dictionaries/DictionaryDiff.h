@@ -21,6 +21,7 @@ struct DictionaryDiff {
         std::string before;
         std::string after;
     };
+    /// Something that only one of the schemas has.
     struct Item {
         std::string name;
         std::string description;
@@ -36,6 +37,7 @@ struct DictionaryDiff {
         /// The attributes in both stand in another order.
         bool reordered = false;
     };
+    /// A type that changed.
     struct Type {
         std::string_view name;
         /// "enumeration", "select" or "type": what it is in the second schema.

@@ -18,6 +18,7 @@ namespace velkor {
 
 /// Names are views into the dictionary and live as long as it.
 struct EntityFacts {
+    /// An attribute as instances hold it.
     struct Attribute {
         std::string_view name;
         /// The entity that declares it.
@@ -29,6 +30,7 @@ struct EntityFacts {
         /// Place among the values of an instance, counted from 1; 0 when it has none there.
         std::size_t position = 0;
     };
+    /// A UNIQUE rule of the entity.
     struct UniquenessRule {
         std::string label;
         std::vector<std::string_view> attributes;

@@ -13,6 +13,7 @@
 
 namespace velkor {
 
+/// The release before, and the one behind.
 using ReleasePair = std::pair<const sdai::SchemaDefinition*, const sdai::SchemaDefinition*>;
 
 /// How the document names a release: "2x3"; empty for one that it has no name for.

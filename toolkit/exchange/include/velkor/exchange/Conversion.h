@@ -35,8 +35,9 @@ struct StepOptions {
 };
 
 template <class Report>
-using Converted = tl::expected<Report, std::string>;
+using Converted = tl::expected<Report, std::string>; ///< What was done, or why nothing could be written.
 
+/// What a conversion to another release is made with.
 struct ReleaseOptions : StepOptions {
     /// Name of a dictionary, letter case ignored: "IFC2X3", "IFC4X3_ADD2".
     std::string release;
@@ -51,6 +52,7 @@ struct ReleaseOptions : StepOptions {
 VELKOR_TOOLKIT_API Converted<StepReport> convertRelease(const sdai::Model& model, const ReleaseOptions& options,
                                                         files::OutputFile& output);
 
+/// What a conversion to other units is made with.
 struct UnitOptions : StepOptions {
     /// A unit type and the unit to use for it, letter case ignored: {"LENGTHUNIT", "MILLIMETRE"},
     /// {"PLANEANGLEUNIT", "DEGREE"}. SI units with their prefix, and the conversion-based ones of ISO 16739.
@@ -64,6 +66,7 @@ VELKOR_TOOLKIT_API std::optional<std::string> unitFault(std::string_view type, s
 VELKOR_TOOLKIT_API Converted<StepReport> convertUnits(const sdai::Model& model, const UnitOptions& options,
                                                       files::OutputFile& output);
 
+/// Which identifiers are made anew.
 struct IdentifierOptions : StepOptions {
     /// New identifiers for those that are malformed, missing or used before.
     bool repair = false;
@@ -71,7 +74,9 @@ struct IdentifierOptions : StepOptions {
     std::string plmAttribute;
 };
 
+/// What became of identifiers.
 struct IdentifierReport : StepReport {
+    /// An identifier that was changed.
     struct Entry {
         std::uint64_t id = 0;
         std::string before;
@@ -82,10 +87,13 @@ struct IdentifierReport : StepReport {
 };
 
 VELKOR_TOOLKIT_API Converted<IdentifierReport>
+/// Gives instances new identifiers.
 convertIdentifiers(const sdai::Model& model, const IdentifierOptions& options, files::OutputFile& output);
 
+/// Which way a custom mapping is followed.
 enum class MappingDirection : std::uint8_t { Import, Export };
 
+/// By which mappings properties are renamed.
 struct PropertyOptions : StepOptions {
     /// Sets and properties are renamed as the custom mapping says for this direction.
     std::optional<MappingDirection> customMapping;
@@ -95,6 +103,7 @@ struct PropertyOptions : StepOptions {
     const PlatformSetup* setup = nullptr;
 };
 
+/// Renames sets and properties as mappings say.
 VELKOR_TOOLKIT_API Converted<StepReport> convertProperties(const sdai::Model& model, const PropertyOptions& options,
                                                            files::OutputFile& output);
 
@@ -109,6 +118,7 @@ struct ConversionOptions : StepOptions {
     std::string scratchBeside = {};
 };
 
+/// What all steps did.
 struct FullReport : ConversionReport {
     std::vector<IdentifierReport::Entry> identifiers;
 };
@@ -125,6 +135,6 @@ struct StepRules {
     std::string_view step;
     std::vector<const ConversionRule*> rules;
 };
-VELKOR_TOOLKIT_API std::vector<StepRules> conversionRules();
+VELKOR_TOOLKIT_API std::vector<StepRules> conversionRules(); ///< Those of every step.
 
 } // namespace velkor

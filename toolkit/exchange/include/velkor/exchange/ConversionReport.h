@@ -44,6 +44,7 @@ struct Change {
     std::string detail;
 };
 
+/// How often a rule was followed, and where.
 struct RuleUse {
     const ConversionRule* rule = nullptr;
     std::uint64_t count = 0;
@@ -73,6 +74,7 @@ struct VELKOR_TOOLKIT_API StepReport {
 struct ConversionReport {
     std::vector<StepReport> steps;
 
+    /// True when no rule lost anything.
     bool isLossless() const {
         for (const StepReport& step : steps)
             if (!step.isLossless()) return false;

@@ -26,6 +26,7 @@ struct MappingMeaning {
     const char* words;
 };
 
+/// What a mapping service answered.
 struct MappingAnswer {
     /// The services' own.
     HRESULT status;
@@ -51,6 +52,7 @@ struct MappingList {
     std::string document;
 };
 
+/// The value that a property gets where it is introduced.
 struct IntroducedValue {
     std::string entity;
     std::string property;

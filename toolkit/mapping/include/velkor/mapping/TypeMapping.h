@@ -16,10 +16,12 @@ namespace velkor {
 
 class VELKOR_TOOLKIT_API TypeMapping {
 public:
+    /// Which documents are read.
     struct Wanted {
         bool customMapping = false;
         bool plmAttributes = false;
     };
+    /// Where a property goes.
     struct Target {
         std::string set;
         std::string property;

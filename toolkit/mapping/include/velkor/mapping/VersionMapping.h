@@ -33,6 +33,7 @@ public:
     /// What a property of an entity is in the target: entity (that asked for when none is named) and property.
     std::optional<std::pair<std::string, std::string>> property(std::string_view entity,
                                                                 std::string_view property) const;
+    /// What the target release introduces with a value.
     const std::vector<IntroducedValue>& introduced() const noexcept { return _introduced; }
 
 private:

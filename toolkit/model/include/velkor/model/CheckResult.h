@@ -19,6 +19,7 @@ namespace velkor {
 /// Of what is listed, unless told.
 inline constexpr std::size_t defaultLimit = 100'000;
 
+/// What every check is made with.
 struct CheckOptions {
     /// How many findings are listed at most; all are counted.
     std::size_t limit = defaultLimit;

@@ -18,8 +18,8 @@ struct VELKOR_TOOLKIT_API CodeFilter {
     /// All but these; stronger than `only`.
     std::vector<std::string> ignore = {};
 
-    bool takes(std::string_view code) const;
-    bool takesAll() const noexcept { return only.empty() && ignore.empty(); }
+    bool takes(std::string_view code) const; ///< True when problems of the code are wanted.
+    bool takesAll() const noexcept { return only.empty() && ignore.empty(); } ///< True when nothing is left out.
 };
 
 } // namespace velkor

@@ -15,6 +15,7 @@
 
 namespace velkor {
 
+/// What a project says of itself.
 struct ProjectFacts {
     std::uint64_t id = 0;
     std::string name;

@@ -9,6 +9,7 @@
 
 namespace velkor {
 
+/// How far some work is.
 struct ProgressStep {
     /// What is being done, for people: "Checking the instances".
     std::string_view work;

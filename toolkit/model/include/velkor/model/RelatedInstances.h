@@ -11,6 +11,7 @@
 namespace velkor {
 
 template <class Take>
+/// Calls a function with each member that is an instance.
 void eachInstance(const sdai::Aggregate& aggregate, Take take) {
     for (const sdai::Primitive member : aggregate) {
         if (DXSdaiAppInstance* instance = member.asInstance()) take(instance);

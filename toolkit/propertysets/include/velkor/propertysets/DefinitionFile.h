@@ -49,6 +49,7 @@ VELKOR_TOOLKIT_API const DefinitionFaultKind* definitionFaultKind(std::string_vi
 /// Of a definition file, which says in a few kilobytes what it has to say. A larger one is refused.
 inline constexpr std::size_t mostDefinitionBytes = std::size_t{4} << 20U;
 
+/// A definition, and what is odd in its file.
 struct DefinitionReading {
     SetDefinition definition;
     /// In the order of the file.

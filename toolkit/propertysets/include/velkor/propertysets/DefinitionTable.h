@@ -15,6 +15,7 @@
 namespace velkor {
 
 struct DefinitionTable {
+    /// A definition with where it comes from.
     struct Entry {
         /// Name of the file that it was made from, and the SHA-256 of its bytes in hexadecimal.
         std::string source;
@@ -46,6 +47,7 @@ struct DefinitionTable {
 VELKOR_TOOLKIT_API tl::expected<DefinitionTable, sdai::Problem> readTable(std::string_view text);
 /// True when the first word is that of a table.
 VELKOR_TOOLKIT_API bool beginsTable(std::string_view text) noexcept;
+/// The text of a table, as readTable() reads it.
 VELKOR_TOOLKIT_API std::string writtenTable(const DefinitionTable& table);
 
 } // namespace velkor

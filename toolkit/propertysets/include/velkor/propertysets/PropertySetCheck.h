@@ -97,8 +97,9 @@ struct VELKOR_TOOLKIT_API PropertySetCheck {
     /// False when the caller has ended the check before its end.
     bool isComplete = true;
 
-    std::uint64_t uncheckedSets() const noexcept;
+    std::uint64_t uncheckedSets() const noexcept; ///< How many sets had no definition.
 
+    /// A name, and how many sets have it.
     struct NameCount {
         std::string name;
         std::uint64_t count = 0;

@@ -13,6 +13,7 @@ namespace velkor {
 
 /// What has a set, as far as it matters here.
 struct SetBearer {
+    /// The object, or its type.
     struct Part {
         /// Null when there is none.
         const sdai::EntityDefinition* entity = nullptr;
@@ -26,6 +27,7 @@ struct SetBearer {
     Part type = {};
 };
 
+/// Whether a set may be on an object.
 enum class SetFit : std::uint8_t {
     Applies,
     WrongClass,          ///< of an entity that the set does not apply to
@@ -36,6 +38,7 @@ enum class SetFit : std::uint8_t {
 /// The definition and the schema must outlive it.
 class VELKOR_TOOLKIT_API SetApplicability {
 public:
+    /// Of a definition, by the dictionary of a release.
     SetApplicability(const SetDefinition& definition, const sdai::SchemaDefinition& schema);
 
     /// By the object's own entity or its type's; a complex instance, whose entity is null, is not judged. A class goes

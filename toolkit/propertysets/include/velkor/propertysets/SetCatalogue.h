@@ -40,6 +40,7 @@ VELKOR_TOOLKIT_API std::span<const std::string_view> definingReleases() noexcept
 /// case counts in names of sets. Calls from one thread.
 class VELKOR_TOOLKIT_API SetCatalogue {
 public:
+    /// The sets that a release defines in some views.
     SetCatalogue(const DefinitionViews& views, std::string_view release);
     ~SetCatalogue();
     SetCatalogue(const SetCatalogue&) = delete;
@@ -49,8 +50,8 @@ public:
     const std::string& release() const noexcept;
     /// Sorted. Whether a name's file can be read shows when it is asked for.
     std::span<const std::string_view> names() const noexcept;
-    bool empty() const noexcept { return names().empty(); }
-    bool contains(std::string_view setName) const noexcept;
+    bool empty() const noexcept { return names().empty(); } ///< True when there is no definition.
+    bool contains(std::string_view setName) const noexcept; ///< True when a set of the name is defined.
     /// Null when there is none of the name, and when its file cannot be read.
     const SetDefinition* find(std::string_view setName) const;
     /// Of the file that defines the set; empty when there is none.
@@ -81,7 +82,7 @@ private:
 /// A catalogue for each release, made when first asked for.
 class VELKOR_TOOLKIT_API SetLibrary {
 public:
-    explicit SetLibrary(DefinitionViews views);
+    explicit SetLibrary(DefinitionViews views); ///< Catalogues of some views, each made when it is asked for.
     ~SetLibrary();
     SetLibrary(const SetLibrary&) = delete;
     SetLibrary& operator=(const SetLibrary&) = delete;

@@ -13,6 +13,7 @@ namespace velkor {
 
 /// How the names of the sets that releases define begin.
 inline constexpr std::string_view propertySetPrefix = "Pset_", quantitySetPrefix = "Qto_";
+/// True for a name that begins as those of standard sets do.
 constexpr bool hasStandardPrefix(std::string_view setName) noexcept {
     return setName.starts_with(propertySetPrefix) || setName.starts_with(quantitySetPrefix);
 }
@@ -60,6 +61,7 @@ enum class TemplateType : std::uint8_t {
 /// "type-driven-override"; empty for Unspecified.
 VELKOR_TOOLKIT_API std::string_view wordOf(TemplateType type) noexcept;
 
+/// A property or quantity of a set.
 struct PropertyDefinition {
     std::string name = {};
     PropertyKind kind = PropertyKind::Single;

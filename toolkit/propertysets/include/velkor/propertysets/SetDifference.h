@@ -22,6 +22,7 @@ class SetCatalogue;
 
 /// Names are as the second definition writes them where both have it. What it points to are the two definitions.
 struct SetDifference {
+    /// Something that is another afterwards.
     struct Change {
         /// "template type", "kind", "value type", "defining type", "unit type", "enumeration", "usage name", "name".
         std::string_view what;
@@ -31,11 +32,13 @@ struct SetDifference {
 
         bool operator==(const Change&) const = default;
     };
+    /// A property that only one of the sets has.
     struct Property {
         /// Members of complex properties stand behind the name of the whole: "Voltage.Upper".
         std::string name;
         const PropertyDefinition* definition = nullptr;
     };
+    /// A property that both sets have, each in another way.
     struct ChangedProperty {
         std::string name;
         std::vector<Change> changes;
@@ -54,6 +57,7 @@ struct SetDifference {
     std::vector<Property> removedProperties;
     std::vector<ChangedProperty> changedProperties;
 
+    /// True when nothing differs.
     bool empty() const noexcept {
         return changes.empty() && addedClasses.empty() && removedClasses.empty() && addedMethods.empty() &&
                removedMethods.empty() && addedProperties.empty() && removedProperties.empty() &&
@@ -73,6 +77,7 @@ struct CatalogueDifference {
     std::size_t unchanged = 0;
 };
 
+/// What differs between the sets of two catalogues.
 VELKOR_TOOLKIT_API CatalogueDifference compareCatalogues(const SetCatalogue& before, const SetCatalogue& after);
 
 } // namespace velkor

@@ -14,6 +14,7 @@
 
 namespace velkor {
 
+/// A file with templates.
 struct SetTemplateFile {
     /// ISO 10303-21: a project that declares a template for each set.
     std::string text;

@@ -22,6 +22,7 @@
 
 namespace velkor::lint {
 
+/// What a file can be judged as.
 struct LinterKind {
     /// Short stable word for it: "version-mapping".
     const char* word;
@@ -36,6 +37,7 @@ VELKOR_TOOLKIT_API std::span<const LinterKind> linterKinds();
 /// Null when there is none of the word.
 VELKOR_TOOLKIT_API const LinterKind* linterKind(std::string_view word);
 
+/// What a text was judged as, and what is wrong in it.
 struct Judgement {
     /// How many entries the services read, or would if they were right.
     std::size_t entries = 0;
@@ -43,6 +45,7 @@ struct Judgement {
     std::vector<Finding> findings;
 };
 
+/// A file that was judged.
 struct CheckedFile {
     std::string path;
     /// Null when it is none of them.
@@ -63,8 +66,8 @@ struct VELKOR_TOOLKIT_API FindingCounts {
     std::size_t warnings = 0;
     std::size_t listed = 0;
 
-    void add(const CheckedFile& file);
-    std::size_t findings() const noexcept { return errors + warnings; }
+    void add(const CheckedFile& file);                                  ///< Adds those of a file.
+    std::size_t findings() const noexcept { return errors + warnings; } ///< Errors and warnings together.
 };
 
 /// Remembers the dictionaries that files were judged by. A file is read whole and judged in one pass.

@@ -15,6 +15,7 @@
 
 namespace velkor {
 
+/// What stands at a path.
 enum class PathState { Readable, Missing, IsFolder, IsNoFolder, IsNoRegularFile, Forbidden };
 
 /// As it goes on behind a path: "does not exist".
@@ -25,17 +26,21 @@ VELKOR_TOOLKIT_API const char* name(PathState state);
 
 /// Paths have the system's separator.
 struct ResourceSearch {
+    /// A file, and what stands at its path.
     struct File {
         std::string path;
         PathState state;
     };
+    /// A file of a folder, and what becomes of it.
     struct Entry {
+        /// What becomes of a file.
         enum class Use { Used, NotUsed, Hidden };
         std::string name;
         Use use = Use::NotUsed;
         /// The folder whose file of the same name hides this one.
         std::string hiddenBy;
     };
+    /// A folder that was searched.
     struct Folder {
         /// The variable or the configuration key that it comes from, or "shipped with the program".
         std::string source;
@@ -73,7 +78,7 @@ struct ResourceSearch {
     /// What is not as it seems though it does no harm here.
     std::vector<std::string> remarks;
 
-    bool isUsable() const { return reason.empty(); }
+    bool isUsable() const { return reason.empty(); } ///< True when a file can be used.
 };
 
 /// What the setup has put in force is searched, the names of each folder once; folders of shipped resources are named

@@ -14,6 +14,7 @@
 
 namespace velkor {
 
+/// What states a rule.
 enum class RuleKind : std::uint8_t {
     Where,   ///< WHERE rule of an entity
     Type,    ///< WHERE rule of a defined type
@@ -25,6 +26,7 @@ enum class RuleKind : std::uint8_t {
 /// "where rule of an entity", …
 VELKOR_TOOLKIT_API const char* name(RuleKind kind);
 
+/// What there is to know of a rule.
 struct RuleFacts {
     RuleKind kind;
     /// Owner and label as the schema spells them: "IfcWall.CorrectPredefinedType"; of an inverse attribute its name.
@@ -41,6 +43,7 @@ struct RuleFacts {
     std::string faultSource;
 };
 
+/// How many rules there are of each kind.
 struct RuleCounts {
     std::size_t where = 0;
     std::size_t type = 0;
@@ -48,7 +51,7 @@ struct RuleCounts {
     std::size_t unique = 0;
     std::size_t inverse = 0;
 
-    std::size_t total() const noexcept { return where + type + global + unique + inverse; }
+    std::size_t total() const noexcept { return where + type + global + unique + inverse; } ///< Rules of all kinds.
 };
 
 /// All rules of a release by the name of its dictionary, in alphabetical order; none for a name that is no release.
@@ -60,6 +63,6 @@ VELKOR_TOOLKIT_API std::optional<RuleFacts> ruleNamed(std::string_view schema, s
 /// Names of up to `most` rules that are likely meant by a name that is none, the likeliest first.
 VELKOR_TOOLKIT_API std::vector<std::string> nearestRules(std::string_view schema, std::string_view name,
                                                          std::size_t most = 5);
-VELKOR_TOOLKIT_API RuleCounts ruleCounts(std::string_view schema);
+VELKOR_TOOLKIT_API RuleCounts ruleCounts(std::string_view schema); ///< How many rules a schema states.
 
 } // namespace velkor

@@ -21,6 +21,7 @@ namespace velkor {
 inline constexpr std::array<std::string_view, 6> ruleCodes{
     "element-not-unique", "global-rule", "inverse-cardinality", "rule-not-decided", "uniqueness-rule", "where-rule"};
 
+/// What a check of rules is made with.
 struct RuleCheckOptions {
     /// How many findings are listed at most; all are counted.
     std::size_t limit = defaultLimit;
@@ -54,6 +55,7 @@ struct RuleCoverage {
     double seconds = 0.0;
 };
 
+/// What breaks rules, and what was judged.
 struct RuleCheckResult : CheckResult {
     RuleCoverage coverage;
 };

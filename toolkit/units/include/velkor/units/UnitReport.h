@@ -18,6 +18,7 @@
 namespace velkor {
 
 struct VELKOR_TOOLKIT_API UnitReport {
+    /// A unit of the assignment.
     struct Unit {
         std::uint64_t id = 0;
         std::string entity;
