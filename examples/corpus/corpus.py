@@ -31,7 +31,7 @@ import judge
 import tables
 
 SUFFIXES = (".ifc",)
-# How many models are given out as one at most: one by one, that takes a quarter of the time that small ones are judged in.
+# How many models are given out as one at most: one by one, that takes a quarter of what judging small ones does.
 TOGETHER = 16
 # What a thread has before it, its work included: enough that none waits, and a worker that dies takes few along.
 AHEAD = 2
