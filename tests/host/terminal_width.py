@@ -128,6 +128,8 @@ def command_lines(folder):
         for command in (["report"], ["check"], ["validate"], ["classify"], ["units"], ["guid", "check"]):
             yield [*command, model]
         yield ["convert", model, "--to", "IFC4", "-o", f"{folder}/to.ifc"]
+    for command in (["check"], ["validate"], ["classify"], ["units"], ["guid", "check"]):
+        yield [*command, *map(str, MODELS)]
     for line in ("guid expand 0$WU4A9R19$vKWO$AdOnKA", "guid from-plm Body.001 Body.002",
                  "propertysets list IFC4 IfcActuator/ELECTRICACTUATOR", "propertysets show IFC4 Pset_WallCommon",
                  "propertysets diff IFC2X3 IFC4 Pset_WallCommon", "dictionary list", "dictionary entity IFC4 IFCWALL",
