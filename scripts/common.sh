@@ -8,8 +8,10 @@ cd "$root"
 build_packages=(g++ cmake ninja-build libutf8proc-dev libxxhash-dev libxml2-dev libexpected-dev libcli11-dev
   nlohmann-json3-dev libssl-dev pkg-config python3-dev pybind11-dev)
 # To test as well.
-test_packages=(libgtest-dev libgmock-dev clang-format binutils git python3 groff-base zsh fish libxml2-utils
+test_packages=(libgtest-dev libgmock-dev clang-format binutils dpkg-dev git python3 groff-base zsh fish libxml2-utils
   python3-distributed python3-pandas python3-numpy python3-pytest python3-mypy)
+# To make packages.
+package_packages=(dpkg-dev git)
 # For the slow extras: second compiler, fuzzing, linting, benchmarks, memory checks.
 extra_packages=(clang libclang-rt-14-dev clang-tidy cppcheck libbenchmark-dev valgrind)
 # For the site that scripts/docs builds.

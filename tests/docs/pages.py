@@ -34,7 +34,7 @@ FOLDERS = {
     "base/ifcCustomMapping": ["standard.xml"],
 }
 # They build or test the tree that is being tested.
-NOT_RUN = ("scripts/test", "scripts/bench", "cmake --preset", "cmake --install")
+NOT_RUN = ("scripts/test", "scripts/bench", "scripts/package", "cmake --preset", "cmake --install")
 
 
 def blocks(page):

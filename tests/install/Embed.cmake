@@ -12,7 +12,7 @@ endif()
 
 step(${CMAKE_COMMAND} -S ${SOURCE}/examples/embedding -B ${work} -G ${GENERATOR} -D CMAKE_CXX_COMPILER=${COMPILER}
      "-DCMAKE_CXX_FLAGS=${FLAGS}" -D VELKOR_SANITIZE=${SANITIZE}
-     "-DCMAKE_CXX_COMPILER_LAUNCHER=sh\;${CMAKE_CURRENT_LIST_DIR}/reuse.sh\;${BUILD}")
+     "-DCMAKE_CXX_COMPILER_LAUNCHER=sh\;${CMAKE_CURRENT_LIST_DIR}/reuse.sh\;${BUILD}\;velkor/")
 step(${CMAKE_COMMAND} --build ${work} --verbose)
 
 # The program's own lines are those of any program; Velkor's units report themselves by their path in Velkor.
