@@ -125,7 +125,10 @@ def run(*command):
 def make_reference():
     """Doxygen's pages. Members of data and enumerators speak for themselves, and so does what every class has; all else
     that is public has a comment."""
-    done = subprocess.run(["doxygen", "docs/site/Doxyfile"], cwd=ROOT, text=True, stderr=subprocess.PIPE)
+    # Headers are named as programs include them.
+    roots = [ROOT / "Velkorite/interfaces", *ROOT.glob("platform/**/include"), *ROOT.glob("toolkit/**/include")]
+    settings = (HERE / "Doxyfile").read_text() + f"STRIP_FROM_INC_PATH = {' '.join(map(str, roots))}\n"
+    done = subprocess.run(["doxygen", "-"], cwd=ROOT, text=True, input=settings, stderr=subprocess.PIPE)
     warnings = [line for line in sorted(set(done.stderr.splitlines())) if not SPEAKS_FOR_ITSELF.search(line)]
     if done.returncode != 0 or warnings:
         sys.exit("\n".join([*warnings, f"doxygen: {len(warnings)} warnings"]))

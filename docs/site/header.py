@@ -22,6 +22,10 @@ def is_end(line):
     return code.endswith((";", "}")) and not code.strip().startswith("};")
 
 
+# What every class has: no comment of another is meant for it.
+SPECIAL = re.compile(r".*(~|operator=\(|= (default|delete);)|(?:explicit )?(\w+)\((?:const )?\3 ?&")
+
+
 def distributed(lines):
     """Each declaration of a run with the comment of the run."""
     comment, depth, result = [], 0, []
@@ -34,7 +38,7 @@ def distributed(lines):
         elif not stripped or indentation(line) < depth or "///<" in line or re.match(r"(};|#|//|\w+:$|friend )", stripped):
             comment = []
         elif comment and indentation(line) == depth and is_end(lines[i - 1]) and "///" not in lines[i - 1]:
-            result += comment
+            result += [] if SPECIAL.match(stripped) else comment
         result.append(line)
     return result
 
