@@ -103,6 +103,7 @@ const sdai::EntityDefinition& entityNamed(const sdai::SchemaDefinition& schema, 
 
 void declareDictionaries(py::module_& module, ModelClass& model) {
     declareEntity(module);
+    declareDictionaryDiff(module);
     py::class_<Dictionary>(module, "Dictionary",
                            "The dictionary of a release: its entities and their attributes. Letter case is ignored in "
                            "names.")
@@ -117,6 +118,12 @@ void declareDictionaries(py::module_& module, ModelClass& model) {
                 return Entity{self.schema, entityFacts(entityNamed(*self.schema, name))};
             },
             py::arg("name"), "An entity by name. Raises Error 'unknown-entity'.")
+        .def(
+            "diff",
+            [](const Dictionary& self, const Dictionary& other) {
+                return differenceBetween(*self.schema, *other.schema);
+            },
+            py::arg("other"), "What is other in another dictionary, from this one to that.")
         .def("is_subtype", &isSubtype, py::arg("entity"), py::arg("ancestor"),
              "Whether an entity is another or one of its subtypes at any depth. Raises Error 'unknown-entity'.")
         .def(

@@ -61,6 +61,10 @@ Failure::Failure(std::string code, const std::string& message, Place place)
 Failure::Failure(const files::OpenError& error, const std::string& path)
     : Failure(codeOf(error.code), error.message, {.path = path}) {}
 
+Failure Failure::ofWriting(const files::OpenError& error, const std::string& path) {
+    return {codeOf(error.code), path + ": cannot be written: " + error.message, {.path = path}};
+}
+
 void declareError(py::module_& module) {
     py::dict members;
     members["code"] = "";

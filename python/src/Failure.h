@@ -23,6 +23,9 @@ public:
     Failure(std::string code, const std::string& message, Place place);
     Failure(const files::OpenError& error, const std::string& path);
 
+    /// Of a file that cannot be written.
+    static Failure ofWriting(const files::OpenError& error, const std::string& path);
+
     const std::string& code() const noexcept { return _code; }
     const Place& place() const noexcept { return _place; }
 

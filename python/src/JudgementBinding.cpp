@@ -1,5 +1,6 @@
 #include "Bindings.h"
 #include "Failure.h"
+#include "ProgressCall.h"
 #include "ServiceSetup.h"
 #include "Values.h"
 #include "velkor/check/ModelCheck.h"
@@ -74,28 +75,44 @@ ModelCheckOptions checkOptions(const std::string& scope, std::size_t limit, unsi
 }
 
 Check checkOpened(const OpenModel& self, const std::string& scope, std::size_t limit, unsigned jobs,
-                  const std::vector<std::string>& only, const std::vector<std::string>& ignore) {
-    const ModelCheckOptions options = checkOptions(scope, limit, jobs, only, ignore);
-    return self.work([&](const sdai::Model& model) {
+                  const std::vector<std::string>& only, const std::vector<std::string>& ignore,
+                  const py::object& callable) {
+    ProgressCall progress(callable);
+    ModelCheckOptions options = checkOptions(scope, limit, jobs, only, ignore);
+    options.progress = progress.follower();
+    auto check = self.work([&](const sdai::Model& model) {
         return Check{std::string(model.schema().name()), checkModel(model, options)};
     });
+    progress.raise();
+    return check;
 }
 
 Check checkPath(const py::object& path, const std::string& scope, std::size_t limit, unsigned jobs,
-                const std::vector<std::string>& only, const std::vector<std::string>& ignore) {
+                const std::vector<std::string>& only, const std::vector<std::string>& ignore,
+                const py::object& callable) {
     const auto name = py::module_::import("os").attr("fspath")(path).cast<std::string>();
-    const ModelCheckOptions options = checkOptions(scope, limit, jobs, only, ignore);
-    const py::gil_scoped_release released;
-    auto checked = checkFile(name, options);
+    ProgressCall progress(callable);
+    ModelCheckOptions options = checkOptions(scope, limit, jobs, only, ignore);
+    options.progress = progress.follower();
+    auto checked = [&] {
+        const py::gil_scoped_release released;
+        return checkFile(name, options);
+    }();
+    progress.raise();
     if (!checked) throw Failure(checked.error(), name);
     return {checked->release, std::move(checked->result)};
 }
 
-PropertySetCheck validate(const OpenModel& self, std::size_t limit, const std::string& configuration) {
-    return withServices(configuration, [&](const PlatformSetup& setup) {
+PropertySetCheck validate(const OpenModel& self, std::size_t limit, const std::string& configuration,
+                          const py::object& callable) {
+    ProgressCall progress(callable);
+    auto check = withServices(configuration, [&](const PlatformSetup& setup) {
         const ModelGuard guard(self);
-        return checkPropertySets(self.model(), SetLibrary(definitionViews(setup)), CheckOptions{.limit = limit});
+        return checkPropertySets(self.model(), SetLibrary(definitionViews(setup)),
+                                 CheckOptions{.limit = limit, .progress = progress.follower()});
     });
+    progress.raise();
+    return check;
 }
 
 struct ClassifiedProduct {
@@ -107,28 +124,33 @@ struct ClassifiedModel {
     std::string document;
     std::vector<ClassifiedProduct> products;
     std::uint64_t unclassified = 0;
+    bool isComplete = true;
 };
 
-ClassifiedModel classifyOpened(const SharedModel& self, const std::string& configuration) {
-    return withServices(configuration, [&](const PlatformSetup& setup) {
+ClassifiedModel classifyOpened(const SharedModel& self, const std::string& configuration, const py::object& callable) {
+    ProgressCall progress(callable);
+    auto answer = withServices(configuration, [&](const PlatformSetup& setup) {
         const ModelGuard guard(*self);
-        auto classified = classifyAsConfigured(self->model(), setup);
+        auto classified = classifyAsConfigured(self->model(), setup, progress.follower());
         if (!classified) throw Failure("no-classification", classified.error(), {.path = self->path()});
         const Classification& result = classified->classification;
-        ClassifiedModel answer{classified->documentPath, {}, result.unclassified};
-        answer.products.reserve(result.products.size());
+        ClassifiedModel classes{classified->documentPath, {}, result.unclassified, result.isComplete};
+        classes.products.reserve(result.products.size());
         for (const Classification::Product& product : result.products) {
             const Classification::Decision& decision = result.decisions[product.decision];
-            answer.products.push_back({{self, self->model().instanceAt(product.number)},
-                                       decision.neutralId,
-                                       decision.plmType,
-                                       decision.reason});
+            classes.products.push_back({{self, self->model().instanceAt(product.number)},
+                                        decision.neutralId,
+                                        decision.plmType,
+                                        decision.reason});
         }
-        return answer;
+        return classes;
     });
+    progress.raise();
+    return answer;
 }
 
 UnitReport unitsOf(const OpenModel& self) {
+    requireNoCall();
     const py::gil_scoped_release released;
     const std::lock_guard services(servicesMutex());
     const ModelGuard guard(self);
@@ -189,7 +211,10 @@ void declareFindings(py::module_& module) {
             "findings", [](const Check& self) { return self.result.problems; },
             "In file order, no more than the limit.")
         .def_property_readonly(
-            "total", [](const Check& self) { return self.result.total; }, "Their full count.");
+            "total", [](const Check& self) { return self.result.total; }, "Their full count.")
+        .def_property_readonly(
+            "is_complete", [](const Check& self) { return self.result.isComplete; },
+            "False when the progress callback has ended the check.");
     py::class_<PropertySetCheck>(module, "Validation", "Property sets and quantity sets against their definitions.")
         .def_property_readonly(
             "defined_by", [](const PropertySetCheck& self) { return toText(self.definedBy); },
@@ -200,7 +225,9 @@ void declareFindings(py::module_& module) {
         .def_readonly("checked_sets", &PropertySetCheck::checkedSets, "How many have a definition.")
         .def_readonly("checked_properties", &PropertySetCheck::checkedProperties)
         .def_readonly("findings", &PropertySetCheck::findings, "In file order, no more than the limit.")
-        .def_readonly("total", &PropertySetCheck::total, "Their full count.");
+        .def_readonly("total", &PropertySetCheck::total, "Their full count.")
+        .def_readonly("is_complete", &PropertySetCheck::isComplete,
+                      "False when the progress callback has ended the check.");
 }
 
 void declareClassification(py::module_& module) {
@@ -220,7 +247,8 @@ void declareClassification(py::module_& module) {
             "document", [](const ClassifiedModel& self) { return toText(self.document); },
             "The mapping document that decided.")
         .def_readonly("products", &ClassifiedModel::products, "In file order.")
-        .def_readonly("unclassified", &ClassifiedModel::unclassified, "How many have no neutral identifier.");
+        .def_readonly("unclassified", &ClassifiedModel::unclassified, "How many have no neutral identifier.")
+        .def_readonly("is_complete", &ClassifiedModel::isComplete, "False when the progress callback has ended it.");
 }
 
 void declareUnits(py::module_& module) {
@@ -264,30 +292,35 @@ void declareJudgement(py::module_& module, ModelClass& model) {
     declareUnits(module);
     const std::vector<std::string> none;
     module.def("check", &checkPath, py::arg("path"), py::arg("scope") = "everything", py::arg("limit") = defaultLimit,
-               py::arg("jobs") = 0, py::arg("only") = none, py::arg("ignore") = none,
+               py::arg("jobs") = 0, py::arg("only") = none, py::arg("ignore") = none, py::arg("progress") = py::none(),
                "Judges a file as Model.check does, also one whose release is unknown: its structure, then.\n"
                "Raises Error when it cannot be read, ValueError for an unknown scope or code.");
     model
         .def("check", &checkOpened, py::arg("scope") = "everything", py::arg("limit") = defaultLimit,
-             py::arg("jobs") = 0, py::arg("only") = none, py::arg("ignore") = none,
+             py::arg("jobs") = 0, py::arg("only") = none, py::arg("ignore") = none, py::arg("progress") = py::none(),
              "Everything wrong with the model: scope 'structure' looks at the exchange structure, 'dictionary' at "
              "the instances as well, 'everything' at the rules of the release too.\n"
              "limit  -- findings that are listed at most; all are counted\n"
              "jobs   -- threads, 0 for as many as there are cores\n"
              "only, ignore  -- codes of findings that count, or do not\n"
+             "progress  -- called with what is done, how much of it and of how much; False or an exception ends the "
+             "work\n"
              "Other Python threads run meanwhile. Raises ValueError for an unknown scope or code.")
         .def("validate", &validate, py::arg("limit") = defaultLimit, py::arg("configuration") = "",
+             py::arg("progress") = py::none(),
              "Judges property sets and quantity sets by the definitions of the release.\n"
              "configuration  -- path of a configuration file; the shipped definitions count without\n"
+             "progress  -- as for check\n"
              "Other Python threads run meanwhile. Raises Error 'configuration-invalid'.")
         .def(
             "classify",
-            [](const std::shared_ptr<OpenModel>& self, const std::string& configuration) {
-                return classifyOpened(self, configuration);
+            [](const std::shared_ptr<OpenModel>& self, const std::string& configuration, const py::object& progress) {
+                return classifyOpened(self, configuration, progress);
             },
-            py::arg("configuration") = "",
+            py::arg("configuration") = "", py::arg("progress") = py::none(),
             "Gives every product its neutral identifier and PLM type.\n"
             "configuration  -- path of a configuration file; the shipped mapping counts without\n"
+            "progress  -- as for check\n"
             "Other Python threads run meanwhile. Raises Error 'no-classification', 'configuration-invalid'.")
         .def("units", &unitsOf, "The units of the model with their factors.");
 }

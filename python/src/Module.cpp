@@ -29,4 +29,7 @@ PYBIND11_MODULE(_velkor, module) {
     declareDictionaries(module, model);
     declareJudgement(module, model);
     declarePropertySets(module);
+    declareIdentifiers(module, model);
+    declareConversion(module, model);
+    declareColumns(module, model);
 }

@@ -1,6 +1,7 @@
 /// A model that Python objects share: it is closed when the last of them goes.
 #pragma once
 
+#include "ProgressCall.h"
 #include "velkor/sdai/Model.h"
 
 #include <memory>
@@ -16,6 +17,7 @@ class ModelLock {
 public:
     explicit ModelLock(std::recursive_mutex& mutex) : _lock(mutex, std::try_to_lock) {
         if (_lock.owns_lock()) return;
+        requireNoCall();
         const pybind11::gil_scoped_release released;
         _lock.lock();
     }
@@ -39,6 +41,7 @@ public:
     /// Long work on the model: other Python threads run meanwhile, but none reads this model.
     template <class Work>
     auto work(Work work) const {
+        requireNoCall();
         const pybind11::gil_scoped_release released;
         const std::lock_guard guard(_mutex);
         return work(*_model);

@@ -25,16 +25,24 @@ void warn(const std::vector<std::string>& messages);
 /// Does work with the services set up, other Python threads running meanwhile.
 template <class Work>
 auto withServices(const std::string& configurationPath, Work work) {
+    requireNoCall();
     std::vector<std::string> messages;
-    auto answer = [&] {
+    const auto inSetup = [&] {
         const pybind11::gil_scoped_release released;
         const std::lock_guard lock(servicesMutex());
         const PlatformSetup setup(configurationOf(configurationPath),
                                   [&](const std::string& message) { messages.push_back(message); });
         return work(setup);
-    }();
-    warn(messages);
-    return answer;
+    };
+    try {
+        auto answer = inSetup();
+        warn(messages);
+        return answer;
+    } catch (const Failure&) {
+        // They say why.
+        warn(messages);
+        throw;
+    }
 }
 
 } // namespace velkor::python

@@ -46,9 +46,9 @@ def test_stubs_have_every_parameter_and_default():
         count += 1
         signature = function.__doc__.splitlines()[0]
         shown = [one for one in re.findall(r"[(,] ?(\w+): ", signature) if one not in ("self", "arg0")]
-        assert shown == [one.arg for one in stub.args.args if one.arg != "self"], signature
-        defaults = [ast.unparse(one) for one in stub.args.defaults]
-        assert re.findall(r" = ('.*?'|\[.*?\]|[\w.]+)[,)]", signature) == defaults, signature
+        assert shown == [one.arg for one in [*stub.args.args, *stub.args.kwonlyargs] if one.arg != "self"], signature
+        defaults = [ast.unparse(one) for one in [*stub.args.defaults, *stub.args.kw_defaults]]
+        assert re.findall(r" = ('.*?'|\[.*?\]|\{.*?\}|[\w.]+)[,)]", signature) == defaults, signature
     assert count > 10
 
 
