@@ -5,8 +5,8 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
 # To build and run.
-build_packages=(g++ cmake ninja-build libutf8proc-dev libxxhash-dev libxml2-dev libexpected-dev libcli11-dev
-  nlohmann-json3-dev libssl-dev pkg-config python3-dev pybind11-dev)
+build_packages=(g++ cmake ninja-build libutf8proc-dev libxxhash-dev libxml2-dev zlib1g-dev libzip-dev libexpected-dev
+  libcli11-dev nlohmann-json3-dev libssl-dev pkg-config python3-dev pybind11-dev)
 # To test as well.
 test_packages=(libgtest-dev libgmock-dev clang-format binutils dpkg-dev git python3 groff-base zsh fish libxml2-utils
   python3-distributed python3-pandas python3-numpy python3-pytest python3-mypy)

@@ -10,6 +10,7 @@ nothing else is left beside them.
 
 import argparse
 import concurrent.futures
+import gzip
 import os
 import re
 import shutil
@@ -17,6 +18,7 @@ import signal
 import subprocess
 import sys
 import tempfile
+import zipfile
 
 SECONDS = 10
 MAPPED = 2 << 20  # a model of this size is mapped, not read
@@ -60,6 +62,7 @@ MODEL_COMMANDS = [
     ['classify', 'model.ifc', '--format', 'csv'], ['guid', 'check', 'model.ifc'], ['units', 'model.ifc'],
     ['units', 'model.ifc', '--format', 'json'],
 ]
+ARCHIVE_COMMANDS = [['units', 'model.ifczip'], ['units', 'model.gz']]
 VERSION_MAPPING = ['map', 'version', '--from', '2x3', '--to', '4', 'IfcActionRequest', 'RequestID']
 CUSTOM_MAPPING = ['map', 'custom', 'Pset_WallCommon', 'FireRating', '--scope', 'Wall_Import']
 PLM_MAPPING = ['map', 'plm', 'Wall', 'V_Fire']
@@ -69,6 +72,8 @@ CONVERT_COMMANDS = [
      '--report', 'out.json'],
     ['convert', 'model.ifc', '-o', 'out.ifc', '--to', '4', '--custom-mapping', 'import', '--plm-attributes'],
     ['convert', 'model.ifc', '-o', '-', '--to', '4'],
+    ['convert', 'model.gz', '-o', 'out.ifczip', '--length-unit', 'METRE'],
+    ['convert', 'model.ifczip', '-o', 'out.gz', '--to', '4'],
 ]
 OTHER_COMMANDS = [
     ['--version'], ['map', '--help'], ['rapport'], ['report'], ['report', 'missing.ifc'],
@@ -93,7 +98,9 @@ JSON_TREES = [words for words in MODEL_COMMANDS + CONVERT_COMMANDS + OTHER_COMMA
               or words[0] == 'guid' and words[1] != 'check']
 # Which commands read a kind of input.
 INPUTS = {
-    'model.ifc': MODEL_COMMANDS[::2] + CONVERT_COMMANDS[::2],
+    'model.ifc': MODEL_COMMANDS[::2] + CONVERT_COMMANDS[:4:2],
+    'model.ifczip': ARCHIVE_COMMANDS[:1],
+    'model.gz': ARCHIVE_COMMANDS[1:],
     'velkor.json': [['options']],
     'standard/ifc/VersionMapping.xml': [VERSION_MAPPING],
     'standard/ifcCustomMapping/CustomMapping.xml': [CUSTOM_MAPPING],
@@ -199,7 +206,11 @@ def prepare(folder, tools):
         with open(source, 'rb') as file:
             write(os.path.join(folder, SETS, name), file.read())
     with open(tools.model, 'rb') as file:
-        write(os.path.join(folder, 'model.ifc'), file.read())
+        text = file.read()
+    write(os.path.join(folder, 'model.ifc'), text)
+    write(os.path.join(folder, 'model.gz'), gzip.compress(text))
+    with zipfile.ZipFile(os.path.join(folder, 'model.ifczip'), 'w', zipfile.ZIP_DEFLATED) as archive:
+        archive.writestr('model.ifc', text)
     write(os.path.join(folder, 'velkor.json'), CONFIGURATION.encode())
     write(os.path.join(folder, 'words.txt'), b'DOOR-0815\n')
 
@@ -321,7 +332,7 @@ def jobs(tools):
     yield failing_load, (['--version'],)
     for words in MODEL_COMMANDS + CONVERT_COMMANDS[:3]:
         yield truncated_mapping, (words,)
-    for words in MODEL_COMMANDS + CONVERT_COMMANDS + OTHER_COMMANDS:
+    for words in MODEL_COMMANDS + ARCHIVE_COMMANDS + CONVERT_COMMANDS + OTHER_COMMANDS:
         yield failing_allocations, (words,)
         yield failing_reads, (words,)
         yield failing_writes, (words,)

@@ -34,7 +34,7 @@ TEST(Program, VersionNamesLibrariesCompilerAndBuildAsJson) {
         shell("velkor --version --format json | python3 -c 'import json, sys; v = json.load(sys.stdin); "
               "print(v[\"version\"], *(l[\"name\"] for l in v[\"libraries\"]), v[\"compiler\"][\"name\"], \"type\" in "
               "v[\"build\"])'");
-    EXPECT_THAT(version.text, MatchesRegex("[0-9.]+ libxml2 utf8proc xxhash (gcc|clang) True\n"));
+    EXPECT_THAT(version.text, MatchesRegex("[0-9.]+ libxml2 utf8proc zlib libzip xxhash (gcc|clang) True\n"));
     EXPECT_EQ(shell("velkor --format json 2>/dev/null").status, 2);
 }
 

@@ -33,7 +33,7 @@ PACKAGES = {
          "usr/share/velkor/standard"],
         r"usr/bin/velkor$|usr/share/man/man1/velkor[a-z-]*\.1\.gz$|usr/share/(bash-completion|zsh|fish|velkor)/"),
     f"libvelkor{MAJOR}": (
-        {"libc6", "libstdc++6", "libutf8proc2", "libxml2"}, {"velkor", "libvelkor-dev", f"libvelkor{MAJOR}"},
+        {"libc6", "libstdc++6", "libutf8proc2", "libxml2", "libzip4", "zlib1g"}, {"velkor", "libvelkor-dev", f"libvelkor{MAJOR}"},
         [f"{LIB}/lib{library}.so.{version}" for library in LIBRARIES for version in (MAJOR, VERSION)],
         rf"{LIB}/lib[a-z]+\.so\.[\d.]+$|usr/share/lintian/overrides/"),
     "libvelkor-dev": (

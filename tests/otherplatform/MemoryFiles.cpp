@@ -89,6 +89,20 @@ tl::expected<InputFile, OpenError> InputFile::open(const std::string& path) {
     return file;
 }
 
+tl::expected<InputFile, OpenError> InputFile::over(int descriptor) {
+    std::string bytes(64 << 10, '\0');
+    std::size_t size = 0;
+    for (ssize_t count = 1; count != 0; size += static_cast<std::size_t>(count)) {
+        if (size == bytes.size()) bytes.resize(2 * size);
+        count = ::read(descriptor, bytes.data() + size, bytes.size() - size);
+        if (count < 0) return tl::unexpected(systemError(errno));
+    }
+    InputFile file(otherplatform::descriptorOf(std::string_view(bytes).substr(0, size)));
+    if (file._descriptor < 0) return tl::unexpected(systemError(errno));
+    file._size = size;
+    return file;
+}
+
 InputFile::InputFile(InputFile&& other) noexcept
     : _descriptor(std::exchange(other._descriptor, -1)), _size(other._size) {}
 

@@ -124,7 +124,7 @@ void tellDefinitions(CommandContext& context, const PropertySetCheck& sets, cons
 void writeResult(CommandContext& context, const FileCheck& check) {
     const ModelCheckResult& result = check.result;
     if (!context.json()) return writeText(context, check);
-    writeModelJson(context, {{"file", check.file},
+    writeModelJson(context, {{"file", check.path},
                              {"release", textOrNull(check.release)},
                              {"total", result.total},
                              {"problems", brokenRulesJson(check)},

@@ -96,7 +96,7 @@ Json resultJson(const sdai::Model& model, const Result& result, std::size_t limi
                             {"entry", entryJson(decision.entry)},
                             {"reason", textOrNull(decision.reason)}});
     });
-    return {{"file", model.file().name()},
+    return {{"file", model.file().path()},
             {"release", model.schema().name()},
             {"document", result.documentPath},
             {"total", classification.products.size()},

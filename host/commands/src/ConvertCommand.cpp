@@ -6,6 +6,7 @@
 #include "ReleaseName.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/exchange/Conversion.h"
+#include "velkor/files/Packing.h"
 #include "velkor/text/Unicode.h"
 #include "velkor/text/Wording.h"
 
@@ -208,32 +209,33 @@ public:
     /// False after saying which of them cannot be begun.
     bool begin() {
         if (_files.isOutputStream())
-            _model.emplace(files::OutputFile::onto(STDOUT_FILENO));
+            _model.emplace(files::ModelOutput::onto(STDOUT_FILENO));
         else if (!begin(_model, _files.output.empty() ? "/dev/null" : _files.output))
             return false;
         return begin(_report, _files.report) && begin(_guidMap, _files.guidMap);
     }
-    files::OutputFile& model() { return *_model; }
+    files::OutputFile& model() { return _model->text(); }
     /// All of them or none: what is likely to fail is done for each before the first is put in its place.
     bool commit(const std::string& report, const std::string& guidMap) {
         if (_report) _report->write(report);
         if (_guidMap) _guidMap->write(guidMap);
         using Done = tl::expected<void, files::OpenError>;
-        return each([](files::OutputFile& file) -> Done { return file.flush(); }) &&
-               each([](files::OutputFile& file) -> Done { return file.commit(); });
+        return each([](auto& file) -> Done { return file.flush(); }) &&
+               each([](auto& file) -> Done { return file.commit(); });
     }
 
 private:
-    bool begin(std::optional<files::OutputFile>& file, const std::string& path) {
+    template <class File>
+    bool begin(std::optional<File>& file, const std::string& path) {
         if (path.empty()) return true;
-        auto created = files::OutputFile::create(QORUnicodeString(std::string_view(path)));
+        auto created = File::create(QORUnicodeString(std::string_view(path)));
         if (!created) return fail(path, created.error());
         file.emplace(std::move(*created));
         return true;
     }
     template <class Step>
     bool each(Step step) {
-        const auto take = [&](std::optional<files::OutputFile>& file, const std::string& path) {
+        const auto take = [&](auto& file, const std::string& path) {
             if (!file) return true;
             const auto done = step(*file);
             return done || fail(path, done.error());
@@ -247,7 +249,8 @@ private:
 
     CommandContext& _context;
     const Files& _files;
-    std::optional<files::OutputFile> _model, _report, _guidMap;
+    std::optional<files::ModelOutput> _model;
+    std::optional<files::OutputFile> _report, _guidMap;
 };
 
 std::string jsonText(const Json& json) {
@@ -352,8 +355,8 @@ void addConvertCommand(const Command& app, CommandContext& context) {
     arguments->models.addTo(command, false);
     command
         .addOption("-o,--output", arguments->output,
-                   "The result; - for standard output. MODEL itself may be named. Of several models a folder, where "
-                   "each keeps its name")
+                   "The result, compressed when its name ends with .ifczip, .zip or .gz; - for standard output. MODEL "
+                   "itself may be named. Of several models a folder, where each keeps its name")
         .valueName("FILE");
     addSteps(command, *arguments);
     command.addFlag("--dry-run", arguments->dryRun, "Write no result, and say what would become of the model");

@@ -108,7 +108,7 @@ void checkIdentifiers(CommandContext& context, std::size_t limit, const ModelInp
     context.status = check.result.total == 0 ? Done : Findings;
     facts = {{"identifiers", check.count}, {"problems", check.result.total}};
     if (!context.json()) return writeText(context, model->file().name(), check);
-    writeModelJson(context, {{"file", model->file().name()},
+    writeModelJson(context, {{"file", model->file().path()},
                              {"release", model->schema().name()},
                              {"identifiers", check.count},
                              {"total", check.result.total},

@@ -50,7 +50,7 @@ void runUnits(CommandContext& context, const ModelInput& input) {
     if (!model) return;
     const UnitReport report = unitReport(*model);
     if (!context.json()) return writeText(context.out, *model, report);
-    Json json{{"file", model->file().name()}, {"release", model->schema().name()}};
+    Json json{{"file", model->file().path()}, {"release", model->schema().name()}};
     json.update(unitReportJson(report));
     writeModelJson(context, json);
 }

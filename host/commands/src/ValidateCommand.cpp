@@ -89,7 +89,7 @@ Json summaryJson(const SetSummary& summary) {
 }
 
 Json resultJson(const sdai::Model& model, const PropertySetCheck& check) {
-    Json json{{"file", model.file().name()}, {"release", model.schema().name()}};
+    Json json{{"file", model.file().path()}, {"release", model.schema().name()}};
     json.update(coverageJson(check));
     Json findings = Json::array(), summaries = Json::array();
     for (const SetFinding& finding : check.findings) findings.push_back(findingJson(finding));

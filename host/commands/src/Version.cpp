@@ -8,6 +8,8 @@
 #include <sstream>
 #include <utf8proc.h>
 #include <xxhash.h>
+#include <zip.h>
+#include <zlib.h>
 
 namespace velkor::host {
 
@@ -27,7 +29,8 @@ Json library(const char* name, const std::string& version, bool isShared) {
 // A shared one says itself which it is: it may be newer than what the program was built with.
 Json libraries() {
     return Json::array({library("libxml2", dotted(xmlParserVersion), true),
-                        library("utf8proc", utf8proc_version(), true),
+                        library("utf8proc", utf8proc_version(), true), library("zlib", zlibVersion(), true),
+                        library("libzip", zip_libzip_version(), true),
                         library("xxhash", dotted(std::to_string(XXH_VERSION_NUMBER)), false)});
 }
 

@@ -95,7 +95,7 @@ Json classificationJson(const Report& report) {
 
 Json reportJson(const Report& report) {
     const ModelFacts& facts = report.facts;
-    return {{"file", {{"path", facts.path}, {"bytes", facts.bytes}}},
+    return {{"file", {{"path", facts.path}, {"bytes", facts.bytes}, {"member", textOrNull(facts.member)}}},
             {"release", {{"dictionary", facts.release}, {"file_schema", facts.fileSchemas}}},
             {"header", headerJson(facts)},
             {"project", projectJson(facts)},

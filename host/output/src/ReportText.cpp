@@ -70,12 +70,14 @@ std::string headline(const Report& report) {
 }
 
 Entries fileEntries(const ModelFacts& facts) {
-    Entries entries{{"Path", facts.path},
-                    {"Size", sizeText(facts.bytes)},
+    Entries entries{{"Path", facts.path}};
+    if (!facts.member.empty()) entries.emplace_back("In archive", facts.member);
+    entries.insert(entries.end(),
+                   {{"Size", sizeText(facts.bytes)},
                     {"Release", facts.isReleaseAsWritten ? facts.release
                                                          : facts.release + ", read from FILE_SCHEMA " +
                                                                text::quoted(joined(facts.fileSchemas, "\", \""))},
-                    {"Model view", joined(facts.views)}};
+                    {"Model view", joined(facts.views)}});
     if (!facts.descriptions.empty()) entries.emplace_back("Description", joined(facts.descriptions, "; "));
     entries.emplace_back("Name in header", facts.header.name);
     entries.emplace_back("Time stamp", facts.header.timeStamp);

@@ -103,7 +103,7 @@ tl::expected<FileCheck, files::OpenError> checkFile(const std::string& path, con
 
 tl::expected<FileCheck, files::OpenError> checkFile(std::unique_ptr<sdai::Part21File> file,
                                                     const ModelCheckOptions& options) {
-    FileCheck check{file->name(), {}, {}};
+    FileCheck check{file->name(), file->path(), {}, {}};
     const bool isStructureAlone = options.scope == CheckScope::Structure;
     const auto schemaProblem = isStructureAlone ? std::nullopt : sdai::Model::schemaProblem(*file);
     if (isStructureAlone || schemaProblem) {

@@ -83,7 +83,8 @@ std::string_view viewDefinition(std::string_view entry) {
 
 ModelFacts modelFacts(const sdai::Model& model) {
     ModelFacts facts;
-    facts.path = model.file().name();
+    facts.path = model.file().path();
+    facts.member = model.file().member();
     facts.bytes = model.file().text().size();
     facts.release = model.schema().name();
     facts.fileSchemas = model.header().schemas;

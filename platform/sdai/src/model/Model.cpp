@@ -51,6 +51,11 @@ tl::expected<std::unique_ptr<Model>, files::OpenError> Model::open(const std::st
     return Part21File::open(path, ScanPath::Automatic, access).and_then(over);
 }
 
+tl::expected<std::unique_ptr<Model>, files::OpenError> Model::fromDescriptor(int descriptor, std::string name,
+                                                                             Part21File::Access access) {
+    return Part21File::fromDescriptor(descriptor, std::move(name), ScanPath::Automatic, access).and_then(over);
+}
+
 tl::expected<std::unique_ptr<Model>, files::OpenError> Model::fromText(std::string_view text, std::string name) {
     return Part21File::fromText(text, std::move(name)).and_then(over);
 }

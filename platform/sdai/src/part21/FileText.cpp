@@ -13,12 +13,10 @@ constexpr std::uint64_t window = 4 << 20;
 
 } // namespace
 
-tl::expected<FileText, files::OpenError> FileText::open(const std::string& path, Part21File::Access access) {
-    auto file = files::InputFile::open(path);
-    if (!file) return tl::unexpected(std::move(file.error()));
-    if (file->size() == 0) return FileText();
-    const bool isMapped = access == Part21File::Access::Mapped && file->size() >= Part21File::mappedFrom;
-    return isMapped ? map(*file) : read(*file);
+tl::expected<FileText, files::OpenError> FileText::of(files::InputFile file, Part21File::Access access) {
+    if (file.size() == 0) return FileText();
+    const bool isMapped = access == Part21File::Access::Mapped && file.size() >= Part21File::mappedFrom;
+    return isMapped ? map(file) : read(file);
 }
 
 // The mapping outlives the open file.
@@ -45,6 +43,9 @@ tl::expected<FileText, files::OpenError> FileText::read(files::InputFile& file) 
     return text;
 }
 
+FileText::FileText(files::UnpackedModel model) noexcept
+    : _data(model.text().data()), _size(model.text().size()), _unpacked(std::move(model)) {}
+
 FileText::FileText(FileText&& other) noexcept {
     *this = std::move(other);
 }
@@ -53,16 +54,17 @@ FileText& FileText::operator=(FileText&& other) noexcept {
     std::swap(_data, other._data);
     std::swap(_size, other._size);
     std::swap(_read, other._read);
+    std::swap(_unpacked, other._unpacked);
     std::swap(_prepared, other._prepared);
     return *this;
 }
 
 FileText::~FileText() {
-    if (_data != nullptr && !_read) munmap(const_cast<char*>(_data), _size);
+    if (isMapped()) munmap(const_cast<char*>(_data), _size);
 }
 
 void FileText::expectReading(std::uint64_t position) noexcept {
-    if (_read || position < _prepared) return;
+    if (!isMapped() || position < _prepared) return;
     const std::uint64_t from = position / window * window;
     _prepared = from + window;
 #ifdef MADV_POPULATE_READ

@@ -3,6 +3,7 @@
 #include "FileText.h"
 #include "Separators.h"
 #include "StructureReader.h"
+#include "velkor/files/Packing.h"
 #include "velkor/text/Printable.h"
 
 #include <algorithm>
@@ -13,11 +14,17 @@ namespace velkor::sdai {
 using namespace part21;
 
 struct Part21File::State {
-    State(FileText file_, std::string_view text, std::string name_)
-        : file(std::move(file_)), structure(text), name(std::move(name_)) {}
+    State(FileText file_, std::string_view text, std::string path_)
+        : file(std::move(file_)), structure(text), path(std::move(path_)),
+          name(file.member().empty() ? path : path + ": " + file.member()) {}
+
+    /// The same over what the text holds when that is packed.
+    static tl::expected<std::unique_ptr<State>, files::OpenError> of(FileText file, std::string_view text,
+                                                                     std::string path);
 
     FileText file;
     Structure structure;
+    std::string path;
     std::string name;
 };
 
@@ -39,8 +46,8 @@ std::string foreignFormat(std::string_view text) {
     };
     using namespace std::string_view_literals;
     static constexpr std::array<Format, 6> formats{{
-        {"PK\x03\x04"sv, "a ZIP archive, to be unpacked first"sv},
-        {"\x1F\x8B"sv, "a gzip archive, to be unpacked first"sv},
+        {"PK\x03\x04"sv, "a ZIP archive in another archive"sv},
+        {"\x1F\x8B"sv, "a gzip file in another archive"sv},
         {"<"sv, "XML"sv},
         {"{"sv, "JSON"sv},
         {"\xFF\xFE"sv, "text in UTF-16"sv},
@@ -65,21 +72,48 @@ std::string foreignFormat(std::string_view text) {
 
 } // namespace
 
+tl::expected<std::unique_ptr<Part21File::State>, files::OpenError>
+Part21File::State::of(FileText file, std::string_view text, std::string path) {
+    if (files::packingOf(text) == files::Packing::None)
+        return std::make_unique<State>(std::move(file), text, std::move(path));
+    auto model = files::unpackModel(text);
+    if (!model) return failure(model.error().code, path, model.error().message);
+    FileText unpacked(std::move(*model));
+    const std::string_view inside = unpacked.text();
+    return std::make_unique<State>(std::move(unpacked), inside, std::move(path));
+}
+
 Part21File::Part21File(std::unique_ptr<State> state) : _state(std::move(state)) {}
 Part21File::~Part21File() = default;
 
 tl::expected<std::unique_ptr<Part21File>, files::OpenError> Part21File::open(const std::string& path, ScanPath scanPath,
                                                                              Access access) {
-    auto file = FileText::open(path, access);
-    if (!file) return failure(file.error().code, path, "cannot be read: " + file.error().message);
-    if (file->text().empty()) return failure(Code::Empty, path, "is empty, " + std::string(expected));
-    const std::string_view text = file->text();
-    return read(std::make_unique<State>(std::move(*file), text, path), scanPath);
+    return over(files::InputFile::open(path), path, scanPath, access);
+}
+
+tl::expected<std::unique_ptr<Part21File>, files::OpenError>
+Part21File::fromDescriptor(int descriptor, std::string name, ScanPath scanPath, Access access) {
+    return over(files::InputFile::over(descriptor), std::move(name), scanPath, access);
 }
 
 tl::expected<std::unique_ptr<Part21File>, files::OpenError> Part21File::fromText(std::string_view text,
                                                                                  std::string name, ScanPath scanPath) {
-    return read(std::make_unique<State>(FileText(), text, std::move(name)), scanPath);
+    return State::of(FileText(), text, std::move(name)).and_then([scanPath](std::unique_ptr<State> state) {
+        return read(std::move(state), scanPath);
+    });
+}
+
+tl::expected<std::unique_ptr<Part21File>, files::OpenError>
+Part21File::over(tl::expected<files::InputFile, files::OpenError> input, std::string name, ScanPath scanPath,
+                 Access access) {
+    auto file = std::move(input).and_then(
+        [access](files::InputFile opened) { return FileText::of(std::move(opened), access); });
+    if (!file) return failure(file.error().code, name, "cannot be read: " + file.error().message);
+    if (file->text().empty()) return failure(Code::Empty, name, "is empty, " + std::string(expected));
+    const std::string_view text = file->text();
+    return State::of(std::move(*file), text, std::move(name)).and_then([scanPath](std::unique_ptr<State> state) {
+        return read(std::move(state), scanPath);
+    });
 }
 
 tl::expected<std::unique_ptr<Part21File>, files::OpenError> Part21File::read(std::unique_ptr<State> state,
@@ -106,6 +140,12 @@ tl::expected<std::unique_ptr<Part21File>, files::OpenError> Part21File::read(std
 
 const std::string& Part21File::name() const noexcept {
     return _state->name;
+}
+const std::string& Part21File::path() const noexcept {
+    return _state->path;
+}
+const std::string& Part21File::member() const noexcept {
+    return _state->file.member();
 }
 std::string_view Part21File::text() const noexcept {
     return _state->structure.text;

@@ -28,7 +28,11 @@ public:
     /// file's is none of them.
     static tl::expected<std::unique_ptr<Model>, files::OpenError>
     open(const std::string& path, Part21File::Access access = Part21File::Access::Mapped);
-    /// The same over text that the caller keeps alive; `name` stands for the file in messages.
+    /// The same over what is open already and stays the caller's, standard input for example, as
+    /// Part21File::fromDescriptor takes it; `name` stands for the file in messages.
+    static tl::expected<std::unique_ptr<Model>, files::OpenError>
+    fromDescriptor(int descriptor, std::string name, Part21File::Access access = Part21File::Access::Mapped);
+    /// The same over bytes that the caller keeps alive.
     static tl::expected<std::unique_ptr<Model>, files::OpenError> fromText(std::string_view text, std::string name);
     /// The same over a file that is open already.
     static tl::expected<std::unique_ptr<Model>, files::OpenError> over(std::unique_ptr<Part21File> file);

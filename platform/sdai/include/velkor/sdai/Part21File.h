@@ -10,6 +10,7 @@
 /// usable.
 #pragma once
 
+#include "velkor/files/InputFile.h"
 #include "velkor/files/OpenError.h"
 #include "velkor/PlatformExport.h"
 #include "velkor/sdai/Problem.h"
@@ -57,20 +58,30 @@ public:
     /// Files with fewer bytes are read in any case.
     static constexpr std::size_t mappedFrom = 1 << 20;
 
-    /// Indexes a file. The message of an error names the file and says why it cannot be read as an exchange
-    /// structure at all.
+    /// Indexes a file. One that holds a ZIP archive or a gzip file, whatever its name, is unpacked into memory within
+    /// the bounds of files::unpackModel; lines and offsets count in the model's text, and name() is
+    /// "house.ifczip: house.ifc" then. The message of an error names the file and says why
+    /// it cannot be read as an exchange structure at all.
     static tl::expected<std::unique_ptr<Part21File>, files::OpenError>
     open(const std::string& path, ScanPath scanPath = ScanPath::Automatic, Access access = Access::Mapped);
-    /// The same over text that the caller keeps alive; `name` stands for the file in messages.
+    /// The same over what is open already and stays the caller's: a regular file from its beginning, wherever it
+    /// is read just now, or a pipe to its end. `name` stands for the file in messages.
+    static tl::expected<std::unique_ptr<Part21File>, files::OpenError>
+    fromDescriptor(int descriptor, std::string name, ScanPath scanPath = ScanPath::Automatic,
+                   Access access = Access::Mapped);
+    /// The same over bytes that the caller keeps alive.
     static tl::expected<std::unique_ptr<Part21File>, files::OpenError>
     fromText(std::string_view text, std::string name, ScanPath scanPath = ScanPath::Automatic);
     ~Part21File();
     Part21File(const Part21File&) = delete;
     Part21File& operator=(const Part21File&) = delete;
 
-    const std::string& name() const noexcept;  ///< The name that it was opened by.
-    std::string_view text() const noexcept;    ///< All bytes of the file.
-    const FileHeader& header() const noexcept; ///< What the header section says.
+    /// The file as messages name it: path(), and behind ": " the member() of an archive.
+    const std::string& name() const noexcept;
+    const std::string& path() const noexcept;   ///< That it was opened by, or the name that was given for one.
+    const std::string& member() const noexcept; ///< Name of the text in a ZIP archive; empty for others.
+    std::string_view text() const noexcept;     ///< All bytes of the file.
+    const FileHeader& header() const noexcept;  ///< What the header section says.
     /// Sections of data; a DATA section may name its own schema (edition 2).
     struct DataSection {
         std::uint32_t firstInstance;
@@ -108,6 +119,8 @@ public:
 private:
     struct State;
     VELKOR_PLATFORM_LOCAL explicit Part21File(std::unique_ptr<State> state);
+    VELKOR_PLATFORM_LOCAL static tl::expected<std::unique_ptr<Part21File>, files::OpenError>
+    over(tl::expected<files::InputFile, files::OpenError> input, std::string name, ScanPath scanPath, Access access);
     VELKOR_PLATFORM_LOCAL static tl::expected<std::unique_ptr<Part21File>, files::OpenError>
     read(std::unique_ptr<State> state, ScanPath path);
     std::unique_ptr<State> _state;

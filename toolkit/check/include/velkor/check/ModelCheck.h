@@ -65,7 +65,8 @@ VELKOR_TOOLKIT_API ModelCheckResult checkModel(const sdai::Model& model, const M
 
 /// A file, and what is wrong in it.
 struct FileCheck {
-    std::string file;
+    /// As messages name it, with the member of an archive; the path alone.
+    std::string file, path;
     /// Of the dictionary that the instances were judged by; empty when they were not.
     std::string release;
     ModelCheckResult result;

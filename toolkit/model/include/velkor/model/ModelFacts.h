@@ -34,6 +34,8 @@ struct ContentCount {
 
 struct ModelFacts {
     std::string path;
+    /// The name that the model has in the archive; empty for none.
+    std::string member;
     std::uint64_t bytes = 0;
     /// The dictionary used, and the names in FILE_SCHEMA when they are other than that.
     std::string release;
