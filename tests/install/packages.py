@@ -85,6 +85,7 @@ def check_binary(name, path, is_archive):
     soname = re.search(r"\(SONAME\).*\[(.*)\]", dynamic)
     if re.search(r"\.so\.", path.name):
         expect(soname and re.sub(r"(\.so\.\d+)[\d.]*$", r"\1", path.name) == soname[1], f"{path.name} is {soname}")
+    expect(str(ROOT).encode() not in path.read_bytes(), f"{name}: {path.name} names the folder of the sources")
     expect(".debug_info" not in output("readelf", "--section-headers", "--wide", path), f"{path.name} is not stripped")
     expect(".symtab" not in output("readelf", "--section-headers", "--wide", path), f"{path.name} is not stripped")
 
@@ -162,11 +163,12 @@ def check_archive(archive):
         for path in [root / "bin/velkor", *(root / "lib").rglob("*.so.*.*.*")]:
             check_binary(archive.name, path, True)
         check_texts(archive.name, [path for path in root.rglob("*") if path.is_file()])
-        for models, status in (("house-ifc2x3.ifc", 0), ("broken.ifc", 1)):
-            answer = subprocess.run([root / "bin/velkor", "report", ROOT / "examples/models" / models],
+        for command, model, status, shown in (("report", "house-ifc2x3.ifc", 0, "neutral id"),
+                                              ("check", "broken.ifc", 1, "where-rule")):
+            answer = subprocess.run([root / "bin/velkor", command, ROOT / "examples/models" / model],
                                     stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
-            expect(answer.returncode == status, f"{archive.name}: report answers {answer.stdout[-500:]}")
-            expect("neutral id" in answer.stdout, f"{archive.name}: no resource files are found")
+            expect(answer.returncode == status and shown in answer.stdout,
+                   f"{archive.name}: {command} gives {answer.returncode}: {answer.stdout[-500:]}")
 
 
 def main():
