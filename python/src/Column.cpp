@@ -94,25 +94,35 @@ bool Column::addValue(const sdai::Primitive& value, int depth) {
     switch (declared->resolved().kind()) {
     case sdai::TypeKind::Integer:
         return addWhole(value.asInteger(), [&](std::int64_t number) { addInteger(number, Kind::Integer); });
-    case sdai::TypeKind::Real: return addWhole(value.asReal(), [&](double number) { addReal(number); });
+    case sdai::TypeKind::Real:
+        return addWhole(value.asReal(), [&](double number) { addReal(number); });
     case sdai::TypeKind::Boolean:
     case sdai::TypeKind::Logical:
         return addWhole(value.asLogical(), [&](sdai::Logical logical) { addLogical(logical); });
-    case sdai::TypeKind::Select: return addSelected(value, depth);
+    case sdai::TypeKind::Select:
+        return addSelected(value, depth);
     case sdai::TypeKind::Entity: {
         const std::uint64_t id = encoded.starts_with('#') ? sdai::decodeInstanceName(encoded) : 0;
         if (id == 0 || value.asInstance() == nullptr) return false;
         addInteger(static_cast<std::int64_t>(id), Kind::Reference);
         return true;
     }
-    default: break;
+    default:
+        break;
     }
     std::string text;
     switch (declared->resolved().kind()) {
-    case sdai::TypeKind::String: text = value.asString(); break;
-    case sdai::TypeKind::Binary: text = value.asBinary(); break;
-    case sdai::TypeKind::Enumeration: text = value.asEnumeration().text(); break;
-    default: return false;
+    case sdai::TypeKind::String:
+        text = value.asString();
+        break;
+    case sdai::TypeKind::Binary:
+        text = value.asBinary();
+        break;
+    case sdai::TypeKind::Enumeration:
+        text = value.asEnumeration().text();
+        break;
+    default:
+        return false;
     }
     if (text.empty() && !encoded.starts_with('\'')) return false;
     if (takes(Kind::Text)) _codes.push_back(codeOf(text));
@@ -134,12 +144,21 @@ bool Column::addSelected(const sdai::Primitive& value, int depth) {
 
 void Column::addUnset() {
     switch (_kind) {
-    case Kind::Empty: break;
-    case Kind::Real: _reals.push_back(unsetReal); break;
+    case Kind::Empty:
+        break;
+    case Kind::Real:
+        _reals.push_back(unsetReal);
+        break;
     case Kind::Integer:
-    case Kind::Reference: _integers.push_back(0); break;
-    case Kind::Logical: _logicals.push_back(unsetLogical); break;
-    case Kind::Text: _codes.push_back(unsetCode); break;
+    case Kind::Reference:
+        _integers.push_back(0);
+        break;
+    case Kind::Logical:
+        _logicals.push_back(unsetLogical);
+        break;
+    case Kind::Text:
+        _codes.push_back(unsetCode);
+        break;
     }
     ++_valueCount;
 }
@@ -191,7 +210,7 @@ void Column::become(Kind kind) {
     }
     // An integer that is unset is told by its row alone; of lists nothing else is mixed.
     const auto isUnset = [&](std::size_t place) {
-        return _kind == Kind::Real ? _reals[place] != _reals[place]
+        return _kind == Kind::Real      ? _reals[place] != _reals[place]
                : _kind == Kind::Logical ? _logicals[place] == unsetLogical
                                         : !_isList && _valid[place] == 0;
     };
@@ -209,11 +228,16 @@ void Column::become(Kind kind) {
 
 std::string Column::written(std::size_t place) const {
     switch (_kind) {
-    case Kind::Real: return inDigits(_reals[place]);
-    case Kind::Integer: return inDigits(_integers[place]);
-    case Kind::Reference: return referenceTo(_integers[place]);
-    case Kind::Logical: return _logicals[place] == 0 ? "FALSE" : _logicals[place] == 1 ? "TRUE" : "UNKNOWN";
-    default: return {};
+    case Kind::Real:
+        return inDigits(_reals[place]);
+    case Kind::Integer:
+        return inDigits(_integers[place]);
+    case Kind::Reference:
+        return referenceTo(_integers[place]);
+    case Kind::Logical:
+        return _logicals[place] == 0 ? "FALSE" : _logicals[place] == 1 ? "TRUE" : "UNKNOWN";
+    default:
+        return {};
     }
 }
 

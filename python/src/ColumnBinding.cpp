@@ -31,44 +31,63 @@ template <class Number>
 py::buffer_info infoOf(const std::vector<Number>& numbers, const std::string& format = formatOf<Number>()) {
     // Numbers of an empty vector have no address.
     static Number none{};
-    return {const_cast<Number*>(numbers.empty() ? &none : numbers.data()), sizeof(Number), format, 1,
-            {static_cast<py::ssize_t>(numbers.size())}, {static_cast<py::ssize_t>(sizeof(Number))}, true};
+    return {const_cast<Number*>(numbers.empty() ? &none : numbers.data()),
+            sizeof(Number),
+            format,
+            1,
+            {static_cast<py::ssize_t>(numbers.size())},
+            {static_cast<py::ssize_t>(sizeof(Number))},
+            true};
 }
 
 py::buffer_info valuesOf(const Column& column) {
     switch (column.kind()) {
     case Column::Kind::Integer:
-    case Column::Kind::Reference: return infoOf(column.integers());
-    case Column::Kind::Logical: return infoOf(column.logicals());
-    case Column::Kind::Text: return infoOf(column.codes());
-    default: return infoOf(column.reals());
+    case Column::Kind::Reference:
+        return infoOf(column.integers());
+    case Column::Kind::Logical:
+        return infoOf(column.logicals());
+    case Column::Kind::Text:
+        return infoOf(column.codes());
+    default:
+        return infoOf(column.reals());
     }
 }
 
 const char* kindOf(const Column& column) {
     switch (column.kind()) {
-    case Column::Kind::Integer: return "integer";
-    case Column::Kind::Reference: return "reference";
-    case Column::Kind::Logical: return "logical";
-    case Column::Kind::Text: return "text";
-    default: return "real";
+    case Column::Kind::Integer:
+        return "integer";
+    case Column::Kind::Reference:
+        return "reference";
+    case Column::Kind::Logical:
+        return "logical";
+    case Column::Kind::Text:
+        return "text";
+    default:
+        return "real";
     }
 }
 
 const char* dtypeOf(const Column& column) {
     switch (column.kind()) {
     case Column::Kind::Integer:
-    case Column::Kind::Reference: return "int64";
-    case Column::Kind::Logical: return "int8";
-    case Column::Kind::Text: return "int32";
-    default: return "float64";
+    case Column::Kind::Reference:
+        return "int64";
+    case Column::Kind::Logical:
+        return "int8";
+    case Column::Kind::Text:
+        return "int32";
+    default:
+        return "float64";
     }
 }
 
 py::object valueAt(const Column& column, std::size_t place) {
     switch (column.kind()) {
     case Column::Kind::Integer:
-    case Column::Kind::Reference: return py::int_(column.integers()[place]);
+    case Column::Kind::Reference:
+        return py::int_(column.integers()[place]);
     case Column::Kind::Logical: {
         const std::int8_t logical = column.logicals()[place];
         if (logical < 0) return py::none();
@@ -80,7 +99,8 @@ py::object valueAt(const Column& column, std::size_t place) {
         if (code < 0) return py::none();
         return toText(column.text(static_cast<std::size_t>(code)));
     }
-    default: return py::float_(column.reals()[place]);
+    default:
+        return py::float_(column.reals()[place]);
     }
 }
 
@@ -112,9 +132,8 @@ py::dict toColumns(const OpenModel& self, const std::string& entity, const std::
                    const py::object& callable) {
     ProgressCall progress(callable);
     const sdai::EntityDefinition& definition = entityNamed(self.model().schema(), entity);
-    Columns columns = self.work([&](const sdai::Model& model) {
-        return readColumns(model, definition, attributes, progress.follower());
-    });
+    Columns columns = self.work(
+        [&](const sdai::Model& model) { return readColumns(model, definition, attributes, progress.follower()); });
     progress.raise();
     if (progress.isEnded()) throw Failure("ended", "the progress callback has ended the work", {.path = self.path()});
     py::dict answer;
@@ -124,8 +143,9 @@ py::dict toColumns(const OpenModel& self, const std::string& entity, const std::
 }
 
 void declareBuffer(py::module_& module) {
-    py::class_<Buffer>(module, "Buffer", py::buffer_protocol(),
-                       "Part of a column, for what takes buffers: numpy.asarray(…), memoryview(…). It cannot be changed.")
+    py::class_<Buffer>(
+        module, "Buffer", py::buffer_protocol(),
+        "Part of a column, for what takes buffers: numpy.asarray(…), memoryview(…). It cannot be changed.")
         .def_buffer([](Buffer& self) {
             const py::buffer_info& info = self.info;
             return py::buffer_info(info.ptr, info.itemsize, info.format, info.ndim, info.shape, info.strides, true);
@@ -146,16 +166,17 @@ void declareColumns(py::module_& module, ModelClass& model) {
         "buffer holds the values by kind; of lists those of all rows one behind the other. It cannot be changed.")
         .def_buffer([](Column& self) { return valuesOf(self); })
         .def("__len__", &Column::rowCount)
-        .def_property_readonly("kind", [](const Column& self) { return toText(kindOf(self)); },
-                               "'real': double, NaN when unset. 'integer' and 'reference' (ids): int64, 0 when unset. "
-                               "'logical': int8, 0, 1, 2 for UNKNOWN, -1 when unset. 'text': int32, places in "
-                               "categories, -1 when unset.")
-        .def_property_readonly("dtype", [](const Column& self) { return toText(dtypeOf(self)); },
-                               "The values as numpy names them: 'float64', 'int64', 'int32', 'int8'.")
+        .def_property_readonly(
+            "kind", [](const Column& self) { return toText(kindOf(self)); },
+            "'real': double, NaN when unset. 'integer' and 'reference' (ids): int64, 0 when unset. "
+            "'logical': int8, 0, 1, 2 for UNKNOWN, -1 when unset. 'text': int32, places in "
+            "categories, -1 when unset.")
+        .def_property_readonly(
+            "dtype", [](const Column& self) { return toText(dtypeOf(self)); },
+            "The values as numpy names them: 'float64', 'int64', 'int32', 'int8'.")
         .def_property_readonly("is_list", &Column::isList, "Whether each row is a list of values.")
         .def_property_readonly(
-            "valid",
-            [bufferOf](const SharedColumn& self) { return bufferOf(self, infoOf(self->valid(), "?")); },
+            "valid", [bufferOf](const SharedColumn& self) { return bufferOf(self, infoOf(self->valid(), "?")); },
             "A bool for each row: whether it is set.")
         .def_property_readonly(
             "offsets",
@@ -182,18 +203,20 @@ void declareColumns(py::module_& module, ModelClass& model) {
                                "How many values are not of their type or refer to nothing; they count as unset.")
         .def("to_list", &toList, "The rows as Python values, None for those that are unset.")
         .def("__repr__", [](const Column& self) {
-            return py::str("<velkor.Column of {} {}{}>").format(self.rowCount(), kindOf(self), self.isList() ? " lists" : "s");
+            return py::str("<velkor.Column of {} {}{}>")
+                .format(self.rowCount(), kindOf(self), self.isList() ? " lists" : "s");
         });
-    model.def("to_columns", &toColumns, py::arg("entity"), py::arg("attributes"), py::arg("progress") = py::none(),
-              "Whole columns without a Python object for each value, by the names that were asked for: a row for each "
-              "instance of the entity and its subtypes in file order.\n"
-              "attributes  -- names of attributes, which are unset where an instance has none of the name; 'Set.Property' "
-              "for single values, quantities and enumerated properties with one value, of the objects themselves or of "
-              "their types; '#id' and '#entity'\n"
-              "progress  -- as for check\n"
-              "Selected values lose the names of their types; those of different kinds become texts. Other Python threads "
-              "run meanwhile. Raises Error 'unknown-entity', 'unknown-attribute', 'unsupported' for lists of lists, "
-              "'ended'.");
+    model.def(
+        "to_columns", &toColumns, py::arg("entity"), py::arg("attributes"), py::arg("progress") = py::none(),
+        "Whole columns without a Python object for each value, by the names that were asked for: a row for each "
+        "instance of the entity and its subtypes in file order.\n"
+        "attributes  -- names of attributes, which are unset where an instance has none of the name; 'Set.Property' "
+        "for single values, quantities and enumerated properties with one value, of the objects themselves or of "
+        "their types; '#id' and '#entity'\n"
+        "progress  -- as for check\n"
+        "Selected values lose the names of their types; those of different kinds become texts. Other Python threads "
+        "run meanwhile. Raises Error 'unknown-entity', 'unknown-attribute', 'unsupported' for lists of lists, "
+        "'ended'.");
 }
 
 } // namespace velkor::python

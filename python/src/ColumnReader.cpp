@@ -77,7 +77,8 @@ private:
         bool isList = false;
         if (source.kind == Source::Kind::Attribute) {
             if (source.type == nullptr)
-                throw Failure("unknown-attribute", std::string(_entity.name()) + " has no attribute '" + source.name + "'");
+                throw Failure("unknown-attribute",
+                              std::string(_entity.name()) + " has no attribute '" + source.name + "'");
             const sdai::AggregateType* aggregate = source.type->resolved().asAggregate();
             isList = aggregate != nullptr;
             if (isList && aggregate->element().resolved().isAggregate())
@@ -93,9 +94,15 @@ private:
         for (std::size_t i = 0; i < _sources.size(); ++i) {
             const Source& source = _sources[i];
             switch (source.kind) {
-            case Source::Kind::Id: _columns[i]->addReference(instance.id()); break;
-            case Source::Kind::Entity: _columns[i]->addText(entityName(instance)); break;
-            case Source::Kind::Property: _columns[i]->addRow(properties.of(instance, source.place)); break;
+            case Source::Kind::Id:
+                _columns[i]->addReference(instance.id());
+                break;
+            case Source::Kind::Entity:
+                _columns[i]->addText(entityName(instance));
+                break;
+            case Source::Kind::Property:
+                _columns[i]->addRow(properties.of(instance, source.place));
+                break;
             case Source::Kind::Attribute:
                 if (known == _indices.end())
                     _columns[i]->addRow(instance.GetAttr(upperCase(source.name)));

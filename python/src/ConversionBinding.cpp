@@ -59,8 +59,7 @@ ConversionOptions optionsOf(const Request& request) {
     if (!request.release.empty()) {
         ReleaseOptions& release = options.release.emplace();
         release.release = releaseMeant(request.release);
-        if (release.release.empty())
-            throw Failure("schema-unknown", "there is no release '" + request.release + "'");
+        if (release.release.empty()) throw Failure("schema-unknown", "there is no release '" + request.release + "'");
         release.timeStamp = request.timeStamp;
     }
     readUnits(request, options);
@@ -100,33 +99,43 @@ FullReport convert(const OpenModel& self, const Request& request, const std::str
         return convertTo(request.path, self.model(), options, setup, progress);
     });
     progress.raise();
-    if (progress.isEnded()) throw Failure("ended", request.path + ": not written: the progress callback has ended the work");
-    if (!report) throw Failure("not-convertible", self.path() + ": cannot be converted: " + report.error(), {.path = self.path()});
+    if (progress.isEnded())
+        throw Failure("ended", request.path + ": not written: the progress callback has ended the work");
+    if (!report)
+        throw Failure("not-convertible", self.path() + ": cannot be converted: " + report.error(),
+                      {.path = self.path()});
     return std::move(*report);
 }
 
 void declareSteps(py::module_& module) {
     py::class_<Change>(module, "ConversionChange", "One thing that a step did.")
-        .def_property_readonly("instance", [](const Change& self) { return numberOrNone(self.id); },
-                               "Id in the model that was converted; None for the file as a whole.")
-        .def_property_readonly("line", [](const Change& self) { return numberOrNone(self.line); },
-                               "Where that instance stands, counted from 1, or None.")
+        .def_property_readonly(
+            "instance", [](const Change& self) { return numberOrNone(self.id); },
+            "Id in the model that was converted; None for the file as a whole.")
+        .def_property_readonly(
+            "line", [](const Change& self) { return numberOrNone(self.line); },
+            "Where that instance stands, counted from 1, or None.")
         .def_property_readonly("entity", [](const Change& self) { return toText(self.entity); })
-        .def_property_readonly("detail", [](const Change& self) { return toText(self.detail); },
-                               "What became of what: 'IFCDOORSTYLE becomes IFCDOORTYPE'.");
+        .def_property_readonly(
+            "detail", [](const Change& self) { return toText(self.detail); },
+            "What became of what: 'IFCDOORSTYLE becomes IFCDOORTYPE'.");
     py::class_<RuleUse>(module, "ConversionRule", "A rule of conversion that was followed.")
-        .def_property_readonly("name", [](const RuleUse& self) { return toText(self.rule->name); },
-                               "Short stable word: 'date-to-text'.")
-        .def_property_readonly("effect", [](const RuleUse& self) { return toText(word(self.rule->effect)); },
-                               "'converted', 'rebuilt', 'lost' or 'kept'.")
-        .def_property_readonly("what", [](const RuleUse& self) { return toText(self.rule->what); }, "What is done.")
-        .def_property_readonly("reason", [](const RuleUse& self) { return toText(self.rule->reason); },
-                               "Why it is right or why there is nothing better.")
+        .def_property_readonly(
+            "name", [](const RuleUse& self) { return toText(self.rule->name); }, "Short stable word: 'date-to-text'.")
+        .def_property_readonly(
+            "effect", [](const RuleUse& self) { return toText(word(self.rule->effect)); },
+            "'converted', 'rebuilt', 'lost' or 'kept'.")
+        .def_property_readonly(
+            "what", [](const RuleUse& self) { return toText(self.rule->what); }, "What is done.")
+        .def_property_readonly(
+            "reason", [](const RuleUse& self) { return toText(self.rule->reason); },
+            "Why it is right or why there is nothing better.")
         .def_readonly("count", &RuleUse::count, "How often it was followed.")
         .def_readonly("changes", &RuleUse::first, "The first of them in file order, no more than the limit.");
     py::class_<StepReport>(module, "ConversionStep", "What one step of a conversion did to the instances.")
-        .def_property_readonly("name", [](const StepReport& self) { return toText(self.step); },
-                               "'release', 'units', 'identifiers' or 'properties'.")
+        .def_property_readonly(
+            "name", [](const StepReport& self) { return toText(self.step); },
+            "'release', 'units', 'identifiers' or 'properties'.")
         .def_readonly("kept", &StepReport::kept, "Say in the same form what they said.")
         .def_readonly("converted", &StepReport::converted, "Say the same in another form.")
         .def_readonly("rebuilt", &StepReport::rebuilt, "Others stand in their places.")
@@ -178,7 +187,8 @@ void declareConversion(py::module_& module, ModelClass& model) {
         "configuration  -- path of a configuration file; the shipped mappings count without\n"
         "progress  -- as for check; when it ends the work nothing is written\n"
         "Other Python threads run meanwhile. Raises ValueError for units that are none, Error 'schema-unknown', "
-        "'not-convertible', 'mapping-unreadable', 'configuration-invalid', 'ended', and what writing a file fails with.");
+        "'not-convertible', 'mapping-unreadable', 'configuration-invalid', 'ended', and what writing a file fails "
+        "with.");
 }
 
 } // namespace velkor::python

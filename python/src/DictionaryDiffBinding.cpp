@@ -1,6 +1,6 @@
 #include "Bindings.h"
-#include "velkor/dictionaries/DictionaryDiff.h"
 #include "Values.h"
+#include "velkor/dictionaries/DictionaryDiff.h"
 
 namespace py = pybind11;
 
@@ -68,9 +68,9 @@ Difference differenceOf(const DictionaryDiff& diff) {
     answer.removedRules = textsOf(diff.removedRules, rule);
     answer.changedRules = changesOf(diff.changedRules);
     for (const auto& entity : diff.changedEntities)
-        answer.changedEntities.append(EntityDifference{toText(entity.name), changesOf(entity.properties),
-                                                       itemsOf(entity.addedAttributes), itemsOf(entity.removedAttributes),
-                                                       changesOf(entity.changedAttributes), entity.reordered});
+        answer.changedEntities.append(
+            EntityDifference{toText(entity.name), changesOf(entity.properties), itemsOf(entity.addedAttributes),
+                             itemsOf(entity.removedAttributes), changesOf(entity.changedAttributes), entity.reordered});
     for (const auto& type : diff.changedTypes)
         answer.changedTypes.append(TypeDifference{toText(type.name), toText(type.kind), namesOf(type.added),
                                                   namesOf(type.removed), changesOf(type.definition), type.reordered});

@@ -56,39 +56,45 @@ void declareIdentifiers(py::module_& module, ModelClass& model) {
     using Check = guid::GuidCheck;
     py::class_<Check>(module, "IdentifierCheck", "What a check of identifiers found.")
         .def_readonly("count", &Check::count, "Instances that have a GlobalId and were looked at.")
-        .def_property_readonly("findings", [](const Check& self) { return self.result.problems; },
-                               "In file order, no more than the limit.")
-        .def_property_readonly("total", [](const Check& self) { return self.result.total; }, "Their full count.")
-        .def_property_readonly("is_complete", [](const Check& self) { return self.result.isComplete; },
-                               "False when the progress callback has ended the check.");
+        .def_property_readonly(
+            "findings", [](const Check& self) { return self.result.problems; },
+            "In file order, no more than the limit.")
+        .def_property_readonly(
+            "total", [](const Check& self) { return self.result.total; }, "Their full count.")
+        .def_property_readonly(
+            "is_complete", [](const Check& self) { return self.result.isComplete; },
+            "False when the progress callback has ended the check.");
     model.def("check_identifiers", &checkIdentifiers, py::arg("limit") = defaultLimit, py::arg("progress") = py::none(),
               "Whether every GlobalId is well-formed and used once.\n"
               "limit  -- findings that are listed at most; all are counted\n"
               "progress  -- as for check\n"
               "Other Python threads run meanwhile.");
-    module.def("new_identifier",
-               [] { return made([](QORUnicodeString& text) { QORIFCExportServices::GenerateIFCGUID(text); }); },
-               "A new GlobalId of 22 characters.");
+    module.def(
+        "new_identifier",
+        [] { return made([](QORUnicodeString& text) { QORIFCExportServices::GenerateIFCGUID(text); }); },
+        "A new GlobalId of 22 characters.");
     module.def("identifier_from_plm", &fromPlm, py::arg("plm"),
                "The GlobalId that is a function of a PLM identifier, the same for ever. Raises ValueError for an empty "
                "one.");
-    module.def("identifier_fault",
-               [](const std::string& identifier) -> py::object {
-                   const auto fault = guid::faultOf(identifier);
-                   if (!fault) return py::none();
-                   return py::make_tuple(toText(fault->code), toText(fault->message));
-               },
-               py::arg("identifier"),
-               "Code and message of the first fault of a GlobalId; None when it is well-formed. Codes are 'guid-length', "
-               "'guid-character' and 'guid-first-character'.");
-    module.def("expand_identifier", [](const std::string& identifier) { return given(guid::expanded(identifier)); },
-               py::arg("identifier"),
-               "A GlobalId as hexadecimal text of 36 characters in lower case. Raises ValueError for one that is not "
-               "well-formed.");
-    module.def("compress_identifier", [](const std::string& text) { return given(guid::compressed(text)); },
-               py::arg("text"),
-               "Hexadecimal text, in any letter case and with or without braces, as a GlobalId. Raises ValueError for "
-               "text that is none.");
+    module.def(
+        "identifier_fault",
+        [](const std::string& identifier) -> py::object {
+            const auto fault = guid::faultOf(identifier);
+            if (!fault) return py::none();
+            return py::make_tuple(toText(fault->code), toText(fault->message));
+        },
+        py::arg("identifier"),
+        "Code and message of the first fault of a GlobalId; None when it is well-formed. Codes are 'guid-length', "
+        "'guid-character' and 'guid-first-character'.");
+    module.def(
+        "expand_identifier", [](const std::string& identifier) { return given(guid::expanded(identifier)); },
+        py::arg("identifier"),
+        "A GlobalId as hexadecimal text of 36 characters in lower case. Raises ValueError for one that is not "
+        "well-formed.");
+    module.def(
+        "compress_identifier", [](const std::string& text) { return given(guid::compressed(text)); }, py::arg("text"),
+        "Hexadecimal text, in any letter case and with or without braces, as a GlobalId. Raises ValueError for "
+        "text that is none.");
 }
 
 } // namespace velkor::python

@@ -16,8 +16,9 @@
 
 namespace velkor::python {
 
-/// The callable gets what is done, how much of it and of how much, at most twenty times a second and at the begin and end
-/// of each piece of work. The work ends when it answers False, when it raises, and when a signal does, as Ctrl-C does.
+/// The callable gets what is done, how much of it and of how much, at most twenty times a second and at the begin and
+/// end of each piece of work. The work ends when it answers False, when it raises, and when a signal does, as Ctrl-C
+/// does.
 class ProgressCall {
 public:
     /// None for work that only signals may end.

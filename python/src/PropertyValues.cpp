@@ -40,7 +40,8 @@ PropertyValues::PropertyValues(const sdai::Model& model, const std::vector<Name>
     for (const std::uint32_t number : model.numbersOf("IFCTYPEOBJECT")) {
         const DXSdaiAppInstance* type = model.instanceAt(number);
         eachInstance(type->GetAttr("HASPROPERTYSETS").asAggregate(), [&](const DXSdaiAppInstance* set) {
-            if (const Values& values = valuesOf(set); !values.empty()) _ofHolder[type].insert(values.begin(), values.end());
+            if (const Values& values = valuesOf(set); !values.empty())
+                _ofHolder[type].insert(values.begin(), values.end());
         });
     }
     for (const std::uint32_t number : model.numbersOf("IFCRELDEFINESBYPROPERTIES")) {
