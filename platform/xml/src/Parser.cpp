@@ -30,6 +30,8 @@ constexpr std::size_t attributeSize = sizeof(xmlAttr) + sizeof(xmlNode);
 constexpr int maximumDeclarations = 10000;
 /// Bytes of an entity that has markup.
 constexpr int longestMarkup = 64 << 10;
+/// Bytes of a text: libxml2 takes no more, and would tell that it lacks memory.
+constexpr int longestText = 10'000'000;
 
 class Parse {
 public:
@@ -65,6 +67,15 @@ public:
             of(context).step(context, [&] { of(context).boundElement(context, attributes, count, defaulted); });
             xmlSAX2StartElementNs(context, localName, prefix, uri, namespaceCount, namespaces, count, defaulted,
                                   attributes);
+        };
+        sax.characters = [](void* context, const xmlChar* text, int length) {
+            of(context).step(context, [&] { of(context).boundText(context, XML_TEXT_NODE, length); });
+            if (!of(context)._isStopped) xmlSAX2Characters(context, text, length);
+        };
+        sax.ignorableWhitespace = sax.characters;
+        sax.cdataBlock = [](void* context, const xmlChar* text, int length) {
+            of(context).step(context, [&] { of(context).boundText(context, XML_CDATA_SECTION_NODE, length); });
+            if (!of(context)._isStopped) xmlSAX2CDataBlock(context, text, length);
         };
     }
     ~Parse() { xmlFreeParserCtxt(_context); }
@@ -198,6 +209,15 @@ private:
             _defaults += static_cast<std::size_t>(attribute[4] - attribute[3]) + attributeSize;
         }
         if (_defaults > maximumDefaults) stop(context, "the defaults of attributes add more than 16 MB");
+    }
+
+    // What follows a node of its type is put behind that.
+    void boundText(void* context, xmlElementType type, int length) {
+        const auto& parser = *static_cast<xmlParserCtxtPtr>(context);
+        const xmlNode* last = parser.node != nullptr ? parser.node->last : nullptr;
+        const bool isContinued = last != nullptr && last->type == type && parser.nodemem != 0;
+        if (isContinued && parser.nodelen > longestText - length)
+            stop(context, "a text has more than " + std::to_string(longestText) + " bytes");
     }
 
     void boundTag() {

@@ -36,6 +36,7 @@ public:
         _capture = &capture;
         if (_context == nullptr) _context = newContext();
         _context->_private = this;
+        _knownNames = xmlDictSize(_context->dict);
         // Nothing is opened, and no tree is made.
         constexpr int options = XML_PARSE_NONET | XML_PARSE_BIG_LINES;
         // What is small is parsed as a whole: even if it were one tag, that would not be many attributes to compare.
@@ -51,9 +52,10 @@ public:
         }
         const bool isGood = _context->wellFormed != 0 && _context->nsWellFormed != 0;
         if (!isGood) note("is no XML document");
-        // The names of a document stay in the context; a large one must not leave them all.
+        // The names of a document stay in the context; neither a large one nor many must leave them all.
         constexpr std::size_t large = 1U << 20U;
-        if (capture.hasFailed() || _error || bytes.size() > large) release();
+        constexpr int many = 10'000;
+        if (capture.hasFailed() || _error || bytes.size() > large || xmlDictSize(_context->dict) > many) release();
         capture.check();
         if (_error) return tl::unexpected(std::move(*_error));
         return {};
@@ -126,7 +128,7 @@ private:
     int feed(char* buffer, int size) {
         std::size_t count = 0;
         _capture->guard([&] {
-            if (std::string excess = tagExcess(*_context); !excess.empty()) note(std::move(excess));
+            if (std::string excess = tagExcess(*_context, _knownNames); !excess.empty()) note(std::move(excess));
             if (_error || _capture->hasFailed()) return;
             count = _rest.copy(buffer, static_cast<std::size_t>(size));
             _rest.remove_prefix(count);
@@ -135,7 +137,8 @@ private:
     }
 
     void begin(const xmlChar* name, const xmlChar** attributes, int count) {
-        if (std::string excess = elementExcess(*_context, count); !excess.empty()) return refuse(std::move(excess));
+        if (std::string excess = elementExcess(*_context, count, _knownNames); !excess.empty())
+            return refuse(std::move(excess));
         _attributes.clear();
         for (int i = 0; i < count; ++i) {
             // Five pointers each: local name, prefix, namespace, begin and end of the value.
@@ -167,6 +170,8 @@ private:
     int column() const { return _context != nullptr && _context->input != nullptr ? _context->input->col : 0; }
 
     xmlParserCtxtPtr _context = nullptr;
+    // How many names the context had before the document.
+    int _knownNames = 0;
     MessageCapture* _capture = nullptr;
     XmlReceiver* _receiver = nullptr;
     std::string_view _rest;

@@ -70,6 +70,11 @@ TEST(Events, EndWhereTextIsNotWellFormedOrTooMuch) {
         for (int i = 0; i < 5000; ++i) result.append(" a").append(std::to_string(i)).append("=''");
         return result.append("/>");
     }();
+    const std::string manyNames = [] {
+        std::string result = "<a>";
+        for (int i = 0; i < 100001; ++i) result.append("<a").append(std::to_string(i)).append("/>");
+        return result;
+    }();
     for (const auto& [bytes, line, reason] : {
              std::tuple{std::string("<a>\n  <b>\n</a>"), "3", "b"},
              {"<a>\n&b;</a>", "2", "entity \"b\""},
@@ -87,6 +92,7 @@ TEST(Events, EndWhereTextIsNotWellFormedOrTooMuch) {
              {"<!DOCTYPE a [\n<!ENTITY % b SYSTEM '/etc/passwd'>%b;]><a/>", "2", "declarations"},
              {repeated("<a>", 10000), "1", "deeper than 256"},
              {manyAttributes, "1", "more than 1000 attributes"},
+             {manyNames, "1", "more than 100000 different names"},
          }) {
         const std::string message = eventsOf(parser, bytes);
         EXPECT_THAT(message, testing::AllOf(testing::StartsWith(std::string(line) + ": "), testing::HasSubstr(reason)))

@@ -144,6 +144,12 @@ TEST(Parser, BoundsWhatATextGrowsTo) {
           {"<!DOCTYPE a [<!ENTITY e \"<b" + crowded + "/>\">]><a>&e;</a>", "64 KB"},
           {unlike + "<a><b/></a>", "1000 attributes"},
           {"<!DOCTYPE a [<!ATTLIST b" + numbered(" a", " CDATA ''", 300000) + ">]><b/>", "10000 attributes"},
+          {"<a>" + numbered("<a", "/>", 200000) + "</a>", "100000 different names"},
+          {"<a>" + numbered("<a b", "=''/>", 200000) + "</a>", "100000 different names"},
+          {"<a>" + numbered("<?a", "?>", 200000) + "</a>", "100000 different names"},
+          {"<a>" + std::string(10000001, 'x') + "</a>", "more than 10000000 bytes"},
+          {"<a>" + repeated("<![CDATA[" + std::string(1000001, 'x') + "]]>", 10) + "</a>", "more than 10000000 bytes"},
+          {"<a>" + std::string(10000001, ' ') + "</a>", "more than 10000000 bytes"},
           {repeated("<a>", 100000), "deeper than 256"},
           {repeated("<a>", 257) + repeated("</a>", 257), "deeper than 256"}}) {
         const auto messages = messagesAbout(bytes);
@@ -152,6 +158,7 @@ TEST(Parser, BoundsWhatATextGrowsTo) {
     }
     EXPECT_LT(peakMegabytes() - before, 500) << "unbounded, each of them takes gigabytes";
     EXPECT_FALSE(read(repeated("<a" + numbered(" a", "='1'", 1000) + ">", 256) + repeated("</a>", 256)).IsNull());
+    EXPECT_FALSE(read("<a>" + numbered("<a", "/>", 99000) + std::string(10000000, 'x') + "</a>").IsNull());
 }
 
 TEST(Parser, ReadsFilesByEitherSeparator) {
