@@ -1,6 +1,10 @@
 #include "Matchers.h"
+#include "TemporaryFolder.h"
 #include "TestSupport.h"
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <libxml/HTMLparser.h>
 #include <libxml/parser.h>
 #include <libxml/xpath.h>
@@ -107,6 +111,53 @@ TEST(HtmlReport, StandsAloneAndIsAccessible) {
         EXPECT_THAT(page.texts("//table[not(thead//th)] | //thead//th[not(@scope='col')]"), IsEmpty());
         EXPECT_THAT(page.texts("//tbody/tr[not(th[@scope='row'])]"), IsEmpty());
     }
+}
+
+TEST(HtmlReport, AnOverviewLeadsToThePageOfEachModel) {
+    const test::TemporaryFolder folder;
+    for (const std::string name : {"a/broken.ifc", "b/broken.ifc", "b/\"<b>&.ifc", "index"}) {
+        const std::string path = folder.file("models/" + name);
+        std::filesystem::copy_file(example(name == "index" ? "house-ifc2x3.ifc" : "broken.ifc"), path,
+                                   std::filesystem::copy_options::overwrite_existing);
+    }
+    folder.file("models/junk.ifc", "junk");
+    const std::string pages = folder / "pages";
+    const std::vector<std::string> words{"report",   "-r",  folder / "models", folder / "models/index",
+                                         "--format", "html"};
+    EXPECT_EQ(runHost(words).status, BadUsage);
+    std::vector<std::string> withFolder = words;
+    withFolder.insert(withFolder.end(), {"-o", pages});
+    const Outcome outcome = runHost(withFolder, false, shippedResources);
+    EXPECT_EQ(outcome.status, Unreadable);
+    EXPECT_THAT(outcome.out, HasSubstr("5 models: 4 read, 1 unreadable; "));
+    EXPECT_THAT(outcome.out, HasSubstr(pages + "/index.html: an overview"));
+
+    const auto read = [&](const std::string& name) {
+        std::ifstream file(pages + '/' + name);
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    const ParsedPage overview(read("index.html"));
+    ASSERT_TRUE(overview.isWellFormed());
+    EXPECT_EQ(overview.texts("//tbody/tr").size(), 5u);
+    EXPECT_THAT(overview.texts("//script | //@src | //@onclick"), IsEmpty());
+    const auto links = overview.texts("//tbody//a/@href");
+    ASSERT_EQ(links.size(), 4u);
+    for (const std::string& link : links) {
+        const ParsedPage page(read(link));
+        ASSERT_TRUE(page.isWellFormed()) << link;
+        const std::string row = "//tr[th/a/@href='" + link + "']";
+        EXPECT_THAT(page.text("//section[@id='file']//dd[1]"), overview.text(row + "/th"));
+        EXPECT_THAT(page.text("//section[@id='file']//dd[2]"), HasSubstr(overview.text(row + "/td[2]")));
+    }
+    EXPECT_EQ(overview.text("//tr[th/a/@href='index-2.html']/td[3]"), "none");
+    EXPECT_EQ(overview.text("//tr[1]/td[3]"), "7 errors");
+    EXPECT_EQ(overview.text("//tr[1]/td[4]"), "3 errors");
+    EXPECT_THAT(overview.text("//tr[not(th/a) and td]/td"), HasSubstr("expected an exchange structure"));
+
+    folder.file("taken");
+    withFolder.back() = folder / "taken";
+    EXPECT_EQ(runHost(withFolder).status, BadUsage);
+    EXPECT_EQ(runHost({"report", example("broken.ifc"), "-o", pages}).status, BadUsage);
 }
 
 TEST(HtmlReport, AHostileFileIsTextAndNothingElse) {

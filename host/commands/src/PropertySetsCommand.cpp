@@ -3,9 +3,9 @@
 #include "Commands.h"
 #include "output/SetCatalogueText.h"
 #include "ReleaseName.h"
+#include "ResultFile.h"
 #include "velkor/configuration/PlatformSetup.h"
 #include "velkor/dictionaries/EntityFacts.h"
-#include "velkor/files/OutputFile.h"
 #include "velkor/propertysets/DefinitionSearch.h"
 #include "velkor/propertysets/SetCatalogue.h"
 #include "velkor/propertysets/SetTemplate.h"
@@ -211,19 +211,6 @@ std::string timeStamp() {
     return std::string(text, std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &parts));
 }
 
-bool writeFile(CommandContext& context, const std::string& path, const std::string& text) {
-    auto output = files::OutputFile::create(QORUnicodeString(std::string_view(path)));
-    if (output) {
-        output->write(text);
-        const auto done = output->commit();
-        if (done) return true;
-        context.reportUnreadable(path + ": cannot be written: " + done.error().message);
-    } else {
-        context.reportUnreadable(path + ": cannot be written: " + output.error().message);
-    }
-    return false;
-}
-
 void writeTemplates(CommandContext& context, const Release& release, const SetList& sets, const std::string& path) {
     const bool isStream = path == standardOutput;
     const SetTemplateHeader header{isStream ? std::string() : std::filesystem::path(path).filename().string(),
@@ -232,7 +219,7 @@ void writeTemplates(CommandContext& context, const Release& release, const SetLi
     if (!file) return answerNo(context, "no templates are written: " + file.error());
     if (isStream)
         context.out.unfitted().lines(file->text);
-    else if (!writeFile(context, path, file->text))
+    else if (!writeResultFile(context, path, file->text))
         return;
     if (context.json() && !isStream) {
         Json json = releaseJson(release);

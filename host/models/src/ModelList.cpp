@@ -48,7 +48,10 @@ public:
         _isStreamTaken = true;
     }
 
-    std::vector<ModelInput> take() { return std::move(_list); }
+    std::vector<ModelInput> take() {
+        for (std::size_t i = 0; i < _list.size(); ++i) _list[i].place = i;
+        return std::move(_list);
+    }
 
 private:
     static std::string identity(const fs::path& path) {

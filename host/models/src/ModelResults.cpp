@@ -98,24 +98,25 @@ void ModelResults::add(const ModelInput& input, const ModelProcess& process) {
     forEachPiece(process.err(), 0, [&](const std::string& piece) { _context.err.printed(piece); });
     const std::string fault = process.fault();
     if (!fault.empty()) _context.err << "velkor: " << input.name() << ": " << fault << '\n';
-    if (!hasResult) writeError(input, fault.empty() ? reasonOf(process.err()) : fault);
+    const std::string reason = hasResult ? std::string() : fault.empty() ? reasonOf(process.err()) : fault;
+    if (!hasResult) writeError(input, reason);
     const Json facts = Json::parse(process.facts(), nullptr, false);
-    count(input, status.value_or(Unreadable), status && facts.is_object() ? facts : Json::object());
+    count(input, status.value_or(Unreadable), status && facts.is_object() ? facts : Json::object(), reason);
 }
 
 void ModelResults::add(const ModelInput& input, const std::string& fault) {
     _context.out.flush();
     _context.err << "velkor: " << fault << '\n';
     writeError(input, fault);
-    count(input, Unreadable, Json::object());
+    count(input, Unreadable, Json::object(), fault);
 }
 
-void ModelResults::count(const ModelInput& input, int status, const Json& facts) {
+void ModelResults::count(const ModelInput& input, int status, const Json& facts, const std::string& reason) {
     ++_added;
     ++_counts.at(static_cast<std::size_t>(std::clamp<int>(status, Done, Unreadable)));
     _context.status = std::max(_context.status, status);
     for (std::size_t i = 0; i < _totals.size(); ++i) _totals[i] += facts.value(_work.totals[i].name, std::uint64_t(0));
-    if (_work.take) _work.take(input, status, facts);
+    if (_work.take) _work.take(input, facts, reason);
 }
 
 void ModelResults::begin(const ModelInput& input) {

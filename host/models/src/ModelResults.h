@@ -27,7 +27,7 @@ public:
     void finish(bool isSingle);
 
 private:
-    void count(const ModelInput& input, int status, const Json& facts);
+    void count(const ModelInput& input, int status, const Json& facts, const std::string& reason);
     void begin(const ModelInput& input);
     void writeOutput(const ModelInput& input, const MemoryFile& out);
     void writeError(const ModelInput& input, const std::string& reason);

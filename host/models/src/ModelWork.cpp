@@ -150,6 +150,7 @@ void workOnOne(CommandContext& context, const ModelWork& work, ModelInput input,
     input.jobs = static_cast<unsigned>(jobs);
     Json facts = Json::object();
     work.run(context, input, facts);
+    if (work.take) work.take(input, facts, {});
 }
 
 } // namespace

@@ -1,7 +1,6 @@
-#include "Html.h"
+#include "HtmlPage.h"
 #include "output/ClassificationText.h"
 #include "output/Report.h"
-#include "ReportStyle.h"
 #include "ReportText.h"
 #include "velkor/text/Wording.h"
 
@@ -18,19 +17,6 @@ constexpr std::size_t shownKeywords = 25;
 constexpr std::size_t shownKinds = 100;
 constexpr std::size_t shownNames = 20;
 constexpr std::size_t shownRows = 100;
-
-std::string_view styleClass(Page::Style style) {
-    switch (style) {
-    case Page::Style::Good:
-        return "good";
-    case Page::Style::Doubtful:
-        return "doubtful";
-    case Page::Style::Bad:
-        return "bad";
-    default:
-        return "dim";
-    }
-}
 
 // A section of the page, and what its entry in the navigation says.
 struct Section {
@@ -66,44 +52,6 @@ void writeEntries(const Html& html, const Entries& entries) {
             html << "<dd>" << text << "</dd>\n";
     }
     html << "</dl>\n";
-}
-
-struct Column {
-    std::string_view heading;
-    bool isNumber = false;
-};
-
-// A wide table scrolls by itself, with the keyboard as well.
-void beginTable(const Html& html, std::string_view label, std::initializer_list<Column> columns) {
-    html << "<div class=\"scroll\" role=\"region\" tabindex=\"0\" aria-label=\"" << label
-         << "\">\n<table>\n<thead><tr>";
-    for (const Column& column : columns) {
-        html << "<th scope=\"col\" class=\"" << (column.isNumber ? "number" : "text") << "\">" << column.heading
-             << "</th>";
-    }
-    html << "</tr></thead>\n<tbody>\n";
-}
-
-void endTable(const Html& html) {
-    html << "</tbody>\n</table>\n</div>\n";
-}
-
-void writeRowHeading(const Html& html, const std::string& text) {
-    html << "<tr><th scope=\"row\">" << text << "</th>";
-}
-
-void writeText(const Html& html, const std::string& text) {
-    html << "<td>" << orDash(text) << "</td>";
-}
-
-void writeNumber(const Html& html, const std::string& number) {
-    html << "<td class=\"number\">" << number << "</td>";
-}
-
-// The last cell of a row.
-void writeBar(const Html& html, double part) {
-    html << "<td class=\"bar\" aria-hidden=\"true\"><span style=\"width:" << decimal(part * 100.0, 1)
-         << "%\"></span></td></tr>\n";
 }
 
 void writeRest(const Html& html, std::size_t count, std::string_view singular, std::string_view plural) {
@@ -226,16 +174,6 @@ void writeClassification(const Html& html, const Report& report) {
     writeCommand(html, "Each of them", "classify", report.facts);
 }
 
-// Even a text that slipped through could run nothing and fetch nothing.
-void writeHead(const Html& html, const Report& report) {
-    html << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\"/>\n"
-            "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src 'unsafe-inline'; "
-            "img-src data:\"/>\n"
-            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\"/>\n"
-            "<link rel=\"icon\" href=\"data:,\"/>\n<title>"
-         << fileName(report.facts) << " - model report</title>\n<style>" << reportStyle << "</style>\n</head>\n";
-}
-
 void writeHeader(const Html& html, const Report& report, std::span<const Section> sections) {
     html << "<header>\n<h1>" << fileName(report.facts) << "</h1>\n<p>" << headline(report)
          << "</p>\n</header>\n<nav aria-label=\"Sections\">\n<ul>\n";
@@ -259,8 +197,7 @@ void writeReportHtml(TextSink out, const Report& report) {
         propertySets{"property-sets", "Property sets", propertySetsRemark(report)},
         classification{"classification", "Classification", classificationRemark(report)},
         problems{"problems", "Problems", problemsRemark(report)};
-    writeHead(html, report);
-    html << "<body>\n";
+    beginPage(html, fileName(facts) + " - model report");
     const Section sections[] = {file, project, instances, units, identifiers, propertySets, classification, problems};
     writeHeader(html, report, sections);
     html << "<main>\n";
@@ -292,7 +229,8 @@ void writeReportHtml(TextSink out, const Report& report) {
     beginSection(html, problems);
     writeKinds(html, report.problems, "check", facts);
     endSection(html);
-    html << "</main>\n<footer><p>Written by <code>velkor report --format html</code></p></footer>\n</body>\n</html>\n";
+    html << "</main>\n";
+    endPage(html);
 }
 
 } // namespace velkor::host

@@ -47,6 +47,8 @@ thead .number { white-space: normal; }
 .bar { width: 40%; min-width: 4rem; vertical-align: middle; }
 .bar span { display: block; height: .8rem; min-width: 1px; border-radius: .15rem; background: var(--bar);
   print-color-adjust: exact; -webkit-print-color-adjust: exact; }
+.models .bar { width: 20%; }
+.models thead th { overflow-wrap: normal; }
 .kinds li { margin-top: .6rem; padding-left: .8rem; border-left: .25rem solid currentColor; }
 .kinds p, .kinds code { color: var(--text); }
 .kinds .place { color: var(--dim); }

@@ -22,13 +22,8 @@ std::string joined(std::vector<std::string> texts, std::string_view separator = 
 }
 
 std::string sizeText(std::uint64_t bytes) {
-    constexpr std::array<std::string_view, 4> units{"kB", "MB", "GB", "TB"};
-    std::string exact = text::counted(bytes, "byte", "bytes");
-    if (bytes < 1000) return exact;
-    std::size_t unit = 0;
-    double size = static_cast<double>(bytes) / 1000.0;
-    for (; size >= 999.95 && unit + 1 < units.size(); ++unit) size /= 1000.0;
-    return decimal(size, 1).append(" ").append(units[unit]).append(" (").append(exact).append(")");
+    const std::string size = shortSizeText(bytes);
+    return bytes < 1000 ? size : size + " (" + text::counted(bytes, "byte", "bytes") + ')';
 }
 
 std::string contentText(const ModelFacts& facts) {
@@ -116,6 +111,15 @@ std::uint64_t otherInstances(const ModelFacts& facts, std::size_t shown) {
     std::uint64_t others = 0;
     for (std::size_t i = shown; i < facts.keywords.size(); ++i) others += facts.keywords[i].count;
     return others;
+}
+
+std::string shortSizeText(std::uint64_t bytes) {
+    constexpr std::array<std::string_view, 4> units{"kB", "MB", "GB", "TB"};
+    if (bytes < 1000) return text::counted(bytes, "byte", "bytes");
+    std::size_t unit = 0;
+    double size = static_cast<double>(bytes) / 1000.0;
+    for (; size >= 999.95 && unit + 1 < units.size(); ++unit) size /= 1000.0;
+    return decimal(size, 1).append(" ").append(units[unit]);
 }
 
 std::string decimal(double value, int digits) {

@@ -37,6 +37,9 @@ std::string keywordText(const sdai::Model::KeywordCount& keyword);
 /// Instances of all entities but the first `shown`.
 std::uint64_t otherInstances(const ModelFacts& facts, std::size_t shown);
 
+/// "13.2 kB".
+std::string shortSizeText(std::uint64_t bytes);
+
 /// A number with so many digits behind the point.
 std::string decimal(double value, int digits);
 /// A part of a whole in percent; "0.0 %" of nothing.

@@ -40,6 +40,8 @@ public:
     /// Null after reporting why it cannot be read.
     std::unique_ptr<sdai::Model> openModel(CommandContext& context) const;
 
+    /// Its place among the models, counted from 0.
+    std::size_t place = 0;
     /// Cores that work on it, 0 for all.
     unsigned jobs = 0;
 

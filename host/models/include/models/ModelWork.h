@@ -42,8 +42,9 @@ struct ModelWork {
     bool isFileObject = false;
     /// Says what cannot be done with the models, before any work; may be left out.
     std::function<std::string(const std::vector<ModelInput>&)> fault = {};
-    /// Called with the status and the facts of each model in their order, of several; may be left out.
-    std::function<void(const ModelInput&, int status, const Json& facts)> take = {};
+    /// Called with the facts of each model in their order, and in place of a result of its own what standard error says
+    /// of it; may be left out.
+    std::function<void(const ModelInput&, const Json& facts, const std::string& reason)> take = {};
 };
 
 void workOnModels(CommandContext& context, const ModelArguments& arguments, const ModelWork& work);
