@@ -16,8 +16,9 @@ constexpr std::size_t nameIndex = 0, valueIndex = 2;
 
 const std::string& modelText() {
     static const std::string text = [] {
-        std::string made = "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\nFILE_NAME('','',(''),(''),'','','');\n"
-                           "FILE_SCHEMA(('IFC4'));\nENDSEC;\nDATA;\n";
+        std::string made =
+            "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\nFILE_NAME('','',(''),(''),'','','');\n"
+            "FILE_SCHEMA(('IFC4'));\nENDSEC;\nDATA;\n";
         for (std::size_t i = 1; i <= count; ++i) {
             const std::string number = std::to_string(i);
             made.append("#").append(number).append("=IFCPROPERTYSINGLEVALUE('Name ").append(std::to_string(i % 100));
