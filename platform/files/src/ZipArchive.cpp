@@ -12,6 +12,7 @@
 #include <optional>
 #include <vector>
 #include <zip.h>
+#include <zlib.h>
 
 namespace velkor::files {
 
@@ -37,7 +38,9 @@ struct ZipError {
 
 /// The library's words for an error. Throws std::bad_alloc when it got no memory.
 std::string textOf(zip_error_t* error) {
-    if (zip_error_code_zip(error) == ZIP_ER_MEMORY) throw std::bad_alloc();
+    const int code = zip_error_code_zip(error);
+    if (code == ZIP_ER_MEMORY || (code == ZIP_ER_ZLIB && zip_error_code_system(error) == Z_MEM_ERROR))
+        throw std::bad_alloc();
     return zip_error_strerror(error);
 }
 
