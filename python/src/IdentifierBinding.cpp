@@ -1,4 +1,5 @@
 #include "Bindings.h"
+#include "CheckResult.h"
 #include "Failure.h"
 #include "ProgressCall.h"
 #include "QORIFCExportServices.h"
@@ -54,16 +55,9 @@ py::str given(const tl::expected<std::string, std::string>& text) {
 
 void declareIdentifiers(py::module_& module, ModelClass& model) {
     using Check = guid::GuidCheck;
-    py::class_<Check>(module, "IdentifierCheck", "What a check of identifiers found.")
-        .def_readonly("count", &Check::count, "Instances that have a GlobalId and were looked at.")
-        .def_property_readonly(
-            "findings", [](const Check& self) { return self.result.problems; },
-            "In file order, no more than the limit.")
-        .def_property_readonly(
-            "total", [](const Check& self) { return self.result.total; }, "Their full count.")
-        .def_property_readonly(
-            "is_complete", [](const Check& self) { return self.result.isComplete; },
-            "False when the progress callback has ended the check.");
+    py::class_<Check> check(module, "IdentifierCheck", "What a check of identifiers found.");
+    declareResult(check);
+    check.def_readonly("count", &Check::count, "Instances that have a GlobalId and were looked at.");
     model.def("check_identifiers", &checkIdentifiers, py::arg("limit") = defaultLimit, py::arg("progress") = py::none(),
               "Whether every GlobalId is well-formed and used once.\n"
               "limit  -- findings that are listed at most; all are counted\n"

@@ -1,4 +1,5 @@
 #include "Bindings.h"
+#include "CheckResult.h"
 #include "Failure.h"
 #include "ProgressCall.h"
 #include "ServiceSetup.h"
@@ -203,18 +204,11 @@ void declareFindings(py::module_& module) {
         .def_property_readonly(
             "nearest", [](const SetFinding& self) { return textOrNone(self.nearest); },
             "The name that was probably meant, or None.");
-    py::class_<Check>(module, "CheckResult", "What a check found.")
-        .def_property_readonly(
-            "release", [](const Check& self) { return textOrNone(self.release); },
-            "The dictionary that was judged by; None when none was.")
-        .def_property_readonly(
-            "findings", [](const Check& self) { return self.result.problems; },
-            "In file order, no more than the limit.")
-        .def_property_readonly(
-            "total", [](const Check& self) { return self.result.total; }, "Their full count.")
-        .def_property_readonly(
-            "is_complete", [](const Check& self) { return self.result.isComplete; },
-            "False when the progress callback has ended the check.");
+    py::class_<Check> check(module, "CheckResult", "What a check found.");
+    declareResult(check);
+    check.def_property_readonly(
+        "release", [](const Check& self) { return textOrNone(self.release); },
+        "The dictionary that was judged by; None when none was.");
     py::class_<PropertySetCheck>(module, "Validation", "Property sets and quantity sets against their definitions.")
         .def_property_readonly(
             "defined_by", [](const PropertySetCheck& self) { return toText(self.definedBy); },
