@@ -42,6 +42,8 @@ th:first-child, td:first-child { padding-left: 0; }
 thead th { color: var(--dim); font-weight: 600; }
 tbody th { font-weight: 400; min-width: 9rem; }
 td { min-width: 7rem; }
+/* A word of the overview is as wide as it is. */
+.models td:not([colspan]) { overflow-wrap: break-word; }
 .number { min-width: 0; text-align: right; white-space: nowrap; }
 thead .number { white-space: normal; }
 .bar { width: 40%; min-width: 4rem; vertical-align: middle; }
