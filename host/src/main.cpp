@@ -45,9 +45,9 @@ int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
 
     const bool capable = QORGetEnv(terminalVariable).utf8() != "dumb";
-    const auto columns = QORGetEnv(columnsVariable).utf8();
-    LineFitter outLines(std::cout, terminalWidth(STDOUT_FILENO, columns));
-    LineFitter errLines(std::cerr, terminalWidth(STDERR_FILENO, columns));
+    const QORUnicodeString columns = QORGetEnv(columnsVariable);
+    LineFitter outLines(std::cout, terminalWidth(STDOUT_FILENO, columns.utf8()));
+    LineFitter errLines(std::cerr, terminalWidth(STDERR_FILENO, columns.utf8()));
     CommandContext context{isatty(STDOUT_FILENO) != 0 ? TextSink(std::cout, outLines) : TextSink(std::cout),
                            isatty(STDERR_FILENO) != 0 ? TextSink(std::cerr, errLines) : TextSink(std::cerr)};
     context.in = &std::cin;

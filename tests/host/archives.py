@@ -10,6 +10,7 @@ and within little memory.
 
 import gzip
 import io
+import json
 import os
 import pathlib
 import re
@@ -24,6 +25,9 @@ TEXT = pathlib.Path(SOURCE).read_bytes()
 MEBIBYTE = 1 << 20
 LARGEST_RESULT = 64 * MEBIBYTE  # that a small archive may have
 NOTHING_MUCH = 16 * MEBIBYTE  # of memory, where nothing is to be unpacked
+# With sanitizers memory says nothing: what is freed is kept for a while.
+VERSION = subprocess.run([PROGRAM, '--version', '--format', 'json'], capture_output=True, check=True).stdout
+SANITIZED = json.loads(VERSION)['build']['sanitizers'] != ''
 
 COMMANDS = [['report'], ['report', '--format', 'json'], ['check', '--format', 'json'], ['check', '--syntax'],
             ['validate', '--format', 'json'], ['classify', '--format', 'json'], ['classify', '--format', 'csv'],
@@ -161,7 +165,7 @@ def refuses():
             expect(status == 3 and out == '' and err.count('\n') == 1 and err.startswith('velkor: refused: ')
                    and reason in err, f'{words}, {name}: {status} {out} {err}')
             most = least + NOTHING_MUCH + (3 * LARGEST_RESULT if name == 'gzip bomb' else 0)
-            expect(memory < most, f'{words}, {name}: took {memory >> 20} MiB, {least >> 20} MiB are usual')
+            expect(memory < most or SANITIZED, f'{words}, {name}: took {memory >> 20} MiB, {least >> 20} MiB are usual')
 
 
 def writes_what_others_read():
