@@ -211,11 +211,6 @@ std::span<const std::uint32_t> RoleIndex::users(std::uint16_t role, std::uint32_
     return held != noRole ? _roles[held].usersOf(number) : std::span<const std::uint32_t>();
 }
 
-std::span<const std::uint32_t> RoleIndex::users(TextId entity, TextId attribute, std::uint32_t number) const noexcept {
-    const std::uint16_t held = roleOf(entity, attribute);
-    return held != noRole ? _roles[held].usersOf(number) : std::span<const std::uint32_t>();
-}
-
 std::optional<std::span<const std::uint32_t>> RoleIndex::users(std::string_view role,
                                                                std::uint32_t number) const noexcept {
     const auto name = roleName(role);

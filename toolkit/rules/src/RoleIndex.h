@@ -22,8 +22,6 @@ public:
     /// Numbers of the instances that refer to instance `number` by the attribute that `role`, a position in the tables'
     /// inverseAttributes, is the inverse of. In file order; one that refers twice stands twice.
     std::span<const std::uint32_t> users(std::uint16_t role, std::uint32_t number) const noexcept;
-    /// The same for any entity and attribute, for USEDIN; empty for what is no role.
-    std::span<const std::uint32_t> users(TextId entity, TextId attribute, std::uint32_t number) const noexcept;
     /// The same for a role as USEDIN has it, 'ENTITY.ATTRIBUTE'; nothing for what no code asks for.
     std::optional<std::span<const std::uint32_t>> users(std::string_view role, std::uint32_t number) const noexcept;
 
