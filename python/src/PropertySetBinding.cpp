@@ -40,7 +40,7 @@ SetDefinition show(const Catalogue& self, const std::string& name) {
         throw Failure("set-unreadable", reason, {.path = self.sets->path(name)});
     std::string message = self.sets->release();
     message.append(" defines no set '").append(name).append("'");
-    if (const std::string_view likely = self.sets->likelyName(name); !likely.empty())
+    if (const std::string likely = self.sets->likelyName(name); !likely.empty())
         message.append("; probably meant: ").append(likely);
     throw Failure("set-unknown", message);
 }
